@@ -1,0 +1,66 @@
+// Splits a text into tokens, in place, in a buffer that the caller owns.
+#ifndef TALUX_STRINGTOKENIZER_H
+#define TALUX_STRINGTOKENIZER_H
+
+#include "ParamSystem/TALUX_Types.h"
+
+/*
+ * Tokens are pointers into the caller's buffer, each ended by a NUL written over its delimiter. They stay
+ * valid until the next accepted SetString on the same buffer. A NUL in the buffer delimits under every
+ * set, so the set may be changed between two tokens. Nothing is allocated; one object serves one thread.
+ */
+class TALUX_API StringTokenizer {
+public:
+    // Bytes that a buffer must have when its size is not told.
+    static constexpr UINT kDefaultBufferSize = 255;
+    // Longest delimiter set.
+    static constexpr UINT kMaxDelimiters = 199;
+
+    StringTokenizer();
+
+    // Sets the buffer for the working copy: at least kDefaultBufferSize bytes, owned by the caller, which
+    // must outlive the tokens. Needed before the first SetString; changes nothing else.
+    void SetBuffer(char* buf);
+
+    // The same for a buffer of `size` bytes (at most 65535 are used).
+    void SetBuffer(char* buf, UINT size);
+
+    /*
+     * Starts on a copy of `str`, split at any character of `delim`. With `returnTokens` each delimiter is
+     * a token of its own, which lies outside the buffer and must not be written to. Refused, leaving the old
+     * string, position and set in force: no buffer, `str` null or empty, `str` longer than the buffer holds,
+     * `delim` longer than kMaxDelimiters.
+     */
+    void SetString(char* str, const char* delim, BOOL returnTokens);
+
+    // True when another token follows; skips delimiters in front of it.
+    BOOL hasMoreTokens();
+
+    // The next token, or null when none is left.
+    char* nextToken();
+
+    // Changes the set for this call and all later ones, then works as nextToken(). A set longer than
+    // kMaxDelimiters is cut.
+    char* nextToken(const char* delim);
+
+    // How many tokens nextToken() would still return; moves nothing.
+    UINT countTokens();
+
+protected:
+    UINT currentPosition; // next character to examine
+    UINT maxPosition;     // length of the string in the buffer
+    char* buffer;
+    char delimiters[kMaxDelimiters + 1];
+    BOOL retTokens;
+
+private:
+    // These lie in the padding behind retTokens.
+    char endedBy; // with retTokens: the delimiter under the NUL that ended the last token
+    unsigned short bufferSize;
+
+    bool isDelimiter(char c) const;
+    void skipDelimiters();
+    char* takeDelimiter();
+};
+
+#endif

@@ -1,0 +1,122 @@
+// The parameter dictionary: property records, their look-ups, symbols and the layouts of the records.
+#ifndef TALUX_PARAMS_H
+#define TALUX_PARAMS_H
+
+#include "ParamSystem/TALUX_Types.h"
+
+// Type codes of parameters, and of the values on the stack of the command language.
+enum ParamType : int {
+    kTypeNone = 0, // sentinels and dialog templates, no value
+    kTypeDouble = 2002,
+    kTypeFloat = 2003,
+    kTypeLong = 2004,
+    kTypeInt = 2008,
+    kTypeBool = 2010,
+    kTypeText = 2011,
+    kTypeEnum = 2012, // choice number, counted from 1
+    kTypeDate = 2013,
+    kTypeTime = 2014,
+    kTypeSysDate = 2015, // date of the system clock
+    kTypeSysTime = 2016, // time of the system clock
+    kTypeId = 2017,
+    kTypeIp = 2018,
+    kTypeIpAddress = 2019, // address of an interface; writing it applies the network settings
+    kTypeIpMask = 2020,
+    kTypeIpGateway = 2021,
+    kTypeStruct = 2022,
+    kTypeCommand = 2024, // trigger for the device's other programs, not stored
+};
+
+enum ParamAccess : int { kAccessNone = 0, kReadOnly = 1, kWriteOnly = 2, kReadWrite = 3 };
+
+// Stand for "no limit" in val_min and val_max.
+inline constexpr double kNoMin = -999999999.0;
+inline constexpr double kNoMax = 999999999.0;
+
+// One parameter, or one element of an indexed parameter.
+struct stParamProperties {
+    int id;                    // its block decides kind and slot in the store; 0 only in sentinels
+    const char* name;          // same for all elements of an indexed parameter; empty for templates
+    int id_template;           // 0 or the template whose texts the parameter shares
+    int type;                  // ParamType
+    int val_access;            // ParamAccess
+    int is_volatile;           // 1 run-time value, global space only; 0 persistent setting
+    const char* format;        // printf-style display format, or empty
+    const char* val_init_text; // initial value of text-like types
+    double val_init;           // initial value of numeric types
+    const char* val_def_text;  // factory default of text-like types
+    double val_def;            // factory default of numeric types
+    int val_len;               // longest text in characters, -1 where it does not apply
+    double val_min;            // smallest and largest value that a write may set, both inclusive
+    double val_max;
+    int val_min_id; // first and last index of an indexed parameter; both 0 for a scalar
+    int val_max_id;
+    double val_step; // edit step of the device's editor
+    int userlevel;   // rights needed to write: 1, 2 or 3 (security parameters)
+};
+
+// A symbolic name and the id that it stands for.
+struct stParamSymbol {
+    int value;
+    const char* name;
+};
+
+// Parameter rows between the two sentinels, and rows of the working table.
+inline constexpr int kParamCount = 2416;
+inline constexpr int kParamTableRows = kParamCount + 2 + 98;
+
+// The compiled-in table: sentinels with id 0 and name "***" first and last, the parameters between them
+// in menu order.
+extern TALUX_API const stParamProperties DefParamProperties[kParamCount + 2];
+
+// "VAR_" and "CMD_" names; the first and the last row are named "***".
+extern TALUX_API const stParamSymbol DefParamSymbols[];
+
+/*
+ * Fills the working table from DefParamProperties. Returns 1. Called once at start-up, before any look-up
+ * and any second thread; the look-ups are then thread-safe, and the rows that they hand out stay valid
+ * for the life of the process.
+ */
+TALUX_API int LoadDefParamProperties();
+
+// Reserved for loading properties from a file: does nothing, returns 1.
+TALUX_API int LoadParamProperties(char* sourcefile);
+
+// The first row in table order with this id, or null. Aborts on a negative id.
+TALUX_API const stParamProperties* GetParamProperties(int id);
+
+// The row at a table position: 0 the opening sentinel, 1..kParamCount the parameters, null behind them.
+// Aborts on a negative position.
+TALUX_API const stParamProperties* GetParamPropertiesByOrder(int id);
+
+// The first row in table order with this name, letter case ignored, or null. For an indexed parameter
+// this is its first element; element k has the id of that row plus k - 1.
+TALUX_API const stParamProperties* GetParamPropertiesByName(char* name);
+
+// Looks a VAR_ or CMD_ name up, letter case ignored. Returns 1 and stores the id in *lvalue, or returns 0
+// and leaves it alone.
+TALUX_API int ResolveParamSymbol(char* name, VarLong* lvalue);
+
+// One member of a structured record.
+struct STRUCT_StructMemberProperties {
+    VarLong lMemberOffset;     // bytes from the start of the record
+    int iMemberBitsize;        // size in bits
+    const char* szMemberType;  // "long" or "float"
+    const char* aszMemberName; // as printed in dumps
+};
+using StructMemberProperties_t = STRUCT_StructMemberProperties;
+
+inline constexpr int kRecordCount = 3;
+inline constexpr int kRecordMemberCount = 147;
+inline constexpr int kLargestRecord = 236;   // bytes
+inline constexpr int kStructSpaceSize = 588; // bytes
+
+// The records, indexed by id - 30000: place and size in the struct segment in bytes, first descriptor and
+// number of members.
+extern TALUX_API const VarLong ARR_StructOffset[kRecordCount];
+extern TALUX_API const VarLong ARR_StructSize[kRecordCount];
+extern TALUX_API const VarLong ARR_MemberOffset[kRecordCount];
+extern TALUX_API const VarLong ARR_MemberCount[kRecordCount];
+extern TALUX_API const StructMemberProperties_t ARR_StructMemberProperties[kRecordMemberCount];
+
+#endif

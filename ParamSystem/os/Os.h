@@ -1,0 +1,33 @@
+// The one door to the operating system: shell, pipe, clock, system log. Nothing else calls them.
+#ifndef TALUX_OS_OS_H
+#define TALUX_OS_OS_H
+
+#include <cstddef>
+#include <cstdio>
+#include <ctime>
+
+namespace talux::os {
+
+// Runs a command in the shell and waits for it; its result is not examined.
+void runShell(const char* command);
+
+// A command whose standard output can be read; null when it cannot be started.
+FILE* openPipe(const char* command);
+void closePipe(FILE* pipe);
+
+// The local time now. On failure `now` is all zero and the result false.
+bool localTime(std::tm& now);
+
+// Sets the system clock; its result is not examined.
+void setClock(std::time_t seconds);
+
+// System log, priorities informational and error, each with the told format of two texts or one.
+[[gnu::format(printf, 1, 2)]] void logInfo(const char* format, ...);
+[[gnu::format(printf, 1, 2)]] void logError(const char* format, ...);
+
+// The kernel's machine name; empty when it cannot be found out.
+void machineName(char* name, std::size_t size);
+
+} // namespace talux::os
+
+#endif

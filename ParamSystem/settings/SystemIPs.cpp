@@ -1,0 +1,5 @@
+#include "ParamSystem/TALUX_Var.h"
+
+int VarSetSystemIPs() {
+    return 1;
+}
