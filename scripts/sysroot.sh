@@ -1,0 +1,47 @@
+#!/bin/sh
+# Unpacks what an ARM program of ours needs to run (Lua 5.2, the C and C++ libraries) into a folder of its
+# own. Nothing is installed, the packages and architectures of this machine stay as they are; no rights needed.
+#
+#   sysroot.sh armhf|armel DIR
+set -eu
+
+[ "$#" = 2 ] || { echo "usage: sysroot.sh armhf|armel DIR" >&2; exit 2; }
+architecture=$1
+packages='libc6 libgcc-s1 libstdc++6 liblua5.2-0 liblua5.2-dev libreadline8 libtinfo6 lua5.2'
+
+mkdir -p "$2"
+sysroot=$(cd "$2" && pwd)
+[ "$(cat "$sysroot/.packages" 2>/dev/null)" != "$packages" ] || exit 0
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+mkdir -p "$work/lists/partial" "$work/cache/archives/partial"
+: >"$work/status"
+cat >"$work/apt.conf" <<END
+APT::Architecture "$architecture";
+APT::Architectures { "$architecture"; };
+APT::Sandbox::User "";
+APT::Update::Post-Invoke-Success "";
+#clear APT::Update::Post-Invoke;
+#clear APT::Update::Post-Invoke-Success;
+Acquire::Languages "none";
+Acquire::Retries "3";
+Dir::State "$work";
+Dir::State::status "$work/status";
+Dir::State::lists "$work/lists";
+Dir::Cache "$work/cache";
+Dir::Log "$work";
+END
+export APT_CONFIG="$work/apt.conf"
+
+# A source that cannot be read is no loss as long as the packages come.
+apt-get -qq update 2>"$work/update.log" || true
+(cd "$work" && apt-get -qq download $packages) || {
+  cat "$work/update.log" >&2
+  exit 1
+}
+for package in "$work"/*.deb; do
+  dpkg-deb -x "$package" "$sysroot"
+done
+rm -rf "$sysroot/etc" "$sysroot/usr/share" "$sysroot"/usr/lib/*/gconv
+printf '%s\n' "$packages" >"$sysroot/.packages"
