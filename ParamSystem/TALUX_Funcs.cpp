@@ -1,5 +1,6 @@
 #include "ParamSystem/TALUX_Funcs.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstdlib>
@@ -11,14 +12,6 @@
 namespace {
 
 constexpr std::size_t kMaxText = 49;
-
-// Clamps to the 32 bits of the interface where the C library's `long` is wider.
-template <typename Target, typename Source>
-Target clamped(Source value) {
-    if (value > std::numeric_limits<Target>::max()) return std::numeric_limits<Target>::max();
-    if (value < std::numeric_limits<Target>::min()) return std::numeric_limits<Target>::min();
-    return static_cast<Target>(value);
-}
 
 // The one procedure of the four parsers; `convert` is the C library's conversion of a whole word.
 template <typename Value, typename Convert>
@@ -39,13 +32,20 @@ int parseNumber(const char* text, Value* value, Convert convert) {
     return -2;
 }
 
+// The conversions work on 64 bits everywhere, so that every platform clamps to 32 bits alike.
 template <int base>
 VarLong toLong(const char* word, char** end) {
-    return clamped<VarLong>(std::strtol(word, end, base));
+    using Limits = std::numeric_limits<VarLong>;
+    return static_cast<VarLong>(
+        std::clamp<long long>(std::strtoll(word, end, base), Limits::min(), Limits::max()));
 }
 
+// A minus sign negates within 32 bits: -1 is the largest value.
 VarULong toULong(const char* word, char** end) {
-    return clamped<VarULong>(std::strtoul(word, end, 10));
+    constexpr unsigned long long kMax = std::numeric_limits<VarULong>::max();
+    const unsigned long long value = std::strtoull(word, end, 10);
+    const unsigned long long magnitude = std::strchr(word, '-') != nullptr ? 0 - value : value;
+    return static_cast<VarULong>(magnitude > kMax ? kMax : value);
 }
 
 double toDouble(const char* word, char** end) {
