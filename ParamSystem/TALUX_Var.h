@@ -2,6 +2,9 @@
 #ifndef TALUX_VAR_H
 #define TALUX_VAR_H
 
+#include <cstddef>
+#include <type_traits>
+
 #include "ParamSystem/TALUX_Params.h"
 #include "ParamSystem/TALUX_Types.h"
 
@@ -37,7 +40,8 @@ inline constexpr int kFirstStruct = 30000, kStructCount = kRecordCount;
 inline constexpr int kTextSize = 128, kDateSize = 15, kTimeSize = 10, kIdSize = 20, kIpSize = 20;
 
 // One value space. The layout is shared with the device's other programs: packed, little-endian, the
-// 16-bit enums at odd offsets. Use the accessors; a member's address may not be aligned.
+// 16-bit enums at odd offsets. Use the accessors; a member's address may not be aligned. The empty date and
+// time blocks have no member; they would stand before SysDateData.
 #pragma pack(push, 1)
 struct stVarSpace {
     float FloatData[kFloatCount];
@@ -54,6 +58,14 @@ struct stVarSpace {
 };
 #pragma pack(pop)
 
+static_assert(std::is_standard_layout_v<stVarSpace> && sizeof(stVarSpace) == 19500);
+static_assert(offsetof(stVarSpace, FloatData) == 0 && offsetof(stVarSpace, DoubleData) == 1248);
+static_assert(offsetof(stVarSpace, LongData) == 4320 && offsetof(stVarSpace, IntData) == 9396);
+static_assert(offsetof(stVarSpace, BoolData) == 9410 && offsetof(stVarSpace, TextData) == 9601);
+static_assert(offsetof(stVarSpace, EnumData) == 18433 && offsetof(stVarSpace, SysDateData) == 18695);
+static_assert(offsetof(stVarSpace, SysTimeData) == 18710 && offsetof(stVarSpace, IdData) == 18720);
+static_assert(offsetof(stVarSpace, IpData) == 18740);
+
 // Keys of the segments.
 inline constexpr int kStructSpaceKey = 5675, kGlobalSpaceKey = 5678, kTempSpaceKey = 5679;
 
@@ -65,11 +77,18 @@ extern TALUX_API void* pVarStruct;
 // Directory of the parameter files, without a trailing slash; set by VarInit.
 extern TALUX_API char szParameterPath[256];
 
+// 0 while VarInit attaches the segments, 1 afterwards.
+extern TALUX_API int fSave;
+
+// 1 once the locks of this process exist.
+extern TALUX_API int mutex_init;
+
 // ---- Start-up and clean-up ----------------------------------------------------------------------------
 
 // Sets the directory of the parameter files (its first 255 characters count), creates the locks once and
 // attaches the segments, creating them zero-filled when no program has yet. Call before anything else
 // here and before a second thread. A failure prints the system error and ends the process with status 1.
+// A second call attaches the segments again and sets the directory anew.
 TALUX_API void VarInit(char* inipath);
 
 // What VarInit does besides the path.
@@ -181,8 +200,8 @@ TALUX_API void VarGetGlobalIpValue(int id, char* val);
 
 /*
  * Copy `aCount` values of the ids id, id + 1, .. in one piece under one lock. A run that ends past the
- * block, or a count of 0, does nothing. An id of another kind aborts in the readers except those of long;
- * in all others it does nothing.
+ * block, or a count of 0, does nothing. An id of another kind aborts in the readers, as for the single
+ * values; in the writers it does nothing.
  */
 TALUX_API void VarSetFloatValueArray(int id, float* pSrc, unsigned long aCount);
 TALUX_API void VarSetGlobalFloatValueArray(int id, float* pSrc, unsigned long aCount);

@@ -1,0 +1,98 @@
+// Values of any kind through one pointer: a double for numbers, a character buffer for texts.
+#include <cstdint>
+#include <limits>
+
+#include "ParamSystem/store/Slots.h"
+
+namespace {
+
+using talux::Kind;
+using talux::Space;
+
+template <Kind... kinds>
+struct KindList {};
+
+// The order decides for the ids that are both int and long: the long value is read last.
+using ReadOrder =
+    KindList<Kind::Enum, Kind::Text, Kind::Bool, Kind::Int, Kind::Long, Kind::Float, Kind::Double, Kind::Date,
+             Kind::Time, Kind::SysDate, Kind::SysTime, Kind::Id, Kind::Ip>;
+using WriteOrder =
+    KindList<Kind::Enum, Kind::Text, Kind::Bool, Kind::Int, Kind::Long, Kind::Float, Kind::Double, Kind::Date,
+             Kind::Time, Kind::SysDate, Kind::SysTime, Kind::Ip, Kind::Id>;
+
+// Truncates toward zero; what does not fit becomes the nearest limit, not-a-number becomes 0.
+template <typename Integer>
+Integer truncated(double value) {
+    using Limits = std::numeric_limits<Integer>;
+    if (value >= static_cast<double>(Limits::max())) return Limits::max();
+    if (value <= static_cast<double>(Limits::min())) return Limits::min();
+    return value == value ? static_cast<Integer>(value) : Integer{0};
+}
+
+template <Kind kind>
+double toDouble(talux::Number<kind> number) {
+    if constexpr (kind == Kind::Bool)
+        return static_cast<std::uint8_t>(number);
+    else
+        return static_cast<double>(number);
+}
+
+// Integers pass through 32 bits, of which the narrow kinds keep the low ones. A number too large for a
+// float becomes infinite (IEEE 754).
+template <Kind kind>
+talux::Number<kind> fromDouble(double value) {
+    using Number = talux::Number<kind>;
+    if constexpr (kind == Kind::Float || kind == Kind::Double)
+        return static_cast<Number>(value);
+    else if constexpr (kind == Kind::Bool)
+        return static_cast<Number>(truncated<std::uint32_t>(value));
+    else
+        return static_cast<Number>(truncated<std::int32_t>(value));
+}
+static_assert(std::numeric_limits<float>::is_iec559 && std::numeric_limits<double>::is_iec559);
+
+template <Kind kind, Space space>
+void readKind(int id, double* pVal) {
+    if (!talux::holds(kind, id)) return;
+    if constexpr (talux::isTextKind(kind))
+        talux::getText<kind, space>(id, reinterpret_cast<char*>(pVal));
+    else
+        *pVal = toDouble<kind>(talux::getNumber<kind, space>(id));
+}
+
+template <Kind kind, Space space>
+void writeKind(int id, const double* pVal) {
+    if (!talux::holds(kind, id)) return;
+    if constexpr (talux::isTextKind(kind))
+        talux::putText<kind, space>(id, reinterpret_cast<const char*>(pVal));
+    else
+        talux::putNumber<kind, space>(id, fromDouble<kind>(*pVal));
+}
+
+template <Space space, Kind... kinds>
+void readAny(int id, double* pVal, KindList<kinds...> /*order*/) {
+    (readKind<kinds, space>(id, pVal), ...);
+}
+
+template <Space space, Kind... kinds>
+void writeAny(int id, const double* pVal, KindList<kinds...> /*order*/) {
+    (writeKind<kinds, space>(id, pVal), ...);
+}
+
+} // namespace
+
+void VarGetValue(int id, double* pVal) {
+    readAny<Space::temp>(id, pVal, ReadOrder{});
+}
+
+void VarGetGlobalValue(int id, double* pVal) {
+    readAny<Space::global>(id, pVal, ReadOrder{});
+}
+
+void VarSetValue(int id, double* pVal) {
+    writeAny<Space::temp>(id, pVal, WriteOrder{});
+}
+
+void VarSetGlobalValue(int id, double* pVal) {
+    writeAny<Space::global>(id, pVal, WriteOrder{});
+}

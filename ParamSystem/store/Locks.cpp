@@ -1,0 +1,52 @@
+#include "ParamSystem/store/Locks.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+
+namespace talux {
+
+constinit pthread_mutex_t globalLocks[kGlobalLockCount] = {};
+constinit pthread_mutex_t tempLocks[kTempLockCount] = {};
+
+void setUpFailed(const char* what) {
+    std::perror(what);
+    std::exit(1); // NOLINT(concurrency-mt-unsafe): start-up, before any second thread
+}
+
+namespace {
+
+// The thread functions return the error instead of setting errno.
+void require(int error, const char* what) {
+    if (error == 0) return;
+    errno = error;
+    setUpFailed(what);
+}
+
+int makePriorityInheriting(pthread_mutexattr_t& attributes) {
+    const int error = pthread_mutexattr_init(&attributes);
+    return error != 0 ? error : pthread_mutexattr_setprotocol(&attributes, PTHREAD_PRIO_INHERIT);
+}
+
+// Tries every lock of the group; the first error, or 0.
+template <std::size_t count>
+int initialise(pthread_mutex_t (&group)[count], const pthread_mutexattr_t& attributes) {
+    int firstError = 0;
+    for (pthread_mutex_t& lock : group) {
+        const int error = pthread_mutex_init(&lock, &attributes);
+        if (firstError == 0) firstError = error;
+    }
+    return firstError;
+}
+
+} // namespace
+
+void createLocks() {
+    pthread_mutexattr_t attributes;
+    require(makePriorityInheriting(attributes), "pthread_mutexattr_xxx");
+    require(initialise(globalLocks, attributes), "pthread_mutex_init (GlobalData)");
+    require(initialise(tempLocks, attributes), "pthread_mutex_init (TempData)");
+    require(pthread_mutexattr_destroy(&attributes), "pthread_mutexattr_destroy");
+}
+
+} // namespace talux
