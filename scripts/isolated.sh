@@ -1,42 +1,157 @@
-#!/bin/sh
+#!/bin/bash
 # Runs a command in an isolated device root: private shared memory, network, processes and host name, a
-# file system of its own, no right to set the clock.
+# file system of its own, no right to set the clock. Its exit status is the command's.
 #
-#   isolated.sh [--root DIR] [--module DIR] -- COMMAND [ARGUMENT..]
+#   isolated.sh [--root DIR] [--module DIR] [--read PATH].. -- COMMAND [ARGUMENT..]
 #
-# --root DIR    the directory that becomes /, kept afterwards; else a temporary one
+# --root DIR    the directory that becomes /, made when absent and kept afterwards; else a temporary one
 # --module DIR  where Lua finds the module
+# --read PATH   also readable inside, at its own path; /usr and the project always are
+#
+# The command finds in TALUX_ISOLATION how far it is from the machine:
+#   full  all of the above
+#   user  the same, started without root: files have one owner and one group, chown to others fails
+#   none  namespaces are refused (a container without privileges). The command runs on the container itself,
+#         as the only one at a time, and only if nothing there is the device's: no segment with its keys, no
+#         parameter file. Afterwards what it made is removed. Network, clock and /dev/log are the
+#         container's: a test that would touch them skips itself and says why.
+# shellcheck disable=SC2317  # the clean-up runs from the trap
 set -eu
+shopt -s nullglob
 
-root=''
-module=''
+fail() { echo "isolated.sh: $*" >&2; exit 2; }
+
+root='' module='' reads=()
 while [ "$#" -gt 0 ]; do
   case $1 in
     --root) root=$2; shift 2 ;;
-    --module) module=$2; shift 2 ;;
+    --module) module=$2; reads+=("$2"); shift 2 ;;
+    --read) reads+=("$2"); shift 2 ;;
     --) shift; break ;;
-    *) echo "isolated.sh: unknown option '$1'" >&2; exit 2 ;;
+    *) fail "unknown option '$1'" ;;
   esac
 done
-project=$(cd "$(dirname "$0")/.." && pwd)
+[ "$#" -gt 0 ] || fail 'no command'
+project=$(cd "$(dirname "$0")/.." && pwd -P)
+PATH=$PATH:/usr/sbin:/sbin
+command -v bwrap >/dev/null || fail 'bwrap is missing: install the package bubblewrap'
 
-cleanup() { [ -z "${temporary-}" ] || rm -rf "$temporary"; }
-if [ -z "$root" ]; then
-  temporary=$(mktemp -d)
-  trap cleanup EXIT
-  root=$temporary
-fi
-mkdir -p "$root/etc" "$root/tmp" "$root/var" "$root/proc" "$root/dev"
-for link in bin sbin lib lib64; do
-  [ -e "$root/$link" ] || [ -L "$root/$link" ] || ln -s "usr/$link" "$root/$link"
+temporary=''
+[ -n "$root" ] || temporary=$(mktemp -d)
+root=${root:-$temporary}
+mkdir -p "$root"
+root=$(cd "$root" && pwd -P)
+exec 8<"$root"
+flock -n 8 || fail "$root is in use by another run"
+
+# ---- with namespaces ----
+
+arguments=(--bind "$root" / --ro-bind /usr /usr --proc /proc --dev /dev
+  --unshare-ipc --unshare-net --unshare-pid --unshare-uts --die-with-parent --hostname talux
+  --chdir / --cap-drop ALL)
+for capability in CHOWN DAC_OVERRIDE FOWNER FSETID KILL SETUID SETGID NET_ADMIN NET_RAW NET_BIND_SERVICE; do
+  arguments+=(--cap-add "CAP_$capability")
+done
+for path in "$project" "${reads[@]}"; do
+  path=$(realpath "$path")
+  arguments+=(--ro-bind "$path" "$path")
 done
 
-set -- --bind "$root" / --ro-bind /usr /usr --proc /proc --dev /dev \
-  --ro-bind "$project" "$project" --chdir / \
-  --unshare-ipc --unshare-net --unshare-pid --unshare-uts --die-with-parent \
-  --cap-add CAP_NET_ADMIN --cap-drop CAP_SYS_TIME \
-  --setenv PATH /usr/sbin:/usr/bin:/sbin:/bin --setenv LUA_CPATH "$module/?.so" "$@"
-[ "$(id -u)" = 0 ] || set -- --unshare-user --uid 0 --gid 0 "$@"
+lay_root() {
+  chmod 755 "$root"
+  mkdir -p "$root"/{etc,tmp,var,proc,dev,usr}
+  for link in bin sbin lib lib64; do
+    [ -e "$root/$link" ] || [ -L "$root/$link" ] || ln -s "usr/$link" "$root/$link"
+  done
+}
+
+# The places where the project and others showed up are empty directories afterwards.
+remove_mount_points() {
+  local path
+  for path in "$project" "${reads[@]}"; do
+    (cd "$root" && rmdir -p ".$(realpath "$path")" 2>/dev/null) || true
+  done
+}
+
+# Finds out how much isolation there is to be had: full, user or none.
+find_isolation() {
+  if [ "$(id -u)" = 0 ] && bwrap "${arguments[@]}" /usr/bin/true 2>/dev/null; then
+    echo full
+  elif bwrap "${arguments[@]}" --unshare-user --uid 0 --gid 0 /usr/bin/true 2>/dev/null; then
+    echo user
+  else
+    echo none
+  fi
+}
+
+# ---- without ----
+
+keys=(5675 5678 5679)
+parameter_files() {
+  echo "$1"/{parameter,sec_parameter,ip_config,def_ip_config}.ini "$1"/{param,sec_param}_*.ini
+}
+present() { local path; for path in $(parameter_files "$1"); do [ ! -e "$path" ] || echo "$path"; done; }
+
+segments() {
+  local key
+  for key in "${keys[@]}"; do
+    ! grep -q "^ *$key " /proc/sysvipc/shm || echo "segment $key"
+  done
+}
+
+remove_what_was_made() {
+  local key path files
+  for key in "${keys[@]}"; do ipcrm -M "$key" 2>/dev/null || true; done
+  mapfile -t files < <(present '')
+  [ "${#files[@]}" = 0 ] || mv -f "${files[@]}" "$root"
+  for path in /etc/localtime /etc/resolv.conf; do
+    if [ ! -e "$kept$path" ] && [ ! -L "$kept$path" ]; then rm -f "$path"
+    elif ! cmp -s "$kept$path" "$path"; then cp -aT --remove-destination "$kept$path" "$path" || true
+    fi
+  done
+  rm -rf "$kept"
+}
+
+# Takes from root the rights to change the container's network and clock.
+without_rights() {
+  if [ "$(id -u)" = 0 ] && setpriv --bounding-set=-net_admin,-sys_time true 2>/dev/null; then
+    setpriv --bounding-set=-net_admin,-sys_time --inh-caps=-net_admin,-sys_time "$@"
+  else
+    "$@"
+  fi
+}
+
+run_on_the_machine() {
+  local found files
+  echo 'isolated.sh: namespaces are refused here, so this runs on the container itself' >&2
+  exec 9>>/tmp/talux-isolated.lock
+  flock 9
+  found=$(segments; present '')
+  [ -z "$found" ] || fail "not run: the container is a device's, it has" "${found//$'\n'/, }"
+  kept=$(mktemp -d)
+  mkdir "$kept/etc"
+  cp -a /etc/localtime /etc/resolv.conf "$kept/etc" 2>/dev/null || true
+  mapfile -t files < <(present "$root")
+  [ "${#files[@]}" = 0 ] || cp "${files[@]}" /
+  cd /
+  without_rights "$@" 8<&- 9<&-
+}
+
+kept=''
+cleanup() {
+  [ -z "$kept" ] || remove_what_was_made
+  remove_mount_points
+  [ ! -d "$root" ] || lay_root
+  [ -z "$temporary" ] || { chmod -R u+rwX "$temporary"; rm -rf "$temporary"; }
+}
+trap cleanup EXIT
+lay_root
+export TALUX_ISOLATION LUA_CPATH="$module/?.so" PATH=/usr/sbin:/usr/bin:/sbin:/bin
+TALUX_ISOLATION=$(find_isolation)
 status=0
-bwrap "$@" || status=$?
+case $TALUX_ISOLATION in
+  full) bwrap "${arguments[@]}" "$@" 8<&- || status=$? ;;
+  user) bwrap "${arguments[@]}" --unshare-user --uid 0 --gid 0 "$@" 8<&- || status=$? ;;
+  none) run_on_the_machine "$@" || status=$? ;;
+esac
 exit "$status"
