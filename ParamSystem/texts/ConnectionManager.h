@@ -1,0 +1,17 @@
+// State of the Modbus slaves, process images.
+#ifndef TALUX_TEXTS_CONNECTIONMANAGER_H
+#define TALUX_TEXTS_CONNECTIONMANAGER_H
+
+#include "ParamSystem/texts/Words.h"
+
+namespace talux::texts {
+
+inline constexpr TextEntry kConnectionManager[] = {
+    value("conman_slaves", {"Modbus-Slaves", "Modbus slaves"},
+          {"Vom Verbindungsmanager verwaltete Slave-Adressen",
+           "Slave addresses that the connection manager serves"}),
+};
+
+} // namespace talux::texts
+
+#endif

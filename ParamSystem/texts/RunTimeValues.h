@@ -1,0 +1,15 @@
+// Override values, output states, calibration results, records.
+#ifndef TALUX_TEXTS_RUNTIMEVALUES_H
+#define TALUX_TEXTS_RUNTIMEVALUES_H
+
+#include "ParamSystem/texts/Words.h"
+
+namespace talux::texts {
+
+inline constexpr TextEntry kRunTimeValues[] = {
+    label("OVR_time", {"Simulationszeit", "Override time"}),
+};
+
+} // namespace talux::texts
+
+#endif
