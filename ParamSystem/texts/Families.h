@@ -5,9 +5,7 @@
 #include <span>
 
 #include "ParamSystem/texts/AnalogInputs.h"
-#include "ParamSystem/texts/BinaryIo.h"
-#include "ParamSystem/texts/Calibration.h"
-#include "ParamSystem/texts/ConnectionManager.h"
+#include "ParamSystem/texts/BinaryIO.h"
 #include "ParamSystem/texts/DeviceStatus.h"
 #include "ParamSystem/texts/Dialogs.h"
 #include "ParamSystem/texts/Display.h"
@@ -16,30 +14,32 @@
 #include "ParamSystem/texts/Firewall.h"
 #include "ParamSystem/texts/Identification.h"
 #include "ParamSystem/texts/Measurements.h"
-#include "ParamSystem/texts/Modbus.h"
+#include "ParamSystem/texts/ModbusSlave.h"
 #include "ParamSystem/texts/Network.h"
+#include "ParamSystem/texts/ProcessImages.h"
 #include "ParamSystem/texts/Recorder.h"
-#include "ParamSystem/texts/RunTimeValues.h"
+#include "ParamSystem/texts/Runtime.h"
 #include "ParamSystem/texts/Scripting.h"
+#include "ParamSystem/texts/Security.h"
 #include "ParamSystem/texts/SerialPorts.h"
-#include "ParamSystem/texts/ServiceCommands.h"
+#include "ParamSystem/texts/Service.h"
+#include "ParamSystem/texts/Signals.h"
 #include "ParamSystem/texts/Snapshot.h"
-#include "ParamSystem/texts/StateFlags.h"
+#include "ParamSystem/texts/State.h"
 #include "ParamSystem/texts/Statistics.h"
 #include "ParamSystem/texts/Telecontrol.h"
-#include "ParamSystem/texts/Time.h"
+#include "ParamSystem/texts/Templates.h"
+#include "ParamSystem/texts/TimeServices.h"
 #include "ParamSystem/texts/UserTexts.h"
-#include "ParamSystem/texts/Users.h"
-#include "ParamSystem/texts/ValueTemplates.h"
 
 namespace talux::texts {
 
 inline constexpr std::span<const TextEntry> kFamilies[] = {
-    kDialogs,     kValueTemplates,    kStateFlags,        kMeasurements, kIdentification, kDeviceStatus,
-    kDisplay,     kNetwork,           kFirewall,          kTime,         kSerialPorts,    kModbus,
-    kTelecontrol, kScripting,         kConnectionManager, kAnalogInputs, kCalibration,    kBinaryIo,
-    kEarthFault,  kEarthFaultMethods, kRecorder,          kStatistics,   kUserTexts,      kServiceCommands,
-    kUsers,       kRunTimeValues,     kSnapshot,
+    kDialogs,      kTemplates,         kState,     kMeasurements,  kSignals,      kIdentification,
+    kDeviceStatus, kDisplay,           kNetwork,   kFirewall,      kTimeServices, kSerialPorts,
+    kModbusSlave,  kTelecontrol,       kScripting, kProcessImages, kAnalogInputs, kBinaryIO,
+    kEarthFault,   kEarthFaultMethods, kRecorder,  kStatistics,    kUserTexts,    kService,
+    kSecurity,     kRuntime,           kSnapshot,
 };
 
 } // namespace talux::texts

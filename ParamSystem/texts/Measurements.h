@@ -1,4 +1,4 @@
-// Measured and derived values, states of relays and inputs.
+// Primary and secondary values, powers, angles, harmonics, statistics maxima.
 #ifndef TALUX_TEXTS_MEASUREMENTS_H
 #define TALUX_TEXTS_MEASUREMENTS_H
 
@@ -7,8 +7,8 @@
 namespace talux::texts {
 
 inline constexpr TextEntry kMeasurements[] = {
-    value("REL{1..8}", {"Relais {n}", "Relay {n}"},
-          {"Zustand von Ausgangsrelais {n}", "State of output relay {n}"}),
+    value("U1_prim", {"Leiter-Erde-Spg. L1", "Voltage L1-E"},
+          {"Leiter-Erde-Spannung U1 primär", "Voltage U1_primary"}, "kV"),
 };
 
 } // namespace talux::texts

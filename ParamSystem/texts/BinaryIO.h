@@ -6,7 +6,7 @@
 
 namespace talux::texts {
 
-inline constexpr TextEntry kBinaryIo[] = {
+inline constexpr TextEntry kBinaryIO[] = {
     value("uBAF{1..8}", {"Benutzerfunktion {n}", "User function {n}"},
           {"Verknüpfung der frei definierbaren Ausgangsfunktion {n}",
            "Logic of the freely defined output function {n}"}),

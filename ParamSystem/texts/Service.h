@@ -1,12 +1,12 @@
 // Export to USB, logbook, display test.
-#ifndef TALUX_TEXTS_SERVICECOMMANDS_H
-#define TALUX_TEXTS_SERVICECOMMANDS_H
+#ifndef TALUX_TEXTS_SERVICE_H
+#define TALUX_TEXTS_SERVICE_H
 
 #include "ParamSystem/texts/Words.h"
 
 namespace talux::texts {
 
-inline constexpr TextEntry kServiceCommands[] = {
+inline constexpr TextEntry kService[] = {
     command("USB_SaveAll", {"Alles auf USB sichern", "Save all to USB"},
             {"Parameter, Logbuch und Aufzeichnungen auf den USB-Stick kopieren",
              "Copy parameters, logbook and records to the USB stick"},
