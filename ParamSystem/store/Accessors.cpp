@@ -7,6 +7,7 @@
 namespace {
 
 using talux::Kind;
+using talux::Number;
 using talux::Space;
 
 // Aborts in the name of the accessor when the id is of another kind.
@@ -19,20 +20,20 @@ bool checked(int id, const char* accessor) {
 
 // The members of each family for one kind. Readers of single values and runs, and writers of single values,
 // insist on the kind; writers of runs ignore foreign ids.
-#define TALUX_SET_NUMBER(Prefix, Name, Type, space)                                                          \
-    void Prefix##Name##Value(int id, Type val) {                                                             \
+#define TALUX_SET_NUMBER(Prefix, Name, space)                                                                \
+    void Prefix##Name##Value(int id, Number<Kind::Name> val) {                                               \
         if (checked<Kind::Name>(id, __func__)) talux::putNumber<Kind::Name, space>(id, val);                 \
     }
-#define TALUX_GET_NUMBER(Prefix, Name, Type, space)                                                          \
-    void Prefix##Name##Value(int id, Type* pVal) {                                                           \
+#define TALUX_GET_NUMBER(Prefix, Name, space)                                                                \
+    void Prefix##Name##Value(int id, Number<Kind::Name>* pVal) {                                             \
         if (checked<Kind::Name>(id, __func__)) *pVal = talux::getNumber<Kind::Name, space>(id);              \
     }
-#define TALUX_SET_RUN(Prefix, Name, Type, space)                                                             \
-    void Prefix##Name##ValueArray(int id, Type* pSrc, unsigned long aCount) {                                \
+#define TALUX_SET_RUN(Prefix, Name, space)                                                                   \
+    void Prefix##Name##ValueArray(int id, Number<Kind::Name>* pSrc, unsigned long aCount) {                  \
         if (talux::holds(Kind::Name, id)) talux::putRun<Kind::Name, space>(id, pSrc, aCount);                \
     }
-#define TALUX_GET_RUN(Prefix, Name, Type, space)                                                             \
-    void Prefix##Name##ValueArray(int id, Type* pDest, unsigned long aCount) {                               \
+#define TALUX_GET_RUN(Prefix, Name, space)                                                                   \
+    void Prefix##Name##ValueArray(int id, Number<Kind::Name>* pDest, unsigned long aCount) {                 \
         if (checked<Kind::Name>(id, __func__)) talux::getRun<Kind::Name, space>(id, pDest, aCount);          \
     }
 #define TALUX_SET_TEXT(Prefix, Name, space)                                                                  \
@@ -44,28 +45,27 @@ bool checked(int id, const char* accessor) {
         if (checked<Kind::Name>(id, __func__)) talux::getText<Kind::Name, space>(id, val);                   \
     }
 
-#define TALUX_NUMBERS(Name, Type)                                                                            \
-    TALUX_SET_NUMBER(VarSet, Name, Type, Space::temp)                                                        \
-    TALUX_SET_NUMBER(VarSetGlobal, Name, Type, Space::global)                                                \
-    TALUX_GET_NUMBER(VarGet, Name, Type, Space::temp)                                                        \
-    TALUX_GET_NUMBER(VarGetGlobal, Name, Type, Space::global)                                                \
-    TALUX_SET_RUN(VarSet, Name, Type, Space::temp)                                                           \
-    TALUX_SET_RUN(VarSetGlobal, Name, Type, Space::global)                                                   \
-    TALUX_GET_RUN(VarGet, Name, Type, Space::temp)                                                           \
-    TALUX_GET_RUN(VarGetGlobal, Name, Type, Space::global)
+// One member in both spaces.
+#define TALUX_SPACES(MEMBER, Verb, Name)                                                                     \
+    MEMBER(Verb, Name, Space::temp)                                                                          \
+    MEMBER(Verb##Global, Name, Space::global)
+
+#define TALUX_NUMBERS(Name)                                                                                  \
+    TALUX_SPACES(TALUX_SET_NUMBER, VarSet, Name)                                                             \
+    TALUX_SPACES(TALUX_GET_NUMBER, VarGet, Name)                                                             \
+    TALUX_SPACES(TALUX_SET_RUN, VarSet, Name)                                                                \
+    TALUX_SPACES(TALUX_GET_RUN, VarGet, Name)
 
 #define TALUX_TEXTS(Name)                                                                                    \
-    TALUX_SET_TEXT(VarSet, Name, Space::temp)                                                                \
-    TALUX_SET_TEXT(VarSetGlobal, Name, Space::global)                                                        \
-    TALUX_GET_TEXT(VarGet, Name, Space::temp)                                                                \
-    TALUX_GET_TEXT(VarGetGlobal, Name, Space::global)
+    TALUX_SPACES(TALUX_SET_TEXT, VarSet, Name)                                                               \
+    TALUX_SPACES(TALUX_GET_TEXT, VarGet, Name)
 
-TALUX_NUMBERS(Float, float)
-TALUX_NUMBERS(Double, double)
-TALUX_NUMBERS(Long, VarLong)
-TALUX_NUMBERS(Int, short)
-TALUX_NUMBERS(Bool, char)
-TALUX_NUMBERS(Enum, short)
+TALUX_NUMBERS(Float)
+TALUX_NUMBERS(Double)
+TALUX_NUMBERS(Long)
+TALUX_NUMBERS(Int)
+TALUX_NUMBERS(Bool)
+TALUX_NUMBERS(Enum)
 
 TALUX_TEXTS(Text)
 TALUX_TEXTS(Date)

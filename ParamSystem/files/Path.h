@@ -1,0 +1,36 @@
+// Names of the parameter files: the directory of VarInit, then the file's name, together at most 255
+// characters.
+#ifndef TALUX_FILES_PATH_H
+#define TALUX_FILES_PATH_H
+
+#include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/os/Os.h"
+#include "ParamSystem/support/Text.h"
+
+namespace talux {
+
+class Path {
+public:
+    // `name` begins with a slash.
+    explicit Path(const char* name) { formatText(text, sizeof text, "%s%s", szParameterPath, name); }
+
+    // A copy named after this moment; `stem` has no slash.
+    static Path dated(const char* stem) {
+        std::tm now;
+        os::localTime(now);
+        Path path("");
+        formatText(path.text, sizeof path.text, "%s/%s_%04d_%02d_%02d_%02d%02d%02d.ini", szParameterPath,
+                   stem, now.tm_year + 1900, now.tm_mon + 1, now.tm_mday, now.tm_hour, now.tm_min,
+                   now.tm_sec);
+        return path;
+    }
+
+    char* get() { return text; }
+
+private:
+    char text[256];
+};
+
+} // namespace talux
+
+#endif

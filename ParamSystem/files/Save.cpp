@@ -1,0 +1,144 @@
+// Writes the parameter files from the global space.
+#include <cerrno>
+#include <cstdio>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "ParamSystem/files/Line.h"
+#include "ParamSystem/files/Path.h"
+#include "ParamSystem/store/ChangeFlags.h"
+#include "ParamSystem/store/Kinds.h"
+
+namespace {
+
+using talux::ChangeFlag;
+using talux::Path;
+
+using Selection = bool(const stParamProperties& row);
+
+bool isNormal(const stParamProperties& row) {
+    return row.userlevel <= 2 && !talux::isIpType(row.type);
+}
+
+bool isSecurity(const stParamProperties& row) {
+    return row.userlevel >= 3 && !talux::isIpType(row.type);
+}
+
+bool isAddress(const stParamProperties& row) {
+    return talux::isIpType(row.type);
+}
+
+// The two parameter files; the address file is neither dated nor given away.
+struct ParameterFile {
+    const char* name;
+    const char* stem; // of the dated copies
+    gid_t group;
+    ChangeFlag flag;
+    Selection* selection;
+};
+
+constexpr ParameterFile kNormalFile{"/parameter.ini", "param", 100, ChangeFlag::param, isNormal};
+constexpr ParameterFile kSecurityFile{"/sec_parameter.ini", "sec_param", 101, ChangeFlag::secParam,
+                                      isSecurity};
+
+void reportOpenFailure(const char* filename) {
+    const int error = errno;
+    std::fprintf(stderr, "Error (TALUX_Var): Can't open file '%s' \n", filename);
+    errno = error;
+    std::perror("fopen");
+}
+
+// Stops at the first line that cannot be written and returns false.
+bool writeLines(FILE* file, Selection* selection) {
+    std::tm now;
+    talux::os::localTime(now);
+    char line[talux::kLineSize];
+    for (int position = 1; position <= kParamCount; ++position) {
+        const stParamProperties* const row = GetParamPropertiesByOrder(position);
+        if (row == nullptr || row->is_volatile == 1 || !selection(*row)) continue;
+        if (talux::formatLine(line, *row, now) && std::fputs(line, file) == EOF) return false;
+    }
+    return true;
+}
+
+// False when the file cannot be created. A failed write, which may show only when the buffer is emptied at
+// the close, is reported; the file then holds what went in before.
+bool writeFile(const char* filename, Selection* selection) {
+    FILE* const file = std::fopen(filename, "wt+");
+    if (file == nullptr) {
+        reportOpenFailure(filename);
+        return false;
+    }
+    bool complete = writeLines(file, selection);
+    if (std::fclose(file) != 0) complete = false;
+    if (!complete) std::printf("Error (TALUX_Var): Can't write to file '%s' \n", filename);
+    return true;
+}
+
+// A file that can be read goes to root and the group, everything allowed for both.
+void giveToGroup(const char* filename, gid_t group) {
+    FILE* const file = std::fopen(filename, "rt");
+    if (file == nullptr) return;
+    std::fclose(file);
+    // Without the right to give files away the file stays with its writer.
+    [[maybe_unused]] const int given = chown(filename, 0, group);
+    chmod(filename, 0775);
+}
+
+int saveFile(const char* filename, const ParameterFile& file) {
+    if (!writeFile(filename, file.selection)) return 0;
+    giveToGroup(filename, file.group);
+    return 1;
+}
+
+int saveMain(const ParameterFile& file) {
+    return saveFile(Path(file.name).get(), file);
+}
+
+int saveDated(const ParameterFile& file) {
+    return saveFile(Path::dated(file.stem).get(), file);
+}
+
+// A copy that fails still raises the flag: the file itself has been written.
+int commitAndSave(const ParameterFile& file) {
+    VarUpdateGlobalSpace();
+    if (saveMain(file) != 1) return 0;
+    const int result = saveDated(file);
+    talux::raise(file.flag);
+    return result;
+}
+
+} // namespace
+
+int VarSaveParamFile(char* filename) {
+    return saveFile(filename, kNormalFile);
+}
+
+int VarSaveSecParamFile(char* filename) {
+    return saveFile(filename, kSecurityFile);
+}
+
+int VarSaveIPConfigFile(char* filename) {
+    VarUpdateGlobalSpace();
+    if (*filename == '\0' || !writeFile(filename, isAddress)) return 0;
+    talux::raise(ChangeFlag::ip);
+    return 1;
+}
+
+int VarSaveParams(void) {
+    return commitAndSave(kNormalFile);
+}
+
+int VarSaveSecParams(void) {
+    return commitAndSave(kSecurityFile);
+}
+
+int VarSaveIPConfig(void) {
+    return VarSaveIPConfigFile(Path("/ip_config.ini").get());
+}
+
+int VarSaveAll(void) {
+    for (const ParameterFile* file : {&kNormalFile, &kSecurityFile})
+        if (saveMain(*file) != 1 || saveDated(*file) != 1) return 0;
+    return VarSaveIPConfig();
+}
