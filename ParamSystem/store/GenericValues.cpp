@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "ParamSystem/store/Slots.h"
+#include "ParamSystem/support/Number.h"
 
 namespace {
 
@@ -20,15 +21,6 @@ using WriteOrder =
     KindList<Kind::Enum, Kind::Text, Kind::Bool, Kind::Int, Kind::Long, Kind::Float, Kind::Double, Kind::Date,
              Kind::Time, Kind::SysDate, Kind::SysTime, Kind::Ip, Kind::Id>;
 
-// Truncates toward zero; what does not fit becomes the nearest limit, not-a-number becomes 0.
-template <typename Integer>
-Integer truncated(double value) {
-    using Limits = std::numeric_limits<Integer>;
-    if (value >= static_cast<double>(Limits::max())) return Limits::max();
-    if (value <= static_cast<double>(Limits::min())) return Limits::min();
-    return value == value ? static_cast<Integer>(value) : Integer{0};
-}
-
 template <Kind kind>
 double toDouble(talux::Number<kind> number) {
     if constexpr (kind == Kind::Bool)
@@ -45,9 +37,9 @@ talux::Number<kind> fromDouble(double value) {
     if constexpr (kind == Kind::Float || kind == Kind::Double)
         return static_cast<Number>(value);
     else if constexpr (kind == Kind::Bool)
-        return static_cast<Number>(truncated<std::uint32_t>(value));
+        return static_cast<Number>(talux::saturated<std::uint32_t>(value));
     else
-        return static_cast<Number>(truncated<std::int32_t>(value));
+        return static_cast<Number>(talux::saturated32(value));
 }
 static_assert(std::numeric_limits<float>::is_iec559 && std::numeric_limits<double>::is_iec559);
 

@@ -3,15 +3,23 @@
 #define TALUX_SUPPORT_NUMBER_H
 
 #include <cstdint>
+#include <limits>
 
 namespace talux {
 
-// Truncates toward zero; beyond 32 bits the nearest limit, 0 for not-a-number.
-constexpr std::int32_t saturated32(double value) {
+// Truncates toward zero; beyond the 32 bits of the integer the nearest limit, 0 for not-a-number.
+template <typename Integer>
+constexpr Integer saturated(double value) {
+    using Limits = std::numeric_limits<Integer>;
+    static_assert(sizeof(Integer) == 4, "the limits are exact in a double");
     if (value != value) return 0;
-    if (value >= INT32_MAX) return INT32_MAX;
-    if (value <= INT32_MIN) return INT32_MIN;
-    return static_cast<std::int32_t>(value);
+    if (value >= Limits::max()) return Limits::max();
+    if (value <= Limits::min()) return Limits::min();
+    return static_cast<Integer>(value);
+}
+
+constexpr std::int32_t saturated32(double value) {
+    return saturated<std::int32_t>(value);
 }
 
 } // namespace talux
