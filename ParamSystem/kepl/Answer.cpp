@@ -1,7 +1,8 @@
 #include "ParamSystem/kepl/Answer.h"
 
-#include <charconv>
 #include <cstring>
+
+#include "ParamSystem/support/Text.h"
 
 namespace talux::kepl {
 
@@ -20,9 +21,7 @@ bool Answer::append(std::initializer_list<std::string_view> pieces) {
 }
 
 NumberText::NumberText(double number, int decimals) {
-    const auto end =
-        std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed, decimals);
-    length = static_cast<std::size_t>(end.ptr - digits);
+    length = static_cast<std::size_t>(formatText(digits, sizeof digits, "%.*f", decimals, number));
 }
 
 } // namespace talux::kepl

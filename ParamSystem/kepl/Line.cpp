@@ -1,5 +1,6 @@
 #include "ParamSystem/kepl/Line.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "ParamSystem/kepl/Answer.h"
@@ -10,9 +11,9 @@
 namespace talux::kepl {
 
 void Line::setTerm(const char* text) {
-    const std::string_view cut(text, strnlen(text, kKeplMaxTerm));
-    const std::size_t blanks = cut.find_first_not_of(' ');
-    copyText(szToken, cut.substr(blanks == cut.npos ? cut.size() : blanks));
+    std::string_view cut(text, strnlen(text, kKeplMaxTerm));
+    cut.remove_prefix(std::min(cut.find_first_not_of(' '), cut.size()));
+    copyText(szToken, cut);
 }
 
 Flow Line::fail(Refusal text) {

@@ -127,7 +127,9 @@ Refusal VariableRequest::readElement(const stParamProperties& row, VarLong index
         readText(row, id, text);
         deliver(0.0, row.type);
         item.text = text;
-        item.bytes = item.text.substr(1, item.text.size() - 2);
+        item.bytes = item.text;
+        item.bytes.remove_prefix(1); // without the quotes
+        item.bytes.remove_suffix(1);
         return dump(answer, style, row.name, item) ? nullptr : refuse(szBufferOverflow);
     }
     double value = 0.0;

@@ -6,10 +6,10 @@
 
 namespace talux {
 
-// The C library keeps this locale ready: neither memory nor files are needed.
+// The C library keeps this locale ready and hands out the same one at every call: neither memory nor files
+// are needed.
 inline locale_t cLocale() {
-    static const locale_t locale = newlocale(LC_ALL_MASK, "C", locale_t{});
-    return locale;
+    return newlocale(LC_ALL_MASK, "C", locale_t{});
 }
 
 } // namespace talux
