@@ -12,9 +12,11 @@ if(TALUX_SANITIZE)
 endif()
 
 # What only the module itself gets: nothing exported but what is marked, no exceptions, no RTTI. It stays
-# in the process once loaded (nodelete), since segments and locks are never torn down.
+# in the process once loaded (nodelete), since segments and locks are never torn down. Of the libraries only
+# those that it uses are asked for, which leaves out the C++ ones: a device without them can load it.
 add_library(talux_module INTERFACE)
 target_compile_options(talux_module INTERFACE
   -fvisibility=hidden -fvisibility-inlines-hidden -fno-exceptions -fno-rtti -fconstexpr-ops-limit=500000000)
 target_link_options(talux_module INTERFACE
+  -static-libgcc -Wl,--as-needed
   -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack -Wl,-z,nodelete -Wl,--build-id=none)

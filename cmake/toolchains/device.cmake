@@ -19,4 +19,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-arm -cpu ${device_emulated_cpu} -L ${device_sysroot})
+set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE ${device_debian})
 set(LUA52_PROGRAM ${device_sysroot}/usr/bin/lua5.2 CACHE FILEPATH "The Lua interpreter that loads the module")
