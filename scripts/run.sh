@@ -1,0 +1,45 @@
+#!/bin/bash
+# Runs a Lua script with the module on an isolated device, beside the program that plays the rest of it.
+#
+#   run.sh [--root DIR] [--alone] [SCRIPT [ARGUMENT..] | -e CODE]
+#
+# SCRIPT       a Lua script, by default examples/tour.lua; its folder is readable at its own path
+# -e CODE      runs CODE with the module loaded
+# --root DIR   the directory that becomes /, kept afterwards: parameter files and the device's log
+#              /tmp/device.log lie there; by default a temporary one
+# --alone      without the device program: all values are zero at first
+#
+# The exit status is the script's. What is missing is installed (as root) and built first. Where SCRIPT.setup.sh
+# stands beside the script (tour.setup.sh for tour.lua) it is run inside the root before.
+. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+isolation=() session=(--device "$project/build-release/examples/device")
+while [ "$#" -gt 0 ]; do
+  case $1 in
+    --root) isolation+=(--root "$2"); shift 2 ;;
+    --alone) session=(); shift ;;
+    -h | --help) sed -n '2,/^[^#]/s/^# \?//p' "$0"; exit ;;
+    *) break ;;
+  esac
+done
+
+case ${1-} in
+  -e) [ "$#" = 2 ] || fail '-e takes the code and nothing else'
+    command=(-l lib_talux_lua -e "$2") ;;
+  -*) fail "unknown option '$1'" ;;
+  *) script=$(realpath "${1-$project/examples/tour.lua}")
+    [ -f "$script" ] || fail "no such script: $script"
+    command=("$script" "${@:2}")
+    folder=$(dirname "$script")
+    export LUA_PATH="$folder/?.lua;;"
+    case $folder in
+      / | /tmp | /etc | /var | /proc | /dev) isolation+=(--read "$script") ;; # the root has its own
+      *) isolation+=(--read "$folder") ;;
+    esac
+    setup=${script%.lua}.setup.sh
+    [ ! -f "$setup" ] || session=(--setup "$setup" "${session[@]}") ;;
+esac
+
+(cd "$project" && need_build_tools && build release lib_talux_lua device)
+exec "$project/scripts/isolated.sh" --module "$project/build-release" "${isolation[@]}" -- \
+  "$project/scripts/session.sh" "${session[@]}" -- lua5.2 "${command[@]}"

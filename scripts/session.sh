@@ -1,0 +1,35 @@
+#!/bin/bash
+# What happens inside the isolated root when a script runs: stage, device program, script.
+#
+#   session.sh [--setup FILE] [--device PROGRAM] [--emulator "WORDS"] -- COMMAND [ARGUMENT..]
+#
+# The device program is there, with values in the store, before the command starts, and ends with it. It keeps
+# its log in /tmp/device.log. WORDS stand before both programs when they are not for this processor.
+set -eu
+
+device='' emulator=() log=/tmp/device.log
+while [ "$#" -gt 0 ]; do
+  case $1 in
+    --setup)
+      [ "$TALUX_ISOLATION" != none ] || { echo "session.sh: $2 needs namespaces" >&2; exit 2; }
+      bash "$2"; shift 2 ;;
+    --device) device=$2; shift 2 ;;
+    --emulator) read -ra emulator <<<"$2"; shift 2 ;;
+    --) shift; break ;;
+    *) echo "session.sh: unknown option '$1'" >&2; exit 2 ;;
+  esac
+done
+
+if [ -n "$device" ]; then
+  exec 3< <(exec "${emulator[@]}" "$device" "$log")
+  pid=$!
+  read -r _ <&3 || { echo 'session.sh: the device program did not start' >&2; exit 2; }
+fi
+status=0
+"${emulator[@]}" "$@" || status=$?
+if [ -n "$device" ]; then
+  kill "$pid" 2>/dev/null || true
+  wait "$pid" || { echo 'session.sh: the device program failed' >&2; exit 2; }
+  [ "$TALUX_ISOLATION" != none ] || rm -f "$log"
+fi
+exit "$status"

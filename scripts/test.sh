@@ -1,0 +1,128 @@
+#!/bin/bash
+# Builds and passes the tests.
+#
+#   test.sh           release, sanitize (addresses and undefined behaviour) and armv7
+#   test.sh --all     also debug, armv5te, threads, lint, plain, and the release tests once more as an
+#                     ordinary user and in a container without privileges
+#   test.sh STAGE..   only these
+#
+# What is missing is installed (as root). Every stage runs whatever became of the others. The summary repeats
+# the closing line of ctest for each and names the skipped tests with their reasons.
+. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+cd "$project"
+
+usual=(release sanitize armv7)
+all=("${usual[@]}" debug armv5te threads lint plain user container)
+
+release() { build release && run_tests build-release; }
+debug() { build debug && run_tests build-debug; }
+sanitize() { build sanitize && run_tests build-sanitize; }
+armv7() { on_device armv7 arm-linux-gnueabihf; }
+armv5te() { on_device armv5te arm-linux-gnueabi; }
+lint() { scripts/lint.sh; }
+
+on_device() {
+  need "$2-g++:g++-$2" qemu-arm:qemu-user
+  quiet scripts/device.sh "$1" && run_tests "build-$1"
+}
+
+# The tests that start threads, under the thread sanitizer.
+threads() {
+  local tests
+  mapfile -t tests < <(grep -l 'std::j\?thread' tests/*_test.cpp | sed 's,.*/\(.*\)\.cpp,\1,')
+  build threads "${tests[@]}" && run_tests build-threads -R "^($(IFS='|'; echo "${tests[*]}"))\$"
+}
+
+# Without options and test packages there is the module and nothing else.
+plain() {
+  local targets status=0
+  quiet cmake -S . -B build-plain -DCMAKE_BUILD_TYPE=Release || return
+  targets=$(cmake --build build-plain --target help)
+  grep -q 'lib_talux_lua' <<<"$targets" && ! grep -q '_test' <<<"$targets" || status=1
+  rm -rf build-plain
+  return "$status"
+}
+
+user() {
+  [ "$(id -u)" = 0 ] || { echo 'all stages run as an ordinary user here'; return; }
+  local as=(setpriv --reuid=65534 --regid=65534 --clear-groups --inh-caps=-all --bounding-set=-all)
+  "${as[@]}" test -x "$project/scripts/isolated.sh" || { echo "$project is closed to others"; return 1; }
+  release_tests_again
+}
+
+container() {
+  local link root
+  root=$(mktemp -d)
+  mkdir -p "$root"/{etc,tmp,var,proc,dev,usr}
+  for link in bin sbin lib lib64; do ln -s "usr/$link" "$root/$link"; done
+  local as=(bwrap --bind "$root" / --ro-bind /usr /usr --ro-bind "$project" "$project" --proc /proc --dev /dev
+    --unshare-all --unshare-user --disable-userns --uid 0 --gid 0 --cap-drop ALL)
+  "${as[@]}" true || { echo 'skipped: there are no namespaces to make a container with'; return 0; }
+  release_tests_again
+  rm -rf "$root"
+}
+
+# The release tests under other rights; ctest writes into a folder outside the project.
+release_tests_again() {
+  local folder status=0
+  build release || return
+  folder=$(mktemp -d)
+  chmod 777 "$folder"
+  echo "subdirs(\"$project/build-release\")" >"$folder/CTestTestfile.cmake"
+  [ "${as[0]}" != bwrap ] || as+=(--bind "$folder" "$folder")
+  run_tests "$folder" || status=$?
+  rm -rf "$folder"
+  return "$status"
+}
+
+# run_tests FOLDER [CTEST-OPTION..]: runs the tests of a build folder, with the rights that `as` gives.
+run_tests() {
+  local folder=$1 status=0
+  shift
+  "${as[@]}" ctest --test-dir "$folder" --output-on-failure --no-tests=error --timeout 600 \
+    -j "$(nproc)" "$@" </dev/null | tee "$results/ctest" || status=$?
+  summarise "$results/ctest" "$folder/Testing/Temporary/LastTest.log" >>"$results/summary"
+  return "$status"
+}
+
+# The closing line of ctest, the number of cases and the skipped ones with their reasons.
+summarise() {
+  grep 'tests passed' "$1"
+  awk '
+    /^\[ RUN / { reason = "" }
+    expected { reason = $0; expected = 0 }
+    /: Skipped$/ { expected = 1 }
+    /^\[       OK \]/ || /^ok: / { ran++ }
+    /^\[  SKIPPED \].*ms\)$/ { skipped[++count] = $4 ": " reason }
+    /^skipped: / { skipped[++count] = substr($0, 10) }
+    END {
+      printf "%d cases ran, %d were skipped\n", ran, count
+      for (i = 1; i <= count; i++) print "  skipped " skipped[i]
+    }' "$2"
+}
+
+case ${1-} in
+  --all) stages=("${all[@]}") ;;
+  '') stages=("${usual[@]}") ;;
+  *) stages=("$@") ;;
+esac
+
+set -o pipefail
+results=$(mktemp -d)
+trap 'rm -rf "$results"' EXIT
+need_build_tools
+need ip:iproute2 ifconfig:net-tools killall:psmisc
+failed=()
+as=()
+for stage in "${stages[@]}"; do
+  [[ " ${all[*]} " = *" $stage "* ]] || fail "unknown stage '$stage'"
+  SECONDS=0
+  echo "==== $stage"
+  echo "$stage:" >>"$results/summary"
+  "$stage" || { failed+=("$stage"); echo failed >>"$results/summary"; }
+  echo "$SECONDS seconds" >>"$results/summary"
+done
+
+echo '==== summary'
+sed '/:$/!s/^/  /' "$results/summary"
+[ "${#failed[@]}" = 0 ] || { echo "failed: ${failed[*]}"; exit 1; }
