@@ -1,0 +1,101 @@
+#include "MenuSystem/TALUX_Data.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+
+#include "ParamSystem/TALUX_Funcs.h"
+#include "ParamSystem/TALUX_ParamStrings.h"
+#include "ParamSystem/TALUX_Params.h"
+#include "ParamSystem/support/Text.h"
+
+namespace {
+
+// Texts read, each with its NUL, one after the other.
+constinit char acDataStringSpace[kDataStringSpaceSize];
+constinit char* pSpacePtr = nullptr; // first free byte; null until the first reset
+
+// One field: who reads it, and where it comes from.
+struct FieldSource {
+    const char* modulename;
+    const char* fieldname;
+    StringTokenizer* tokenizer;
+    FILE* file;
+};
+
+[[noreturn]] void endWithError(const FieldSource& source, const char* what) {
+    std::printf("\nError (%s): no %s for field '%s'\n", source.modulename, what, source.fieldname);
+    std::fclose(source.file); // NOLINT(cert-err33-c): the process ends
+    std::exit(2);             // NOLINT(concurrency-mt-unsafe)
+}
+
+[[noreturn]] void endWithInvalidValue(const FieldSource& source) {
+    endWithError(source, "valid value");
+}
+
+// From here on the record splits at tab and newline, so that fields may hold blanks.
+char* takeField(const FieldSource& source) {
+    if (!source.tokenizer->hasMoreTokens()) endWithError(source, "value");
+    char* const token = source.tokenizer->nextToken("\t\n");
+    if (token == nullptr) endWithInvalidValue(source);
+    return token;
+}
+
+template <typename Number>
+Number takeNumber(const FieldSource& source, int (*parse)(const char*, Number*)) {
+    Number number{};
+    if (parse(takeField(source), &number) != 1) endWithInvalidValue(source);
+    return number;
+}
+
+} // namespace
+
+void Data_StringReset() {
+    pSpacePtr = acDataStringSpace;
+}
+
+char* Data_StringSave(const char* txt) {
+    if (pSpacePtr == nullptr) return nullptr;
+    const auto room = static_cast<std::size_t>(acDataStringSpace + kDataStringSpaceSize - pSpacePtr);
+    const std::size_t size = std::strlen(txt) + 1;
+    if (size > room) return nullptr;
+    char* const copy = pSpacePtr;
+    std::memcpy(copy, txt, size);
+    pSpacePtr += size;
+    return copy;
+}
+
+void Data_SetSymbol(const char* modulename, int* field, const char* fieldname, StringTokenizer* pTokenizer,
+                    FILE* fd_src) {
+    const FieldSource source{modulename, fieldname, pTokenizer, fd_src};
+    char* const name = takeField(source);
+    VarLong id = 0;
+    if (ResolveParamSymbol(name, &id) != 1 && ResolveParamTextSymbol(name, &id) != 1)
+        endWithInvalidValue(source);
+    *field = static_cast<int>(id);
+}
+
+void Data_SetInt(const char* modulename, int* field, const char* fieldname, StringTokenizer* pTokenizer,
+                 FILE* fd_src) {
+    *field = static_cast<int>(takeNumber({modulename, fieldname, pTokenizer, fd_src}, MakeLong));
+}
+
+void Data_SetDouble(const char* modulename, double* field, const char* fieldname, StringTokenizer* pTokenizer,
+                    FILE* fd_src) {
+    *field = takeNumber({modulename, fieldname, pTokenizer, fd_src}, MakeDouble);
+}
+
+void Data_SetText(const char* modulename, char** field, const char* fieldname, StringTokenizer* pTokenizer,
+                  FILE* fd_src) {
+    const FieldSource source{modulename, fieldname, pTokenizer, fd_src};
+    const char* const token = takeField(source);
+    const char* const first = std::strchr(token, '"');
+    const char* const last = std::strrchr(token, '"');
+    if (first == last || last - first - 1 > kDataMaxText) endWithInvalidValue(source);
+
+    char text[kDataMaxText + 1];
+    talux::copyText(text, {first + 1, last});
+    char* const saved = Data_StringSave(text);
+    if (saved == nullptr) endWithError(source, "string space");
+    *field = saved;
+}

@@ -1,0 +1,144 @@
+// Fields of tab-separated records, and how a broken record ends the process.
+#include "MenuSystem/TALUX_Data.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <functional>
+#include <random>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+// A record line with its tokenizer, set up as a loader does it.
+struct Record {
+    char buffer[1000];
+    StringTokenizer tokenizer;
+    FILE* file = std::tmpfile();
+
+    explicit Record(std::string line, const char* set = "\t\n") {
+        tokenizer.SetBuffer(buffer, sizeof buffer);
+        tokenizer.SetString(line.data(), set, false);
+    }
+    ~Record() { std::fclose(file); }
+    Record(const Record&) = delete;
+    Record& operator=(const Record&) = delete;
+
+    template <typename Field>
+    Field take(void (*set)(const char*, Field*, const char*, StringTokenizer*, FILE*)) {
+        Field field{};
+        set("M", &field, "f", &tokenizer, file);
+        return field;
+    }
+};
+
+// Must end the process with this message and status 2, the file closed by then.
+int fileToWatch = -1;
+template <typename Field>
+void endReading(Record& record, void (*set)(const char*, Field*, const char*, StringTokenizer*, FILE*)) {
+    dup2(STDERR_FILENO, STDOUT_FILENO);
+    fileToWatch = fileno(record.file);
+    std::atexit([] { std::printf(fcntl(fileToWatch, F_GETFD) == -1 ? "closed" : "left open"); });
+    record.take(set);
+}
+
+template <typename Field>
+void expectEnd(const std::string& line,
+               void (*set)(const char*, Field*, const char*, StringTokenizer*, FILE*),
+               const std::string& what, const char* delimiters = "\t\n") {
+    SCOPED_TRACE('"' + line.substr(0, 40) + '"');
+    Record record(line, delimiters);
+    EXPECT_EXIT(endReading(record, set), testing::ExitedWithCode(2),
+                testing::StrEq("\nError (M): no " + what + " for field 'f'\nclosed"));
+}
+
+} // namespace
+
+TEST(DataFieldsDeathTest, BrokenFieldsEndTheProcess) {
+    Data_StringReset();
+    for (const char* line : {"", "\t\t\n"}) {
+        expectEnd(line, Data_SetSymbol, "value");
+        expectEnd(line, Data_SetInt, "value");
+        expectEnd(line, Data_SetDouble, "value");
+        expectEnd(line, Data_SetText, "value");
+    }
+    // Something is left under the old set, nothing under tab and newline.
+    expectEnd("\t\n", Data_SetInt, "valid value", ",");
+
+    for (const char* line : {"VAR_no_such", "16000", "TXT_no_such", " VAR_Language", "***"})
+        expectEnd(line, Data_SetSymbol, "valid value");
+    for (const char* line : {"x", "1.5", " ", "0x10", "\"1\""})
+        expectEnd(line, Data_SetInt, "valid value");
+    for (const char* line : {"x", "1,5", " "})
+        expectEnd(line, Data_SetDouble, "valid value");
+    for (const std::string& line : {std::string("hello"), std::string("\""), std::string("a\"b"),
+                                    '"' + std::string(255, 'x') + '"', '"' + std::string(900, 'x') + '"'})
+        expectEnd(line, Data_SetText, "valid value");
+}
+
+TEST(DataFieldsDeathTest, AFullStringSpaceEndsTheProcess) {
+    Data_StringReset();
+    const std::string most(kDataStringSpaceSize - 3, 'x');
+    ASSERT_NE(Data_StringSave(most.c_str()), nullptr);
+    expectEnd("\"ab\"", Data_SetText, "string space");
+    EXPECT_STREQ(Record("\"a\"").take(Data_SetText), "a");
+    expectEnd("\"\"", Data_SetText, "string space");
+}
+
+TEST(DataFields, ComeOneAfterTheOther) {
+    Data_StringReset();
+    Record record("VAR_Language\t12  and more\t\t1.5e3\ttxt_tpl_baudrate\tx \"two words\" y\t-7\n");
+    EXPECT_EQ(record.take(Data_SetSymbol), 10000);
+    EXPECT_EQ(record.take(Data_SetInt), 12);
+    EXPECT_EQ(record.take(Data_SetDouble), 1500);
+    EXPECT_EQ(record.take(Data_SetSymbol), 18021);
+    EXPECT_STREQ(record.take(Data_SetText), "two words");
+    EXPECT_EQ(record.take(Data_SetInt), -7);
+    EXPECT_FALSE(record.tokenizer.hasMoreTokens());
+}
+
+TEST(DataFields, TextsLieBetweenTheFirstAndTheLastQuote) {
+    Data_StringReset();
+    const std::string longest(254, 'x');
+    for (const auto& [token, text] : {std::pair<std::string, std::string>{"\"ab\"c\"", "ab\"c"},
+                                      {"x \"hello\" y", "hello"},
+                                      {"\"\"", ""},
+                                      {"\"\"\"", "\""},
+                                      {'"' + longest + '"', longest}})
+        EXPECT_EQ(Record(token).take(Data_SetText), text);
+}
+
+TEST(DataFields, CommaSeparatedHeadThenTabs) {
+    Record record(",,3 4\t5\n", ",");
+    EXPECT_EQ(record.take(Data_SetInt), 3);
+    EXPECT_EQ(record.take(Data_SetInt), 5);
+}
+
+// Runs in a process of its own, in which nobody has reset the space yet.
+TEST(StringSpaceDeathTest, CountsAsFullBeforeTheFirstReset) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_EXIT(std::_Exit(Data_StringSave("") == nullptr ? 0 : 1), testing::ExitedWithCode(0), "");
+}
+
+TEST(StringSpace, IsFilledToTheLastByteAndKeepsItsTexts) {
+    std::mt19937 random{40000};
+    for (int round = 0; round < 20; ++round) {
+        Data_StringReset();
+        std::vector<std::pair<const char*, std::string>> saved;
+        for (std::size_t room = kDataStringSpaceSize; room > 0;) {
+            const std::string text(random() % 700, static_cast<char>('a' + random() % 26));
+            const char* copy = Data_StringSave(text.c_str());
+            ASSERT_EQ(copy != nullptr, text.size() < room) << room;
+            if (copy == nullptr) continue;
+            saved.emplace_back(copy, text);
+            room -= text.size() + 1;
+        }
+        EXPECT_EQ(Data_StringSave(""), nullptr);
+        for (const auto& [copy, text] : saved)
+            ASSERT_EQ(copy, text);
+    }
+}
