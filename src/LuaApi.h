@@ -14,6 +14,7 @@
 #pragma weak lua_pushstring
 #pragma weak lua_pushnumber
 #pragma weak lua_touserdata
+#pragma weak lua_rawlen
 #pragma weak lua_newuserdata
 #pragma weak luaL_checkinteger
 #pragma weak luaL_checknumber

@@ -1,0 +1,200 @@
+#include "src/NumberArray.h"
+
+#include <cstdint>
+#include <cstring>
+
+#include "ParamSystem/KEPL_Interpreter.h"
+#include "ParamSystem/TALUX_Params.h"
+#include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/support/Number.h"
+#include "ParamSystem/support/Text.h"
+
+namespace talux {
+namespace {
+
+constinit char szError[100] = "";
+
+// The first bytes of the userdata; the elements follow.
+struct Header {
+    std::int32_t size; // number of elements
+    std::int32_t type; // type code of the parameters that fill it
+};
+static_assert(sizeof(Header) == 8);
+
+template <typename Element>
+Element fromNumber(lua_Number value);
+template <>
+VarLong fromNumber<VarLong>(lua_Number value) {
+    return saturated<VarLong>(value);
+}
+template <>
+double fromNumber<double>(lua_Number value) {
+    return value;
+}
+
+// What the two kinds of arrays differ in.
+struct Long {
+    using Element = VarLong;
+    static constexpr ParamType kType = kTypeLong;
+    static constexpr const char* kExpected = "'talux_longarray' expected";
+    static constexpr const char* kExpectedUnderscored = "'_talux_longarray' expected";
+    static constexpr auto read = VarGetGlobalLongValueArray;
+};
+struct Double {
+    using Element = double;
+    static constexpr ParamType kType = kTypeDouble;
+    static constexpr const char* kExpected = "'talux_doublearray' expected";
+    static constexpr const char* kExpectedUnderscored = "'_talux_doublearray' expected";
+    static constexpr auto read = VarGetGlobalDoubleValueArray;
+};
+
+// An array in its userdata. Only blocks that `create` made are taken for one.
+template <typename Kind>
+class Array {
+public:
+    using Element = typename Kind::Element;
+
+    // More elements no 32-bit device could address.
+    static constexpr lua_Number kMaxSize = (UINT32_MAX - sizeof(Header)) / sizeof(Element);
+
+    static void create(lua_State* L, std::int32_t size) {
+        auto* const block = static_cast<Header*>(lua_newuserdata(L, bytes(size)));
+        std::memset(static_cast<void*>(block), 0, bytes(size));
+        *block = {size, Kind::kType};
+    }
+
+    explicit Array(lua_State* L, int argument) {
+        // Light userdata and all other values have no length or no block.
+        auto* const block = static_cast<Header*>(lua_touserdata(L, argument));
+        const std::size_t length = lua_rawlen(L, argument);
+        if (block == nullptr || length < sizeof(Header)) return;
+        if (block->type == Kind::kType && block->size >= 0 && length == bytes(block->size)) header = block;
+    }
+
+    explicit operator bool() const { return header != nullptr; }
+    std::int32_t size() const { return header->size; }
+    bool holds(lua_Integer index) const { return index >= 0 && index < header->size; }
+    Element* values() const { return reinterpret_cast<Element*>(header + 1); }
+
+private:
+    Header* header = nullptr;
+
+    static std::size_t bytes(std::int32_t size) {
+        return sizeof(Header) + static_cast<std::size_t>(size) * sizeof(Element);
+    }
+};
+
+template <typename Kind>
+int newArray(lua_State* L) {
+    const lua_Integer size = luaL_checkinteger(L, 1);
+    // The number itself, since the integer wraps around where it has 32 bits.
+    const lua_Number told = lua_tonumberx(L, 1, nullptr);
+    if (size < 0 || !(told > -1 && told <= Array<Kind>::kMaxSize))
+        return luaL_argerror(L, 1, "size out of range");
+    Array<Kind>::create(L, static_cast<std::int32_t>(size));
+    return 1;
+}
+
+template <typename Kind>
+int getSize(lua_State* L) {
+    const Array<Kind> array(L, 1);
+    if (!array) return luaL_argerror(L, 1, Kind::kExpectedUnderscored);
+    lua_pushnumber(L, array.size());
+    return 1;
+}
+
+template <typename Kind>
+int getItem(lua_State* L) {
+    const Array<Kind> array(L, 1);
+    const lua_Integer index = luaL_checkinteger(L, 2);
+    if (!array) return luaL_argerror(L, 1, Kind::kExpected);
+    if (!array.holds(index)) return luaL_argerror(L, 2, "index out of range");
+    lua_pushnumber(L, static_cast<lua_Number>(array.values()[index]));
+    return 1;
+}
+
+template <typename Kind>
+int setItem(lua_State* L) {
+    const Array<Kind> array(L, 1);
+    const lua_Integer index = luaL_checkinteger(L, 2);
+    const lua_Number value = luaL_checknumber(L, 3);
+    if (!array) return luaL_argerror(L, 1, Kind::kExpectedUnderscored);
+    if (!array.holds(index)) return luaL_argerror(L, 2, "index out of range");
+    array.values()[index] = fromNumber<typename Kind::Element>(value);
+    return 0;
+}
+
+// ---- Bulk read ----------------------------------------------------------------------------------------
+
+int refuse(const char* text) {
+    copyText(szError, text);
+    return 0;
+}
+
+// Why no range of this parameter, or not this range, can be read; null when it can.
+const char* rangeError(const stParamProperties& row, int first, int last) {
+    if (row.val_access == kWriteOnly) return szWriteOnly[iLanguage];
+    if (row.val_min_id == 0 && row.val_max_id == 0) return "<< NO ARRAY >>";
+    if (first < row.val_min_id) return "<< MIN ID TOO LOW >>";
+    if (last > row.val_max_id) return "<< MAX ID TOO HIGH >>";
+    if (last < first - 1) return szIndex1gtIndex2[iLanguage];
+    return nullptr;
+}
+
+template <typename Kind>
+int readRange(lua_State* L, int id, int count) {
+    const Array<Kind> array(L, 1);
+    if (!array) return refuse("<< WRONG DATA TYPE >>");
+    if (count > array.size()) return refuse("<< ARRAYSIZE EXCEEDED >>");
+    if (count > 0) Kind::read(id, array.values(), static_cast<unsigned long>(count));
+    lua_pushnumber(L, count);
+    return 1;
+}
+
+// The name behind the four characters of "TLX_" or "LVR_"; null when there are not that many.
+const char* nameWithoutPrefix(const char* text) {
+    return text != nullptr && strnlen(text, 4) == 4 ? text + 4 : nullptr;
+}
+
+// The parameter decides which kind of array it fills.
+int getArray(lua_State* L) {
+    const char* const name = nameWithoutPrefix(lua_tolstring(L, 2, nullptr));
+    const int first = saturated32(lua_tonumberx(L, 3, nullptr));
+    const int last = saturated32(lua_tonumberx(L, 4, nullptr));
+
+    const stParamProperties* const row =
+        name == nullptr ? nullptr : GetParamPropertiesByName(const_cast<char*>(name));
+    if (row == nullptr) {
+        formatText(szError, sizeof szError, "<< SYNTAX ERROR ('%s') >>", name == nullptr ? "" : name);
+        return 0;
+    }
+    if (const char* const error = rangeError(*row, first, last)) return refuse(error);
+
+    const int id = row->id + first - 1;
+    const int count = last - first + 1;
+    switch (row->type) {
+    case kTypeLong:
+        return readRange<Long>(L, id, count);
+    case kTypeDouble:
+        return readRange<Double>(L, id, count);
+    default:
+        return refuse("<< DATATYPE UNKNOWN >>");
+    }
+}
+
+template <typename Kind>
+inline constexpr luaL_Reg kFunctions[] = {
+    {"new", newArray<Kind>},    {"setitem", setItem<Kind>}, {"get", getArray},
+    {"getitem", getItem<Kind>}, {"size", getSize<Kind>},    {nullptr, nullptr},
+};
+
+} // namespace
+
+const luaL_Reg* const longArrayFunctions = kFunctions<Long>;
+const luaL_Reg* const doubleArrayFunctions = kFunctions<Double>;
+
+const char* lastArrayError() {
+    return szError;
+}
+
+} // namespace talux
