@@ -6,6 +6,7 @@
 
 #include "ParamSystem/texts/AnalogInputs.h"
 #include "ParamSystem/texts/BinaryIO.h"
+#include "ParamSystem/texts/Calibration.h"
 #include "ParamSystem/texts/DeviceStatus.h"
 #include "ParamSystem/texts/Dialogs.h"
 #include "ParamSystem/texts/Display.h"
@@ -35,11 +36,12 @@
 namespace talux::texts {
 
 inline constexpr std::span<const TextEntry> kFamilies[] = {
-    kDialogs,      kTemplates,         kState,     kMeasurements,  kSignals,      kIdentification,
-    kDeviceStatus, kDisplay,           kNetwork,   kFirewall,      kTimeServices, kSerialPorts,
-    kModbusSlave,  kTelecontrol,       kScripting, kProcessImages, kAnalogInputs, kBinaryIO,
-    kEarthFault,   kEarthFaultMethods, kRecorder,  kStatistics,    kUserTexts,    kService,
-    kSecurity,     kRuntime,           kSnapshot,
+    kDialogs,           kTemplates,    kState,       kMeasurements, kSignals,
+    kIdentification,    kDeviceStatus, kDisplay,     kNetwork,      kFirewall,
+    kTimeServices,      kSerialPorts,  kModbusSlave, kTelecontrol,  kScripting,
+    kProcessImages,     kAnalogInputs, kCalibration, kBinaryIO,     kEarthFault,
+    kEarthFaultMethods, kRecorder,     kStatistics,  kUserTexts,    kService,
+    kSecurity,          kRuntime,      kSnapshot,
 };
 
 } // namespace talux::texts
