@@ -1,4 +1,4 @@
-// Measures on the display, labels of the LEDs.
+// What the display shows at its ten positions, and the labels of the LEDs.
 #ifndef TALUX_TEXTS_DISPLAY_H
 #define TALUX_TEXTS_DISPLAY_H
 
@@ -7,8 +7,12 @@
 namespace talux::texts {
 
 inline constexpr TextEntry kDisplay[] = {
-    value("meas_disp{1..10}", {"Messwertanzeige {n}", "Measure display {n}"},
-          {"Messgröße an Anzeigeposition {n}", "Measure shown at display position {n}"}),
+    value("meas_disp{1..10}", {"Anzeigeposition {n}", "Display position {n}"},
+          {"Messgröße, die Position {n} der Messwertanzeige zeigt",
+           "Measure that position {n} of the measurement display shows"}),
+    value("LED{1..4}_txt", {"Beschriftung LED {n}", "Label of LED {n}"},
+          {"Text neben LED {n} auf der Anzeige, höchstens fünf Zeichen",
+           "Text beside LED {n} on the display, at most five characters"}),
 };
 
 } // namespace talux::texts

@@ -9,6 +9,58 @@ namespace talux::texts {
 inline constexpr TextEntry kTemplates[] = {
     shared("TPL_BAUDRATE", {"Baudrate", "Baud rate"},
            {"9600|19200|38400|57600|115200", "9600|19200|38400|57600|115200"}),
+    shared("TPL_DATABITS", {"Datenbits", "Data bits"}, {"7|8", "7|8"}),
+    shared("TPL_PARITY", {"Parität", "Parity"}, {"keine|ungerade|gerade", "none|odd|even"}),
+    shared("TPL_STOPBITS", {"Stoppbits", "Stop bits"}, {"1|1,5|2", "1|1.5|2"}),
+    shared("TPL_HANDSHAKE", {"Handshake", "Handshake"}, {"keiner|Xon/Xoff|RTS/CTS", "none|Xon/Xoff|RTS/CTS"}),
+    shared("TPL_TERMINATION", {"Terminierung", "Termination"}, {"Aus|Ein", "Off|On"}),
+    value("TPL_CT_RATIO", {"Stromwandlerübersetzung", "CT ratio"},
+          {"Primärer zu sekundärem Nennstrom des Stromwandlers",
+           "Primary to secondary rated current of the current transformer"}),
+    shared("TPL_BE_FUNCTION", {"Eingangsfunktion", "Input function"},
+           {"AUS|BE{1..6}|virt_BE{1..96}", "OFF|BI{1..6}|virt_BI{1..96}"}),
+    shared("TPL_BE_POLARITY", {"Eingangspolarität", "Input polarity"}, {"+|-", "+|-"}),
+
+    // German v and r: forward and backward, A and SS: feeder and busbar.
+    shared("TPL_BA_FUNCTION", {"Ausgangsfunktion", "Output function"},
+           {"AUS|PROG|Status|Fehler|U1_ok|U2_ok|U3_ok|user_BAF{1..8}|"
+            ">Uerd|>Uerd_verz|Uerd_L1|Uerd_L2|Uerd_L3|Uerd_L1_v|Uerd_L2_v|Uerd_L3_v|"
+            "Sum_Uerd ->v|Sum_Uerd ->r|Prio_Uerd ->v|Prio_Uerd ->r|"
+            "qu2 ->A|qu2 ->SS|qu2_CE ->A|qu2_CE ->SS|qui ->A|qui ->SS|"
+            "cos -> A|cos -> SS|sin -> A|sin -> SS|c_s -> A|c_s -> SS|"
+            "H_250 ->A|H_250 ->SS|H_fx1 ->A|H_fx1 ->SS|H_fx2+ ->A|H_fx2+ ->SS|H_fx2- ->A|H_fx2- ->SS|"
+            "Puls_50|Puls_50c|Puls_50c ->A|Puls_50c ->SS|Puls50_LED|"
+            "Puls_HPCI_50|Puls_HPCI_50 ->A|Puls_HPCI_50 ->SS|Puls_HPCI_fx|"
+            ">I|>I1|>I2|>I3|>>I|>>I1|>>I2|>>I3|"
+            ">I ->A|>I1 ->A|>I2 ->A|>I3 ->A|>>I ->A|>>I1 ->A|>>I2 ->A|>>I3 ->A|"
+            ">I SS|>I1 SS|>I2 SS|>I3 SS|>>I SS|>>I1 SS|>>I2 SS|>>I3 SS|"
+            ">Ferro-Res|50Hz -df|50Hz +df|50Hz n.n.|DynAdm ->A|DynAdm ->SS|I_KsE>|I_KsE> ->A|I_KsE> ->SS|"
+            "frei*39",
+            "OFF|PROG|Status|Error|U1_ok|U2_ok|U3_ok|user_BOF{1..8}|"
+            ">Uearth|>Uearth_delay|Uerd_L1|Uerd_L2|Uerd_L3|Uerd_L1_d|Uerd_L2_d|Uerd_L3_d|"
+            "Sum_Uearth ->f|Sum_Uearth ->b|Prio_Uearth ->f|Prio_Uearth ->b|"
+            "qu2 ->F|qu2 ->BB|qu2_CE ->F|qu2_CE ->BB|qui ->F|qui ->BB|"
+            "cos -> F|cos -> BB|sin -> F|sin -> BB|c_s -> F|c_s -> BB|"
+            "H_250 ->F|H_250 ->BB|H_fx1 ->F|H_fx1 ->BB|H_fx2+ ->F|H_fx2+ ->BB|H_fx2- ->F|H_fx2- ->BB|"
+            "Pulse_50|Pulse_50c|Pulse_50c ->F|Pulse_50c ->BB|Pulse50_LED|"
+            "Puls_HPCI_50|Puls_HPCI_50 ->F|Puls_HPCI_50 ->BB|Puls_HPCI_fx|"
+            ">I|>I1|>I2|>I3|>>I|>>I1|>>I2|>>I3|"
+            ">I ->F|>I1 ->F|>I2 ->F|>I3 ->F|>>I ->F|>>I1 ->F|>>I2 ->F|>>I3 ->F|"
+            ">I BB|>I1 BB|>I2 BB|>I3 BB|>>I BB|>>I1 BB|>>I2 BB|>>I3 BB|"
+            ">Ferro-res|50Hz -df|50Hz +df|50Hz n.n.|DynAdm ->FD|DynAdm ->BB|I_ScE>|I_ScE> ->FD|I_ScE> ->BB|"
+            "NC*39"}),
+
+    shared("TPL_PRIORITY", {"Prioritätsfunktion", "Priority function"},
+           {"AUS|qu2 - Wischer|qu2 + CE|qui|ov5|ovx|ovx1|cos|sin|puls50",
+            "AUS|qu2 - Transient|qu2 + CE|qui|ov5|ovx|ovx1|cos|sin|pulse50"}),
+    shared("TPL_MEAS_DISP", {"Messwertanzeige", "Display measure"},
+           {"Spannung sekundär|Strom sekundär|Winkel|Spannung primär|Strom primär|Spannung L-L|"
+            "Wirkleistung prim.|Blindleistung prim.|Scheinleistung prim.|PQS prim.|5. Harm. prim.|"
+            "Frequenz fx1|Spannung BE1,2",
+            "Voltage secondary|Current secondary|Angle|Voltage primary|Current primary|Voltage Ph-Ph|"
+            "Activ power prim.|Reactiv power prim.|Apparent power prim.|PQS prim.|5th harm. prim.|"
+            "Frequency fx1|Voltage DI1,2"}),
+    shared("TPL_BA_POLARITY", {"Ausgangspolarität", "Output polarity"}, {"+|-", "+|-"}),
 };
 
 } // namespace talux::texts
