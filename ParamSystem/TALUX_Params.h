@@ -69,6 +69,18 @@ inline constexpr int kParamTableRows = kParamCount + 2 + 98;
 // in menu order.
 extern TALUX_API const stParamProperties DefParamProperties[kParamCount + 2];
 
+// A family of the menus: the parameters from table position `first` to `last`.
+struct stParamFamily {
+    const char* name;
+    int first;
+    int last;
+};
+
+inline constexpr int kParamFamilyCount = 24;
+
+// The families in table order; together they hold every parameter.
+extern TALUX_API const stParamFamily DefParamFamilies[kParamFamilyCount];
+
 // "VAR_" and "CMD_" names; the first and the last row are named "***".
 extern TALUX_API const stParamSymbol DefParamSymbols[];
 
@@ -85,12 +97,12 @@ TALUX_API int LoadParamProperties(char* sourcefile);
 // The first row in table order with this id, or null. Aborts on a negative id.
 TALUX_API const stParamProperties* GetParamProperties(int id);
 
-// The row at a table position: 0 the opening sentinel, 1..kParamCount the parameters, null behind them.
-// Aborts on a negative position.
+// The row at a table position: 0 the opening sentinel, 1..kParamCount the parameters, null behind them and
+// before the table is filled. Aborts on a negative position.
 TALUX_API const stParamProperties* GetParamPropertiesByOrder(int id);
 
-// The first row in table order with this name, letter case ignored, or null. For an indexed parameter
-// this is its first element; element k has the id of that row plus k - 1.
+// The first row in table order with this name, letter case ignored, or null (a null name gives null). For
+// an indexed parameter this is its first element; element k has the id of that row plus k - 1.
 TALUX_API const stParamProperties* GetParamPropertiesByName(char* name);
 
 // Looks a VAR_ or CMD_ name up, letter case ignored. Returns 1 and stores the id in *lvalue, or returns 0

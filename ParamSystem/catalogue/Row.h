@@ -1,0 +1,265 @@
+// The words that the catalogue is written in: one line stands for a parameter or for a series of parameters.
+#ifndef TALUX_CATALOGUE_ROW_H
+#define TALUX_CATALOGUE_ROW_H
+
+#include "ParamSystem/TALUX_Params.h"
+
+namespace talux::catalogue {
+
+inline constexpr int kNoLength = -1;
+
+struct Row {
+    enum Series { kSingle, kNumbered, kIndexed };
+
+    stParamProperties properties{}; // of the first parameter of a series
+    const char* templateName = "";  // what symbols call a nameless row
+    Series series = kSingle;
+    int first = 0; // running numbers of the series
+    int last = 0;
+
+    constexpr int count() const { return series == kSingle ? 1 : last - first + 1; }
+};
+
+constexpr Row plainRow(int id, const char* name, int type) {
+    Row row;
+    row.properties = {.id = id,
+                      .name = name,
+                      .id_template = 0,
+                      .type = type,
+                      .val_access = kReadWrite,
+                      .is_volatile = 0,
+                      .format = "",
+                      .val_init_text = "",
+                      .val_init = 0,
+                      .val_def_text = "",
+                      .val_def = 0,
+                      .val_len = kNoLength,
+                      .val_min = kNoMin,
+                      .val_max = kNoMax,
+                      .val_min_id = 0,
+                      .val_max_id = 0,
+                      .val_step = 1,
+                      .userlevel = 1};
+    return row;
+}
+
+// Choice lists and ratios that several parameters share.
+
+struct Template {
+    int id = 0;
+    const char* name = "";
+    int choices = 0;
+};
+
+inline constexpr Template kBaudRate{18021, "BAUDRATE", 5};
+inline constexpr Template kDataBits{18022, "DATABITS", 2};
+inline constexpr Template kParity{18023, "PARITY", 3};
+inline constexpr Template kStopBits{18024, "STOPBITS", 3};
+inline constexpr Template kHandshake{18025, "HANDSHAKE", 3};
+inline constexpr Template kTermination{18026, "TERMINATION", 2};
+inline constexpr Template kCtRatio{18027, "CT_RATIO"};
+inline constexpr Template kInputFunction{18028, "BE_FUNCTION", 103};
+inline constexpr Template kInputPolarity{18029, "BE_POLARITY", 2};
+inline constexpr Template kOutputFunction{18030, "BA_FUNCTION", 128};
+inline constexpr Template kPriorityFunction{18031, "PRIORITY", 20};
+inline constexpr Template kDisplayMeasure{18032, "MEAS_DISP", 24};
+inline constexpr Template kOutputPolarity{18033, "BA_POLARITY", 2};
+
+// Settings. The initial value is the factory default where a line gives none of its own.
+
+struct Number {
+    Template like{};
+    double def = 0;
+    double min = kNoMin;
+    double max = kNoMax;
+    double step = 1;
+};
+
+constexpr Row numeric(int id, const char* name, int type, const Number& number) {
+    Row row = plainRow(id, name, type);
+    row.properties.id_template = number.like.id;
+    row.properties.val_init = number.def;
+    row.properties.val_def = number.def;
+    row.properties.val_min = number.min;
+    row.properties.val_max = number.max;
+    row.properties.val_step = number.step;
+    return row;
+}
+
+// A 32-bit integer.
+constexpr Row number(int id, const char* name, const Number& value = {}) {
+    return numeric(id, name, kTypeLong, value);
+}
+
+// A 16-bit integer.
+constexpr Row shortNumber(int id, const char* name, const Number& value = {}) {
+    return numeric(id, name, kTypeInt, value);
+}
+
+// A 32-bit float.
+constexpr Row decimal(int id, const char* name, const Number& value = {}) {
+    return numeric(id, name, kTypeFloat, value);
+}
+
+constexpr Row doubleNumber(int id, const char* name, const Number& value = {}) {
+    return numeric(id, name, kTypeDouble, value);
+}
+
+enum Switch { kOff, kOn };
+
+constexpr Row flag(int id, const char* name, Switch def = kOff) {
+    return numeric(id, name, kTypeBool, {.def = def == kOn ? 1.0 : 0.0, .min = 0, .max = 1});
+}
+
+struct Choice {
+    Template like{}; // gives the number of choices
+    int choices = 0;
+    double min = kNoMin;
+    double def = 1;
+};
+
+constexpr Row choice(int id, const char* name, const Choice& choice) {
+    const int choices = choice.like.id != 0 ? choice.like.choices : choice.choices;
+    return numeric(id, name, kTypeEnum,
+                   {.like = choice.like, .def = choice.def, .min = choice.min, .max = double(choices)});
+}
+
+constexpr Row textual(int id, const char* name, int type, int length, const char* def, const char* init) {
+    Row row = plainRow(id, name, type);
+    row.properties.val_len = length;
+    row.properties.val_def_text = def;
+    row.properties.val_init_text = init != nullptr ? init : def;
+    return row;
+}
+
+constexpr Row text(int id, const char* name, int length, const char* def = "", const char* init = nullptr) {
+    return textual(id, name, kTypeText, length, def, init);
+}
+
+constexpr Row identifier(int id, const char* name, int length, const char* def) {
+    return textual(id, name, kTypeId, length, def, nullptr);
+}
+
+constexpr Row address(int id, const char* name, const char* def, const char* init = nullptr) {
+    return textual(id, name, kTypeIp, kNoLength, def, init);
+}
+
+constexpr Row interfaceAddress(int id, const char* name, const char* def) {
+    return textual(id, name, kTypeIpAddress, kNoLength, def, nullptr);
+}
+
+constexpr Row interfaceMask(int id, const char* name, const char* def) {
+    return textual(id, name, kTypeIpMask, kNoLength, def, nullptr);
+}
+
+constexpr Row interfaceGateway(int id, const char* name, const char* def) {
+    return textual(id, name, kTypeIpGateway, kNoLength, def, nullptr);
+}
+
+constexpr Row clockDate(int id, const char* name) {
+    return textual(id, name, kTypeSysDate, kNoLength, "0", nullptr);
+}
+
+constexpr Row clockTime(int id, const char* name) {
+    return textual(id, name, kTypeSysTime, kNoLength, "0", nullptr);
+}
+
+// Rights.
+
+constexpr Row readOnly(Row row) {
+    row.properties.val_access = kReadOnly;
+    if (row.properties.type == kTypeBool) { // nobody edits it
+        row.properties.val_min = kNoMin;
+        row.properties.val_max = kNoMax;
+    }
+    return row;
+}
+
+constexpr Row security(Row row) {
+    row.properties.userlevel = 3;
+    return row;
+}
+
+// Run-time values: in the global space only, no default.
+
+constexpr Row runtime(Row row) {
+    row.properties.is_volatile = 1;
+    if (row.properties.type == kTypeBool) {
+        row.properties.val_min = kNoMin;
+        row.properties.val_max = kNoMax;
+    }
+    return row;
+}
+
+// How the display prints measured values.
+inline constexpr const char* kPrimaryVoltage = "%9.3f"; // kV
+inline constexpr const char* kSecondaryVoltage = "%9.2f";
+inline constexpr const char* kPrimaryCurrent = "%9.1f";
+inline constexpr const char* kSecondaryCurrent = "%9.3f";
+inline constexpr const char* kFaultCurrent = "%9.0f";
+inline constexpr const char* kPower = "%9.1f";
+inline constexpr const char* kPowerFactor = "%6.4f";
+inline constexpr const char* kFrequency = "%9.3f";
+inline constexpr const char* kHarmonic = "%9.3f";
+inline constexpr const char* kAngle = "%5.1f";
+inline constexpr const char* kInputVoltage = "%4.1f";
+
+constexpr Row measured(int id, const char* name, const char* format) {
+    Row row = runtime(decimal(id, name));
+    row.properties.format = format;
+    return row;
+}
+
+// A binary record of the struct segment.
+constexpr Row record(int id, const char* name) {
+    return runtime(plainRow(id, name, kTypeStruct));
+}
+
+// Rows without a stored value.
+
+// A trigger that the other programs of the device react to.
+constexpr Row command(int id, const char* name, int userlevel = 1) {
+    Row row = plainRow(id, name, kTypeCommand);
+    row.properties.userlevel = userlevel;
+    return row;
+}
+
+constexpr Row dialog(int id, const char* templateName) {
+    Row row = plainRow(id, "", kTypeNone);
+    row.templateName = templateName;
+    return row;
+}
+
+constexpr Row choiceTemplate(const Template& shared) {
+    Row row = choice(shared.id, "", {.choices = shared.choices, .def = 0});
+    row.templateName = shared.name;
+    return row;
+}
+
+constexpr Row decimalTemplate(const Template& shared, const Number& value) {
+    Row row = decimal(shared.id, "", value);
+    row.templateName = shared.name;
+    return row;
+}
+
+// Series.
+
+// Parameters of their own with consecutive ids and running numbers behind the name: REL1, REL2, ...
+constexpr Row numbered(int first, int last, Row row) {
+    row.series = Row::kNumbered;
+    row.first = first;
+    row.last = last;
+    return row;
+}
+
+// One parameter with the elements 1..last, one row and one id each.
+constexpr Row indexed(int last, Row row) {
+    row.series = Row::kIndexed;
+    row.first = row.properties.val_min_id = 1;
+    row.last = row.properties.val_max_id = last;
+    return row;
+}
+
+} // namespace talux::catalogue
+
+#endif
