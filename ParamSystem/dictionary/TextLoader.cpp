@@ -1,0 +1,71 @@
+// Fills the working table of texts from a file.
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "MenuSystem/TALUX_Data.h"
+#include "ParamSystem/TALUX_ParamStrings.h"
+#include "ParamSystem/dictionary/WorkingTexts.h"
+
+namespace talux {
+
+namespace {
+
+constexpr char kModule[] = "TALUX_ParamStrings";
+constexpr std::size_t kMaxLine = 253; // characters, line feed included
+
+// `format` takes the module's name and then `name`.
+[[noreturn]] void fail(FILE* source, const char* format, const char* name = "") {
+    std::printf(format, kModule, name);
+    if (source) std::fclose(source);
+    std::exit(2);
+}
+
+// Reads the next line that is not empty. False at the end of the file.
+bool readLine(FILE* source, char (&line)[kMaxLine + 2], const char* sourcefile) {
+    do {
+        if (!std::fgets(line, sizeof line, source)) {
+            if (std::feof(source)) return false;
+            fail(source, "\nError (%s): Can't read source file '%s'\n", sourcefile);
+        }
+        if (std::strlen(line) > kMaxLine)
+            fail(source, "\nError (%s): Line too long in source file '%s'\n", sourcefile);
+    } while (std::strcmp(line, "\n") == 0);
+    return true;
+}
+
+stParamText readText(FILE* source, char* line) {
+    char tokens[StringTokenizer::kDefaultBufferSize];
+    StringTokenizer tokenizer; // a new one, so that a blank line cannot see the tokens of the last
+    tokenizer.SetBuffer(tokens, sizeof tokens);
+    tokenizer.SetString(line + std::strspn(line, "\t "), "\t\n", false);
+
+    stParamText text{};
+    char* saved = nullptr;
+    Data_SetSymbol(kModule, &text.id, "id", &tokenizer, source);
+    Data_SetInt(kModule, &text.language, "language", &tokenizer, source);
+    Data_SetInt(kModule, &text.type, "type", &tokenizer, source);
+    Data_SetInt(kModule, &text.id_group, "id_group", &tokenizer, source);
+    Data_SetInt(kModule, &text.id_item, "id_item", &tokenizer, source);
+    Data_SetText(kModule, &saved, "txt", &tokenizer, source);
+    text.txt = saved;
+    return text;
+}
+
+} // namespace
+} // namespace talux
+
+using namespace talux;
+
+int LoadParamStrings(char* sourcefile) {
+    FILE* source = std::fopen(sourcefile, "r");
+    if (!source) fail(source, "Error (%s): Can't find source file '%s'\n", sourcefile);
+    int row = 0;
+    for (char line[kMaxLine + 2]; readLine(source, line, sourcefile); ++row) {
+        if (row == kParamTextRows) fail(source, "\nError (%s): max string number exceeded\n");
+        ParamText[row] = readText(source, line);
+    }
+    std::fclose(source);
+    endTextTable(row);
+    return 1;
+}
