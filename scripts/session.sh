@@ -1,10 +1,10 @@
 #!/bin/bash
 # What happens inside the isolated root when a script runs: stage, device program, script.
 #
-#   session.sh [--setup FILE] [--device PROGRAM] [--emulator "WORDS"] -- COMMAND [ARGUMENT..]
+#   session.sh [--setup FILE] [--device PROGRAM] [--emulator "WORD;WORD"] -- COMMAND [ARGUMENT..]
 #
 # The device program is there, with values in the store, before the command starts, and ends with it. It keeps
-# its log in /tmp/device.log. WORDS stand before both programs when they are not for this processor.
+# its log in /tmp/device.log. The words stand before the device program when it is not for this processor.
 set -eu
 
 device='' emulator=() log=/tmp/device.log
@@ -14,7 +14,7 @@ while [ "$#" -gt 0 ]; do
       [ "$TALUX_ISOLATION" != none ] || { echo "session.sh: $2 needs namespaces" >&2; exit 2; }
       bash "$2"; shift 2 ;;
     --device) device=$2; shift 2 ;;
-    --emulator) read -ra emulator <<<"$2"; shift 2 ;;
+    --emulator) IFS=";" read -ra emulator <<<"$2"; shift 2 ;;
     --) shift; break ;;
     *) echo "session.sh: unknown option '$1'" >&2; exit 2 ;;
   esac
@@ -26,7 +26,7 @@ if [ -n "$device" ]; then
   read -r _ <&3 || { echo 'session.sh: the device program did not start' >&2; exit 2; }
 fi
 status=0
-"${emulator[@]}" "$@" || status=$?
+"$@" || status=$?
 if [ -n "$device" ]; then
   kill "$pid" 2>/dev/null || true
   wait "$pid" || { echo 'session.sh: the device program failed' >&2; exit 2; }

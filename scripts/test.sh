@@ -2,8 +2,8 @@
 # Builds and passes the tests.
 #
 #   test.sh           release, sanitize (addresses and undefined behaviour) and armv7
-#   test.sh --all     also debug, armv5te, threads, lint, plain, and the release tests once more as an
-#                     ordinary user and in a container without privileges
+#   test.sh --all     also debug, armv5te, threads, commands, lint, plain, and the release tests once more
+#                     as an ordinary user and in a container without privileges
 #   test.sh STAGE..   only these
 #
 # What is missing is installed (as root). Every stage runs whatever became of the others. The summary repeats
@@ -12,7 +12,7 @@
 cd "$project"
 
 usual=(release sanitize armv7)
-all=("${usual[@]}" debug armv5te threads lint plain user container)
+all=("${usual[@]}" debug armv5te threads commands lint plain user container)
 
 release() { build release && run_tests build-release; }
 debug() { build debug && run_tests build-debug; }
@@ -31,6 +31,26 @@ threads() {
   local tests
   mapfile -t tests < <(grep -l 'std::j\?thread' tests/*_test.cpp | sed 's,.*/\(.*\)\.cpp,\1,')
   build threads "${tests[@]}" && run_tests build-threads -R "^($(IFS='|'; echo "${tests[*]}"))\$"
+}
+
+# run.sh as its user meets it: answers, exit status, arguments, what stays in a root and what does not.
+commands() {
+  local root status=0
+  root=$(mktemp -d)
+  expect() { [ "$1" = "$2" ] || { printf 'expected: %s\nfound:    %s\n' "$1" "$2"; status=1; }; }
+  expect 3.000000 "$(scripts/run.sh -e 'print(talux_command("1,2,+"))')"
+  scripts/run.sh -e 'os.exit(7)' || expect 7 "$?"
+  mkdir "$root/scripts"
+  echo 'return "beside"' >"$root/scripts/other.lua"
+  echo 'print(..., require "other", io.open("/staged") ~= nil)' >"$root/scripts/my.lua"
+  echo 'touch /staged' >"$root/scripts/my.setup.sh"
+  expect $'word\tbeside\ttrue' "$(scripts/run.sh "$root/scripts/my.lua" word)"
+  scripts/run.sh --root "$root/device" -e 'talux_command("TLX_Uearth=35,save")'
+  expect TLX_Uearth=35.000000 "$(grep Uearth= "$root/device/parameter.ini")"
+  expect $'30.000000\n35.000000' "$(scripts/run.sh --root "$root/device" \
+    -e 'print(talux_command("TLX_Uearth")) print(talux_command("load,TLX_Uearth"))')"
+  rm -rf "$root"
+  return "$status"
 }
 
 # Without options and test packages there is the module and nothing else.
