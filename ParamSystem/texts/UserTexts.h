@@ -8,7 +8,8 @@ namespace talux::texts {
 
 inline constexpr TextEntry kUserTexts[] = {
     value("UserText{1..16}", {"Benutzertext {n}", "User text {n}"},
-          {"Frei wählbarer Text {n} für Meldungen", "Free text {n} for messages"}),
+          {"Frei wählbarer Text {n}, der Meldungen und Aufzeichnungen beigefügt wird",
+           "Free text {n} that is added to signals and records"}),
 };
 
 } // namespace talux::texts
