@@ -16,8 +16,8 @@ void runShell(const char* command) {
 }
 
 FILE* openPipe(const char* command) {
-    return popen(command, "r");
-} // NOLINT(cert-env33-c)
+    return popen(command, "r"); // NOLINT(cert-env33-c)
+}
 
 void closePipe(FILE* pipe) {
     pclose(pipe);

@@ -1,0 +1,83 @@
+#include "ParamSystem/settings/ShellCommand.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <string_view>
+
+#include "ParamSystem/os/Os.h"
+#include "ParamSystem/support/Text.h"
+
+namespace talux {
+
+namespace {
+
+constexpr int kLongestCommand = 253;
+
+constexpr bool isPlain(char c) {
+    constexpr std::string_view kHarmless = "@%_+=:,./-";
+    const char lower = lowerAscii(c);
+    return (lower >= 'a' && lower <= 'z') || (c >= '0' && c <= '9') ||
+           kHarmless.find(c) != std::string_view::npos;
+}
+
+} // namespace
+
+ShellWord::ShellWord(const char* value) {
+    const std::string_view text(value, strnlen(value, kTextSize - 1));
+    if (!text.empty() && std::all_of(text.begin(), text.end(), isPlain)) {
+        append(text);
+        return;
+    }
+    append("'");
+    for (const char& c : text)
+        append(c == '\'' ? "'\\''" : std::string_view(&c, 1));
+    append("'");
+}
+
+void ShellWord::append(std::string_view piece) {
+    std::memcpy(text_ + length_, piece.data(), piece.size());
+    length_ += piece.size();
+}
+
+bool Shell::run(const char* format, ...) const {
+    std::va_list arguments;
+    va_start(arguments, format);
+    const bool done = runCommand(Announce::kYes, format, arguments);
+    va_end(arguments);
+    return done;
+}
+
+bool Shell::runSilently(const char* format, ...) const {
+    std::va_list arguments;
+    va_start(arguments, format);
+    const bool done = runCommand(Announce::kNo, format, arguments);
+    va_end(arguments);
+    return done;
+}
+
+void Shell::report(const char* format, ...) const {
+    char text[kLongestCommand + 100];
+    std::va_list arguments;
+    va_start(arguments, format);
+    formatTextV(text, sizeof text, format, arguments);
+    va_end(arguments);
+    std::fprintf(stderr, "%s: %s\n", function_, text);
+    // The line comes before the output of the command, even if the host has given the stream a buffer.
+    std::fflush(stderr);
+}
+
+bool Shell::runCommand(Announce announce, const char* format, std::va_list arguments) const {
+    char command[kLongestCommand + 1];
+    const int length = formatTextV(command, sizeof command, format, arguments);
+    if (length < 0 || length > kLongestCommand) {
+        // The format names the command without the value that made it too long.
+        report("not run, %d characters where %d are allowed: %s", length, kLongestCommand, format);
+        return false;
+    }
+    if (announce == Announce::kYes) report("%s", command);
+    os::runShell(command);
+    return true;
+}
+
+} // namespace talux

@@ -1,0 +1,52 @@
+// The shell commands that the settings consist of: quoting, announcing and running one.
+#ifndef TALUX_SETTINGS_SHELL_COMMAND_H
+#define TALUX_SETTINGS_SHELL_COMMAND_H
+
+#include <cstdarg>
+#include <cstddef>
+#include <string_view>
+
+#include "ParamSystem/TALUX_Var.h"
+
+namespace talux {
+
+// A stored text as the shell takes it for exactly one word, whatever it holds. A text of nothing but
+// letters, digits and @%_+=:,./- stands as it is, any other in single quotes.
+class ShellWord {
+public:
+    explicit ShellWord(const char* value);
+    const char* text() const { return text_; }
+
+private:
+    void append(std::string_view piece);
+
+    std::size_t length_ = 0;
+    // At worst each character of the longest text is a single quote, written '\''.
+    char text_[4 * std::size_t{kTextSize - 1} + sizeof("''")] = {};
+};
+
+// Runs the commands of one public function and speaks on the error stream under its name.
+class Shell {
+public:
+    explicit constexpr Shell(const char* function) : function_(function) {}
+
+    // Writes "<function>: <command>" to the error stream, then runs the command and waits for it; how it
+    // fares is not examined. A command that does not fit is not run: false, with the reason instead.
+    [[gnu::format(printf, 2, 3)]] bool run(const char* format, ...) const;
+
+    // The same without the announcement.
+    [[gnu::format(printf, 2, 3)]] bool runSilently(const char* format, ...) const;
+
+    // Writes "<function>: <text>" to the error stream.
+    [[gnu::format(printf, 2, 3)]] void report(const char* format, ...) const;
+
+private:
+    enum class Announce : bool { kNo, kYes };
+    bool runCommand(Announce announce, const char* format, std::va_list arguments) const;
+
+    const char* function_;
+};
+
+} // namespace talux
+
+#endif

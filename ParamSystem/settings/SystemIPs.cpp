@@ -1,5 +1,0 @@
-#include "ParamSystem/TALUX_Var.h"
-
-int VarSetSystemIPs() {
-    return 1;
-}

@@ -1,0 +1,137 @@
+// Up to four extra addresses of the telecontrol link: alias interfaces with a network route each.
+#include <algorithm>
+#include <arpa/inet.h>
+#include <cstdlib>
+#include <cstring>
+#include <net/if.h>
+#include <netinet/in.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/settings/Settings.h"
+#include "ParamSystem/settings/ShellCommand.h"
+#include "ParamSystem/support/Text.h"
+
+using namespace talux;
+
+namespace {
+
+constexpr Shell kShell("VarT104");
+
+constexpr int kAliasCount = 4;
+constexpr int kIdsPerAlias = 4;
+
+// Texts of normalised addresses.
+struct Alias {
+    AddressText szIPAddress_t104{"0.0.0.0"};
+    AddressText szIPMask_t104{"0.0.0.0"};
+    AddressText szIPGateway_t104{"0.0.0.0"};
+    AddressText szIPNetwork_t104{"0.0.0.0"};
+};
+
+void readIfKnown(AddressText& address, int id) {
+    if (GetParamProperties(id) != nullptr) address = normalised(addressSetting(id));
+}
+
+Alias readAlias(int number) {
+    const int step = (number - 1) * kIdsPerAlias;
+    Alias alias;
+    readIfKnown(alias.szIPAddress_t104, kT104Address1 + step);
+    readIfKnown(alias.szIPMask_t104, kT104Netmask1 + step);
+    readIfKnown(alias.szIPGateway_t104, kT104Gateway1 + step);
+    return alias;
+}
+
+// The four numbers of a normalised address, which lie in the range of int; one that is missing is 0.
+struct Numbers {
+    int part[4] = {};
+};
+
+Numbers numbersOf(const AddressText& address) {
+    Numbers numbers;
+    const char* next = address.text;
+    for (int& part : numbers.part) {
+        char* end = nullptr;
+        part = static_cast<int>(std::strtol(next, &end, 10));
+        if (end == next || *end != '.') break;
+        next = end + 1;
+    }
+    return numbers;
+}
+
+AddressText networkOf(const AddressText& address, const AddressText& netmask) {
+    const Numbers a = numbersOf(address);
+    const Numbers m = numbersOf(netmask);
+    AddressText network;
+    formatText(network.text, sizeof network.text, "%d.%d.%d.%d", a.part[0] & m.part[0], a.part[1] & m.part[1],
+               a.part[2] & m.part[2], a.part[3] & m.part[3]);
+    return network;
+}
+
+// One address of an interface as the kernel has it (SIOCGIFADDR, SIOCGIFNETMASK); empty when it has none.
+AddressText askKernel(int socket, unsigned long request, const char* device, int number) {
+    char name[19];
+    formatText(name, sizeof name, "%s:%d", device, number);
+    ifreq record{};
+    copyText(record.ifr_name, name);
+    record.ifr_addr.sa_family = AF_INET;
+
+    AddressText address;
+    if (ioctl(socket, request, &record) != 0) return address;
+    sockaddr_in answer;
+    std::memcpy(&answer, &record.ifr_addr, sizeof answer);
+    inet_ntop(AF_INET, &answer.sin_addr, address.text, sizeof address.text);
+    return address;
+}
+
+void tearDown(const char* device, int number) {
+    const int socket = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    if (socket < 0) return;
+    const AddressText address = askKernel(socket, SIOCGIFADDR, device, number);
+    const AddressText netmask = askKernel(socket, SIOCGIFNETMASK, device, number);
+    close(socket);
+    if (address.text[0] == '\0' || netmask.text[0] == '\0') return;
+
+    constexpr char kRouteDeletion[] = "route del -net %s netmask %s %s:%d > /dev/null 2>&1";
+    const AddressText network = networkOf(address, netmask);
+    // Twice: the kernel's own route of the alias and the one that was added have the same key.
+    kShell.run(kRouteDeletion, network.text, netmask.text, device, number);
+    kShell.runSilently(kRouteDeletion, network.text, netmask.text, device, number);
+    kShell.run("ifconfig %s:%d down", device, number);
+}
+
+void setUp(const char* device, int number, Alias& alias) {
+    const char* address = alias.szIPAddress_t104.text;
+    const char* netmask = alias.szIPMask_t104.text;
+    if (address == kNoAddress || netmask == kNoAddress) return;
+
+    kShell.run("ifconfig %s:%d %s", device, number, address);
+    kShell.run("ifconfig %s:%d up", device, number);
+    kShell.run("ifconfig %s:%d netmask %s", device, number, netmask);
+    alias.szIPNetwork_t104 = networkOf(alias.szIPAddress_t104, alias.szIPMask_t104);
+    const char* network = alias.szIPNetwork_t104.text;
+    if (isUnset(alias.szIPGateway_t104))
+        kShell.run("route add -net %s netmask %s %s:%d", network, netmask, device, number);
+    else
+        kShell.run("route add -net %s netmask %s gw %s %s:%d", network, netmask, alias.szIPGateway_t104.text,
+                   device, number);
+}
+
+} // namespace
+
+int VarT104() {
+    constexpr int kEthernetUsb = 2;
+
+    Alias t104[kAliasCount];
+    for (int number = 1; number <= kAliasCount; ++number)
+        t104[number - 1] = readAlias(number);
+    const char* device = choiceSetting(kT104Ethernet) == kEthernetUsb ? "eth1" : "eth0";
+
+    for (int number = 1; number <= kAliasCount; ++number)
+        tearDown(device, number);
+    for (int number = 1; number <= kAliasCount; ++number)
+        setUp(device, number, t104[number - 1]);
+    return 1;
+}

@@ -1,0 +1,100 @@
+// Time zone and time service.
+#include <cstring>
+#include <unistd.h>
+
+#include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/settings/Settings.h"
+#include "ParamSystem/settings/ShellCommand.h"
+
+using namespace talux;
+
+namespace {
+
+constexpr Shell kZoneShell("VarTIMEZONE");
+constexpr Shell kTimeShell("VarNTP");
+
+constexpr char kDefaultZone[] = "/usr/share/zoneinfo/UTC";
+
+void readZoneLink(char (&target)[1024]) {
+    const ssize_t length = readlink("/etc/localtime", target, sizeof target - 1);
+    target[length < 0 ? 0 : length] = '\0';
+}
+
+bool linkZone(const char* zone) {
+    // A name that begins like an option must not be one.
+    const char* endOfOptions = zone[0] == '-' ? "-- " : "";
+    return kZoneShell.runSilently("rm -f /etc/localtime;ln -s %s%s /etc/localtime", endOfOptions,
+                                  ShellWord(zone).text());
+}
+
+struct TimeServer {
+    int id;
+    const char* option;
+};
+
+constexpr TimeServer kTimeServers[] = {{kNtp1, " true"}, {kNtp2, ""}};
+
+// Puts the configured servers into the configuration; the first one, empty when there is none.
+AddressText addServers() {
+    AddressText first;
+    for (const auto& [id, option] : kTimeServers) {
+        const AddressText stored = addressSetting(id);
+        if (isUnset(stored)) continue;
+        const AddressText server = normalised(stored);
+        kTimeShell.run("echo server %s%s >> /tmp/ntp.conf", server.text, option);
+        if (first.text[0] == '\0') first = server;
+    }
+    return first;
+}
+
+void addHardwareClock() {
+    kTimeShell.run("echo server 127.127.45.0 >> /tmp/ntp.conf");
+    kTimeShell.run("echo fudge 127.127.45.0 stratum 13 >> /tmp/ntp.conf");
+}
+
+void stopTimeService() {
+    for (const char* program : {"ntpd", "ntpd_restart.sh"})
+        kTimeShell.runSilently("killall -15 %s > /dev/null 2>&1;killall -9 %s > /dev/null 2>&1;", program,
+                               program);
+}
+
+void startTimeService() {
+    kTimeShell.run("ntpd -g -f /tmp/ntp.drift -c /tmp/ntp.conf");
+    kTimeShell.runSilently("/appfs/taluxapp1/ntpd_restart.sh &");
+}
+
+} // namespace
+
+int VarTIMEZONE() {
+    char linked[1024];
+    readZoneLink(linked);
+    char zone[kTextSize] = "";
+    VarGetGlobalTextValue(kTimeZone, zone);
+
+    if (std::strcmp(linked, zone) == 0) {
+        kZoneShell.report("used %s", zone);
+    } else if (zone[0] != '\0' && access(zone, F_OK) == 0) {
+        if (linkZone(zone)) kZoneShell.report("%s", zone);
+    } else {
+        if (linkZone(kDefaultZone)) kZoneShell.report("(default) : %s", kDefaultZone);
+    }
+    return 1;
+}
+
+int VarNTP() {
+    kTimeShell.runSilently("rm -f /tmp/ntp.conf");
+    kTimeShell.runSilently("touch /tmp/ntp.conf");
+    const bool hasHardwareClock = flagSetting(kNtpRtc) == 1;
+    if (flagSetting(kDcf77Active) == 1) {
+        kTimeShell.report("DCF77 is enabled, not start NTP!");
+        return 0;
+    }
+
+    const AddressText server = addServers();
+    const bool hasServer = server.text[0] != '\0';
+    if (hasHardwareClock) addHardwareClock();
+    stopTimeService();
+    if (hasServer) kTimeShell.runSilently("ntpdate -b %s > /dev/null 2>&1; hwclock -w --utc", server.text);
+    if (hasServer || hasHardwareClock) startTimeService();
+    return 1;
+}
