@@ -5,15 +5,25 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 #include "ParamSystem/TALUX_Var.h"
 
 namespace settings_test {
+
+namespace fs = std::filesystem;
+
+// False where the tests run on a container itself, whose name server file cannot be exchanged.
+inline bool ownsSystemFiles() {
+    const char* isolation = std::getenv("TALUX_ISOLATION");
+    return isolation != nullptr && std::string(isolation) != "none";
+}
 
 inline std::string contents(const char* path) {
     std::ifstream file(path, std::ios::binary);
@@ -83,6 +93,32 @@ private:
     static inline char buffer_[BUFSIZ];
     int saved_;
 };
+
+using Command = std::vector<std::string>; // program and arguments
+
+// Programs, found before all others, that note their name and arguments instead of doing anything.
+inline void installRecorders(std::initializer_list<const char*> programs) {
+    fs::create_directories("/tmp/bin");
+    writeFile("/tmp/bin/recorder", "#!/bin/sh\n"
+                                   "printf '%s\\0' \"$#\" \"${0##*/}\" \"$@\" >>/tmp/record\n");
+    fs::permissions("/tmp/bin/recorder", fs::perms::owner_all);
+    for (const char* program : programs)
+        fs::create_symlink("recorder", std::string("/tmp/bin/") + program);
+    setenv("PATH", ("/tmp/bin:" + std::string(std::getenv("PATH"))).c_str(), 1);
+}
+
+// What the recorders noted since the last call.
+inline std::vector<Command> takeRecord() {
+    std::istringstream words(contents("/tmp/record"));
+    std::vector<Command> commands;
+    for (std::string count; std::getline(words, count, '\0');) {
+        Command& command = commands.emplace_back(std::stoul(count) + 1);
+        for (std::string& word : command)
+            std::getline(words, word, '\0');
+    }
+    fs::remove("/tmp/record");
+    return commands;
+}
 
 } // namespace settings_test
 
