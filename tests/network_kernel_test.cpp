@@ -14,7 +14,7 @@ using namespace settings_test;
 namespace {
 
 bool runs(const std::string& command) {
-    return std::system((command + " >/dev/null 2>&1").c_str()) == 0; // NOLINT(cert-env33-c)
+    return std::system(("{ " + command + "; } >/dev/null 2>&1").c_str()) == 0; // NOLINT(cert-env33-c)
 }
 
 std::string dotted(const sockaddr* address) {

@@ -135,7 +135,7 @@ TEST_F(HostileSettings, ValuesWouldDoHarm) {
         harmful += !playground().empty();
         fs::remove("c");
     }
-    EXPECT_GE(harmful, 40);
+    EXPECT_GE(harmful, 30);
     EXPECT_GE(hostileValues().size(), 50U);
 }
 
@@ -218,23 +218,25 @@ TEST_F(HostileSettings, Addresses) {
     const std::set<std::string> known = {"eth0",   "eth1",   "wlan0",  "netmask", "del",  "default",
                                          "add",    "gw",     "-net",   "up",      "down", "-b",
                                          "eth0:1", "eth0:2", "eth0:3", "eth0:4"};
-    for (const std::string& value : hostileValues()) {
+    const std::vector<std::string> values = hostileValues();
+    for (std::size_t run = 0; run < 12; ++run) { // each run gives each address another value
         for (int id = kFirstIp + 1; id < kFirstIp + kIpCount; ++id)
-            putValue(VarSetValue, id, "7." + value);
+            putValue(VarSetValue, id,
+                     "7." + values[(run * 10 + static_cast<std::size_t>(id)) % values.size()]);
         const ErrorStream errors;
         VarSetSystemIPs();
         for (const Command& command : takeRecord()) {
             if (command[0] != "ifconfig" && command[0] != "route" && command[0] != "ntpdate") continue;
             for (std::size_t i = 1; i < command.size(); ++i)
                 EXPECT_TRUE(known.contains(command[i]) || std::regex_match(command[i], address))
-                    << command[i] << " from " << value;
+                    << command[0] << " " << command[i];
         }
         std::istringstream lines(contents("/tmp/ntp.conf"));
         int servers = 0;
         for (std::string line; std::getline(lines, line); ++servers)
             EXPECT_TRUE(std::regex_match(line, std::regex("(server|fudge) [-0-9.]+( true| stratum 13)?")))
                 << line;
-        EXPECT_EQ(servers, 4) << value;
+        EXPECT_EQ(servers, 4);
     }
     EXPECT_EQ(playground(), std::set<std::string>());
 }

@@ -2,7 +2,7 @@
 
 #include "ParamSystem/support/Address.h"
 
-namespace talux {
+namespace talux::settings {
 
 int flagSetting(int id) {
     char value = 0;
@@ -33,4 +33,4 @@ bool isUnset(const AddressText& address) {
     return text.empty() || text == kNoAddress || text == "000.000.000.000";
 }
 
-} // namespace talux
+} // namespace talux::settings

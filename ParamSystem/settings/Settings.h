@@ -6,7 +6,7 @@
 
 #include "ParamSystem/TALUX_Var.h"
 
-namespace talux {
+namespace talux::settings {
 
 // Parameter ids.
 enum Setting : int {
@@ -55,6 +55,6 @@ AddressText normalised(const AddressText& address);
 // True for a stored address that stands for "none": empty or all zero in one of its two usual forms.
 bool isUnset(const AddressText& address);
 
-} // namespace talux
+} // namespace talux::settings
 
 #endif

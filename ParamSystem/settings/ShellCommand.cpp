@@ -8,7 +8,7 @@
 #include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Text.h"
 
-namespace talux {
+namespace talux::settings {
 
 namespace {
 
@@ -80,4 +80,4 @@ bool Shell::runCommand(Announce announce, const char* format, std::va_list argum
     return true;
 }
 
-} // namespace talux
+} // namespace talux::settings

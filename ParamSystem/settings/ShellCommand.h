@@ -8,7 +8,7 @@
 
 #include "ParamSystem/TALUX_Var.h"
 
-namespace talux {
+namespace talux::settings {
 
 // A stored text as the shell takes it for exactly one word, whatever it holds. A text of nothing but
 // letters, digits and @%_+=:,./- stands as it is, any other in single quotes.
@@ -47,6 +47,6 @@ private:
     const char* function_;
 };
 
-} // namespace talux
+} // namespace talux::settings
 
 #endif

@@ -14,7 +14,7 @@
 #include "ParamSystem/settings/ShellCommand.h"
 #include "ParamSystem/support/Text.h"
 
-using namespace talux;
+using namespace talux::settings;
 
 namespace {
 
@@ -65,17 +65,17 @@ AddressText networkOf(const AddressText& address, const AddressText& netmask) {
     const Numbers a = numbersOf(address);
     const Numbers m = numbersOf(netmask);
     AddressText network;
-    formatText(network.text, sizeof network.text, "%d.%d.%d.%d", a.part[0] & m.part[0], a.part[1] & m.part[1],
-               a.part[2] & m.part[2], a.part[3] & m.part[3]);
+    talux::formatText(network.text, sizeof network.text, "%d.%d.%d.%d", a.part[0] & m.part[0],
+                      a.part[1] & m.part[1], a.part[2] & m.part[2], a.part[3] & m.part[3]);
     return network;
 }
 
 // One address of an interface as the kernel has it (SIOCGIFADDR, SIOCGIFNETMASK); empty when it has none.
 AddressText askKernel(int socket, unsigned long request, const char* device, int number) {
     char name[19];
-    formatText(name, sizeof name, "%s:%d", device, number);
+    talux::formatText(name, sizeof name, "%s:%d", device, number);
     ifreq record{};
-    copyText(record.ifr_name, name);
+    talux::copyText(record.ifr_name, name);
     record.ifr_addr.sa_family = AF_INET;
 
     AddressText address;

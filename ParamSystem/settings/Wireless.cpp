@@ -3,7 +3,7 @@
 #include "ParamSystem/settings/Settings.h"
 #include "ParamSystem/settings/ShellCommand.h"
 
-using namespace talux;
+using namespace talux::settings;
 
 namespace {
 
