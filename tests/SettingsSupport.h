@@ -37,7 +37,7 @@ inline void writeFile(const std::string& path, const std::string& text) {
 using Writer = void (*)(int, double*);
 
 inline void putValue(Writer write, int id, std::string value) {
-    double number = std::atof(value.c_str());
+    double number = std::strtod(value.c_str(), nullptr);
     value.resize(kTextSize);
     const bool isText = VarIsText(id) || VarIsIp(id);
     write(id, isText ? reinterpret_cast<double*>(value.data()) : &number);
@@ -104,7 +104,7 @@ inline void installRecorders(std::initializer_list<const char*> programs) {
     fs::permissions("/tmp/bin/recorder", fs::perms::owner_all);
     for (const char* program : programs)
         fs::create_symlink("recorder", std::string("/tmp/bin/") + program);
-    setenv("PATH", ("/tmp/bin:" + std::string(std::getenv("PATH"))).c_str(), 1);
+    setenv("PATH", "/tmp/bin:/usr/sbin:/usr/bin:/sbin:/bin", 1);
 }
 
 // What the recorders noted since the last call.

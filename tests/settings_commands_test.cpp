@@ -466,7 +466,7 @@ TEST_F(SettingsCommands, AddressFileIsApplied) {
 
 // A command that does not fit is not run, and the error stream says so; the others are.
 TEST_F(SettingsCommands, CommandsThatDoNotFit) {
-    const auto essidCommands = [](std::string essid) {
+    const auto essidCommands = [](const std::string& essid) {
         putValue(VarSetGlobalValue, 9022, essid);
         std::istringstream lines(transcriptOf(VarADHOCWLAN0));
         std::string found;

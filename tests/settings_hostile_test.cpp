@@ -87,10 +87,10 @@ std::vector<std::string> hostileValues() {
                                        std::string(127, ' '),
                                        std::string(127, '$')};
     // Each way to start a command, in each surrounding that might let it out.
-    for (const char* escape : {"", "'", "\"", "'\"", "\\'", "x "})
-        for (const std::string start : {";", "&&", "||", "|", "\n", "&", "$(", "`", "'$(", "'`"}) {
-            const std::string end = start.ends_with("(") ? ")" : start.ends_with("`") ? "`" : "";
-            values.push_back(escape + start + ">c" + end + (start.starts_with("'") ? "'" : escape));
+    for (const std::string escape : {"", "'", "\"", "'\"", "\\'", "x "})
+        for (const char* command : {";>c", "&&>c", "||>c", "|>c", "\n>c", "&>c", "$(>c)", "`>c`"}) {
+            values.push_back(escape + command);
+            values.push_back(values.back() + escape);
         }
     for (const char* redirection :
          {">c", ">>c", "x>c", "x 2>c", "x >&c", "'>c'", "\">c\"", "x;>c;#", "x\n>c\n"})
