@@ -10,7 +10,7 @@
  * buffer:   the chunk, NUL-terminated, at most 254 characters; valid during the call only.
  * buffered: 1 while more chunks of the same answer follow, 0 with the last one.
  */
-typedef void (*fnDataOut)(char* buffer, int buffered);
+typedef void (*fnDataOut)(char* buffer, int buffered); /* NOLINT(modernize-use-using): C reads it too */
 
 #ifdef __cplusplus
 

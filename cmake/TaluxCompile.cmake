@@ -16,7 +16,7 @@ endif()
 # those that it uses are asked for, which leaves out the C++ ones: a device without them can load it.
 add_library(talux_module INTERFACE)
 target_compile_options(talux_module INTERFACE
-  -fvisibility=hidden -fvisibility-inlines-hidden -fno-exceptions -fno-rtti -fconstexpr-ops-limit=500000000)
+  -fvisibility=hidden -fvisibility-inlines-hidden -fno-exceptions -fno-rtti)
 target_link_options(talux_module INTERFACE
   -static-libgcc -Wl,--as-needed
   -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack -Wl,-z,nodelete -Wl,--build-id=none)

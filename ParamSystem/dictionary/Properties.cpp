@@ -73,10 +73,16 @@ bool checkedId(int id, const char* function) {
     return asserted(id >= 0, "id>=0", "ParamSystem/TALUX_Params", function);
 }
 
-// Null for position 0 and before the table is loaded.
-const stParamProperties* loadedRow(std::size_t position) {
-    const stParamProperties& row = ParamProperties[position];
-    return row.id != 0 ? &row : nullptr;
+bool isLoaded() {
+    return ParamProperties[1].id != 0;
+}
+
+const stParamProperties* parameterAt(std::size_t position) {
+    return position != 0 ? &ParamProperties[position] : nullptr;
+}
+
+std::string_view nameAt(std::size_t position) {
+    return ParamProperties[position].name;
 }
 
 } // namespace
@@ -93,19 +99,18 @@ int LoadParamProperties(char*) {
 }
 
 const stParamProperties* GetParamProperties(int id) {
-    if (!talux::checkedId(id, __PRETTY_FUNCTION__)) return nullptr;
+    if (!talux::checkedId(id, __PRETTY_FUNCTION__) || !talux::isLoaded()) return nullptr;
     const int place = talux::placeOf(id);
     if (place == talux::kNoPlace) return nullptr;
-    return talux::loadedRow(talux::kIdIndex[static_cast<std::size_t>(place)]);
+    return talux::parameterAt(talux::kIdIndex[static_cast<std::size_t>(place)]);
 }
 
 const stParamProperties* GetParamPropertiesByOrder(int id) {
-    if (!talux::checkedId(id, __PRETTY_FUNCTION__) || id > kParamCount) return nullptr;
-    const stParamProperties& row = talux::ParamProperties[id];
-    return row.name != nullptr ? &row : nullptr;
+    if (!talux::checkedId(id, __PRETTY_FUNCTION__) || !talux::isLoaded() || id > kParamCount) return nullptr;
+    return &talux::ParamProperties[id];
 }
 
 const stParamProperties* GetParamPropertiesByName(char* name) {
-    if (name == nullptr) return nullptr;
-    return talux::loadedRow(talux::kNameIndex.find(name, talux::defaultNameAt));
+    if (name == nullptr || !talux::isLoaded()) return nullptr;
+    return talux::parameterAt(talux::kNameIndex.find(name, talux::nameAt));
 }

@@ -116,7 +116,8 @@ extern const stParamSymbol DefParamSymbols[std::size(talux::kSymbols.rows)]
 
 int ResolveParamSymbol(char* name, VarLong* lvalue) {
     if (name == nullptr) return 0;
-    const std::size_t position = talux::kSymbolIndex.names.find(name, talux::symbolAt);
+    const auto symbolAt = [](std::size_t position) { return DefParamSymbols[position].name; };
+    const std::size_t position = talux::kSymbolIndex.names.find(name, symbolAt);
     if (position == 0) return 0;
     *lvalue = DefParamSymbols[position].value;
     return 1;
