@@ -1,7 +1,9 @@
 #include "ParamSystem/os/Os.h"
 
+#include <atomic>
 #include <cstdarg>
 #include <cstdlib>
+#include <sys/stat.h>
 #include <sys/utsname.h>
 #include <syslog.h>
 
@@ -23,14 +25,21 @@ void closePipe(FILE* pipe) {
     pclose(pipe);
 }
 
+// Reads the time zone file again when it has been exchanged; localtime would do so, and allocate, every time.
+static void followTimeZone() {
+    static constinit std::atomic<unsigned> known{0};
+    struct stat file {};
+    const bool exists = stat("/etc/localtime", &file) == 0;
+    const unsigned current =
+        exists ? static_cast<unsigned>(file.st_ino) * 31 + static_cast<unsigned>(file.st_mtime) : 0U;
+    if (known.exchange(current) != current) tzset();
+}
+
 bool localTime(std::tm& now) {
     now = std::tm{};
     const std::time_t seconds = std::time(nullptr);
-    // localtime, not localtime_r: it notices that the time zone file has been exchanged.
-    const std::tm* local = std::localtime(&seconds); // NOLINT(concurrency-mt-unsafe)
-    if (local == nullptr) return false;
-    now = *local;
-    return true;
+    followTimeZone();
+    return localtime_r(&seconds, &now) != nullptr;
 }
 
 void setClock(std::time_t seconds) {
