@@ -259,7 +259,7 @@ TEST_F(SettingsCommands, NameServer) {
 TEST_F(SettingsCommands, TimeZone) {
     constexpr char kToUtc[] = R"(
 $ rm -f /etc/localtime;ln -s /usr/share/zoneinfo/UTC /etc/localtime
-VarTIMEZONE: (default) : /usr/share/zoneinfo/UTC)";
+VarTIMEZONE (default) : /usr/share/zoneinfo/UTC)";
     constexpr char kToZone[] = R"(
 $ rm -f /etc/localtime;ln -s /tmp/zone /etc/localtime
 VarTIMEZONE: /tmp/zone)";

@@ -11,6 +11,7 @@ using namespace talux::settings;
 namespace {
 
 constexpr Shell kZoneShell("VarTIMEZONE");
+constexpr Shell kDefaultZoneShell("VarTIMEZONE (default) ");
 constexpr Shell kTimeShell("VarNTP");
 
 constexpr char kDefaultZone[] = "/usr/share/zoneinfo/UTC";
@@ -76,7 +77,7 @@ int VarTIMEZONE() {
     } else if (zone[0] != '\0' && access(zone, F_OK) == 0) {
         if (linkZone(zone)) kZoneShell.report("%s", zone);
     } else {
-        if (linkZone(kDefaultZone)) kZoneShell.report("(default) : %s", kDefaultZone);
+        if (linkZone(kDefaultZone)) kDefaultZoneShell.report("%s", kDefaultZone);
     }
     return 1;
 }
