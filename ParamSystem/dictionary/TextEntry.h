@@ -53,41 +53,6 @@ struct TextEntry {
     bool ownNameAsArg = false;                    // commands: item 1 of group 0
 };
 
-// The position of a name in kTextSubjects.
-class SubjectIndex {
-public:
-    constexpr SubjectIndex() {
-        for (int i = 0; i < kTextSubjectCount; ++i)
-            slots[freeSlot(kTextSubjects[static_cast<std::size_t>(i)].name)] = i + 1;
-    }
-
-    constexpr int find(std::string_view name) const {
-        for (std::size_t slot = hash(name); slots[slot] != 0; slot = next(slot))
-            if (kTextSubjects[static_cast<std::size_t>(slots[slot] - 1)].name == name) return slots[slot] - 1;
-        return -1;
-    }
-
-private:
-    static constexpr std::size_t kSlots = 4096;
-
-    static constexpr std::size_t hash(std::string_view name) {
-        std::size_t value = 0;
-        for (char c : name)
-            value = (value * 31 + static_cast<unsigned char>(c)) % kSlots;
-        return value;
-    }
-    static constexpr std::size_t next(std::size_t slot) { return (slot + 1) % kSlots; }
-    constexpr std::size_t freeSlot(std::string_view name) const {
-        std::size_t slot = hash(name);
-        while (slots[slot] != 0)
-            slot = next(slot);
-        return slot;
-    }
-
-    std::array<int, kSlots> slots{};
-};
-inline constexpr SubjectIndex kSubjectIndex;
-
 } // namespace talux
 
 #endif

@@ -6,28 +6,6 @@
 namespace talux {
 namespace {
 
-constexpr std::string_view kPrefix = "TXT_";
-
-constexpr std::size_t kPoolSize = [] {
-    std::size_t size = 0;
-    for (const TextSubject& subject : kTextSubjects)
-        size += kPrefix.size() + subject.name.size() + 1;
-    return size;
-}();
-
-// All names, one behind the other.
-constexpr auto kPool = [] {
-    std::array<char, kPoolSize> pool{};
-    std::size_t end = 0;
-    for (const TextSubject& subject : kTextSubjects) {
-        for (std::string_view piece : {kPrefix, subject.name})
-            for (char c : piece)
-                pool[end++] = c;
-        pool[end++] = '\0';
-    }
-    return pool;
-}();
-
 constexpr stParamSymbol kSentinel{0, "***"};
 
 struct SymbolTable {
@@ -36,24 +14,23 @@ struct SymbolTable {
 
 consteval SymbolTable symbols() {
     SymbolTable table{{kSentinel, {0, "TXT_NULL"}, {0, "TXT_TPL_NULL"}}};
-    std::size_t row = 3, name = 0;
-    for (const TextSubject& subject : kTextSubjects) {
-        table.rows[row++] = {subject.textId, &kPool[name]};
-        name += kPrefix.size() + subject.name.size() + 1;
-    }
+    std::size_t row = 3;
+    for (const TextSubject& subject : kTextSubjects)
+        table.rows[row++] = {subject.textId, subject.symbol};
     table.rows[row] = kSentinel;
     return table;
 }
 
-extern "C" constexpr SymbolTable talux_def_param_text_symbols = symbols();
-
 } // namespace
 } // namespace talux
 
+// The rows are computed as one value; DefParamTextSymbols is their name as an array.
+extern "C" constinit const talux::SymbolTable talux_DefParamTextSymbols = talux::symbols();
 extern const stParamSymbol DefParamTextSymbols[talux::kTextSubjectCount + 4]
-    __attribute__((alias("talux_def_param_text_symbols")));
+    __attribute__((alias("talux_DefParamTextSymbols")));
 
 int ResolveParamTextSymbol(char* name, VarLong* lvalue) {
+    if (name == nullptr) return 0;
     const std::string_view wanted(name);
     for (const stParamSymbol* symbol = DefParamTextSymbols + 1; symbol->name != std::string_view("***");
          ++symbol) {

@@ -34,7 +34,7 @@ public:
     constexpr explicit RowWriter(TextRows& target) : out(target) {}
 
     constexpr void write(const TextEntry& entry, const Member& whose) {
-        const auto position = static_cast<std::size_t>(kSubjectIndex.find(whose.name.view()));
+        const std::size_t position = kTextSubjectIndex.find(whose.name.view());
         SubjectRows& subject = out.subjects[position];
         if (subject.count != 0) wrongTextData("a parameter has its texts twice");
         id = kTextSubjects[position].textId;
@@ -136,10 +136,10 @@ consteval TextTable inCatalogueOrder() {
     return table;
 }
 
-extern "C" constexpr TextTable talux_def_param_text = inCatalogueOrder();
-
 } // namespace
 } // namespace talux
 
-extern const stParamText DefParamText[talux::kTableRows] __attribute__((alias("talux_def_param_text")));
+// The rows are computed as one value; DefParamText is their name as an array.
+extern "C" constinit const talux::TextTable talux_DefParamText = talux::inCatalogueOrder();
+extern const stParamText DefParamText[talux::kTableRows] __attribute__((alias("talux_DefParamText")));
 const int DefParamTextCount = talux::kTableRows;

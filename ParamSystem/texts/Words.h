@@ -15,7 +15,8 @@ namespace talux::texts {
 consteval TextEntry checked(TextEntry entry) {
     if (entry.title.de.empty()) wrongTextData("there is no title");
     forEachMember(entry.subject, [&entry](const Member& member) {
-        if (kSubjectIndex.find(member.name.view()) < 0) wrongTextData("no parameter has this name");
+        if (kTextSubjectIndex.find(member.name.view()) == kTextSubjectCount)
+            wrongTextData("no parameter has this name");
         for (std::string_view title : {entry.title.de, entry.title.en}) {
             int characters = 0;
             fillIn(title, member, [&](std::string_view piece) { characters += countCharacters(piece); });
