@@ -106,6 +106,20 @@ consteval TextRows writeAll() {
 
 constexpr TextRows kRows = writeAll();
 
+// The name of the first subject without texts shows as the template argument in the compiler's message.
+consteval Piece firstWithoutTexts() {
+    for (std::size_t i = 0; i < kTextSubjectCount; ++i)
+        if (kRows.subjects[i].count == 0) return Piece(kTextSubjects[i].name());
+    return {};
+}
+
+template <Piece name>
+struct EveryoneHasTexts {
+    static_assert(name.length == 0, "a parameter or template has no texts: see the template argument");
+    static constexpr bool kHolds = name.length == 0;
+};
+static_assert(EveryoneHasTexts<firstWithoutTexts()>::kHolds);
+
 constexpr auto kPool = [] {
     std::array<char, kRows.poolSize> pool{};
     for (std::size_t i = 0; i < pool.size(); ++i)

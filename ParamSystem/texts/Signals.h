@@ -12,9 +12,7 @@ inline constexpr TextEntry kSignals[] = {
     value("BE{1..6}", {"Binäreingang {n}", "Binary input {n}"},
           {"Zustand von Binäreingang {n} nach Polarität und Schwelle",
            "State of binary input {n} after polarity and threshold"}),
-    value("MW_meas_disp{1..13}", {"Anzeigewert {n}", "Display value {n}"},
-          {"Wert, den Position {n} der Messwertanzeige zeigt",
-           "Value that position {n} of the measurement display shows"}),
+    label("MW_meas_disp{1..13}", {"Anzeigewert {n}", "Display value {n}"}),
 };
 
 } // namespace talux::texts

@@ -54,7 +54,7 @@ inline constexpr TextEntry kTimeServices[] = {
            "First register that the time is written to"}),
     value("Modbustime_tsyncdelay", {"Modbus-Zeit Abstand", "Modbus time interval"},
           {"Abstand zweier Zeittelegramme, als hh:mm", "Time between two time telegrams, as hh:mm"}),
-    value("log_time_change", {"Zeitsprünge loggen", "Log time changes"},
+    value("log_time_change", {"Zeitsprünge ins Logbuch", "Log time changes"},
           {"Jedes Stellen der Uhr in das Logbuch schreiben",
            "Write every setting of the clock to the logbook"}),
 };
