@@ -10,7 +10,7 @@
 # --alone      without the device program: all values are zero at first
 #
 # The exit status is the script's. What is missing is installed (as root) and built first. Where SCRIPT.setup.sh
-# stands beside the script (tour.setup.sh for tour.lua) it is run inside the root before.
+# stands beside the script (tour.setup.sh for tour.lua) it is sourced inside the root before.
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 isolation=() session=(--device "$project/build-release/examples/device")

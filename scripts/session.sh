@@ -3,8 +3,9 @@
 #
 #   session.sh [--setup FILE] [--device PROGRAM] [--emulator "WORD;WORD"] -- COMMAND [ARGUMENT..]
 #
-# The device program is there, with values in the store, before the command starts, and ends with it. It keeps
-# its log in /tmp/device.log. The words stand before the device program when it is not for this processor.
+# FILE is sourced: what it exports, another PATH for instance, holds for the rest. The device program is there,
+# with values in the store, before the command starts, and ends with it. It keeps its log in /tmp/device.log.
+# The words stand before the device program when it is not for this processor.
 set -eu
 
 device='' emulator=() log=/tmp/device.log
@@ -12,7 +13,9 @@ while [ "$#" -gt 0 ]; do
   case $1 in
     --setup)
       [ "$TALUX_ISOLATION" != none ] || { echo "session.sh: $2 needs namespaces" >&2; exit 2; }
-      bash "$2"; shift 2 ;;
+      # shellcheck source=/dev/null
+      . "$2"
+      shift 2 ;;
     --device) device=$2; shift 2 ;;
     --emulator) IFS=";" read -ra emulator <<<"$2"; shift 2 ;;
     --) shift; break ;;

@@ -11,6 +11,7 @@
 #include <sys/syscall.h>
 
 #include "SettingsSupport.h"
+#include "src/talux_interpreter.h"
 
 using namespace settings_test;
 
@@ -462,6 +463,29 @@ TEST_F(SettingsCommands, AddressFileIsApplied) {
         << reset;
     EXPECT_NE(reset.find(expanded(STEP("10.0.0.5"))), std::string::npos) << "time servers stay\n" << reset;
     EXPECT_TRUE(reset.ends_with(tail + "$ rm -f /var/resolv.conf\n$ touch /var/resolv.conf\n")) << reset;
+}
+
+// Of all writes only that of an interface's address applies the settings; load_ip does, too.
+TEST_F(SettingsCommands, CommandLanguage) {
+    const auto transcript = [](const char* line) {
+        static std::string text;
+        text = line;
+        return transcriptOf([] {
+            char answer[TALUX_ANSWER_SIZE], terminator[] = "\n";
+            return talux_interpreter_ProcessLine(
+                text.data(), [](char*, int) {}, answer, terminator);
+        });
+    };
+    resetStore();
+    EXPECT_EQ(transcript(
+                  "TLX_ETH0_MASK=\"255.0.0.0\",TLX_ETH0_GATEWAY=\"0.0.0.0\",TLX_DNS=\"0.0.0.0\",TLX_essid=x"),
+              "");
+    for (const char* line :
+         {"TLX_ETH0_IP=\"10.0.0.88\"", "TLX_eth1_ip=\"10.0.0.89\"", "TLX_WLAN0_IP=10.0.0.90", "load_ip"})
+        EXPECT_TRUE(transcript(line).starts_with(expanded("VarStaticIP$ ifconfig eth0 10.0.0.88\n"
+                                                          "VarStaticIP$ ifconfig eth0 netmask 255.0.0.0\n"
+                                                          "$ ifconfig eth1 down > /dev/null 2>&1")))
+            << line;
 }
 
 // A command that does not fit is not run, and the error stream says so; the others are.
