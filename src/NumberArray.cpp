@@ -55,7 +55,7 @@ public:
     using Element = typename Kind::Element;
 
     // More elements no 32-bit device could address.
-    static constexpr lua_Number kMaxSize = (UINT32_MAX - sizeof(Header)) / sizeof(Element);
+    static constexpr std::uint32_t kMaxSize = (UINT32_MAX - sizeof(Header)) / sizeof(Element);
 
     static void create(lua_State* L, std::int32_t size) {
         auto* const block = static_cast<Header*>(lua_newuserdata(L, bytes(size)));
