@@ -16,10 +16,19 @@ bool checked(int id, const char* accessor) {
     return talux::asserted(talux::holds(kind, id), talux::blockOf(kind).assertion, TALUX_UNIT, accessor);
 }
 
+// Readers of runs insist on the kind too, except those of long, which ignore foreign ids.
+template <Kind kind>
+bool isReadable(int id, const char* accessor) {
+    if constexpr (kind == Kind::Long)
+        return talux::holds(kind, id);
+    else
+        return checked<kind>(id, accessor);
+}
+
 } // namespace
 
-// The members of each family for one kind. Readers of single values and runs, and writers of single values,
-// insist on the kind; writers of runs ignore foreign ids.
+// The members of each family for one kind. Single values insist on the kind; writers of runs ignore foreign
+// ids.
 #define TALUX_SET_NUMBER(Prefix, Name, space)                                                                \
     void Prefix##Name##Value(int id, Number<Kind::Name> val) {                                               \
         if (checked<Kind::Name>(id, __func__)) talux::putNumber<Kind::Name, space>(id, val);                 \
@@ -34,7 +43,7 @@ bool checked(int id, const char* accessor) {
     }
 #define TALUX_GET_RUN(Prefix, Name, space)                                                                   \
     void Prefix##Name##ValueArray(int id, Number<Kind::Name>* pDest, unsigned long aCount) {                 \
-        if (checked<Kind::Name>(id, __func__)) talux::getRun<Kind::Name, space>(id, pDest, aCount);          \
+        if (isReadable<Kind::Name>(id, __func__)) talux::getRun<Kind::Name, space>(id, pDest, aCount);       \
     }
 #define TALUX_SET_TEXT(Prefix, Name, space)                                                                  \
     void Prefix##Name##Value(int id, char* val) {                                                            \
