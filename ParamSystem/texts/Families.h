@@ -6,12 +6,8 @@
 
 #include "ParamSystem/texts/AnalogInputs.h"
 #include "ParamSystem/texts/BinaryIO.h"
-#include "ParamSystem/texts/Calibration.h"
-#include "ParamSystem/texts/DeviceStatus.h"
-#include "ParamSystem/texts/Dialogs.h"
 #include "ParamSystem/texts/Display.h"
 #include "ParamSystem/texts/EarthFault.h"
-#include "ParamSystem/texts/EarthFaultMethods.h"
 #include "ParamSystem/texts/Firewall.h"
 #include "ParamSystem/texts/Identification.h"
 #include "ParamSystem/texts/Measurements.h"
@@ -19,6 +15,7 @@
 #include "ParamSystem/texts/Network.h"
 #include "ParamSystem/texts/ProcessImages.h"
 #include "ParamSystem/texts/Recorder.h"
+#include "ParamSystem/texts/Records.h"
 #include "ParamSystem/texts/Runtime.h"
 #include "ParamSystem/texts/Scripting.h"
 #include "ParamSystem/texts/Security.h"
@@ -27,7 +24,6 @@
 #include "ParamSystem/texts/Signals.h"
 #include "ParamSystem/texts/Snapshot.h"
 #include "ParamSystem/texts/State.h"
-#include "ParamSystem/texts/Statistics.h"
 #include "ParamSystem/texts/Telecontrol.h"
 #include "ParamSystem/texts/Templates.h"
 #include "ParamSystem/texts/TimeServices.h"
@@ -36,12 +32,10 @@
 namespace talux::texts {
 
 inline constexpr std::span<const TextEntry> kFamilies[] = {
-    kDialogs,           kTemplates,    kState,       kMeasurements, kSignals,
-    kIdentification,    kDeviceStatus, kDisplay,     kNetwork,      kFirewall,
-    kTimeServices,      kSerialPorts,  kModbusSlave, kTelecontrol,  kScripting,
-    kProcessImages,     kAnalogInputs, kCalibration, kBinaryIO,     kEarthFault,
-    kEarthFaultMethods, kRecorder,     kStatistics,  kUserTexts,    kService,
-    kSecurity,          kRuntime,      kSnapshot,
+    kTemplates, kState,         kMeasurements, kSignals,     kIdentification, kDisplay,
+    kNetwork,   kFirewall,      kTimeServices, kSerialPorts, kModbusSlave,    kTelecontrol,
+    kScripting, kProcessImages, kAnalogInputs, kBinaryIO,    kEarthFault,     kRecorder,
+    kUserTexts, kService,       kSecurity,     kRuntime,     kSnapshot,       kRecords,
 };
 
 } // namespace talux::texts

@@ -1,4 +1,4 @@
-// Further settings, counters, override values, output states, calibration results, records.
+// Further settings, counters, override values, output states, calibration results.
 #ifndef TALUX_TEXTS_RUNTIME_H
 #define TALUX_TEXTS_RUNTIME_H
 
@@ -80,17 +80,6 @@ inline constexpr TextEntry kRuntime[] = {
     value("mw_req", {"Messwertabbild holen", "Request snapshot"},
           {"Fordert ein Abbild aller Messwerte an; 1 = anfordern",
            "Requests a snapshot of all measured values; 1 = request"}),
-    label("BA_RelayBack", {"Relaisrückmeldung", "Relay feedback"}),
-    label("DisplayLevel", {"Anzeigeebene", "Display level"}),
-    value("MessRecord01", {"Messdatensatz 1", "Measurement record 1"},
-          {"Zeitgleicher Satz der Spannungen, Ströme, Winkel und Leistungen",
-           "Set of voltages, currents, angles and powers of one moment"}),
-    value("MessRecord02", {"Messdatensatz 2", "Measurement record 2"},
-          {"Zeitgleicher Satz der Oberschwingungen, Eingangsspannungen und Zustände",
-           "Set of harmonics, input voltages and states of one moment"}),
-    value("StatRecord_c0", {"Statistiksatz", "Statistics record"},
-          {"Größt-, Kleinst- und Mittelwerte des letzten Statistikintervalls",
-           "Maxima, minima and averages of the last statistics interval"}),
 };
 
 } // namespace talux::texts

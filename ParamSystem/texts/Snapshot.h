@@ -55,6 +55,9 @@ inline constexpr TextEntry kSnapshot[] = {
           {"Mittelwert der Spannung am Binäreingang {n} im Augenblick der Anforderung",
            "Average voltage at binary input {n} at the moment of the request"},
           "V"),
+
+    label("BA_RelayBack", {"Relaisrückmeldung", "Relay feedback"}),
+    label("DisplayLevel", {"Anzeigeebene", "Display level"}),
 };
 
 } // namespace talux::texts
