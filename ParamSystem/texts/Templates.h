@@ -33,7 +33,7 @@ inline constexpr TextEntry kTemplates[] = {
            {"Gemessene Spannung\naußerhalb des\nzulässigen Bereichs",
             "Measured voltage\noutside the\npermitted range"}),
     dialog("TPL_DLG_CalibrationResult", {"Abgleich: Ergebnis", "Calibration: result"},
-           {"Neue Wandler-\nübersetzungen\nberechnet", "New VT ratios\ncalculated"}),
+           {"Neue Übersetzungen\nberechnet", "New ratios\ncalculated"}),
     dialog("TPL_DLG_CalibrationConfirm", {"Werte übernehmen?", "Accept values?"},
            {"Neue Übersetzungen\nübernehmen?", "Take over the\nnew ratios?"}, {"ja|nein", "yes|no"}),
     dialog("TPL_DLG_CalibrationDone", {"Abgleich fertig", "Calibration done"},
