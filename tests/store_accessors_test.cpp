@@ -2,6 +2,7 @@
 #include "StoreMembers.h"
 
 #include <climits>
+#include <gmock/gmock.h>
 
 using namespace talux_test;
 
@@ -110,8 +111,9 @@ TEST_F(Family, ReadsASlotWithoutANul) {
     }
 }
 
-std::string failedAssertion(const std::string& function, const std::string& text) {
-    return "ParamSystem/TALUX_Var: " + function + ": Assertion `" + text + "' failed.\n";
+// The start only: an emulator that runs the device's programs adds a line of its own.
+auto failedAssertion(const std::string& function, const std::string& text) {
+    return testing::StartsWith("ParamSystem/TALUX_Var: " + function + ": Assertion `" + text + "' failed.\n");
 }
 
 // Single values and the readers of runs but long insist on their kind, each with its own name and text.
@@ -123,17 +125,15 @@ TEST_F(Family, AbortsOnForeignIds) {
         for (const int space : {kTemp, kGlobal}) {
             const std::string name = std::string(space ? "Global" : "") + block.name + "Value";
             std::memset(buffer, 0, sizeof buffer);
-            EXPECT_DEATH(member.set[space](block.first - 1, buffer),
-                         testing::Eq(failedAssertion("VarSet" + name, text)));
-            EXPECT_DEATH(member.get[space](block.end(), buffer),
-                         testing::Eq(failedAssertion("VarGet" + name, text)));
+            EXPECT_DEATH(member.set[space](block.first - 1, buffer), failedAssertion("VarSet" + name, text));
+            EXPECT_DEATH(member.get[space](block.end(), buffer), failedAssertion("VarGet" + name, text));
             if (block.isText) continue;
             if (name.find("Long") != std::string::npos) {
                 member.getRun[space](block.end(), buffer, 1); // does nothing
                 continue;
             }
             EXPECT_DEATH(member.getRun[space](block.end(), buffer, 1),
-                         testing::Eq(failedAssertion("VarGet" + name + "Array", text)));
+                         failedAssertion("VarGet" + name + "Array", text));
         }
     }
 }
@@ -165,15 +165,15 @@ TEST(Records, AreCopiedFromTheirStart) {
         char buffer[240] = {};
         const std::string tooLarge = "size <= ARR_StructSize[struct_index]";
         EXPECT_DEATH(VarSetGlobalStructValue(record.id, buffer, record.size + 1),
-                     testing::Eq(failedAssertion("VarSetGlobalStructValue", tooLarge)));
+                     failedAssertion("VarSetGlobalStructValue", tooLarge));
         EXPECT_DEATH(VarGetGlobalStructValue(record.id, buffer, record.size + 1),
-                     testing::Eq(failedAssertion("VarGetGlobalStructValue", tooLarge)));
+                     failedAssertion("VarGetGlobalStructValue", tooLarge));
     }
     char buffer[240] = {};
     EXPECT_DEATH(VarSetGlobalStructValue(29999, buffer, 1),
-                 testing::Eq(failedAssertion("VarSetGlobalStructValue", "VarIsStruct(id)")));
+                 failedAssertion("VarSetGlobalStructValue", "VarIsStruct(id)"));
     EXPECT_DEATH(VarGetGlobalStructValue(30003, buffer, 1),
-                 testing::Eq(failedAssertion("VarGetGlobalStructValue", "VarIsStruct(id)")));
+                 failedAssertion("VarGetGlobalStructValue", "VarIsStruct(id)"));
 }
 
 } // namespace
