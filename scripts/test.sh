@@ -23,7 +23,13 @@ lint() { scripts/lint.sh; }
 
 on_device() {
   need "$2-g++:g++-$2" qemu-arm:qemu-user
-  quiet scripts/device.sh "$1" && run_tests "build-$1"
+  quiet scripts/device.sh "$1" && run_tests "build-$1" && same_image "$1"
+}
+
+# The device leaves the same bytes behind as this machine.
+same_image() {
+  build release && quiet ctest --test-dir build-release -R '^device_image$' &&
+    scripts/compare-images.sh build-release "build-$1" | tee -a "$results/summary"
 }
 
 # The tests that start threads, under the thread sanitizer.
@@ -132,7 +138,7 @@ set -o pipefail
 results=$(mktemp -d)
 trap 'rm -rf "$results"' EXIT
 need_build_tools
-need ip:iproute2 ifconfig:net-tools killall:psmisc
+need ip:iproute2 ifconfig:net-tools killall:psmisc qemu-arm:qemu-user pkg-config:pkg-config
 failed=()
 as=()
 for stage in "${stages[@]}"; do

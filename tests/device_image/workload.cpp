@@ -1,0 +1,205 @@
+// Puts the store through everything that leaves bytes behind, the same on every platform: each platform's
+// segments, files, answers and commands are kept, and must equal those of the others byte for byte.
+//
+//   workload defaults        factory defaults, committed and saved
+//   workload writes SCRIPT   the script's lines, then values of every kind, committed and saved
+//
+// The clock stands still and shell commands are only noted, in /commands.txt; answers go to /answers.txt.
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+
+#include "ParamSystem/KEPL_Interpreter.h"
+#include "ParamSystem/TALUX_Var.h"
+#include "src/talux_interpreter.h"
+
+extern "C" std::time_t time(std::time_t* out) noexcept {
+    constexpr std::time_t kNow = 1709648553; // 2024-03-05 14:22:33 UTC
+    if (out != nullptr) *out = kNow;
+    return kNow;
+}
+
+extern "C" int system(const char* command) {
+    std::FILE* log = std::fopen("/commands.txt", "a");
+    if (log == nullptr) return -1;
+    std::fprintf(log, "%s\n", command);
+    return std::fclose(log);
+}
+
+namespace {
+
+std::uint32_t nextRandom() {
+    static std::uint32_t state = 20240305;
+    state ^= state << 13;
+    state ^= state >> 17;
+    state ^= state << 5;
+    return state;
+}
+
+// Whole numbers, fractions and values beyond every range.
+double someNumber() {
+    const auto whole = static_cast<std::int32_t>(nextRandom());
+    switch (nextRandom() % 6) {
+    case 0:
+        return whole % 1000;
+    case 1:
+        return whole;
+    case 2:
+        return whole / 4096.0;
+    case 3:
+        return whole * 1e6;
+    case 4:
+        return whole / 1e12;
+    default:
+        return whole % 2;
+    }
+}
+
+// Up to 139 characters, longer than any slot, some of them above 127.
+void someText(char (&text)[140]) {
+    static const char alphabet[] = "abcXYZ0123456789 .,:-_/%#;\xC4\xE4\xFF";
+    std::memset(text, 0, sizeof text);
+    const std::uint32_t length = nextRandom() % sizeof text;
+    for (std::uint32_t i = 0; i < length; i++)
+        text[i] = alphabet[nextRandom() % (sizeof alphabet - 1)];
+}
+
+void fillBlock(int first, int count, bool text, void (*set)(int, double*)) {
+    for (int id = first; id < first + count; id++) {
+        union {
+            double number;
+            char text[140];
+        } value;
+        if (text)
+            someText(value.text);
+        else
+            value.number = someNumber();
+        set(id, &value.number);
+    }
+}
+
+void fillSpaces() {
+    struct Block {
+        int first, count;
+        bool text;
+    };
+    constexpr std::array<Block, 11> blocks = {{{kFirstDouble, kDoubleCount, false},
+                                               {kFirstFloat, kFloatCount, false},
+                                               {kFirstLong, kLongCount, false},
+                                               {kFirstInt, kIntCount, false},
+                                               {kFirstBool, kBoolCount, false},
+                                               {kFirstText, kTextCount, true},
+                                               {kFirstEnum, kEnumCount, false},
+                                               {kFirstSysDate, kSysDateCount, true},
+                                               {kFirstSysTime, kSysTimeCount, true},
+                                               {kFirstId, kIdCount, true},
+                                               {kFirstIp, kIpCount, true}}};
+    for (const Block& block : blocks) {
+        fillBlock(block.first, block.count, block.text, VarSetValue);
+        fillBlock(block.first, block.count, block.text, VarSetGlobalValue);
+    }
+    for (int record = 0; record < kRecordCount; record++) {
+        std::array<std::uint32_t, kLargestRecord / 4> words;
+        for (std::uint32_t& word : words)
+            word = nextRandom() & ~0x40000000U; // every word a finite float
+        VarSetGlobalStructValue(kFirstStruct + record, words.data(), ARR_StructSize[record]);
+    }
+}
+
+// Values at known places, which inspect.c looks for.
+void writeLandmarks() {
+    VarSetFloatValue(2000, -1.5F);
+    VarSetGlobalFloatValue(2311, 0.1F);
+    VarSetDoubleValue(1000, -0.1);
+    VarSetGlobalDoubleValue(1383, 1e300);
+    VarLong longs[] = {-2, 2147483647, -2147483647 - 1};
+    VarSetGlobalLongValueArray(6094, longs, 3);
+    VarSetLongValue(7268, 123456789);
+    double both = 70000.0; // lands in the int and in the long slot
+    VarSetGlobalValue(7000, &both);
+    VarSetGlobalIntValue(7006, -32768);
+    VarSetBoolValue(8190, static_cast<char>(200));
+    char name[] = "Station \xC4\xD6", far[] = "last text slot", day[] = "2031-12-24", now[] = "23:59:58";
+    char id[] = "A:7", gateway[] = "10.1.255.254", last[] = "1.2.3.4";
+    VarSetTextValue(9000, name);
+    VarSetGlobalTextValue(9068, far);
+    VarSetEnumValue(10005, 259);
+    VarSetEnumValue(10130, -1);
+    VarSetSysDateValue(13000, day);
+    VarSetSysTimeValue(14000, now);
+    VarSetIdValue(15000, id);
+    VarSetIpValue(16035, gateway);
+    VarSetIpValue(16037, last);
+    std::array<std::uint32_t, kLargestRecord / 4> record{};
+    for (int i = 0; i < kRecordCount; i++) {
+        record.fill(0);
+        record.front() = 1000U + static_cast<std::uint32_t>(i);
+        VarSetGlobalStructValue(kFirstStruct + i, record.data(), 4);
+    }
+}
+
+void ask(std::FILE* answers, const char* line) {
+    char copy[kKeplMaxLine + 1];
+    static char result[TALUX_ANSWER_SIZE];
+    char terminator[] = "";
+    std::snprintf(copy, sizeof copy, "%s", line);
+    result[0] = '\0';
+    const int status = talux_interpreter_ProcessLine(
+        copy, [](char*, int) {}, result, terminator);
+    if (status < 0) talux_interpreter_GetError(result, kKeplMaxTerm + 1);
+    std::fprintf(answers, "%s -> %d %s\n", line, status, result);
+}
+
+// Every parameter once, an indexed one as a list and its first elements in hex.
+void readAll(std::FILE* answers) {
+    for (int i = 1; i <= kParamCount; i++) {
+        const stParamProperties* row = GetParamPropertiesByOrder(i);
+        if (row == nullptr || row->name[0] == '\0' || row->val_access == kWriteOnly) continue;
+        char line[kKeplMaxLine + 1];
+        if (row->val_max_id == 0) {
+            std::snprintf(line, sizeof line, "TLX_%s", row->name);
+            ask(answers, line);
+        } else if (GetParamPropertiesByName(const_cast<char*>(row->name)) == row) {
+            std::snprintf(line, sizeof line, "TLX_%s 1.%d -c", row->name, row->val_max_id);
+            ask(answers, line);
+            std::snprintf(line, sizeof line, "TLX_%s 1.9 -h", row->name);
+            ask(answers, line);
+        }
+    }
+}
+
+bool runScript(const char* file, std::FILE* answers) {
+    std::FILE* script = std::fopen(file, "r");
+    if (script == nullptr) return false;
+    char line[kKeplMaxLine + 3];
+    while (std::fgets(line, sizeof line, script) != nullptr) {
+        line[std::strcspn(line, "\n")] = '\0';
+        if (line[0] != '\0' && line[0] != '#') ask(answers, line);
+    }
+    return std::fclose(script) == 0;
+}
+
+int saveAll() {
+    return VarSaveParams() == 1 && VarSaveSecParams() == 1 && VarSaveIPConfig() == 1 ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::FILE* answers = std::fopen("/answers.txt", "w");
+    if (argc < 2 || answers == nullptr) return 2;
+    talux_interpreter_Init();
+    if (std::strcmp(argv[1], "defaults") == 0) {
+        VarSetDefault();
+        if (saveAll() != 0) return 1;
+    } else {
+        if (argc < 3 || !runScript(argv[2], answers)) return 2;
+        fillSpaces();
+        writeLandmarks();
+        if (saveAll() != 0) return 1;
+    }
+    readAll(answers);
+    return std::fclose(answers);
+}
