@@ -23,7 +23,7 @@ foreach(folder ParamSystem MenuSystem)
   file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.h)
   install(FILES ${headers} DESTINATION ${talux_include_dir}/${folder})
 endforeach()
-install(FILES src/talux_interpreter.h DESTINATION ${talux_include_dir}/src)
+install(FILES src/talux_interpreter.h src/lib_talux_lua.h DESTINATION ${talux_include_dir}/src)
 
 install(EXPORT talux_lua NAMESPACE talux_lua:: DESTINATION ${talux_package_dir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/talux_lua-config-version.cmake

@@ -1,31 +1,26 @@
-#!/bin/sh
-# Builds the module for a device: stripped, installed below build-ARCH/device, its size printed.
+#!/bin/bash
+# Builds the module for a device: stripped, installed below build-ARCH/device, its size printed. What is
+# missing is installed (as root).
 #
 #   device.sh armv7|armv5te [CMAKE-OPTION..]
-set -eu
-cd "$(dirname "$0")/.."
+. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+cd "$project"
 
 arch=${1-}
 case $arch in
   armv7) multiarch=arm-linux-gnueabihf debian=armhf ;;
   armv5te) multiarch=arm-linux-gnueabi debian=armel ;;
-  *) echo "usage: device.sh armv7|armv5te [CMAKE-OPTION..]" >&2; exit 2 ;;
+  *) fail 'usage: device.sh armv7|armv5te [CMAKE-OPTION..]' ;;
 esac
 shift
 
-missing=''
-need() { command -v "$1" >/dev/null || missing="$missing $2"; }
-need "$multiarch-g++" "g++-$multiarch"
-need qemu-arm qemu-user
-need cmake cmake
-need ninja ninja-build
-[ -z "$missing" ] || { echo "device.sh: install first: apt-get install$missing" >&2; exit 1; }
-
+need "$multiarch-g++:g++-$multiarch" qemu-arm:qemu-user cmake:cmake ninja:ninja-build \
+  /usr/src/googletest/CMakeLists.txt:googletest
 scripts/sysroot.sh "$debian" "build-sysroot/$debian"
 cmake --preset "$arch" "$@"
 cmake --build "build-$arch"
 rm -rf "build-$arch/device"
-cmake --install "build-$arch" --prefix "build-$arch/device" --strip
-library=$(find "build-$arch/device" -name 'lib_talux_lua.so.1*' -type f)
+cmake --install "build-$arch" --prefix "build-$arch/device" --component runtime --strip
+library=build-$arch/device/lib/lib_talux_lua.so.1
 "$multiarch-size" "$library"
 echo "$library: $(stat -c %s "$library") bytes"

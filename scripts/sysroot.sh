@@ -1,11 +1,11 @@
 #!/bin/sh
-# Unpacks what an ARM program of ours needs to run (Lua 5.2, the C and C++ libraries) into a folder of its
+# Unpacks what a program of ours needs to run (Lua 5.2, the C and C++ libraries) into a folder of its
 # own. Nothing is installed, the packages and architectures of this machine stay as they are; no rights needed.
 #
-#   sysroot.sh armhf|armel DIR
+#   sysroot.sh armhf|armel|amd64 DIR
 set -eu
 
-[ "$#" = 2 ] || { echo "usage: sysroot.sh armhf|armel DIR" >&2; exit 2; }
+[ "$#" = 2 ] || { echo "usage: sysroot.sh armhf|armel|amd64 DIR" >&2; exit 2; }
 architecture=$1
 packages='libc6 libgcc-s1 libstdc++6 liblua5.2-0 liblua5.2-dev libreadline8 libtinfo6 lua5.2'
 

@@ -1,0 +1,75 @@
+#!/bin/sh
+# Tries what a user gets, the installed tree and the packages, in a scratch root with Debian's Lua 5.2 and
+# nothing of the build: require needs no setting, and programs build and run against it.
+#
+#   run.sh BUILD ARCHITECTURE C-COMPILER CMAKE [CMAKE-OPTION..]
+set -eu
+build=$1 architecture=$2 compiler=$3 cmake=$4
+shift 4
+project=$(cd "$(dirname "$0")/../.." && pwd)
+work=$build/tests/installed
+[ -w "$build" ] || { echo 'skipped: the build folder is closed to this user'; exit 77; }
+for command in qemu-arm:qemu-user pkg-config:pkg-config dpkg-deb:dpkg apt-get:apt; do
+  command -v "${command%:*}" >/dev/null || { echo "skipped: needs the package ${command#*:}"; exit 77; }
+done
+case $architecture in
+  amd64) emulator=qemu-x86_64 ;;
+  armhf) emulator='qemu-arm -cpu cortex-a7' ;;
+  armel) emulator='qemu-arm -cpu arm926' ;;
+esac
+
+fail() { echo "FAILED: $*" >&2; exit 1; }
+fresh_root() { # NAME: a scratch root
+  "$project/scripts/sysroot.sh" "$architecture" "$project/build-sysroot/$architecture"
+  rm -rf "$work/$1"
+  mkdir -p "$work"
+  cp -al "$project/build-sysroot/$architecture" "$work/$1"
+}
+inside() { # NAME PROGRAM ARGUMENT..: runs a program with the scratch root as its /usr
+  name=$1 program=$2
+  shift 2
+  # shellcheck disable=SC2086 # the emulator's options are words
+  "$project/scripts/isolated.sh" --read "$work" -- env -u LUA_CPATH $emulator -L "$work/$name" "$program" "$@"
+}
+try_script() { # NAME
+  answer=$(inside "$1" "$work/$1/usr/bin/lua5.2" -e 'require "lib_talux_lua" print(talux_command("1,2,+"))')
+  [ "$answer" = 3.000000 ] || fail "$1: require gave '$answer'"
+}
+
+# The tree of cmake --install.
+fresh_root tree
+DESTDIR=$work/tree "$cmake" --install "$build" --prefix /usr/local >/dev/null
+try_script tree
+
+# Programs that know the installed tree only, found by CMake and by pkg-config.
+rm -rf "$work/programs"
+"$cmake" -G Ninja -S "$project/examples/programs" -B "$work/programs" \
+  -DCMAKE_PREFIX_PATH="$work/tree/usr/local" "$@" >/dev/null
+"$cmake" --build "$work/programs" >/dev/null
+status=0
+answer=$(inside tree "$work/programs/answers" TLX_Language=2 TLX_Language,10,\* nonsense 2>"$work/errors") || status=$?
+[ "$status$answer" = '1
+20.000000' ] || fail "answers: $status: $answer"
+[ "$(cat "$work/errors")" = '<< SYNTAX ERROR >>' ] || fail "answers: $(cat "$work/errors")"
+answer=$(inside tree "$work/programs/station" 'Nord 1')
+[ "$answer" = 'Name (id 9000) was ""
+Name (id 9000) is "Nord 1"' ] || fail "station: $answer"
+
+flags=$(PKG_CONFIG_LIBDIR=$work/tree/usr/local/lib/pkgconfig pkg-config --cflags --libs talux_lua)
+# shellcheck disable=SC2086 # flags are words
+"$compiler" "$project/examples/programs/answers.c" $flags -Wl,-rpath,/usr/local/lib -o "$work/answers"
+answer=$(inside tree "$work/answers" '6,7,*')
+[ "$answer" = 42.000000 ] || fail "answers built with pkg-config: $answer"
+
+# The packages: the first one alone is enough for scripts.
+rm -f "$work"/*.deb
+cpack=$(dirname "$cmake")/cpack
+"$cpack" --config "$build/CPackConfig.cmake" -B "$work" >/dev/null
+fresh_root package
+dpkg-deb -x "$work"/talux-lua_*_"$architecture".deb "$work/package"
+try_script package
+dpkg-deb -x "$work"/talux-lua-dev_*_"$architecture".deb "$work/package"
+(cd "$work/tree/usr/local" && find . ! -type d | LC_ALL=C sort) >"$work/tree.list"
+(cd "$work/package/usr" && find include/talux_lua lib/cmake lib/pkgconfig lib/lua lib/lib_talux* ! -type d |
+  sed 's|^|./|' | LC_ALL=C sort) | diff "$work/tree.list" - || fail 'packages and installed tree differ'
+echo 'installed tree, programs and packages work'
