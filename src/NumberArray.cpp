@@ -58,8 +58,9 @@ public:
     static constexpr std::uint32_t kMaxSize = (UINT32_MAX - sizeof(Header)) / sizeof(Element);
 
     static void create(lua_State* L, std::int32_t size) {
-        auto* const block = static_cast<Header*>(lua_newuserdata(L, bytes(size)));
-        std::memset(static_cast<void*>(block), 0, bytes(size));
+        const auto length = static_cast<std::size_t>(bytes(size));
+        auto* const block = static_cast<Header*>(lua_newuserdata(L, length));
+        std::memset(static_cast<void*>(block), 0, length);
         *block = {size, Kind::kType};
     }
 
@@ -68,7 +69,7 @@ public:
         auto* const block = static_cast<Header*>(lua_touserdata(L, argument));
         const std::size_t length = lua_rawlen(L, argument);
         if (block == nullptr || length < sizeof(Header)) return;
-        if (block->type == Kind::kType && block->size >= 0 && length == bytes(block->size)) header = block;
+        if (block->type == Kind::kType && length == bytes(block->size)) header = block;
     }
 
     explicit operator bool() const { return header != nullptr; }
@@ -79,8 +80,9 @@ public:
 private:
     Header* header = nullptr;
 
-    static std::size_t bytes(std::int32_t size) {
-        return sizeof(Header) + static_cast<std::size_t>(size) * sizeof(Element);
+    // 64 bits: what another module put there must not wrap around to a length that fits.
+    static std::uint64_t bytes(std::int32_t size) {
+        return sizeof(Header) + static_cast<std::uint64_t>(size) * sizeof(Element);
     }
 };
 

@@ -38,9 +38,9 @@ case("elements are stored as their kind stores them", function()
 end)
 
 case("arguments are refused in their order: numbers, array, index", function()
-  for _, kind in ipairs {{long, "longarray", longs, doubles}, {double, "doublearray", doubles, longs}} do
+  for _, kind in ipairs {{long, "longarray", longs, double}, {double, "doublearray", doubles, long}} do
     local functions, name, own, other = kind[1], kind[2], kind[3], kind[4]
-    local wrong = {other}
+    local wrong = {other.new(3), other.new(0)}
     for _, value in ipairs(foreign) do wrong[#wrong + 1] = value end
     for _, value in ipairs(wrong) do
       expectError(("#1 ('_talux_%s' expected)"):format(name), functions.size, value)

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cstring>
 #include <lua.hpp>
 #include <unistd.h>
 #include <vector>
@@ -52,6 +53,39 @@ TEST_F(LuaHost, SleepsWholeMicrosecondsNeverNegative) {
         sleeps.assign(1, 0);
         run((std::string("talux_usleep(") + argument + ")").c_str());
         EXPECT_EQ(sleeps.back(), microseconds) << argument;
+    }
+}
+
+// Userdata of other modules that look like arrays, and light userdata that point to one.
+TEST_F(LuaHost, ForgedArraysAreRefused) {
+    static int header[] = {1000000, 2004, 1, 2}, negative[] = {-2, 2004}, wrapping[] = {1 << 30, 2004},
+               doubles[] = {1, 2002, 1};
+    struct Forgery {
+        int* words;
+        std::size_t bytes;
+        const char* kind;
+    };
+    for (const auto& [words, bytes, kind] : {Forgery{header, 0, "long"},
+                                             {header, 4, "long"},
+                                             {header, 8, "long"},
+                                             {header, 16, "long"},
+                                             {negative, 8, "long"},
+                                             {negative, 0, "long"},
+                                             {wrapping, 8, "long"},
+                                             {doubles, 12, "double"}}) {
+        if (bytes == 0)
+            lua_pushlightuserdata(L, words);
+        else
+            std::memcpy(lua_newuserdata(L, bytes), words, bytes);
+        lua_setglobal(L, "forged");
+        lua_pushfstring(L, "talux_%sarray", kind);
+        lua_getglobal(L, lua_tostring(L, -1));
+        lua_setglobal(L, "array");
+        run("assert(not pcall(array.size, forged))"
+            "assert(not pcall(array.getitem, forged, 0))"
+            "assert(not pcall(array.setitem, forged, 0, 7))"
+            "assert(array.get(forged, 'TLX_vBE', 1, 1) == nil and array.get(forged, 'TLX_vMWR', 1, 1) == nil)"
+            "assert(talux_getlasterror() == '<< WRONG DATA TYPE >>')");
     }
 }
 
