@@ -200,8 +200,8 @@ TALUX_API void VarGetGlobalIpValue(int id, char* val);
 
 /*
  * Copy `aCount` values of the ids id, id + 1, .. in one piece under one lock. A run that ends past the
- * block, or a count of 0, does nothing. An id of another kind aborts in the readers, as for the single
- * values; in the writers it does nothing.
+ * block, or a count of 0, does nothing. An id of another kind aborts in the readers except those of long;
+ * in all others it does nothing.
  */
 TALUX_API void VarSetFloatValueArray(int id, float* pSrc, unsigned long aCount);
 TALUX_API void VarSetGlobalFloatValueArray(int id, float* pSrc, unsigned long aCount);

@@ -20,6 +20,9 @@ inline constexpr std::size_t kSpaceSize = 19500, kRecordsSize = 588;
 inline constexpr key_t kRecordsKey = 5675, kGlobalKey = 5678, kTempKey = 5679;
 enum { kTemp, kGlobal }; // which value space
 
+// The whole error output of a process that ends.
+using Output = testing::Matcher<const std::string&>;
+
 inline char* attach(key_t key) {
     void* const memory = shmat(shmget(key, 0, 0), nullptr, 0);
     if (reinterpret_cast<std::intptr_t>(memory) == -1) std::abort();
@@ -69,6 +72,11 @@ inline constexpr Block kBlocks[] = {
 
 inline double* asValue(char* text) {
     return reinterpret_cast<double*>(text);
+}
+
+// For the text slots that tests fill from outside: cut to `size`, a NUL behind it when there is room.
+inline void copyInto(char* memory, std::size_t size, const std::string& text) {
+    std::memcpy(memory, text.c_str(), std::min(size, text.size() + 1));
 }
 
 // The same numbers in every run.

@@ -104,7 +104,7 @@ protected:
     void spoil(int space) {
         random.fill(raw(space), kSpaceSize);
         for (int id = 16000; id < 16038; ++id)
-            std::strcpy(raw(space) + 18740 + (id - 16000) * 20, addressOf(id, space)[0]);
+            copyInto(raw(space) + kBlocks[12].slotOf(id), 20, addressOf(id, space)[0]);
     }
     static const char* const* addressOf(int id, int space) {
         return kAddresses[static_cast<std::size_t>(id + space) % std::size(kAddresses)];

@@ -190,7 +190,7 @@ TEST(Threads, NeverTearRunsTextsAndRecords) {
         char record[236];
         std::fill_n(run, 384, letter);
         std::memset(text, letter, 127);
-        text[static_cast<int>(letter)] = '\0'; // the length must fit the letter
+        text[static_cast<unsigned char>(letter)] = '\0'; // the length must fit the letter
         std::memset(record, letter, sizeof record);
         while (!stop) {
             VarSetDoubleValueArray(1000, run, 384);

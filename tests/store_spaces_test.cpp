@@ -39,7 +39,7 @@ int shmget(key_t key, size_t size, int flags) noexcept {
 void* shmat(int id, const void* address, int flags) noexcept {
     if (!fails("shmat")) return next<decltype(shmat)>("shmat")(id, address, flags);
     errno = failure.error;
-    return reinterpret_cast<void*>(-1);
+    return reinterpret_cast<void*>(-1); // NOLINT(performance-no-int-to-ptr): as the call fails
 }
 int pthread_mutexattr_init(pthread_mutexattr_t* attributes) noexcept {
     if (fails("attr_init")) return failure.error;
@@ -176,7 +176,7 @@ TEST(SetUp, EndsTheProcessWhenACallFails) {
             VarInit(kNoDirectory);
         };
         EXPECT_EXIT(start(), testing::ExitedWithCode(1),
-                    testing::Eq(test.message + std::to_string(test.attempts)));
+                    Output(test.message + std::to_string(test.attempts)));
     }
 }
 
@@ -194,7 +194,7 @@ TEST(SetUp, EndsTheProcessWhenASegmentIsTooSmall) {
         shmctl(shmget(test.key, 0, 0), IPC_RMID, nullptr);
         const int small = shmget(test.key, test.size, IPC_CREAT | 0666);
         ASSERT_NE(small, -1);
-        EXPECT_EXIT(VarInit(kNoDirectory), testing::ExitedWithCode(1), testing::Eq(test.message));
+        EXPECT_EXIT(VarInit(kNoDirectory), testing::ExitedWithCode(1), Output(test.message));
         shmctl(small, IPC_RMID, nullptr);
     }
 }

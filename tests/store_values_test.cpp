@@ -3,6 +3,7 @@
 
 #include <climits>
 #include <cmath>
+#include <limits>
 #include <map>
 
 using namespace talux_test;
@@ -101,10 +102,13 @@ protected:
 // ---- Values of any kind ----
 
 TEST_F(Values, GoWhereTheirIdSaysAndSaturate) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
     constexpr double kNumbers[] = {
-        0.0,          -0.0,    0.9,          1.0, -1.9,         2.0,  70000.0,  255.9,     256.0,
-        -1.0,         32767.5, -32769.0,     0.1, 16777217.0,   1e12, -1e12,    1e39,      -1e300,
-        2147483647.0, 1e-320,  2147483648.0, 4e9, 4294967296.0, NAN,  INFINITY, -INFINITY, -2147483649.0};
+        0.0,          -0.0,       0.9,          1.0,   -1.9,         2.0,
+        70000.0,      255.9,      256.0,        -1.0,  32767.5,      -32769.0,
+        0.1,          16777217.0, 1e12,         -1e12, 1e39,         -1e300,
+        2147483647.0, 1e-320,     2147483648.0, 4e9,   4294967296.0, std::numeric_limits<double>::quiet_NaN(),
+        kInfinity,    -kInfinity, -2147483649.0};
     const auto set = {VarSetValue, VarSetGlobalValue}, get = {VarGetValue, VarGetGlobalValue};
     for (int k = 0; k < 30000; ++k) {
         const Block& block = kBlocks[random.below(std::size(kBlocks))];
@@ -122,7 +126,7 @@ TEST_F(Values, GoWhereTheirIdSaysAndSaturate) {
         const std::string text = random.text(200);
         const bool asText = std::any_of(std::begin(kBlocks), std::end(kBlocks),
                                         [&](const Block& b) { return b.isText && b.holds(id); });
-        asText ? void(std::strcpy(value, text.c_str())) : void(std::memcpy(value, &number, sizeof number));
+        asText ? copyInto(value, sizeof value, text) : void(std::memcpy(value, &number, sizeof number));
         set.begin()[space](id, asValue(value));
         modelWrite(model[space], id, number, text.c_str());
         ASSERT_NO_FATAL_FAILURE(expectModel(std::to_string(id) + " = " + std::to_string(number)));
