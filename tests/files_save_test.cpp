@@ -20,11 +20,11 @@ constinit int ownerGiven = -1, groupGiven = -1, chownResult = -1;
 
 extern "C" {
 
-std::tm* localtime(const time_t* /*seconds*/) noexcept {
-    static std::tm now;
+std::tm* localtime_r(const time_t* /*seconds*/, std::tm* now) noexcept {
+    now->tm_hour = 9; // a failed conversion leaves parts behind
     if (clockShows == nullptr) return nullptr;
-    now = *clockShows;
-    return &now;
+    *now = *clockShows;
+    return now;
 }
 int chown(const char* path, uid_t owner, gid_t group) noexcept {
     ownerGiven = static_cast<int>(owner);

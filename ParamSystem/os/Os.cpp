@@ -36,10 +36,11 @@ static void followTimeZone() {
 }
 
 bool localTime(std::tm& now) {
-    now = std::tm{};
     const std::time_t seconds = std::time(nullptr);
     followTimeZone();
-    return localtime_r(&seconds, &now) != nullptr;
+    if (localtime_r(&seconds, &now) != nullptr) return true;
+    now = std::tm{}; // a failed conversion may leave parts behind
+    return false;
 }
 
 void setClock(std::time_t seconds) {
