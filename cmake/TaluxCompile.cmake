@@ -7,7 +7,8 @@ target_compile_options(talux_compile INTERFACE
 target_compile_definitions(talux_compile INTERFACE $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
 if(TALUX_SANITIZE)
   target_compile_options(talux_compile INTERFACE
-    -fsanitize=${TALUX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    -fsanitize=${TALUX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all
+    -Wno-maybe-uninitialized) # instrumented library code confuses it
   target_link_options(talux_compile INTERFACE -fsanitize=${TALUX_SANITIZE})
 endif()
 
