@@ -116,12 +116,13 @@ run_tests() {
 summarise() {
   grep 'tests passed' "$1"
   awk '
+    /^[0-9]+\/[0-9]+ Test: / { test = $3 }
     /^\[ RUN / { reason = "" }
     expected { reason = $0; expected = 0 }
     /: Skipped$/ { expected = 1 }
     /^\[       OK \]/ || /^ok: / { ran++ }
     /^\[  SKIPPED \].*ms\)$/ { skipped[++count] = $4 ": " reason }
-    /^skipped: / { skipped[++count] = substr($0, 10) }
+    /^skipped: / { skipped[++count] = test ": " substr($0, 10) }
     END {
       printf "%d cases ran, %d were skipped\n", ran, count
       for (i = 1; i <= count; i++) print "  skipped " skipped[i]
