@@ -2,6 +2,7 @@
 #ifndef TALUX_TEST_KEPLLINE_H
 #define TALUX_TEST_KEPLLINE_H
 
+#include <cstring>
 #include <span>
 #include <string>
 
@@ -44,14 +45,12 @@ inline void collect(char* buffer, int buffered) {
 }
 
 inline Outcome evaluate(KEPL_Interpreter& interpreter, std::string line, int uid = 3) {
-    char terminator[] = "#";
-    std::string result = kUntouched;
-    result.resize(kKeplTextSize + 1);
-    std::string error(128, '?');
+    char terminator[] = "#", error[128] = "?", result[kKeplTextSize + 1];
+    std::strcpy(result, kUntouched.c_str());
     streamed.clear();
-    const int code = interpreter.ProcessLine(line.data(), collect, result.data(), terminator, uid);
-    interpreter.GetError(error.data(), 128);
-    return {code, result.c_str(), error.c_str()};
+    const int code = interpreter.ProcessLine(line.data(), collect, result, terminator, uid);
+    interpreter.GetError(error, sizeof error);
+    return {code, result, error};
 }
 
 // Factory defaults in both spaces.

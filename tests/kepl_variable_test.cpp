@@ -172,7 +172,7 @@ TEST_F(KeplVariable, WritesWhatItReads) {
         const std::string text = isText ? "text" + std::to_string(random() % 1000) : format("%.17g", value);
 
         const std::string term = std::string("TLX_") + row->name + (row->val_max_id > 0 ? " 1" : "");
-        EXPECT_EQ(line(term + "=" + text), done("")) << term;
+        EXPECT_EQ(line(format("%s=%s", term.c_str(), text.c_str())), done("")) << term;
         double stored[16] = {};
         (row->is_volatile == 0 ? VarGetValue : VarGetGlobalValue)(row->id, stored);
         const double expected = row->type == kTypeFloat ? static_cast<float>(value) : value;
@@ -238,7 +238,7 @@ TEST_F(KeplVariable, DumpsRanges) {
                 expected += format("TLX_%s %d = %s\n", array.name, index, number.c_str());
         }
         const std::string range = std::to_string(first) + (single ? "" : "." + std::to_string(end));
-        const std::string term = std::string("TLX_") + array.name + " " + range + option;
+        const std::string term = format("TLX_%s %s%s", array.name, range.c_str(), option.c_str());
         const bool fits = expected.size() <= 2998;
         tooLong += fits ? 0 : 1;
         ASSERT_EQ(line(term), fits ? done(expected) : refused("<< OUTPUT BUFFER EXCEEDED >>")) << term;
