@@ -2,7 +2,6 @@
 #ifndef TALUX_TEST_KEPLLINE_H
 #define TALUX_TEST_KEPLLINE_H
 
-#include <cstring>
 #include <span>
 #include <string>
 
@@ -45,8 +44,8 @@ inline void collect(char* buffer, int buffered) {
 }
 
 inline Outcome evaluate(KEPL_Interpreter& interpreter, std::string line, int uid = 3) {
-    char terminator[] = "#", error[128] = "?", result[kKeplTextSize + 1];
-    std::strcpy(result, kUntouched.c_str());
+    char terminator[] = "#", error[128] = "?", result[kKeplTextSize + 1] = "";
+    kUntouched.copy(result, kUntouched.size());
     streamed.clear();
     const int code = interpreter.ProcessLine(line.data(), collect, result, terminator, uid);
     interpreter.GetError(error, sizeof error);
