@@ -25,10 +25,27 @@ constinit int lockCount = 0, unlockCount = 0, allocations = 0;
 using Hook = void();
 constinit Hook* onLock = nullptr;
 
+// The C library's function of a name that is defined here. No local statics: on processors without atomic
+// instructions their guard takes a lock itself.
 template <typename Function>
-Function* next(const char* name) {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
+class Next {
+public:
+    constexpr explicit Next(const char* symbol) : name(symbol) {}
+
+    template <typename... Arguments>
+    auto operator()(Arguments... arguments) {
+        if (function == nullptr) function = reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+        return function.load()(arguments...);
+    }
+
+private:
+    const char* name;
+    std::atomic<Function*> function{nullptr};
+};
+
+constinit Next<int(pthread_mutex_t*, const pthread_mutexattr_t*)> realInit("pthread_mutex_init");
+constinit Next<int(pthread_mutex_t*)> realLock("pthread_mutex_lock"), realUnlock("pthread_mutex_unlock");
+[[maybe_unused]] constinit Next<void*(std::size_t)> realMalloc("malloc");
 
 } // namespace
 
@@ -38,24 +55,21 @@ int pthread_mutex_init(pthread_mutex_t* mutex, const pthread_mutexattr_t* attrib
     int protocol = -1;
     if (attributes != nullptr) pthread_mutexattr_getprotocol(attributes, &protocol);
     created[createdCount++] = {mutex, protocol};
-    return next<decltype(pthread_mutex_init)>("pthread_mutex_init")(mutex, attributes);
+    return realInit(mutex, attributes);
 }
 int pthread_mutex_lock(pthread_mutex_t* mutex) noexcept {
-    static const auto real = next<int(pthread_mutex_t*)>("pthread_mutex_lock");
     if (watching) locked[lockCount++ % 10] = mutex;
     if (onLock != nullptr) onLock();
-    return real(mutex);
+    return realLock(mutex);
 }
 int pthread_mutex_unlock(pthread_mutex_t* mutex) noexcept {
-    static const auto real = next<int(pthread_mutex_t*)>("pthread_mutex_unlock");
     if (watching) unlockCount += locked[(lockCount + 9) % 10] == mutex;
-    return real(mutex);
+    return realUnlock(mutex);
 }
 #ifndef __SANITIZE_ADDRESS__ // it brings a heap of its own
 void* malloc(size_t size) noexcept {
-    static const auto real = next<void*(size_t)>("malloc");
     allocations += watching;
-    return real(size);
+    return realMalloc(size);
 }
 #endif
 }
