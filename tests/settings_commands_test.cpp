@@ -258,6 +258,8 @@ TEST_F(SettingsCommands, NameServer) {
 }
 
 TEST_F(SettingsCommands, TimeZone) {
+    const std::string longName = "/tmp/" + std::string(122, 'z');
+    const std::string longSetting = "TIMEZONE=" + longName, longMessage = "VarTIMEZONE: used " + longName;
     constexpr char kToUtc[] = R"(
 $ rm -f /etc/localtime;ln -s /usr/share/zoneinfo/UTC /etc/localtime
 VarTIMEZONE (default) : /usr/share/zoneinfo/UTC)";
@@ -269,6 +271,8 @@ VarTIMEZONE: /tmp/zone)";
          "/tmp/zone"},
         {"linked already to nothing", VarTIMEZONE, "TIMEZONE=/tmp/none", "VarTIMEZONE: used /tmp/none", 1, "",
          "/tmp/none"},
+        {"linked already, the longest name", VarTIMEZONE, longSetting.c_str(), longMessage.c_str(), 1, "",
+         longName.c_str()},
         {"present", VarTIMEZONE, "TIMEZONE=/tmp/other|/tmp/zone", kToZone, 1, "", "/usr/share/zoneinfo/UTC"},
         {"present, no link yet", VarTIMEZONE, "TIMEZONE=/tmp/zone", kToZone},
         {"present, a file instead of the link", VarTIMEZONE, "TIMEZONE=/tmp/zone", kToZone, 1, "", ""},

@@ -1,6 +1,5 @@
 // Whatever a stored text holds, the shell runs the intended command alone and hands the text over whole.
 #include <algorithm>
-#include <regex>
 #include <set>
 
 #include "SettingsSupport.h"
@@ -18,80 +17,26 @@ std::set<std::string> playground() {
     return names;
 }
 
+// clang-format off
+constexpr const char* kHostileTexts[] = {
+    "", " ", "  two  blanks ", "-", "--", "-x", "-s", "--help", "-- x", "\t", "a\tb", "#", "# rest",
+    "a #b", "~", "~root", "*", "/*", "?", "[a-z]*", "{a,b}", "$HOME", "${HOME}", "$$", "$?", "a=b",
+    "a'b", "''", "'", "\"", "\"quoted\"", "'quoted'", "\\", "\\\\", "a\\", "\\'", "'\\''", "\\n",
+    "1.1.1.1\\nx 2", "\\c", "\\0101x", "1.1.1.1\nx 2", "\n", "a\n", "\r\n", "a!b", "(", ")", "&", "|",
+    "<", ">", ";", "`", "$(", "%s%n", "100%", "Z\xc3\xbcrich", "\xe2\x98\x83 snow", "\xff\xfe",
+    "\x01\x7f", "WLAN Gast 5",
+};
+// clang-format on
+
 std::vector<std::string> hostileValues() {
-    std::vector<std::string> values = {"",
-                                       " ",
-                                       "  two  blanks ",
-                                       "-",
-                                       "--",
-                                       "-x",
-                                       "-s",
-                                       "--help",
-                                       "-- x",
-                                       "\t",
-                                       "a\tb",
-                                       "#",
-                                       "# rest",
-                                       "a #b",
-                                       "~",
-                                       "~root",
-                                       "*",
-                                       "/*",
-                                       "?",
-                                       "[a-z]*",
-                                       "{a,b}",
-                                       "$HOME",
-                                       "${HOME}",
-                                       "$$",
-                                       "$?",
-                                       "a=b",
-                                       "a'b",
-                                       "''",
-                                       "'",
-                                       "\"",
-                                       "\"quoted\"",
-                                       "'quoted'",
-                                       "\\",
-                                       "\\\\",
-                                       "a\\",
-                                       "\\'",
-                                       "'\\''",
-                                       "\\n",
-                                       "1.1.1.1\\nx 2",
-                                       "\\c",
-                                       "\\0101x",
-                                       "1.1.1.1\nx 2",
-                                       "\n",
-                                       "a\n",
-                                       "\r\n",
-                                       "a!b",
-                                       "(",
-                                       ")",
-                                       "&",
-                                       "|",
-                                       "<",
-                                       ">",
-                                       ";",
-                                       "`",
-                                       "$(",
-                                       "%s%n",
-                                       "100%",
-                                       "Z\xc3\xbcrich",
-                                       "\xe2\x98\x83 snow",
-                                       "\xff\xfe",
-                                       "\x01\x7f",
-                                       "WLAN Gast 5",
-                                       std::string(127, 'x'),
-                                       std::string(127, '\''),
-                                       std::string(126, '\\') + "n",
-                                       std::string(127, ' '),
-                                       std::string(127, '$')};
+    std::vector<std::string> values(std::begin(kHostileTexts), std::end(kHostileTexts));
+    for (const char filling : {'x', '\'', '\\', ' ', '$'})
+        values.emplace_back(127, filling);
     // Each way to start a command, in each surrounding that might let it out.
-    for (const std::string escape : {"", "'", "\"", "'\"", "\\'", "x "})
-        for (const char* command : {";>c", "&&>c", "||>c", "|>c", "\n>c", "&>c", "$(>c)", "`>c`"}) {
-            values.push_back(escape + command);
-            values.push_back(values.back() + escape);
-        }
+    for (const auto& [before, behind] :
+         {std::pair{"", ""}, {"x ", ""}, {"'", ""}, {"'", "'"}, {"\"", ""}, {"\"", "\""}})
+        for (const std::string command : {";>c", "&&>c", "||>c", "|>c", "\n>c", "&>c", "$(>c)", "`>c`"})
+            values.push_back(before + command + behind);
     for (const char* redirection :
          {">c", ">>c", "x>c", "x 2>c", "x >&c", "'>c'", "\">c\"", "x;>c;#", "x\n>c\n"})
         values.emplace_back(redirection);
@@ -135,7 +80,7 @@ TEST_F(HostileSettings, ValuesWouldDoHarm) {
         harmful += !playground().empty();
         fs::remove("c");
     }
-    EXPECT_GE(harmful, 30);
+    EXPECT_GE(harmful, 20);
     EXPECT_GE(hostileValues().size(), 50U);
 }
 
@@ -191,9 +136,7 @@ TEST_F(HostileSettings, ZoneFile) {
 
         const ErrorStream errors;
         VarTIMEZONE();
-        auto commands = takeRecord();
-        for (Command& command : commands)
-            if (command.size() == 5 && command[2] == "--") command.erase(command.begin() + 2);
+        const auto commands = takeRecord();
         if (value.empty()) {
             EXPECT_TRUE(commands.empty()); // neither a link nor a name: nothing to do
         } else if (errors.text().find("not run") != std::string::npos) {
@@ -203,21 +146,28 @@ TEST_F(HostileSettings, ZoneFile) {
                       200U)
                 << value;
         } else {
-            EXPECT_EQ(commands.size(), 1U) << value;
+            ASSERT_EQ(commands.size(), 1U) << value;
             const std::string expected = canBeFile || fs::exists(value) ? value : "/usr/share/zoneinfo/UTC";
-            EXPECT_EQ(timesRun(commands, {"ln", "-s", "", "/etc/localtime"}, expected), 1) << value;
+            Command link = {"ln", "-s", expected, "/etc/localtime"};
+            if (expected.starts_with("-")) link.insert(link.begin() + 2, "--");
+            EXPECT_EQ(commands.front(), link) << value;
         }
         EXPECT_EQ(playground(), before) << value;
     }
 }
 
+bool isAddress(const std::string& word) {
+    const std::string start = word.substr(0, word.find('.') + 1);
+    return (start == "7." || start == "127.") && word.find_first_not_of("-.0123456789") == std::string::npos;
+}
+
 // Addresses become four numbers before any command sees them.
 TEST_F(HostileSettings, Addresses) {
-    const std::regex address("-?[0-9]+(\\.-?[0-9]*){0,3}");
     put("eth1_active=1 wlan0_active=1 VarSetWLAN0TypeDev=1");
-    const std::set<std::string> known = {"eth0",   "eth1",   "wlan0",  "netmask", "del",  "default",
-                                         "add",    "gw",     "-net",   "up",      "down", "-b",
-                                         "eth0:1", "eth0:2", "eth0:3", "eth0:4"};
+    const std::set<std::string> known = {"eth0",         "eth1",    "wlan0",  "netmask", "del",  "default",
+                                         "add",          "gw",      "-net",   "up",      "down", "-b",
+                                         "eth0:1",       "eth0:2",  "eth0:3", "eth0:4",  "true", "fudge",
+                                         "127.127.45.0", "stratum", "13"};
     const std::vector<std::string> values = hostileValues();
     for (std::size_t run = 0; run < 12; ++run) { // each run gives each address another value
         for (int id = kFirstIp + 1; id < kFirstIp + kIpCount; ++id)
@@ -228,15 +178,19 @@ TEST_F(HostileSettings, Addresses) {
         for (const Command& command : takeRecord()) {
             if (command[0] != "ifconfig" && command[0] != "route" && command[0] != "ntpdate") continue;
             for (std::size_t i = 1; i < command.size(); ++i)
-                EXPECT_TRUE(known.contains(command[i]) || std::regex_match(command[i], address))
+                EXPECT_TRUE(known.contains(command[i]) || isAddress(command[i]))
                     << command[0] << " " << command[i];
         }
-        std::istringstream lines(contents("/tmp/ntp.conf"));
+        std::istringstream words(contents("/tmp/ntp.conf"));
         int servers = 0;
-        for (std::string line; std::getline(lines, line); ++servers)
-            EXPECT_TRUE(std::regex_match(line, std::regex("(server|fudge) [-0-9.]+( true| stratum 13)?")))
-                << line;
-        EXPECT_EQ(servers, 4);
+        for (std::string word, server; words >> word;)
+            if (word == "server") {
+                words >> server;
+                servers += isAddress(server);
+            } else {
+                EXPECT_TRUE(known.contains(word)) << word;
+            }
+        EXPECT_EQ(servers, 3);
     }
     EXPECT_EQ(playground(), std::set<std::string>());
 }

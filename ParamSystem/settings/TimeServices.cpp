@@ -74,7 +74,7 @@ int VarTIMEZONE() {
 
     if (std::strcmp(linked, zone) == 0) {
         kZoneShell.report("used %s", zone);
-    } else if (zone[0] != '\0' && access(zone, F_OK) == 0) {
+    } else if (access(zone, F_OK) == 0) {
         if (linkZone(zone)) kZoneShell.report("%s", zone);
     } else {
         if (linkZone(kDefaultZone)) kDefaultZoneShell.report("%s", kDefaultZone);
