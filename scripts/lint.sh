@@ -9,7 +9,7 @@ need clang-format:clang-format clang-tidy:clang-tidy shellcheck:shellcheck
 
 mapfile -t formatted < <(git ls-files '*.h' '*.cpp')
 mapfile -t sources < <(if [ "$#" -gt 0 ]; then printf '%s\n' "$@"; else git ls-files '*.cpp'; fi)
-mapfile -t shell < <(git ls-files 'scripts/*.sh' 'examples/*.sh' 'packaging/*.sh' .ci/run)
+mapfile -t shell < <(git ls-files '*.sh' .ci/run)
 
 status=0
 clang-format --dry-run -Werror "${formatted[@]}" || status=1
@@ -17,5 +17,7 @@ shellcheck -x -P SCRIPTDIR "${shell[@]}" || status=1
 build release
 # What g++ is told about compile-time evaluation, in clang's words.
 printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p build-release --quiet \
-  --extra-arg=-Wno-unknown-warning-option --extra-arg=-fconstexpr-steps=500000000 || status=1
+  --extra-arg=-Wno-unknown-warning-option --extra-arg=-fconstexpr-steps=500000000 2>&1 |
+  { grep -v '^[0-9]* warnings generated' || true; } # those of system headers
+[ "${PIPESTATUS[1]}" = 0 ] || status=1
 exit "$status"

@@ -36,6 +36,7 @@ export APT_CONFIG="$work/apt.conf"
 
 # A source that cannot be read is no loss as long as the packages come.
 apt-get -qq update 2>"$work/update.log" || true
+# shellcheck disable=SC2086  # several names
 (cd "$work" && apt-get -qq download $packages) || {
   cat "$work/update.log" >&2
   exit 1
@@ -43,5 +44,5 @@ apt-get -qq update 2>"$work/update.log" || true
 for package in "$work"/*.deb; do
   dpkg-deb -x "$package" "$sysroot"
 done
-rm -rf "$sysroot/etc" "$sysroot/usr/share" "$sysroot"/usr/lib/*/gconv
+rm -rf "${sysroot:?}/etc" "${sysroot:?}/usr/share" "$sysroot"/usr/lib/*/gconv
 printf '%s\n' "$packages" >"$sysroot/.packages"

@@ -21,7 +21,7 @@ esac
 fail() { echo "FAILED: $*" >&2; exit 1; }
 fresh_root() { # NAME: a scratch root
   "$project/scripts/sysroot.sh" "$architecture" "$project/build-sysroot/$architecture"
-  rm -rf "$work/$1"
+  rm -rf "${work:?}/$1"
   mkdir -p "$work"
   cp -al "$project/build-sysroot/$architecture" "$work/$1"
 }
