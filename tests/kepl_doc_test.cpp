@@ -64,4 +64,5 @@ TEST_F(KeplDocumentation, ShowsWhatLinesAnswer) {
         }
     }
     EXPECT_GT(examples, 40);
+    std::filesystem::remove_all(path);
 }

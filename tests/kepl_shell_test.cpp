@@ -2,6 +2,7 @@
 #include "KeplLine.h"
 
 #include <csignal>
+#include <cstdio>
 #include <fstream>
 #include <sys/resource.h>
 #include <sys/time.h>
@@ -102,14 +103,15 @@ TEST_F(KeplShell, SaysWhyNothingRuns) {
 }
 
 TEST_F(KeplShell, ShowsVersionsAtEveryLevel) {
-    std::ofstream("/tmp/.version") << "1.2\n";
-    EXPECT_EQ(line("system cat /tmp/.version", 0), kNothing);
+    std::ofstream("/tmp/kepl.version") << "1.2\n";
+    EXPECT_EQ(line("system cat /tmp/kepl.version", 0), kNothing);
     EXPECT_EQ(streamed, sent("[1.2\n]+"));
-    for (const std::string term : {"system cat /tmp/version", "system CAT /tmp/.version",
-                                   "system ls /tmp/.version", "system", "system ls"}) {
+    for (const std::string term : {"system cat /tmp/kepl-version", "system CAT /tmp/kepl.version",
+                                   "system ls /tmp/kepl.version", "system", "system ls"}) {
         EXPECT_EQ(line(term + ",system echo x", 2), kRightsTooLow) << term;
         EXPECT_EQ(streamed, "");
     }
+    std::remove("/tmp/kepl.version");
 }
 
 TEST_F(KeplShell, KnowsTheBoard) {

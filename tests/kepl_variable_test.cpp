@@ -246,6 +246,18 @@ TEST_F(KeplVariable, DumpsRanges) {
     EXPECT_GT(tooLong, 20);
 }
 
+TEST_F(KeplVariable, FillsTheBufferToTheLastCharacter) {
+    double values[96]; // each a line of 31 characters, or 32 when negative, under the header's 7
+    for (const int negatives : {15, 16}) {
+        for (int i = 0; i < 96; ++i)
+            values[i] = i < negatives ? -1e22 : 1e22;
+        VarSetGlobalDoubleValueArray(GetParamPropertiesByName(const_cast<char*>("vMWR"))->id, values, 96);
+        const Outcome outcome = line("TLX_vMWR 1.96 -p");
+        EXPECT_EQ(outcome.result, negatives == 15 ? kLineDone : kLineError);
+        EXPECT_EQ(outcome.answer.size() == 2998 + 1, negatives == 15) << outcome.answer.size();
+    }
+}
+
 TEST_F(KeplVariable, DumpsRecords) {
     const char* const names[] = {"MessRecord01", "MessRecord02", "StatRecord_c0"};
     std::mt19937 random(13);

@@ -21,10 +21,9 @@ constexpr std::string_view kOpenToReaders = "mw_req";
 
 // A text that begins with a double quote loses its first and its last character.
 char* unquoted(char* text) {
-    const std::size_t length = std::strlen(text);
     if (*text != '"') return text;
-    text[length - 1] = '\0';
-    return length > 1 ? text + 1 : text;
+    text[std::strlen(text) - 1] = '\0';
+    return text + 1; // of a lone quote, its NUL
 }
 
 } // namespace
