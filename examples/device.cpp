@@ -37,7 +37,8 @@ struct Measured {
     double value;
 };
 
-// A network of 20 kV whose voltages, load and frequency drift slowly. Volt, ampere, watt, degrees.
+// A network of 20 kV whose voltages, load and frequency drift slowly. Kilovolt and ampere, so powers are
+// in kW and kvar; angles in degrees.
 struct Network {
     std::array<Phasor, 3> voltage, current;
     double frequency;
@@ -45,10 +46,10 @@ struct Network {
     explicit Network(double seconds) : frequency(50.0 + 0.02 * std::sin(seconds / 9.0)) {
         const double lag = 18.0 + 3.0 * std::sin(seconds / 13.0);
         for (int k = 0; k < 3; ++k) {
-            const double volt = 20000.0 / std::sqrt(3.0) * (1.0 + 0.004 * std::sin(seconds / 7.0 + k));
+            const double kilovolt = 20.0 / std::sqrt(3.0) * (1.0 + 0.004 * std::sin(seconds / 7.0 + k));
             const double ampere = 180.0 * (1.0 + 0.1 * std::sin(seconds / 11.0 + 2.0 * k));
             const double angle = -120.0 * k;
-            voltage[static_cast<std::size_t>(k)] = std::polar(volt, angle * std::numbers::pi / 180.0);
+            voltage[static_cast<std::size_t>(k)] = std::polar(kilovolt, angle * std::numbers::pi / 180.0);
             current[static_cast<std::size_t>(k)] =
                 std::polar(ampere, (angle - lag) * std::numbers::pi / 180.0);
         }

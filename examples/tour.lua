@@ -84,14 +84,16 @@ show "TLX_f_grid"
 show "TLX_Name"
 
 headline "Compute with it: operands first, then the operator"
+say("Voltages are in kV, so the first two are V and MV; the last is the apparent power in MVA:")
+show "TLX_U1_prim,1000,*"
 show "TLX_U1_prim,1000,/"
 show "TLX_U12_prim,TLX_U1_prim,/"
-show "TLX_P_prim,sqr,TLX_Q_prim,sqr,+,sqrt,1000000,/"
+show "TLX_P_prim,sqr,TLX_Q_prim,sqr,+,sqrt,1000,/"
 
 headline "Read a range of an array"
 say("Twelve measured voltages in kV, one per cycle, go into the array vMWR:")
 for k = 1, 12 do
-  local kilovolt = talux_command("TLX_U1_prim,1000,/")
+  local kilovolt = talux_command("TLX_U1_prim")
   assert(talux_command(("TLX_vMWR %d=%s"):format(k, kilovolt)) == "")
   talux_usleep(50000)
 end
