@@ -87,11 +87,7 @@ find_isolation() {
 # ---- without ----
 
 keys=(5675 5678 5679)
-parameter_files() {
-  echo "$1"/{parameter,sec_parameter,ip_config,def_ip_config}.ini "$1"/{param,sec_param}_*.ini
-}
-present() { local path; for path in $(parameter_files "$1"); do [ ! -e "$path" ] || echo "$path"; done; }
-
+settings=(/etc/localtime /etc/resolv.conf) # files that the settings of a device change
 segments() {
   local key
   for key in "${keys[@]}"; do
@@ -99,12 +95,19 @@ segments() {
   done
 }
 
+parameter_files() {
+  local path
+  for path in "$1"/{parameter,sec_parameter,ip_config,def_ip_config}.ini "$1"/{param,sec_param}_*.ini; do
+    [ ! -e "$path" ] || echo "$path"
+  done
+}
+
 remove_what_was_made() {
   local key path files
   for key in "${keys[@]}"; do ipcrm -M "$key" 2>/dev/null || true; done
-  mapfile -t files < <(present '')
+  mapfile -t files < <(parameter_files '')
   [ "${#files[@]}" = 0 ] || mv -f "${files[@]}" "$root"
-  for path in /etc/localtime /etc/resolv.conf; do
+  for path in "${settings[@]}"; do
     if [ ! -e "$kept$path" ] && [ ! -L "$kept$path" ]; then rm -f "$path"
     elif ! cmp -s "$kept$path" "$path"; then cp -aT --remove-destination "$kept$path" "$path" || true
     fi
@@ -122,16 +125,21 @@ without_rights() {
 }
 
 run_on_the_machine() {
-  local found files
+  local copies found files path
   echo 'isolated.sh: namespaces are refused here, so this runs on the container itself' >&2
-  exec 9>>/tmp/talux-isolated.lock
+  exec 9</
   flock 9
-  found=$(segments; present '')
+  found=$(segments; parameter_files '')
   [ -z "$found" ] || fail "not run: the container is a device's, it has" "${found//$'\n'/, }"
-  kept=$(mktemp -d)
-  mkdir "$kept/etc"
-  cp -a /etc/localtime /etc/resolv.conf "$kept/etc" 2>/dev/null || true
-  mapfile -t files < <(present "$root")
+  copies=$(mktemp -d)
+  mkdir "$copies/etc"
+  for path in "${settings[@]}"; do
+    if [ -e "$path" ] || [ -L "$path" ]; then
+      cp -a "$path" "$copies$path" || { rm -rf "$copies"; fail "cannot keep $path"; }
+    fi
+  done
+  kept=$copies
+  mapfile -t files < <(parameter_files "$root")
   [ "${#files[@]}" = 0 ] || cp "${files[@]}" /
   cd /
   without_rights "$@" 8<&- 9<&-
