@@ -1,5 +1,4 @@
 // What the parameter files hold byte for byte, who owns them, and what becomes of a failed save.
-#include "Isolation.h"
 #include "Store.h"
 
 #include <csignal>
