@@ -115,7 +115,8 @@ protected:
         for (const Block& block : kBlocks) {
             if (!block.holds(row.id)) continue;
             const char* const slot = raw(space) + block.slotOf(row.id);
-            std::int32_t number = 0;
+            std::int32_t number;
+            std::int16_t choice;
             float single;
             switch (row.type) {
             case 2003:
@@ -128,7 +129,7 @@ protected:
                 std::snprintf(text, 400, "%u", static_cast<unsigned char>(*slot));
                 break;
             case 2012:
-                std::snprintf(text, 400, "%d", slot[1] * 256 + static_cast<unsigned char>(slot[0]));
+                std::memcpy(&choice, slot, 2), std::snprintf(text, 400, "%d", choice);
                 break;
             case 2015:
                 std::strftime(text, 400, "\"%Y-%m-%d\"", &kMoment);
