@@ -3,6 +3,7 @@
 # nothing of the build: require needs no setting, and programs build and run against it.
 #
 #   run.sh BUILD ARCHITECTURE C-COMPILER CMAKE [CMAKE-OPTION..]
+# shellcheck disable=SC2016 # texts for the inner shell
 set -eu
 build=$1 architecture=$2 compiler=$3 cmake=$4
 shift 4
@@ -25,14 +26,13 @@ fresh_root() { # NAME: a scratch root
   mkdir -p "$work"
   cp -al "$project/build-sysroot/$architecture" "$work/$1"
 }
-inside() { # NAME PROGRAM ARGUMENT..: runs a program with the scratch root as its /usr
-  name=$1 program=$2
-  shift 2
-  # shellcheck disable=SC2086 # the emulator's options are words
-  "$project/scripts/isolated.sh" --read "$work" -- env -u LUA_CPATH $emulator -L "$work/$name" "$program" "$@"
+inside() { # NAME TEXT: a shell text in which $run PROGRAM runs with the scratch root as its /usr
+  "$project/scripts/isolated.sh" --read "$work" -- \
+    env -u LUA_CPATH run="$emulator -L $work/$1" root="$work/$1" programs="$work/programs" sh -euc "$2"
 }
 try_script() { # NAME
-  answer=$(inside "$1" "$work/$1/usr/bin/lua5.2" -e 'require "lib_talux_lua" print(talux_command("1,2,+"))')
+  answer=$(inside "$1" '$run $root/usr/bin/lua5.2 -e "
+    require [[lib_talux_lua]] print(talux_command([[1,2,+]]))"')
   [ "$answer" = 3.000000 ] || fail "$1: require gave '$answer'"
 }
 
@@ -46,19 +46,24 @@ rm -rf "$work/programs"
 "$cmake" -G Ninja -S "$project/examples/programs" -B "$work/programs" \
   -DCMAKE_PREFIX_PATH="$work/tree/usr/local" "$@" >/dev/null
 "$cmake" --build "$work/programs" >/dev/null
-status=0
-answer=$(inside tree "$work/programs/answers" TLX_Language=2 TLX_Language,10,\* nonsense 2>"$work/errors") || status=$?
-[ "$status$answer" = '1
-20.000000' ] || fail "answers: $status: $answer"
-[ "$(cat "$work/errors")" = '<< SYNTAX ERROR >>' ] || fail "answers: $(cat "$work/errors")"
-answer=$(inside tree "$work/programs/station" 'Nord 1')
-[ "$answer" = 'Name (id 9000) was ""
-Name (id 9000) is "Nord 1"' ] || fail "station: $answer"
+answer=$(inside tree '
+  printf "TLX_Name=\"Nord 1\"\n" >/parameter.ini
+  $run $programs/boot 2>/dev/null
+  $run $programs/answers TLX_Name TLX_Language=2 TLX_Language,10,\*
+  $run $programs/answers nonsense 2>&1 || echo "status $?"
+  $run $programs/station "Nord 2"')
+[ "$answer" = '"Nord 1"
+
+20.000000
+<< SYNTAX ERROR >>
+status 1
+Name (id 9000) was "Nord 1"
+Name (id 9000) is "Nord 2"' ] || fail "programs: $answer"
 
 flags=$(PKG_CONFIG_LIBDIR=$work/tree/usr/local/lib/pkgconfig pkg-config --cflags --libs talux_lua)
 # shellcheck disable=SC2086 # flags are words
-"$compiler" "$project/examples/programs/answers.c" $flags -Wl,-rpath,/usr/local/lib -o "$work/answers"
-answer=$(inside tree "$work/answers" '6,7,*')
+"$compiler" "$project/examples/programs/answers.c" $flags -Wl,-rpath,/usr/local/lib -o "$work/programs/by-hand"
+answer=$(inside tree '$run $programs/by-hand "6,7,*"')
 [ "$answer" = 42.000000 ] || fail "answers built with pkg-config: $answer"
 
 # The packages: the first one alone is enough for scripts.
