@@ -12,6 +12,11 @@ using KeplVariable = KeplTest;
 
 namespace {
 
+const std::string syntax = "<< SYNTAX ERROR >>", rights = "<< RIGHTS TOO LOW >>",
+                  noNumber = "<< INDEX MUST BE A NUMBER >>", needed = "<< INDEX REQUIRED >>",
+                  noIndex = "<< NO INDEX ALLOWED >>", readOnly = "<< VARIABLE IS READ ONLY >>",
+                  low = "<< VALUE TOO LOW >>", high = "<< VALUE TOO HIGH >>";
+
 std::vector<std::string> whatHappened; // to the operating system, in order
 std::time_t now = 1705310430;          // 2024-01-15 10:20:30 in Berlin, winter time
 
@@ -48,13 +53,9 @@ int VarSetSystemIPs() {
     return 1;
 }
 
-TEST_F(KeplVariable, RefusesInOrder) {
-    const std::string syntax = "<< SYNTAX ERROR >>", rights = "<< RIGHTS TOO LOW >>",
-                      noNumber = "<< INDEX MUST BE A NUMBER >>", needed = "<< INDEX REQUIRED >>",
-                      noIndex = "<< NO INDEX ALLOWED >>", readOnly = "<< VARIABLE IS READ ONLY >>",
-                      low = "<< VALUE TOO LOW >>", high = "<< VALUE TOO HIGH >>";
+// Number of the index, rights, name, access, presence of the index, its range.
+TEST_F(KeplVariable, RefusesReadsInOrder) {
     const LineRow rows[] = {
-        // Reads: number of the index, rights, name, access, presence of the index, its range.
         {"TLX_Nobody x", refused(noNumber), 0},
         {"TLX_Nobody 1.x", refused(noNumber), 0},
         {"TLX_vBE " + std::string(50, '0'), refused(noNumber)},
@@ -74,7 +75,12 @@ TEST_F(KeplVariable, RefusesInOrder) {
         {"TLX_vBE 5.-3", refused("<< INDEX 2 TOO LOW >>"), 1},
         {"TLX_vBE 5.97", refused("<< INDEX 2 TOO HIGH >>"), 1},
         {"TLX_vBE 5.3", refused("<< INDEX 1 GREATER THAN INDEX 2 >>"), 1},
-        // The corners of splitting a term.
+    };
+    expectLines(rows);
+}
+
+TEST_F(KeplVariable, SplitsTerms) {
+    const LineRow rows[] = {
         {"TLX_", refused(syntax)},
         {"TLX_=", refused(syntax)},
         {"TLX_=5", refused(syntax)}, // reads the parameter "5"
@@ -90,7 +96,13 @@ TEST_F(KeplVariable, RefusesInOrder) {
         {"TLX_vBE 1.2 -x -p", done("TLX_vBE 1 = 0\nTLX_vBE 2 = 0\n")},
         {"TLX_vBE -x -c", refused(needed)},
         {"TLX_Language -h", done("1.000000")}, // scalars have one form
-        // Writes: number of the index, rights, value, name, access, level, index, value.
+    };
+    expectLines(rows);
+}
+
+// Number of the index, rights, value, name, access, level, index, range.
+TEST_F(KeplVariable, RefusesWritesInOrder) {
+    const LineRow rows[] = {
         {"TLX_Nobody x=", refused(noNumber), 0},
         {"TLX_Nobody= ", refused(rights), 1},
         {"TLX_MW_start=1", refused(rights), 1},
