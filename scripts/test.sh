@@ -139,7 +139,7 @@ set -o pipefail
 results=$(mktemp -d)
 trap 'rm -rf "$results"' EXIT
 need_build_tools
-need ip:iproute2 ifconfig:net-tools killall:psmisc qemu-arm:qemu-user pkg-config:pkg-config
+need ip:iproute2 ifconfig:net-tools killall:psmisc /usr/share/i18n/locales/de_DE:locales qemu-arm:qemu-user pkg-config:pkg-config
 failed=()
 as=()
 for stage in "${stages[@]}"; do

@@ -8,6 +8,7 @@
 #include <clocale>
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
 #include <limits>
 #include <optional>
 #include <random>
@@ -160,14 +161,16 @@ std::string randomText(std::mt19937& random) {
 
 // A locale that writes numbers with a comma; made on the spot when the machine has none but its sources.
 bool setCommaLocale() {
-    const std::string folder = testing::TempDir() + "locale";
+    std::string folder = testing::TempDir() + "localeXXXXXX";
+    if (mkdtemp(folder.data()) == nullptr) return false;
     setenv("LOCPATH", folder.c_str(), 1);
-    const std::string make = "mkdir -p " + folder + " && localedef -c -i de_DE -f UTF-8 " + folder +
-                             "/de_DE.UTF-8 > /dev/null 2>&1";
+    const std::string make = "localedef -c -i de_DE -f UTF-8 " + folder + "/de_DE.UTF-8 > /dev/null 2>&1";
     if (std::system(make.c_str()) != 0) unsetenv("LOCPATH");
+    const char* set = nullptr;
     for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8"})
-        if (std::setlocale(LC_ALL, name) != nullptr) return true;
-    return false;
+        if (set == nullptr) set = std::setlocale(LC_ALL, name);
+    std::filesystem::remove_all(folder);
+    return set != nullptr;
 }
 
 int countBits(int value, int first, int step) {
