@@ -177,10 +177,10 @@ TEST_F(KeplVariable, WritesWhatItReads) {
         if ((!isNumber && !isText && row->type != kTypeEnum) || row->val_access == kReadOnly || !isFirst)
             continue;
         const double largest = row->type == kTypeBool ? 255 : row->type == kTypeLong ? 1e9 : 32767;
-        const double low = std::max(row->val_min, row->type == kTypeBool ? 0 : -largest);
-        const double high = std::min(row->val_max, largest);
-        const long whole = static_cast<long>(low) + 1 + static_cast<long>(random() % 1000);
-        const double value = static_cast<double>(whole) > high ? high : static_cast<double>(whole);
+        const double lowest = std::max(row->val_min, row->type == kTypeBool ? 0 : -largest);
+        const double highest = std::min(row->val_max, largest);
+        const long whole = static_cast<long>(lowest) + 1 + static_cast<long>(random() % 1000);
+        const double value = static_cast<double>(whole) > highest ? highest : static_cast<double>(whole);
         const std::string text = isText ? "text" + std::to_string(random() % 1000) : format("%.17g", value);
 
         const std::string term = std::string("TLX_") + row->name + (row->val_max_id > 0 ? " 1" : "");
