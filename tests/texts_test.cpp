@@ -5,10 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
+#include <climits>
+#include <clocale>
+#include <cstdlib>
 #include <random>
 #include <set>
 #include <span>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -18,420 +21,265 @@
 
 namespace {
 
-constexpr int kLanguage = 10000;
-constexpr int kNotFound = -1;
+constexpr int kLanguage = 10000, kAny = INT_MIN, kNotFound = 0;
 
 class Texts : public testing::Test {
 protected:
     static void SetUpTestSuite() {
         char path[] = "";
         VarInit(path);
-    }
-    void SetUp() override {
         LoadDefParamProperties();
-        LoadDefParamStrings();
-        VarSetEnumValue(kLanguage, kGerman);
+        ASSERT_EQ(LoadDefParamStrings(), 1);
+        ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr); // to count characters
     }
 };
 using TextsDeathTest = Texts;
 
-std::span<const stParamText> table() {
-    return {DefParamText, static_cast<std::size_t>(DefParamTextCount)};
-}
 std::span<const stParamText> texts() {
-    return table().subspan(1, table().size() - 2);
+    return {DefParamText + 1, static_cast<std::size_t>(DefParamTextCount - 2)};
 }
 
-std::string describe(const stParamText& text) {
-    return std::to_string(text.id) + " language " + std::to_string(text.language) + " type " +
-           std::to_string(text.type) + " item " + std::to_string(text.id_group) + "/" +
-           std::to_string(text.id_item) + ": " + text.txt;
-}
-
-// Describes the texts for which `wrong` holds.
-template <typename Wrong>
-std::vector<std::string> allThat(Wrong wrong) {
-    std::vector<std::string> found;
-    for (const stParamText& text : texts())
-        if (wrong(text)) found.push_back(describe(text));
-    return found;
-}
-
-// Characters of a valid UTF-8 text, or -1.
-int countCharacters(std::string_view text) {
-    int characters = 0;
-    for (std::size_t i = 0; i < text.size(); ++characters) {
-        const auto head = static_cast<unsigned char>(text[i]);
-        const std::size_t length = head < 0x80 ? 1 : head < 0xC2 ? 0 : head < 0xE0 ? 2 : head < 0xF0 ? 3 : 0;
-        if (length == 0 || i + length > text.size()) return -1;
-        for (std::size_t k = 1; k < length; ++k)
-            if ((static_cast<unsigned char>(text[i + k]) & 0xC0) != 0x80) return -1;
-        i += length;
-    }
-    return characters;
-}
-
-// The row of a text in the compiled-in table, found the plain way.
-int find(int from, int language, int id, int type, int group = -1, int item = -1) {
+// The row of a text in the compiled-in table, found the plain way; kNotFound is the sentinel.
+int find(int from, int language, int id, int type, int group = kAny, int item = kAny) {
     for (int row = from; DefParamText[row].id != 0; ++row) {
         const stParamText& text = DefParamText[row];
         if (text.id == id && text.language == language && text.type == type &&
-            (group == -1 || text.id_group == group) && (item == -1 || text.id_item == item))
+            (group == kAny || text.id_group == group) && (item == kAny || text.id_item == item))
             return row;
     }
     return kNotFound;
 }
 
-bool has(int language, int id, int type) {
-    return find(1, language, id, type) != kNotFound;
+std::string_view plain(int language, int id, int type) {
+    return DefParamText[find(1, language, id, type)].txt;
 }
 
-// The texts of a group in the current language.
-std::vector<std::string> list(int id, int group, int type) {
-    std::vector<std::string> found;
-    for (const stParamText* text = GetFirstParamStringInGroup(id, group, type);
-         std::string_view(text->txt) != "***"; text = GetNextParamStringInGroup(id, group, type))
-        found.emplace_back(text->txt);
-    return found;
+// All texts of a group in the current language on one line: the number of the first, the texts with "|"
+// between them and "~" for a line break. A number that does not follow the one before shows in brackets.
+std::string list(int id, int group, int type) {
+    std::string joined;
+    int expected = kAny;
+    for (const stParamText* text = GetFirstParamStringInGroup(id, group, type); text->id != 0;
+         text = GetNextParamStringInGroup(id, group, type)) {
+        const std::string number = std::to_string(text->id_item);
+        joined += joined.empty() ? number + ":" : text->id_item == expected ? "|" : "|(" + number + ")";
+        joined += text->txt;
+        expected = text->id_item + 1;
+    }
+    std::replace(joined.begin(), joined.end(), '\n', '~');
+    return joined;
 }
 
 long resolve(std::string name) {
     VarLong id = -1;
-    return ResolveParamTextSymbol(name.data(), &id) == 1 ? id : kNotFound;
+    return ResolveParamTextSymbol(name.data(), &id) == 1 ? id : -1;
 }
 
 // Where the texts of a parameter hang.
 int textIdOf(const stParamProperties& row) {
-    static const std::map<int, int> kFirst{
-        {kTypeIpAddress, 20000 - 16029}, {kTypeIpMask, 21000 - 16032}, {kTypeIpGateway, 22000 - 16035}};
-    const auto shift = kFirst.find(row.type);
-    return shift == kFirst.end() ? row.id : row.id + shift->second;
+    const int kind = row.type - kTypeIpAddress; // 0 address, 1 mask, 2 gateway of an interface
+    return kind < 0 || kind > 2 ? row.id : 20000 + 1000 * kind + row.id - 16029 - 3 * kind;
 }
 
-bool isTemplate(const stParamProperties& row) {
-    return row.id >= 18000 && row.id <= 18033;
+const stParamText* lookUp(int which, int id, int type, int group, int item) {
+    return which == 0   ? GetParamString(id, type)
+           : which == 1 ? GetFirstParamString(id, type)
+           : which == 2 ? GetNextParamString(id, type)
+           : which == 3 ? GetParamStringInGroup(id, group, item, type)
+           : which == 4 ? GetFirstParamStringInGroup(id, group, type)
+                        : GetNextParamStringInGroup(id, group, type);
 }
 
 } // namespace
 
 TEST_F(Texts, AreWellFormed) {
-    for (const stParamText& sentinel : {table().front(), table().back()}) {
-        EXPECT_EQ(std::tuple(sentinel.id, sentinel.language, sentinel.type), std::tuple(0, 0, 0));
-        EXPECT_STREQ(sentinel.txt, "***");
-    }
+    for (const stParamText& sentinel : {DefParamText[0], DefParamText[DefParamTextCount - 1]})
+        EXPECT_TRUE(sentinel.id == 0 && sentinel.language == 0 && sentinel.type == 0 &&
+                    std::string_view(sentinel.txt) == "***");
     EXPECT_LE(DefParamTextCount, kParamTextRows - 200);
 
     std::set<std::tuple<int, int, int, int, int>> met;
-    EXPECT_THAT(allThat([&met](const stParamText& t) {
-                    return !met.insert({t.id, t.language, t.type, t.id_group, t.id_item}).second;
-                }),
-                testing::IsEmpty())
-        << "twice";
-    EXPECT_THAT(allThat([](const stParamText& t) {
-                    const std::string_view text = t.txt;
-                    constexpr std::string_view kBlanks = " \t\n";
-                    return countCharacters(text) < 1 || kBlanks.find(text.front()) != text.npos ||
-                           kBlanks.find(text.back()) != text.npos || text.find("  ") != text.npos ||
-                           text.find_first_of("{}|\t\r") != text.npos;
-                }),
-                testing::IsEmpty())
-        << "no clean UTF-8 text";
-    EXPECT_THAT(
-        allThat([](const stParamText& t) { return t.type == kTextTitle && countCharacters(t.txt) > 24; }),
-        testing::IsEmpty())
-        << "titles longer than a line of the display";
-    EXPECT_THAT(allThat([](const stParamText& t) {
-                    return std::any_of(std::begin(t.visibility), std::end(t.visibility),
-                                       [](unsigned long long mask) { return mask != 0; });
-                }),
-                testing::IsEmpty())
-        << "masks";
-    EXPECT_THAT(allThat([](const stParamText& t) {
-                    const bool grouped = t.type == kTextItem;
-                    return t.language < kGerman || t.language > kEnglish || t.id_group < 0 ||
-                           t.id_group > 2 || (!grouped && t.id_group != 0) ||
-                           (!grouped && t.type != kTextGroup && t.id_item != 0);
-                }),
-                testing::IsEmpty())
-        << "language, group or item";
-}
-
-// Everything but units and what commands call themselves is said in both languages, and a group that has
-// texts has a heading.
-TEST_F(Texts, SpeakBothLanguages) {
-    EXPECT_THAT(allThat([](const stParamText& t) {
-                    if (t.type == kTextUnit) return t.language != kEnglish;
-                    const bool ownName =
-                        t.id >= 19000 && t.id <= 19020 && t.type == kTextItem && t.id_group == 0;
-                    return !ownName && find(1, kGerman + kEnglish - t.language, t.id, t.type, t.id_group,
-                                            t.id_item) == kNotFound;
-                }),
-                testing::IsEmpty());
-    EXPECT_THAT(allThat([](const stParamText& t) {
-                    const bool headed = (t.id >= 18000 && t.id <= 18020) || (t.id >= 19000 && t.id <= 19020);
-                    return headed && t.type == kTextItem &&
-                           find(1, t.language, t.id, kTextGroup, 0, t.id_group) == kNotFound;
-                }),
-                testing::IsEmpty());
-}
-
-TEST_F(Texts, TitleEveryParameterAndTemplate) {
-    std::vector<std::string> untitled, undescribed, unnamed;
-    for (int position = 1; position <= kParamCount; ++position) {
-        const stParamProperties& row = DefParamProperties[position];
-        const int id = textIdOf(row);
-        const std::string name = isTemplate(row) ? std::to_string(row.id) : row.name;
-        if (row.val_max_id > 0 && DefParamProperties[position - 1].name == row.name)
-            continue; // one text for all
-        if (name.starts_with("EvCnt_qu2") || name == "OVR_BE_LT_enable")
-            continue; // another name has their id
-        for (int language : {kGerman, kEnglish}) {
-            if (!has(language, id, kTextTitle)) untitled.push_back(name);
-            if (!isTemplate(row) && row.is_volatile == 0 && !has(language, id, kTextDescription) &&
-                !name.starts_with("stat_"))
-                undescribed.push_back(name);
-        }
-        if (!isTemplate(row) && resolve("txt_" + name) != id) unnamed.push_back(name);
-    }
-    EXPECT_THAT(untitled, testing::IsEmpty());
-    EXPECT_THAT(undescribed, testing::IsEmpty());
-    EXPECT_THAT(unnamed, testing::IsEmpty());
-}
-
-// A title that only repeats the name tells nothing; a few names are words.
-TEST_F(Texts, SayMoreThanTheName) {
-    std::vector<std::string> repeated;
-    for (int position = 1; position <= kParamCount; ++position) {
-        const stParamProperties& row = DefParamProperties[position];
-        const std::string_view name = row.name;
-        for (int language : {kGerman, kEnglish}) {
-            const int title = find(1, language, textIdOf(row), kTextTitle);
-            const int description = find(1, language, textIdOf(row), kTextDescription);
-            if (title == kNotFound) continue;
-            if (name.find('_') != name.npos && name == DefParamText[title].txt) repeated.emplace_back(name);
-            if (description != kNotFound &&
-                std::string_view(DefParamText[description].txt) == DefParamText[title].txt)
-                repeated.emplace_back(name);
-        }
-    }
-    EXPECT_THAT(repeated, testing::IsEmpty());
-}
-
-// As many choices as the enum has; two lists leave the last functions of their range without a text.
-TEST_F(Texts, NameEveryChoice) {
-    const std::map<int, std::size_t> kShorter{{18031, 10}, {18032, 13}};
     std::vector<std::string> wrong;
-    for (int position = 1; position <= kParamCount; ++position) {
-        const stParamProperties& row = DefParamProperties[position];
-        if (row.type != kTypeEnum || row.id_template != 0) continue;
-        const auto choices = static_cast<std::size_t>(
-            std::count_if(texts().begin(), texts().end(), [&row](const stParamText& t) {
-                return t.id == row.id && t.type == kTextItem && t.language == kGerman && t.id_group == 0;
-            }));
-        const auto shorter = kShorter.find(row.id);
-        const auto expected =
-            shorter == kShorter.end() ? static_cast<std::size_t>(row.val_max) : shorter->second;
-        if (choices != 0 && choices != expected)
-            wrong.push_back(std::to_string(row.id) + " " + row.name + ": " + std::to_string(choices));
+    for (const stParamText& t : texts()) {
+        const auto check = [&](bool holds, const char* what) {
+            if (!holds) wrong.push_back(std::to_string(t.id) + " " + t.txt + ": " + what);
+        };
+        const std::string text = t.txt, edges{' ', text.front(), text.back(), ' '};
+        const std::size_t characters = std::mbstowcs(nullptr, t.txt, 0);
+        const bool isItem = t.type == kTextItem, isUnit = t.type == kTextUnit;
+        const bool isCommand = t.id >= 19000 && t.id <= 19020, isDialog = t.id >= 18000 && t.id <= 18020;
+        check(met.insert({t.id, t.language, t.type, t.id_group, t.id_item}).second, "there twice");
+        check(characters != text.npos, "UTF-8");
+        check(t.type != kTextTitle || characters <= 24, "longer than a line of the display");
+        check(edges.find_first_of(" \t\n", 1) == 3 && text.find("  ") == text.npos &&
+                  text.find_first_of("{}|\t\r") == text.npos,
+              "blanks or signs of the data's grammar");
+        check(isUnit ? t.language == kEnglish
+                     : (isCommand && isItem && t.id_group == 0) ||
+                           find(1, kGerman + kEnglish - t.language, t.id, t.type, t.id_group, t.id_item) != 0,
+              "languages");
+        check(!isItem || !(isCommand || isDialog) ||
+                  find(1, t.language, t.id, kTextGroup, 0, t.id_group) != 0,
+              "no heading");
+        check(t.type != kTextDescription || text != plain(t.language, t.id, kTextTitle), "the title again");
     }
     EXPECT_THAT(wrong, testing::IsEmpty());
 }
 
-// The texts that other programs and manuals rely on.
-TEST_F(Texts, ReadAsPrinted) {
-    using List = std::vector<std::string>;
-    EXPECT_STREQ(GetParamString(18023, kTextTitle)->txt, "Parität");
-    EXPECT_EQ(list(18023, 0, kTextItem), (List{"keine", "ungerade", "gerade"}));
-    EXPECT_EQ(list(kLanguage, 0, kTextItem), (List{"Deutsch", "Englisch"}));
-    EXPECT_EQ(list(18005, 0, kTextItem), (List{"ja", "nein"}));
-    EXPECT_EQ(list(18021, 0, kTextItem), (List{"9600", "19200", "38400", "57600", "115200"}));
-    EXPECT_STREQ(GetParamString(2000, kTextUnit)->txt, "kV"); // English only
-
-    VarSetEnumValue(kLanguage, kEnglish);
-    EXPECT_STREQ(GetParamString(2000, kTextDescription)->txt, "Voltage U1_primary");
-    EXPECT_EQ(list(18021, 0, kTextItem), (List{"9600", "19200", "38400", "57600", "115200"}));
-    EXPECT_EQ(list(18022, 0, kTextItem), (List{"7", "8"}));
-    EXPECT_EQ(list(18023, 0, kTextItem), (List{"none", "odd", "even"}));
-    EXPECT_EQ(list(18024, 0, kTextItem), (List{"1", "1.5", "2"}));
-    EXPECT_EQ(list(18025, 0, kTextItem), (List{"none", "Xon/Xoff", "RTS/CTS"}));
-    EXPECT_EQ(list(18026, 0, kTextItem), (List{"Off", "On"}));
-    EXPECT_EQ(list(18029, 0, kTextItem), (List{"+", "-"}));
-    EXPECT_EQ(list(18033, 0, kTextItem), (List{"+", "-"}));
-    EXPECT_EQ(list(kLanguage, 0, kTextItem), (List{"German", "English"}));
-    EXPECT_EQ(list(18031, 0, kTextItem), (List{"AUS", "qu2 - Transient", "qu2 + CE", "qui", "ov5", "ovx",
-                                               "ovx1", "cos", "sin", "pulse50"}));
-    EXPECT_EQ(list(18032, 0, kTextItem),
-              (List{"Voltage secondary", "Current secondary", "Angle", "Voltage primary", "Current primary",
-                    "Voltage Ph-Ph", "Activ power prim.", "Reactiv power prim.", "Apparent power prim.",
-                    "PQS prim.", "5th harm. prim.", "Frequency fx1", "Voltage DI1,2"}));
-    EXPECT_EQ(list(19007, 2, kTextItem),
-              (List{"Disc full", "Not enough\nspace", "Transfer\nsuccessful", "No USB stick",
-                    "Error during\ntransfer (CRC)", "Timeout", "No write permission\non USB"}));
-    EXPECT_STREQ(GetParamStringInGroup(19001, 2, 0, kTextItem)->txt, "Error during\ntransfer");
-    EXPECT_STREQ(GetParamStringInGroup(19001, 2, 1, kTextItem)->txt, "Successful\nsaved");
-    EXPECT_EQ(list(19001, 0, kTextGroup), (List{"Args", "Messages", "Errors"}));
-    EXPECT_EQ(list(18005, 0, kTextGroup), (List{"Parameter", "Messages"}));
-    EXPECT_EQ(list(18005, 0, kTextItem), (List{"yes", "no"}));
-    EXPECT_STREQ(GetParamString(18005, kTextTitle)->txt, "Confirmation");
-    VarSetEnumValue(kLanguage, kGerman);
-    EXPECT_EQ(list(19001, 0, kTextItem), List{"VarSaveParams"}); // its own name, in English only
-
-    const List inputs = list(18028, 0, kTextItem);
-    const List outputs = list(18030, 0, kTextItem);
-    ASSERT_EQ(inputs.size(), 103u);
-    ASSERT_EQ(outputs.size(), 128u);
-    const auto english = [](int id, int item) {
-        return DefParamText[find(1, kEnglish, id, kTextItem, 0, item)].txt;
-    };
-    for (const auto& [item, text] :
-         std::map<int, const char*>{{1, "OFF"}, {2, "BI1"}, {7, "BI6"}, {8, "virt_BI1"}, {103, "virt_BI96"}})
-        EXPECT_STREQ(english(18028, item), text);
-    for (const auto& [item, text] : std::map<int, const char*>{{1, "OFF"},
-                                                               {4, "Error"},
-                                                               {15, "user_BOF8"},
-                                                               {16, ">Uearth"},
-                                                               {17, ">Uearth_delay"},
-                                                               {23, "Uerd_L3_d"},
-                                                               {27, "Prio_Uearth ->b"},
-                                                               {33, "qui ->BB"},
-                                                               {34, "cos -> F"},
-                                                               {39, "c_s -> BB"},
-                                                               {47, "H_fx2- ->BB"},
-                                                               {52, "Pulse50_LED"},
-                                                               {56, "Puls_HPCI_fx"},
-                                                               {64, ">>I3"},
-                                                               {72, ">>I3 ->F"},
-                                                               {73, ">I BB"},
-                                                               {81, ">Ferro-res"},
-                                                               {84, "50Hz n.n."},
-                                                               {86, "DynAdm ->BB"},
-                                                               {87, "I_ScE>"},
-                                                               {89, "I_ScE> ->BB"},
-                                                               {90, "NC"},
-                                                               {128, "NC"}})
-        EXPECT_STREQ(english(18030, item), text);
-}
-
-TEST_F(Texts, FollowTheLanguage) {
-    for (const auto& [language, title] : std::map<short, const char*>{
-             {1, "Sprache"}, {2, "Language"}, {0, "Language"}, {7, "Language"}, {-1, "Language"}}) {
-        VarSetEnumValue(kLanguage, language);
-        VarSetGlobalEnumValue(kLanguage, static_cast<short>(3 - language)); // the temporary space counts
-        EXPECT_STREQ(GetParamString(kLanguage, kTextTitle)->txt, title) << language;
+// Every parameter and template has its texts in table order, in each language a title (settings a description
+// too), an enum all its choices or none, and a name.
+TEST_F(Texts, CoverTheCatalogue) {
+    std::vector<int> expectedIds, ids;
+    std::vector<std::string> wrong;
+    for (int position = 1; position <= kParamCount; ++position) {
+        const stParamProperties& row = DefParamProperties[position];
+        const std::string name = row.name;
+        const bool isTemplate = name.empty();
+        if (row.val_max_id > 0 && DefParamProperties[position - 1].name == name) continue; // one for all
+        if (name.starts_with("EvCnt_qu2") || name == "OVR_BE_LT_enable") continue; // another has the id
+        const int id = expectedIds.emplace_back(textIdOf(row));
+        const auto check = [&](bool holds, const char* what) {
+            if (!holds) wrong.push_back(std::to_string(id) + " " + name + ": " + what);
+        };
+        for (int language : {kGerman, kEnglish}) {
+            const std::string_view title = plain(language, id, kTextTitle);
+            check(title != "***", "no title");
+            check(name.find('_') == name.npos || title != name, "the title is the name");
+            check(isTemplate || row.is_volatile != 0 || name.starts_with("stat_") ||
+                      plain(language, id, kTextDescription) != "***",
+                  "no description");
+            const auto choices = std::count_if(texts().begin(), texts().end(), [&](const stParamText& t) {
+                return t.id == id && t.type == kTextItem && t.language == language;
+            });
+            const double all = id == 18031 ? 10 : id == 18032 ? 13 : row.val_max; // the last have no text
+            check(row.type != kTypeEnum || choices == 0 || static_cast<double>(choices) == all, "choices");
+        }
+        const std::size_t place = 2 + expectedIds.size();
+        const std::string symbol = isTemplate ? DefParamSymbols[place].name + 4 : name; // behind VAR_
+        check(DefParamTextSymbols[place].name == "TXT_" + symbol && resolve("txt_" + symbol) == id, "symbol");
     }
+    for (const stParamText& text : texts())
+        if (ids.empty() || ids.back() != text.id) ids.push_back(text.id);
+    EXPECT_EQ(ids, expectedIds);
+    EXPECT_THAT(wrong, testing::IsEmpty());
+    for (std::size_t end : {std::size_t{0}, ids.size() + 3})
+        EXPECT_STREQ(DefParamTextSymbols[end].name, "***");
 }
 
-// All six look-ups against plain searches of the compiled-in table, cursor included.
+TEST_F(Texts, HaveNames) {
+    std::istringstream ids(
+        "txt_tpl_baudrate 18021 TXT_TPL_DLG_Test 18000 TXT_NULL 0 TXT_TPL_NULL 0 "
+        "TXT_ETH0_IP 20000 TXT_WLAN0_MASK 21002 TXT_ETH1_GATEWAY 22001 TXT_ETH1_GATEWAYS -1 "
+        "TXT_cycle_cnt_low 7000 TXT_OVR_BE_enable 7005 TXT_DisplayLevel 7006 *** -1 "
+        "TXT_conman_status 6094 TXT_conman_status_1 -1 TXT_EvCnt_qu2 -1 "
+        "TXT_OVR_BE_LT_enable -1 TXT_VarSaveParams 19001");
+    long id = resolve("");
+    EXPECT_EQ(id, -1);
+    for (std::string name; ids >> name >> id;)
+        EXPECT_EQ(resolve(name), id) << name;
+}
+
+// The texts that other programs and manuals rely on: language, id, type, group, texts.
+TEST_F(Texts, ReadAsPrinted) {
+    std::istringstream printed(R"(1 10000 3002 0 0:Sprache
+2 10000 3002 0 0:Language
+0 10000 3002 0 0:Language
+7 10000 3002 0 0:Language
+1 10000 3008 0 1:Deutsch|Englisch
+2 10000 3008 0 1:German|English
+2 2000 3003 0 0:Voltage U1_primary
+1 2000 3004 0 0:kV
+1 18021 3008 0 1:9600|19200|38400|57600|115200
+2 18021 3008 0 1:9600|19200|38400|57600|115200
+2 18022 3008 0 1:7|8
+1 18023 3008 0 1:keine|ungerade|gerade
+2 18023 3008 0 1:none|odd|even
+2 18024 3008 0 1:1|1.5|2
+2 18025 3008 0 1:none|Xon/Xoff|RTS/CTS
+2 18026 3008 0 1:Off|On
+2 18029 3008 0 1:+|-
+2 18030 3008 0 1:OFF|PROG|Status|Error|U1_ok|U2_ok|U3_ok|user_BOF1|user_BOF2|user_BOF3|user_BOF4|user_BOF5|
+user_BOF6|user_BOF7|user_BOF8|>Uearth|>Uearth_delay|Uerd_L1|Uerd_L2|Uerd_L3|Uerd_L1_d|Uerd_L2_d|Uerd_L3_d|
+Sum_Uearth ->f|Sum_Uearth ->b|Prio_Uearth ->f|Prio_Uearth ->b|qu2 ->F|qu2 ->BB|qu2_CE ->F|qu2_CE ->BB|qui ->F|
+qui ->BB|cos -> F|cos -> BB|sin -> F|sin -> BB|c_s -> F|c_s -> BB|H_250 ->F|H_250 ->BB|H_fx1 ->F|H_fx1 ->BB|
+H_fx2+ ->F|H_fx2+ ->BB|H_fx2- ->F|H_fx2- ->BB|Pulse_50|Pulse_50c|Pulse_50c ->F|Pulse_50c ->BB|Pulse50_LED|
+Puls_HPCI_50|Puls_HPCI_50 ->F|Puls_HPCI_50 ->BB|Puls_HPCI_fx|>I|>I1|>I2|>I3|>>I|>>I1|>>I2|>>I3|>I ->F|>I1 ->F|
+>I2 ->F|>I3 ->F|>>I ->F|>>I1 ->F|>>I2 ->F|>>I3 ->F|>I BB|>I1 BB|>I2 BB|>I3 BB|>>I BB|>>I1 BB|>>I2 BB|>>I3 BB|
+>Ferro-res|50Hz -df|50Hz +df|50Hz n.n.|DynAdm ->FD|DynAdm ->BB|I_ScE>|I_ScE> ->FD|I_ScE> ->BB|NC|NC|NC|NC|NC|
+NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC
+2 18031 3008 0 1:AUS|qu2 - Transient|qu2 + CE|qui|ov5|ovx|ovx1|cos|sin|pulse50
+2 18032 3008 0 1:Voltage secondary|Current secondary|Angle|Voltage primary|Current primary|Voltage Ph-Ph|
+Activ power prim.|Reactiv power prim.|Apparent power prim.|PQS prim.|5th harm. prim.|Frequency fx1|
+Voltage DI1,2
+2 18033 3008 0 1:+|-
+2 10040 3008 0 1:System Ethernet|Ethernet USB
+2 18005 3002 0 0:Confirmation
+2 18005 3007 0 0:Parameter|Messages
+1 18005 3008 0 1:ja|nein
+2 18005 3008 0 1:yes|no
+2 19001 3007 0 0:Args|Messages|Errors
+1 19001 3008 0 1:VarSaveParams
+2 19001 3008 1 1:Please wait...
+2 19001 3008 2 0:Error during~transfer|Successful~saved
+2 19007 3008 2 1:Disc full|Not enough~space|Transfer~successful|No USB stick|Error during~transfer (CRC)|
+Timeout|No write permission~on USB
+)");
+    short language = 0;
+    for (int id = 0, type = 0, group = 0; printed >> language >> id >> type >> group;) {
+        VarSetEnumValue(kLanguage, language);
+        std::string expected;
+        for (std::string line; expected.empty() || expected.back() == '|'; expected += line)
+            std::getline(printed >> std::ws, line);
+        EXPECT_EQ(list(id, group, type), expected) << id << " in language " << language;
+    }
+    std::string inputs = "1:OFF";
+    for (int n = 1; n <= 6 + 96; ++n)
+        inputs += n <= 6 ? "|BI" + std::to_string(n) : "|virt_BI" + std::to_string(n - 6);
+    EXPECT_EQ(list(18028, 0, kTextItem), inputs);
+}
+
+// All six look-ups against plain searches of the compiled-in table, and the cursor, which anybody may set.
 TEST_F(Texts, LookUpsAgreeWithPlainSearches) {
     std::mt19937 random(1);
     const auto upTo = [&random](int most) {
         return static_cast<int>(random() % static_cast<unsigned>(most + 1));
     };
+    const int cursors[] = {INT_MIN, -1, 0, DefParamTextCount, kParamTextRows - 1, kParamTextRows, INT_MAX};
     int cursor = iLastEntry;
     for (int round = 0; round < 3000; ++round) {
-        const int language = upTo(3);
-        const int current = language == kGerman ? kGerman : kEnglish;
+        if (upTo(19) == 0) cursor = iLastEntry = cursors[upTo(6)];
+        const int language = upTo(4) - 1, current = language == kGerman ? kGerman : kEnglish;
         VarSetEnumValue(kLanguage, static_cast<short>(language));
+        VarSetGlobalEnumValue(kLanguage, static_cast<short>(3 - language)); // the temporary space counts
         const stParamText& some = texts()[random() % texts().size()];
-        const int id = upTo(9) == 0 ? 99999 : some.id;
+        const int id = upTo(9) == 0 ? 99999 : some.id, item = some.id_item + upTo(1);
         const int type = upTo(4) == 0 ? kTextTitle + upTo(6) : some.type;
-        const int group = upTo(4) == 0 ? upTo(4) - 1 : some.id_group, item = some.id_item + upTo(1);
-        const auto search = [&](int g, int i) {
-            // -1 stands for any group in the plain search, and for no group in the look-up
-            if (g == -1) return kNotFound;
-            const int row = find(1, current, id, type, g, i);
-            return row != kNotFound ? row : find(1, kEnglish, id, type, g, i);
-        };
-        const auto searchAny = [&] {
-            const int row = find(1, current, id, type);
-            return row != kNotFound ? row : find(1, kEnglish, id, type);
-        };
-        int expected = kNotFound;
-        const stParamText* found = nullptr;
-        bool moves = true;
-        switch (upTo(5)) {
-        case 0:
-            found = GetParamString(id, type), expected = searchAny(), moves = false;
-            break;
-        case 1:
-            found = GetFirstParamString(id, type), expected = searchAny();
-            break;
-        case 2:
-            found = GetNextParamString(id, type), expected = find(cursor + 1, current, id, type);
-            break;
-        case 3:
-            found = GetParamStringInGroup(id, group, item, type), expected = search(group, item),
-            moves = false;
-            break;
-        case 4:
-            found = GetFirstParamStringInGroup(id, group, type), expected = search(group, -1);
-            break;
-        default:
-            found = GetNextParamStringInGroup(id, group, type);
-            expected = group == -1 ? kNotFound : find(cursor + 1, current, id, type, group);
-        }
+        const int group = upTo(4) == 0 ? upTo(4) - 1 : some.id_group;
+
+        const int which = upTo(5);
+        const stParamText* const found = lookUp(which, id, type, group, item);
+        const bool isNext = which % 3 == 2, moves = which % 3 != 0;
+        const int g = which < 3 ? kAny : group, i = which == 3 ? item : kAny;
+        const int from = !isNext ? 1 : cursor < 0 || cursor >= DefParamTextCount ? kNotFound : cursor + 1;
+        int expected = from == kNotFound ? kNotFound : find(from, current, id, type, g, i);
+        if (expected == kNotFound && !isNext) expected = find(1, kEnglish, id, type, g, i);
         if (moves && expected != kNotFound) cursor = expected;
         ASSERT_EQ(iLastEntry, cursor) << round;
-        ASSERT_STREQ(found->txt, expected == kNotFound ? "***" : DefParamText[expected].txt) << round;
+        ASSERT_EQ(found->id, DefParamText[expected].id) << round;
+        ASSERT_STREQ(found->txt, DefParamText[expected].txt) << round;
     }
-}
-
-TEST_F(Texts, ACursorAnywhereIsHarmless) {
-    for (int cursor :
-         {-2'000'000'000, -1, DefParamTextCount, kParamTextRows - 1, kParamTextRows, 2'147'483'647}) {
-        iLastEntry = cursor;
-        EXPECT_STREQ(GetNextParamString(99999, kTextTitle)->txt, "***");
-        EXPECT_EQ(iLastEntry, cursor);
-    }
-}
-
-TEST_F(Texts, HaveNames) {
-    const std::map<std::string, long> kIds{{"txt_tpl_baudrate", 18021},
-                                           {"TXT_TPL_DLG_Test", 18000},
-                                           {"TXT_NULL", 0},
-                                           {"TXT_TPL_NULL", 0},
-                                           {"TXT_ETH0_IP", 20000},
-                                           {"TXT_ETH1_GATEWAY", 22001},
-                                           {"TXT_WLAN0_MASK", 21002},
-                                           {"TXT_cycle_cnt_low", 7000},
-                                           {"TXT_OVR_BE_enable", 7005},
-                                           {"TXT_DisplayLevel", 7006},
-                                           {"TXT_conman_status", 6094},
-                                           {"TXT_VarSaveParams", 19001},
-                                           {"TXT_EvCnt_qu2", -1},
-                                           {"TXT_OVR_BE_LT_enable", -1},
-                                           {"TXT_conman_status_1", -1},
-                                           {"***", -1},
-                                           {"", -1},
-                                           {"TXT_ETH1_GATEWAYS", -1}};
-    for (const auto& [name, id] : kIds)
-        EXPECT_EQ(resolve(name), id) << name;
-
-    // Every name leads to the id that it stands for, and that id has texts.
-    std::vector<std::string> lost;
-    const stParamSymbol* symbol = DefParamTextSymbols;
-    EXPECT_STREQ(symbol->name, "***");
-    for (++symbol; std::string_view(symbol->name) != "***"; ++symbol)
-        if (resolve(symbol->name) != symbol->value ||
-            (symbol->value != 0 && !has(kGerman, symbol->value, kTextTitle)))
-            lost.emplace_back(symbol->name);
-    EXPECT_THAT(lost, testing::IsEmpty());
 }
 
 TEST_F(TextsDeathTest, AnIdBelowOneAborts) {
-    const auto abortsAs = [](const char* function, auto lookUp) {
-        for (int id : {0, -1, -2'147'483'647})
-            EXPECT_DEATH(lookUp(id), testing::HasSubstr(std::string("ParamSystem/TALUX_ParamStrings: ") +
-                                                        function + ": Assertion `id>0' failed."));
-    };
-    abortsAs("const stParamText* GetParamString(int, int)", [](int id) { GetParamString(id, 3002); });
-    abortsAs("const stParamText* GetFirstParamString(int, int)",
-             [](int id) { GetFirstParamString(id, 3002); });
-    abortsAs("const stParamText* GetNextParamString(int, int)", [](int id) { GetNextParamString(id, 3002); });
-    abortsAs("const stParamText* GetParamStringInGroup(int, int, int, int)",
-             [](int id) { GetParamStringInGroup(id, 0, 0, 3002); });
-    abortsAs("const stParamText* GetFirstParamStringInGroup(int, int, int)",
-             [](int id) { GetFirstParamStringInGroup(id, 0, 3002); });
-    abortsAs("const stParamText* GetNextParamStringInGroup(int, int, int)",
-             [](int id) { GetNextParamStringInGroup(id, 0, 3002); });
+    const std::string names[] = {"GetParamString(int, int)",
+                                 "GetFirstParamString(int, int)",
+                                 "GetNextParamString(int, int)",
+                                 "GetParamStringInGroup(int, int, int, int)",
+                                 "GetFirstParamStringInGroup(int, int, int)",
+                                 "GetNextParamStringInGroup(int, int, int)"};
+    for (int which = 0; which < 6; ++which)
+        for (int id : {0, INT_MIN})
+            EXPECT_DEATH(lookUp(which, id, kTextTitle, 0, 0),
+                         testing::HasSubstr("ParamSystem/TALUX_ParamStrings: const stParamText* " +
+                                            names[which] + ": Assertion `id>0' failed."));
 }

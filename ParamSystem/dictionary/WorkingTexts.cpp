@@ -8,6 +8,7 @@ constinit stParamText ParamText[kParamTextRows] = {};
 
 void endTextTable(int row) {
     std::fill(ParamText + row, ParamText + kParamTextRows, stParamText{});
+    if (row == 0) ParamText[0].txt = "***";
 }
 
 } // namespace talux
@@ -16,7 +17,6 @@ using namespace talux;
 
 int LoadDefParamStrings() {
     endTextTable(0);
-    ParamText[0].txt = "***";
     for (int row = 1; DefParamText[row].id != 0; ++row)
         ParamText[row] = DefParamText[row];
     return 1;

@@ -9,7 +9,7 @@ namespace talux {
 // Row 0 stands for "not found"; a row with id 0 behind it ends the table.
 extern stParamText ParamText[kParamTextRows];
 
-// Makes all rows from `row` on empty, so that the table ends before it.
+// Ends the table before `row`: all rows from there on become empty, but row 0 never loses its text.
 void endTextTable(int row);
 
 } // namespace talux
