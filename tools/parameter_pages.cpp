@@ -54,6 +54,14 @@ public:
         return {};
     }
 
+    std::string choice(int number) const {
+        for (const stParamText* row : rows)
+            if (row->type == kTextItem && row->id_group == kChoices && row->id_item == number &&
+                row->language == kEnglish)
+                return onOneLine(row->txt);
+        return {};
+    }
+
     // "1 = none · 2 = odd · 3 = even"; runs of numbered texts and of the same text are drawn together.
     std::string list(int group, int language) const {
         std::vector<const stParamText*> items;
@@ -199,11 +207,15 @@ std::string templateName(int id) {
 
 // ---- Pages --------------------------------------------------------------------------------------------
 
+std::string inSmallLetters(std::string text) {
+    for (char& c : text)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    return text;
+}
+
 std::string fileOf(const stParamFamily& family) {
-    std::string file = family.name;
-    std::transform(file.begin(), file.end(), file.begin(), [](char c) {
-        return c == ' ' ? '-' : c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
-    });
+    std::string file = inSmallLetters(family.name);
+    std::replace(file.begin(), file.end(), ' ', '-');
     return file + ".md";
 }
 
@@ -229,6 +241,16 @@ std::string nameCell(const stParamProperties& row) {
     return cell;
 }
 
+// "default 5 = 115200"
+std::string defaultNumber(const stParamProperties& row, const TextsOf& texts) {
+    std::string line = join({"default ", number(row.val_def)});
+    if (row.type != kTypeEnum) return line;
+    const int chosen = static_cast<int>(row.val_def);
+    const std::string choice =
+        row.id_template != 0 ? TextsOf(row.id_template).choice(chosen) : texts.choice(chosen);
+    return choice.empty() ? line : join({line, " = ", choice});
+}
+
 std::string valueCell(const stParamProperties& row, const TextsOf& texts) {
     std::string cell(kindOf(row.type));
     const std::string unit = texts.one(kTextUnit, kEnglish);
@@ -237,7 +259,7 @@ std::string valueCell(const stParamProperties& row, const TextsOf& texts) {
     if (row.type == kTypeNone) return cell;
     if (isTemplate(row)) return cell + "<br>template";
     addLine(cell, row.is_volatile != 0 ? "run-time value" : "");
-    if (row.is_volatile == 0 && hasNumber(row)) addLine(cell, join({"default ", number(row.val_def)}));
+    if (row.is_volatile == 0 && hasNumber(row)) addLine(cell, defaultNumber(row, texts));
     if (row.is_volatile == 0 && isText(row))
         addLine(cell,
                 row.val_def_text[0] == '\0' ? "default empty" : join({"default `", row.val_def_text, "`"}));
@@ -299,12 +321,13 @@ Every parameter of the device by menu family, with its texts in English and Germ
 - **Value**: kind and unit; the factory default and the permitted range of a setting; whether it can be written,
   and the rights level that this takes. A *run-time value* lives in the global space only and has no default.
 - Where a text stands under **as**/**wie**, the parameter shares the choices of that [template](templates.md).
-- In KEPL a parameter is `TLX_` and its name; letter case does not count.
+- In [KEPL](../kepl.md) a parameter is `TLX_` and its name; letter case does not count.
+- [By name](#by-name) lists every parameter with its titles: search that page for a word of either language.
 
 | Family | Parameters | Ids |
 |---|---|---|
 )";
-    std::map<std::string, std::string> links; // name in small letters, link
+    std::map<std::string, std::string> lines; // by name in small letters
     for (const stParamFamily& family : DefParamFamilies) {
         int count = 0, least = DefParamProperties[family.first].id, most = least;
         forEachParameter(family.first, family.last, [&](int position) {
@@ -313,21 +336,17 @@ Every parameter of the device by menu family, with its texts in English and Germ
             least = std::min(least, row.id);
             most = std::max(most, row.id + std::max(0, row.val_max_id - row.val_min_id));
             if (isTemplate(row)) return;
-            std::string key = row.name;
-            std::transform(key.begin(), key.end(), key.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-            links[key] = join({"[", row.name, "](", fileOf(family), "#", row.name, ")"});
+            const TextsOf texts(hasTexts(position) ? textIdOf(row) : 0);
+            lines[inSmallLetters(row.name)] =
+                join({"| [`", row.name, "`](", fileOf(family), "#", row.name, ") | ",
+                      texts.one(kTextTitle, kEnglish), " | ", texts.one(kTextTitle, kGerman), " |\n"});
         });
         page << "| [" << family.name << "](" << fileOf(family) << ") | " << count << " | " << least << " to "
              << most << " |\n";
     }
-    page << "\n## By name";
-    char initial = 0;
-    for (const auto& [key, link] : links) {
-        page << (key[0] == initial ? " ·\n" : "\n\n") << link;
-        initial = key[0];
-    }
-    page << "\n";
+    page << "\n## By name\n\n| Name | English | Deutsch |\n|---|---|---|\n";
+    for (const auto& [name, line] : lines)
+        page << line;
     return page.str();
 }
 
