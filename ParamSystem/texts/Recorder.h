@@ -9,7 +9,7 @@ namespace talux::texts {
 inline constexpr TextEntry kRecorder[] = {
     value("rec_pretrig_per", {"Vorgeschichte", "Pre-trigger"},
           {"Netzperioden, die vor dem Auslösen aufgezeichnet werden",
-           "Grid periods that are recorded before the trigger"}),
+           "Grid periods recorded before the trigger"}),
     value("rec_posttrig_t", {"Nachlaufzeit", "Post-trigger time"},
           {"Aufzeichnungsdauer nach dem Auslösen durch einen Erdschluss",
            "Recording time after a trigger by an earth fault"},
@@ -19,14 +19,15 @@ inline constexpr TextEntry kRecorder[] = {
            "Time after which a persisting fault triggers again; -1 = never"},
           "ms"),
     value("rec_retrig_dur", {"Dauer Wiederauslösung", "Retrigger duration"},
-          {"Aufzeichnungsdauer nach einem erneuten Auslösen", "Recording time after a trigger that repeats"},
+          {"Aufzeichnungsdauer nach einem erneuten Auslösen", "Recording time after a repeated trigger"},
           "ms"),
     value("sc_posttrig_C{1..2}", {"Nachlauf Klasse {n}", "Post-trigger class {n}"},
           {"Aufzeichnungsdauer nach einem Kurzschluss der Klasse {n}",
            "Recording time after a short circuit of class {n}"},
           "ms"),
-    value("max_cnt_rec", {"Anzahl Aufzeichnungen", "Number of records"},
-          {"Aufzeichnungen, die höchstens aufgehoben werden", "Records that are kept at most"}),
+    value(
+        "max_cnt_rec", {"Anzahl Aufzeichnungen", "Number of records"},
+        {"Höchstzahl der Aufzeichnungen, die aufgehoben werden", "Largest number of records that are kept"}),
 
     value("stat_enabled", {"Statistik aktiv", "Statistics active"},
           {"Messwerte über das Statistikintervall auswerten und speichern",

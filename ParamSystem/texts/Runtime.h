@@ -8,8 +8,8 @@ namespace talux::texts {
 
 inline constexpr TextEntry kRuntime[] = {
     value("max_ini_files", {"Anzahl Sicherungen", "Number of backups"},
-          {"Datierte Kopien der Parameterdatei, die höchstens aufgehoben werden",
-           "Dated copies of the parameter file that are kept at most"}),
+          {"Höchstzahl der datierten Kopien der Parameterdatei, die aufgehoben werden",
+           "Largest number of dated copies of the parameter file that are kept"}),
     value("BA_red_cnt", {"Redundanz Relais", "Relay redundancy"},
           {"Zyklen, über die ein Relaisbefehl gleich anstehen muss",
            "Cycles for which a relay command must stay the same"}),
@@ -37,7 +37,7 @@ inline constexpr TextEntry kRuntime[] = {
     label("OVR_MW_time", {"Simulationszeit Messw.", "Override time meas."}),
     label("OVR_MW_BE_time", {"Simulationszeit Mw. BE", "Override time meas. BI"}),
     label("OVR_BE_val", {"Simul. Binäreingang", "Override binary input"}),
-    label("OVR_BE_LT_val", {"Simul. LED-Test", "Override LED test"}),
+    label("OVR_BE_LT_val", {"Simul. BE Leittechnik", "Override BI telecontrol"}),
     label("OVR_BEF_val", {"Simul. Eingangsf.", "Override input f. value"}),
     label("OVR_BAF_val", {"Simul. Ausgangsf.", "Override output f. value"}),
     label("OVR_BA_val", {"Simul. Relais", "Override relay"}),
@@ -67,7 +67,7 @@ inline constexpr TextEntry kRuntime[] = {
     label("SOURCE_SAMPLES_OLD", {"Quelle zuvor", "Previous source"}),
     label("SampleFile", {"Datei Abtastwerte", "Sample file"}),
     label("y_BE", {"Zustand Binäreingänge", "Binary inputs state"}),
-    label("y_BE_LT", {"Zustand BE und Taster", "BI and buttons state"}),
+    label("y_BE_LT", {"Zustand BE Leittechnik", "BI telecontrol state"}),
     label("y_BEF", {"Zustand Eingangsfunkt.", "Input functions state"}),
     label("y_BAF{1..4}", {"Ausgangsfunktionen {n}", "Output functions {n}"}),
     label("y_BA", {"Zustand Relais", "Relay state"}),

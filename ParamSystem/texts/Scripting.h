@@ -32,7 +32,7 @@ inline constexpr TextEntry kScripting[] = {
            "Write the output of the script server to a file"}),
     value("CONMASTER_active", {"Modbus-Master aktiv", "Modbus master active"},
           {"Verbindungsmanager starten, der andere Geräte über Modbus abfragt",
-           "Start the connection manager, which polls other devices through Modbus"}),
+           "Start the connection manager, which polls other devices via Modbus"}),
     choice("Modbus_port_conmaster", {"Port Modbus-Master", "Port Modbus master"},
            {"Serielle Schnittstelle des Modbus-Masters", "Serial port of the Modbus master"},
            {"Port 1|Port 2", "Port 1|Port 2"}),

@@ -7,7 +7,7 @@
 namespace talux::texts {
 
 inline constexpr TextEntry kTemplates[] = {
-    dialog("TPL_DLG_Test", {"Test", "Test"}, {"Probe der Anzeige", "Trial of the display"}),
+    dialog("TPL_DLG_Test", {"Test", "Test"}, {"Testmeldung", "Test message"}),
     dialog("TPL_DLG_Information", {"Information", "Information"}, {"Bitte beachten", "Please note"}),
     dialog("TPL_DLG_Progress", {"In Arbeit", "In progress"}, {"Bitte warten...", "Please wait..."}),
     dialog("TPL_DLG_Success", {"Fertig", "Done"}, {"Erfolgreich\nausgeführt", "Successfully\ncarried out"}),
@@ -33,13 +33,13 @@ inline constexpr TextEntry kTemplates[] = {
            {"Gemessene Spannung\naußerhalb des\nzulässigen Bereichs",
             "Measured voltage\noutside the\npermitted range"}),
     dialog("TPL_DLG_CalibrationResult", {"Abgleich: Ergebnis", "Calibration: result"},
-           {"Neue Übersetzungen\nberechnet", "New ratios\ncalculated"}),
+           {"Neue Abgleichwerte\nberechnet", "New calibration\nvalues calculated"}),
     dialog("TPL_DLG_CalibrationConfirm", {"Werte übernehmen?", "Accept values?"},
-           {"Neue Übersetzungen\nübernehmen?", "Take over the\nnew ratios?"}, {"ja|nein", "yes|no"}),
+           {"Neue Abgleichwerte\nübernehmen?", "Accept the new\ncalibration values?"}, {"ja|nein", "yes|no"}),
     dialog("TPL_DLG_CalibrationDone", {"Abgleich fertig", "Calibration done"},
            {"Abgleich erfolgreich\nbeendet", "Calibration finished\nsuccessfully"}),
     dialog("TPL_DLG_CalibrationAborted", {"Abgleich abgebrochen", "Calibration aborted"},
-           {"Übersetzungen\nunverändert", "Ratios left\nunchanged"}),
+           {"Abgleichwerte\nunverändert", "Calibration values\nleft unchanged"}),
 
     dialog("TPL_DLG_FactorySettings", {"Werkseinstellungen?", "Factory settings?"},
            {"Alle Einstellungen\nzurücksetzen?", "Reset all\nsettings?"}, {"ja|nein", "yes|no"}),
@@ -97,7 +97,7 @@ inline constexpr TextEntry kTemplates[] = {
            {"AUS|qu2 - Wischer|qu2 + CE|qui|ov5|ovx|ovx1|cos|sin|puls50",
             "AUS|qu2 - Transient|qu2 + CE|qui|ov5|ovx|ovx1|cos|sin|pulse50"}),
     shared("TPL_MEAS_DISP", {"Messwertanzeige", "Display measure"},
-           {"Spannung sekundär|Strom sekundär|Winkel|Spannung primär|Strom primär|Spannung L-L|"
+           {"Spannung sekundär|Strom sekundär|Winkel|Spannung primär|Strom primär|Außenleiterspannung|"
             "Wirkleistung prim.|Blindleistung prim.|Scheinleistung prim.|PQS prim.|5. Harm. prim.|"
             "Frequenz fx1|Spannung BE1,2",
             "Voltage secondary|Current secondary|Angle|Voltage primary|Current primary|Voltage Ph-Ph|"
