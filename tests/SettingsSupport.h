@@ -84,6 +84,7 @@ public:
         std::setvbuf(stderr, nullptr, _IONBF, 0);
         dup2(saved_, STDERR_FILENO);
         close(saved_);
+        fs::remove(kPath);
     }
 
     std::string text() const { return contents(kPath); }
@@ -98,13 +99,14 @@ using Command = std::vector<std::string>; // program and arguments
 
 // Programs, found before all others, that note their name and arguments instead of doing anything.
 inline void installRecorders(std::initializer_list<const char*> programs) {
-    fs::create_directories("/tmp/bin");
-    writeFile("/tmp/bin/recorder", "#!/bin/sh\n"
-                                   "printf '%s\\0' \"$#\" \"${0##*/}\" \"$@\" >>/tmp/record\n");
-    fs::permissions("/tmp/bin/recorder", fs::perms::owner_all);
+    fs::remove_all("/tmp/recorders");
+    fs::create_directories("/tmp/recorders");
+    writeFile("/tmp/recorders/recorder", "#!/bin/sh\n"
+                                         "printf '%s\\0' \"$#\" \"${0##*/}\" \"$@\" >>/tmp/record\n");
+    fs::permissions("/tmp/recorders/recorder", fs::perms::owner_all);
     for (const char* program : programs)
-        fs::create_symlink("recorder", std::string("/tmp/bin/") + program);
-    setenv("PATH", "/tmp/bin:/usr/sbin:/usr/bin:/sbin:/bin", 1);
+        fs::create_symlink("recorder", std::string("/tmp/recorders/") + program);
+    setenv("PATH", "/tmp/recorders:/usr/sbin:/usr/bin:/sbin:/bin", 1);
 }
 
 // What the recorders noted since the last call.

@@ -67,7 +67,7 @@ protected:
         if (!ownsSystemFiles()) return;
         installRecorders({"iwconfig", "ntpd", "ntpdate", "hwclock", "killall"});
         fs::create_directories("/appfs/taluxapp1");
-        fs::create_symlink("/tmp/bin/recorder", "/appfs/taluxapp1/ntpd_restart.sh");
+        fs::create_symlink("/tmp/recorders/recorder", "/appfs/taluxapp1/ntpd_restart.sh");
         writeFile("/tmp/zone", "");
     }
     void SetUp() override {

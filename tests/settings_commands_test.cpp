@@ -145,6 +145,7 @@ protected:
         LoadDefParamProperties();
         writeFile("/tmp/zone", "");
     }
+    static void TearDownTestSuite() { fs::remove("/tmp/zone"); }
     void TearDown() override {
         EXPECT_EQ(g_clockSettings, 0) << "the clock is none of these functions' business";
     }
