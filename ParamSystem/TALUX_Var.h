@@ -304,8 +304,9 @@ TALUX_API int VarResetIPConfig(int type);
 
 /*
  * Each runs shell commands, one after the other, most of them announced on the error stream, and blocks
- * until they are done. The commands' own success is not examined. Not atomic: each value is read when its
- * command is built.
+ * until they are done. The commands' own success is not examined. Texts are one word for the shell
+ * whatever they hold; a command of more than 253 characters is not run and the reason goes to the error
+ * stream. Not atomic: each value is read when its command is built.
  */
 
 // Applies everything: eth0, eth1, telecontrol aliases, name server, time zone, time service, wlan0.
@@ -324,7 +325,8 @@ TALUX_API int VarADHOCWLAN0(void);
 TALUX_API int VarINFRASTRUCTUREWLAN0(void);
 TALUX_API int VarStaticIPWLAN0_INFRASTRUCTURE(void);
 
-// Makes `DNS` the only name server of /etc/resolv.conf. 1 written, 0 nothing to do.
+// Makes `DNS` the only name server of /etc/resolv.conf. 1 written, 0 nothing to do or no server at all (a
+// text with a line end, which the error stream tells).
 TALUX_API int VarDNS(void);
 
 // Links /etc/localtime to the zone file `TIMEZONE`, or to UTC when there is none. Returns 1.

@@ -21,7 +21,7 @@ bool localTime(std::tm& now);
 // Sets the system clock; its result is not examined.
 void setClock(std::time_t seconds);
 
-// System log, priorities informational and error, each with the told format of two texts or one.
+// Write to the system log with priority informational or error, printf-style.
 [[gnu::format(printf, 1, 2)]] void logInfo(const char* format, ...);
 [[gnu::format(printf, 1, 2)]] void logError(const char* format, ...);
 
