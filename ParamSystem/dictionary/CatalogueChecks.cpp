@@ -172,10 +172,25 @@ consteval Fault valuesFit() {
     return kNoFault;
 }
 
+constexpr bool isIn(std::span<const catalogue::Row> family, int id) {
+    return std::any_of(family.begin(), family.end(), [id](const auto& r) { return r.properties.id == id; });
+}
+
+// Security parameters are the switches and numbers of two families and the commands that change a PIN.
+constexpr bool isSecurity(const stParamProperties& row) {
+    if (row.type == kTypeCommand) return std::string_view(row.name).ends_with("_Pin_change");
+    return isNumeric(row) && isCommitted(row) &&
+           (isIn(catalogue::kFirewall, row.id) || isIn(catalogue::kSecurity, row.id));
+}
+
+constexpr bool levelFits(const stParamProperties& row) {
+    if (isSecurity(row)) return row.userlevel == 3;
+    return row.userlevel == 1 || (row.userlevel == 2 && row.type == kTypeCommand);
+}
+
 consteval Fault rightsFit() {
     for (const stParamProperties& row : parameters()) {
-        if (row.userlevel < 1 || row.userlevel > 3)
-            return fault(row.name, "user level 1, 2 or 3", row.userlevel);
+        if (!levelFits(row)) return fault(row.name, "another user level than its like", row.userlevel);
         if (row.val_access != kReadOnly && row.val_access != kReadWrite)
             return fault(row.name, "read-only or read-write", row.val_access);
         if (row.is_volatile != 0 && (isTemplate(row) || row.type == kTypeCommand))
