@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <strings.h>
 
+#include <cctype>
 #include <map>
 #include <random>
 #include <string>
