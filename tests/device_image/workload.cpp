@@ -61,7 +61,7 @@ double someNumber() {
 void someText(char (&text)[140]) {
     static const char alphabet[] = "abcXYZ0123456789 .,:-_/%#;\xC4\xE4\xFF";
     std::memset(text, 0, sizeof text);
-    const std::uint32_t length = nextRandom() % sizeof text;
+    const std::uint32_t length = nextRandom() % std::uint32_t{sizeof text};
     for (std::uint32_t i = 0; i < length; i++)
         text[i] = alphabet[nextRandom() % (sizeof alphabet - 1)];
 }
