@@ -2,8 +2,6 @@
 
 #include <cstring>
 
-#include "ParamSystem/support/Text.h"
-
 namespace talux::kepl {
 
 bool Answer::append(std::initializer_list<std::string_view> pieces) {
@@ -18,10 +16,6 @@ bool Answer::append(std::initializer_list<std::string_view> pieces) {
     }
     text[length] = '\0';
     return true;
-}
-
-NumberText::NumberText(double number, int decimals) {
-    length = static_cast<std::size_t>(formatText(digits, sizeof digits, "%.*f", decimals, number));
 }
 
 } // namespace talux::kepl

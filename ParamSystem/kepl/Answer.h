@@ -6,6 +6,8 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "ParamSystem/support/FixedPoint.h"
+
 namespace talux::kepl {
 
 // A text that grows line by line in a buffer of kKeplTextSize bytes.
@@ -24,14 +26,14 @@ private:
     std::size_t length = 0;
 };
 
-// A number as printf's "%.<decimals>f" prints it in the C locale.
+// A number with its decimals, 0 or 6.
 class NumberText {
 public:
-    NumberText(double number, int decimals);
+    NumberText(double number, int decimals) : length(formatFixedPoint(digits, number, decimals)) {}
     std::string_view view() const { return {digits, length}; }
 
 private:
-    char digits[320]; // sign, the 309 digits of the largest double, point and six decimals
+    char digits[kFixedPointSize];
     std::size_t length;
 };
 

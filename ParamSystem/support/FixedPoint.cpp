@@ -1,0 +1,75 @@
+#include "ParamSystem/support/FixedPoint.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <iterator>
+
+#include "ParamSystem/support/Text.h"
+
+namespace talux {
+
+namespace {
+
+constexpr std::uint32_t kMillion = 1000000;
+
+// A magnitude in binary fixed point: whole numbers, and fractions in units of 2^-63.
+struct FixedPoint {
+    std::uint64_t whole;
+    std::uint64_t fraction;
+};
+
+// False when that would not be exact: infinite, not a number, huge, or with bits below the unit.
+bool split(double magnitude, FixedPoint& parts) {
+    if (!(magnitude < 0x1p63)) return false;
+    parts.whole = static_cast<std::uint64_t>(magnitude);
+    const double fraction = (magnitude - static_cast<double>(parts.whole)) * 0x1p63;
+    parts.fraction = static_cast<std::uint64_t>(fraction);
+    return static_cast<double>(parts.fraction) == fraction;
+}
+
+// To the nearest, halves to the even number: 1 when `kept` has to grow for the `rest` that is cut off.
+unsigned roundedUp(std::uint64_t kept, std::uint64_t rest, std::uint64_t half) {
+    return rest > half || (rest == half && kept % 2 == 1) ? 1 : 0;
+}
+
+// fraction * 10^6 / 2^63 is fraction * 15625 / 2^57; the product has 77 bits, so it is made in two halves.
+std::uint32_t millionths(std::uint64_t fraction) {
+    constexpr std::uint64_t kLow32 = 0xFFFFFFFF, kLow25 = 0x1FFFFFF;
+    const std::uint64_t low = (fraction & kLow32) * 15625;
+    const std::uint64_t high = (fraction >> 32) * 15625 + (low >> 32);
+    const std::uint64_t rest = (high & kLow25) << 32 | (low & kLow32);
+    const auto kept = static_cast<std::uint32_t>(high >> 25);
+    return kept + roundedUp(kept, rest, std::uint64_t{1} << 56);
+}
+
+char* appendMillionths(char* place, std::uint32_t value) {
+    for (std::uint32_t unit = kMillion; unit > 1; value %= unit) {
+        unit /= 10;
+        *place++ = static_cast<char>('0' + value / unit);
+    }
+    return place;
+}
+
+} // namespace
+
+std::size_t formatFixedPoint(char (&dest)[kFixedPointSize], double number, int decimals) {
+    FixedPoint parts{};
+    if (!split(std::fabs(number), parts))
+        return static_cast<std::size_t>(formatText(dest, sizeof dest, "%.*f", decimals, number));
+
+    const std::uint32_t behind = decimals == 0 ? 0 : millionths(parts.fraction);
+    parts.whole +=
+        decimals == 0 ? roundedUp(parts.whole, parts.fraction, std::uint64_t{1} << 62) : behind / kMillion;
+    char* end = dest;
+    if (std::signbit(number)) *end++ = '-';
+    end = std::to_chars(end, std::end(dest), parts.whole).ptr;
+    if (decimals != 0) {
+        *end++ = '.';
+        end = appendMillionths(end, behind % kMillion);
+    }
+    *end = '\0';
+    return static_cast<std::size_t>(end - dest);
+}
+
+} // namespace talux

@@ -1,0 +1,18 @@
+// Numbers as text with a fixed count of decimals.
+#ifndef TALUX_SUPPORT_FIXEDPOINT_H
+#define TALUX_SUPPORT_FIXEDPOINT_H
+
+#include <cstddef>
+
+namespace talux {
+
+// Room for any double with six decimals: sign, 309 digits, point, decimals, NUL.
+inline constexpr std::size_t kFixedPointSize = 320;
+
+// The text that printf makes of "%.0f" (`decimals` 0) or "%f" (`decimals` 6) in the C locale, several times
+// faster for ordinary numbers. Returns its length.
+std::size_t formatFixedPoint(char (&dest)[kFixedPointSize], double number, int decimals);
+
+} // namespace talux
+
+#endif
