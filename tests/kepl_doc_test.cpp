@@ -1,6 +1,7 @@
 // The examples in the language's documentation are true.
 #include "KeplLine.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -12,29 +13,13 @@ extern "C" int system(const char*) {
     return 0;
 }
 
-namespace {
-
-std::string shellOutput;
-void take(char* buffer, int) {
-    shellOutput += buffer;
+// What a user sees of a line, its terminator being a newline, without newlines at the end.
+static std::string show(KEPL_Interpreter& interpreter, const std::string& line, int uid) {
+    const Outcome outcome = evaluate(interpreter, line, uid);
+    std::string text = output + (outcome.result == kLineError ? outcome.error : outcome.answer);
+    std::ranges::replace(text, '#', '\n');
+    return text.substr(0, text.find_last_not_of('\n') + 1);
 }
-
-// What a user sees of a line, without the newlines at its end.
-std::string show(KEPL_Interpreter& interpreter, std::string line, int uid) {
-    char result[kKeplTextSize + 1] = "", terminator[] = "\n", error[128];
-    shellOutput.clear();
-    const int code = interpreter.ProcessLine(line.data(), take, result, terminator, uid);
-    interpreter.GetError(error, sizeof error);
-    return shellOutput + (code == kLineError ? error : result);
-}
-
-std::string withoutLastNewlines(std::string text) {
-    while (text.ends_with('\n'))
-        text.pop_back();
-    return text;
-}
-
-} // namespace
 
 TEST_F(KeplDocumentation, ShowsWhatLinesAnswer) {
     std::filesystem::create_directory(path);
@@ -43,23 +28,21 @@ TEST_F(KeplDocumentation, ShowsWhatLinesAnswer) {
     const std::string prompt = "kepl> ";
     std::string text, input, expected;
     int uid = -1, examples = 0; // uid -1: outside a block
-    const auto check = [&] {
-        if (input.empty()) return;
-        EXPECT_EQ(withoutLastNewlines(show(interpreter, input, uid)), withoutLastNewlines(expected)) << input;
-        ++examples;
-        input.clear();
-    };
     while (std::getline(document, text)) {
-        if (text.starts_with("```")) {
-            check();
-            const bool begins = text.starts_with("```kepl");
-            uid = !begins ? -1 : text == "```kepl" ? 3 : text.back() - '0';
+        const bool isFence = text.starts_with("```"), isInput = uid >= 0 && text.starts_with(prompt);
+        if (!input.empty() && (isFence || isInput)) {
+            EXPECT_EQ(show(interpreter, input, uid), expected.substr(0, expected.find_last_not_of('\n') + 1))
+                << input;
+            ++examples;
+            input.clear();
+        }
+        if (isFence) {
+            uid = !text.starts_with("```kepl") ? -1 : text == "```kepl" ? 3 : text.back() - '0';
             resetStore();
-        } else if (uid >= 0 && text.starts_with(prompt)) {
-            check();
+        } else if (isInput) {
             input = text.substr(prompt.size());
             expected.clear();
-        } else if (uid >= 0) {
+        } else {
             expected += text + "\n";
         }
     }
