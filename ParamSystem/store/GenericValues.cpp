@@ -10,16 +10,11 @@ namespace {
 using talux::Kind;
 using talux::Space;
 
+// The order decides for the ids that are both int and long: the long value is read last.
 template <Kind... kinds>
 struct KindList {};
-
-// The order decides for the ids that are both int and long: the long value is read last.
-using ReadOrder =
-    KindList<Kind::Enum, Kind::Text, Kind::Bool, Kind::Int, Kind::Long, Kind::Float, Kind::Double, Kind::Date,
-             Kind::Time, Kind::SysDate, Kind::SysTime, Kind::Id, Kind::Ip>;
-using WriteOrder =
-    KindList<Kind::Enum, Kind::Text, Kind::Bool, Kind::Int, Kind::Long, Kind::Float, Kind::Double, Kind::Date,
-             Kind::Time, Kind::SysDate, Kind::SysTime, Kind::Ip, Kind::Id>;
+using Order = KindList<Kind::Enum, Kind::Text, Kind::Bool, Kind::Int, Kind::Long, Kind::Float, Kind::Double,
+                       Kind::Date, Kind::Time, Kind::SysDate, Kind::SysTime, Kind::Id, Kind::Ip>;
 
 template <Kind kind>
 double toDouble(talux::Number<kind> number) {
@@ -74,17 +69,17 @@ void writeAny(int id, const double* pVal, KindList<kinds...> /*order*/) {
 } // namespace
 
 void VarGetValue(int id, double* pVal) {
-    readAny<Space::temp>(id, pVal, ReadOrder{});
+    readAny<Space::temp>(id, pVal, Order{});
 }
 
 void VarGetGlobalValue(int id, double* pVal) {
-    readAny<Space::global>(id, pVal, ReadOrder{});
+    readAny<Space::global>(id, pVal, Order{});
 }
 
 void VarSetValue(int id, double* pVal) {
-    writeAny<Space::temp>(id, pVal, WriteOrder{});
+    writeAny<Space::temp>(id, pVal, Order{});
 }
 
 void VarSetGlobalValue(int id, double* pVal) {
-    writeAny<Space::global>(id, pVal, WriteOrder{});
+    writeAny<Space::global>(id, pVal, Order{});
 }
