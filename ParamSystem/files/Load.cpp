@@ -19,10 +19,6 @@ constexpr int kMaxRead = 254; // characters; a longer line counts as several
 constexpr char kKeyPrefix[] = "TLX_";
 constexpr std::size_t kKeyPrefixLength = sizeof kKeyPrefix - 1;
 
-bool isComment(const char* line) {
-    return std::strchr("\n#;[", *line) != nullptr || std::strncmp(line, "//", 2) == 0;
-}
-
 // Cuts `key` off in place and returns the value behind it: the text up to the next "=" or line feed, empty
 // when there is none. The key ends at a blank, "=" or line feed; blanks may stand in front of the "=".
 char* splitValue(char* key) {
@@ -65,8 +61,8 @@ private:
     int type;
     int lineNumber = 0; // counts reads
 
+    // Comments, section headings and empty lines do not begin with the prefix.
     void takeLine(char* line) const {
-        if (isComment(line)) return;
         char* const key = line + std::strspn(line, " \t");
         if (!talux::startsIgnoringCase(key, kKeyPrefix)) return;
         char* const value = splitValue(key);
