@@ -6,77 +6,84 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
 #include <sys/shm.h>
-#include <unistd.h>
-#include <vector>
+#include <tuple>
 
 namespace talux_test {
 
 inline constexpr std::size_t kSpaceSize = 19500, kRecordsSize = 588;
 inline constexpr key_t kRecordsKey = 5675, kGlobalKey = 5678, kTempKey = 5679;
 enum { kTemp, kGlobal }; // which value space
-
-// The whole error output of a process that ends.
-using Output = testing::Matcher<const std::string&>;
+inline char kNoDirectory[] = "";
 
 inline char* attach(key_t key) {
     void* const memory = shmat(shmget(key, 0, 0), nullptr, 0);
     if (reinterpret_cast<std::intptr_t>(memory) == -1) std::abort();
     return static_cast<char*>(memory);
 }
-
 inline char* raw(int space) {
     static char* const spaces[] = {attach(kTempKey), attach(kGlobalKey)};
     return spaces[space];
 }
-
 inline char* rawRecords() {
     static char* const records = attach(kRecordsKey);
     return records;
 }
-
 inline std::string bytes(const char* memory, std::size_t size) {
     return {memory, size};
 }
 
-// Both value spaces, the temporary one first.
-inline std::string bothSpaces() {
-    return bytes(raw(kTemp), kSpaceSize) + bytes(raw(kGlobal), kSpaceSize);
+template <typename Number>
+double numberIn(const char* slot) {
+    Number number;
+    std::memcpy(&number, slot, sizeof number);
+    return static_cast<double>(number);
 }
 
-// The layout once more, in the order of the offsets.
+// The layout once more, in the order of the offsets, which is the order of the locks, too.
 struct Block {
     const char* name;
+    int (*is)(int id);
     int type, first, count;
-    std::size_t offset, slot;
-    bool isText;
+    std::size_t offset, size;                     // of one slot
+    double (*number)(const char* slot) = nullptr; // null: a text
 
     int end() const { return first + count; }
     bool holds(int id) const { return id >= first && id < end(); }
-    std::size_t slotOf(int id) const { return offset + static_cast<std::size_t>(id - first) * slot; }
+    std::size_t slotOf(int id) const { return offset + static_cast<std::size_t>(id - first) * size; }
+
+    // A slot without a NUL ends before its last byte, which keeps its value in all but the text slots.
+    std::string textIn(const char* slot) const { return {slot, strnlen(slot, size - 1)}; }
+    void putText(char* slot, const char* text) const {
+        std::strncpy(slot, text, size - 1);
+        if (type == 2011) slot[size - 1] = '\0';
+    }
 };
 
 inline constexpr Block kBlocks[] = {
-    {"Float", 2003, 2000, 312, 0, 4, false},      {"Double", 2002, 1000, 384, 1248, 8, false},
-    {"Long", 2004, 6000, 1269, 4320, 4, false},   {"Int", 2008, 7000, 7, 9396, 2, false},
-    {"Bool", 2010, 8000, 191, 9410, 1, false},    {"Text", 2011, 9000, 69, 9601, 128, true},
-    {"Enum", 2012, 10000, 131, 18433, 2, false},  {"Date", 2013, 11000, 0, 18695, 15, true},
-    {"Time", 2014, 12000, 0, 18695, 10, true},    {"SysDate", 2015, 13000, 1, 18695, 15, true},
-    {"SysTime", 2016, 14000, 1, 18710, 10, true}, {"Id", 2017, 15000, 1, 18720, 20, true},
-    {"Ip", 2018, 16000, 38, 18740, 20, true},
+    {"Float", VarIsFloat, 2003, 2000, 312, 0, 4, numberIn<float>},
+    {"Double", VarIsDouble, 2002, 1000, 384, 1248, 8, numberIn<double>},
+    {"Long", VarIsLong, 2004, 6000, 1269, 4320, 4, numberIn<std::int32_t>},
+    {"Int", VarIsInt, 2008, 7000, 7, 9396, 2, numberIn<std::int16_t>},
+    {"Bool", VarIsBool, 2010, 8000, 191, 9410, 1, numberIn<std::uint8_t>},
+    {"Text", VarIsText, 2011, 9000, 69, 9601, 128},
+    {"Enum", VarIsEnum, 2012, 10000, 131, 18433, 2, numberIn<std::int16_t>},
+    {"Date", VarIsDate, 2013, 11000, 0, 18695, 15},
+    {"Time", VarIsTime, 2014, 12000, 0, 18695, 10},
+    {"SysDate", VarIsSysDate, 2015, 13000, 1, 18695, 15},
+    {"SysTime", VarIsSysTime, 2016, 14000, 1, 18710, 10},
+    {"Id", VarIsId, 2017, 15000, 1, 18720, 20},
+    {"Ip", VarIsIp, 2018, 16000, 38, 18740, 20},
 };
 
 inline double* asValue(char* text) {
     return reinterpret_cast<double*>(text);
-}
-
-// For the text slots that tests fill from outside: cut to `size`, a NUL behind it when there is room.
-inline void copyInto(char* memory, std::size_t size, const std::string& text) {
-    std::memcpy(memory, text.c_str(), std::min(size, text.size() + 1));
 }
 
 // The same numbers in every run.
@@ -84,9 +91,8 @@ class Random {
 public:
     // 0 .. count - 1
     int below(int count) { return std::uniform_int_distribution<int>(0, count - 1)(engine); }
-    char byte() { return static_cast<char>(below(256)); }
     void fill(char* memory, std::size_t size) {
-        std::generate_n(memory, size, [this] { return byte(); });
+        std::generate_n(memory, size, [this] { return static_cast<char>(below(256)); });
     }
     // Without a NUL, of 0 .. longest characters.
     std::string text(int longest) {
@@ -100,46 +106,53 @@ private:
     std::mt19937 engine{20240305};
 };
 
-// What goes to a standard stream while the object lives.
-class Captured {
-public:
-    explicit Captured(FILE* captured) : stream(captured), file(std::tmpfile()) {
-        std::fflush(stream);
-        saved = dup(fileno(stream));
-        dup2(fileno(file), fileno(stream));
+// Both spaces begin with garbage; the model says what they have to hold.
+class AgainstModel : public testing::Test {
+protected:
+    void SetUp() override {
+        VarInit(kNoDirectory);
+        for (const int space : {kTemp, kGlobal}) {
+            random.fill(raw(space), kSpaceSize);
+            model[space] = bytes(raw(space), kSpaceSize);
+        }
     }
-    ~Captured() {
-        restore();
-        std::fclose(file);
+    bool spacesMatch() const {
+        return std::memcmp(raw(kTemp), model[kTemp].data(), kSpaceSize) == 0 &&
+               std::memcmp(raw(kGlobal), model[kGlobal].data(), kSpaceSize) == 0;
     }
-    Captured(const Captured&) = delete;
-    Captured& operator=(const Captured&) = delete;
-
-    // Ends the capture.
-    std::string text() {
-        restore();
-        std::rewind(file);
-        std::string all;
-        for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file))
-            all += static_cast<char>(c);
-        return all;
-    }
-
-private:
-    FILE* stream;
-    FILE* file;
-    int saved;
-
-    void restore() {
-        if (saved < 0) return;
-        std::fflush(stream);
-        dup2(saved, fileno(stream));
-        close(saved);
-        saved = -1;
-    }
+    Random random;
+    std::string model[2];
 };
 
-inline char kNoDirectory[] = "";
+// A directory of parameter files, and the dictionary loaded.
+class InDirectory : public testing::Test {
+protected:
+    void SetUp() override {
+        char name[] = "/tmp/filesXXXXXX";
+        directory = mkdtemp(name);
+        VarInit(name);
+        LoadDefParamProperties();
+    }
+    void TearDown() override { std::filesystem::remove_all(directory); }
+    std::filesystem::path directory;
+};
+
+// Result, standard output and error output of a call.
+using Outcome = std::tuple<int, std::string, std::string>;
+template <typename Call>
+Outcome outcomeOf(Call call) {
+    FILE* const own[] = {stdout, stderr};
+    char* texts[2];
+    std::size_t sizes[2];
+    stdout = open_memstream(&texts[0], &sizes[0]);
+    stderr = open_memstream(&texts[1], &sizes[1]);
+    const int result = call();
+    std::fclose(stdout), std::fclose(stderr);
+    stdout = own[0], stderr = own[1];
+    Outcome outcome{result, texts[0], texts[1]};
+    std::free(texts[0]), std::free(texts[1]);
+    return outcome;
+}
 
 } // namespace talux_test
 
