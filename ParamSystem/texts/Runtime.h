@@ -69,7 +69,7 @@ inline constexpr TextEntry kRuntime[] = {
     label("y_BE", {"Zustand Binäreingänge", "Binary inputs state"}),
     label("y_BE_LT", {"Zustand BE Leittechnik", "BI telecontrol state"}),
     label("y_BEF", {"Zustand Eingangsfunkt.", "Input functions state"}),
-    label("y_BAF{1..4}", {"Ausgangsfunktionen {n}", "Output functions {n}"}),
+    label("y_BAF{1..4}", {"Ausgangsfunkt. Wort {n}", "Output functions word {n}"}),
     label("y_BA", {"Zustand Relais", "Relay state"}),
     label("y_LED", {"Zustand LEDs", "LED state"}),
     label("y_EarthFaultState", {"Erdschlusszustand", "Earth-fault state"}),
