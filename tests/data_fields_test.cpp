@@ -10,6 +10,7 @@
 #include <random>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -59,23 +60,22 @@ const char* const savedBeforeReset = Data_StringSave("");
 } // namespace
 
 TEST(DataFieldsDeathTest, BrokenFieldsEndTheProcess) {
+    const std::string tooLong = '"' + std::string(255, 'x') + '"';
     Data_StringReset();
-    for (const char* line : {"", "\t\t\n"}) {
-        expectEnd(line, Data_SetSymbol, "value");
-        expectEnd(line, Data_SetInt, "value");
-        expectEnd(line, Data_SetDouble, "value");
-        expectEnd(line, Data_SetText, "value");
-    }
-    expectEnd("\t\n", Data_SetInt, "valid value",
-              ","); // something under the old set, nothing under the new one
+    expectEnd("", Data_SetInt, "value");
+    expectEnd("\t\t\n", Data_SetSymbol, "value");
+    expectEnd("\t\t\n", Data_SetInt, "value");
+    expectEnd("\t\t\n", Data_SetDouble, "value");
+    expectEnd("\t\t\n", Data_SetText, "value");
+    // Something is left under the old set, nothing under tab and newline.
+    expectEnd("\t\n", Data_SetInt, "valid value", ",");
     for (const char* line : {"VAR_no_such", "16000", "TXT_no_such", " VAR_Language", "***"})
         expectEnd(line, Data_SetSymbol, "valid value");
     for (const char* line : {"x", "1.5", " ", "0x10", "\"1\""})
         expectEnd(line, Data_SetInt, "valid value");
     for (const char* line : {"x", "1,5", " "})
         expectEnd(line, Data_SetDouble, "valid value");
-    for (const std::string& line :
-         {std::string("hello"), std::string("a\"b"), '"' + std::string(255, 'x') + '"'})
+    for (const char* line : {"hello", "a\"b", tooLong.c_str()})
         expectEnd(line, Data_SetText, "valid value");
 
     ASSERT_NE(Data_StringSave(std::string(kDataStringSpaceSize - 3, 'x').c_str()), nullptr);
@@ -99,8 +99,7 @@ TEST(DataFields, ComeOneAfterTheOther) {
     EXPECT_EQ(commas.take(Data_SetInt), 3);
     EXPECT_EQ(commas.take(Data_SetInt), 5);
 
-    const std::string longest(254, 'x');
-    for (const std::string& text : {std::string("ab\"c"), std::string(), std::string("\""), longest})
+    for (const std::string& text : std::vector<std::string>{"ab\"c", "", "\"", std::string(254, 'x')})
         EXPECT_EQ(Record('"' + text + '"').take(Data_SetText), text);
 }
 
