@@ -18,9 +18,9 @@ inline constexpr TextEntry kSerialPorts[] = {
     value("Stopbits{1..3}", {"Stoppbits Port {n}", "Stop bits port {n}"},
           {"Stoppbits je Zeichen an der seriellen Schnittstelle {n}",
            "Stop bits of a character at serial port {n}"}),
-    value("Handshake{1..3}", {"Flusssteuerung Port {n}", "Handshake port {n}"},
+    value("Handshake{1..3}", {"Handshake Port {n}", "Handshake port {n}"},
           {"Flusssteuerung an der seriellen Schnittstelle {n}", "Flow control at serial port {n}"}),
-    value("Terminierung{1..2}", {"Abschluss Port {n}", "Termination port {n}"},
+    value("Terminierung{1..2}", {"Terminierung Port {n}", "Termination port {n}"},
           {"Abschlusswiderstand der RS-485-Schnittstelle {n} zuschalten",
            "Connect the terminating resistor of RS-485 port {n}"}),
 };
