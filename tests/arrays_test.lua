@@ -78,6 +78,7 @@ case("a whole parameter is read in one call or the reason told", function()
   expectRefusal("<< WRONG DATA TYPE >>", long.new(96), "TLX_vMWR", 1, 96)
   for _, value in ipairs(foreign) do expectRefusal("<< WRONG DATA TYPE >>", value, "TLX_vMWR", 1, 96) end
   expectRefusal("<< WRONG DATA TYPE >>", nil, "TLX_vMWR", 1, 0)
+  expectRefusal("<< DATATYPE UNKNOWN >>", all, "TLX_OVR_MW_val", 1, 2) -- floats
   expectRefusal("<< MIN ID TOO LOW >>", all, "TLX_conman_status", 0, 247)
   expectRefusal("<< MIN ID TOO LOW >>", all, "TLX_conman_status", 0.9, 999)
   expectRefusal("<< MIN ID TOO LOW >>", all, "TLX_conman_status", "x", nil)
