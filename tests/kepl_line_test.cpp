@@ -1,11 +1,13 @@
 // Lines and their answers: terms, output modes, errors, built-in commands, rights, system log.
 #include "Isolation.h"
 #include "KeplLine.h"
-#include "SystemLog.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 using namespace talux_test;
 using KeplLine = KeplTest;
@@ -15,7 +17,43 @@ extern "C" int system(const char*) {
     return 0;
 }
 
-static const std::string kName = "\"DEF-NAME\"";
+namespace {
+
+const std::string kName = "\"DEF-NAME\"";
+
+// A private system log: the datagrams that reach /dev/log.
+class SystemLog {
+public:
+    SystemLog() : listener(socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
+        sockaddr_un address{AF_UNIX, "/dev/log"};
+        bound = bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
+    }
+    ~SystemLog() {
+        close(listener);
+        if (bound) unlink("/dev/log");
+    }
+    SystemLog(const SystemLog&) = delete;
+    SystemLog& operator=(const SystemLog&) = delete;
+
+    // The messages since the last call, as "<priority>text" without time stamp and program name. Fetch
+    // them line by line: the socket holds ten, then senders wait.
+    std::vector<std::string> take() {
+        std::vector<std::string> messages;
+        char datagram[4096];
+        for (ssize_t size; (size = recv(listener, datagram, sizeof datagram, MSG_DONTWAIT)) > 0;) {
+            const std::string text(datagram, static_cast<std::size_t>(size));
+            messages.push_back(text.substr(0, text.find('>') + 1) + text.substr(text.find(": ") + 2));
+        }
+        return messages;
+    }
+
+    bool bound;
+
+private:
+    int listener;
+};
+
+} // namespace
 
 TEST_F(KeplLine, ReadsTermsAndNumbers) {
     const std::string term254 = times(126, "1,") + "12", zeros48 = times(48, "0");

@@ -137,6 +137,9 @@ TEST_F(KeplShell, EndsTheProcessOnForbiddenCommands) {
         for (int list = 0; list < 3; ++list)
             for (const std::string& fragment : split(lists[list])) {
                 const std::string command = ": x" + fragment + " y";
+                const std::string nearly =
+                    "system : " + fragment.substr(1) + " " + fragment.substr(0, fragment.size() - 1);
+                EXPECT_EQ(evaluate(own, nearly), kNothing) << nearly;
                 if (board == list)
                     EXPECT_EXIT(evaluate(own, "system  " + command + ",5"), testing::ExitedWithCode(255),
                                 "^KEPL: system '" + command + "' command, not allowed\n$");
