@@ -1,5 +1,7 @@
 #include "ParamSystem/settings/Settings.h"
 
+#include <cstddef>
+
 #include "ParamSystem/support/Address.h"
 
 namespace talux::settings {
@@ -23,8 +25,9 @@ AddressText addressSetting(int id) {
 }
 
 AddressText normalised(const AddressText& address) {
+    constexpr std::size_t kNormalisedSize = 19; // the slot of an address has one more
     AddressText result;
-    normaliseAddress(result.text, address.text);
+    normaliseAddress(result.text, kNormalisedSize, address.text);
     return result;
 }
 
