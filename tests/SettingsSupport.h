@@ -44,7 +44,7 @@ inline void putValue(Writer write, int id, std::string value) {
 }
 
 // Words NAME=VALUE for both spaces or NAME=TEMPORARY|GLOBAL.
-inline void put(const char* assignments) {
+inline void put(const std::string& assignments) {
     std::istringstream words(assignments);
     for (std::string word; words >> word;) {
         std::string name = word.substr(0, word.find('='));
@@ -95,30 +95,29 @@ private:
     int saved_;
 };
 
+class SettingsTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        char root[] = "";
+        VarInit(root);
+        LoadDefParamProperties();
+        writeFile("/tmp/zone", "");
+    }
+    static void TearDownTestSuite() { fs::remove("/tmp/zone"); }
+};
+
 using Command = std::vector<std::string>; // program and arguments
 
-// Programs, found before all others, that note their name and arguments instead of doing anything.
-inline void installRecorders(std::initializer_list<const char*> programs) {
-    fs::remove_all("/tmp/recorders");
-    fs::create_directories("/tmp/recorders");
-    writeFile("/tmp/recorders/recorder", "#!/bin/sh\n"
-                                         "printf '%s\\0' \"$#\" \"${0##*/}\" \"$@\" >>/tmp/record\n");
-    fs::permissions("/tmp/recorders/recorder", fs::perms::owner_all);
-    for (const char* program : programs)
-        fs::create_symlink("recorder", std::string("/tmp/recorders/") + program);
-    setenv("PATH", "/tmp/recorders:/usr/sbin:/usr/bin:/sbin:/bin", 1);
-}
-
-// What the recorders noted since the last call.
-inline std::vector<Command> takeRecord() {
-    std::istringstream words(contents("/tmp/record"));
+// What recorders wrote: for each command, its words each ended by a NUL, the number of arguments first.
+inline std::vector<Command> takeRecord(const char* path) {
+    std::istringstream words(contents(path));
     std::vector<Command> commands;
     for (std::string count; std::getline(words, count, '\0');) {
         Command& command = commands.emplace_back(std::stoul(count) + 1);
         for (std::string& word : command)
             std::getline(words, word, '\0');
     }
-    fs::remove("/tmp/record");
+    fs::remove(path);
     return commands;
 }
 

@@ -4,10 +4,9 @@
 #include <cstdarg>
 #include <cstring>
 #include <ctime>
+#include <map>
 #include <net/if.h>
-#include <string_view>
 #include <sys/ioctl.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
 
 #include "SettingsSupport.h"
@@ -17,20 +16,11 @@ using namespace settings_test;
 
 namespace {
 
-// What the kernel knows: words "INTERFACE=ADDRESS/NETMASK", "-" for one that it does not tell.
-const char* g_kernel = "";
+using Kernel = std::map<std::string, std::string>; // "eth0:1" its address, "eth0:1/" its netmask
+
+Kernel g_kernel;
 bool g_socketsFail = false;
 int g_clockSettings = 0;
-
-std::string kernelAnswer(const char* interface, bool wantsMask) {
-    std::istringstream words(g_kernel);
-    for (std::string word; words >> word;) {
-        const auto equals = word.find('='), slash = word.find('/');
-        if (word.substr(0, equals) != interface) continue;
-        return wantsMask ? word.substr(slash + 1) : word.substr(equals + 1, slash - equals - 1);
-    }
-    return "-";
-}
 
 } // namespace
 
@@ -41,8 +31,7 @@ extern "C" int system(const char* command) {
 }
 
 extern "C" int socket(int domain, int type, int protocol) noexcept {
-    if (g_socketsFail) return -1;
-    return static_cast<int>(syscall(SYS_socket, domain, type, protocol));
+    return g_socketsFail ? -1 : static_cast<int>(syscall(SYS_socket, domain, type, protocol));
 }
 
 extern "C" int ioctl(int descriptor, unsigned long request, ...) noexcept {
@@ -52,468 +41,278 @@ extern "C" int ioctl(int descriptor, unsigned long request, ...) noexcept {
     va_end(arguments);
     if (request != SIOCGIFADDR && request != SIOCGIFNETMASK)
         return static_cast<int>(syscall(SYS_ioctl, descriptor, request, argument));
-
     auto* record = static_cast<ifreq*>(argument);
     sockaddr_in answer{};
     answer.sin_family = AF_INET;
-    const std::string text = kernelAnswer(record->ifr_name, request == SIOCGIFNETMASK);
+    const std::string text = g_kernel[record->ifr_name + std::string(request == SIOCGIFNETMASK ? "/" : "")];
     if (record->ifr_addr.sa_family != AF_INET || inet_aton(text.c_str(), &answer.sin_addr) == 0) return -1;
     std::memcpy(&record->ifr_addr, &answer, sizeof answer);
     return 0;
 }
 
 extern "C" int clock_settime(clockid_t, const timespec*) noexcept {
-    ++g_clockSettings;
-    return 0;
+    return ++g_clockSettings;
 }
 
 namespace {
 
-struct Row {
+// The base case: everything is active, and each value differs between the spaces.
+constexpr char kSettings[] =
+    "ETH0_IP=192.168.001.010|9.9.9.9 ETH0_MASK=255.255.000.000|9.9.9.9 ETH0_GATEWAY=192.168.1.1|9.9.9.9 "
+    "eth1_active=1|0 ETH1_IP=10.1.1.1|9.9.9.9 ETH1_MASK=255.0.0.0|9.9.9.9 ETH1_GATEWAY=10.0.0.1|9.9.9.9 "
+    "T104_ethernet=1|2 T104_ETH_IP_1=010.1.2.3|9.9.9.9 T104_ETH_MA_1=255.255.255.000|9.9.9.9 "
+    "T104_ETH_GW_1=10.1.2.1|9.9.9.9 T104_ETH_IP_4=172.16.77.9|9.9.9.9 T104_ETH_MA_4=255.255.240.0|9.9.9.9 "
+    "T104_ETH_GW_4=|9.9.9.9 DNS=008.008.008.008|9.9.9.9 TIMEZONE=/tmp/zone|/tmp/other "
+    "NTP1=010.000.000.001|9.9.9.9 NTP2=010.000.000.002|9.9.9.9 NTP_RTC=1|0 DCF77_activ=0|1 "
+    "wlan0_active=1|0 VarSetWLAN0TypeDev=1|2 rate=2|3 channel=5|7 essid=Net_1|old key=s:0123456789|old "
+    "WLAN0_IP=10.2.1.1|9.9.9.9 WLAN0_MASK=255.0.0.0|9.9.9.9 WLAN0_GATEWAY=10.2.0.1|9.9.9.9";
+// A whole run commits first. A function alone finds these in the global space.
+constexpr char kLive[] = "TIMEZONE=/tmp/other|/tmp/zone channel=7|5 essid=old|Net_1 key=old|s:0123456789";
+const Kernel kKernel = {{"eth0:1", "10.9.2.3"}, {"eth0:1/", "255.255.255.0"}, {"eth0:2/", "255.0.0.0"},
+                        {"eth0:3", "10.0.0.1"}, {"eth0:4", "10.9.77.9"},      {"eth0:4/", "255.255.240.0"},
+                        {"eth0:5", "1.2.3.5"},  {"eth0:5/", "255.0.0.0"},     {"eth0", "1.2.3.4"},
+                        {"eth0/", "255.0.0.0"}, {"eth1:1", "10.9.3.3"},       {"eth1:1/", "255.0.0.0"}};
+constexpr char kUtc[] = "/usr/share/zoneinfo/UTC";
+
+#define QUIET " > /dev/null 2>&1"
+#define DELETION(route) "route del -net " route QUIET "\n$ route del -net " route QUIET "\n"
+#define TEAR_DOWN                                                                                            \
+    DELETION("10.9.2.0 netmask 255.255.255.0 eth0:1")                                                        \
+    "ifconfig eth0:1 down\n" DELETION("10.9.64.0 netmask 255.255.240.0 eth0:4") "ifconfig eth0:4 down\n"
+#define SERVER_1 "echo server 10.0.0.1 true >> /tmp/ntp.conf\n"
+#define SERVER_2 "echo server 10.0.0.2 >> /tmp/ntp.conf\n"
+#define RTC "echo server 127.127.45.0 >> /tmp/ntp.conf\necho fudge 127.127.45.0 stratum 13 >> /tmp/ntp.conf\n"
+#define STEP "$ ntpdate -b 10.0.0.1" QUIET "; hwclock -w --utc\n"
+
+// Lines: a command that is announced and run, "$ " one that is run silently, ": " a message, "Var.." itself.
+struct Function {
     const char* name;
     int (*apply)();
-    const char* settings;
-    // A line "VarX$ COMMAND" stands for the announcement "VarX: COMMAND" and the command.
     const char* transcript;
-    int result = 1;
-    const char* kernel = "";
-    const char* zoneLink = nullptr;     // "" a file that is no link
-    const char* resolverFile = nullptr; // "DIRECTORY" one that opens and cannot be read
+};
+enum Step { kEth0, kEth1, kAliases, kDns, kZone, kTime, kRadio, kWlan0, kAll };
+// clang-format off
+constexpr Function kFunctions[] = {
+    {"VarStaticIP", VarStaticIP,
+     "ifconfig eth0 192.168.1.10\nifconfig eth0 netmask 255.255.0.0\n"
+     "route del default eth0" QUIET "\nroute add default gw 192.168.1.1 eth0"},
+    {"VarStaticIPETH1", VarStaticIPETH1,
+     "ifconfig eth1 10.1.1.1\nifconfig eth1 netmask 255.0.0.0\n"
+     "route del default eth1" QUIET "\nroute add default gw 10.0.0.1 eth1"},
+    {"VarT104", VarT104,
+     TEAR_DOWN "ifconfig eth0:1 10.1.2.3\nifconfig eth0:1 up\nifconfig eth0:1 netmask 255.255.255.0\n"
+               "route add -net 10.1.2.0 netmask 255.255.255.0 gw 10.1.2.1 eth0:1\n"
+               "ifconfig eth0:4 172.16.77.9\nifconfig eth0:4 up\nifconfig eth0:4 netmask 255.255.240.0\n"
+               "route add -net 172.16.64.0 netmask 255.255.240.0 eth0:4"},
+    {"VarDNS", VarDNS, "echo nameserver 008.008.008.008 > /etc/resolv.conf"},
+    {"VarTIMEZONE", VarTIMEZONE, "$ rm -f /etc/localtime;ln -s /tmp/zone /etc/localtime\n: /tmp/zone"},
+    {"VarNTP", VarNTP,
+     "$ rm -f /tmp/ntp.conf\n$ touch /tmp/ntp.conf\n" SERVER_1 SERVER_2 RTC
+     "$ killall -15 ntpd" QUIET ";killall -9 ntpd" QUIET ";\n"
+     "$ killall -15 ntpd_restart.sh" QUIET ";killall -9 ntpd_restart.sh" QUIET ";\n" STEP
+     "ntpd -g -f /tmp/ntp.drift -c /tmp/ntp.conf\n$ /appfs/taluxapp1/ntpd_restart.sh &"},
+    {"VarADHOCWLAN0", VarADHOCWLAN0,
+     "ifconfig wlan0 down\niwconfig wlan0 mode ad-hoc\niwconfig wlan0 rate 54M\niwconfig wlan0 channel 5\n"
+     "iwconfig wlan0 essid Net_1\niwconfig wlan0 enc s:0123456789\niwconfig wlan0 key s:0123456789\n"
+     "ifconfig wlan0 up"},
+    {"VarStaticIPWLAN0_ADHOC", VarStaticIPWLAN0_ADHOC,
+     "ifconfig wlan0 10.2.1.1\nifconfig wlan0 netmask 255.0.0.0\n"
+     "route del default wlan0" QUIET "\nroute add default gw 10.2.0.1 wlan0"}};
+// clang-format on
+
+struct Edit {
+    std::string old; // with "*" at its end: to the end of the function's transcript
+    std::string replacement;
 };
 
-std::string expanded(const char* transcript) {
+bool edit(std::string& text, const Edit& edit) {
+    const std::string old = edit.old.substr(0, edit.old.find('*'));
+    const std::size_t at = text.find(old);
+    if (at == std::string::npos) return false;
+    text.replace(at, edit.old.ends_with('*') ? std::string::npos : old.size(), edit.replacement);
+    return true;
+}
+
+std::string expanded(const std::string& name, const std::string& transcript) {
     std::istringstream lines(transcript);
     std::string result;
-    for (std::string line; std::getline(lines, line);) {
-        const auto mark = line.find("$ ");
-        if (line.starts_with("Var") && mark != std::string::npos)
-            result += line.substr(0, mark) + ": " + line.substr(mark + 2) + "\n" + line.substr(mark) + "\n";
-        else if (!line.empty())
+    for (std::string line; std::getline(lines, line);)
+        if (line.starts_with("$ ") || line.starts_with("Var"))
             result += line + "\n";
-    }
+        else if (line.starts_with(": "))
+            result += name + line + "\n";
+        else if (!line.empty())
+            result += name + ": " + line + "\n$ " + line + "\n";
     return result;
 }
 
-void prepareFiles(const Row& row) {
-    const std::string_view link = row.zoneLink == nullptr ? "" : row.zoneLink;
-    unlink("/etc/localtime");
-    if (!link.empty())
-        ASSERT_EQ(symlink(row.zoneLink, "/etc/localtime"), 0);
-    else if (row.zoneLink != nullptr)
+// What differs from the base case.
+struct Row {
+    Step step;
+    std::string settings;
+    std::vector<Edit> edits = {};
+    int result = 1;
+    Kernel kernel = kKernel;
+    std::string link = kUtc;   // of the time zone; "" nothing there, "FILE" a file that is no link
+    std::string resolver = ""; // the name server file; "" none, "DIRECTORY" one that opens and cannot be read
+    int (*apply)() = VarSetSystemIPs;
+};
+
+std::string expected(const Row& row) {
+    std::vector<bool> used(row.edits.size());
+    std::string result;
+    for (int step = row.step == kAll ? 0 : row.step; step <= std::min<int>(row.step, kWlan0); ++step) {
+        std::string text = kFunctions[step].transcript;
+        for (std::size_t i = 0; i < used.size(); ++i)
+            used[i] = edit(text, row.edits[i]) || used[i];
+        result += expanded(kFunctions[step].name, text);
+    }
+    EXPECT_EQ(std::count(used.begin(), used.end(), false), 0) << "an edit that edits nothing";
+    return result;
+}
+
+void prepare(const Row& row) {
+    resetStore();
+    put(kSettings);
+    if (row.step != kAll) put(kLive);
+    put(row.settings);
+    if (row.step != kAll) fs::remove("/ip_config.ini");
+    g_kernel = row.kernel;
+    fs::remove("/etc/localtime");
+    if (row.link == "FILE")
         writeFile("/etc/localtime", "");
-
-    const std::string_view resolver = row.resolverFile == nullptr ? "" : row.resolverFile;
-    std::remove("/etc/resolv.conf");
-    if (resolver == "DIRECTORY")
-        ASSERT_EQ(mkdir("/etc/resolv.conf", 0700), 0);
-    else if (!resolver.empty())
-        writeFile("/etc/resolv.conf", row.resolverFile);
-}
-
-std::string transcriptOf(int (*apply)(), int& result) {
-    const ErrorStream errors;
-    result = apply();
-    return errors.text();
-}
-
-std::string transcriptOf(int (*apply)()) {
-    int result = 0;
-    return transcriptOf(apply, result);
+    else if (!row.link.empty())
+        fs::create_symlink(row.link, "/etc/localtime");
+    if (!ownsSystemFiles()) return;
+    fs::remove("/etc/resolv.conf");
+    if (row.resolver == "DIRECTORY")
+        fs::create_directory("/etc/resolv.conf");
+    else if (!row.resolver.empty())
+        writeFile("/etc/resolv.conf", row.resolver);
 }
 
 void check(const Row& row) {
-    resetStore();
-    put(row.settings);
-    prepareFiles(row);
-    g_kernel = row.kernel;
-    int result = 0;
-    EXPECT_EQ(transcriptOf(row.apply, result), expanded(row.transcript)) << row.name;
-    EXPECT_EQ(result, row.result) << row.name;
+    SCOPED_TRACE(testing::Message() << row.step << " " << row.settings);
+    prepare(row);
+    const ErrorStream errors;
+    EXPECT_EQ((row.step == kAll ? row.apply : kFunctions[row.step].apply)(), row.result);
+    EXPECT_EQ(errors.text(), expected(row));
+    // Whoever sets an interface's addresses commits and saves.
+    const bool saves = row.step == kEth0 || row.step == kEth1 || row.step >= kWlan0;
+    EXPECT_EQ(contents("/ip_config.ini").find("TLX_DNS=\"8.8.8.8\"\n") != std::string::npos, saves);
 }
 
-template <std::size_t N>
-void checkAll(const Row (&rows)[N]) {
-    for (const Row& row : rows)
-        check(row);
+int line(std::string text) {
+    char answer[TALUX_ANSWER_SIZE], terminator[] = "\n";
+    return talux_interpreter_ProcessLine(
+        text.data(), [](char*, int) {}, answer, terminator);
 }
 
-class SettingsCommands : public testing::Test {
+class SettingsCommands : public SettingsTest {
 protected:
-    static void SetUpTestSuite() {
-        char root[] = "";
-        VarInit(root);
-        LoadDefParamProperties();
-        writeFile("/tmp/zone", "");
-    }
-    static void TearDownTestSuite() { fs::remove("/tmp/zone"); }
-    void TearDown() override {
-        EXPECT_EQ(g_clockSettings, 0) << "the clock is none of these functions' business";
-    }
+    void TearDown() override { EXPECT_EQ(g_clockSettings, 0) << "no business of these functions"; }
 };
 
-TEST_F(SettingsCommands, InterfaceAddresses) {
-    constexpr Row kRows[] = {
-        {"eth0, temporary values, leading zeros", VarStaticIP,
-         "ETH0_IP=192.168.001.010|9.9.9.9 ETH0_MASK=255.255.000.000|9.9.9.9 ETH0_GATEWAY=192.168.1.1|9.9.9.9",
-         R"(
-VarStaticIP$ ifconfig eth0 192.168.1.10
-VarStaticIP$ ifconfig eth0 netmask 255.255.0.0
-VarStaticIP$ route del default eth0 > /dev/null 2>&1
-VarStaticIP$ route add default gw 192.168.1.1 eth0)"},
-        {"eth1", VarStaticIPETH1,
-         "ETH1_IP=10.1.1.1|9.9.9.9 ETH1_MASK=255.0.0.0|9.9.9.9 ETH1_GATEWAY=10.0.0.1|9.9.9.9",
-         R"(
-VarStaticIPETH1$ ifconfig eth1 10.1.1.1
-VarStaticIPETH1$ ifconfig eth1 netmask 255.0.0.0
-VarStaticIPETH1$ route del default eth1 > /dev/null 2>&1
-VarStaticIPETH1$ route add default gw 10.0.0.1 eth1)"},
-        {"wlan0", VarStaticIPWLAN0_ADHOC,
-         "WLAN0_IP=10.2.1.1|9.9.9.9 WLAN0_MASK=255.0.0.0|9.9.9.9 WLAN0_GATEWAY=10.2.0.1|9.9.9.9", R"(
-VarStaticIPWLAN0_ADHOC$ ifconfig wlan0 10.2.1.1
-VarStaticIPWLAN0_ADHOC$ ifconfig wlan0 netmask 255.0.0.0
-VarStaticIPWLAN0_ADHOC$ route del default wlan0 > /dev/null 2>&1
-VarStaticIPWLAN0_ADHOC$ route add default gw 10.2.0.1 wlan0)"},
-        {"gateway all zero with leading zeros; factory address", VarStaticIP,
-         "ETH0_GATEWAY=000.000.000.000|10.0.0.1", R"(
-VarStaticIP$ ifconfig eth0 192.168.55.127
-VarStaticIP$ ifconfig eth0 netmask 255.255.0.0)"},
-        {"gateway empty, numbers above 255, missing and foreign pieces", VarStaticIPETH1,
-         "ETH1_IP=300.1..x7.9z ETH1_MASK=255 ETH1_GATEWAY=|10.0.0.1", R"(
-VarStaticIPETH1$ ifconfig eth1 300.1.0.9
-VarStaticIPETH1$ ifconfig eth1 netmask 255.0.0.0)"},
-    };
-    checkAll(kRows);
-}
-
-TEST_F(SettingsCommands, InterfaceAddressesAreSavedAndCommitted) {
-    for (int (*apply)() : {VarStaticIP, VarStaticIPETH1, VarStaticIPWLAN0_ADHOC}) {
-        resetStore();
-        put("essid=new|old IpParamChanged=0");
-        std::remove("/ip_config.ini");
-        transcriptOf(apply);
-        char essid[kTextSize], changed = 0;
-        VarGetGlobalTextValue(9022, essid);
-        VarGetGlobalBoolValue(8001, &changed);
-        EXPECT_STREQ(essid, "new");
-        EXPECT_EQ(changed, 1);
-        EXPECT_NE(contents("/ip_config.ini").find("TLX_ETH0_IP=\"192.168.55.127\"\n"), std::string::npos);
-    }
-}
-
-TEST_F(SettingsCommands, Radio) {
-    constexpr Row kRows[] = {
-        {"54M; channel, name and key from the global space", VarADHOCWLAN0,
-         "rate=2|3 channel=5|7 essid=temp|Net_1 key=temp|s:0123456789", R"(
-VarADHOCWLAN0$ ifconfig wlan0 down
-VarADHOCWLAN0$ iwconfig wlan0 mode ad-hoc
-VarADHOCWLAN0$ iwconfig wlan0 rate 54M
-VarADHOCWLAN0$ iwconfig wlan0 channel 7
-VarADHOCWLAN0$ iwconfig wlan0 essid Net_1
-VarADHOCWLAN0$ iwconfig wlan0 enc s:0123456789
-VarADHOCWLAN0$ iwconfig wlan0 key s:0123456789
-VarADHOCWLAN0$ ifconfig wlan0 up)"},
-        {"infrastructure radio", VarINFRASTRUCTUREWLAN0, "",
-         "VarINFRASTRUCTUREWLAN0: *** NOT IMPLEMENTED ***"},
-        {"infrastructure address", VarStaticIPWLAN0_INFRASTRUCTURE, "",
-         "VarStaticIPWLAN0_INFRASTRUCTURE: *** NOT IMPLEMENTED ***"},
-    };
-    checkAll(kRows);
-
-    for (const auto& [choice, rate] : {std::pair{"rate=-1|2", "Auto"},
-                                       {"rate=0|2", "Auto"},
-                                       {"rate=1|2", "Auto"},
-                                       {"rate=3|2", "11M"},
-                                       {"rate=4|2", "Auto"}}) {
-        put(choice);
-        const std::string line = std::string("\n$ iwconfig wlan0 rate ") + rate + "\n";
-        EXPECT_NE(transcriptOf(VarADHOCWLAN0).find(line), std::string::npos) << choice;
-    }
-}
-
-TEST_F(SettingsCommands, NameServer) {
-    if (!ownsSystemFiles()) GTEST_SKIP() << "the name server file is the container's";
-    const std::string longLine = "#" + std::string(300, 'x') + "\nnameserver 8.8.8.8\n";
-    const Row rows[] = {
-        {"unset", VarDNS, "DNS=0.0.0.0|8.8.8.8", "", 0},
-        {"unset, leading zeros", VarDNS, "DNS=000.000.000.000|8.8.8.8", "", 0},
-        {"unset, empty", VarDNS, "DNS=|8.8.8.8", "", 0},
-        {"no file; the value as stored", VarDNS, "DNS=008.008.008.008|1.1.1.1",
-         "VarDNS$ echo nameserver 008.008.008.008 > /etc/resolv.conf"},
-        {"listed", VarDNS, "DNS=8.8.8.8|1.1.1.1", "VarDNS: dns found in /etc/resolv.conf", 0, "", nullptr,
-         "search x\nnameserver 1.2.3.4\nnameserver \t8.8.8.8 # why\n"},
-        {"listed behind a line longer than a read", VarDNS, "DNS=8.8.8.8",
-         "VarDNS: dns found in /etc/resolv.conf", 0, "", nullptr, longLine.c_str()},
-        {"listed on a last line without line end", VarDNS, "DNS=8.8.8.8",
-         "VarDNS$ echo nameserver 8.8.8.8 > /etc/resolv.conf", 1, "", nullptr,
-         "nameserver 1.2.3.4\nnameserver 8.8.8.8"},
-        {"part of a word, other keyword, comment", VarDNS, "DNS=8.8.8.8",
-         "VarDNS$ echo nameserver 8.8.8.8 > /etc/resolv.conf", 1, "", nullptr,
-         "nameserver 8.8.8.88\nnameserver 8.8.8\nsearch 8.8.8.8\n#nameserver 8.8.8.8\n"},
-        {"unreadable", VarDNS, "DNS=8.8.8.8", "VarDNS$ echo nameserver 8.8.8.8 > /etc/resolv.conf", 1, "",
-         nullptr, "DIRECTORY"},
-    };
-    checkAll(rows);
-}
-
-TEST_F(SettingsCommands, TimeZone) {
-    const std::string longName = "/tmp/" + std::string(122, 'z');
-    const std::string longSetting = "TIMEZONE=" + longName, longMessage = "VarTIMEZONE: used " + longName;
-    constexpr char kToUtc[] = R"(
-$ rm -f /etc/localtime;ln -s /usr/share/zoneinfo/UTC /etc/localtime
-VarTIMEZONE (default) : /usr/share/zoneinfo/UTC)";
-    constexpr char kToZone[] = R"(
-$ rm -f /etc/localtime;ln -s /tmp/zone /etc/localtime
-VarTIMEZONE: /tmp/zone)";
-    const Row rows[] = {
-        {"linked already", VarTIMEZONE, "TIMEZONE=/tmp/other|/tmp/zone", "VarTIMEZONE: used /tmp/zone", 1, "",
-         "/tmp/zone"},
-        {"linked already to nothing", VarTIMEZONE, "TIMEZONE=/tmp/none", "VarTIMEZONE: used /tmp/none", 1, "",
-         "/tmp/none"},
-        {"linked already, the longest name", VarTIMEZONE, longSetting.c_str(), longMessage.c_str(), 1, "",
-         longName.c_str()},
-        {"present", VarTIMEZONE, "TIMEZONE=/tmp/other|/tmp/zone", kToZone, 1, "", "/usr/share/zoneinfo/UTC"},
-        {"present, no link yet", VarTIMEZONE, "TIMEZONE=/tmp/zone", kToZone},
-        {"present, a file instead of the link", VarTIMEZONE, "TIMEZONE=/tmp/zone", kToZone, 1, "", ""},
-        {"missing, UTC linked", VarTIMEZONE, "TIMEZONE=/tmp/zone|/tmp/none", kToUtc, 1, "",
-         "/usr/share/zoneinfo/UTC"},
-        {"empty", VarTIMEZONE, "TIMEZONE=/tmp/zone|", kToUtc, 1, "", "/tmp/zone"},
-        {"empty and no link", VarTIMEZONE, "TIMEZONE=", "VarTIMEZONE: used ", 1, "", ""},
-        {"initial text", VarTIMEZONE, "TIMEZONE=0", kToUtc},
-        {"link longer than any name", VarTIMEZONE, "TIMEZONE=/tmp/zone", kToZone, 1, "",
-         "/tmp/zone//////////////////////////////////////////////////////////////////////////////////////////"
-         "///"
-         "///////////////////////////////////////////////////////////////////"},
-    };
-    checkAll(rows);
-}
-
-#define FRESH "$ rm -f /tmp/ntp.conf\n$ touch /tmp/ntp.conf\n"
-#define HARDWARE_CLOCK                                                                                       \
-    "VarNTP$ echo server 127.127.45.0 >> /tmp/ntp.conf\nVarNTP$ echo fudge 127.127.45.0 stratum 13 >> "      \
-    "/tmp/ntp.conf\n"
-#define STOP                                                                                                 \
-    "$ killall -15 ntpd > /dev/null 2>&1;killall -9 ntpd > /dev/null 2>&1;\n"                                \
-    "$ killall -15 ntpd_restart.sh > /dev/null 2>&1;killall -9 ntpd_restart.sh > /dev/null 2>&1;\n"
-#define STEP(server) "$ ntpdate -b " server " > /dev/null 2>&1; hwclock -w --utc\n"
-#define START "VarNTP$ ntpd -g -f /tmp/ntp.drift -c /tmp/ntp.conf\n$ /appfs/taluxapp1/ntpd_restart.sh &\n"
-
-TEST_F(SettingsCommands, TimeService) {
-    constexpr Row kRows[] = {
-        {"receiver", VarNTP, "NTP1=1.1.1.1 NTP_RTC=1 DCF77_activ=1|0",
-         FRESH "VarNTP: DCF77 is enabled, not start NTP!\n", 0},
-        {"both servers and the hardware clock", VarNTP,
-         "NTP1=010.000.000.001|9.9.9.9 NTP2=010.000.000.002|9.9.9.9 NTP_RTC=1|0 DCF77_activ=0|1",
-         FRESH "VarNTP$ echo server 10.0.0.1 true >> /tmp/ntp.conf\n"
-               "VarNTP$ echo server 10.0.0.2 >> /tmp/ntp.conf\n" HARDWARE_CLOCK STOP STEP("10.0.0.1") START},
-        {"first server", VarNTP, "NTP1=10.0.0.1 NTP2=000.000.000.000|10.0.0.2 NTP_RTC=0|1",
-         FRESH "VarNTP$ echo server 10.0.0.1 true >> /tmp/ntp.conf\n" STOP STEP("10.0.0.1") START},
-        {"second server sets the clock, too", VarNTP,
-         "NTP1=|10.0.0.1 NTP2=10.0.0.2 NTP_RTC=0|1 DCF77_activ=2",
-         FRESH "VarNTP$ echo server 10.0.0.2 >> /tmp/ntp.conf\n" STOP STEP("10.0.0.2") START},
-        {"hardware clock alone", VarNTP, "NTP1=0.0.0.0|10.0.0.1 NTP_RTC=1|0",
-         FRESH HARDWARE_CLOCK STOP START},
-        {"nothing", VarNTP, "NTP1=000.000.000.000|10.0.0.1 NTP_RTC=0|1", FRESH STOP},
-        {"a hardware clock flag other than 1", VarNTP, "NTP_RTC=2|1", FRESH STOP},
-    };
-    checkAll(kRows);
-}
-
-#define ALIAS_1 "T104_ETH_IP_1=010.1.2.3|9.9.9.9 T104_ETH_MA_1=255.255.255.000|9.9.9.9 "
-#define DELETED(route)                                                                                       \
-    "VarT104$ route del -net " route " > /dev/null 2>&1\n$ route del -net " route " > /dev/null 2>&1\n"
-
-std::ptrdiff_t openFiles() {
-    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
-}
-
-TEST_F(SettingsCommands, TelecontrolAliases) {
-    const std::ptrdiff_t before = openFiles();
-    constexpr Row kRows[] = {
-        {"factory values", VarT104, "", ""},
-        {"gateway", VarT104, ALIAS_1 "T104_ETH_GW_1=10.1.2.1|9.9.9.9", R"(
-VarT104$ ifconfig eth0:1 10.1.2.3
-VarT104$ ifconfig eth0:1 up
-VarT104$ ifconfig eth0:1 netmask 255.255.255.0
-VarT104$ route add -net 10.1.2.0 netmask 255.255.255.0 gw 10.1.2.1 eth0:1)"},
-        {"second and fourth on the other device, gateways unset", VarT104,
-         "T104_ethernet=2|1 T104_ETH_IP_2=10.1.2.3 T104_ETH_GW_2=000.000.000.000|10.0.0.1 "
-         "T104_ETH_IP_4=172.16.77.9 T104_ETH_MA_4=255.255.240.0 T104_ETH_GW_4=",
-         R"(
-VarT104$ ifconfig eth1:2 10.1.2.3
-VarT104$ ifconfig eth1:2 up
-VarT104$ ifconfig eth1:2 netmask 255.255.255.0
-VarT104$ route add -net 10.1.2.0 netmask 255.255.255.0 eth1:2
-VarT104$ ifconfig eth1:4 172.16.77.9
-VarT104$ ifconfig eth1:4 up
-VarT104$ ifconfig eth1:4 netmask 255.255.240.0
-VarT104$ route add -net 172.16.64.0 netmask 255.255.240.0 eth1:4)"},
-        {"incomplete ones, device 3", VarT104,
-         "T104_ethernet=3|2 T104_ETH_IP_1=10.0.0.1 T104_ETH_MA_1=000.000.000.000|255.0.0.0 "
-         "T104_ETH_IP_2=|10.0.0.1 "
-         "T104_ETH_IP_3=10.3.3.3 T104_ETH_MA_3= T104_ETH_IP_4=10.4.4.4",
-         R"(
-VarT104$ ifconfig eth0:4 10.4.4.4
-VarT104$ ifconfig eth0:4 up
-VarT104$ ifconfig eth0:4 netmask 255.255.255.0
-VarT104$ route add -net 10.4.4.0 netmask 255.255.255.0 eth0:4)"},
-        {"tear-down of what the kernel tells in full, device 0", VarT104, "T104_ethernet=0|2",
-         DELETED("10.9.2.0 netmask 255.255.255.0 eth0:1") "VarT104$ ifconfig eth0:1 down\n" DELETED(
-             "172.16.64.0 netmask 255.255.240.0 eth0:4") "VarT104$ ifconfig eth0:4 down\n",
-         1,
-         "eth0:1=10.9.2.3/255.255.255.0 eth0:2=-/255.0.0.0 eth0:3=10.0.0.1/- "
-         "eth0:4=172.16.77.9/255.255.240.0 "
-         "eth1:1=10.9.3.3/255.0.0.0 eth0=1.2.3.4/255.0.0.0 eth0:5=1.2.3.5/255.0.0.0"},
-        {"all tear-downs before the first set-up", VarT104, ALIAS_1 "T104_ethernet=2",
-         DELETED("10.0.0.0 netmask 255.0.0.0 eth1:1") "VarT104$ ifconfig eth1:1 down\n" DELETED(
-             "10.1.2.0 netmask 255.255.255.0 eth1:2") "VarT104$ ifconfig eth1:2 down\n"
-                                                      R"(
-VarT104$ ifconfig eth1:1 10.1.2.3
-VarT104$ ifconfig eth1:1 up
-VarT104$ ifconfig eth1:1 netmask 255.255.255.0
-VarT104$ route add -net 10.1.2.0 netmask 255.255.255.0 eth1:1)",
-         1, "eth1:1=10.9.9.9/255.0.0.0 eth1:2=10.1.2.3/255.255.255.0"},
-    };
-    checkAll(kRows);
-
-    g_socketsFail = true;
-    check({"no socket: no tear-down, but the set-up", VarT104, ALIAS_1, R"(
-VarT104$ ifconfig eth0:1 10.1.2.3
-VarT104$ ifconfig eth0:1 up
-VarT104$ ifconfig eth0:1 netmask 255.255.255.0
-VarT104$ route add -net 10.1.2.0 netmask 255.255.255.0 eth0:1)",
-           1, "eth0:1=10.9.2.3/255.255.255.0"});
-    g_socketsFail = false;
-
-    EXPECT_EQ(openFiles(), before) << "a run leaves sockets open";
-}
-
-TEST_F(SettingsCommands, EverythingInOrder) {
-    constexpr char kAll[] =
-        "ETH0_IP=192.168.55.10|9.9.9.9 ETH0_GATEWAY=192.168.55.1 eth1_active=1|0 ETH1_IP=10.16.55.10 "
-        "ETH1_GATEWAY=10.16.0.1 " ALIAS_1
-        "DNS=192.0.2.8|9.9.9.9 TIMEZONE=/tmp/zone|/tmp/old NTP1=10.0.0.1|9.9.9.9 "
-        "NTP_RTC=0|1 wlan0_active=1|0 VarSetWLAN0TypeDev=1|2 rate=2|3 channel=5|7 essid=net|old "
-        "key=s3cret|off "
-        "WLAN0_IP=10.2.0.10 WLAN0_GATEWAY=10.2.0.1";
-    constexpr char kEverything[] = R"(
-VarStaticIP$ ifconfig eth0 192.168.55.10
-VarStaticIP$ ifconfig eth0 netmask 255.255.0.0
-VarStaticIP$ route del default eth0 > /dev/null 2>&1
-VarStaticIP$ route add default gw 192.168.55.1 eth0
-VarStaticIPETH1$ ifconfig eth1 10.16.55.10
-VarStaticIPETH1$ ifconfig eth1 netmask 255.255.0.0
-VarStaticIPETH1$ route del default eth1 > /dev/null 2>&1
-VarStaticIPETH1$ route add default gw 10.16.0.1 eth1
-)" DELETED("10.1.2.0 netmask 255.255.255.0 eth0:1") R"(VarT104$ ifconfig eth0:1 down
-VarT104$ ifconfig eth0:1 10.1.2.3
-VarT104$ ifconfig eth0:1 up
-VarT104$ ifconfig eth0:1 netmask 255.255.255.0
-VarT104$ route add -net 10.1.2.0 netmask 255.255.255.0 eth0:1
-VarDNS$ echo nameserver 192.0.2.8 > /etc/resolv.conf
-$ rm -f /etc/localtime;ln -s /tmp/zone /etc/localtime
-VarTIMEZONE: /tmp/zone
-)" FRESH "VarNTP$ echo server 10.0.0.1 true >> /tmp/ntp.conf\n" STOP STEP("10.0.0.1") START R"(
-VarADHOCWLAN0$ ifconfig wlan0 down
-VarADHOCWLAN0$ iwconfig wlan0 mode ad-hoc
-VarADHOCWLAN0$ iwconfig wlan0 rate 54M
-VarADHOCWLAN0$ iwconfig wlan0 channel 5
-VarADHOCWLAN0$ iwconfig wlan0 essid net
-VarADHOCWLAN0$ iwconfig wlan0 enc s3cret
-VarADHOCWLAN0$ iwconfig wlan0 key s3cret
-VarADHOCWLAN0$ ifconfig wlan0 up
-VarStaticIPWLAN0_ADHOC$ ifconfig wlan0 10.2.0.10
-VarStaticIPWLAN0_ADHOC$ ifconfig wlan0 netmask 255.255.0.0
-VarStaticIPWLAN0_ADHOC$ route del default wlan0 > /dev/null 2>&1
-VarStaticIPWLAN0_ADHOC$ route add default gw 10.2.0.1 wlan0)";
-    check({"all active", VarSetSystemIPs, kAll, kEverything, 1, "eth0:1=10.1.2.3/255.255.255.0"});
-}
-
-// The least that VarSetSystemIPs does, around what differs at its end.
-#define QUIET_BEFORE_WLAN                                                                                    \
-    "VarStaticIP$ ifconfig eth0 192.168.55.127\nVarStaticIP$ ifconfig eth0 netmask 255.255.0.0\n"            \
-    "$ ifconfig eth1 down > /dev/null 2>&1\nVarTIMEZONE: used /tmp/zone\n" FRESH STOP
-
-TEST_F(SettingsCommands, InactiveInterfaces) {
-#define QUIET "eth1_active=0|1 TIMEZONE=/tmp/zone NTP_RTC=0 "
-    constexpr Row kRows[] = {
-        {"both off", VarSetSystemIPs, QUIET "wlan0_active=0|1",
-         QUIET_BEFORE_WLAN "$ ifconfig wlan0 down > /dev/null 2>&1\n", 1, "", "/tmp/zone"},
-        {"infrastructure", VarSetSystemIPs, QUIET "wlan0_active=1|0 VarSetWLAN0TypeDev=2|1",
-         QUIET_BEFORE_WLAN "VarINFRASTRUCTUREWLAN0: *** NOT IMPLEMENTED ***\n"
-                           "VarStaticIPWLAN0_INFRASTRUCTURE: *** NOT IMPLEMENTED ***\n",
-         1, "", "/tmp/zone"},
-        {"no such wireless type", VarSetSystemIPs, QUIET "wlan0_active=1|0 VarSetWLAN0TypeDev=3|1",
-         QUIET_BEFORE_WLAN, 1, "", "/tmp/zone"},
-    };
-    checkAll(kRows);
-}
-
-// The operations of the address file end in the same sequence.
-TEST_F(SettingsCommands, AddressFileIsApplied) {
-    const std::string tail = "$ ifconfig wlan0 down > /dev/null 2>&1\n";
-    writeFile("/ip_config.ini", "TLX_ETH0_IP=\"10.0.0.77\"\nTLX_NTP1=\"10.0.0.5\"\n");
-    writeFile("/def_ip_config.ini",
-              "TLX_ETH0_IP=\"10.0.0.99\"\nTLX_ETH0_MASK=\"255.0.0.0\"\nTLX_NTP1=\"10.0.0.6\"\n");
-    resetStore();
-    put("IpParamChanged=0");
-    const std::string loaded = transcriptOf(VarLoadIPConfig);
-    EXPECT_TRUE(loaded.starts_with(expanded("VarStaticIP$ ifconfig eth0 10.0.0.77"))) << loaded;
-    EXPECT_NE(loaded.find(expanded(STEP("10.0.0.5"))), std::string::npos) << loaded;
-    EXPECT_TRUE(loaded.ends_with(tail)) << loaded;
-
-    const std::string reset = transcriptOf([] { return VarResetIPConfig(kTypeIpAddress); });
-    EXPECT_TRUE(reset.starts_with(expanded("VarStaticIP$ ifconfig eth0 10.0.0.99\n"
-                                           "VarStaticIP$ ifconfig eth0 netmask 255.0.0.0")))
-        << reset;
-    EXPECT_NE(reset.find(expanded(STEP("10.0.0.5"))), std::string::npos) << "time servers stay\n" << reset;
-    EXPECT_TRUE(reset.ends_with(tail + "$ rm -f /var/resolv.conf\n$ touch /var/resolv.conf\n")) << reset;
-}
-
-// Of all writes only that of an interface's address applies the settings; load_ip does, too.
-TEST_F(SettingsCommands, CommandLanguage) {
-    const auto transcript = [](const char* line) {
-        static std::string text;
-        text = line;
-        return transcriptOf([] {
-            char answer[TALUX_ANSWER_SIZE], terminator[] = "\n";
-            return talux_interpreter_ProcessLine(
-                text.data(), [](char*, int) {}, answer, terminator);
-        });
-    };
-    resetStore();
-    EXPECT_EQ(transcript(
-                  "TLX_ETH0_MASK=\"255.0.0.0\",TLX_ETH0_GATEWAY=\"0.0.0.0\",TLX_DNS=\"0.0.0.0\",TLX_essid=x"),
-              "");
-    for (const char* line :
-         {"TLX_ETH0_IP=\"10.0.0.88\"", "TLX_eth1_ip=\"10.0.0.89\"", "TLX_WLAN0_IP=10.0.0.90", "load_ip"})
-        EXPECT_TRUE(transcript(line).starts_with(expanded("VarStaticIP$ ifconfig eth0 10.0.0.88\n"
-                                                          "VarStaticIP$ ifconfig eth0 netmask 255.0.0.0\n"
-                                                          "$ ifconfig eth1 down > /dev/null 2>&1")))
-            << line;
-}
-
-// A command that does not fit is not run, and the error stream says so; the others are.
-TEST_F(SettingsCommands, CommandsThatDoNotFit) {
-    const auto essidCommands = [](const std::string& essid) {
-        putValue(VarSetGlobalValue, 9022, essid);
-        std::istringstream lines(transcriptOf(VarADHOCWLAN0));
-        std::string found;
-        for (std::string line; std::getline(lines, line);)
-            if (line.find(" essid ") != std::string::npos) found += line + "\n";
-        return found;
-    };
-    resetStore();
-    // "iwconfig wlan0 essid " has 21 characters, a quote in quotes takes 4.
-    const std::string fits = std::string(56, '\'') + "123456", tooLong = fits + "7";
-    std::string quoted = "'";
-    for (int i = 0; i < 56; ++i)
+TEST_F(SettingsCommands, FunctionsAndBranches) {
+    const std::string quotes(56, '\'');
+    std::string quoted = "iwconfig wlan0 essid '";
+    for (std::size_t i = 0; i < quotes.size(); ++i)
         quoted += "'\\''";
-    EXPECT_EQ(essidCommands(fits),
-              expanded(("VarADHOCWLAN0$ iwconfig wlan0 essid " + quoted + "123456'").c_str()));
-    const std::string reason = essidCommands(tooLong);
-    EXPECT_EQ(std::count(reason.begin(), reason.end(), '\n'), 1) << reason;
-    EXPECT_TRUE(reason.starts_with("VarADHOCWLAN0: not run")) << reason;
-    EXPECT_TRUE(transcriptOf(VarADHOCWLAN0).ends_with("$ ifconfig wlan0 up\n"));
+    const std::string longName = "/tmp/" + std::string(122, 'z');
+    const Edit toUtc = {"*", "$ rm -f /etc/localtime;ln -s /usr/share/zoneinfo/UTC /etc/localtime\n"
+                             "VarTIMEZONE (default) : /usr/share/zoneinfo/UTC"};
+    const Edit noServer1 = {SERVER_1, ""}, noServer2 = {SERVER_2, ""}, noRtc = {RTC, ""}, noStep = {STEP, ""};
+    const std::vector<Edit> nothing = {noServer1, noServer2, noRtc, noStep, {"ntpd -g*", ""}};
+    const Edit other = {"008.008.008.008", "8.8.8.8"}, listed = {"*", ": dns found in /etc/resolv.conf"};
+    const Edit autoRate = {"54M", "Auto"}, noWlan0Address = {"ifconfig wlan0 10.2.1.1*", ""};
+    // clang-format off
+    const std::vector<Row> rows = {
+        {kEth0, ""}, {kEth1, ""}, {kAliases, ""}, {kDns, ""}, {kZone, ""}, {kTime, ""}, {kRadio, ""}, {kWlan0, ""},
+        {kEth0, "ETH0_GATEWAY=000.000.000.000|10.0.0.1", {{"route*", ""}}},
+        // Numbers stay as they are, the whole has at most 18 characters.
+        {kEth0, "ETH0_IP=9999.9999.9999.9999", {{"192.168.1.10", "9999.9999.9999.999"}}},
+        {kEth1, "ETH1_IP=..300.1..x7.9z.5 ETH1_MASK=255 ETH1_GATEWAY=|10.0.0.1",
+         {{"10.1.1.1", "300.1.0.9"}, {"route*", ""}}},
+        {kWlan0, "WLAN0_GATEWAY=0.0.0.0|10.0.0.1", {{"route*", ""}}},
+        {kAliases, "T104_ethernet=0|2"}, {kAliases, "T104_ethernet=3|2"},
+        {kAliases, "T104_ETH_IP_1=0.0.0.0|9.9.9.9 T104_ETH_IP_4=|9.9.9.9", {{"*", ""}}, 1, {}},
+        {kAliases, "T104_ethernet=2|1 T104_ETH_IP_4=0.0.0.0",
+         {{"*", DELETION("10.0.0.0 netmask 255.0.0.0 eth1:1") "ifconfig eth1:1 down\nifconfig eth1:1 10.1.2.3\n"
+           "ifconfig eth1:1 up\nifconfig eth1:1 netmask 255.255.255.0\n"
+           "route add -net 10.1.2.0 netmask 255.255.255.0 gw 10.1.2.1 eth1:1"}}},
+        {kAliases, "T104_ETH_MA_1=000.000.000.000|255.0.0.0 T104_ETH_IP_2=10.2.2.2 T104_ETH_MA_2=|255.0.0.0 "
+         "T104_ETH_IP_3=10.3.3.3 T104_ETH_GW_3=000.000.000.000|10.0.0.1 T104_ETH_MA_4=0.0.0.0",
+         {{"ifconfig eth0:1 10.1.2.3*", "ifconfig eth0:3 10.3.3.3\nifconfig eth0:3 up\nifconfig eth0:3 netmask "
+           "255.255.255.0\nroute add -net 10.3.3.0 netmask 255.255.255.0 eth0:3"}}},
+        {kDns, "DNS=0.0.0.0|8.8.8.8", {{"*", ""}}, 0}, {kDns, "DNS=|8.8.8.8", {{"*", ""}}, 0},
+        {kDns, "DNS=000.000.000.000|8.8.8.8", {{"*", ""}}, 0},
+        {kDns, "DNS=8.8.8.8|1.1.1.1", {listed}, 0, {}, "", "search x\nnameserver 1.2\nnameserver \t8.8.8.8 #\n"},
+        {kDns, "DNS=8.8.8.8", {listed}, 0, {}, "", "#" + std::string(300, 'x') + "\nnameserver 8.8.8.8\n"},
+        {kDns, "DNS=8.8.8.8", {other}, 1, {}, "", "nameserver 1.2.3.4\nnameserver 8.8.8.8"},
+        {kDns, "DNS=8.8.8.8", {other}, 1, {}, "", "nameserver 8.8.8.88\nnameserver 8.8.8\nsearch 8.8.8.8\n#nameserver 8.8.8.8\n"},
+        {kDns, "DNS=8.8.8.8", {other}, 1, {}, "", "DIRECTORY"},
+        {kZone, "", {}, 1, {}, ""}, {kZone, "", {}, 1, {}, "FILE"},
+        {kZone, "", {}, 1, {}, "/tmp/zone" + std::string(160, '/')},
+        {kZone, "", {{"*", ": used /tmp/zone"}}, 1, {}, "/tmp/zone"},
+        {kZone, "TIMEZONE=" + longName, {{"*", ": used " + longName}}, 1, {}, longName}, // there is no such file
+        {kZone, "TIMEZONE=/tmp/zone|/tmp/none", {toUtc}}, {kZone, "TIMEZONE=/tmp/zone|", {toUtc}, 1, {}, "/tmp/zone"},
+        {kZone, "TIMEZONE=", {{"*", ": used "}}, 1, {}, "FILE"},
+        {kTime, "DCF77_activ=1|0", {{"echo*", ": DCF77 is enabled, not start NTP!"}}, 0},
+        {kTime, "NTP2=000.000.000.000|10.0.0.2 NTP_RTC=0|1", {noServer2, noRtc}},
+        {kTime, "NTP1=|10.0.0.1 DCF77_activ=2", {noServer1, {"-b 10.0.0.1", "-b 10.0.0.2"}}},
+        {kTime, "NTP1=0.0.0.0|10.0.0.1 NTP2=", {noServer1, noServer2, noStep}},
+        {kTime, "NTP1=000.000.000.000|10.0.0.1 NTP2=0.0.0.0 NTP_RTC=0|1", nothing},
+        {kTime, "NTP1= NTP2= NTP_RTC=2|1", nothing},
+        {kRadio, "rate=-1|2", {autoRate}}, {kRadio, "rate=0|2", {autoRate}}, {kRadio, "rate=1|2", {autoRate}},
+        {kRadio, "rate=4|2", {autoRate}}, {kRadio, "rate=3|2", {{"54M", "11M"}}},
+        // The longest command has 253 characters; the others are run whatever happens to one.
+        {kRadio, "essid=" + quotes + "123456", {{"iwconfig wlan0 essid Net_1", quoted + "123456'"}}},
+        {kRadio, "essid=" + quotes + "1234567",
+         {{"iwconfig wlan0 essid Net_1", ": not run, 254 characters where 253 are allowed: iwconfig wlan0 essid %s"}}},
+        {kAll, ""},
+        {kAll, "eth1_active=0|1 wlan0_active=0|1", {{"ifconfig eth1 10.1.1.1*", "$ ifconfig eth1 down" QUIET},
+         {"ifconfig wlan0 down*", "$ ifconfig wlan0 down" QUIET}, noWlan0Address}},
+        {kAll, "VarSetWLAN0TypeDev=2|1", {{"ifconfig wlan0 down*", "VarINFRASTRUCTUREWLAN0: *** NOT IMPLEMENTED ***\n"
+         "VarStaticIPWLAN0_INFRASTRUCTURE: *** NOT IMPLEMENTED ***"}, noWlan0Address}},
+        {kAll, "VarSetWLAN0TypeDev=3|1", {{"ifconfig wlan0 down*", ""}, noWlan0Address}},
+    };
+    // clang-format on
+    const auto openFiles = [] { return std::distance(fs::directory_iterator("/proc/self/fd"), {}); };
+    const auto before = openFiles();
+    for (const Row& row : rows)
+        if (row.step != kDns || ownsSystemFiles()) check(row);
+    g_socketsFail = true;
+    check({kAliases, "", {{TEAR_DOWN, ""}}});
+    g_socketsFail = false;
+    EXPECT_EQ(openFiles(), before) << "a run leaves sockets open";
+    EXPECT_EQ(VarINFRASTRUCTUREWLAN0() + VarStaticIPWLAN0_INFRASTRUCTURE(), 2);
+}
+
+// What ends in the same sequence: writes of interface addresses, and the operations of the address file.
+TEST_F(SettingsCommands, Callers) {
+    const auto applied = [](const std::string& settings, int (*apply)(),
+                            const std::vector<Edit>& edits = {}) {
+        check({kAll, settings, edits, 1, kKernel, kUtc, "", apply});
+    };
+    for (int (*load)() : std::vector<int (*)()>{VarLoadIPConfig, [] { return line("load_ip"); }}) {
+        writeFile("/ip_config.ini", "TLX_ETH0_IP=\"192.168.1.10\"\nTLX_NTP1=\"10.0.0.1\"\n");
+        applied("ETH0_IP=1.2.3.4 NTP1=1.2.3.4", load);
+    }
+    applied("ETH0_IP=1.2.3.4", [] { return line("TLX_ETH0_IP=\"192.168.001.010\""); });
+    applied("ETH1_IP=1.2.3.4", [] { return line("TLX_eth1_ip=\"10.1.1.1\""); });
+    applied("WLAN0_IP=1.2.3.4", [] { return line("TLX_WLAN0_IP=10.2.1.1"); });
+
+    writeFile("/def_ip_config.ini", "TLX_ETH0_IP=\"10.0.0.99\"\nTLX_ETH0_MASK=\"255.0.0.0\"\n"
+                                    "TLX_ETH0_GATEWAY=\"10.0.0.98\"\nTLX_NTP1=\"1.1.1.1\"\n"); // NTP1 stays
+    applied("", [] { return VarResetIPConfig(kTypeIpAddress); },
+            {{"192.168.1.10", "10.0.0.99"},
+             {"eth0 netmask 255.255.0.0", "eth0 netmask 255.0.0.0"},
+             {"192.168.1.1", "10.0.0.98"},
+             {"10.2.0.1 wlan0", "10.2.0.1 wlan0\n$ rm -f /var/resolv.conf\n$ touch /var/resolv.conf"}});
+
+    const ErrorStream errors;
+    line("TLX_ETH0_MASK=\"255.0.0.0\",TLX_ETH0_GATEWAY=\"0.0.0.0\",TLX_DNS=\"0.0.0.0\",TLX_essid=x");
+    EXPECT_EQ(errors.text(), "") << "all other writes wait";
 }
 
 } // namespace
