@@ -4,13 +4,11 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 #include "ParamSystem/TALUX_Var.h"
@@ -51,10 +49,7 @@ inline void put(const std::string& assignments) {
         const std::string value = word.substr(name.size() + 1);
         const auto bar = value.find('|');
         const stParamProperties* row = GetParamPropertiesByName(name.data());
-        if (row == nullptr) {
-            ADD_FAILURE() << "no parameter " << name;
-            continue;
-        }
+        ASSERT_NE(row, nullptr) << name;
         putValue(VarSetValue, row->id, value.substr(0, bar));
         putValue(VarSetGlobalValue, row->id, bar == std::string::npos ? value : value.substr(bar + 1));
     }
@@ -67,33 +62,13 @@ inline void resetStore() {
     VarUpdateGlobalSpace();
 }
 
-// While it lives, the error stream goes to a file. A buffer on the stream shows whether lines are flushed.
-class ErrorStream {
-public:
-    ErrorStream() : saved_(dup(STDERR_FILENO)) {
-        std::fflush(stderr);
-        std::setvbuf(stderr, buffer_, _IOFBF, sizeof buffer_);
-        const int file = open(kPath, O_CREAT | O_TRUNC | O_APPEND | O_WRONLY | O_CLOEXEC, 0600);
-        dup2(file, STDERR_FILENO);
-        close(file);
-    }
-    ErrorStream(const ErrorStream&) = delete;
-    ErrorStream& operator=(const ErrorStream&) = delete;
-    ~ErrorStream() {
-        std::fflush(stderr);
-        std::setvbuf(stderr, nullptr, _IONBF, 0);
-        dup2(saved_, STDERR_FILENO);
-        close(saved_);
-        fs::remove(kPath);
-    }
-
-    std::string text() const { return contents(kPath); }
-
-private:
-    static constexpr char kPath[] = "/tmp/error_stream";
-    static inline char buffer_[BUFSIZ];
-    int saved_;
-};
+// What an action writes to the error stream.
+template <typename Action>
+std::string errorsOf(const Action& action) {
+    testing::internal::CaptureStderr();
+    action();
+    return testing::internal::GetCapturedStderr();
+}
 
 class SettingsTest : public testing::Test {
 protected:
@@ -102,24 +77,10 @@ protected:
         VarInit(root);
         LoadDefParamProperties();
         writeFile("/tmp/zone", "");
+        std::setvbuf(stderr, nullptr, _IOFBF, BUFSIZ); // a line that is not flushed comes too late
     }
     static void TearDownTestSuite() { fs::remove("/tmp/zone"); }
 };
-
-using Command = std::vector<std::string>; // program and arguments
-
-// What recorders wrote: for each command, its words each ended by a NUL, the number of arguments first.
-inline std::vector<Command> takeRecord(const char* path) {
-    std::istringstream words(contents(path));
-    std::vector<Command> commands;
-    for (std::string count; std::getline(words, count, '\0');) {
-        Command& command = commands.emplace_back(std::stoul(count) + 1);
-        for (std::string& word : command)
-            std::getline(words, word, '\0');
-    }
-    fs::remove(path);
-    return commands;
-}
 
 } // namespace settings_test
 

@@ -1,5 +1,4 @@
 // The settings as the kernel has them afterwards, set by the real ifconfig and route on real interfaces.
-#include <algorithm>
 #include <chrono>
 #include <thread>
 
@@ -28,14 +27,12 @@ protected:
     static void SetUpTestSuite() {
         SettingsTest::SetUpTestSuite();
         if (!ownsSystemFiles()) return;
-        const std::string recorder = "/tmp/recorders/recorder";
         fs::create_directories("/tmp/recorders");
-        fs::create_directories("/appfs/taluxapp1");
-        writeFile(recorder, "#!/bin/sh\nprintf '%s\\0' \"$#\" \"${0##*/}\" \"$@\" >>/tmp/record\n");
-        fs::permissions(recorder, fs::perms::owner_all);
-        for (const char* program : {"iwconfig", "ntpd", "ntpdate", "hwclock", "killall"})
-            fs::create_symlink(recorder, std::string("/tmp/recorders/") + program);
-        fs::create_symlink(recorder, "/appfs/taluxapp1/ntpd_restart.sh");
+        writeFile("/tmp/recorders/recorder",
+                  "#!/bin/sh\necho \"$(printf '[%s]' \"${0##*/}\" \"$@\")\" >>/tmp/record\n");
+        runs("cd /tmp/recorders; chmod 755 recorder; mkdir -p /appfs/taluxapp1; for program in iwconfig "
+             "ntpd ntpdate hwclock killall; do "
+             "ln -sf recorder $program; done; ln -sf $PWD/recorder /appfs/taluxapp1/ntpd_restart.sh");
         setenv("PATH", "/tmp/recorders:/usr/sbin:/usr/bin:/sbin:/bin", 1);
     }
     void SetUp() override {
@@ -50,14 +47,13 @@ protected:
             "ETH1_MASK=255.255.255.0 T104_ETH_IP_1=10.1.1.3 T104_ETH_GW_1=10.1.1.1 T104_ETH_IP_2=10.1.2.3 "
             "T104_ETH_IP_3=172.16.77.9 T104_ETH_MA_3=255.255.240.0 T104_ETH_IP_4=10.1.4.3 "
             "T104_ETH_MA_4=255.255.255.128 DNS=192.0.2.8 TIMEZONE=/tmp/zone NTP1=192.0.2.1 NTP2=192.0.2.2");
-        takeRecord("/tmp/record");
+        fs::remove("/tmp/record");
     }
     void TearDown() override { runs("ip link del eth0; ip link del eth1"); }
 
     static std::string networkAfter(const char* settings, int (*apply)() = VarSetSystemIPs) {
         put(settings);
-        const ErrorStream errors;
-        EXPECT_EQ(apply(), 1);
+        errorsOf([&] { EXPECT_EQ(apply(), 1); });
         return network();
     }
 };
@@ -75,7 +71,7 @@ TEST_F(KernelSettings, AddressesMasksAndRoutes) {
               expected);
 }
 
-TEST_F(KernelSettings, ChangesReplaceWhatWasThere) {
+TEST_F(KernelSettings, Changes) {
     networkAfter("");
     // eth1 is down, its address stays.
     EXPECT_EQ(
@@ -83,13 +79,13 @@ TEST_F(KernelSettings, ChangesReplaceWhatWasThere) {
                      "T104_ETH_IP_2=10.1.2.4 T104_ETH_IP_3=0.0.0.0 T104_ETH_MA_4=0.0.0.0 eth1_active=0"),
         "eth0 192.168.55.20/16; eth0:2 10.1.2.4/24; eth1 10.16.55.10/24; 10.1.2.0/24 dev eth0; "
         "192.168.0.0/16 dev eth0; default via 192.168.55.2 dev eth0; ");
-}
-
-TEST_F(KernelSettings, AliasesOfTheOtherDevice) {
+    // The other device's alias stays.
     EXPECT_EQ(
-        networkAfter("T104_ethernet=2 T104_ETH_IP_1=0.0.0.0 T104_ETH_IP_2=0.0.0.0 T104_ETH_IP_3=0.0.0.0"),
-        "eth0 192.168.55.10/16; eth1 10.16.55.10/24; eth1:4 10.1.4.3/25; 10.1.4.0/25 dev eth1; 10.16.55.0/24 "
-        "dev eth1; 192.168.0.0/16 dev eth0; default via 192.168.55.1 dev eth0; ");
+        networkAfter("T104_ethernet=2 eth1_active=1 T104_ETH_IP_2=0.0.0.0 T104_ETH_MA_4=255.255.255.128"),
+        "eth0 192.168.55.20/16; eth0:2 10.1.2.4/24; eth1 10.16.55.10/24; eth1:4 10.1.4.3/25; 10.1.2.0/24 dev "
+        "eth0; "
+        "10.1.4.0/25 dev eth1; 10.16.55.0/24 dev eth1; 192.168.0.0/16 dev eth0; default via 192.168.55.2 dev "
+        "eth0; ");
 }
 
 TEST_F(KernelSettings, FilesAndRecordedPrograms) {
@@ -98,34 +94,20 @@ TEST_F(KernelSettings, FilesAndRecordedPrograms) {
     EXPECT_EQ(fs::read_symlink("/etc/localtime"), "/tmp/zone");
     EXPECT_EQ(contents("/tmp/ntp.conf"), "server 192.0.2.1 true\nserver 192.0.2.2\nserver 127.127.45.0\n"
                                          "fudge 127.127.45.0 stratum 13\n");
-    const Command watchdog = {"ntpd_restart.sh"};
-    std::vector<Command> commands;
-    for (int tries = 0; tries < 100 && std::count(commands.begin(), commands.end(), watchdog) == 0; ++tries) {
+    const std::string watchdog = "\n[ntpd_restart.sh]";
+    std::string record;
+    for (int tries = 0; tries < 100 && record.find(watchdog) == std::string::npos; ++tries) {
         std::this_thread::sleep_for(std::chrono::milliseconds(50)); // the watchdog runs in the background
-        for (Command& command : takeRecord("/tmp/record"))
-            commands.push_back(std::move(command));
+        record = contents("/tmp/record");
     }
-    EXPECT_EQ(std::erase(commands, watchdog), 1U);
-    std::string lines;
-    for (const Command& command : commands) {
-        for (const std::string& word : command)
-            lines += "[" + word + "]";
-        lines += "\n";
-    }
-    EXPECT_EQ(lines, R"([killall][-15][ntpd]
-[killall][-9][ntpd]
-[killall][-15][ntpd_restart.sh]
-[killall][-9][ntpd_restart.sh]
-[ntpdate][-b][192.0.2.1]
-[hwclock][-w][--utc]
-[ntpd][-g][-f][/tmp/ntp.drift][-c][/tmp/ntp.conf]
-[iwconfig][wlan0][mode][ad-hoc]
-[iwconfig][wlan0][rate][Auto]
-[iwconfig][wlan0][channel][3]
-[iwconfig][wlan0][essid][N;e't]
-[iwconfig][wlan0][enc][off]
-[iwconfig][wlan0][key][off]
-)");
+    ASSERT_NE(record.find(watchdog), std::string::npos) << record;
+    EXPECT_EQ(
+        record.erase(record.find(watchdog), watchdog.size()),
+        "[killall][-15][ntpd]\n[killall][-9][ntpd]\n[killall][-15][ntpd_restart.sh]\n[killall][-9][ntpd_"
+        "restart.sh]\n"
+        "[ntpdate][-b][192.0.2.1]\n[hwclock][-w][--utc]\n[ntpd][-g][-f][/tmp/ntp.drift][-c][/tmp/ntp.conf]\n"
+        "[iwconfig][wlan0][mode][ad-hoc]\n[iwconfig][wlan0][rate][Auto]\n[iwconfig][wlan0][channel][3]\n"
+        "[iwconfig][wlan0][essid][N;e't]\n[iwconfig][wlan0][enc][off]\n[iwconfig][wlan0][key][off]\n");
 }
 
 } // namespace
