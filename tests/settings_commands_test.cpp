@@ -141,7 +141,7 @@ struct Row {
     int result = 1;
     Kernel kernel = kKernel;
     std::string link = kUtc;   // of the time zone; "" nothing there, "FILE" a file that is no link
-    std::string resolver = ""; // the name server file; "" none, "DIRECTORY" one that opens and cannot be read
+    std::string resolver = {}; // the name server file; "" none, "DIRECTORY" one that opens and cannot be read
     int (*apply)() = VarSetSystemIPs;
 };
 
@@ -157,8 +157,10 @@ std::string expected(const Row& row) {
         for (std::string line; std::getline(lines, line);)
             if (line.starts_with("$ ") || line.starts_with("Var"))
                 result += line + "\n";
+            else if (line.starts_with(": "))
+                result.append(name).append(line).append("\n");
             else if (!line.empty())
-                result += name + (line[0] == ':' ? line : ": " + line + "\n$ " + line) + "\n";
+                result.append(name).append(": ").append(line).append("\n$ ").append(line).append("\n");
     }
     EXPECT_EQ(std::count(used.begin(), used.end(), false), 0) << "an edit that edits nothing";
     return result;
