@@ -61,7 +61,7 @@ std::string noted(std::initializer_list<std::string> words) {
 }
 
 // Runs each command in a process of the shell, where functions that note their arguments take the place of
-// programs. Behind each the file c, a side effect, and the file $1 with its contents are noted and removed.
+// programs. Behind each the file c, a side effect, is noted and removed, the file $1 is noted and emptied.
 constexpr char kShellScript[] = R"(
 note() { printf '%s\0' "$@" >&3; echo >&3; }
 for program in ifconfig iwconfig ln rm; do eval "$program() { note $program \"\$@\"; }"; done
@@ -69,7 +69,10 @@ written=$1; shift
 for command; do
   (eval "$command")
   [ ! -e c ] || { note c; command rm c; }
-  [ ! -e "$written" ] || { printf 'written\0'; cat "$written"; printf '\0\n'; command rm "$written"; } >&3
+  [ -s "$written" ] || continue
+  { printf 'written\0'; while IFS= read -r line; do printf '%s\n' "$line"; done; } <"$written" >&3
+  printf '%s\0\n' "$line" >&3 # what has no line end
+  : >"$written"
 done 3>/tmp/record 2>/dev/null </dev/null)";
 
 std::string runInShell(const char* written = "") {
