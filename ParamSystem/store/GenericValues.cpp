@@ -20,6 +20,8 @@ template <Kind kind>
 double toDouble(talux::Number<kind> number) {
     if constexpr (kind == Kind::Bool)
         return static_cast<std::uint8_t>(number);
+    else if constexpr (kind == Kind::Float)
+        return talux::widened(number);
     else
         return static_cast<double>(number);
 }
@@ -29,8 +31,10 @@ double toDouble(talux::Number<kind> number) {
 template <Kind kind>
 talux::Number<kind> fromDouble(double value) {
     using Number = talux::Number<kind>;
-    if constexpr (kind == Kind::Float || kind == Kind::Double)
-        return static_cast<Number>(value);
+    if constexpr (kind == Kind::Float)
+        return talux::narrowed(value);
+    else if constexpr (kind == Kind::Double)
+        return value;
     else if constexpr (kind == Kind::Bool)
         return static_cast<Number>(talux::saturated<std::uint32_t>(value));
     else

@@ -1,7 +1,8 @@
-// From floating point to whole numbers without undefined behaviour.
+// Conversions of numbers that are the same on every processor, without undefined behaviour.
 #ifndef TALUX_SUPPORT_NUMBER_H
 #define TALUX_SUPPORT_NUMBER_H
 
+#include <bit>
 #include <cstdint>
 #include <limits>
 
@@ -20,6 +21,22 @@ constexpr Integer saturated(double value) {
 
 constexpr std::int32_t saturated32(double value) {
     return saturated<std::int32_t>(value);
+}
+
+// A float as a double and back. Processors differ in what becomes of a not-a-number (its sign, its quiet
+// bit); here it keeps all of its bits both ways, so that a copy through a double is exact for every pattern.
+constexpr double widened(float value) {
+    if (value == value) return static_cast<double>(value);
+    const std::uint64_t bits = std::bit_cast<std::uint32_t>(value);
+    return std::bit_cast<double>((bits & 0x80000000) << 32 | 0x7FF0000000000000 | (bits & 0x007FFFFF) << 29);
+}
+
+constexpr float narrowed(double value) {
+    if (value == value) return static_cast<float>(value);
+    const auto bits = std::bit_cast<std::uint64_t>(value);
+    const auto sign = static_cast<std::uint32_t>(bits >> 32 & 0x80000000);
+    const auto payload = static_cast<std::uint32_t>(bits >> 29 & 0x007FFFFF);
+    return std::bit_cast<float>(sign | 0x7F800000 | (payload != 0 ? payload : 0x00400000));
 }
 
 } // namespace talux

@@ -6,6 +6,7 @@
 //
 // The clock stands still and shell commands are only noted, in /commands.txt; answers go to /answers.txt.
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -38,10 +39,10 @@ std::uint32_t nextRandom() {
     return state;
 }
 
-// Whole numbers, fractions and values beyond every range.
+// Whole numbers, fractions, values beyond every range and what is no number.
 double someNumber() {
     const auto whole = static_cast<std::int32_t>(nextRandom());
-    switch (nextRandom() % 6) {
+    switch (nextRandom() % 7) {
     case 0:
         return whole % 1000;
     case 1:
@@ -52,6 +53,8 @@ double someNumber() {
         return whole * 1e6;
     case 4:
         return whole / 1e12;
+    case 5:
+        return std::copysign(whole % 8 == 0 ? NAN : INFINITY, whole);
     default:
         return whole % 2;
     }
@@ -103,7 +106,7 @@ void fillSpaces() {
     for (int record = 0; record < kRecordCount; record++) {
         std::array<std::uint32_t, kLargestRecord / 4> words;
         for (std::uint32_t& word : words)
-            word = nextRandom() & ~0x40000000U; // every word a finite float
+            word = nextRandom(); // as long and as float
         VarSetGlobalStructValue(kFirstStruct + record, words.data(), ARR_StructSize[record]);
     }
 }
