@@ -19,5 +19,5 @@ add_library(talux_module INTERFACE)
 target_compile_options(talux_module INTERFACE
   -fvisibility=hidden -fvisibility-inlines-hidden -fno-exceptions -fno-rtti)
 target_link_options(talux_module INTERFACE
-  -static-libgcc -Wl,--as-needed
+  -static-libgcc -Wl,--as-needed -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map
   -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack -Wl,-z,nodelete -Wl,--build-id=none)
