@@ -1,0 +1,65 @@
+// Several processes and several threads at the store at once. Nothing of the C library is replaced here, so
+// that the thread sanitizer can watch.
+#include "Store.h"
+
+#include <atomic>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+using namespace talux_test;
+
+// Both directions and spaces between two processes, each with its own locks and attachment.
+TEST(SeveralAtOnce, OtherProcessesSeeWhatIsWritten) {
+    char buffer[128];
+    VarSetGlobalTextValue(9000, const_cast<char*>("from the parent"));
+    const pid_t child = fork();
+    if (child == 0) {
+        VarInit(kNoDirectory);
+        VarGetGlobalTextValue(9000, buffer);
+        VarSetTextValue(9068, buffer);
+        _exit(0);
+    }
+    ASSERT_EQ(waitpid(child, nullptr, 0), child);
+    VarGetTextValue(9068, buffer);
+    EXPECT_STREQ(buffer, "from the parent");
+}
+
+// Writers fill runs, texts and records with one letter each; no reader ever sees two.
+TEST(SeveralAtOnce, ThreadsNeverTearRunsTextsAndRecords) {
+    std::atomic<bool> stop{true};
+    const auto write = [&stop](char letter) {
+        std::vector<double> run(384, letter);
+        std::string text(static_cast<std::size_t>(letter), letter), record(236, letter);
+        do {
+            VarSetDoubleValueArray(1000, run.data(), 384);
+            VarSetGlobalTextValue(9068, text.data()); // as long as its letter's code
+            VarSetGlobalStructValue(30000, record.data(), 236);
+        } while (!stop);
+    };
+    const auto uniform = [](const auto* values, std::ptrdiff_t count) {
+        return std::count(values, values + count, values[0]) == count;
+    };
+    write('a');
+    stop = false;
+    std::thread a(write, 'a'), b(write, 'B');
+    int torn = 0;
+    double run[384];
+    char text[128], record[236];
+    for (int k = 0; k < 20000; ++k) {
+        VarGetDoubleValueArray(1000, run, 384);
+        VarGetGlobalTextValue(9068, text);
+        VarGetGlobalStructValue(30000, record, sizeof record);
+        torn += !uniform(run, 384) || !uniform(record, sizeof record) || !uniform(text, text[0]) ||
+                text[+text[0]] != 0;
+    }
+    stop = true;
+    a.join();
+    b.join();
+    EXPECT_EQ(torn, 0);
+}
+
+} // namespace
