@@ -82,7 +82,8 @@ container() {
   root=$(mktemp -d)
   mkdir -p "$root"/{etc,tmp,var,proc,dev,usr}
   for link in bin sbin lib lib64; do ln -s "usr/$link" "$root/$link"; done
-  local as=(bwrap --bind "$root" / --ro-bind /usr /usr --ro-bind "$project" "$project" --proc /proc --dev /dev
+  local as=(bwrap --bind "$root" / --ro-bind /usr /usr --ro-bind /etc/alternatives /etc/alternatives
+    --ro-bind "$project" "$project" --proc /proc --dev /dev
     --unshare-all --unshare-user --disable-userns --uid 0 --gid 0 --cap-drop ALL)
   "${as[@]}" true || { echo 'skipped: there are no namespaces to make a container with'; return 0; }
   release_tests_again || status=$?
