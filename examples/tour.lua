@@ -125,20 +125,23 @@ show "update"
 device_reaches "Uearth is 35 now"
 
 headline "Save: a file and its dated copy"
-show "save"
-local saved = read_file("/parameter.ini")
-local _, lines = saved:gsub("\n", "")
-say("/parameter.ini has %d lines, among them %s", lines, saved:match("TLX_Uearth=[^\n]*"))
-local copies = list("/param_*.ini")
-assert(read_file(copies[#copies]) ~= nil)
-say("its dated copy is %s", copies[#copies])
+if show("save"):match("success") then
+  local saved = read_file("/parameter.ini")
+  local _, lines = saved:gsub("\n", "")
+  say("/parameter.ini has %d lines, among them %s", lines, saved:match("TLX_Uearth=[^\n]*"))
+  local copies = list("/param_*.ini")
+  assert(read_file(copies[#copies]))
+  say("its dated copy is %s", copies[#copies])
 
-headline "Spoil the setting, load the file, it is back"
-show "TLX_Uearth=90,update"
-device_reaches "Uearth is 90 now"
-show "load"
-device_reaches "Uearth is 35 now"
-show "TLX_Uearth"
+  headline "Spoil the setting, load the file, it is back"
+  show "TLX_Uearth=90,update"
+  device_reaches "Uearth is 90 now"
+  show "load"
+  device_reaches "Uearth is 35 now"
+  show "TLX_Uearth"
+else
+  print("skipped: this root directory cannot be written, so there is no file to show and to load")
+end
 
 headline "What is refused, and how"
 show "TLX_Uearth=95"

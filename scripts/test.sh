@@ -63,6 +63,7 @@ commands() {
 # Without options and test packages there is the module and nothing else.
 plain() {
   local targets status=0
+  need make:make
   quiet cmake -S . -B build-plain -DCMAKE_BUILD_TYPE=Release || return
   targets=$(cmake --build build-plain --target help)
   grep -q 'lib_talux_lua' <<<"$targets" && ! grep -q '_test' <<<"$targets" || status=1

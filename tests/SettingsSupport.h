@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 #include "ParamSystem/TALUX_Var.h"
@@ -21,6 +22,11 @@ namespace fs = std::filesystem;
 inline bool ownsSystemFiles() {
     const char* isolation = std::getenv("TALUX_ISOLATION");
     return isolation != nullptr && std::string(isolation) != "none";
+}
+
+// False for an ordinary user on a container itself.
+inline bool mayWriteSystemFiles() {
+    return access("/", W_OK) == 0 && access("/etc", W_OK) == 0;
 }
 
 inline std::string contents(const char* path) {

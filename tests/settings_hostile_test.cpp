@@ -150,6 +150,7 @@ TEST_F(HostileSettings, NameServer) {
 }
 
 TEST_F(HostileSettings, ZoneFile) {
+    if (!mayWriteSystemFiles()) GTEST_SKIP() << "the system files are another user's";
     std::string expected;
     for (const std::string& value : kValues) {
         fs::remove("/etc/localtime");
