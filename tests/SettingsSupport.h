@@ -24,9 +24,10 @@ inline bool ownsSystemFiles() {
     return isolation != nullptr && std::string(isolation) != "none";
 }
 
-// False for an ordinary user on a container itself.
+// False for an ordinary user on a container itself. In a root of its own a test may, though an emulator shows
+// it another /etc when it asks.
 inline bool mayWriteSystemFiles() {
-    return access("/", W_OK) == 0 && access("/etc", W_OK) == 0;
+    return ownsSystemFiles() || (access("/", W_OK) == 0 && access("/etc", W_OK) == 0);
 }
 
 inline std::string contents(const char* path) {
