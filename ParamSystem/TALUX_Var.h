@@ -20,22 +20,6 @@
 
 // ---- Layout -------------------------------------------------------------------------------------------
 
-// Id blocks: first id and number of slots of each kind. An id alone decides kind and slot.
-inline constexpr int kFirstDouble = 1000, kDoubleCount = 384;
-inline constexpr int kFirstFloat = 2000, kFloatCount = 312;
-inline constexpr int kFirstLong = 6000, kLongCount = 1269;
-inline constexpr int kFirstInt = 7000, kIntCount = 7; // these ids lie in the long block too
-inline constexpr int kFirstBool = 8000, kBoolCount = 191;
-inline constexpr int kFirstText = 9000, kTextCount = 69;
-inline constexpr int kFirstEnum = 10000, kEnumCount = 131;
-inline constexpr int kFirstDate = 11000, kDateCount = 0;
-inline constexpr int kFirstTime = 12000, kTimeCount = 0;
-inline constexpr int kFirstSysDate = 13000, kSysDateCount = 1;
-inline constexpr int kFirstSysTime = 14000, kSysTimeCount = 1;
-inline constexpr int kFirstId = 15000, kIdCount = 1;
-inline constexpr int kFirstIp = 16000, kIpCount = 38;
-inline constexpr int kFirstStruct = 30000, kStructCount = kRecordCount;
-
 // Bytes of one slot of the text-like kinds, terminating NUL included.
 inline constexpr int kTextSize = 128, kDateSize = 15, kTimeSize = 10, kIdSize = 20, kIpSize = 20;
 

@@ -12,22 +12,17 @@
 #include <unistd.h>
 #include <vector>
 
+#include "Isolation.h"
 #include "ParamSystem/TALUX_Var.h"
 
 namespace settings_test {
 
 namespace fs = std::filesystem;
 
-// False where the tests run on a container itself, whose name server file cannot be exchanged.
-inline bool ownsSystemFiles() {
-    const char* isolation = std::getenv("TALUX_ISOLATION");
-    return isolation != nullptr && std::string(isolation) != "none";
-}
-
 // False for an ordinary user on a container itself. In a root of its own a test may, though an emulator shows
 // it another /etc when it asks.
 inline bool mayWriteSystemFiles() {
-    return ownsSystemFiles() || (access("/", W_OK) == 0 && access("/etc", W_OK) == 0);
+    return talux_test::isolated() || (access("/", W_OK) == 0 && access("/etc", W_OK) == 0);
 }
 
 inline std::string contents(const char* path) {

@@ -26,7 +26,7 @@ class KernelSettings : public SettingsTest {
 protected:
     static void SetUpTestSuite() {
         SettingsTest::SetUpTestSuite();
-        if (!ownsSystemFiles()) return;
+        if (!talux_test::isolated()) return;
         fs::create_directories("/tmp/recorders");
         writeFile("/tmp/recorders/recorder",
                   "#!/bin/sh\necho \"$(printf '[%s]' \"${0##*/}\" \"$@\")\" >>/tmp/record\n");
@@ -36,7 +36,7 @@ protected:
         setenv("PATH", "/tmp/recorders:/usr/sbin:/usr/bin:/sbin:/bin", 1);
     }
     void SetUp() override {
-        if (!ownsSystemFiles()) GTEST_SKIP() << "the network is the container's";
+        if (!talux_test::isolated()) GTEST_SKIP() << "the network is the container's";
         if (!runs("command -v ip && command -v ifconfig && command -v route"))
             GTEST_SKIP() << "iproute2 or net-tools is missing";
         if (!runs("for n in 0 1; do ip link add eth$n type veth peer name peer$n && ip link set peer$n up || "

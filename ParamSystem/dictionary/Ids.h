@@ -2,6 +2,8 @@
 #ifndef TALUX_DICTIONARY_IDS_H
 #define TALUX_DICTIONARY_IDS_H
 
+#include "ParamSystem/TALUX_Params.h"
+
 namespace talux {
 
 struct IdBlock {
@@ -12,21 +14,25 @@ struct IdBlock {
     constexpr bool holds(int id) const { return id >= first && id <= last; }
 };
 
-inline constexpr IdBlock kDoubleIds{1000, 1383};
-inline constexpr IdBlock kFloatIds{2000, 2311};
-inline constexpr IdBlock kLongIds{6000, 7268};
-inline constexpr IdBlock kIntIds{7000, 7006}; // inside the block of the longs
-inline constexpr IdBlock kBoolIds{8000, 8190};
-inline constexpr IdBlock kTextIds{9000, 9068};
-inline constexpr IdBlock kEnumIds{10000, 10130};
-inline constexpr IdBlock kSysDateIds{13000, 13000};
-inline constexpr IdBlock kSysTimeIds{14000, 14000};
-inline constexpr IdBlock kIdIds{15000, 15000};
-inline constexpr IdBlock kIpIds{16000, 16037};
+constexpr IdBlock idBlock(int first, int count) {
+    return {first, first + count - 1};
+}
+
+inline constexpr IdBlock kDoubleIds = idBlock(kFirstDouble, kDoubleCount);
+inline constexpr IdBlock kFloatIds = idBlock(kFirstFloat, kFloatCount);
+inline constexpr IdBlock kLongIds = idBlock(kFirstLong, kLongCount);
+inline constexpr IdBlock kIntIds = idBlock(kFirstInt, kIntCount); // inside the block of the longs
+inline constexpr IdBlock kBoolIds = idBlock(kFirstBool, kBoolCount);
+inline constexpr IdBlock kTextIds = idBlock(kFirstText, kTextCount);
+inline constexpr IdBlock kEnumIds = idBlock(kFirstEnum, kEnumCount);
+inline constexpr IdBlock kSysDateIds = idBlock(kFirstSysDate, kSysDateCount);
+inline constexpr IdBlock kSysTimeIds = idBlock(kFirstSysTime, kSysTimeCount);
+inline constexpr IdBlock kIdIds = idBlock(kFirstId, kIdCount);
+inline constexpr IdBlock kIpIds = idBlock(kFirstIp, kIpCount);
 inline constexpr IdBlock kDialogIds{18000, 18020};
 inline constexpr IdBlock kValueTemplateIds{18021, 18033};
 inline constexpr IdBlock kCommandIds{19000, 19020};
-inline constexpr IdBlock kStructIds{30000, 30002};
+inline constexpr IdBlock kStructIds = idBlock(kFirstStruct, kStructCount);
 
 } // namespace talux
 
