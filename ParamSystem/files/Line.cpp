@@ -6,7 +6,7 @@
 
 namespace {
 
-using talux::Kind;
+using talux::Nature;
 
 using Value = char[400];
 
@@ -21,68 +21,65 @@ double numberOf(int id) {
     return number;
 }
 
-void quoted(Value& value, int id, const std::tm& /*now*/) {
+void quoted(Value& value, int id) {
     talux::formatText(value, sizeof value, "\"%s\"", Text(id).text);
 }
 
-void address(Value& value, int id, const std::tm& /*now*/) {
+void address(Value& value, int id) {
     char normalised[talux::kWholeAddressSize];
     talux::normaliseAddress(normalised, Text(id).text);
     talux::formatText(value, sizeof value, "\"%s\"", normalised);
 }
 
-void today(Value& value, int /*id*/, const std::tm& now) {
+void today(Value& value, const std::tm& now) {
     talux::formatText(value, sizeof value, "\"%04d-%02d-%02d\"", now.tm_year + 1900, now.tm_mon + 1,
                       now.tm_mday);
 }
 
-void timeOfDay(Value& value, int /*id*/, const std::tm& now) {
+void timeOfDay(Value& value, const std::tm& now) {
     talux::formatText(value, sizeof value, "\"%02d:%02d:%02d\"", now.tm_hour, now.tm_min, now.tm_sec);
 }
 
-void decimal(Value& value, int id, const std::tm& /*now*/) {
-    talux::formatText(value, sizeof value, "%f", numberOf(id));
+// Whole numbers as an integer of 32 bits.
+void number(Value& value, const stParamProperties& row) {
+    if (talux::typeOf(row).fileDecimals == 0)
+        talux::formatText(value, sizeof value, "%d", static_cast<int>(numberOf(row.id)));
+    else
+        talux::formatText(value, sizeof value, "%f", numberOf(row.id));
 }
 
-void whole(Value& value, int id, const std::tm& /*now*/) {
-    talux::formatText(value, sizeof value, "%d", static_cast<int>(numberOf(id)));
-}
-
-using FormatValue = void(Value& value, int id, const std::tm& now);
-
-// How the values of a type are written, and the block in which the id must lie.
-struct Style {
-    int type;
-    Kind kind;
-    FormatValue* format;
-};
-
-constexpr Style kStyles[] = {
-    {kTypeText, Kind::Text, quoted},      {kTypeDate, Kind::Date, quoted},
-    {kTypeTime, Kind::Time, quoted},      {kTypeId, Kind::Id, quoted},
-    {kTypeSysDate, Kind::SysDate, today}, {kTypeSysTime, Kind::SysTime, timeOfDay},
-    {kTypeIp, Kind::Ip, address},         {kTypeIpAddress, Kind::Ip, address},
-    {kTypeIpMask, Kind::Ip, address},     {kTypeIpGateway, Kind::Ip, address},
-    {kTypeDouble, Kind::Double, decimal}, {kTypeFloat, Kind::Float, decimal},
-    {kTypeLong, Kind::Long, whole},
-};
-
-// All other types are written by their ids; templates, commands and records have no line.
-FormatValue* styleOf(const stParamProperties& row) {
-    for (const Style& style : kStyles)
-        if (style.type == row.type) return talux::holds(style.kind, row.id) ? style.format : nullptr;
-    for (const Kind kind : {Kind::Int, Kind::Enum, Kind::Bool})
-        if (talux::holds(kind, row.id)) return whole;
-    return nullptr;
+// False for a value without a line.
+bool formatValue(Value& value, const stParamProperties& row, const std::tm& now) {
+    switch (talux::typeOf(row).nature) {
+    case Nature::number:
+        number(value, row);
+        return true;
+    case Nature::text:
+        quoted(value, row.id);
+        return true;
+    case Nature::address:
+        address(value, row.id);
+        return true;
+    case Nature::date:
+        today(value, now);
+        return true;
+    case Nature::time:
+        timeOfDay(value, now);
+        return true;
+    case Nature::none:
+    case Nature::record:
+        break;
+    }
+    return false;
 }
 
 } // namespace
 
 bool talux::formatLine(char (&line)[kLineSize], const stParamProperties& row, const std::tm& now) {
-    FormatValue* const format = styleOf(row);
-    if (format == nullptr) return false;
+    // Templates have the type of a value and no slot for one.
+    if (!holds(typeOf(row).kind, row.id)) return false;
     Value value;
-    format(value, row.id, now);
+    if (!formatValue(value, row, now)) return false;
     formatText(line, sizeof line, "TLX_%s=%s\n", row.name, value);
     return true;
 }

@@ -74,7 +74,7 @@ private:
     void store(char* name, char* value) const {
         const stParamProperties* const row = GetParamPropertiesByName(name);
         if (row == nullptr || row->is_volatile == 1) return;
-        if (!talux::isTextType(row->type))
+        if (!talux::isText(*row))
             storeNumber(row->id, value);
         else if (type == 0 || type == row->type)
             VarSetValue(row->id, reinterpret_cast<double*>(value));

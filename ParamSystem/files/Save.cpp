@@ -17,15 +17,15 @@ using talux::Path;
 using Selection = bool(const stParamProperties& row);
 
 bool isNormal(const stParamProperties& row) {
-    return row.userlevel <= 2 && !talux::isIpType(row.type);
+    return row.userlevel <= 2 && !talux::isAddress(row);
 }
 
 bool isSecurity(const stParamProperties& row) {
-    return row.userlevel >= 3 && !talux::isIpType(row.type);
+    return row.userlevel >= 3 && !talux::isAddress(row);
 }
 
-bool isAddress(const stParamProperties& row) {
-    return talux::isIpType(row.type);
+bool isAddressLine(const stParamProperties& row) {
+    return talux::isAddress(row);
 }
 
 // The two parameter files; the address file is neither dated nor given away.
@@ -120,7 +120,7 @@ int VarSaveSecParamFile(char* filename) {
 
 int VarSaveIPConfigFile(char* filename) {
     VarUpdateGlobalSpace();
-    if (*filename == '\0' || !writeFile(filename, isAddress)) return 0;
+    if (*filename == '\0' || !writeFile(filename, isAddressLine)) return 0;
     talux::raise(ChangeFlag::ip);
     return 1;
 }

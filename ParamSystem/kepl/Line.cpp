@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "ParamSystem/dictionary/Types.h"
 #include "ParamSystem/kepl/Answer.h"
-#include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Text.h"
 
@@ -59,7 +59,7 @@ Flow Line::finish() {
         break;
     }
     if (iSP == 0) return fail(refuse(szSyntaxError));
-    const NumberText top(adStack[iSP - 1], decimalsOf(aiType[iSP - 1]));
+    const NumberText top(adStack[iSP - 1], typeOf(aiType[iSP - 1]).shownDecimals);
     copyText(txt, top.view());
     return answer(txt);
 }

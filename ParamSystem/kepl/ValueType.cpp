@@ -1,12 +1,10 @@
 #include "ParamSystem/kepl/ValueType.h"
 
-#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstring>
-#include <iterator>
 
-#include "ParamSystem/TALUX_Params.h"
+#include "ParamSystem/dictionary/Types.h"
 
 namespace talux::kepl {
 
@@ -27,75 +25,54 @@ double load(const char* bytes) {
     return static_cast<double>(value);
 }
 
-struct Width {
-    int type;
-    int decimals;
+struct Format {
     std::size_t size;
     void (*store)(double number, char* bytes);
     double (*load)(const char* bytes);
 };
 
 template <typename Stored>
-constexpr Width width(int type, int decimals) {
-    return {type, decimals, sizeof(Stored), store<Stored>, load<Stored>};
+constexpr Format kFormat{sizeof(Stored), store<Stored>, load<Stored>};
+
+const Format* formatOf(int type) {
+    switch (typeOf(type).width) {
+    case Width::u8:
+        return &kFormat<std::uint8_t>;
+    case Width::i16:
+        return &kFormat<std::int16_t>;
+    case Width::i32:
+        return &kFormat<std::int32_t>;
+    case Width::i64:
+        return &kFormat<std::int64_t>;
+    case Width::f32:
+        return &kFormat<float>;
+    case Width::f64:
+        return &kFormat<double>;
+    case Width::none:
+        break;
+    }
+    return nullptr;
 }
-
-constexpr Width kWidths[] = {
-    width<double>(kTypeDouble, 6),     width<float>(kTypeFloat, 6),       width<std::int32_t>(kTypeLong, 0),
-    width<std::int32_t>(kTagInt32, 0), width<std::int64_t>(kTagInt64, 0), width<std::int64_t>(kTagUint64, 0),
-    width<std::int16_t>(kTypeInt, 0),  width<std::uint8_t>(kTagByte, 0),  width<std::uint8_t>(kTypeBool, 0),
-};
-
-const Width* widthOf(int type) {
-    const auto* const found = std::ranges::find(kWidths, type, &Width::type);
-    return found == std::end(kWidths) ? nullptr : found;
-}
-
-// From the lowest to the highest.
-constexpr int kPromotionChain[] = {kTypeBool, kTagByte, kTypeInt, kTypeLong, kTypeFloat, kTypeDouble};
 
 } // namespace
 
-bool isTextLike(int type) {
-    switch (type) {
-    case kTypeText:
-    case kTypeDate:
-    case kTypeTime:
-    case kTypeId:
-    case kTypeIp:
-    case kTypeIpAddress:
-    case kTypeIpMask:
-    case kTypeIpGateway:
-        return true;
-    default:
-        return false;
-    }
-}
-
-int decimalsOf(int type) {
-    const Width* const width = widthOf(type);
-    return width == nullptr ? 6 : width->decimals;
-}
-
 NumberBytes encode(double number, int type) {
     NumberBytes bytes;
-    if (const Width* const width = widthOf(type)) {
-        width->store(number, bytes.data);
-        bytes.size = width->size;
+    if (const Format* const format = formatOf(type)) {
+        format->store(number, bytes.data);
+        bytes.size = format->size;
     }
     return bytes;
 }
 
 double decode(const char* bytes, int type) {
-    const Width* const width = widthOf(type);
-    return width == nullptr ? 0.0 : width->load(bytes);
+    const Format* const format = formatOf(type);
+    return format == nullptr ? 0.0 : format->load(bytes);
 }
 
 int promoted(int type1, int type2) {
-    const auto* const end = std::end(kPromotionChain);
-    const auto* const rank1 = std::ranges::find(kPromotionChain, type1);
-    const auto* const rank2 = std::ranges::find(kPromotionChain, type2);
-    return rank1 != end && rank2 != end && rank2 > rank1 ? type2 : type1;
+    const int rank1 = typeOf(type1).rank;
+    return rank1 != 0 && typeOf(type2).rank > rank1 ? type2 : type1;
 }
 
 } // namespace talux::kepl

@@ -1,4 +1,4 @@
-// What the type code of a value means for printing it and for its bytes.
+// The bytes of a number and the type of a result, by type code.
 #ifndef TALUX_KEPL_VALUETYPE_H
 #define TALUX_KEPL_VALUETYPE_H
 
@@ -6,15 +6,6 @@
 #include <string_view>
 
 namespace talux::kepl {
-
-// Type codes that values on the stack carry though no parameter has them.
-inline constexpr int kTagInt32 = 2005, kTagInt64 = 2006, kTagUint64 = 2007, kTagByte = 2009;
-
-// Text-like types: their value is a text of the store.
-bool isTextLike(int type);
-
-// Decimals that a number of this type is printed with: none for the integers, else six.
-int decimalsOf(int type);
 
 // A number at the width of its type, little-endian.
 struct NumberBytes {

@@ -1,6 +1,7 @@
 #include <cstring>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/dictionary/Types.h"
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/kepl/Variable.h"
 #include "ParamSystem/os/Os.h"
@@ -18,18 +19,15 @@ constinit char abyStructBuffer[kLargestRecord] = {};
 // A text value in double quotes.
 using QuotedText = char[kTextSize + 2];
 
-bool isText(int type) {
-    return isTextLike(type) || type == kTypeSysDate || type == kTypeSysTime;
-}
-
 // Date and time are those of the system clock, whatever the store holds.
 void readText(const stParamProperties& row, int id, QuotedText& quoted) {
     std::tm now{};
-    if (row.type == kTypeSysDate) {
+    const Nature nature = typeOf(row).nature;
+    if (nature == Nature::date) {
         os::localTime(now);
         formatText(quoted, sizeof quoted, "\"%04d-%02d-%02d\"", now.tm_year + 1900, now.tm_mon + 1,
                    now.tm_mday);
-    } else if (row.type == kTypeSysTime) {
+    } else if (nature == Nature::time) {
         os::localTime(now);
         formatText(quoted, sizeof quoted, "\"%02d:%02d:%02d\"", now.tm_hour, now.tm_min, now.tm_sec);
     } else {
@@ -64,7 +62,7 @@ Refusal VariableRequest::read() {
 
 Refusal VariableRequest::readScalar(const stParamProperties& row) {
     if (row.type == kTypeStruct) return readRecord(row);
-    if (isText(row.type)) {
+    if (isText(row)) {
         QuotedText text;
         readText(row, row.id, text);
         answer.append({text});
@@ -87,7 +85,7 @@ Refusal VariableRequest::readRecord(const stParamProperties& row) {
         const char* const bytes = abyStructBuffer + position;
         const int type = memberType(member->szMemberType);
         if (type == kTypeNone) return refuse(kTypeUnknown);
-        const NumberText text(decode(bytes, type), type == kTypeFloat || type == kTypeDouble ? 6 : 0);
+        const NumberText text(decode(bytes, type), typeOf(type).shownDecimals);
         const int memberSize = member->iMemberBitsize / 8;
         if (!dump(answer, term.style(), row.name,
                   {".",
@@ -122,7 +120,7 @@ Refusal VariableRequest::readElement(const stParamProperties& row, VarLong index
     const int id = elementId(row, index);
     const NumberText label(index, 0);
     DumpItem item{" ", label.view(), {}, {}, index == 1};
-    if (isText(row.type)) {
+    if (isText(row)) {
         QuotedText text;
         readText(row, id, text);
         deliver(0.0, row.type);
@@ -135,7 +133,7 @@ Refusal VariableRequest::readElement(const stParamProperties& row, VarLong index
     double value = 0.0;
     readStored(row, id, &value);
     deliver(value, row.type);
-    const NumberText text(value, decimalsOf(row.type));
+    const NumberText text(value, typeOf(row).shownDecimals);
     const NumberBytes bytes = encode(value, row.type);
     if (style == Style::hex && bytes.size == 0) return refuse(kTypeUnknown);
     item.text = text.view();

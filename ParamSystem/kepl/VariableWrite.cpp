@@ -3,8 +3,8 @@
 
 #include "ParamSystem/TALUX_Funcs.h"
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/dictionary/Types.h"
 #include "ParamSystem/kepl/Clock.h"
-#include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/kepl/Variable.h"
 #include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Text.h"
@@ -44,8 +44,18 @@ Refusal VariableRequest::write() {
 }
 
 Refusal VariableRequest::writeValue(const stParamProperties& row, int id) {
-    if (isTextLike(row.type)) return writeText(row, id);
-    if (row.type == kTypeSysDate || row.type == kTypeSysTime) return writeClock(row, id);
+    switch (typeOf(row).nature) {
+    case Nature::text:
+    case Nature::address:
+        return writeText(row, id);
+    case Nature::date:
+    case Nature::time:
+        return writeClock(row, id);
+    case Nature::none: // commands and records: the number is checked, the store keeps nothing
+    case Nature::record:
+    case Nature::number:
+        break;
+    }
     return writeNumber(row, id);
 }
 

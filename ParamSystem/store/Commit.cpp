@@ -9,7 +9,7 @@ namespace {
 using talux::ChangeFlag;
 
 void setDefault(const stParamProperties& row) {
-    if (talux::isTextType(row.type)) {
+    if (talux::isText(row)) {
         // The store only reads through the pointer.
         VarSetValue(row.id, reinterpret_cast<double*>(const_cast<char*>(row.val_def_text)));
     } else {

@@ -7,12 +7,9 @@
 #include <type_traits>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/dictionary/Types.h"
 
 namespace talux {
-
-// In the order in which the locks are created.
-enum class Kind { Float, Double, Long, Int, Bool, Text, Enum, Date, Time, SysDate, SysTime, Id, Ip, Struct };
-inline constexpr std::size_t kKindCount = 14;
 
 // The value spaces. Records exist in the global space only.
 enum class Space { temp, global };
@@ -61,6 +58,7 @@ constexpr const Block& blockOf(Kind kind) {
 }
 
 constexpr bool holds(Kind kind, int id) {
+    if (kind == Kind::None) return false;
     const Block& block = blockOf(kind);
     return static_cast<unsigned>(id) - static_cast<unsigned>(block.first) <
            static_cast<unsigned>(block.count);
@@ -87,15 +85,6 @@ template <>
 struct NumberOf<Kind::Enum> : std::type_identity<short> {};
 template <Kind kind>
 using Number = typename NumberOf<kind>::type;
-
-// Types whose values travel as text rather than as a double.
-constexpr bool isTextType(int type) {
-    return type == kTypeText || (type >= kTypeDate && type <= kTypeIpGateway);
-}
-
-constexpr bool isIpType(int type) {
-    return type >= kTypeIp && type <= kTypeIpGateway;
-}
 
 } // namespace talux
 
