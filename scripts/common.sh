@@ -7,6 +7,7 @@ PATH=$PATH:/usr/sbin:/sbin
 if command -v ccache >/dev/null; then
   export CMAKE_C_COMPILER_LAUNCHER=${CMAKE_C_COMPILER_LAUNCHER-ccache}
   export CMAKE_CXX_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER-ccache}
+  export CCACHE_SLOPPINESS=pch_defines,time_macros # what it takes to cache behind a precompiled header
 fi
 
 fail() { echo "$(basename "$0"): $*" >&2; exit 2; }
