@@ -1,202 +1,197 @@
-// What the usual operations cost, from C++ and from Lua, as one table.
+// What the usual operations cost, beside the bare work: as time and as instructions.
+//
+//   talux_bench count             each way once in a while, for callgrind: one dump
+//   "<operation>|<way>|<runs>" each talux_bench check COUNTS      the instructions of COUNTS as a table;
+//   status 1 if a goal is missed by over 10 % talux_bench time COUNTS STARTUP.lua [GOOGLE-BENCHMARK-OPTION..]
 #include <benchmark/benchmark.h>
+#include <valgrind/callgrind.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <lua.hpp>
+#include <cstring>
+#include <fstream>
 #include <map>
-#include <string>
-#include <vector>
+#include <sstream>
 
-#include "ParamSystem/TALUX_Params.h"
-#include "ParamSystem/TALUX_Var.h"
-#include "src/lib_talux_lua.h"
-#include "src/talux_interpreter.h"
+#include "bench/Operations.h"
 
 namespace {
 
-void noOutput(char* /*buffer*/, int /*buffered*/) {}
+using bench::fail;
+using bench::Operation;
+using bench::Way;
 
-[[noreturn]] void fail(const std::string& what) {
-    std::fprintf(stderr, "talux_bench: %s\n", what.c_str());
-    std::exit(1);
+// Figures by operation and way.
+using Figures = std::map<std::string, std::map<std::string, double>>;
+
+// ---- Instructions -------------------------------------------------------------------------------------
+
+void count(const Operation& operation, const Way& way) {
+    way.run(3); // what is done once is done before
+    const std::string title = operation.name + "|" + way.name + "|" + std::to_string(operation.batch);
+    CALLGRIND_ZERO_STATS;
+    CALLGRIND_TOGGLE_COLLECT;
+    way.run(operation.batch);
+    CALLGRIND_TOGGLE_COLLECT;
+    CALLGRIND_DUMP_STATS_AT(title.c_str());
 }
 
-double evaluate(std::string line) {
-    static char answer[TALUX_ANSWER_SIZE], terminator[] = "";
-    if (talux_interpreter_ProcessLine(line.data(), noOutput, answer, terminator) != 1) fail(line + " failed");
-    return std::strtod(answer, nullptr);
-}
-
-lua_State* lua() {
-    static lua_State* const L = [] {
-        lua_State* const state = luaL_newstate();
-        luaL_openlibs(state);
-        luaopen_lib_talux_lua(state);
-        return state;
-    }();
-    return L;
-}
-
-// The code runs in a loop inside Lua, so that crossing over is paid once in a batch.
-void runLua(benchmark::State& state, const std::string& preparation, const std::string& body, int batch) {
-    lua_State* const L = lua();
-    const std::string chunk = preparation + " return function(n) for i = 1, n do " + body + " end end";
-    if (luaL_dostring(L, chunk.c_str()) != 0) fail(lua_tostring(L, -1));
-    while (state.KeepRunningBatch(batch)) {
-        lua_pushvalue(L, -1);
-        lua_pushinteger(L, batch);
-        if (lua_pcall(L, 1, 0, 0) != 0) fail(lua_tostring(L, -1));
+// Lines of operation, way and instructions per run, with tabs between them.
+Figures readCounts(const char* path) {
+    std::ifstream file(path);
+    if (!file) fail(std::string("cannot read ") + path);
+    Figures counts;
+    for (std::string line; std::getline(file, line);) {
+        std::istringstream fields(line);
+        std::string operation, way, number;
+        std::getline(fields, operation, '\t');
+        std::getline(fields, way, '\t');
+        std::getline(fields, number);
+        counts[operation][way] = std::strtod(number.c_str(), nullptr);
     }
-    lua_settop(L, 0);
+    return counts;
 }
 
-template <typename Operation>
-void addPair(const std::string& name, Operation operation, const std::string& preparation,
-             const std::string& body, int batch = 100) {
-    benchmark::RegisterBenchmark((name + "/C++").c_str(), [operation](benchmark::State& state) {
-        for ([[maybe_unused]] auto _ : state)
-            operation();
-    });
-    benchmark::RegisterBenchmark((name + "/Lua").c_str(),
-                                 [=](benchmark::State& state) { runLua(state, preparation, body, batch); });
+// The figure that the judged way is held against; 0 when there is none.
+double reference(const Operation& operation, const Figures& figures) {
+    const bool isOwn =
+        std::ranges::any_of(operation.ways, [&](const Way& way) { return way.name == operation.against; });
+    const auto found = figures.find(isOwn ? operation.name : operation.against);
+    if (found == figures.end()) return 0;
+    const auto figure = found->second.find(isOwn ? operation.against : operation.judged);
+    return figure == found->second.end() ? 0 : figure->second;
 }
 
-void addLine(const std::string& name, const std::string& line, int batch = 100) {
-    addPair(
-        name, [line] { evaluate(line); }, "", "talux_command '" + line + "'", batch);
+double ratio(const Operation& operation, const Figures& figures) {
+    const double floor = reference(operation, figures);
+    return floor > 0 ? figures.at(operation.name).at(operation.judged) / floor : 0;
 }
 
-// A whole indexed parameter: in one call, and element by element.
-template <typename Element, void (*read)(int, Element*, unsigned long)>
-void addArray(const std::string& parameter, int count, const std::string& kind) {
-    const std::string size = std::to_string(count), what = parameter + " 1.." + size;
-    addPair(
-        what + ", one call",
-        [=] {
-            static std::vector<Element> values(static_cast<std::size_t>(count));
-            read(GetParamPropertiesByName(const_cast<char*>(parameter.c_str()))->id, values.data(),
-                 static_cast<unsigned long>(count));
-            benchmark::DoNotOptimize(values.data());
-        },
-        "local get, array = talux_" + kind + "array.get, talux_" + kind + "array.new(" + size + ")",
-        "get(array, 'TLX_" + parameter + "', 1, " + size + ")");
-    addPair(
-        what + ", each by a line",
-        [=] {
-            for (int i = 1; i <= count; ++i)
-                benchmark::DoNotOptimize(evaluate("TLX_" + parameter + " " + std::to_string(i)));
-        },
-        "local values = {}",
-        "for k = 1, " + size + " do values[k] = tonumber(talux_command('TLX_" + parameter + " ' .. k)) end",
-        1);
+void printCell(const Figures& figures, const Operation& operation, const char* way) {
+    const auto row = figures.find(operation.name);
+    if (row != figures.end() && row->second.count(way) != 0)
+        std::printf(" %9.0f", row->second.at(way));
+    else
+        std::printf(" %9s", "");
 }
 
-// ---- Start-up -----------------------------------------------------------------------------------------
+constexpr const char* kWays[] = {"C++", "Lua", "bare C++", "bare Lua"};
 
-std::string startUpScript;
-
-struct StartUp {
-    double seconds = 0;
-    double bytes = 0;
-};
-
-StartUp startUp() {
-    FILE* const pipe = popen(("lua5.2 " + startUpScript).c_str(), "r"); // NOLINT(cert-env33-c)
-    char line[64], *end = line;
-    if (pipe == nullptr || std::fgets(line, sizeof line, pipe) == nullptr)
-        fail("lua5.2 does not start the module");
-    StartUp cost;
-    cost.seconds = std::strtod(line, &end);
-    cost.bytes = std::strtod(end, nullptr);
-    pclose(pipe);
-    return cost;
-}
-
-void measureStartUp(benchmark::State& state) {
-    double bytes = 0;
-    for ([[maybe_unused]] auto _ : state) {
-        const StartUp cost = startUp();
-        state.SetIterationTime(cost.seconds);
-        bytes += cost.bytes;
+// One row an operation; result: how many goals are missed by more than 10 %.
+int printTable(const char* title, const std::vector<Operation>& operations, const Figures& figures) {
+    int missed = 0;
+    std::printf("\n%-28s", title);
+    for (const char* const way : kWays)
+        std::printf(" %9s", way);
+    std::printf(" %7s %6s\n", "ratio", "goal");
+    for (const Operation& operation : operations) {
+        if (figures.count(operation.name) == 0) continue;
+        std::printf("%-28s", operation.name.c_str());
+        for (const char* const way : kWays)
+            printCell(figures, operation, way);
+        const double reached = operation.judged.empty() ? 0 : ratio(operation, figures);
+        if (reached > 0) std::printf(" %7.2f", reached);
+        if (operation.goal > 0) std::printf(" %6.2f", operation.goal);
+        const bool misses = operation.goal > 0 && (reached == 0 || reached > 1.1 * operation.goal);
+        missed += misses;
+        std::puts(misses ? "  missed" : "");
     }
-    state.counters["private"] = benchmark::Counter(bytes, benchmark::Counter::kAvgIterations);
+    return missed;
 }
 
-// ---- The table ----------------------------------------------------------------------------------------
+// ---- Time ---------------------------------------------------------------------------------------------
 
-std::string inUnits(double value, const std::vector<const char*>& units) {
-    std::size_t unit = 0;
-    for (; value >= 1000 && unit + 1 < units.size(); ++unit)
-        value /= 1000;
-    char text[32];
-    std::snprintf(text, sizeof text, "%.*f %s", value < 10 ? 2 : value < 100 ? 1 : 0, value, units[unit]);
-    return text;
-}
-
-// One row for each operation, one column for each language.
-class Table : public benchmark::BenchmarkReporter {
+// Collects the repetitions, which the library takes in turns, and keeps least and median.
+class Collector : public benchmark::BenchmarkReporter {
 public:
     bool ReportContext(const Context& /*context*/) override { return true; }
-
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs)
-            add(run);
+            if (run.run_type == Run::RT_Iteration)
+                times[run.run_name.function_name].push_back(run.GetAdjustedRealTime());
         std::fputc('.', stderr);
     }
 
-    void Finalize() override {
-        std::fputc('\n', stderr);
-        std::printf("%-36s %12s %12s\n", "", "C++", "Lua");
-        for (const std::string& name : order)
-            std::printf("%-36s %12s %12s\n", name.c_str(), cells[name]["C++"].c_str(),
-                        cells[name]["Lua"].c_str());
+    Figures least() const {
+        return figures([](std::vector<double>& t) { return t.front(); });
+    }
+    Figures median() const {
+        return figures([](std::vector<double>& t) { return t[t.size() / 2]; });
     }
 
 private:
-    std::vector<std::string> order;
-    std::map<std::string, std::map<std::string, std::string>> cells;
+    std::map<std::string, std::vector<double>> times; // "<operation>|<way>"
 
-    void set(const std::string& name, const std::string& language, const std::string& text) {
-        if (cells.count(name) == 0) order.push_back(name);
-        cells[name][language] = text;
-    }
-
-    void add(const Run& run) {
-        const std::string name = run.run_name.function_name;
-        const std::size_t slash = name.rfind('/');
-        set(name.substr(0, slash), name.substr(slash + 1),
-            inUnits(run.GetAdjustedRealTime() * 1e9 / benchmark::GetTimeUnitMultiplier(run.time_unit),
-                    {"ns", "us", "ms", "s"}));
-        const auto memory = run.counters.find("private");
-        if (memory != run.counters.end())
-            set("its private memory", "Lua", inUnits(memory->second.value, {"B", "kB", "MB"}));
+    template <typename Pick>
+    Figures figures(Pick pick) const {
+        Figures result;
+        for (auto [name, values] : times) {
+            std::ranges::sort(values);
+            const std::size_t bar = name.find('|');
+            result[name.substr(0, bar)][name.substr(bar + 1)] = pick(values);
+        }
+        return result;
     }
 };
+
+void measure(const Way& way, benchmark::State& state, int batch) {
+    while (state.KeepRunningBatch(batch))
+        way.run(batch);
+}
+
+void printStartUp(const std::string& script) {
+    constexpr int kRounds = 25;
+    std::vector<double> milliseconds, kilobytes;
+    for (int round = 0; round < kRounds; ++round) {
+        FILE* const pipe = popen(("lua5.2 " + script).c_str(), "r"); // NOLINT(cert-env33-c)
+        double seconds = 0, bytes = 0;
+        char line[64];
+        char* end = line;
+        if (pipe == nullptr || std::fgets(line, sizeof line, pipe) == nullptr)
+            fail("lua5.2 does not start the module");
+        seconds = std::strtod(line, &end);
+        bytes = std::strtod(end, nullptr);
+        pclose(pipe);
+        milliseconds.push_back(seconds * 1e3);
+        kilobytes.push_back(bytes / 1e3);
+    }
+    std::ranges::sort(milliseconds);
+    std::ranges::sort(kilobytes);
+    std::printf("\nrequire to return: %.2f ms at least, %.2f ms median, %.0f kB private memory\n",
+                milliseconds.front(), milliseconds[kRounds / 2], kilobytes[kRounds / 2]);
+}
+
+void printTimes(const std::vector<Operation>& operations, int argc, char** argv) {
+    for (const Operation& operation : operations)
+        for (const Way& way : operation.ways)
+            benchmark::RegisterBenchmark(
+                (operation.name + "|" + way.name).c_str(),
+                [&operation, &way](benchmark::State& state) { measure(way, state, operation.batch); });
+    benchmark::Initialize(&argc, argv);
+    Collector times;
+    benchmark::RunSpecifiedBenchmarks(&times);
+    std::fputc('\n', stderr);
+    printTable("least time, ns", operations, times.least());
+    printTable("median time, ns", operations, times.median());
+}
 
 } // namespace
 
 int main(int argc, char** argv) {
-    talux_interpreter_Init();
-    VarSetDefault();
-    VarUpdateGlobalSpace();
-
-    addLine("compute: 1,2,+", "1,2,+");
-    addLine("read: TLX_U1_prim", "TLX_U1_prim");
-    addLine("read a text: TLX_Name", "TLX_Name");
-    addLine("read a record: TLX_MessRecord02", "TLX_MessRecord02 -c");
-    addLine("write: TLX_Uearth=35", "TLX_Uearth=35");
-    addArray<VarLong, VarGetGlobalLongValueArray>("conman_status", 247, "long");
-    addArray<double, VarGetGlobalDoubleValueArray>("vMWR", 96, "double");
-    addLine("commit: update", "update", 10);
-    addLine("save", "save", 1);
-    addLine("load", "load", 1);
-    benchmark::RegisterBenchmark("require to return/Lua", measureStartUp)->UseManualTime()->Iterations(25);
-
-    benchmark::Initialize(&argc, argv);
-    if (argc != 2) fail("usage: talux_bench [GOOGLE-BENCHMARK-OPTION..] STARTUP.lua");
-    startUpScript = argv[1];
-    Table table;
-    benchmark::RunSpecifiedBenchmarks(&table);
+    const std::string mode = argc > 1 ? argv[1] : "";
+    const std::vector<Operation> operations = bench::operations();
+    if (mode == "count" && argc == 2) {
+        for (const Operation& operation : operations)
+            for (const Way& way : operation.ways)
+                count(operation, way);
+        return 0;
+    }
+    if (mode == "check" && argc == 3)
+        return printTable("instructions", operations, readCounts(argv[2])) > 0 ? 1 : 0;
+    if (mode != "time" || argc < 4) fail("count | check COUNTS | time COUNTS STARTUP.lua [OPTION..]");
+    printTimes(operations, argc - 3, argv + 3);
+    printTable("instructions", operations, readCounts(argv[2]));
+    printStartUp(argv[3]);
     return 0;
 }

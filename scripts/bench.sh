@@ -1,15 +1,34 @@
 #!/bin/bash
-# Measures what the usual operations cost, from C++ and from Lua, and prints one table. The device root lies on
-# a memory file system, so that files cost no disk.
+# Measures what the usual operations cost, from C++ and from Lua, beside the bare work, as time (least and median of
+# several rounds taken in turns) and as instructions. The device root lies on a memory file system, so that files
+# cost no disk.
 #
 #   bench.sh [GOOGLE-BENCHMARK-OPTION..]    for instance --benchmark_filter=read
+#   bench.sh --check                        instructions only; status 1 when a ratio is missed by more than 10 %
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 cd "$project"
 
 need_build_tools
-need /usr/include/benchmark/benchmark.h:libbenchmark-dev
+need /usr/include/benchmark/benchmark.h:libbenchmark-dev valgrind:valgrind
 build bench
 root=$(mktemp -d -p /dev/shm)
 trap 'rm -rf "$root"' EXIT
-scripts/isolated.sh --root "$root" --module "$project/build-bench" -- \
-  "$project/build-bench/bench/talux_bench" "$@" "$project/bench/startup.lua"
+bench() {
+  scripts/isolated.sh --root "$root" --module "$project/build-bench" -- "$@"
+}
+program=$project/build-bench/bench/talux_bench
+
+# Instructions per run, from the dumps: operation, way and number with tabs between them.
+mkdir "$root/counts"
+quiet bench valgrind --tool=callgrind --collect-atstart=no --callgrind-out-file=/counts/out "$program" count
+awk -F'[|]' '
+  /^desc: Trigger: Client Request: / { sub(/^desc: Trigger: Client Request: /, ""); operation = $1; way = $2; runs = $3 }
+  /^(summary|totals): / && runs { split($0, total, " "); printf "%s\t%s\t%d\n", operation, way, total[2] / runs; runs = 0 }
+' "$root"/counts/out.* >"$root/counts.tsv"
+
+if [ "${1-}" = --check ]; then
+  bench "$program" check /counts.tsv
+else
+  bench "$program" time /counts.tsv "$project/bench/startup.lua" --benchmark_enable_random_interleaving=true \
+    --benchmark_repetitions=9 --benchmark_min_time=0.02 "$@"
+fi
