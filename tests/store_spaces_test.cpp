@@ -82,19 +82,25 @@ TEST(Spaces, ArePublicSegmentsOfFixedSizeAndBeginEmpty) {
     }
 }
 
-TEST(Spaces, AreAttachedAgainBySecondInit) {
-    VarInit(kNoDirectory);
-    VarSetGlobalLongValue(6000, 42);
+// Attached once they stay where they are, however often; a segment that was removed meanwhile is made anew.
+TEST(Spaces, StayAttachedThroughLaterInits) {
     std::string directory(300, 'd');
     directory[254] = '!';
-    const auto before = statusOf(kGlobalKey).shm_nattch;
-    VarInit(directory.data());
-    EXPECT_EQ(statusOf(kGlobalKey).shm_nattch, before + 1);
+    VarInit(kNoDirectory);
+    const auto place = std::tuple(pVarGlobal, pVarTemp, pVarStruct);
+    const auto count = statusOf(kGlobalKey).shm_nattch;
+    for (int k = 0; k < 70000; ++k)
+        VarInit(directory.data());
+    EXPECT_EQ(place, std::tuple(pVarGlobal, pVarTemp, pVarStruct));
+    EXPECT_EQ(statusOf(kGlobalKey).shm_nattch, count);
     EXPECT_EQ(std::string(szParameterPath), directory.substr(0, 255));
     EXPECT_EQ(fSave, 1);
-    VarLong value = 0;
-    VarGetGlobalLongValue(6000, &value);
-    EXPECT_EQ(value, 42);
+
+    removeSegment(kGlobalKey);
+    VarInit(kNoDirectory);
+    VarSetGlobalLongValue(6000, 42);
+    EXPECT_EQ(numberIn<std::int32_t>(attach(kGlobalKey) + kBlocks[2].offset), 42);
+    EXPECT_EQ(std::tuple(std::get<1>(place), std::get<2>(place)), std::tuple(pVarTemp, pVarStruct));
 }
 
 TEST(Spaces, AreCleanedExceptTheRecords) {
@@ -167,6 +173,7 @@ TEST(SetUp, EndsTheProcessWhenACallFails) {
         const auto start = [&test] {
             std::atexit([] { std::fprintf(stderr, "%d", attempts); });
             mutex_init = errno = 0;
+            pVarGlobal = pVarTemp = nullptr, pVarStruct = nullptr;
             failure = test.failure;
             attempts = 0;
             VarInit(kNoDirectory);

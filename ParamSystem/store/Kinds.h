@@ -2,6 +2,7 @@
 #ifndef TALUX_STORE_KINDS_H
 #define TALUX_STORE_KINDS_H
 
+#include <array>
 #include <cstddef>
 #include <iterator>
 #include <type_traits>
@@ -64,8 +65,59 @@ constexpr bool holds(Kind kind, int id) {
            static_cast<unsigned>(block.count);
 }
 
+// The kind that answers for an id in a value space: of the ids that are int and long, long; None for records
+// and for ids without a slot. No two other blocks share a thousand.
+constexpr Kind kindOf(int id) {
+    constexpr auto kThousands = [] {
+        std::array<Kind, 17> kinds{};
+        kinds.fill(Kind::None);
+        for (const Block& block : kBlocks)
+            for (int k = block.first / 1000; k * 1000 < block.first + block.count; ++k)
+                if (block.kind != Kind::Int && block.kind != Kind::Struct)
+                    kinds[static_cast<std::size_t>(k)] = block.kind;
+        return kinds;
+    }();
+    const std::size_t thousand = static_cast<unsigned>(id) / 1000;
+    const Kind kind = thousand < kThousands.size() ? kThousands[thousand] : Kind::None;
+    return holds(kind, id) ? kind : Kind::None;
+}
+static_assert([] {
+    for (const Block& block : kBlocks)
+        for (int id = block.first; id < block.first + block.count; ++id)
+            if (block.kind != Kind::Int && block.kind != Kind::Struct && kindOf(id) != block.kind)
+                return false;
+    return true;
+}());
+
 constexpr bool isTextKind(Kind kind) {
     return kind == Kind::Text || (kind >= Kind::Date && kind <= Kind::Ip);
+}
+
+// Calls action.operator()<kind>(), the kind of a value as a constant; nothing for records and None.
+template <class Action>
+void withKind(Kind kind, Action action) {
+    switch (kind) {
+#define TALUX_CASE(Name)                                                                                     \
+    case Kind::Name:                                                                                         \
+        return action.template operator()<Kind::Name>()
+        TALUX_CASE(Float);
+        TALUX_CASE(Double);
+        TALUX_CASE(Long);
+        TALUX_CASE(Int);
+        TALUX_CASE(Bool);
+        TALUX_CASE(Text);
+        TALUX_CASE(Enum);
+        TALUX_CASE(Date);
+        TALUX_CASE(Time);
+        TALUX_CASE(SysDate);
+        TALUX_CASE(SysTime);
+        TALUX_CASE(Id);
+        TALUX_CASE(Ip);
+#undef TALUX_CASE
+    case Kind::Struct:
+    case Kind::None:
+        break;
+    }
 }
 
 // The value type of a numeric kind at the interface, as wide as its slot.

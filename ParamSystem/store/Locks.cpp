@@ -39,14 +39,20 @@ int initialise(pthread_mutex_t (&group)[count], const pthread_mutexattr_t& attri
     return firstError;
 }
 
-} // namespace
-
-void createLocks() {
+void makeLocks() {
     pthread_mutexattr_t attributes;
     require(makePriorityInheriting(attributes), "pthread_mutexattr_xxx");
     require(initialise(globalLocks, attributes), "pthread_mutex_init (GlobalData)");
     require(initialise(tempLocks, attributes), "pthread_mutex_init (TempData)");
     require(pthread_mutexattr_destroy(&attributes), "pthread_mutexattr_destroy");
+}
+
+} // namespace
+
+void createLocks() {
+    makeLocks();
+    // A thread that was inside an accessor during a fork does not exist in the child and gives nothing back.
+    require(pthread_atfork(nullptr, nullptr, makeLocks), "pthread_atfork");
 }
 
 } // namespace talux

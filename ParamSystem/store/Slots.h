@@ -3,6 +3,7 @@
 #ifndef TALUX_STORE_SLOTS_H
 #define TALUX_STORE_SLOTS_H
 
+#include <atomic>
 #include <cstring>
 
 #include "ParamSystem/store/Kinds.h"
@@ -14,7 +15,9 @@ namespace talux {
 template <Kind kind, Space space>
 char* slotOf(int id) {
     constexpr const Block& block = blockOf(kind);
-    char* const base = reinterpret_cast<char*>(space == Space::global ? pVarGlobal : pVarTemp);
+    // VarInit may attach a segment anew meanwhile.
+    const std::atomic_ref pointer(space == Space::global ? pVarGlobal : pVarTemp);
+    char* const base = reinterpret_cast<char*>(pointer.load(std::memory_order_relaxed));
     return base + block.offset + static_cast<std::size_t>(id - block.first) * block.slot;
 }
 

@@ -1,7 +1,12 @@
 // Start-up and clean-up of the store: locks, shared memory, the directory of the parameter files.
+#include "ParamSystem/store/Spaces.h"
+
+#include <atomic>
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <string_view>
 #include <sys/ipc.h>
 #include <sys/shm.h>
 
@@ -25,17 +30,50 @@ static_assert(kSegmentFlags == 950);
 struct Segment {
     key_t key;
     std::size_t size;
+    const char* name;
     const char* sizeLabel; // what a failure calls the size; null: says nothing
     const char* getFailure;
     const char* attachFailure;
+    int attachedId; // -1 before the first attachment
 };
 
-constexpr Segment kStructSegment{kStructSpaceKey, kStructSpaceSize, "StructSpace", "shmget (structspace)",
-                                 "shmat (structspace)"};
-constexpr Segment kGlobalSegment{kGlobalSpaceKey, sizeof(stVarSpace), "GlobalSpace", "shmget (globalspace)",
-                                 "shmat (globalspace)"};
-constexpr Segment kTempSegment{kTempSpaceKey, sizeof(stVarSpace), nullptr, "shmget (tempspace)",
-                               "shmat (tempspace)"};
+constinit Segment structSegment{kStructSpaceKey,
+                                kStructSpaceSize,
+                                "record space",
+                                "StructSpace",
+                                "shmget (structspace)",
+                                "shmat (structspace)",
+                                -1};
+constinit Segment globalSegment{kGlobalSpaceKey,
+                                sizeof(stVarSpace),
+                                "global space",
+                                "GlobalSpace",
+                                "shmget (globalspace)",
+                                "shmat (globalspace)",
+                                -1};
+constinit Segment tempSegment{kTempSpaceKey,
+                              sizeof(stVarSpace),
+                              "temporary space",
+                              nullptr,
+                              "shmget (tempspace)",
+                              "shmat (tempspace)",
+                              -1};
+
+enum class Failed { nothing, get, attach }; // the reason is in errno
+
+// A segment that is attached already stays where it is, since other threads may be in it. One that was
+// removed and made anew is attached beside it, and the pointer goes from the one to the other.
+template <typename Memory>
+Failed attachOnce(Segment& segment, Memory*& pointer, int getFlags, int attachFlags) {
+    const int id = shmget(segment.key, segment.size, getFlags);
+    if (id == -1) return Failed::get;
+    if (pointer != nullptr && id == segment.attachedId) return Failed::nothing;
+    void* const memory = shmat(id, nullptr, attachFlags);
+    if (reinterpret_cast<std::intptr_t>(memory) == -1) return Failed::attach;
+    std::atomic_ref(pointer).store(static_cast<Memory*>(memory), std::memory_order_relaxed);
+    segment.attachedId = id;
+    return Failed::nothing;
+}
 
 [[noreturn]] void getFailed(const Segment& segment) {
     const int error = errno;
@@ -45,12 +83,16 @@ constexpr Segment kTempSegment{kTempSpaceKey, sizeof(stVarSpace), nullptr, "shmg
     talux::setUpFailed(segment.getFailure);
 }
 
-void* attach(const Segment& segment) {
-    const int id = shmget(segment.key, segment.size, kSegmentFlags);
-    if (id == -1) getFailed(segment);
-    void* const memory = shmat(id, nullptr, 0);
-    if (reinterpret_cast<std::intptr_t>(memory) == -1) talux::setUpFailed(segment.attachFailure);
-    return memory;
+template <typename Memory>
+void attachOrMake(Segment& segment, Memory*& pointer) {
+    const Failed failed = attachOnce(segment, pointer, kSegmentFlags, 0);
+    if (failed == Failed::get) getFailed(segment);
+    if (failed == Failed::attach) talux::setUpFailed(segment.attachFailure);
+}
+
+void createLocksOnce() {
+    if (mutex_init == 0) talux::createLocks();
+    mutex_init = 1;
 }
 
 void clear(stVarSpace* space) {
@@ -60,20 +102,26 @@ void clear(stVarSpace* space) {
 } // namespace
 
 void VarInit(char* inipath) {
-    talux::copyText(szParameterPath, inipath);
-    pVarGlobal = nullptr;
-    pVarTemp = nullptr;
+    if (szParameterPath != std::string_view(inipath)) talux::copyText(szParameterPath, inipath);
     fSave = 0;
     VarAlloc();
     fSave = 1;
 }
 
 void VarAlloc(void) {
-    if (mutex_init == 0) talux::createLocks();
-    mutex_init = 1;
-    pVarStruct = attach(kStructSegment);
-    pVarGlobal = static_cast<stVarSpace*>(attach(kGlobalSegment));
-    pVarTemp = static_cast<stVarSpace*>(attach(kTempSegment));
+    createLocksOnce();
+    attachOrMake(structSegment, pVarStruct);
+    attachOrMake(globalSegment, pVarGlobal);
+    attachOrMake(tempSegment, pVarTemp);
+}
+
+const char* talux::attachExisting(Attachment attachment) {
+    const int flags = attachment == Attachment::readOnly ? SHM_RDONLY : 0;
+    createLocksOnce();
+    if (attachOnce(structSegment, pVarStruct, 0, flags) != Failed::nothing) return structSegment.name;
+    if (attachOnce(globalSegment, pVarGlobal, 0, flags) != Failed::nothing) return globalSegment.name;
+    if (attachOnce(tempSegment, pVarTemp, 0, flags) != Failed::nothing) return tempSegment.name;
+    return nullptr;
 }
 
 void VarClean(void) {

@@ -1,0 +1,144 @@
+#include "ParamSystem/store/Values.h"
+
+#include <cstdint>
+#include <limits>
+
+#include "ParamSystem/store/Slots.h"
+#include "ParamSystem/support/Number.h"
+
+namespace talux {
+
+namespace {
+
+template <Kind kind>
+double toDouble(Number<kind> number) {
+    if constexpr (kind == Kind::Bool)
+        return static_cast<std::uint8_t>(number);
+    else if constexpr (kind == Kind::Float)
+        return widened(number);
+    else
+        return static_cast<double>(number);
+}
+
+// Integers pass through 32 bits, of which the narrow kinds keep the low ones. A number too large for a
+// float becomes infinite (IEEE 754).
+template <Kind kind>
+Number<kind> fromDouble(double value) {
+    if constexpr (kind == Kind::Float)
+        return narrowed(value);
+    else if constexpr (kind == Kind::Double)
+        return value;
+    else if constexpr (kind == Kind::Bool)
+        return static_cast<Number<kind>>(saturated<std::uint32_t>(value));
+    else
+        return static_cast<Number<kind>>(saturated32(value));
+}
+static_assert(std::numeric_limits<float>::is_iec559 && std::numeric_limits<double>::is_iec559);
+
+template <Kind kind, Space space>
+double read(int id) {
+    return toDouble<kind>(getNumber<kind, space>(id));
+}
+
+// The ids that are both int and long are written as both and read as long.
+template <Kind kind, Space space>
+void write(int id, double number) {
+    if (kind == Kind::Long && holds(Kind::Int, id)) write<Kind::Int, space>(id, number);
+    putNumber<kind, space>(id, fromDouble<kind>(number));
+}
+
+// As outside of the library: one pointer for numbers and texts.
+template <Space space>
+void readThrough(int id, double* value) {
+    withKind(kindOf(id), [=]<Kind kind>() {
+        if constexpr (isTextKind(kind))
+            getText<kind, space>(id, reinterpret_cast<char*>(value));
+        else
+            *value = read<kind, space>(id);
+    });
+}
+
+template <Space space>
+void writeThrough(int id, const double* value) {
+    withKind(kindOf(id), [=]<Kind kind>() {
+        if constexpr (isTextKind(kind))
+            putText<kind, space>(id, reinterpret_cast<const char*>(value));
+        else
+            write<kind, space>(id, *value);
+    });
+}
+
+template <Space space>
+std::optional<Value> readValueIn(int id) {
+    std::optional<Value> value;
+    withKind(kindOf(id), [&]<Kind kind>() {
+        if constexpr (isTextKind(kind)) {
+            char text[blockOf(kind).slot];
+            getText<kind, space>(id, text);
+            value.emplace(std::string_view(text));
+        } else {
+            value.emplace(read<kind, space>(id));
+        }
+    });
+    return value;
+}
+
+template <Space space>
+void writeValueIn(int id, const Value& value) {
+    withKind(kindOf(id), [&]<Kind kind>() {
+        if (value.isText() != isTextKind(kind)) return;
+        if constexpr (isTextKind(kind))
+            putText<kind, space>(id, value.text());
+        else
+            write<kind, space>(id, value.number());
+    });
+}
+
+} // namespace
+
+std::optional<Value> readValue(Space space, int id) {
+    return space == Space::global ? readValueIn<Space::global>(id) : readValueIn<Space::temp>(id);
+}
+
+void writeValue(Space space, int id, const Value& value) {
+    if (space == Space::global)
+        writeValueIn<Space::global>(id, value);
+    else
+        writeValueIn<Space::temp>(id, value);
+}
+
+std::optional<Value> storedAs(int id, const Value& value) {
+    std::optional<Value> stored;
+    withKind(kindOf(id), [&]<Kind kind>() {
+        if (value.isText() != isTextKind(kind)) return;
+        if constexpr (isTextKind(kind))
+            stored.emplace(std::string_view(value.text()).substr(0, blockOf(kind).slot - 1));
+        else
+            stored.emplace(toDouble<kind>(fromDouble<kind>(value.number())));
+    });
+    return stored;
+}
+
+std::optional<Value> defaultOf(const stParamProperties& row) {
+    return storedAs(row.id, isText(row) ? Value(std::string_view(row.val_def_text)) : Value(row.val_def));
+}
+
+} // namespace talux
+
+using talux::Space;
+
+void VarGetValue(int id, double* pVal) {
+    talux::readThrough<Space::temp>(id, pVal);
+}
+
+void VarGetGlobalValue(int id, double* pVal) {
+    talux::readThrough<Space::global>(id, pVal);
+}
+
+void VarSetValue(int id, double* pVal) {
+    talux::writeThrough<Space::temp>(id, pVal);
+}
+
+void VarSetGlobalValue(int id, double* pVal) {
+    talux::writeThrough<Space::global>(id, pVal);
+}
