@@ -96,7 +96,9 @@ std::string valueOf(const stParamProperties& row, int space) {
     for (const Block& block : kBlocks) {
         if (!block.holds(row.id)) continue;
         const char* const slot = raw(space) + block.slotOf(row.id);
-        const std::string text = block.textIn(slot);
+        std::string text = block.textIn(slot);
+        if (!isAddress(row))
+            text.resize(std::min(text.size(), text.find_first_of("\r\n"))); // never two lines
         if (row.type == 2015 || row.type == 2016)
             std::strftime(value, 400, row.type == 2015 ? "\"%Y-%m-%d\"" : "\"%H:%M:%S\"", &kMoment);
         else if (block.number != nullptr)

@@ -1,85 +1,77 @@
 #include "ParamSystem/files/Line.h"
 
-#include "ParamSystem/store/Kinds.h"
+#include <charconv>
+#include <cstring>
+
 #include "ParamSystem/support/Address.h"
-#include "ParamSystem/support/Text.h"
+#include "ParamSystem/support/FixedPoint.h"
+#include "ParamSystem/support/Number.h"
+
+namespace talux {
 
 namespace {
 
-using talux::Nature;
-
-using Value = char[400];
-
-struct Text {
-    alignas(double) char text[kTextSize];
-    explicit Text(int id) { VarGetGlobalValue(id, reinterpret_cast<double*>(text)); }
-};
-
-double numberOf(int id) {
-    double number = 0;
-    VarGetGlobalValue(id, &number);
-    return number;
+char* append(char* place, std::string_view text) {
+    std::memcpy(place, text.data(), text.size());
+    return place + text.size();
 }
 
-void quoted(Value& value, int id) {
-    talux::formatText(value, sizeof value, "\"%s\"", Text(id).text);
+// A text ends before its first line end, so that it never becomes lines of its own.
+char* appendText(char* place, std::string_view text) {
+    *place++ = '"';
+    place = append(place, text.substr(0, text.find_first_of("\r\n")));
+    *place++ = '"';
+    return place;
 }
 
-void address(Value& value, int id) {
-    char normalised[talux::kWholeAddressSize];
-    talux::normaliseAddress(normalised, Text(id).text);
-    talux::formatText(value, sizeof value, "\"%s\"", normalised);
-}
-
-void today(Value& value, const std::tm& now) {
-    talux::formatText(value, sizeof value, "\"%04d-%02d-%02d\"", now.tm_year + 1900, now.tm_mon + 1,
-                      now.tm_mday);
-}
-
-void timeOfDay(Value& value, const std::tm& now) {
-    talux::formatText(value, sizeof value, "\"%02d:%02d:%02d\"", now.tm_hour, now.tm_min, now.tm_sec);
+char* appendAddress(char* place, const char* address) {
+    char normalised[kWholeAddressSize];
+    normaliseAddress(normalised, address);
+    return appendText(place, normalised);
 }
 
 // Whole numbers as an integer of 32 bits.
-void number(Value& value, const stParamProperties& row) {
-    if (talux::typeOf(row).fileDecimals == 0)
-        talux::formatText(value, sizeof value, "%d", static_cast<int>(numberOf(row.id)));
-    else
-        talux::formatText(value, sizeof value, "%f", numberOf(row.id));
+char* appendNumber(char* place, const Type& type, double number) {
+    if (type.fileDecimals == 0) return std::to_chars(place, place + 16, saturated32(number)).ptr;
+    char text[kFixedPointSize];
+    return append(place, {text, formatFixedPoint(text, number, type.fileDecimals)});
 }
 
-// False for a value without a line.
-bool formatValue(Value& value, const stParamProperties& row, const std::tm& now) {
-    switch (talux::typeOf(row).nature) {
-    case Nature::number:
-        number(value, row);
-        return true;
-    case Nature::text:
-        quoted(value, row.id);
-        return true;
-    case Nature::address:
-        address(value, row.id);
-        return true;
-    case Nature::date:
-        today(value, now);
-        return true;
-    case Nature::time:
-        timeOfDay(value, now);
-        return true;
-    case Nature::none:
-    case Nature::record:
-        break;
-    }
-    return false;
+char* appendValue(char* place, const Type& type, const Value& value) {
+    if (!value.isText()) return appendNumber(place, type, value.number());
+    return type.nature == Nature::address ? appendAddress(place, value.text())
+                                          : appendText(place, value.text());
+}
+
+// Date or time of the system clock.
+Value clockValue(Nature nature, const std::tm& now) {
+    char text[48]; // a clock that was never set may show any number
+    if (nature == Nature::date)
+        formatText(text, sizeof text, "%04d-%02d-%02d", now.tm_year + 1900, now.tm_mon + 1, now.tm_mday);
+    else
+        formatText(text, sizeof text, "%02d:%02d:%02d", now.tm_hour, now.tm_min, now.tm_sec);
+    return Value(std::string_view(text));
 }
 
 } // namespace
 
-bool talux::formatLine(char (&line)[kLineSize], const stParamProperties& row, const std::tm& now) {
+std::size_t formatLine(char (&line)[kLineSize], const stParamProperties& row, const Value& value) {
+    const Type& type = typeOf(row);
     // Templates have the type of a value and no slot for one.
-    if (!holds(typeOf(row).kind, row.id)) return false;
-    Value value;
-    if (!formatValue(value, row, now)) return false;
-    formatText(line, sizeof line, "TLX_%s=%s\n", row.name, value);
-    return true;
+    if (!holds(type.kind, row.id) || value.isText() != isText(type.nature)) return 0;
+    char* end = append(line, kKeyPrefix);
+    end = append(end, row.name);
+    *end++ = '=';
+    end = appendValue(end, type, value);
+    *end++ = '\n';
+    *end = '\0';
+    return static_cast<std::size_t>(end - line);
 }
+
+std::optional<Value> savedValue(const stParamProperties& row, const std::tm& now) {
+    const Nature nature = typeOf(row).nature;
+    if (nature == Nature::date || nature == Nature::time) return clockValue(nature, now);
+    return readValue(Space::global, row.id);
+}
+
+} // namespace talux

@@ -1,19 +1,37 @@
-// One line of a parameter file: key, "=", value.
+// The lines of parameter files as they are written.
 #ifndef TALUX_FILES_LINE_H
 #define TALUX_FILES_LINE_H
 
+#include <cstddef>
 #include <ctime>
+#include <optional>
+#include <string_view>
 
-#include "ParamSystem/TALUX_Params.h"
+#include "ParamSystem/store/Values.h"
 
 namespace talux {
 
-// Room for the longest value, a double with its 309 digits, and a name.
-inline constexpr int kLineSize = 512;
+inline constexpr std::string_view kKeyPrefix = "TLX_";
 
-// Formats the line of a parameter as it stands in the global space, line feed included. `now` stands for
-// the system clock's date and time. False when the parameter has no line.
-bool formatLine(char (&line)[kLineSize], const stParamProperties& row, const std::tm& now);
+enum class ParameterFile { none, normal, security, address };
+
+// The file that keeps a parameter: none for run-time values and for what has no value.
+constexpr ParameterFile fileOf(const stParamProperties& row) {
+    if (row.is_volatile == 1 || kindOf(row.id) == Kind::None) return ParameterFile::none;
+    if (isAddress(row)) return ParameterFile::address;
+    return row.userlevel <= 2 ? ParameterFile::normal : ParameterFile::security;
+}
+
+// Room for the longest line: a name, and a double with its 309 digits.
+inline constexpr std::size_t kLineSize = 512;
+
+// Writes the line of a parameter with a value, line feed and NUL included, and returns its length. 0 when the
+// parameter has no line or the value is not of its nature.
+std::size_t formatLine(char (&line)[kLineSize], const stParamProperties& row, const Value& value);
+
+// What a save writes for a parameter: the value in the global space, and for the two that show the system
+// clock its date and time, which `now` is. Nothing for a parameter without a line.
+std::optional<Value> savedValue(const stParamProperties& row, const std::tm& now);
 
 } // namespace talux
 

@@ -2,92 +2,25 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 
-#include "ParamSystem/TALUX_Funcs.h"
+#include "ParamSystem/files/Effect.h"
 #include "ParamSystem/files/Path.h"
 #include "ParamSystem/os/Os.h"
 #include "ParamSystem/store/ChangeFlags.h"
-#include "ParamSystem/store/Kinds.h"
 
 namespace {
 
 using talux::ChangeFlag;
 using talux::Path;
 
-constexpr int kMaxRead = 254; // characters; a longer line counts as several
-constexpr char kKeyPrefix[] = "TLX_";
-constexpr std::size_t kKeyPrefixLength = sizeof kKeyPrefix - 1;
-
-// Cuts `key` off in place and returns the value behind it: the text up to the next "=" or line feed, empty
-// when there is none. The key ends at a blank, "=" or line feed; blanks may stand in front of the "=".
-char* splitValue(char* key) {
-    char* const end = key + std::strcspn(key, " =\n");
-    char* value = end + std::strspn(end, " ");
-    if (*value != '=' && *end != '\0') value = end + 1;
-    value += std::strspn(value, "=\n");
-    value[std::strcspn(value, "=\n")] = '\0';
-    *end = '\0';
-    return value;
+void load(const talux::Entry& entry, int type) {
+    if (entry.form != talux::LineForm::entry) return;
+    if (!entry.hasValue) std::printf("\nError (TALUX_Var): Error on line %d\n", entry.line);
+    const talux::Effect effect = talux::effectOf(entry, type);
+    if (effect.outcome == talux::Outcome::notANumber)
+        std::printf("\nError (TALUX_Var): Wrong parameter on line %d ID:%d\n", entry.line, effect.row->id);
+    talux::carryOut(effect);
 }
-
-// Takes the quotes from a quoted value, the comment from another one.
-char* bareValue(char* value) {
-    if (*value == '"') {
-        ++value;
-        value[std::strcspn(value, "\"")] = '\0';
-    } else {
-        value[std::strcspn(value, "#;\n\r")] = '\0';
-        if (char* comment = std::strstr(value, "//")) *comment = '\0';
-    }
-    return value;
-}
-
-// One run over a file.
-class Loader {
-public:
-    // `wantedType`: the only text-like type to load, or 0.
-    explicit Loader(int wantedType) : type(wantedType) {}
-
-    // False on a read error.
-    bool readAll(FILE* file) {
-        char line[kMaxRead + 1];
-        for (lineNumber = 1; std::fgets(line, sizeof line, file) != nullptr; ++lineNumber)
-            takeLine(line);
-        return std::ferror(file) == 0;
-    }
-
-private:
-    int type;
-    int lineNumber = 0; // counts reads
-
-    // Comments, section headings and empty lines do not begin with the prefix.
-    void takeLine(char* line) const {
-        char* const key = line + std::strspn(line, " \t");
-        if (!talux::startsIgnoringCase(key, kKeyPrefix)) return;
-        char* const value = splitValue(key);
-        if (*value == '\0') std::printf("\nError (TALUX_Var): Error on line %d\n", lineNumber);
-        store(key + kKeyPrefixLength, bareValue(value));
-    }
-
-    // Unknown names and run-time values are no error: files may come from another version.
-    void store(char* name, char* value) const {
-        const stParamProperties* const row = GetParamPropertiesByName(name);
-        if (row == nullptr || row->is_volatile == 1) return;
-        if (!talux::isText(*row))
-            storeNumber(row->id, value);
-        else if (type == 0 || type == row->type)
-            VarSetValue(row->id, reinterpret_cast<double*>(value));
-    }
-
-    void storeNumber(int id, const char* value) const {
-        double number = 0;
-        if (MakeDouble(value, &number) == 1)
-            VarSetValue(id, &number);
-        else
-            std::printf("\nError (TALUX_Var): Wrong parameter on line %d ID:%d\n", lineNumber, id);
-    }
-};
 
 void reportMissing(const char* filename) {
     const int error = errno;
@@ -96,9 +29,8 @@ void reportMissing(const char* filename) {
     std::perror("fopen");
 }
 
-[[noreturn]] void readFailed(const char* filename, FILE* file) {
+[[noreturn]] void readFailed(const char* filename) {
     std::printf("\nError (TALUX_Var): Can't read source file '%s'\n", filename);
-    std::fclose(file);
     std::exit(2); // NOLINT(concurrency-mt-unsafe): a broken file ends the program
 }
 
@@ -114,13 +46,12 @@ void applyAddresses() {
 } // namespace
 
 int VarLoadFile(char* filename, int type) {
-    FILE* const file = std::fopen(filename, "rt");
-    if (file == nullptr) {
+    const auto result = talux::readLines(filename, [type](const talux::Entry& entry) { load(entry, type); });
+    if (result == talux::ReadResult::broken) readFailed(filename);
+    if (result == talux::ReadResult::notOpened) {
         reportMissing(filename);
         return 0;
     }
-    if (!Loader(type).readAll(file)) readFailed(filename, file);
-    std::fclose(file);
     VarUpdateGlobalSpace();
     return 1;
 }

@@ -12,34 +12,21 @@
 namespace {
 
 using talux::ChangeFlag;
+using talux::ParameterFile;
 using talux::Path;
 
-using Selection = bool(const stParamProperties& row);
-
-bool isNormal(const stParamProperties& row) {
-    return row.userlevel <= 2 && !talux::isAddress(row);
-}
-
-bool isSecurity(const stParamProperties& row) {
-    return row.userlevel >= 3 && !talux::isAddress(row);
-}
-
-bool isAddressLine(const stParamProperties& row) {
-    return talux::isAddress(row);
-}
-
 // The two parameter files; the address file is neither dated nor given away.
-struct ParameterFile {
+struct GivenFile {
     const char* name;
     const char* stem; // of the dated copies
     gid_t group;
     ChangeFlag flag;
-    Selection* selection;
+    ParameterFile file;
 };
 
-constexpr ParameterFile kNormalFile{"/parameter.ini", "param", 100, ChangeFlag::param, isNormal};
-constexpr ParameterFile kSecurityFile{"/sec_parameter.ini", "sec_param", 101, ChangeFlag::secParam,
-                                      isSecurity};
+constexpr GivenFile kNormalFile{"/parameter.ini", "param", 100, ChangeFlag::param, ParameterFile::normal};
+constexpr GivenFile kSecurityFile{"/sec_parameter.ini", "sec_param", 101, ChangeFlag::secParam,
+                                  ParameterFile::security};
 
 void reportOpenFailure(const char* filename) {
     const int error = errno;
@@ -49,27 +36,29 @@ void reportOpenFailure(const char* filename) {
 }
 
 // Stops at the first line that cannot be written and returns false.
-bool writeLines(FILE* file, Selection* selection) {
+bool writeLines(FILE* file, ParameterFile which) {
     std::tm now;
     talux::os::localTime(now);
     char line[talux::kLineSize];
     for (int position = 1; position <= kParamCount; ++position) {
         const stParamProperties* const row = GetParamPropertiesByOrder(position);
-        if (row == nullptr || row->is_volatile == 1 || !selection(*row)) continue;
-        if (talux::formatLine(line, *row, now) && std::fputs(line, file) == EOF) return false;
+        if (row == nullptr || talux::fileOf(*row) != which) continue;
+        const auto value = talux::savedValue(*row, now);
+        if (value && talux::formatLine(line, *row, *value) != 0 && std::fputs(line, file) == EOF)
+            return false;
     }
     return true;
 }
 
 // False when the file cannot be created. A failed write, which may show only when the buffer is emptied at
 // the close, is reported; the file then holds what went in before.
-bool writeFile(const char* filename, Selection* selection) {
+bool writeFile(const char* filename, ParameterFile which) {
     FILE* const file = std::fopen(filename, "wt+");
     if (file == nullptr) {
         reportOpenFailure(filename);
         return false;
     }
-    bool complete = writeLines(file, selection);
+    bool complete = writeLines(file, which);
     if (std::fclose(file) != 0) complete = false;
     if (!complete) std::printf("Error (TALUX_Var): Can't write to file '%s' \n", filename);
     return true;
@@ -85,22 +74,22 @@ void giveToGroup(const char* filename, gid_t group) {
     chmod(filename, 0775);
 }
 
-int saveFile(const char* filename, const ParameterFile& file) {
-    if (!writeFile(filename, file.selection)) return 0;
+int saveFile(const char* filename, const GivenFile& file) {
+    if (!writeFile(filename, file.file)) return 0;
     giveToGroup(filename, file.group);
     return 1;
 }
 
-int saveMain(const ParameterFile& file) {
+int saveMain(const GivenFile& file) {
     return saveFile(Path(file.name).get(), file);
 }
 
-int saveDated(const ParameterFile& file) {
+int saveDated(const GivenFile& file) {
     return saveFile(Path::dated(file.stem).get(), file);
 }
 
 // A copy that fails still raises the flag: the file itself has been written.
-int commitAndSave(const ParameterFile& file) {
+int commitAndSave(const GivenFile& file) {
     VarUpdateGlobalSpace();
     if (saveMain(file) != 1) return 0;
     const int result = saveDated(file);
@@ -120,7 +109,7 @@ int VarSaveSecParamFile(char* filename) {
 
 int VarSaveIPConfigFile(char* filename) {
     VarUpdateGlobalSpace();
-    if (*filename == '\0' || !writeFile(filename, isAddressLine)) return 0;
+    if (*filename == '\0' || !writeFile(filename, ParameterFile::address)) return 0;
     talux::raise(ChangeFlag::ip);
     return 1;
 }
@@ -138,7 +127,7 @@ int VarSaveIPConfig(void) {
 }
 
 int VarSaveAll(void) {
-    for (const ParameterFile* file : {&kNormalFile, &kSecurityFile})
+    for (const GivenFile* file : {&kNormalFile, &kSecurityFile})
         if (saveMain(*file) != 1 || saveDated(*file) != 1) return 0;
     return VarSaveIPConfig();
 }
