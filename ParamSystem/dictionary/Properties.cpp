@@ -5,6 +5,8 @@
 #include "ParamSystem/dictionary/Ids.h"
 #include "ParamSystem/dictionary/NameIndex.h"
 #include "ParamSystem/dictionary/Rows.h"
+#include "ParamSystem/dictionary/Settings.h"
+#include "ParamSystem/dictionary/Types.h"
 #include "ParamSystem/support/Assertion.h"
 
 // The rows are computed as one value; DefParamProperties is their name as an array.
@@ -69,6 +71,29 @@ consteval auto idIndex() {
 
 constexpr auto kIdIndex = idIndex();
 
+// Templates have the type of a value and keep none.
+constexpr bool isSetting(const stParamProperties& row) {
+    return row.is_volatile != 1 && typeOf(row).kind != Kind::None && !kValueTemplateIds.holds(row.id);
+}
+
+consteval std::size_t settingCount() {
+    return static_cast<std::size_t>(
+        std::count_if(kProperties.rows + 1, kProperties.rows + 1 + kParamCount, isSetting));
+}
+
+constexpr auto kSettings = [] {
+    std::array<Setting, settingCount()> list{};
+    std::size_t count = 0;
+    for (std::uint16_t position = 1; position <= kParamCount; ++position)
+        if (const stParamProperties& row = kProperties.rows[position]; isSetting(row))
+            list[count++] = {position, static_cast<std::uint16_t>(row.id)};
+    return list;
+}();
+
+static_assert(std::none_of(kSettings.begin(), kSettings.end(),
+                           [](const Setting& s) { return kIntIds.holds(s.id); }),
+              "a commit copies one slot, and the ids of ints have two");
+
 bool checkedId(int id, const char* function) {
     return asserted(id >= 0, "id>=0", "ParamSystem/TALUX_Params", function);
 }
@@ -86,6 +111,11 @@ std::string_view nameAt(std::size_t position) {
 }
 
 } // namespace
+
+std::span<const Setting> settings() {
+    if (!isLoaded()) return {};
+    return kSettings;
+}
 
 } // namespace talux
 

@@ -55,7 +55,7 @@ Value clockValue(Nature nature, const std::tm& now) {
 
 } // namespace
 
-std::size_t formatLine(char (&line)[kLineSize], const stParamProperties& row, const Value& value) {
+std::size_t formatLine(char* line, const stParamProperties& row, const Value& value) {
     const Type& type = typeOf(row);
     // Templates have the type of a value and no slot for one.
     if (!holds(type.kind, row.id) || value.isText() != isText(type.nature)) return 0;

@@ -25,9 +25,10 @@ constexpr ParameterFile fileOf(const stParamProperties& row) {
 // Room for the longest line: a name, and a double with its 309 digits.
 inline constexpr std::size_t kLineSize = 512;
 
-// Writes the line of a parameter with a value, line feed and NUL included, and returns its length. 0 when the
-// parameter has no line or the value is not of its nature.
-std::size_t formatLine(char (&line)[kLineSize], const stParamProperties& row, const Value& value);
+// Writes the line of a parameter with a value, line feed and NUL included, into `line`, which has room for
+// kLineSize characters, and returns its length. 0 when the parameter has no line or the value is not of its
+// nature.
+std::size_t formatLine(char* line, const stParamProperties& row, const Value& value);
 
 // What a save writes for a parameter: the value in the global space, and for the two that show the system
 // clock its date and time, which `now` is. Nothing for a parameter without a line.

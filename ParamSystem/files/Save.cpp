@@ -1,83 +1,91 @@
 // Writes the parameter files from the global space.
 #include <cerrno>
 #include <cstdio>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <optional>
 
+#include "ParamSystem/dictionary/Settings.h"
 #include "ParamSystem/files/Line.h"
 #include "ParamSystem/files/Path.h"
+#include "ParamSystem/files/Replace.h"
 #include "ParamSystem/store/ChangeFlags.h"
-#include "ParamSystem/store/Kinds.h"
 
 namespace {
 
 using talux::ChangeFlag;
 using talux::ParameterFile;
 using talux::Path;
+using talux::Replacement;
+using talux::Rights;
+using talux::Written;
 
-// The two parameter files; the address file is neither dated nor given away.
+// The two that are given to a group and kept in dated copies; the address file keeps the owner that it has.
 struct GivenFile {
     const char* name;
     const char* stem; // of the dated copies
-    gid_t group;
+    ParameterFile contents;
+    Rights rights;
     ChangeFlag flag;
-    ParameterFile file;
 };
 
-constexpr GivenFile kNormalFile{"/parameter.ini", "param", 100, ChangeFlag::param, ParameterFile::normal};
-constexpr GivenFile kSecurityFile{"/sec_parameter.ini", "sec_param", 101, ChangeFlag::secParam,
-                                  ParameterFile::security};
+constexpr GivenFile kNormalFile{
+    "/parameter.ini", "param", ParameterFile::normal, {0, 100, 0775}, ChangeFlag::param};
+constexpr GivenFile kSecurityFile{
+    "/sec_parameter.ini", "sec_param", ParameterFile::security, {0, 101, 0775}, ChangeFlag::secParam};
 
-void reportOpenFailure(const char* filename) {
-    const int error = errno;
-    std::fprintf(stderr, "Error (TALUX_Var): Can't open file '%s' \n", filename);
-    errno = error;
-    std::perror("fopen");
+void printSystemError(const Replacement& replacement) {
+    errno = replacement.error;
+    std::perror(replacement.call);
 }
 
-// Stops at the first line that cannot be written and returns false.
-bool writeLines(FILE* file, ParameterFile which) {
+void report(const char* filename, const Replacement& replacement) {
+    if (replacement.written == Written::notOpened) {
+        std::fprintf(stderr, "Error (TALUX_Var): Can't open file '%s' \n", filename);
+        return printSystemError(replacement);
+    }
+    std::printf("Error (TALUX_Var): Can't write to file '%s' \n", filename);
+    if (replacement.isAsBefore) std::fprintf(stderr, "Error (TALUX_Var): '%s' stays as it is \n", filename);
+    printSystemError(replacement);
+}
+
+// Room for the longest file, whatever its values are, and one line more.
+using Contents = char[32768];
+
+// The length, or nothing when the room is too small.
+std::optional<std::size_t> compose(Contents& contents, ParameterFile which) {
     std::tm now;
     talux::os::localTime(now);
-    char line[talux::kLineSize];
-    for (int position = 1; position <= kParamCount; ++position) {
-        const stParamProperties* const row = GetParamPropertiesByOrder(position);
-        if (row == nullptr || talux::fileOf(*row) != which) continue;
-        const auto value = talux::savedValue(*row, now);
-        if (value && talux::formatLine(line, *row, *value) != 0 && std::fputs(line, file) == EOF)
-            return false;
+    std::size_t length = 0;
+    for (const talux::Setting& setting : talux::settings()) {
+        const stParamProperties& row = *GetParamPropertiesByOrder(setting.position);
+        if (talux::fileOf(row) != which) continue;
+        if (sizeof contents - length < talux::kLineSize) return {};
+        if (const auto value = talux::savedValue(row, now))
+            length += talux::formatLine(contents + length, row, *value);
     }
-    return true;
+    return length;
 }
 
-// False when the file cannot be created. A failed write, which may show only when the buffer is emptied at
-// the close, is reported; the file then holds what went in before.
-bool writeFile(const char* filename, ParameterFile which) {
-    FILE* const file = std::fopen(filename, "wt+");
-    if (file == nullptr) {
-        reportOpenFailure(filename);
-        return false;
-    }
-    bool complete = writeLines(file, which);
-    if (std::fclose(file) != 0) complete = false;
-    if (!complete) std::printf("Error (TALUX_Var): Can't write to file '%s' \n", filename);
-    return true;
+Replacement writeContents(const char* filename, ParameterFile which, const Rights* rights) {
+    Contents contents;
+    const auto length = compose(contents, which);
+    if (!length) return {Written::notWritten, true, "write", EFBIG};
+    return talux::replaceFile(filename, {contents, *length}, rights);
 }
 
-// A file that can be read goes to root and the group, everything allowed for both.
-void giveToGroup(const char* filename, gid_t group) {
-    FILE* const file = std::fopen(filename, "rt");
-    if (file == nullptr) return;
-    std::fclose(file);
-    // Without the right to give files away the file stays with its writer.
-    [[maybe_unused]] const int given = chown(filename, 0, group);
-    chmod(filename, 0775);
+// 0 when the file cannot be created or is not surely kept. A failed write counts as done, with a message; the
+// old file stays.
+int writeFile(const char* filename, ParameterFile which, const Rights* rights) {
+    if (talux::settings().empty()) {
+        std::fprintf(stderr, "Error (TALUX_Var): no parameters loaded, '%s' stays as it is \n", filename);
+        return 0;
+    }
+    const Replacement replacement = writeContents(filename, which, rights);
+    if (replacement.written != Written::done) report(filename, replacement);
+    return replacement.written == Written::done || replacement.written == Written::notWritten ? 1 : 0;
 }
 
 int saveFile(const char* filename, const GivenFile& file) {
-    if (!writeFile(filename, file.file)) return 0;
-    giveToGroup(filename, file.group);
-    return 1;
+    return writeFile(filename, file.contents, &file.rights);
 }
 
 int saveMain(const GivenFile& file) {
@@ -109,7 +117,7 @@ int VarSaveSecParamFile(char* filename) {
 
 int VarSaveIPConfigFile(char* filename) {
     VarUpdateGlobalSpace();
-    if (*filename == '\0' || !writeFile(filename, ParameterFile::address)) return 0;
+    if (*filename == '\0' || writeFile(filename, ParameterFile::address, nullptr) != 1) return 0;
     talux::raise(ChangeFlag::ip);
     return 1;
 }

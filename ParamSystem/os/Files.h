@@ -1,20 +1,48 @@
-// The files of the door to the operating system: calls that go on after a signal. Failures leave their reason
-// in errno.
+// The files of the one door to the operating system. Calls that a signal interrupts are made again; no
+// descriptor is inherited by programs that are started later. A failure, negative or false, has its reason in
+// errno.
 #ifndef TALUX_OS_FILES_H
 #define TALUX_OS_FILES_H
 
 #include <cstddef>
+#include <string_view>
+#include <sys/stat.h>
 #include <sys/types.h>
 
 namespace talux::os {
 
-// A descriptor that programs started later do not inherit; negative on failure.
 int openToRead(const char* path);
+int openToWrite(const char* path); // for reading as well; the file must be there
+int openEmptied(
+    const char* path); // the same, made when it is not there, with the rights that the mask leaves
+int openDirectory(const char* path);
+bool closeFile(int descriptor);
 
-void closeFile(int descriptor);
+// Files of a directory that is open. Links are not followed.
+int openIn(int directory, const char* name); // to read
+int makeIn(int directory, const char* name); // to write; fails when it is there
+bool statusIn(int directory, const char* name, struct stat& status);
+bool renameIn(int directory, const char* from, const char* to);
+void removeIn(int directory, const char* name);
 
-// The number of bytes read, 0 at the end, negative on failure.
-ssize_t readFile(int descriptor, char* block, std::size_t size);
+bool statusOf(int descriptor, struct stat& status);
+ssize_t readFile(int descriptor, char* block, std::size_t size); // the bytes read, 0 at the end
+bool writeFile(int descriptor, std::string_view contents);       // all of it
+bool emptyFile(int descriptor);
+bool syncFile(int descriptor); // also of a directory; what cannot be synced counts as synced
+bool giveFile(int descriptor, uid_t owner, gid_t group);
+bool allowFile(int descriptor, mode_t mode);
+
+// A lock between processes that goes with the descriptor. Where there are no locks all succeed.
+bool tryLockFile(int descriptor);
+
+// The target of a link, with a NUL; false when it is none or does not fit.
+bool readLink(const char* path, char* target, std::size_t size);
+
+bool exists(const char* path);
+
+// The user whose rights count for files is root.
+bool isRoot();
 
 } // namespace talux::os
 

@@ -1,12 +1,15 @@
 // The two operations over all parameters: factory defaults and the commit.
 #include <cstdio>
 
+#include "ParamSystem/dictionary/Settings.h"
 #include "ParamSystem/store/ChangeFlags.h"
-#include "ParamSystem/store/Kinds.h"
+#include "ParamSystem/store/Slots.h"
 
 namespace {
 
 using talux::ChangeFlag;
+using talux::Kind;
+using talux::Space;
 
 void setDefault(const stParamProperties& row) {
     if (talux::isText(row)) {
@@ -18,22 +21,22 @@ void setDefault(const stParamProperties& row) {
     }
 }
 
-// Run-time values live in the global space alone; templates and commands have no value.
-bool isCommitted(const stParamProperties& row) {
-    constexpr int kFirstTemplate = 18000, kLastTemplate = 18033;
-    constexpr int kFirstCommand = 19000, kLastCommand = 19020;
-    if (row.is_volatile == 1) return false;
-    if (row.id >= kFirstTemplate && row.id <= kLastTemplate) return false;
-    return row.id < kFirstCommand || row.id > kLastCommand;
+void commit(int id) {
+    withKind(talux::kindOf(id), [id]<Kind kind>() {
+        if constexpr (talux::isTextKind(kind)) {
+            char text[talux::blockOf(kind).slot];
+            talux::getText<kind, Space::temp>(id, text);
+            talux::putText<kind, Space::global>(id, text);
+        } else {
+            talux::putNumber<kind, Space::global>(id, talux::getNumber<kind, Space::temp>(id));
+        }
+    });
 }
 
-void commit(const stParamProperties& row) {
-    union {
-        double number;
-        char text[kTextSize];
-    } value{};
-    VarGetValue(row.id, &value.number);
-    VarSetGlobalValue(row.id, &value.number);
+// Nobody has loaded the properties: no position has a row.
+void reportMissingRows() {
+    for (int position = 1; position <= kParamCount; ++position)
+        std::fputs("Error (TALUX_Var): Error during copy temp->global\n", stderr);
 }
 
 // Keeps the change flags for the life of the object and puts them back at its end.
@@ -67,12 +70,9 @@ void VarSetDefault(void) {
 
 int VarUpdateGlobalSpace(void) {
     const KeptFlags flags;
-    for (int position = 1; position <= kParamCount; ++position) {
-        const stParamProperties* const row = GetParamPropertiesByOrder(position);
-        if (row == nullptr)
-            std::fputs("Error (TALUX_Var): Error during copy temp->global\n", stderr);
-        else if (isCommitted(*row))
-            commit(*row);
-    }
+    const auto settings = talux::settings();
+    if (settings.empty()) reportMissingRows();
+    for (const talux::Setting& setting : settings)
+        commit(setting.id);
     return 1;
 }

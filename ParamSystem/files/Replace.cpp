@@ -1,0 +1,243 @@
+#include "ParamSystem/files/Replace.h"
+
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cstring>
+#include <optional>
+
+#include "ParamSystem/os/Files.h"
+#include "ParamSystem/support/Text.h"
+
+namespace talux {
+
+namespace {
+
+Replacement failure(Written written, const char* call, bool isAsBefore = true) {
+    return {written, isAsBefore, call, errno};
+}
+
+// Nothing can be made or exchanged there.
+bool isRefused(int error) {
+    return error == EACCES || error == EPERM || error == EROFS || error == EBUSY;
+}
+
+class Descriptor {
+public:
+    explicit Descriptor(int opened) : number(opened) {}
+    ~Descriptor() { close(); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    explicit operator bool() const { return number >= 0; }
+    int get() const { return number; }
+    bool close() {
+        const bool closed = number < 0 || os::closeFile(number);
+        number = -1;
+        return closed;
+    }
+
+private:
+    int number;
+};
+
+// ---- Where a path leads ----
+
+class Place {
+public:
+    // Follows links, to a file that may be missing. False when the path names none or is too long.
+    bool find(const char* path) {
+        if (std::strlen(path) >= sizeof text) return false;
+        copyText(text, path);
+        char link[PATH_MAX];
+        for (int links = 0; os::readLink(text, link, sizeof link); ++links)
+            if (links == kMostLinks || !follow(link)) return false;
+        split();
+        return *file != '\0';
+    }
+
+    const char* directory() const { return folder; }
+    const char* name() const { return file; }
+
+private:
+    static constexpr int kMostLinks = 40; // as the kernel
+
+    char text[PATH_MAX];
+    const char* folder = ".";
+    const char* file = text;
+
+    bool follow(const char* link) {
+        char* const slash = std::strrchr(text, '/');
+        char* const start = *link == '/' || slash == nullptr ? text : slash + 1;
+        const auto room = static_cast<std::size_t>(text + sizeof text - start);
+        copyText(start, room, link);
+        return std::strlen(link) < room;
+    }
+
+    void split() {
+        char* const slash = std::strrchr(text, '/');
+        if (slash == nullptr) return;
+        *slash = '\0';
+        folder = slash == text ? "/" : text;
+        file = slash + 1;
+    }
+};
+
+// ---- The new file while it is being made ----
+
+// It lies beside the old one under one of a few names. Its maker holds the lock on it: a file of such a name
+// that nobody has locked was left behind when a program or the power failed.
+class Draft {
+public:
+    explicit Draft(int in) : directory(in) {}
+    ~Draft() {
+        if (descriptor < 0) return;
+        if (!isPlaced) os::removeIn(directory, name);
+        os::closeFile(descriptor); // gives the lock back
+    }
+    Draft(const Draft&) = delete;
+    Draft& operator=(const Draft&) = delete;
+
+    int get() const { return descriptor; }
+
+    // Clears away what was left behind and takes a name that no other save has at the moment.
+    bool make() {
+        for (int number = 0; number < kNames; ++number)
+            clear(number);
+        for (int number = 0; number < kNames; ++number) {
+            if (claim(number)) return true;
+            if (errno != EEXIST) return false;
+        }
+        errno = EAGAIN;
+        return false;
+    }
+
+    bool placeAs(const char* file) {
+        isPlaced = os::renameIn(directory, name, file);
+        return isPlaced;
+    }
+
+private:
+    static constexpr int kNames = 4; // as many saves of one directory at once
+    static constexpr int kNumber = 12;
+
+    int directory;
+    int descriptor = -1;
+    bool isPlaced = false;
+    char name[20] = ".talux-save-0.tmp";
+
+    void clear(int number) {
+        name[kNumber] = static_cast<char>('0' + number);
+        const Descriptor left(os::openIn(directory, name));
+        if (left && os::tryLockFile(left.get()) && isNamed(left.get())) os::removeIn(directory, name);
+    }
+
+    // Whether the name still stands for the file: its maker may have put it in place before it was locked
+    // here.
+    bool isNamed(int opened) const {
+        struct stat own {};
+        struct stat named {};
+        return os::statusOf(opened, own) && S_ISREG(own.st_mode) && os::statusIn(directory, name, named) &&
+               own.st_dev == named.st_dev && own.st_ino == named.st_ino;
+    }
+
+    bool claim(int number) {
+        name[kNumber] = static_cast<char>('0' + number);
+        descriptor = os::makeIn(directory, name);
+        if (descriptor < 0) return false;
+        if (os::tryLockFile(descriptor) && isNamed(descriptor)) return true;
+        // Another save has taken it for a leftover in between.
+        os::closeFile(descriptor);
+        descriptor = -1;
+        errno = EEXIST;
+        return false;
+    }
+};
+
+// ---- Owner and rights ----
+
+void reportRights(const char* path, const char* call) {
+    const int error = errno;
+    if (error == EPERM || error == EINVAL) return; // no right to, or no such owner in a container
+    std::fprintf(stderr, "Error (TALUX_Var): Can't set owner and rights of file '%s' \n", path);
+    errno = error;
+    std::perror(call);
+}
+
+void setRights(int descriptor, const Rights& rights, const char* path) {
+    if (!os::giveFile(descriptor, rights.owner, rights.group)) reportRights(path, "chown");
+    if (!os::allowFile(descriptor, rights.mode)) reportRights(path, "chmod");
+}
+
+// ---- Both ways ----
+
+// The old file, null when there is none.
+using Old = const struct stat*;
+
+bool isReplaceable(const struct stat& old) {
+    return S_ISREG(old.st_mode) && old.st_nlink == 1;
+}
+
+// Only root can give a file to another owner.
+bool keepsOwner(int draft, Old old) {
+    struct stat own {};
+    if (old == nullptr || os::isRoot()) return true;
+    return os::statusOf(draft, own) && own.st_uid == old->st_uid && own.st_gid == old->st_gid;
+}
+
+// Nothing when the file cannot be replaced; all is as before then.
+std::optional<Replacement> replaceWhole(const char* path, std::string_view contents, const Rights* rights,
+                                        Old old) {
+    constexpr auto refusedOr = [](Written written, const char* call) {
+        return isRefused(errno) ? std::optional<Replacement>() : failure(written, call);
+    };
+    Place place;
+    if (!place.find(path)) return {};
+    const Descriptor directory(os::openDirectory(place.directory()));
+    if (!directory) return refusedOr(Written::notOpened, "fopen");
+    Draft draft(directory.get());
+    if (!draft.make()) return refusedOr(Written::notOpened, "fopen");
+    if (!keepsOwner(draft.get(), old)) return {};
+
+    if (!os::writeFile(draft.get(), contents)) return failure(Written::notWritten, "write");
+    if (rights != nullptr)
+        setRights(draft.get(), *rights, path);
+    else if (old != nullptr)
+        setRights(draft.get(), {old->st_uid, old->st_gid, old->st_mode & 07777U}, path);
+    if (!os::syncFile(draft.get())) return failure(Written::notKept, "fsync");
+    if (!draft.placeAs(place.name())) return refusedOr(Written::notKept, "rename");
+    if (!os::syncFile(directory.get())) return failure(Written::notKept, "fsync", false);
+    return Replacement{};
+}
+
+Replacement writeInPlace(const char* path, std::string_view contents, const Rights* rights, Descriptor& file,
+                         bool isRegular) {
+    if (isRegular && !os::emptyFile(file.get())) return failure(Written::notOpened, "fopen");
+    if (!os::writeFile(file.get(), contents)) return failure(Written::notWritten, "write", false);
+    if (rights != nullptr) setRights(file.get(), *rights, path);
+    if (isRegular && !os::syncFile(file.get())) return failure(Written::notKept, "fsync", false);
+    if (!file.close()) return failure(Written::notWritten, "write", false);
+    return {};
+}
+
+Replacement makeInPlace(const char* path, std::string_view contents, const Rights* rights) {
+    Descriptor file(os::openEmptied(path));
+    if (!file) return failure(Written::notOpened, "fopen");
+    return writeInPlace(path, contents, rights, file, true);
+}
+
+} // namespace
+
+Replacement replaceFile(const char* path, std::string_view contents, const Rights* rights) {
+    Descriptor existing(os::openToWrite(path));
+    if (!existing && errno != ENOENT) return failure(Written::notOpened, "fopen");
+    struct stat old {};
+    if (existing && !os::statusOf(existing.get(), old)) return failure(Written::notOpened, "fopen");
+    if (!existing || isReplaceable(old))
+        if (const auto replaced = replaceWhole(path, contents, rights, existing ? &old : nullptr))
+            return *replaced;
+    if (!existing) return makeInPlace(path, contents, rights);
+    return writeInPlace(path, contents, rights, existing, S_ISREG(old.st_mode));
+}
+
+} // namespace talux

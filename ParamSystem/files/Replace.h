@@ -1,0 +1,43 @@
+// A parameter file is replaced as a whole. Whoever reads it at any moment, and whoever looks after the power
+// failed, finds the old file or the new one, never a part.
+#ifndef TALUX_FILES_REPLACE_H
+#define TALUX_FILES_REPLACE_H
+
+#include <string_view>
+#include <sys/types.h>
+
+namespace talux {
+
+struct Rights {
+    uid_t owner;
+    gid_t group;
+    mode_t mode;
+};
+
+enum class Written {
+    done,
+    notOpened,  // the file cannot be created or written at all
+    notWritten, // a write failed, for instance on a full disk
+    notKept,    // written, but not surely on the disk or not put in place
+};
+
+struct Replacement {
+    Written written = Written::done;
+    bool isAsBefore = false; // what stands there has not changed
+    const char* call = "";   // that failed
+    int error = 0;           // its reason
+};
+
+// Makes the new file beside the old one, syncs it, renames it over the old one and syncs the directory. Links
+// are followed, the last one may dangle. `rights` null: owner and rights of the old file, those that the mask
+// leaves for a new one. Where the process has no right to give files away they stay with their writer; any
+// other failure of that is told on the error stream.
+//
+// Written in place, and then not as a whole, is what cannot be replaced: a device, a FIFO, a file with
+// several names, one in a directory in which nothing can be made or exchanged, one of another owner whom only
+// root could restore.
+Replacement replaceFile(const char* path, std::string_view contents, const Rights* rights);
+
+} // namespace talux
+
+#endif
