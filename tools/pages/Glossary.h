@@ -1,0 +1,264 @@
+// The words of the trade and of the device that titles, names and choices use.
+#ifndef TALUX_PAGES_GLOSSARY_H
+#define TALUX_PAGES_GLOSSARY_H
+
+#include <string_view>
+
+namespace talux::pages {
+
+// `de` and `en` are what the word is called in each language, the same text for an abbreviation or a name.
+struct Word {
+    std::string_view de, en;
+    std::string_view deMeaning, enMeaning;
+};
+
+// The trade's words.
+inline constexpr Word kTradeWords[] = {
+    {"Erdschluss (ES)", "earth fault (EF)",
+     "Leitende Verbindung eines Leiters mit Erde in einem Netz, dessen Sternpunkt nicht starr geerdet ist. Der "
+     "Strom ist klein, das Netz kann weiterbetrieben werden; der fehlerhafte Abgang ist zu finden.",
+     "Conducting path from one phase to earth in a network whose neutral is not solidly earthed. The current is "
+     "small and operation can go on; the faulty feeder has to be found."},
+    {"isoliertes Netz", "isolated neutral",
+     "Netz, dessen Sternpunkt nicht geerdet ist. Im Erdschluss fließt der kapazitive Erdschlussstrom des Netzes; "
+     "seine Richtung zeigt das Verfahren Sin(phi).",
+     "Network whose neutral is not earthed. In an earth fault the capacitive earth-fault current of the network "
+     "flows; the method Sin(phi) tells its direction."},
+    {"gelöschtes Netz", "resonant-earthed system",
+     "Netz, dessen Sternpunkt über eine Erdschlusslöschspule geerdet ist, die den kapazitiven Erdschlussstrom "
+     "ausgleicht. An der Fehlerstelle bleibt der Reststrom, dessen Wirkanteil das Verfahren Cos(phi) auswertet.",
+     "Network whose neutral is earthed through an arc-suppression coil that compensates the capacitive earth-fault "
+     "current. The residual current of the fault remains; its active part is what the method Cos(phi) evaluates."},
+    {"Erdschlusslöschspule, Petersenspule", "arc-suppression coil, Petersen coil",
+     "Einstellbare Drossel zwischen Sternpunkt und Erde, auf die Leiter-Erde-Kapazität des Netzes abgestimmt.",
+     "Adjustable reactor between neutral and earth, tuned to the phase-to-earth capacitance of the network."},
+    {"Verlagerungsspannung U0", "residual voltage U0",
+     "Spannung des Sternpunkts gegen Erde, ein Drittel der Summe der drei Leiter-Erde-Spannungen. Ihr Anstieg zeigt "
+     "einen Erdschluss an, aber nicht, wo er liegt.",
+     "Voltage of the neutral to earth, a third of the sum of the three phase-to-earth voltages. Its rise shows "
+     "that there is an earth fault, not where."},
+    {"Summenstrom 3I0", "residual current 3I0",
+     "Summe der drei Leiterströme eines Abgangs, gemessen mit einem Kabelumbauwandler oder in Summenschaltung.",
+     "Sum of the three phase currents of a feeder, measured with a core-balance CT or in residual connection."},
+    {"Kabelumbauwandler", "core-balance CT",
+     "Stromwandler, der alle drei Leiter eines Kabels umfasst und so den Summenstrom unmittelbar misst.",
+     "Current transformer around all three phases of a cable, which so measures the residual current directly."},
+    {"offene Dreieckswicklung (e-n)", "open-delta winding",
+     "In Reihe geschaltete Hilfswicklungen der drei Spannungswandler; zwischen e und n liegt ein Abbild der "
+     "Verlagerungsspannung an.",
+     "The auxiliary windings of the three voltage transformers in series; an image of the residual voltage "
+     "appears at its open ends."},
+    {"Spannungswandler, Stromwandler", "VT, CT",
+     "Wandler zwischen Netz und Messeingang. Ihre Übersetzung rechnet Sekundärwerte in Primärwerte um.",
+     "Voltage and current transformer between network and measuring input. The ratio turns secondary values into "
+     "primary ones."},
+    {"Fehlwinkel", "phase displacement, phase error",
+     "Winkel, um den ein Wandler den Zeiger verdreht. Bei Cos(phi) entscheidet schon ein Grad; phi_corr_... gleicht "
+     "ihn aus.",
+     "Angle by which a transformer turns the phasor. One degree decides already with Cos(phi); phi_corr_... makes "
+     "up for it."},
+    {"kapazitiver Erdschlussstrom", "capacitive earth-fault current",
+     "Strom über die Leiter-Erde-Kapazitäten der gesunden Leiter, im isolierten Netz der ganze Erdschlussstrom.",
+     "Current through the phase-to-earth capacitances of the healthy phases; in a network with isolated neutral "
+     "the whole earth-fault current."},
+    {"Wattreststrom", "active residual current",
+     "Wirkanteil des Reststroms im gelöschten Netz, von den Verlusten der Spule und der Leitungen. Seine Richtung "
+     "zeigt den fehlerhaften Abgang (wattmetrisches Verfahren).",
+     "Active part of the residual current in a resonant-earthed system, from the losses of coil and lines. Its "
+     "direction tells the faulty feeder (wattmetric method)."},
+    {"Nulladmittanz Y0", "zero-sequence admittance Y0",
+     "Quotient aus Summenstrom und Verlagerungsspannung. Betrag und Winkel unterscheiden fehlerhafte von gesunden "
+     "Abgängen.",
+     "Residual current divided by residual voltage. Magnitude and angle tell faulty feeders from healthy ones."},
+    {"Wischer", "transient",
+     "Kurzer Vorgang bei Erdschlusseintritt, wenn die gesunden Leiter auf die höhere Spannung aufgeladen werden. "
+     "Auch ein Erdschluss, der von selbst gleich wieder verlöscht.",
+     "Short process at the start of an earth fault, when the healthy phases are charged to the higher voltage. "
+     "In German also an earth fault that extinguishes by itself at once."},
+    {"intermittierender, wiederzündender Erdschluss", "intermittent, restriking earth fault",
+     "Erdschluss, der verlöscht und immer wieder neu zündet, oft in Kabeln.",
+     "Earth fault that extinguishes and strikes again and again, often in cables."},
+    {"Dauererdschluss", "sustained earth fault", "Erdschluss, der länger ansteht als ein Wischer.",
+     "Earth fault that lasts longer than a transient one."},
+    {"Ferroresonanz, Kippschwingung", "ferroresonance",
+     "Schwingung zwischen Netzkapazität und gesättigten Spannungswandlern; täuscht einen Erdschluss vor.",
+     "Oscillation between the capacitance of the network and saturated voltage transformers; looks like an earth "
+     "fault."},
+    {"Pulsortung", "pulse locating",
+     "Ein Taktgerät an der Löschspule oder eine Einspeisung verändert den Strom im Takt; nur auf dem Weg zur "
+     "Fehlerstelle sind die Pulse zu sehen.",
+     "A pulsing device at the coil or an injection changes the current in a rhythm; the pulses are seen only on "
+     "the way to the fault."},
+    {"Rundsteuerung", "ripple control",
+     "Signale mit Tonfrequenz auf dem Netz, etwa 217 Hz. Ihre Frequenz eignet sich für H fx1, wenn sie ständig oder "
+     "oft gesendet wird.",
+     "Signals of audio frequency on the network, such as 217 Hz. Their frequency can serve H fx1 if it is sent "
+     "often."},
+    {"Ansprechen, Rückfallen", "pick-up, drop-out",
+     "Überschreiten einer Schwelle, bei dem etwas als vorhanden gilt, und Unterschreiten, bei dem es nicht mehr "
+     "gilt.",
+     "Passing a threshold so that something counts as present, and falling below one so that it no longer does."},
+    {"Ruhestrom", "normally energised",
+     "Ein Relais im Ruhestrom ist angezogen, solange nichts zu melden ist, und meldet so auch den Ausfall der "
+     "Versorgung.",
+     "A relay that is energised as long as there is nothing to signal, and so signals the loss of its supply too."},
+    {"Vorgeschichte", "pre-fault, pre-trigger", "Aufgezeichnete Zeit vor dem Auslösen.",
+     "Recorded time before the trigger."},
+};
+
+// The device's words and abbreviations.
+inline constexpr Word kDeviceWords[] = {
+    {"qu2", "qu2",
+     "Wischerverfahren, das die Ladung q über der Spannung u betrachtet: aus der Lage der Kurve folgt die "
+     "Richtung.",
+     "Transient method that looks at the charge q over the voltage u: the shape of the curve gives the direction."},
+    {"qui", "qui", "Verfahren für intermittierende und wiederzündende Erdschlüsse, verwandt mit qu2.",
+     "Method for intermittent and restriking earth faults, a relative of qu2."},
+    {"H250, harm1, ov5", "H250, harm1, ov5",
+     "Drei Namen eines Verfahrens: Richtung aus der 5. Oberschwingung (250 Hz). Einstellungen heißen harm1_..., die "
+     "Prioritätenliste und LCD_log_active_ov5 sagen ov5, die Ausgangsfunktionen H_250.",
+     "Three names of one method: direction from the 5th harmonic (250 Hz). Settings are called harm1_..., the "
+     "priority list and LCD_log_active_ov5 say ov5, the output functions H_250."},
+    {"H fx1, harm2, ovx", "H fx1, harm2, ovx",
+     "Drei Namen eines Verfahrens: Richtung aus einer Oberschwingung einstellbarer Frequenz (fx1, harm2_f).",
+     "Three names of one method: direction from a harmonic of settable frequency (fx1, harm2_f)."},
+    {"ovx1", "ovx1", "Eine Wahl der Prioritätenliste; wofür sie steht, ist hier nicht festgehalten.",
+     "A choice of the priority list; what it stands for is not kept here."},
+    {"fx1, fx2, fx2-, fx2+ (f1, f2, f3; m, p)", "fx1, fx2, fx2-, fx2+ (f1, f2, f3; m, p)",
+     "Frequenzen der Verfahren: fx1 für H fx1, fx2 für die Admittanz, fx2- und fx2+ für die beiden Anteile von fx2. "
+     "In Messwerten heißen sie f1, f2 und f3, in Datensätzen fx1, fx2m und fx2p.",
+     "Frequencies of the methods: fx1 for H fx1, fx2 for the admittance, fx2- and fx2+ for the two components of "
+     "fx2. Measured values call them f1, f2 and f3, records fx1, fx2m and fx2p."},
+    {"adm, DynAdm", "adm, DynAdm",
+     "Admittanzverfahren: Richtung aus der Nulladmittanz. Einstellungen heißen adm_..., die Ausgangsfunktionen "
+     "DynAdm.",
+     "Admittance method: direction from the zero-sequence admittance. Settings are called adm_..., the output "
+     "functions DynAdm."},
+    {"cos, Cos(phi)", "cos, Cos(phi)",
+     "Wattmetrisches Verfahren für das gelöschte Netz: Wirkanteil des Summenstroms.",
+     "Wattmetric method for resonant-earthed systems: active part of the residual current."},
+    {"sin, Sin(phi)", "sin, Sin(phi)", "Verfahren für das isolierte Netz: Blindanteil des Summenstroms.",
+     "Method for networks with isolated neutral: reactive part of the residual current."},
+    {"cos_sin, CosSin, sincos, c_s", "cos_sin, CosSin, sincos, c_s",
+     "Vier Schreibweisen eines Verfahrens: Richtung des Summenstroms mit einstellbaren Grenzwinkeln.",
+     "Four spellings of one method: direction of the residual current with settable limit angles."},
+    {"p50, puls50, Pulse_50", "p50, puls50, Pulse_50",
+     "Pulsortung mit 50 Hz. Die Ausgangsfunktionen mit c (Pulse_50c) stehen in der Liste getrennt; was c bedeutet, "
+     "ist hier nicht festgehalten.",
+     "Pulse locating at 50 Hz. The output functions with c (Pulse_50c) stand apart in the list; what c means is "
+     "not kept here."},
+    {"HPCI, pHPCI", "HPCI, pHPCI",
+     "Pulsortung mit eingespeistem Strom hoher Leistung (high power current injection).",
+     "Pulse locating with high power current injection."},
+    {"sc, ScE (deutsch KsE)", "sc, ScE", "Kurzschluss (short circuit); E steht für den Erdstrom.",
+     "Short circuit; E stands for the earth current."},
+    {">, >>", ">, >>",
+     "Ausgangsfunktionen des Kurzschlusses: >I und >>I in zwei Klassen, dahinter der Leiter, dahinter die Richtung.",
+     "Output functions of the short circuit: >I and >>I in two classes, then the phase, then the direction."},
+    {"df", "df", "Abweichung der Netzfrequenz von ihrem Sollwert.",
+     "Deviation of the grid frequency from its reference."},
+    {"Ice", "Ice",
+     "Kapazitiver Erdschlussstrom, bei den Oberschwingungen der Summenstrom ihrer Frequenz; primär.",
+     "Capacitive earth-fault current, for the harmonics the residual current of their frequency; primary."},
+    {"Uerd, Uearth, >Uerd", "Uerd, Uearth, >Uearth",
+     "Erdschlussspannung: U123erd für den fehlerhaften Leiter, Uearth für die Verlagerungsspannung. >Uearth ist die "
+     "Meldung ohne, >Uearth_delay die mit Verzögerung.",
+     "Earth-fault voltage: U123erd for the faulty phase, Uearth for the residual voltage. >Uearth is the signal "
+     "without, >Uearth_delay the one with delay."},
+    {"Uen, Uo, U0", "Uen, Uo, U0", "Drei Schreibweisen der Verlagerungsspannung.",
+     "Three spellings of the residual voltage."},
+    {"DE, CE", "DE, CE", "Dauererdschluss, englisch CE (continuous earth fault) in qu2 + CE und qu2_CE.",
+     "Sustained earth fault (German Dauererdschluss), CE in qu2 + CE and qu2_CE."},
+    {"A, F, FD", "F, FD", "Richtung Abgang (forward, feeder): der Fehler liegt auf dem überwachten Abgang.",
+     "Forward, towards the feeder: the fault lies on the monitored feeder."},
+    {"SS, BB", "BB", "Richtung Sammelschiene (busbar): der Fehler liegt rückwärts, nicht auf diesem Abgang.",
+     "Towards the busbar: the fault lies backward, not on this feeder."},
+    {"v, r (englisch f, b)", "f, b", "Vorwärts, rückwärts.", "Forward, backward."},
+    {"Sum, Prio", "Sum, Prio",
+     "Ausgangsfunktionen über alle Verfahren: Sum fasst die Richtungsmeldungen zusammen, Prio folgt der "
+     "Prioritätenliste.",
+     "Output functions over all methods: Sum combines the direction signals, Prio follows the priority list."},
+    {"BE (englisch BI, DI)", "BE, BI, DI", "Binäreingang. BE1 und BE2 messen auch ihre Spannung.",
+     "Binary input (German Binäreingang). Inputs 1 and 2 measure their voltage too."},
+    {"BA, REL", "BA, REL", "Binärausgang, also Ausgangsrelais.", "Binary output, that is output relay."},
+    {"BEF (englisch BIF)", "BEF, BIF",
+     "Eingangsfunktion: was ein Eingang im Gerät auslöst. BEFassign wählt den Eingang.",
+     "Input function: what an input triggers in the device. BEFassign chooses the input."},
+    {"BAF (englisch BOF)", "BAF, BOF",
+     "Ausgangsfunktion: eine Meldung der Verfahren, die Relais und LEDs zugeordnet werden kann. uBAF und user_BAF "
+     "sind die acht des Benutzers.",
+     "Output function: a signal of the methods that relays and LEDs can be assigned to. uBAF and user_BOF are the "
+     "eight of the user."},
+    {"PROG, NC, n.n., frei", "PROG, NC, n.n.",
+     "Wahlen in der Liste der Ausgangsfunktionen. NC, deutsch frei: ohne Funktion. Was PROG und 50Hz n.n. melden, "
+     "ist hier nicht festgehalten.",
+     "Choices in the list of output functions. NC: without a function. What PROG and 50Hz n.n. signal is not kept "
+     "here."},
+    {"LT", "LT", "Leittechnik: y_BE_LT und OVR_BE_LT_... sind Eingänge, die von dort kommen.",
+     "Telecontrol (German Leittechnik): y_BE_LT and OVR_BE_LT_... are inputs that come from there."},
+    {"vBE, vBA, virt_BE", "vBE, vBA, virt_BI", "Virtuelle Ein- und Ausgänge 1 bis 96 im Prozessabbild.",
+     "Virtual inputs and outputs 1 to 96 in the process image."},
+    {"vMWR, vMWW", "vMWR, vMWW", "Messwerte im Prozessabbild, gelesene (R) und geschriebene (W).",
+     "Measured values in the process image, read (R) and written (W)."},
+    {"SL...", "SL...", "Zweites Prozessabbild, das der Slave-Seite.",
+     "A second process image, that of the slave side."},
+    {"y_...", "y_...", "Zustandswort, ein Bit je Eingang, Funktion, Relais oder LED.",
+     "State word, one bit per input, function, relay or LED."},
+    {"...mo, ...moc, ...mow", "...mo, ...moc, ...mow",
+     "Versatz in der Modbus-Registertabelle: mo Register, moc Coils, mow zum Schreiben durch den Master.",
+     "Offset in the Modbus register map: mo registers, moc coils, mow to be written by the master."},
+    {"SigDel, T_delay", "SigDel, T_delay",
+     "Meldeverzögerung: so lange muss der Entscheid anstehen, bevor gemeldet wird.",
+     "Signal delay: the decision must persist for so long before it is signalled."},
+    {"SigDur, T_hold", "SigDur, T_hold", "Meldedauer oder Haltezeit der Meldung; ..._LED die der LED.",
+     "Duration or hold time of the signal; ..._LED that of the LED."},
+    {"log_cycle, dT_log, LCD_log_active", "log_cycle, dT_log, LCD_log_active",
+     "Was ein Verfahren ins Logbuch schreibt: log_cycle auch die einzelnen Zyklen, dT_log der kleinste Abstand der "
+     "Einträge, LCD_log_active das Logbuch der Anzeige.",
+     "What a method writes to the logbook: log_cycle the single cycles too, dT_log the shortest time between "
+     "entries, LCD_log_active the logbook of the display."},
+    {"Klasse 1, 2, E", "class 1, 2, E", "Überstromstufen der Kurzschlussanzeige mit eigenem Ansprechstrom.",
+     "Overcurrent stages of the short-circuit indication, each with its own pick-up."},
+    {"c0 bis c4", "c0 to c4",
+     "Die fünf Zählungen der Statistik; wofür sie stehen, ist hier nicht festgehalten.",
+     "The five counts of the statistics; what they stand for is not kept here."},
+    {"prim., sek.; p, s", "prim., sec.; p, s", "Primärwert im Netz und Sekundärwert am Messeingang.",
+     "Primary value in the network and secondary value at the measuring input."},
+    {"w, phi", "w, phi", "Winkel: wU1 der des Zeigers U1, wUI1 der zwischen U1 und I1.",
+     "Angle: wU1 that of the phasor U1, wUI1 that between U1 and I1."},
+    {"_a, _re, _im, _w", "_a, _re, _im, _w", "Betrag, Realteil, Imaginärteil und Winkel eines Zeigers.",
+     "Magnitude, real part, imaginary part and angle of a phasor."},
+    {"MW", "MW", "Messwert. mw_... ist die Momentaufnahme der Messwerte, die mw_req anfordert.",
+     "Measured value. mw_... is the snapshot of the measured values that mw_req asks for."},
+    {"OVR", "OVR",
+     "Simulation (override): Werte, die statt der gemessenen gelten. ..._enable gibt frei, ..._val ist der Wert.",
+     "Override for simulation: values used instead of the measured ones. ..._enable releases, ..._val is the value."},
+    {"STM, Cortex", "STM, Cortex", "Messkern, der eigene Prozessor für die Messung.",
+     "Measuring core, the processor of its own for measuring."},
+    {"conman", "conman", "Verbindungsmanager, der Modbus-Master des Geräts.",
+     "Connection manager, the device's Modbus master."},
+    {"VELMO", "VELMO", "Zeittelegramm über eine serielle Schnittstelle.",
+     "Time telegram over a serial port."},
+    {"DCF77", "DCF77", "Zeitzeichensender; ein Empfänger an einer seriellen Schnittstelle stellt die Uhr.",
+     "Time signal transmitter; a receiver at a serial port sets the clock."},
+    {"RTC", "RTC", "Batteriegepufferte Uhr des Geräts.", "The device's battery-backed clock."},
+    {"COT, CA, IOA, ASDU, APDU", "COT, CA, IOA, ASDU, APDU",
+     "Begriffe aus IEC 60870-5: Übertragungsursache, gemeinsame Adresse, Adresse des Informationsobjekts, "
+     "Dateneinheit der Anwendung, Protokolleinheit der Anwendung.",
+     "Terms of IEC 60870-5: cause of transmission, common address, information object address, application service "
+     "data unit, application protocol data unit."},
+    {"Arbeitskopie, gültiger Wert", "working copy, live value",
+     "Geschriebene Einstellungen liegen in der Arbeitskopie, bis update, ein Speichern, ein Laden oder das Schreiben "
+     "einer Schnittstellenadresse sie gültig macht.",
+     "Settings that are written lie in the working copy until update, a save, a load or a write of an interface "
+     "address makes them live."},
+    {"Laufzeitwert", "run-time value",
+     "Messwert, Zustand oder Zähler: gilt sofort und steht in keiner Datei.",
+     "Measured value, state or counter: in force at once and in no file."},
+    {"KEPL", "KEPL", "Sprache, in der Skripte und Programme die Parameter lesen und schreiben.",
+     "Language in which scripts and programs read and write the parameters."},
+};
+
+} // namespace talux::pages
+
+#endif
