@@ -31,6 +31,10 @@ public:
     // the first 254 characters serve for named files of the load commands. No trailing slash.
     explicit KEPL_Interpreter(char* inipath);
 
+    // The tokenizers work in the object's own buffers.
+    KEPL_Interpreter(const KEPL_Interpreter&) = delete;
+    KEPL_Interpreter& operator=(const KEPL_Interpreter&) = delete;
+
     /*
      * Evaluates a line.
      * szLine:     the line, at most kKeplMaxLine characters; a longer one is refused whole.

@@ -3,6 +3,7 @@
 
 #include "ParamSystem/TALUX_Params.h"
 #include "ParamSystem/dictionary/Ids.h"
+#include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/dictionary/NameIndex.h"
 #include "ParamSystem/dictionary/Rows.h"
 #include "ParamSystem/dictionary/Settings.h"
@@ -117,6 +118,10 @@ std::span<const Setting> settings() {
     return kSettings;
 }
 
+const stParamProperties* findParameter(std::string_view name) {
+    return isLoaded() ? parameterAt(kNameIndex.find(name, nameAt)) : nullptr;
+}
+
 } // namespace talux
 
 int LoadDefParamProperties() {
@@ -141,6 +146,5 @@ const stParamProperties* GetParamPropertiesByOrder(int id) {
 }
 
 const stParamProperties* GetParamPropertiesByName(char* name) {
-    if (name == nullptr || !talux::isLoaded()) return nullptr;
-    return talux::parameterAt(talux::kNameIndex.find(name, talux::nameAt));
+    return name == nullptr ? nullptr : talux::findParameter(name);
 }

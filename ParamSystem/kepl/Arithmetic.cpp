@@ -1,89 +1,65 @@
-#include "ParamSystem/kepl/Arithmetic.h"
-
+// The operations on the value stack.
 #include <cmath>
 #include <numbers>
 
-#include "ParamSystem/TALUX_Funcs.h"
-#include "ParamSystem/TALUX_Params.h"
+#include "ParamSystem/kepl/Execution.h"
 #include "ParamSystem/kepl/ValueType.h"
 
 namespace talux::kepl {
 
 namespace {
 
-// Replaces the two upper values by their result.
-template <typename Operation>
-Flow binary(Line& line, Operation operation) {
-    if (line.iSP < 2) return line.fail(refuse(szSyntaxError));
-    const int right = --line.iSP;
-    const int left = right - 1;
-    line.adStack[left] = operation(line.adStack[left], line.adStack[right]);
-    line.aiType[left] = promoted(line.aiType[left], line.aiType[right]);
-    return kNextTerm;
+double resultOf(Operation operation, double left, double right) {
+    switch (operation) {
+    case Operation::add:
+        return left + right;
+    case Operation::subtract:
+        return left - right;
+    case Operation::multiply:
+        return left * right;
+    default:
+        return left / right;
+    }
 }
 
-// Replaces the top value by its image.
-template <typename Function>
-Flow function(Line& line, Function image) {
-    if (line.iSP < 1) return line.fail(refuse(szSyntaxError));
-    double& top = line.adStack[line.iSP - 1];
-    top = image(top);
-    line.aiType[line.iSP - 1] = kTypeDouble;
-    return kNextTerm;
+double resultOf(Operation function, double x) {
+    switch (function) {
+    case Operation::sine:
+        return std::sin(x);
+    case Operation::cosine:
+        return std::cos(x);
+    case Operation::tangent:
+        return std::tan(x);
+    case Operation::toDegrees:
+        return x / std::numbers::pi * 180.0;
+    case Operation::toRadians:
+        return x / 180.0 * std::numbers::pi;
+    case Operation::square:
+        return x * x;
+    default:
+        return std::sqrt(x);
+    }
 }
 
 } // namespace
 
-Flow add(Line& line) {
-    return binary(line, [](double left, double right) { return left + right; });
-}
+TermResult compute(Operation operation, ValueStack& stack) {
+    const int operands = operandsOf(operation);
+    if (stack.count < operands) return refused(Refusal::syntaxError);
+    double* const top = stack.values + stack.count - 1;
+    if (operation == Operation::divide && *top == 0.0) return refused(Refusal::divisionByZero);
+    if (operation == Operation::squareRoot && *top < 0.0) return refused(Refusal::negativeRoot);
 
-Flow subtract(Line& line) {
-    return binary(line, [](double left, double right) { return left - right; });
-}
-
-Flow multiply(Line& line) {
-    return binary(line, [](double left, double right) { return left * right; });
-}
-
-Flow divide(Line& line) {
-    if (line.iSP >= 2 && line.adStack[line.iSP - 1] == 0.0) return line.fail(refuse(kDivisionByZero));
-    return binary(line, [](double left, double right) { return left / right; });
-}
-
-Flow sine(Line& line) {
-    return function(line, [](double x) { return std::sin(x); });
-}
-
-Flow cosine(Line& line) {
-    return function(line, [](double x) { return std::cos(x); });
-}
-
-Flow tangent(Line& line) {
-    return function(line, [](double x) { return std::tan(x); });
-}
-
-Flow toDegrees(Line& line) {
-    return function(line, [](double x) { return x / std::numbers::pi * 180.0; });
-}
-
-Flow toRadians(Line& line) {
-    return function(line, [](double x) { return x / 180.0 * std::numbers::pi; });
-}
-
-Flow square(Line& line) {
-    return function(line, [](double x) { return x * x; });
-}
-
-Flow squareRoot(Line& line) {
-    if (line.iSP >= 1 && line.adStack[line.iSP - 1] < 0.0) return line.fail(refuse(kNegativeRoot));
-    return function(line, [](double x) { return std::sqrt(x); });
-}
-
-Flow number(Line& line) {
-    double value = 0.0;
-    if (MakeDouble(line.szToken, &value) != 1) return line.fail(refuse(szSyntaxError));
-    return line.push(value, kTypeDouble);
+    int* const type = stack.types + stack.count - 1;
+    if (operands == 2) {
+        top[-1] = resultOf(operation, top[-1], *top);
+        type[-1] = promoted(type[-1], *type);
+        --stack.count;
+    } else {
+        *top = resultOf(operation, *top);
+        *type = kTypeDouble;
+    }
+    return {};
 }
 
 } // namespace talux::kepl

@@ -4,14 +4,16 @@
 
 #include <ctime>
 
+#include "ParamSystem/dictionary/Types.h"
+
 namespace talux::kepl {
 
 /*
- * The moment that the local clock shows after its date (kTypeSysDate: year, month, day) or its time of day
- * (kTypeSysTime: hour, minute, second) is set; the other half stays as it is now. Numbers may stand in
- * double quotes. False without three numbers, and when the clock has no such moment.
+ * The moment that the local clock shows after its date (Nature::date: year, month, day) or its time of day
+ * (Nature::time: hour, minute, second) is set; the other half stays as it is now. False when the clock has no
+ * such moment.
  */
-bool clockFrom(char* text, int type, std::time_t& seconds);
+bool clockSetTo(const VarLong (&numbers)[3], Nature half, std::time_t& seconds);
 
 } // namespace talux::kepl
 

@@ -5,16 +5,9 @@
 #include <string_view>
 
 #include "ParamSystem/kepl/Answer.h"
+#include "ParamSystem/kepl/Decision.h"
 
 namespace talux::kepl {
-
-// How each value of a dump looks.
-enum class Style {
-    plain,   // TLX_<name><separator><label> = <text>, one per line
-    lines,   // the text, one per line
-    columns, // the texts in one line with ";" between them
-    hex,     // the bytes, two digits each
-};
 
 struct DumpItem {
     std::string_view separator; // between the parameter's name and the label

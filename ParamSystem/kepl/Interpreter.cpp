@@ -5,13 +5,25 @@
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/TALUX_Var.h"
-#include "ParamSystem/kepl/Line.h"
+#include "ParamSystem/kepl/Evaluation.h"
 #include "ParamSystem/kepl/ValueType.h"
-#include "ParamSystem/kepl/Variable.h"
 #include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Text.h"
 
 using namespace talux;
+using kepl::Refusal;
+
+namespace {
+
+void discard(char* /*buffer*/, int /*buffered*/) {}
+
+template <std::size_t size>
+int fail(char (&error)[size], Refusal refusal) {
+    copyText(error, kepl::textOf(refusal));
+    return kLineError;
+}
+
+} // namespace
 
 KEPL_Interpreter::KEPL_Interpreter(char* inipath) {
     VarInit(inipath);
@@ -30,19 +42,22 @@ int KEPL_Interpreter::ProcessLine(char* szLine, fnDataOut DataOut, char* szResul
 int KEPL_Interpreter::GetResult(char* expression, fnDataOut DataOut, char* result, char* terminator,
                                 int uid) {
     if (*expression == '\0') return kLineEmpty;
-
     szError[0] = '\0';
-    kepl::Line line({*this, szIniPath, clSubTokenizer, machine, szError}, {DataOut, result, terminator, uid});
-    if (strnlen(expression, sizeof strTokenBuffer) > kKeplMaxLine)
-        return line.fail(kepl::refuse(szSyntaxError));
+    if (strnlen(expression, sizeof strTokenBuffer) > kKeplMaxLine) return fail(szError, Refusal::syntaxError);
 
+    kepl::Evaluation evaluation({DataOut != nullptr ? DataOut : discard, result, terminator}, szIniPath);
     clStringTokenizer.SetString(expression, ",", false);
-    while (clStringTokenizer.hasMoreTokens()) {
-        line.setTerm(clStringTokenizer.nextToken());
-        const kepl::Flow flow = kepl::evaluateTerm(line);
-        if (flow != kepl::kNextTerm) return flow;
+    while (const char* const piece = clStringTokenizer.nextToken()) {
+        const kepl::Decision decision = kepl::decide(kepl::termOf(piece), uid, machine);
+        kepl::log(decision);
+        const Refusal refusal = evaluation.take(decision);
+        if (refusal == Refusal::none) continue;
+        // What ends the line is also its answer, but for syntax errors and errors of arithmetic.
+        if (decision.isVariable || decision.isAnswer()) evaluation.answer(kepl::textOf(refusal));
+        return decision.isAnswer() ? kLineDone : fail(szError, refusal);
     }
-    return line.finish();
+    const Refusal refusal = evaluation.finish();
+    return refusal == Refusal::none ? kLineDone : fail(szError, refusal);
 }
 
 int KEPL_Interpreter::GetError(char* buffer, int len) {
@@ -56,7 +71,7 @@ int KEPL_Interpreter::read_machine() {
     char name[65];
     os::machineName(name, sizeof name);
     const auto* const found = std::ranges::find(machines, std::string_view(name));
-    return found == std::end(machines) ? -1 : static_cast<int>(found - machines);
+    return found == std::end(machines) ? kepl::kOtherBoard : static_cast<int>(found - machines);
 }
 
 int KEPL_Interpreter::GetNewValType(int type1, int type2) {
@@ -65,11 +80,12 @@ int KEPL_Interpreter::GetNewValType(int type1, int type2) {
 
 int KEPL_Interpreter::ProcessCommand(const char* theCommand, char* txt, double* adStack, int* aiType,
                                      int* iSP, int uid) {
-    kepl::VariableRequest request(theCommand, txt, adStack, aiType, *iSP, uid);
-    const kepl::Refusal refusal = request.carryOut();
-    if (refusal == nullptr) return request.isWrite() ? 0 : 1;
-
-    if (refusal == kepl::refuse(szUIDWrong)) os::logError("%s %s", theCommand, refusal);
-    copyText(szError, refusal);
-    return -1;
+    *txt = '\0';
+    const kepl::Decision decision = kepl::decideVariable(theCommand, uid);
+    kepl::log(decision);
+    const bool isPlace = *iSP >= 0 && *iSP < kKeplStackSize;
+    const kepl::Slot slot = isPlace ? kepl::Slot{adStack + *iSP, aiType + *iSP} : kepl::Slot{};
+    const Refusal refusal = kepl::accessVariable(decision, txt, slot).refusal;
+    if (refusal != Refusal::none) return fail(szError, refusal);
+    return decision.variable.value ? 0 : 1;
 }

@@ -1,23 +1,35 @@
-// How a term is refused.
+// Why a term is refused.
 #ifndef TALUX_KEPL_REFUSAL_H
 #define TALUX_KEPL_REFUSAL_H
 
-#include "ParamSystem/KEPL_Interpreter.h"
-
 namespace talux::kepl {
 
-// The text of a refusal, or null when nothing stands against it.
-using Refusal = const char*;
+enum class Refusal : unsigned char {
+    none, // nothing stands against it
+    indexNotANumber,
+    syntaxError,
+    indexRequired,
+    noIndexAllowed,
+    valueTooLow,
+    valueTooHigh,
+    indexTooLow,
+    indexTooHigh,
+    index1TooLow,
+    index1TooHigh,
+    index2TooLow,
+    index2TooHigh,
+    index1GreaterThanIndex2,
+    readOnly,
+    writeOnly,
+    rightsTooLow, // goes to the system log, too
+    bufferOverflow,
+    divisionByZero,
+    negativeRoot,
+    typeUnknown,
+};
 
-constexpr Refusal refuse(KeplText& text) {
-    return text[iLanguage];
-}
-
-// These have one form in every language.
-inline constexpr KeplText kDivisionByZero = {"Division durch 0", "Division durch 0"};
-inline constexpr KeplText kNegativeRoot = {"Quadratwurzel von negativen Werten nicht erlaubt",
-                                           "Quadratwurzel von negativen Werten nicht erlaubt"};
-inline constexpr KeplText kTypeUnknown = {"type unknown", "type unknown"};
+// What the caller is told, in the language in use.
+const char* textOf(Refusal refusal);
 
 } // namespace talux::kepl
 

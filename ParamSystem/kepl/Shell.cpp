@@ -1,12 +1,9 @@
-#include "ParamSystem/kepl/Shell.h"
-
-#include <algorithm>
+// Terms that run a shell command.
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <span>
 
+#include "ParamSystem/kepl/Execution.h"
 #include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Text.h"
 
@@ -14,31 +11,7 @@ namespace talux::kepl {
 
 namespace {
 
-constexpr int kShellLevel = 3;
-
 enum Buffered { kLastChunk = 0, kMoreFollows = 1 };
-
-// Fragments that a board does not let through: tools of its boot environment, backups, a test output.
-constexpr const char* kForbiddenArm5[] = {"talux-pondo"};
-constexpr const char* kForbiddenArm7[] = {
-    "fw_printenv", "fw_setenv", "talux-bcard31", "bck_appfs", "backup.tgz", "/sys/class/gpio/gpio105/value",
-};
-
-std::span<const char* const> forbiddenOn(int machine) {
-    if (machine == 0) return kForbiddenArm5;
-    if (machine == 1) return kForbiddenArm7;
-    return {};
-}
-
-bool contains(const char* text, const char* part) {
-    return std::strstr(text, part) != nullptr;
-}
-
-// Below full rights the version files of the device may be shown. This keeps mistakes out, not intent: any
-// command with both words in it passes.
-bool isAllowed(const Line& line) {
-    return line.uid >= kShellLevel || (contains(line.szToken, "cat") && contains(line.szToken, ".version"));
-}
 
 [[noreturn]] void endProcess(const char* command) {
     std::fprintf(stderr, "KEPL: system '%s' command, not allowed\n", command);
@@ -82,28 +55,17 @@ void streamOutput(const char* command, fnDataOut dataOut) {
 
 } // namespace
 
-Flow shellTerm(Line& line) {
-    if (!isAllowed(line)) return line.refuseRights();
-    os::logInfo("sec param: %s", line.szToken);
-
-    line.words.SetString(line.szToken, " ", false);
-    line.words.nextToken();
-    if (!line.words.hasMoreTokens()) {
-        copyText(line.txt, "command required\n");
-        return line.showText();
+TermResult runShellTerm(const Decision& decision, fnDataOut dataOut, char* terminator, char* txt) {
+    if (decision.action == Action::askForShell) {
+        copyText(txt, kKeplTextSize, "command required\n");
+        return says(Says::text);
     }
-    char szSubToken[kKeplMaxTerm + 1];
-    copyText(szSubToken, line.words.nextToken(""));
-    line.txt[0] = '\0';
-
-    const auto forbidden = forbiddenOn(line.machine);
-    if (std::ranges::any_of(forbidden, [&](const char* part) { return contains(szSubToken, part); }))
-        endProcess(szSubToken);
-
-    streamOutput(szSubToken, line.dataOut);
-    line.dataOut(line.terminator, kLastChunk);
-    line.output = Output::nothing;
-    return kNextTerm;
+    char command[kKeplMaxTerm + 1];
+    copyText(command, decision.words);
+    if (decision.action == Action::endProcess) endProcess(command);
+    streamOutput(command, dataOut);
+    dataOut(terminator, kLastChunk);
+    return says(Says::nothing);
 }
 
 } // namespace talux::kepl

@@ -1,5 +1,8 @@
 // The two-language texts of the refusals. German is UTF-8.
+#include <iterator>
+
 #include "ParamSystem/KEPL_Interpreter.h"
+#include "ParamSystem/kepl/Refusal.h"
 
 KeplText szIndexNotANumber = {"<< INDEX MUSS EINE ZAHL SEIN >>", "<< INDEX MUST BE A NUMBER >>"};
 KeplText szSyntaxError = {"<< SYNTAX ERROR >>", "<< SYNTAX ERROR >>"};
@@ -20,3 +23,32 @@ KeplText szWriteOnly = {"<< VARIABLE IST WRITE ONLY >>", "<< VARIABLE IS WRITE O
 KeplText szUIDWrong = {"<< RECHTE ZU NIEDRIG >>", "<< RIGHTS TOO LOW >>"};
 KeplText szNotAllowed = {"<< NICHT ERLAUBT >>", "<< NOT ALLOWED >>"};
 KeplText szBufferOverflow = {"<< AUSGABE PUFFER ZU KLEIN >>", "<< OUTPUT BUFFER EXCEEDED >>"};
+
+namespace talux::kepl {
+
+namespace {
+
+// These have one form in every language.
+constexpr KeplText kNone = {"", ""};
+constexpr KeplText kDivisionByZero = {"Division durch 0", "Division durch 0"};
+constexpr KeplText kNegativeRoot = {"Quadratwurzel von negativen Werten nicht erlaubt",
+                                    "Quadratwurzel von negativen Werten nicht erlaubt"};
+constexpr KeplText kTypeUnknown = {"type unknown", "type unknown"};
+
+// In the order of the enumeration.
+constexpr KeplText* kTexts[] = {
+    &kNone,           &szIndexNotANumber, &szSyntaxError,    &szIndexRequired,  &szNoIndexAllowed,
+    &szValueTooLow,   &szValueTooHigh,    &szIndexTooLow,    &szIndexTooHigh,   &szIndex1TooLow,
+    &szIndex1TooHigh, &szIndex2TooLow,    &szIndex2TooHigh,  &szIndex1gtIndex2, &szReadOnly,
+    &szWriteOnly,     &szUIDWrong,        &szBufferOverflow, &kDivisionByZero,  &kNegativeRoot,
+    &kTypeUnknown,
+};
+static_assert(std::size(kTexts) == static_cast<std::size_t>(Refusal::typeUnknown) + 1);
+
+} // namespace
+
+const char* textOf(Refusal refusal) {
+    return (*kTexts[static_cast<std::size_t>(refusal)])[iLanguage];
+}
+
+} // namespace talux::kepl

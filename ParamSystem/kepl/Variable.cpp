@@ -1,59 +1,182 @@
-#include "ParamSystem/kepl/Variable.h"
+// Carries out what was decided about variable terms: reads, writes and dumps of parameters.
+#include <cstring>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/kepl/Clock.h"
+#include "ParamSystem/kepl/Dump.h"
+#include "ParamSystem/kepl/Execution.h"
+#include "ParamSystem/kepl/ValueType.h"
+#include "ParamSystem/os/Os.h"
+#include "ParamSystem/support/Text.h"
 
 namespace talux::kepl {
 
-VariableRequest::VariableRequest(const char* termText, char* txt, double* adStack, int* aiType, int iSP,
-                                 int callersUid)
-    : wholeTerm(termText), term(termText), answer(txt), slotValue(nullptr), slotType(nullptr),
-      uid(callersUid) {
-    if (iSP < 0 || iSP >= kKeplStackSize) return;
-    slotValue = adStack + iSP;
-    slotType = aiType + iSP;
+namespace {
+
+Space spaceOf(const stParamProperties& row) {
+    return row.is_volatile == 0 ? Space::temp : Space::global;
 }
 
-Refusal VariableRequest::carryOut() {
-    if (!term.indicesAreNumbers()) return refuse(szIndexNotANumber);
-    return isWrite() ? write() : read();
+// 0 of commands, which have no value.
+double numberOf(const stParamProperties& row, int id) {
+    const std::optional<Value> value = readValue(spaceOf(row), id);
+    return value ? value->number() : 0.0;
 }
 
-bool VariableRequest::deliver(double value, int type) {
-    if (slotValue == nullptr) return false;
-    *slotValue = value;
-    *slotType = type;
-    return true;
+// A text value in double quotes.
+using QuotedText = char[kTextSize + 2];
+
+// Date and time are those of the system clock, whatever the store holds.
+std::string_view quote(QuotedText& quoted, const stParamProperties& row, int id) {
+    const Nature nature = typeOf(row).nature;
+    if (nature == Nature::date || nature == Nature::time) {
+        std::tm now{};
+        os::localTime(now);
+        if (nature == Nature::date)
+            formatText(quoted, sizeof quoted, "\"%04d-%02d-%02d\"", now.tm_year + 1900, now.tm_mon + 1,
+                       now.tm_mday);
+        else
+            formatText(quoted, sizeof quoted, "\"%02d:%02d:%02d\"", now.tm_hour, now.tm_min, now.tm_sec);
+        return quoted;
+    }
+    const std::optional<Value> value = readValue(spaceOf(row), id);
+    const std::string_view text = value ? value->text() : "";
+    quoted[0] = '"';
+    std::memcpy(quoted + 1, text.data(), text.size());
+    quoted[text.size() + 1] = '"';
+    return {quoted, text.size() + 2};
 }
 
-Refusal indexPresence(const stParamProperties& row, const VariableTerm& term) {
-    const bool given = term.indices() > 0;
-    if (!given && row.val_min_id > 0 && row.val_max_id > 0) return refuse(szIndexRequired);
-    if (given && row.val_min_id == 0 && row.val_max_id == 0) return refuse(szNoIndexAllowed);
-    return nullptr;
+// Type code that a record's member is printed with; kTypeNone for an unknown type name.
+int memberType(std::string_view name) {
+    constexpr struct {
+        std::string_view name;
+        int type;
+    } kMemberTypes[] = {{"long", kTypeLong},     {"float", kTypeFloat}, {"int", kTypeLong},
+                        {"short int", kTypeInt}, {"short", kTypeInt},   {"double", kTypeDouble}};
+    for (const auto& known : kMemberTypes)
+        if (known.name == name) return known.type;
+    return kTypeNone;
 }
 
-Refusal indexRange(const stParamProperties& row, VarLong index, KeplText& tooLow, KeplText& tooHigh) {
-    if (index < row.val_min_id) return refuse(tooLow);
-    if (index > row.val_max_id) return refuse(tooHigh);
-    return nullptr;
-}
+// One variable term; its text grows in `answer`.
+class VariableAccess {
+public:
+    VariableAccess(const Decision& made, char* txt, Slot place)
+        : decision(made), row(*made.row), answer(txt), slot(place) {}
 
-int elementId(const stParamProperties& row, VarLong index) {
-    return row.id + static_cast<int>(index) - 1;
-}
+    TermResult readScalar() {
+        if (isText(row)) {
+            QuotedText quoted;
+            answer.append({quote(quoted, row, row.id)});
+            slot.put(0.0, row.type);
+            return says(Says::text);
+        }
+        return slot.put(numberOf(row, row.id), row.type) ? says(Says::value) : refused(Refusal::syntaxError);
+    }
 
-void readStored(const stParamProperties& row, int id, double* value) {
-    if (row.is_volatile == 0)
-        VarGetValue(id, value);
-    else
-        VarGetGlobalValue(id, value);
-}
+    TermResult readRecord() {
+        const int record = row.id - kFirstStruct;
+        const VarLong size = ARR_StructSize[record];
+        char bytes[kLargestRecord];
+        VarGetGlobalStructValue(row.id, bytes, size);
+        answer.append({"STRUCT:\n"});
 
-void writeStored(const stParamProperties& row, int id, double* value) {
-    if (row.is_volatile == 0)
-        VarSetValue(id, value);
-    else
-        VarSetGlobalValue(id, value);
+        const StructMemberProperties_t* member = ARR_StructMemberProperties + ARR_MemberOffset[record];
+        for (VarLong position = 0; position < size; ++member) {
+            const auto memberSize = static_cast<std::size_t>(member->iMemberBitsize / 8);
+            const Refusal refusal =
+                dumpMember(*member, {bytes + position, memberSize}, /*isFirst=*/position == 0);
+            if (refusal != Refusal::none) return refused(refusal);
+            position += static_cast<VarLong>(memberSize);
+        }
+        return says(Says::text);
+    }
+
+    TermResult readElements() {
+        const VarLong first = decision.variable.first;
+        const VarLong last = decision.variable.last;
+        if (last - first > 1) answer.append({"ARRAY:\n"});
+        for (VarLong index = first; index <= last; ++index) {
+            const Refusal refusal = dumpElement(index, decision.id + static_cast<int>(index - first));
+            if (refusal != Refusal::none) return refused(refusal);
+        }
+        return says(Says::text);
+    }
+
+    TermResult write() {
+        writeValue(spaceOf(row), decision.id, *decision.value);
+        if (row.type == kTypeIpAddress && decision.variable.indices == 0) {
+            VarSetSystemIPs();
+            slot.put(0.0, row.type);
+        }
+        return says(Says::done);
+    }
+
+    TermResult setClock() {
+        std::time_t seconds = 0;
+        if (!clockSetTo(decision.clock, typeOf(row).nature, seconds)) return refused(Refusal::syntaxError);
+        writeValue(spaceOf(row), decision.id, Value(*decision.variable.value));
+        os::setClock(seconds);
+        os::runShell("hwclock --systohc --utc --noadjfile");
+        slot.put(0.0, row.type);
+        return says(Says::done);
+    }
+
+private:
+    const Decision& decision;
+    const stParamProperties& row;
+    Answer answer;
+    const Slot slot;
+
+    Refusal dumpMember(const StructMemberProperties_t& member, std::string_view bytes, bool isFirst) {
+        const int type = memberType(member.szMemberType);
+        if (type == kTypeNone) return Refusal::typeUnknown;
+        const NumberText text(decode(bytes.data(), type), typeOf(type).shownDecimals);
+        return show(decision.variable.style, {".", member.aszMemberName, text.view(), bytes, isFirst});
+    }
+
+    Refusal dumpElement(VarLong index, int id) {
+        const NumberText label(index, 0);
+        const bool isSingle = decision.variable.indices == 1;
+        const Style asked = decision.variable.style;
+        const Style style = isSingle && asked == Style::plain ? Style::lines : asked;
+        if (isText(row)) {
+            QuotedText quoted;
+            const std::string_view text = quote(quoted, row, id);
+            slot.put(0.0, row.type);
+            return show(style, {" ", label.view(), text, text.substr(1, text.size() - 2), index == 1});
+        }
+        const double value = numberOf(row, id);
+        slot.put(value, row.type);
+        const NumberText text(value, typeOf(row).shownDecimals);
+        const NumberBytes bytes = encode(value, row.type);
+        if (style == Style::hex && bytes.size == 0) return Refusal::typeUnknown;
+        return show(style, {" ", label.view(), text.view(), bytes.view(), index == 1});
+    }
+
+    Refusal show(Style style, const DumpItem& item) {
+        return dump(answer, style, row.name, item) ? Refusal::none : Refusal::bufferOverflow;
+    }
+};
+
+} // namespace
+
+TermResult accessVariable(const Decision& decision, char* txt, Slot slot) {
+    if (decision.isRefused()) return refused(decision.refusal);
+    VariableAccess access(decision, txt, slot);
+    switch (decision.action) {
+    case Action::readScalar:
+        return access.readScalar();
+    case Action::readElements:
+        return access.readElements();
+    case Action::readRecord:
+        return access.readRecord();
+    case Action::write:
+        return access.write();
+    default:
+        return access.setClock();
+    }
 }
 
 } // namespace talux::kepl

@@ -1,0 +1,159 @@
+#include "ParamSystem/kepl/Decision.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "ParamSystem/kepl/Words.h"
+#include "ParamSystem/support/Parse.h"
+#include "ParamSystem/support/Text.h"
+
+namespace talux::kepl {
+
+namespace {
+
+constexpr int kEverybody = std::numeric_limits<int>::min();
+
+// Tried from top to bottom: of words that begin alike the longer one stands first.
+constexpr CommandWord kCommands[] = {
+    {"system", kEverybody, Command::shell}, // looks at the rights itself
+    {"load_ip", 2, Command::loadAddresses},  {"load_sec", 3, Command::loadSecurity},
+    {"load", 2, Command::loadParameters},    {"save_ip", 2, Command::saveAddresses},
+    {"save_sec", 3, Command::saveSecurity},  {"save", 1, Command::saveParameters},
+    {"update", kEverybody, Command::update},
+};
+
+constexpr OperationWord kOperations[] = {
+    {"+", Operation::add},       {"-", Operation::subtract},      {"*", Operation::multiply},
+    {"/", Operation::divide},    {"sin", Operation::sine},        {"cos", Operation::cosine},
+    {"tan", Operation::tangent}, {"deg", Operation::toDegrees},   {"rad", Operation::toRadians},
+    {"sqr", Operation::square},  {"sqrt", Operation::squareRoot},
+};
+
+constexpr std::size_t kPrefixLength = 4;
+static_assert(kPrefixes[0].size() == kPrefixLength && kPrefixes[1].size() == kPrefixLength);
+
+// Fragments that a board does not let through: tools of its boot environment, backups, a test output.
+constexpr std::string_view kForbiddenArm5[] = {"talux-pondo"};
+constexpr std::string_view kForbiddenArm7[] = {
+    "fw_printenv", "fw_setenv", "talux-bcard31", "bck_appfs", "backup.tgz", "/sys/class/gpio/gpio105/value",
+};
+
+bool contains(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
+// Below full rights the version files of the device may be shown. This keeps mistakes out, not intent: any
+// command with both words in it passes.
+bool mayRun(std::string_view term, int uid) {
+    return uid >= kShellLevel || (contains(term, "cat") && contains(term, ".version"));
+}
+
+void decideShell(Decision& decision, std::string_view term, int uid, int board) {
+    if (!mayRun(term, uid)) {
+        decision.refusal = Refusal::rightsTooLow;
+        return;
+    }
+    decision.isNoted = true;
+    takeWord(term, " ");
+    decision.words = withoutLeading(term, " ");
+    const auto forbidden = [&](std::string_view part) { return contains(decision.words, part); };
+    if (decision.words.empty())
+        decision.action = Action::askForShell;
+    else
+        decision.action =
+            std::ranges::any_of(forbiddenOn(board), forbidden) ? Action::endProcess : Action::shell;
+}
+
+bool takesFile(Command command) {
+    return command == Command::loadAddresses || command == Command::loadParameters;
+}
+
+void decideCommand(Decision& decision, std::string_view term, int uid, const CommandWord& word) {
+    if (uid < word.lowestUid) {
+        decision.refusal = Refusal::rightsTooLow;
+        return;
+    }
+    decision.action = Action::command;
+    if (!takesFile(word.command)) return;
+    takeWord(term, " ");
+    decision.words = takeWord(term, " ");
+}
+
+void decideNumber(Decision& decision, std::string_view term) {
+    double number = 0;
+    if (parseDouble(term, &number) != kParsed) {
+        decision.refusal = Refusal::syntaxError;
+        return;
+    }
+    decision.action = Action::push;
+    decision.value.emplace(number);
+}
+
+// No word begins with a digit.
+bool isPlainNumber(std::string_view term) {
+    return !term.empty() && term.front() >= '0' && term.front() <= '9';
+}
+
+bool isVariable(std::string_view term) {
+    return startsIgnoringCase(term, kPrefixes[0]) || startsIgnoringCase(term, kPrefixes[1]);
+}
+
+const CommandWord* commandOf(std::string_view term) {
+    const auto begins = [=](const CommandWord& known) { return startsIgnoringCase(term, known.word); };
+    const auto* const found = std::ranges::find_if(kCommands, begins);
+    return found == std::end(kCommands) ? nullptr : found;
+}
+
+const OperationWord* operationOf(std::string_view term) {
+    const auto equals = [=](const OperationWord& known) { return equalIgnoringCase(term, known.word); };
+    const auto* const found = std::ranges::find_if(kOperations, equals);
+    return found == std::end(kOperations) ? nullptr : found;
+}
+
+void decideWord(Decision& decision, std::string_view term, int uid, int board) {
+    if (const CommandWord* const word = commandOf(term)) {
+        decision.command = word->command;
+        if (word->command == Command::shell)
+            decideShell(decision, term, uid, board);
+        else
+            decideCommand(decision, term, uid, *word);
+    } else if (const OperationWord* const operation = operationOf(term)) {
+        decision.action = Action::compute;
+        decision.operation = operation->operation;
+    } else {
+        decideNumber(decision, term);
+    }
+}
+
+} // namespace
+
+Decision decide(std::string_view term, int uid, int board) {
+    if (isVariable(term)) return decideVariable(term.substr(kPrefixLength), uid);
+    Decision decision;
+    decision.term = term;
+    if (isPlainNumber(term))
+        decideNumber(decision, term);
+    else
+        decideWord(decision, term, uid, board);
+    return decision;
+}
+
+std::string_view termOf(std::string_view piece) {
+    return withoutLeading(piece.substr(0, kKeplMaxTerm), " ");
+}
+
+std::span<const CommandWord> commandWords() {
+    return kCommands;
+}
+
+std::span<const OperationWord> operationWords() {
+    return kOperations;
+}
+
+std::span<const std::string_view> forbiddenOn(int board) {
+    if (board == kArm5Board) return kForbiddenArm5;
+    if (board == kArm7Board) return kForbiddenArm7;
+    return {};
+}
+
+} // namespace talux::kepl

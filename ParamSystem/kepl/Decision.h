@@ -1,0 +1,155 @@
+// What a term of the command language would do, or why it is refused. This is found out from the term, the
+// dictionary, the caller's rights and the board alone: nothing is read from the store, written, run or
+// logged. The interpreter carries decisions out (Execution.h); tools look at them.
+#ifndef TALUX_KEPL_DECISION_H
+#define TALUX_KEPL_DECISION_H
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "ParamSystem/KEPL_Interpreter.h"
+#include "ParamSystem/kepl/Refusal.h"
+#include "ParamSystem/store/Values.h"
+
+namespace talux::kepl {
+
+enum class Action : unsigned char {
+    refuse,
+    push,         // `value`, a number
+    compute,      // `operation` on the upper values of the stack
+    readScalar,   // `row`
+    readElements, // elements variable.first to variable.last of `row`
+    readRecord,   // `row`
+    write,        // `value` into the slot of `id`
+    setClock,     // from `clock`, and the text variable.value into the slot of `id`
+    command,      // `command`, with the file `words` if that is not empty
+    shell,        // `words` in the shell
+    askForShell,  // answer that a command is missing
+    endProcess,   // the board forbids the shell command `words`
+};
+
+enum class Operation : unsigned char {
+    add,
+    subtract,
+    multiply,
+    divide,
+    sine,
+    cosine,
+    tangent,
+    toDegrees,
+    toRadians,
+    square,
+    squareRoot,
+};
+
+// How many values an operation takes from the stack; it leaves one.
+constexpr int operandsOf(Operation operation) {
+    return operation <= Operation::divide ? 2 : 1;
+}
+
+enum class Command : unsigned char {
+    shell,
+    loadAddresses,
+    loadSecurity,
+    loadParameters,
+    saveAddresses,
+    saveSecurity,
+    saveParameters,
+    update,
+};
+
+// How the elements of a range or the members of a record are answered.
+enum class Style : unsigned char {
+    plain,   // TLX_<name> <index> = <value> or TLX_<name>.<member> = <value>, one per line
+    lines,   // the value, one per line: option -p, and the plain form of a single element
+    columns, // the values in one line with ";" between them: option -c
+    hex,     // the bytes, two digits each: option -h
+};
+
+// The parts of a variable term, NAME [INDEX[.INDEX]] [OPTION] [= VALUE]. The texts are parts of the term.
+struct VariableTerm {
+    std::string_view name = "???";         // stays when there is none
+    std::optional<std::string_view> value; // what stands right of "=", without leading blanks; none: a read
+    Style style = Style::plain;
+    int indices = 0; // how many were given, 0 to 2
+    bool indicesAreNumbers = true;
+    VarLong first = 0;
+    VarLong last = 0; // with one index the same
+};
+
+struct Decision {
+    Action action = Action::refuse;
+    Refusal refusal = Refusal::none; // none unless `action` is refuse
+
+    std::string_view term; // of a variable term what follows its prefix
+
+    // Noted in the system log as touching security, before it is carried out or refused.
+    bool isNoted = false;
+    // Whether the term begins with TLX_ or LVR_.
+    bool isVariable = false;
+
+    Operation operation{};
+    Command command{}; // of all terms that begin with a command word, the refused ones, too
+    std::string_view words;
+
+    // Of variable terms, the refused ones too as far as it was found out.
+    VariableTerm variable;
+    const stParamProperties* row = nullptr; // of the parameter's first element; null: no such name
+    int id = 0;                             // of what is read or written first
+
+    std::optional<Value> value; // to push or write; of a refused number, too, if it is one
+    VarLong clock[3] = {};      // year, month, day or hour, minute, second
+
+    bool isRefused() const { return action == Action::refuse; }
+    // Lack of rights for a command is no error but the answer of the line. Either ends the line.
+    bool isAnswer() const { return refusal == Refusal::rightsTooLow && !isVariable; }
+};
+
+// Boards, as KEPL_Interpreter::read_machine() numbers them.
+inline constexpr int kArm5Board = 0, kArm7Board = 1, kOtherBoard = -1;
+
+/*
+ * Decides about a term as termOf() gives it. `uid`: rights, 0 to 3. What depends on values remains to be seen
+ * when the decision is carried out: too few values on the stack or too many, a division by zero, the root of
+ * a negative number, an answer that is too long, a moment that the clock does not have, a file that cannot be
+ * opened.
+ */
+Decision decide(std::string_view term, int uid, int board = kOtherBoard);
+
+// The same for a variable term without its prefix. One with more than kKeplMaxTerm characters has no parts.
+Decision decideVariable(std::string_view term, int uid);
+
+// The term in a piece of a line between commas: its first kKeplMaxTerm characters count, the leading blanks
+// among them are left out.
+std::string_view termOf(std::string_view piece);
+
+// ---- For completion and help ---------------------------------------------------------------------------
+
+// A term that begins with the word is the command; letter case does not count.
+struct CommandWord {
+    std::string_view word;
+    int lowestUid; // INT_MIN: everybody; for the shell, see kShellLevel
+    Command command;
+};
+std::span<const CommandWord> commandWords();
+
+// A term that is the word; letter case does not count.
+struct OperationWord {
+    std::string_view word;
+    Operation operation;
+};
+std::span<const OperationWord> operationWords();
+
+inline constexpr std::string_view kPrefixes[] = {"TLX_", "LVR_"};
+inline constexpr std::string_view kOptions[] = {"-p", "-c", "-h"};
+
+// Rights that reading any parameter takes, writing one (or more, see userlevel), running any shell command.
+inline constexpr int kReadLevel = 1, kWriteLevel = 2, kShellLevel = 3;
+
+// What a shell command must not contain on a board.
+std::span<const std::string_view> forbiddenOn(int board);
+
+} // namespace talux::kepl
+
+#endif

@@ -1,0 +1,75 @@
+#include "ParamSystem/kepl/Evaluation.h"
+
+#include <cstring>
+
+#include "ParamSystem/dictionary/Types.h"
+#include "ParamSystem/kepl/Answer.h"
+#include "ParamSystem/support/Text.h"
+
+namespace talux::kepl {
+
+namespace {
+
+TermResult push(double number, Slot slot, int& count) {
+    if (!slot.put(number, kTypeDouble)) return refused(Refusal::syntaxError);
+    ++count;
+    return {};
+}
+
+} // namespace
+
+Refusal Evaluation::take(const Decision& decision) {
+    const TermResult result = carryOut(decision);
+    if (result.refusal != Refusal::none || result.says == Says::unchanged) return result.refusal;
+    output = result.says;
+    if (decision.isVariable && output == Says::value) ++stack.count;
+    // A text that was read stays in the result should a later term fail.
+    if (decision.isVariable && output == Says::text) copyText(caller.result, kKeplTextSize, txt);
+    return Refusal::none;
+}
+
+TermResult Evaluation::carryOut(const Decision& decision) {
+    switch (decision.action) {
+    case Action::refuse:
+        return refused(decision.refusal);
+    case Action::push:
+        return push(decision.value->number(), stack.next(), stack.count);
+    case Action::compute:
+        return compute(decision.operation, stack);
+    case Action::command:
+        return runCommand(decision, iniPath, txt);
+    case Action::shell:
+    case Action::askForShell:
+    case Action::endProcess:
+        return runShellTerm(decision, caller.dataOut, caller.terminator, txt);
+    default:
+        return accessVariable(decision, txt, stack.next());
+    }
+}
+
+Refusal Evaluation::finish() {
+    switch (output) {
+    case Says::done:
+        answer("");
+        return Refusal::none;
+    case Says::text:
+        answer(txt);
+        return Refusal::none;
+    case Says::nothing:
+        *caller.result = '\0';
+        return Refusal::none;
+    default:
+        break;
+    }
+    if (stack.count == 0) return Refusal::syntaxError;
+    const int top = stack.count - 1;
+    answer(NumberText(stack.values[top], typeOf(stack.types[top]).shownDecimals).view());
+    return Refusal::none;
+}
+
+void Evaluation::answer(std::string_view text) {
+    std::memmove(caller.result, text.data(), text.size());
+    std::memcpy(caller.result + text.size(), caller.terminator, std::strlen(caller.terminator) + 1);
+}
+
+} // namespace talux::kepl

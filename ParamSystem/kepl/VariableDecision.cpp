@@ -1,0 +1,207 @@
+// Decisions about variable terms: the parts of the term, and every check in its order.
+#include <algorithm>
+#include <cmath>
+
+#include "ParamSystem/dictionary/Lookup.h"
+#include "ParamSystem/kepl/Decision.h"
+#include "ParamSystem/kepl/Words.h"
+#include "ParamSystem/support/Parse.h"
+#include "ParamSystem/support/Text.h"
+
+namespace talux::kepl {
+
+namespace {
+
+constexpr int kSecurityLevel = 3;
+
+// The measurement snapshot may be requested by everybody who may read it.
+constexpr std::string_view kOpenToReaders = "mw_req";
+
+// ---- Parts --------------------------------------------------------------------------------------------
+
+// Leaves the style alone when the word is no option.
+void takeOption(std::string_view word, Style& style) {
+    constexpr Style kStyles[] = {Style::lines, Style::columns, Style::hex};
+    for (std::size_t k = 0; k < std::size(kOptions); ++k)
+        if (word == kOptions[k]) style = kStyles[k];
+}
+
+void takeIndices(std::string_view word, VariableTerm& parts) {
+    for (VarLong* const index : {&parts.first, &parts.last}) {
+        const std::string_view piece = takeWord(word, ".");
+        if (piece.empty()) break;
+        ++parts.indices;
+        if (parseLong(piece, index) != kParsed) parts.indicesAreNumbers = false;
+    }
+    if (parts.indices == 1) parts.last = parts.first;
+}
+
+VariableTerm partsOf(std::string_view term) {
+    VariableTerm parts;
+    if (term.size() > kKeplMaxTerm) return parts;
+    std::string_view left = takeWord(term, "=");
+    const std::string_view right = takeWord(term, "=");
+    if (!right.empty()) parts.value = withoutLeading(right, " ");
+
+    constexpr std::string_view kBlanks = " \r\n";
+    const std::string_view name = takeWord(left, kBlanks);
+    const std::string_view second = takeWord(left, kBlanks);
+    if (!name.empty()) parts.name = name;
+    if (second.starts_with('-'))
+        takeOption(second, parts.style);
+    else
+        takeIndices(second, parts);
+    takeOption(takeWord(left, kBlanks), parts.style);
+    return parts;
+}
+
+// ---- Checks -------------------------------------------------------------------------------------------
+
+// Each check is true when nothing stands against the term, and otherwise names the refusal: the first one of
+// read() or write() that fails decides.
+class Checks {
+public:
+    Checks(Decision& made, int callersUid) : decision(made), parts(made.variable), uid(callersUid) {}
+
+    bool read() {
+        return indicesAreNumbers() && mayRead() && isKnown() && isReadable() && indexIsWanted() &&
+               (parts.indices < 2 ? indexFits() : rangeFits());
+    }
+
+    bool write() {
+        return indicesAreNumbers() && mayWrite() && hasValue() && isKnown() && note() && isWritable() &&
+               hasLevel() && indexIsWanted() && indexFits() && valueFits();
+    }
+
+private:
+    Decision& decision;
+    const VariableTerm& parts;
+    const int uid;
+
+    const stParamProperties& row() const { return *decision.row; }
+
+    bool refuse(Refusal refusal) {
+        decision.refusal = refusal;
+        return false;
+    }
+
+    bool indicesAreNumbers() { return parts.indicesAreNumbers || refuse(Refusal::indexNotANumber); }
+
+    bool mayRead() { return uid >= kReadLevel || refuse(Refusal::rightsTooLow); }
+
+    bool mayWrite() {
+        return uid >= kWriteLevel || equalIgnoringCase(parts.name, kOpenToReaders) ||
+               refuse(Refusal::rightsTooLow);
+    }
+
+    bool hasValue() { return !parts.value->empty() || refuse(Refusal::syntaxError); }
+
+    bool isKnown() { return decision.row != nullptr || refuse(Refusal::syntaxError); }
+
+    bool isReadable() { return row().val_access != kWriteOnly || refuse(Refusal::writeOnly); }
+
+    bool isWritable() { return row().val_access != kReadOnly || refuse(Refusal::readOnly); }
+
+    // Attempts on security parameters are noted even if they are refused from here on.
+    bool note() {
+        decision.isNoted = row().userlevel >= kSecurityLevel;
+        return true;
+    }
+
+    bool hasLevel() { return uid >= row().userlevel || refuse(Refusal::rightsTooLow); }
+
+    // An index is given where one is needed, and none where none is.
+    bool indexIsWanted() {
+        if (parts.indices == 0)
+            return row().val_min_id <= 0 || row().val_max_id <= 0 || refuse(Refusal::indexRequired);
+        return row().val_min_id != 0 || row().val_max_id != 0 || refuse(Refusal::noIndexAllowed);
+    }
+
+    bool fits(VarLong index, Refusal tooLow, Refusal tooHigh) {
+        if (index < row().val_min_id) return refuse(tooLow);
+        return index <= row().val_max_id || refuse(tooHigh);
+    }
+
+    // Of a write, the second index does not count.
+    bool indexFits() {
+        return parts.indices == 0 || fits(parts.first, Refusal::indexTooLow, Refusal::indexTooHigh);
+    }
+
+    bool rangeFits() {
+        return fits(parts.first, Refusal::index1TooLow, Refusal::index1TooHigh) &&
+               fits(parts.last, Refusal::index2TooLow, Refusal::index2TooHigh) &&
+               (parts.first <= parts.last || refuse(Refusal::index1GreaterThanIndex2));
+    }
+
+    bool valueFits() {
+        switch (typeOf(row()).nature) {
+        case Nature::text:
+        case Nature::address:
+            decision.value.emplace(unquoted(*parts.value));
+            return true;
+        case Nature::date:
+            return clockFits("-\"");
+        case Nature::time:
+            return clockFits(":\"");
+        case Nature::none: // commands and records: the number is checked, the store keeps nothing
+        case Nature::record:
+        case Nature::number:
+            break;
+        }
+        return numberFits();
+    }
+
+    // Three numbers, whatever they are.
+    bool clockFits(std::string_view separators) {
+        std::string_view rest = *parts.value;
+        const auto takeNumber = [&](VarLong& number) {
+            return parseLong(takeWord(rest, separators), &number) == kParsed;
+        };
+        return std::ranges::all_of(decision.clock, takeNumber) || refuse(Refusal::syntaxError);
+    }
+
+    bool numberFits() {
+        double number = 0;
+        if (parseDouble(*parts.value, &number) != kParsed || std::isnan(number))
+            return refuse(Refusal::syntaxError);
+        decision.value.emplace(number);
+        if (number < row().val_min) return refuse(Refusal::valueTooLow);
+        return number <= row().val_max || refuse(Refusal::valueTooHigh);
+    }
+
+    // A text that begins with a double quote loses its first and its last character.
+    static std::string_view unquoted(std::string_view text) {
+        if (!text.starts_with('"')) return text;
+        text.remove_prefix(1);
+        return text.substr(0, text.size() - !text.empty()); // of a lone quote nothing is left
+    }
+};
+
+Action readOf(const Decision& decision) {
+    if (decision.variable.indices > 0) return Action::readElements;
+    return typeOf(*decision.row).nature == Nature::record ? Action::readRecord : Action::readScalar;
+}
+
+Action writeOf(const Decision& decision) {
+    const Nature nature = typeOf(*decision.row).nature;
+    return nature == Nature::date || nature == Nature::time ? Action::setClock : Action::write;
+}
+
+} // namespace
+
+Decision decideVariable(std::string_view term, int uid) {
+    Decision decision;
+    decision.term = term;
+    decision.isVariable = true;
+    decision.variable = partsOf(term);
+    decision.row = findParameter(decision.variable.name);
+    const bool isWrite = decision.variable.value.has_value();
+    Checks checks(decision, uid);
+    if (!(isWrite ? checks.write() : checks.read())) return decision;
+    decision.action = isWrite ? writeOf(decision) : readOf(decision);
+    const int element = decision.variable.indices == 0 ? 0 : static_cast<int>(decision.variable.first) - 1;
+    decision.id = decision.row->id + element;
+    return decision;
+}
+
+} // namespace talux::kepl
