@@ -68,7 +68,7 @@ inline constexpr Note kNotes[] = {
      "busbar; f, b: forward, backward."},
     {"frequency",
      "1 oder 2 wird an die Messung weitergegeben; welche Zahl für welche Nennfrequenz steht, ist hier nicht "
-     "festgehalten. Die Frequenzüberwachung hat mit freq_f_grid einen eigenen Sollwert.",
+     "festgehalten. Die Frequenzüberwachung hat mit freq_f_grid einen eigenen Bezugswert.",
      "1 or 2 is passed on to the measurement; which number stands for which nominal frequency is not kept here. "
      "The frequency supervision has a reference of its own, freq_f_grid."},
     {"Uassign{1,2,3,0}",
@@ -110,8 +110,8 @@ inline constexpr Note kNotes[] = {
     {"skew_type",
      "1 bis 4, wird an die Messung weitergegeben; die Bedeutung der Zahlen ist hier nicht festgehalten. Den "
      "Werkswert 4 nicht ohne Anlass ändern.",
-     "1 to 4, passed on to the measurement; the meaning of the numbers is not kept here. Leave the factory value 4 "
-     "without good reason."},
+     "1 to 4, passed on to the measurement; the meaning of the numbers is not kept here. Do not change the factory "
+     "value 4 without good reason."},
     {"f50_sync", "Zahl, wird an die Messung weitergegeben; ihre Bedeutung ist hier nicht festgehalten.",
      "Number, passed on to the measurement; its meaning is not kept here."},
     {"LOG_BAFs_enable", "Was die Zahlen 1 bis 3 unterscheidet, ist hier nicht festgehalten.",
@@ -171,6 +171,8 @@ inline constexpr Note kNotes[] = {
      "at 65535."},
     {"UImo UImo2", "Anordnung und Zahlenformat der Messwerte sind hier nicht festgehalten.",
      "The order and number format of the measured values are not kept here."},
+    {"Modbus_StoreTime", "Welche Werte gespeichert werden, ist hier nicht festgehalten.",
+     "Which values are stored is not kept here."},
     {"T104_T{0..3}",
      "Ganze Sekunden; Nachkommastellen fallen weg. Die Norm verlangt T2 < T1; geprüft wird das nicht.",
      "Whole seconds; a fraction is cut off. The standard demands T2 < T1; nothing checks it."},
@@ -244,7 +246,20 @@ inline constexpr Note kNotes[] = {
      "The reference is Unom; whether that is U12 or the phase-to-earth voltage is not kept here (factor 1.73)."},
     {"preBuff_Umin preBuff_dUo qu2_rot_grad_min",
      "Einheit hier nicht festgehalten. Den Werkswert nicht ohne Anlass ändern.",
-     "The unit is not kept here. Leave the factory value without good reason."},
+     "The unit is not kept here. Do not change the factory value without good reason."},
+    {"U_Hz_proz", "Welche Spannung gemeint ist, ist hier nicht festgehalten.",
+     "Which voltage is meant is not kept here."},
+    {"qu2_MsgResetEf", "Ob mit dem Beginn oder dem Ende des Erdschlusses, ist hier nicht festgehalten.",
+     "Whether with the start or the end of the earth fault is not kept here."},
+    {"adm_Uo_enabled p50_Uen_active", "Welche Schwelle freigibt, ist hier nicht festgehalten.",
+     "Which threshold enables is not kept here."},
+    {"harm1_angle harm2_angle cos_w_min sin_w_min",
+     "Von welcher Achse der Winkel zählt, ist hier nicht festgehalten.",
+     "From which axis the angle counts is not kept here."},
+    {"cos_store_active", "Bis wann, ist nicht bekannt.", "Until when is not known here."},
+    {"pHPCI_dPhi pHPCI_Yo_quot_abs pHPCI_Yo_quot_phi",
+     "Wie der Wert in die Entscheidung eingeht, ist hier nicht festgehalten. Den Werkswert nicht ohne Anlass ändern.",
+     "How the value enters the decision is not kept here. Do not change the factory value without good reason."},
     {"{Uearth,qu2,qui,harm1,harm2,cos,sin,cos_sin}_SigDur {Uearth,qu2,qui,harm1,harm2,cos,sin,cos_sin}_SigDur_LED "
      "p50_SigDur sc_SigDur sc_SigDur_LED {adm,pHPCI,freq}_T_hold {adm,pHPCI,freq}_T_hold_LED",
      "Was 0 bedeutet (keine Meldung, solange die Ursache ansteht oder dauernd), ist hier nicht festgehalten.",
@@ -266,7 +281,7 @@ inline constexpr Note kNotes[] = {
      "Which range is forward and how the angle counts is not kept here."},
     {"adm_dPhi_Yo",
      "Was der Wert begrenzt, ist hier nicht festgehalten. Den Werkswert nicht ohne Anlass ändern.",
-     "What the value limits is not kept here. Leave the factory value without good reason."},
+     "What the value limits is not kept here. Do not change the factory value without good reason."},
     {"adm_fu adm_fo", "Dass die untere Grenze unter der oberen liegt, wird nicht geprüft.",
      "Nothing checks that the lower limit lies below the upper one."},
     {"p50_T_on p50_T_off p50_P_min p50_P_sum", "Muss zur Taktung im Umspannwerk passen.",
@@ -287,9 +302,10 @@ inline constexpr Note kNotes[] = {
     {"BAF_cnt_val_dT{1..2} OVR_time OVR_MW_time OVR_MW_BE_time", "Einheit hier nicht festgehalten.",
      "The unit is not kept here."},
     {"max_ini_files",
-     "Laden und Speichern über diese Bibliothek löschen keine Datei; wer die Zahl auswertet, ist hier nicht "
-     "festgehalten.",
-     "Loading and saving through this library delete no file; which program uses the number is not kept here."},
+     "Laden und Speichern über diese Bibliothek löschen keine datierte Kopie; welches Programm die Zahl auswertet, "
+     "ist hier nicht festgehalten.",
+     "Loading and saving through this library delete no dated copy; which program uses the number is not kept "
+     "here."},
     {"BA_red_cnt", "Einheit und genaue Wirkung sind hier nicht festgehalten.",
      "Unit and exact effect are not kept here."},
     {"sec_mode", "Nicht schreibbar. Laden der Sicherheitsdatei setzt 1, auch wenn die Datei fehlt.",
