@@ -8,14 +8,14 @@ namespace talux::texts {
 
 inline constexpr TextEntry kRecords[] = {
     value("MessRecord01", {"Messdatensatz 1", "Measurement record 1"},
-          {"Zeitgleicher Satz der Spannungen, Ströme, Winkel und Leistungen",
-           "Set of voltages, currents, angles and powers of one moment"}),
+          {"Spannungen, Ströme, Winkel, Leistungen und Frequenz",
+           "Voltages, currents, angles, powers and frequency"}),
     value("MessRecord02", {"Messdatensatz 2", "Measurement record 2"},
-          {"Zeitgleicher Satz der Oberschwingungen, Eingangsspannungen und Zustände",
-           "Set of harmonics, input voltages and states of one moment"}),
-    value("StatRecord_c0", {"Statistiksatz", "Statistics record"},
-          {"Größt-, Kleinst- und Mittelwerte des letzten Statistikintervalls",
-           "Maxima, minima and averages of the last statistics interval"}),
+          {"Oberschwingungen, Spannungen der Binäreingänge und Zustandswörter",
+           "Harmonics, voltages of the binary inputs and state words"}),
+    value(
+        "StatRecord_c0", {"Statistiksatz", "Statistics record"},
+        {"Größt-, Kleinst- und Mittelwerte der Statistik", "Maxima, minima and averages of the statistics"}),
 };
 
 } // namespace talux::texts
