@@ -141,7 +141,8 @@ TEST_F(Texts, CoverTheCatalogue) {
             const std::string_view title = plain(language, id, kTextTitle);
             check(title != "***", "no title");
             check(name.find('_') == name.npos || title != name, "the title is the name");
-            check(isTemplate || row.is_volatile != 0 || name.starts_with("stat_") ||
+            check(isTemplate || row.is_volatile != 0 || row.val_access == kReadOnly ||
+                      name.starts_with("stat_") || name.starts_with("UserText") ||
                       plain(language, id, kTextDescription) != "***",
                   "no description");
             const auto choices = std::count_if(texts().begin(), texts().end(), [&](const stParamText& t) {

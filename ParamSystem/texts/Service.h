@@ -32,19 +32,18 @@ inline constexpr TextEntry kService[] = {
              "Copy only the parameter files to the USB stick"},
             kWait, kUsbResults),
     command("USB_SaveAllMac", {"Alles auf USB (MAC)", "Save all to USB (MAC)"},
-            {"Wie Alles sichern, in einen Ordner mit der MAC-Adresse des Geräts",
-             "As Save all, into a folder named after the device's MAC address"},
+            {"Wie Alles auf USB sichern, unter der MAC-Adresse des Geräts",
+             "As Save all to USB, under the device's MAC address"},
             kWait, kUsbResults),
     command("USBparameter", {"Parameter von USB", "Load parameters from USB"},
             {"Parameterdateien vom USB-Stick einlesen", "Read parameter files from the USB stick"}, kWait),
     command("Logbook", {"Logbuch", "Logbook"},
-            {"Ereignisliste auf der Anzeige öffnen", "Open the list of events on the display"}),
+            {"Logbuch auf der Anzeige öffnen", "Open the logbook on the display"}),
     command(
         "LCD_log_clear", {"LCD-Logbuch löschen", "Clear LCD logbook"},
         {"Alle Einträge des Logbuchs der Anzeige löschen", "Delete all entries of the display's logbook"}),
     command("LCD_Test", {"Anzeigetest", "Display test"},
-            {"Alle Bildpunkte der Anzeige zur Prüfung einschalten",
-             "Switch all pixels of the display on as a test"}),
+            {"Prüfung der Anzeige beginnen", "Begin the test of the display"}),
 };
 
 } // namespace talux::texts

@@ -7,11 +7,8 @@
 namespace talux::texts {
 
 inline constexpr TextEntry kSignals[] = {
-    value("REL{1..8}", {"Relais {n}", "Relay {n}"},
-          {"Zustand von Ausgangsrelais {n}", "State of output relay {n}"}),
-    value("BE{1..6}", {"Binäreingang {n}", "Binary input {n}"},
-          {"Zustand von Binäreingang {n} nach Polarität und Schwelle",
-           "State of binary input {n} after polarity and threshold"}),
+    label("REL{1..8}", {"Zustand Relais {n}", "State of relay {n}"}),
+    label("BE{1..6}", {"Zustand Binäreingang {n}", "State of binary input {n}"}),
     label("MW_meas_disp{1..13}", {"Anzeigewert {n}", "Display value {n}"}),
 };
 

@@ -36,9 +36,10 @@ inline constexpr TextEntry kTimeServices[] = {
             "Serial port on which the time is sent"},
            {"Port 1|Port 2|Port 3", "Port 1|Port 2|Port 3"}),
     value("VELMO_tsyncdelay", {"VELMO-Sendeabstand", "VELMO send interval"},
-          {"Abstand zweier Zeittelegramme, als hh:mm", "Time between two time telegrams, as hh:mm"}),
+          {"Abstand zweier Zeittelegramme als Text, ab Werk 00:01",
+           "Time between two time telegrams as a text, factory value 00:01"}),
     value("VELMO_format", {"VELMO-Format", "VELMO format"},
-          {"Aufbau des Zeittelegramms, Format 1 oder 2", "Layout of the time telegram, format 1 or 2"}),
+          {"Aufbau des Zeittelegramms, Zahl 1 oder 2", "Layout of the time telegram, number 1 or 2"}),
     value("VELMO_cstring", {"VELMO-Zeittext", "VELMO time text"},
           {"Aufbau von Datum und Zeit im Telegramm, mit Platzhaltern wie %d oder %H",
            "Layout of date and time in the telegram, with placeholders such as %d or %H"}),
@@ -53,10 +54,10 @@ inline constexpr TextEntry kTimeServices[] = {
           {"Erstes Register, in das die Uhrzeit geschrieben wird",
            "First register that the time is written to"}),
     value("Modbustime_tsyncdelay", {"Modbus-Zeit Abstand", "Modbus time interval"},
-          {"Abstand zweier Zeittelegramme, als hh:mm", "Time between two time telegrams, as hh:mm"}),
+          {"Abstand zweier Schreibvorgänge als Text, ab Werk 01:00",
+           "Time between two writes as a text, factory value 01:00"}),
     value("log_time_change", {"Zeitsprünge ins Logbuch", "Log time changes"},
-          {"Jedes Stellen der Uhr in das Logbuch schreiben",
-           "Write every setting of the clock to the logbook"}),
+          {"Änderungen der Uhrzeit in das Logbuch schreiben", "Write changes of the time to the logbook"}),
 };
 
 } // namespace talux::texts

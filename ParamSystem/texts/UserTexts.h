@@ -7,9 +7,7 @@
 namespace talux::texts {
 
 inline constexpr TextEntry kUserTexts[] = {
-    value("UserText{1..16}", {"Benutzertext {n}", "User text {n}"},
-          {"Frei wählbarer Text {n}, der Meldungen und Aufzeichnungen beigefügt wird",
-           "Free text {n} that is added to signals and records"}),
+    label("UserText{1..16}", {"Benutzertext {n}", "User text {n}"}),
 };
 
 } // namespace talux::texts
