@@ -72,15 +72,11 @@ inline constexpr Note kNotes[] = {
      "1 or 2 is passed on to the measurement; which number stands for which nominal frequency is not kept here. "
      "The frequency supervision has a reference of its own, freq_f_grid."},
     {"Uassign{1,2,3,0}",
-     "Zahl von 1 bis 5, wird an die Messung weitergegeben; ihre Bedeutung ist hier nicht festgehalten. Werk: U1 = "
-     "3, U2 = 4, U3 = 5, U0 = 2.",
-     "Number from 1 to 5, passed on to the measurement; its meaning is not kept here. Factory: U1 = 3, U2 = 4, "
-     "U3 = 5, U0 = 2."},
+     "Zahl von 1 bis 5, wird an die Messung weitergegeben; ihre Bedeutung ist hier nicht festgehalten.",
+     "Number from 1 to 5, passed on to the measurement; its meaning is not kept here."},
     {"Iassign{1,2,3,0}",
-     "Zahl von 0 bis 5, wird an die Messung weitergegeben; ihre Bedeutung ist hier nicht festgehalten. Werk: I1 = "
-     "3, I2 = 4, I3 = 5, I0 = 2.",
-     "Number from 0 to 5, passed on to the measurement; its meaning is not kept here. Factory: I1 = 3, I2 = 4, "
-     "I3 = 5, I0 = 2."},
+     "Zahl von 0 bis 5, wird an die Messung weitergegeben; ihre Bedeutung ist hier nicht festgehalten.",
+     "Number from 0 to 5, passed on to the measurement; its meaning is not kept here."},
     {"qu_signalling",
      "2 oder 3 (1 wird abgelehnt), wird an die Erdschlusserfassung weitergegeben; die Bedeutung der Zahlen ist "
      "hier nicht festgehalten.",
@@ -109,9 +105,9 @@ inline constexpr Note kNotes[] = {
      "1 or 2, passed on to the time sender; the layout of the two formats is not kept here."},
     {"skew_type",
      "1 bis 4, wird an die Messung weitergegeben; die Bedeutung der Zahlen ist hier nicht festgehalten. Den "
-     "Werkswert 4 nicht ohne Anlass ändern.",
+     "Werkswert nicht ohne Anlass ändern.",
      "1 to 4, passed on to the measurement; the meaning of the numbers is not kept here. Do not change the factory "
-     "value 4 without good reason."},
+     "value without good reason."},
     {"f50_sync", "Zahl, wird an die Messung weitergegeben; ihre Bedeutung ist hier nicht festgehalten.",
      "Number, passed on to the measurement; its meaning is not kept here."},
     {"LOG_BAFs_enable", "Was die Zahlen 1 bis 3 unterscheidet, ist hier nicht festgehalten.",
@@ -208,9 +204,9 @@ inline constexpr Note kNotes[] = {
      "Ob und welche Prozentwerte (etwa Uearth) sich auf diese Spannung beziehen, ist hier nicht festgehalten.",
      "Whether any percentages (such as Uearth), and which, refer to this voltage is not kept here."},
     {"knu0",
-     "Der Werkswert 115 passt zu 20 kV / √3 auf 100 V, also zu einer offenen Dreieckswicklung, die bei sattem "
+     "Der Werkswert passt zu 20 kV / √3 auf 100 V, also zu einer offenen Dreieckswicklung, die bei sattem "
      "Erdschluss 100 V liefert. Für andere Wandler neu berechnen.",
-     "The factory value 115 fits 20 kV / √3 to 100 V, that is an open-delta winding that delivers 100 V with a "
+     "The factory value fits 20 kV / √3 to 100 V, that is an open-delta winding that delivers 100 V with a "
      "solid earth fault. Calculate anew for other transformers."},
     {"Uen_calc 3Io_calc",
      "Welche Übersetzung und welche Polarität dann für Kanal 0 gelten, ist hier nicht festgehalten.",
@@ -291,8 +287,8 @@ inline constexpr Note kNotes[] = {
     {"pHPCI_Q_pulse", "Muss zur Stromeinspeisung passen.", "Must match the current injection."},
     {"{qui,harm1,harm2,cos,sin,cos_sin,p50}_dT_log adm_log_dT",
      "Was 0 bedeutet, ist hier nicht festgehalten.", "What 0 means is not kept here."},
-    {"freq_df_min freq_df_max", "Ab Werk sind beide +0,1 Hz, also Beträge ohne Vorzeichen.",
-     "The factory values are both +0.1 Hz, so magnitudes without a sign."},
+    {"freq_df_min freq_df_max", "Ab Werk sind beide Werte positiv, also Beträge.",
+     "The factory values are both positive, so magnitudes."},
 
     // Recorder, other settings, run-time values.
     {"rec_retrig_t BAF_cnt_val_dT{1..2}", "Was -1 bedeutet, ist hier nicht festgehalten.",
