@@ -1,4 +1,5 @@
 // Look-ups and symbols against plain scans of the table.
+#include "ParamSystem/TALUX_ParamCounts.h"
 #include "ParamSystem/TALUX_Params.h"
 
 #include <gtest/gtest.h>
