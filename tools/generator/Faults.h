@@ -10,7 +10,7 @@
 namespace talux::generator {
 
 struct Fault {
-    std::source_location where; // the row
+    std::source_location where; // the row, if there is one
     std::string subject;        // its name
     std::string rule;
 };

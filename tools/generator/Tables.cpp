@@ -117,8 +117,8 @@ std::string settingTable(const std::vector<Parameter>& parameters) {
         ++position;
         if (parameter.isSetting()) rows += row(number(position), number(parameter.id()));
     }
-    return "static const Setting settings[] = {\n" + rows +
-           "};\nconstinit const std::span<const Setting> kSettings = settings;\n";
+    return "static const Setting settingRows[] = {\n" + rows +
+           "};\nconstinit const std::span<const Setting> kSettings = settingRows;\n";
 }
 
 std::string familyTable(std::span<const catalogue::Family> families, Pool& pool) {

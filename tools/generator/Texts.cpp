@@ -194,13 +194,15 @@ std::vector<Text> spellOut(std::span<const TextFamily> families, const std::vect
             }
         }
     }
+    if (!faults.empty()) return {};
     std::vector<Text> texts = table.inOrder(faults);
     if (texts.size() > kMostTexts)
         faults.push_back(
-            {std::source_location::current(), std::to_string(texts.size()) + " texts",
-             "the table takes " + std::to_string(kMostTexts) +
-                 ": share choices through a template, drop texts of what nobody sees, or let the "
-                 "table grow (kParamTextRows, which other programs have compiled in)"});
+            {{},
+             "ParamSystem/texts",
+             std::to_string(texts.size()) + " texts, the table takes " + std::to_string(kMostTexts) +
+                 ": share choices through a template, drop descriptions of what nobody sees, or let "
+                 "the table grow (kParamTextRows, which other programs have compiled in)"});
     return texts;
 }
 

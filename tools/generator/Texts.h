@@ -17,7 +17,7 @@ struct Text {
     std::string text;
 };
 
-// In the order of the subjects; what breaks a rule is left out and reported.
+// In the order of the subjects. What breaks a rule is reported.
 std::vector<Text> spellOut(std::span<const TextFamily> families, const std::vector<TextSubject>& subjects,
                            Faults& faults);
 
