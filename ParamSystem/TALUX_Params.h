@@ -61,13 +61,9 @@ struct stParamSymbol {
     const char* name;
 };
 
-// Parameter rows between the two sentinels, and rows of the working table.
-inline constexpr int kParamCount = 2416;
-inline constexpr int kParamTableRows = kParamCount + 2 + 98;
-
 // The compiled-in table: sentinels with id 0 and name "***" first and last, the parameters between them
-// in menu order.
-extern TALUX_API const stParamProperties DefParamProperties[kParamCount + 2];
+// in menu order. kParamCount, their number, is told at the end of this header.
+extern TALUX_API const stParamProperties DefParamProperties[];
 
 // A family of the menus: the parameters from table position `first` to `last`.
 struct stParamFamily {
@@ -76,18 +72,16 @@ struct stParamFamily {
     int last;
 };
 
-inline constexpr int kParamFamilyCount = 24;
-
-// The families in table order; together they hold every parameter.
-extern TALUX_API const stParamFamily DefParamFamilies[kParamFamilyCount];
+// The families in table order, kParamFamilyCount of them; together they hold every parameter.
+extern TALUX_API const stParamFamily DefParamFamilies[];
 
 // "VAR_" and "CMD_" names; the first and the last row are named "***".
 extern TALUX_API const stParamSymbol DefParamSymbols[];
 
 /*
- * Fills the working table from DefParamProperties. Returns 1. Called once at start-up, before any look-up
- * and any second thread; the look-ups are then thread-safe, and the rows that they hand out stay valid
- * for the life of the process.
+ * Fills the working table from DefParamProperties: before, the look-ups find nothing. Returns 1. Called once
+ * at start-up, before any look-up and any second thread; the look-ups are then thread-safe, and the rows that
+ * they hand out stay valid for the life of the process.
  */
 TALUX_API int LoadDefParamProperties();
 
@@ -146,5 +140,11 @@ inline constexpr int kFirstSysTime = 14000, kSysTimeCount = 1;
 inline constexpr int kFirstId = 15000, kIdCount = 1;
 inline constexpr int kFirstIp = 16000, kIpCount = 38;
 inline constexpr int kFirstStruct = 30000, kStructCount = kRecordCount;
+
+// How many parameters and families there are. The project's own sources include it where they need it, so
+// that a new parameter does not compile all of them.
+#ifndef TALUX_PARAMCOUNTS_ASIDE
+#include "ParamSystem/TALUX_ParamCounts.h"
+#endif
 
 #endif

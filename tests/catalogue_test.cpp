@@ -1,6 +1,7 @@
 // What the device's other programs rely on, and the fields of the rows that the pages of docs/parameters
 // leave out; those show every name, id, kind, default, range, length and right, and a test of their own
 // compares them.
+#include "ParamSystem/TALUX_ParamCounts.h"
 #include "ParamSystem/TALUX_Params.h"
 
 #include <gtest/gtest.h>

@@ -124,7 +124,7 @@ TEST_F(Values, OfNoRecordAreReportedByTheCommit) {
 TEST_F(Values, AreSetToTheirDefaultsInTheTemporarySpaceOnly) {
     LoadDefParamProperties();
     VarSetDefault();
-    for (int k = 1; k <= kParamCount; ++k) {
+    for (int k = 1; DefParamProperties[k].id != 0; ++k) {
         const stParamProperties& row = DefParamProperties[k];
         modelWrite(model[kTemp], row.id, row.val_def, row.val_def_text);
     }
@@ -140,7 +140,7 @@ TEST_F(Values, AreSetToTheirDefaultsInTheTemporarySpaceOnly) {
 TEST_F(Values, OfPersistentParametersAreCommittedAndNoOthers) {
     LoadDefParamProperties();
     std::map<int, int> committed;
-    for (int k = 1; k <= kParamCount; ++k) {
+    for (int k = 1; DefParamProperties[k].id != 0; ++k) {
         const stParamProperties& row = DefParamProperties[k];
         if (row.is_volatile == 1 || (row.id >= 18000 && row.id <= 19020)) continue;
         modelCopy(model[kGlobal], model[kTemp], row.id);

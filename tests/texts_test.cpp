@@ -1,4 +1,5 @@
 // The compiled-in texts, their look-ups in two languages and the TXT_ names.
+#include "ParamSystem/TALUX_ParamCounts.h"
 #include "ParamSystem/TALUX_ParamStrings.h"
 
 #include <gmock/gmock.h>

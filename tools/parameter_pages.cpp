@@ -14,6 +14,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ParamSystem/TALUX_ParamCounts.h"
 #include "ParamSystem/TALUX_ParamStrings.h"
 #include "ParamSystem/TALUX_Params.h"
 

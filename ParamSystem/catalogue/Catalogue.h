@@ -2,12 +2,11 @@
 #ifndef TALUX_CATALOGUE_CATALOGUE_H
 #define TALUX_CATALOGUE_CATALOGUE_H
 
-#include <span>
-
 #include "ParamSystem/catalogue/AnalogInputs.h"
 #include "ParamSystem/catalogue/BinaryIO.h"
 #include "ParamSystem/catalogue/Display.h"
 #include "ParamSystem/catalogue/EarthFault.h"
+#include "ParamSystem/catalogue/Family.h"
 #include "ParamSystem/catalogue/Firewall.h"
 #include "ParamSystem/catalogue/Identification.h"
 #include "ParamSystem/catalogue/Measurements.h"
@@ -16,7 +15,6 @@
 #include "ParamSystem/catalogue/ProcessImages.h"
 #include "ParamSystem/catalogue/Recorder.h"
 #include "ParamSystem/catalogue/Records.h"
-#include "ParamSystem/catalogue/Row.h"
 #include "ParamSystem/catalogue/Runtime.h"
 #include "ParamSystem/catalogue/Scripting.h"
 #include "ParamSystem/catalogue/Security.h"
@@ -32,18 +30,6 @@
 
 namespace talux::catalogue {
 
-struct Family {
-    const char* name;
-    std::span<const Row> rows;
-
-    constexpr int parameterCount() const {
-        int count = 0;
-        for (const Row& row : rows)
-            count += row.count();
-        return count;
-    }
-};
-
 inline constexpr Family kFamilies[] = {
     {"Templates", kTemplates},
     {"State", kState},
@@ -52,7 +38,7 @@ inline constexpr Family kFamilies[] = {
     {"Identification", kIdentification},
     {"Display", kDisplay},
     {"Network", kNetwork},
-    {"Firewall and services", kFirewall},
+    {"Firewall and services", kFirewall, kSecurityFamily},
     {"Time services", kTimeServices},
     {"Serial ports", kSerialPorts},
     {"Modbus slave", kModbusSlave},
@@ -65,7 +51,7 @@ inline constexpr Family kFamilies[] = {
     {"Recorder and statistics", kRecorder},
     {"User texts", kUserTexts},
     {"Service", kService},
-    {"Users and security", kSecurity},
+    {"Users and security", kSecurity, kSecurityFamily},
     {"Run-time values", kRuntime},
     {"Measurement snapshot", kSnapshot},
     {"Records", kRecords},

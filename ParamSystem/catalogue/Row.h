@@ -2,9 +2,14 @@
 #ifndef TALUX_CATALOGUE_ROW_H
 #define TALUX_CATALOGUE_ROW_H
 
+#include <source_location>
+
 #include "ParamSystem/TALUX_Params.h"
 
 namespace talux::catalogue {
+
+// The line that a row is written on: every verb notes where it is used, so that messages can say it.
+using Where = std::source_location;
 
 inline constexpr int kNoLength = -1;
 
@@ -16,12 +21,14 @@ struct Row {
     Series series = kSingle;
     int first = 0; // running numbers of the series
     int last = 0;
+    Where where{};
 
     constexpr int count() const { return series == kSingle ? 1 : last - first + 1; }
 };
 
-constexpr Row plainRow(int id, const char* name, int type) {
+constexpr Row plainRow(int id, const char* name, int type, Where where) {
     Row row;
+    row.where = where;
     row.properties = {.id = id,
                       .name = name,
                       .id_template = 0,
@@ -75,8 +82,8 @@ struct Number {
     double step = 1;
 };
 
-constexpr Row numeric(int id, const char* name, int type, const Number& number) {
-    Row row = plainRow(id, name, type);
+constexpr Row numeric(int id, const char* name, int type, const Number& number, Where where) {
+    Row row = plainRow(id, name, type, where);
     row.properties.id_template = number.like.id;
     row.properties.val_init = number.def;
     row.properties.val_def = number.def;
@@ -87,28 +94,30 @@ constexpr Row numeric(int id, const char* name, int type, const Number& number) 
 }
 
 // A 32-bit integer.
-constexpr Row number(int id, const char* name, const Number& value = {}) {
-    return numeric(id, name, kTypeLong, value);
+constexpr Row number(int id, const char* name, const Number& value = {}, Where where = Where::current()) {
+    return numeric(id, name, kTypeLong, value, where);
 }
 
 // A 16-bit integer.
-constexpr Row shortNumber(int id, const char* name, const Number& value = {}) {
-    return numeric(id, name, kTypeInt, value);
+constexpr Row shortNumber(int id, const char* name, const Number& value = {},
+                          Where where = Where::current()) {
+    return numeric(id, name, kTypeInt, value, where);
 }
 
 // A 32-bit float.
-constexpr Row decimal(int id, const char* name, const Number& value = {}) {
-    return numeric(id, name, kTypeFloat, value);
+constexpr Row decimal(int id, const char* name, const Number& value = {}, Where where = Where::current()) {
+    return numeric(id, name, kTypeFloat, value, where);
 }
 
-constexpr Row doubleNumber(int id, const char* name, const Number& value = {}) {
-    return numeric(id, name, kTypeDouble, value);
+constexpr Row doubleNumber(int id, const char* name, const Number& value = {},
+                           Where where = Where::current()) {
+    return numeric(id, name, kTypeDouble, value, where);
 }
 
 enum Switch { kOff, kOn };
 
-constexpr Row flag(int id, const char* name, Switch def = kOff) {
-    return numeric(id, name, kTypeBool, {.def = def == kOn ? 1.0 : 0.0, .min = 0, .max = 1});
+constexpr Row flag(int id, const char* name, Switch def = kOff, Where where = Where::current()) {
+    return numeric(id, name, kTypeBool, {.def = def == kOn ? 1.0 : 0.0, .min = 0, .max = 1}, where);
 }
 
 struct Choice {
@@ -118,50 +127,55 @@ struct Choice {
     double def = 1;
 };
 
-constexpr Row choice(int id, const char* name, const Choice& choice) {
+constexpr Row choice(int id, const char* name, const Choice& choice, Where where = Where::current()) {
     const int choices = choice.like.id != 0 ? choice.like.choices : choice.choices;
     return numeric(id, name, kTypeEnum,
-                   {.like = choice.like, .def = choice.def, .min = choice.min, .max = double(choices)});
+                   {.like = choice.like, .def = choice.def, .min = choice.min, .max = double(choices)},
+                   where);
 }
 
-constexpr Row textual(int id, const char* name, int type, int length, const char* def, const char* init) {
-    Row row = plainRow(id, name, type);
+constexpr Row textual(int id, const char* name, int type, int length, const char* def, const char* init,
+                      Where where) {
+    Row row = plainRow(id, name, type, where);
     row.properties.val_len = length;
     row.properties.val_def_text = def;
     row.properties.val_init_text = init != nullptr ? init : def;
     return row;
 }
 
-constexpr Row text(int id, const char* name, int length, const char* def = "", const char* init = nullptr) {
-    return textual(id, name, kTypeText, length, def, init);
+constexpr Row text(int id, const char* name, int length, const char* def = "", const char* init = nullptr,
+                   Where where = Where::current()) {
+    return textual(id, name, kTypeText, length, def, init, where);
 }
 
-constexpr Row identifier(int id, const char* name, int length, const char* def) {
-    return textual(id, name, kTypeId, length, def, nullptr);
+constexpr Row identifier(int id, const char* name, int length, const char* def,
+                         Where where = Where::current()) {
+    return textual(id, name, kTypeId, length, def, nullptr, where);
 }
 
-constexpr Row address(int id, const char* name, const char* def, const char* init = nullptr) {
-    return textual(id, name, kTypeIp, kNoLength, def, init);
+constexpr Row address(int id, const char* name, const char* def, const char* init = nullptr,
+                      Where where = Where::current()) {
+    return textual(id, name, kTypeIp, kNoLength, def, init, where);
 }
 
-constexpr Row interfaceAddress(int id, const char* name, const char* def) {
-    return textual(id, name, kTypeIpAddress, kNoLength, def, nullptr);
+constexpr Row interfaceAddress(int id, const char* name, const char* def, Where where = Where::current()) {
+    return textual(id, name, kTypeIpAddress, kNoLength, def, nullptr, where);
 }
 
-constexpr Row interfaceMask(int id, const char* name, const char* def) {
-    return textual(id, name, kTypeIpMask, kNoLength, def, nullptr);
+constexpr Row interfaceMask(int id, const char* name, const char* def, Where where = Where::current()) {
+    return textual(id, name, kTypeIpMask, kNoLength, def, nullptr, where);
 }
 
-constexpr Row interfaceGateway(int id, const char* name, const char* def) {
-    return textual(id, name, kTypeIpGateway, kNoLength, def, nullptr);
+constexpr Row interfaceGateway(int id, const char* name, const char* def, Where where = Where::current()) {
+    return textual(id, name, kTypeIpGateway, kNoLength, def, nullptr, where);
 }
 
-constexpr Row clockDate(int id, const char* name) {
-    return textual(id, name, kTypeSysDate, kNoLength, "0", nullptr);
+constexpr Row clockDate(int id, const char* name, Where where = Where::current()) {
+    return textual(id, name, kTypeSysDate, kNoLength, "0", nullptr, where);
 }
 
-constexpr Row clockTime(int id, const char* name) {
-    return textual(id, name, kTypeSysTime, kNoLength, "0", nullptr);
+constexpr Row clockTime(int id, const char* name, Where where = Where::current()) {
+    return textual(id, name, kTypeSysTime, kNoLength, "0", nullptr, where);
 }
 
 // Rights.
@@ -204,40 +218,40 @@ inline constexpr const char* kHarmonic = "%9.3f";
 inline constexpr const char* kAngle = "%5.1f";
 inline constexpr const char* kInputVoltage = "%4.1f";
 
-constexpr Row measured(int id, const char* name, const char* format) {
-    Row row = runtime(decimal(id, name));
+constexpr Row measured(int id, const char* name, const char* format, Where where = Where::current()) {
+    Row row = runtime(decimal(id, name, {}, where));
     row.properties.format = format;
     return row;
 }
 
 // A binary record of the struct segment.
-constexpr Row record(int id, const char* name) {
-    return runtime(plainRow(id, name, kTypeStruct));
+constexpr Row record(int id, const char* name, Where where = Where::current()) {
+    return runtime(plainRow(id, name, kTypeStruct, where));
 }
 
 // Rows without a stored value.
 
 // A trigger that the other programs of the device react to.
-constexpr Row command(int id, const char* name, int userlevel = 1) {
-    Row row = plainRow(id, name, kTypeCommand);
+constexpr Row command(int id, const char* name, int userlevel = 1, Where where = Where::current()) {
+    Row row = plainRow(id, name, kTypeCommand, where);
     row.properties.userlevel = userlevel;
     return row;
 }
 
-constexpr Row dialog(int id, const char* templateName) {
-    Row row = plainRow(id, "", kTypeNone);
+constexpr Row dialog(int id, const char* templateName, Where where = Where::current()) {
+    Row row = plainRow(id, "", kTypeNone, where);
     row.templateName = templateName;
     return row;
 }
 
-constexpr Row choiceTemplate(const Template& shared) {
-    Row row = choice(shared.id, "", {.choices = shared.choices, .def = 0});
+constexpr Row choiceTemplate(const Template& shared, Where where = Where::current()) {
+    Row row = choice(shared.id, "", {.choices = shared.choices, .def = 0}, where);
     row.templateName = shared.name;
     return row;
 }
 
-constexpr Row decimalTemplate(const Template& shared, const Number& value) {
-    Row row = decimal(shared.id, "", value);
+constexpr Row decimalTemplate(const Template& shared, const Number& value, Where where = Where::current()) {
+    Row row = decimal(shared.id, "", value, where);
     row.templateName = shared.name;
     return row;
 }

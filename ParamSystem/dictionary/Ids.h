@@ -2,37 +2,58 @@
 #ifndef TALUX_DICTIONARY_IDS_H
 #define TALUX_DICTIONARY_IDS_H
 
+#include <cstddef>
+
 #include "ParamSystem/TALUX_Params.h"
 
 namespace talux {
 
 struct IdBlock {
     int first;
-    int last;
+    int count;
 
-    constexpr int size() const { return last - first + 1; }
-    constexpr bool holds(int id) const { return id >= first && id <= last; }
+    constexpr bool holds(int id) const { return id >= first && id < first + count; }
 };
 
-constexpr IdBlock idBlock(int first, int count) {
-    return {first, first + count - 1};
+// What has no slot in the store.
+inline constexpr IdBlock kTemplateIds{18000, 100};
+inline constexpr IdBlock kCommandIds{19000, 100};
+
+// The most wanted first; the ints lie inside the block of the longs.
+inline constexpr IdBlock kIdBlocks[] = {
+    {kFirstLong, kLongCount},
+    {kFirstFloat, kFloatCount},
+    {kFirstBool, kBoolCount},
+    {kFirstEnum, kEnumCount},
+    {kFirstText, kTextCount},
+    {kFirstIp, kIpCount},
+    {kFirstDouble, kDoubleCount},
+    {kFirstSysDate, kSysDateCount},
+    {kFirstSysTime, kSysTimeCount},
+    {kFirstId, kIdCount},
+    kTemplateIds,
+    kCommandIds,
+    {kFirstStruct, kStructCount},
+};
+
+inline constexpr int kNoPlace = -1;
+
+// Place of an id in the row of all blocks.
+constexpr int placeOf(int id) {
+    int place = 0;
+    for (const IdBlock& block : kIdBlocks) {
+        if (block.holds(id)) return place + id - block.first;
+        place += block.count;
+    }
+    return kNoPlace;
 }
 
-inline constexpr IdBlock kDoubleIds = idBlock(kFirstDouble, kDoubleCount);
-inline constexpr IdBlock kFloatIds = idBlock(kFirstFloat, kFloatCount);
-inline constexpr IdBlock kLongIds = idBlock(kFirstLong, kLongCount);
-inline constexpr IdBlock kIntIds = idBlock(kFirstInt, kIntCount); // inside the block of the longs
-inline constexpr IdBlock kBoolIds = idBlock(kFirstBool, kBoolCount);
-inline constexpr IdBlock kTextIds = idBlock(kFirstText, kTextCount);
-inline constexpr IdBlock kEnumIds = idBlock(kFirstEnum, kEnumCount);
-inline constexpr IdBlock kSysDateIds = idBlock(kFirstSysDate, kSysDateCount);
-inline constexpr IdBlock kSysTimeIds = idBlock(kFirstSysTime, kSysTimeCount);
-inline constexpr IdBlock kIdIds = idBlock(kFirstId, kIdCount);
-inline constexpr IdBlock kIpIds = idBlock(kFirstIp, kIpCount);
-inline constexpr IdBlock kDialogIds{18000, 18020};
-inline constexpr IdBlock kValueTemplateIds{18021, 18033};
-inline constexpr IdBlock kCommandIds{19000, 19020};
-inline constexpr IdBlock kStructIds = idBlock(kFirstStruct, kStructCount);
+inline constexpr std::size_t kIdPlaces = [] {
+    std::size_t count = 0;
+    for (const IdBlock& block : kIdBlocks)
+        count += static_cast<std::size_t>(block.count);
+    return count;
+}();
 
 } // namespace talux
 

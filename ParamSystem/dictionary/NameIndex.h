@@ -2,7 +2,7 @@
 #ifndef TALUX_DICTIONARY_NAMEINDEX_H
 #define TALUX_DICTIONARY_NAMEINDEX_H
 
-#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -18,37 +18,28 @@ constexpr std::uint32_t hashIgnoringCase(std::string_view name) {
     return hash ^ (hash >> 15);
 }
 
-// A hash table of table positions. Position 0 is a sentinel and stands for "not there"; nameAt(position)
-// tells the name at a position. Of equal names the one entered first counts.
-template <std::size_t Slots>
-class NameIndex {
-    static_assert((Slots & (Slots - 1)) == 0, "a power of two");
+// A hash table of table positions, filled by the generator. Position 0 is a sentinel and stands for "not
+// there"; nameAt(position) tells the name at a position.
+struct NameIndex {
+    const std::uint16_t* slots;
+    std::size_t mask; // number of slots, a power of two, less one
 
-public:
+    // At least half of them stay empty.
+    static constexpr std::size_t slotCount(std::size_t names) { return std::bit_ceil(2 * names); }
+
     template <class NameAt>
-    constexpr std::size_t find(std::string_view name, NameAt nameAt) const {
+    std::size_t find(std::string_view name, NameAt nameAt) const {
         return slots[slotOf(name, nameAt)];
     }
 
-    // False when the name is there already.
+    // The slot of a name, an empty one where it is not there.
     template <class NameAt>
-    constexpr bool enter(std::size_t position, NameAt nameAt) {
-        std::uint16_t& slot = slots[slotOf(nameAt(position), nameAt)];
-        if (slot != 0) return false;
-        slot = static_cast<std::uint16_t>(position);
-        return true;
-    }
-
-private:
-    template <class NameAt>
-    constexpr std::size_t slotOf(std::string_view name, NameAt nameAt) const {
-        std::size_t slot = hashIgnoringCase(name) % Slots;
+    std::size_t slotOf(std::string_view name, NameAt nameAt) const {
+        std::size_t slot = hashIgnoringCase(name) & mask;
         while (slots[slot] != 0 && !equalIgnoringCase(name, nameAt(slots[slot])))
-            slot = (slot + 1) % Slots;
+            slot = (slot + 1) & mask;
         return slot;
     }
-
-    std::array<std::uint16_t, Slots> slots{};
 };
 
 } // namespace talux

@@ -2,6 +2,7 @@
 #include <cstdio>
 
 #include "ParamSystem/dictionary/Settings.h"
+#include "ParamSystem/dictionary/Tables.h"
 #include "ParamSystem/store/ChangeFlags.h"
 #include "ParamSystem/store/Slots.h"
 
@@ -35,7 +36,7 @@ void commit(int id) {
 
 // Nobody has loaded the properties: no position has a row.
 void reportMissingRows() {
-    for (int position = 1; position <= kParamCount; ++position)
+    for (int position = 1; position <= talux::kParameters; ++position)
         std::fputs("Error (TALUX_Var): Error during copy temp->global\n", stderr);
 }
 
@@ -64,7 +65,7 @@ private:
 } // namespace
 
 void VarSetDefault(void) {
-    for (int position = 1; position <= kParamCount; ++position)
+    for (int position = 1; position <= talux::kParameters; ++position)
         if (const stParamProperties* row = GetParamPropertiesByOrder(position)) setDefault(*row);
 }
 

@@ -157,9 +157,8 @@ void ask(std::FILE* answers, const char* line) {
 
 // Every parameter once, an indexed one as a list and its first elements in hex.
 void readAll(std::FILE* answers) {
-    for (int i = 1; i <= kParamCount; i++) {
-        const stParamProperties* row = GetParamPropertiesByOrder(i);
-        if (row == nullptr || row->name[0] == '\0' || row->val_access == kWriteOnly) continue;
+    for (int i = 1; const stParamProperties* row = GetParamPropertiesByOrder(i); i++) {
+        if (row->name[0] == '\0' || row->val_access == kWriteOnly) continue;
         char line[kKeplMaxLine + 1];
         if (row->val_max_id == 0) {
             std::snprintf(line, sizeof line, "TLX_%s", row->name);

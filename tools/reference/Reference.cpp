@@ -120,8 +120,10 @@ std::string_view Parameter::name() const {
 }
 
 const stParamFamily& Parameter::family() const {
-    return *std::find_if(std::begin(DefParamFamilies), std::end(DefParamFamilies),
-                         [this](const stParamFamily& family) { return place <= family.last; });
+    const stParamFamily* family = DefParamFamilies;
+    while (family->last < place)
+        ++family;
+    return *family;
 }
 
 bool Parameter::isSetting() const {
@@ -197,7 +199,7 @@ std::string Parameter::choiceText(int number, ParamLanguage language) const {
 const std::vector<Parameter>& parameters() {
     static const auto all = [] {
         std::vector<Parameter> list;
-        for (int position = 1; position <= kParamCount; position += list.back().elements())
+        for (int position = 1; DefParamProperties[position].id != 0; position += list.back().elements())
             list.emplace_back(position);
         return list;
     }();

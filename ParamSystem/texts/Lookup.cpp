@@ -3,8 +3,9 @@
 
 #include "ParamSystem/TALUX_ParamStrings.h"
 #include "ParamSystem/TALUX_Var.h"
-#include "ParamSystem/dictionary/WorkingTexts.h"
+#include "ParamSystem/dictionary/IdOf.h"
 #include "ParamSystem/support/Assertion.h"
+#include "ParamSystem/texts/CurrentTexts.h"
 
 // The message names the exported function, so each of them holds its own.
 #define TALUX_ASSERT_ID(id)                                                                                  \
@@ -15,7 +16,6 @@ int iLastEntry = 0;
 namespace talux {
 namespace {
 
-constexpr int kLanguageParameter = 10000;
 constexpr int kNotFound = 0; // the row that every look-up returns then
 
 // What a text must be to match.
@@ -31,13 +31,13 @@ struct Wanted {
 
 int currentLanguage() {
     short language = 0;
-    VarGetEnumValue(kLanguageParameter, &language);
+    VarGetEnumValue(idOf("Language"), &language);
     return language == kGerman ? kGerman : kEnglish;
 }
 
 int findFrom(int row, const Wanted& wanted, int language) {
-    for (; row < kParamTextRows && ParamText[row].id != 0; ++row)
-        if (wanted.matches(ParamText[row], language)) return row;
+    for (; row < currentTexts.count && currentTexts.rows[row].id != 0; ++row)
+        if (wanted.matches(currentTexts.rows[row], language)) return row;
     return kNotFound;
 }
 
@@ -48,13 +48,13 @@ int findWithFallback(const Wanted& wanted) {
 
 // The cursor may have been set by anybody.
 int findBehindCursor(const Wanted& wanted) {
-    if (iLastEntry < 0 || iLastEntry >= kParamTextRows) return kNotFound;
+    if (iLastEntry < 0 || iLastEntry >= currentTexts.count) return kNotFound;
     return findFrom(iLastEntry + 1, wanted, currentLanguage());
 }
 
 const stParamText* rowAndCursor(int row) {
     if (row != kNotFound) iLastEntry = row;
-    return &ParamText[row];
+    return &currentTexts.rows[row];
 }
 
 } // namespace
@@ -63,31 +63,31 @@ const stParamText* rowAndCursor(int row) {
 using namespace talux;
 
 const stParamText* GetParamString(int id, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &ParamText[kNotFound];
-    return &ParamText[findWithFallback({id, type})];
+    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
+    return &currentTexts.rows[findWithFallback({id, type})];
 }
 
 const stParamText* GetFirstParamString(int id, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &ParamText[kNotFound];
+    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
     return rowAndCursor(findWithFallback({id, type}));
 }
 
 const stParamText* GetNextParamString(int id, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &ParamText[kNotFound];
+    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
     return rowAndCursor(findBehindCursor({id, type}));
 }
 
 const stParamText* GetParamStringInGroup(int id, int group, int item, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &ParamText[kNotFound];
-    return &ParamText[findWithFallback({id, type, group, item})];
+    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
+    return &currentTexts.rows[findWithFallback({id, type, group, item})];
 }
 
 const stParamText* GetFirstParamStringInGroup(int id, int group, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &ParamText[kNotFound];
+    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
     return rowAndCursor(findWithFallback({id, type, group}));
 }
 
 const stParamText* GetNextParamStringInGroup(int id, int group, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &ParamText[kNotFound];
+    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
     return rowAndCursor(findBehindCursor({id, type, group}));
 }

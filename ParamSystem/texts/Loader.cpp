@@ -1,11 +1,13 @@
-// Fills the working table of texts from a file.
+// Replaces the texts by those of a file.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 
 #include "MenuSystem/TALUX_Data.h"
 #include "ParamSystem/TALUX_ParamStrings.h"
-#include "ParamSystem/dictionary/WorkingTexts.h"
+#include "ParamSystem/texts/CurrentTexts.h"
 
 namespace talux {
 
@@ -13,6 +15,9 @@ namespace {
 
 constexpr char kModule[] = "TALUX_ParamStrings";
 constexpr std::size_t kMaxLine = 253; // characters, line feed included
+
+// One row more, so that a full table ends too. No memory is used before a file is loaded.
+constinit stParamText loadedTexts[kParamTextRows + 1] = {};
 
 // `format` takes the module's name and then `name`.
 [[noreturn]] void fail(FILE* source, const char* format, const char* name = "") {
@@ -63,9 +68,11 @@ int LoadParamStrings(char* sourcefile) {
     int row = 0;
     for (char line[kMaxLine + 2]; readLine(source, line, sourcefile); ++row) {
         if (row == kParamTextRows) fail(source, "\nError (%s): max string number exceeded\n");
-        ParamText[row] = readText(source, line);
+        loadedTexts[row] = readText(source, line);
     }
     std::fclose(source);
-    endTextTable(row);
+    std::fill(loadedTexts + row, std::end(loadedTexts), stParamText{});
+    if (row == 0) loadedTexts[0].txt = "***";
+    currentTexts = {loadedTexts, kParamTextRows + 1};
     return 1;
 }

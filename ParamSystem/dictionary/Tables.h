@@ -1,0 +1,21 @@
+// The tables that tools/generator makes of the catalogue, besides those of the public headers.
+#ifndef TALUX_DICTIONARY_TABLES_H
+#define TALUX_DICTIONARY_TABLES_H
+
+#include "ParamSystem/TALUX_ParamStrings.h"
+#include "ParamSystem/TALUX_Params.h"
+#include "ParamSystem/dictionary/Ids.h"
+#include "ParamSystem/dictionary/NameIndex.h"
+#include "ParamSystem/dictionary/Settings.h"
+
+namespace talux {
+
+extern const int kParameters; // rows between the sentinels
+extern const std::span<const Setting> kSettings;
+extern const NameIndex kNameIndex;
+extern const NameIndex kSymbolIndex;
+extern const std::uint16_t kIdPositions[kIdPlaces]; // of the first row with the id; 0 where there is none
+
+} // namespace talux
+
+#endif

@@ -1,0 +1,25 @@
+// Broken rules and how the builder hears of them.
+#ifndef TALUX_GENERATOR_FAULTS_H
+#define TALUX_GENERATOR_FAULTS_H
+
+#include <cstdio>
+#include <source_location>
+#include <string>
+#include <vector>
+
+namespace talux::generator {
+
+struct Fault {
+    std::source_location where; // the row, if there is one
+    std::string subject;        // its name
+    std::string rule;
+};
+
+using Faults = std::vector<Fault>;
+
+// One line per fault, five lines at most.
+void print(const Faults& faults, std::FILE* out);
+
+} // namespace talux::generator
+
+#endif

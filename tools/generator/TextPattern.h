@@ -1,0 +1,32 @@
+// Spells out the patterns of the text data, see texts/Words.h.
+#ifndef TALUX_GENERATOR_TEXTPATTERN_H
+#define TALUX_GENERATOR_TEXTPATTERN_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace talux::generator {
+
+// Thrown where a text breaks a rule.
+struct BrokenRule {
+    const char* text;
+};
+
+// One member of a series: its name and what its texts show as {n} and {m}.
+struct Member {
+    std::string name, n, m;
+};
+
+// What a name with up to two lists in braces stands for.
+std::vector<Member> membersOf(std::string_view pattern);
+
+// The texts of a list divided by "|"; places {n} and {m} stay.
+std::vector<std::string> textsOf(std::string_view list);
+
+// A text with {n} and {m} replaced by what the member shows.
+std::string filledIn(std::string_view text, const Member& member);
+
+} // namespace talux::generator
+
+#endif
