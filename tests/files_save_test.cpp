@@ -112,7 +112,8 @@ std::string valueOf(const stParamProperties& row, int space) {
 std::string expected(const File& file, int space) {
     std::string all;
     int lines = 0;
-    for (const stParamProperties& row : DefParamProperties) {
+    for (int position = 1; DefParamProperties[position].id != 0; ++position) {
+        const stParamProperties& row = DefParamProperties[position];
         const std::string value = row.is_volatile == 1 || !file.holds(row) ? "" : valueOf(row, space);
         if (value.empty()) continue;
         all += std::string("TLX_") + row.name + "=" + value + "\n";

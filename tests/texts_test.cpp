@@ -123,8 +123,8 @@ TEST_F(Texts, AreWellFormed) {
     EXPECT_THAT(wrong, testing::IsEmpty());
 }
 
-// Every parameter and template has its texts in table order, in each language a title (settings a description
-// too), an enum all its choices or none, and a name.
+// Every parameter and template has its texts in table order, in each language a title, an enum all its
+// choices or none, and a name.
 TEST_F(Texts, CoverTheCatalogue) {
     std::vector<int> expectedIds, ids;
     std::vector<std::string> wrong;

@@ -51,7 +51,7 @@ struct TextEntry {
     Where where{};
 };
 
-// A run-time internal that only needs a title.
+// What a title says all about.
 constexpr TextEntry label(const char* name, Both title, Where where = Where::current()) {
     return {.subject = name, .title = title, .where = where};
 }

@@ -170,8 +170,6 @@ const Wrong kWrong[] = {
      [](Data& d) { d.text("wlan0_active").title.en = "wlan0_active"; }},
     {"texts/Network", "essid", "the description says the title again",
      [](Data& d) { d.text("essid").description.en = d.text("essid").title.en; }},
-    {"texts/Network", "essid", "a setting has a description",
-     [](Data& d) { d.text("essid").description = {}; }},
     {"texts/Identification", "Language", kChoices,
      [](Data& d) {
          d.text("Language").items[0] = {"a|b|c", "a|b|c"};

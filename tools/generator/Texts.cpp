@@ -123,14 +123,6 @@ void checkChoices(const TextEntry& entry, const stParamProperties& row) {
             "there are more or fewer choices than the range has");
 }
 
-// A series of the same kind may do with titles.
-void checkDescription(const TextEntry& entry, const Parameter& parameter) {
-    const stParamProperties& row = parameter.properties();
-    const bool isSetting = row.is_volatile == 0 && !parameter.isTemplate();
-    const bool isSeries = std::string_view(entry.subject).find('{') != std::string_view::npos;
-    require(!entry.description.isEmpty() || !isSetting || isSeries, "a setting has a description");
-}
-
 // ---- All -----------------------------------------------------------------------------------------------
 
 class Table {
@@ -168,7 +160,6 @@ private:
         texts = RowWriter(entry, member, subject.textId).write();
         std::for_each(texts.begin(), texts.end(), checkText);
         checkTitles(texts, member.name);
-        checkDescription(entry, *subject.parameter);
         checkChoices(entry, subject.parameter->properties());
     }
 
