@@ -54,6 +54,8 @@ char* appendMillionths(char* place, std::uint32_t value) {
 } // namespace
 
 std::size_t formatFixedPoint(char (&dest)[kFixedPointSize], double number, int decimals) {
+    // Processors differ in the sign of what is no number; it is not shown.
+    if (std::isnan(number)) number = std::fabs(number);
     FixedPoint parts{};
     if (!split(std::fabs(number), parts))
         return static_cast<std::size_t>(formatText(dest, sizeof dest, "%.*f", decimals, number));
