@@ -44,11 +44,10 @@ std::uint32_t millionths(std::uint64_t fraction) {
 }
 
 char* appendMillionths(char* place, std::uint32_t value) {
-    for (std::uint32_t unit = kMillion; unit > 1; value %= unit) {
-        unit /= 10;
-        *place++ = static_cast<char>('0' + value / unit);
-    }
-    return place;
+    constexpr int kDigits = 6;
+    for (int k = kDigits - 1; k >= 0; --k, value /= 10)
+        place[k] = static_cast<char>('0' + value % 10);
+    return place + kDigits;
 }
 
 } // namespace
