@@ -2,9 +2,12 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 namespace {
+
+constexpr unsigned short kSizeUntold = 65535;
 
 // Texts of one character each, for delimiters that are tokens: ending them in place would destroy the
 // character behind them.
@@ -15,26 +18,53 @@ constinit auto oneCharacterTexts = [] {
     return texts;
 }();
 
+// A set of delimiters with one bit for each character. NUL is in every set.
+class DelimiterSet {
+public:
+    explicit DelimiterSet(const char* delimiters) {
+        do {
+            bits[wordOf(*delimiters)] |= bitOf(*delimiters);
+        } while (*delimiters++ != '\0');
+    }
+
+    bool holds(char c) const { return (bits[wordOf(c)] & bitOf(c)) != 0; }
+
+    // The first place from `position` on whose character is in the set, or is not; `end` when there is none.
+    UINT find(const char* text, UINT position, UINT end, bool wanted) const {
+        while (position < end && holds(text[position]) != wanted)
+            ++position;
+        return position;
+    }
+
+private:
+    std::uint32_t bits[8] = {};
+
+    static std::size_t wordOf(char c) { return static_cast<unsigned char>(c) / 32; }
+    static std::uint32_t bitOf(char c) { return std::uint32_t{1} << static_cast<unsigned char>(c) % 32; }
+};
+
 } // namespace
 
 StringTokenizer::StringTokenizer()
     : currentPosition(0), maxPosition(0), buffer(nullptr), delimiters{}, retTokens(false), endedBy('\0'),
-      bufferSize(kDefaultBufferSize) {}
+      bufferSize(kSizeUntold) {}
 
 void StringTokenizer::SetBuffer(char* buf) {
-    SetBuffer(buf, kDefaultBufferSize);
+    buffer = buf;
+    bufferSize = kSizeUntold;
 }
 
 void StringTokenizer::SetBuffer(char* buf, UINT size) {
     buffer = buf;
-    bufferSize = static_cast<unsigned short>(size < 65535 ? size : 65535);
+    bufferSize = static_cast<unsigned short>(size < kSizeUntold ? size : kSizeUntold - 1);
 }
 
 void StringTokenizer::SetString(char* str, const char* delim, BOOL returnTokens) {
     if (buffer == nullptr || str == nullptr || *str == '\0') return;
-    const std::size_t length = strnlen(str, bufferSize);
+    const bool isTrusted = bufferSize == kSizeUntold;
+    const std::size_t length = isTrusted ? std::strlen(str) : strnlen(str, bufferSize);
     const std::size_t delimiterCount = strnlen(delim, kMaxDelimiters + 1);
-    if (length >= bufferSize || delimiterCount > kMaxDelimiters) return;
+    if ((!isTrusted && length >= bufferSize) || delimiterCount > kMaxDelimiters) return;
 
     currentPosition = 0;
     maxPosition = static_cast<UINT>(length);
@@ -50,13 +80,13 @@ BOOL StringTokenizer::hasMoreTokens() {
 }
 
 char* StringTokenizer::nextToken() {
-    skipDelimiters();
+    const DelimiterSet set(delimiters);
+    if (!retTokens) currentPosition = set.find(buffer, currentPosition, maxPosition, false);
     if (currentPosition >= maxPosition) return nullptr;
     if (retTokens && isDelimiter(buffer[currentPosition])) return takeDelimiter();
 
     char* const token = buffer + currentPosition;
-    while (currentPosition < maxPosition && !isDelimiter(buffer[currentPosition]))
-        ++currentPosition;
+    currentPosition = set.find(buffer, currentPosition, maxPosition, true);
     endedBy = buffer[currentPosition];
     buffer[currentPosition] = '\0';
     return token;
@@ -70,26 +100,25 @@ char* StringTokenizer::nextToken(const char* delim) {
 }
 
 UINT StringTokenizer::countTokens() {
+    const DelimiterSet set(delimiters);
     UINT count = 0;
     for (UINT position = currentPosition; position < maxPosition; ++count) {
-        while (!retTokens && position < maxPosition && isDelimiter(buffer[position]))
-            ++position;
+        if (!retTokens) position = set.find(buffer, position, maxPosition, false);
         if (position >= maxPosition) break;
         const UINT start = position;
-        while (position < maxPosition && !isDelimiter(buffer[position]))
-            ++position;
+        position = set.find(buffer, position, maxPosition, true);
         if (retTokens && position == start) ++position;
     }
     return count;
 }
 
 bool StringTokenizer::isDelimiter(char c) const {
-    return c == '\0' || std::strchr(delimiters, c) != nullptr;
+    return DelimiterSet(delimiters).holds(c);
 }
 
 void StringTokenizer::skipDelimiters() {
-    while (!retTokens && currentPosition < maxPosition && isDelimiter(buffer[currentPosition]))
-        ++currentPosition;
+    if (!retTokens)
+        currentPosition = DelimiterSet(delimiters).find(buffer, currentPosition, maxPosition, false);
 }
 
 char* StringTokenizer::takeDelimiter() {

@@ -11,25 +11,24 @@
  */
 class TALUX_API StringTokenizer {
 public:
-    // Bytes that a buffer must have when its size is not told.
-    static constexpr UINT kDefaultBufferSize = 255;
     // Longest delimiter set.
     static constexpr UINT kMaxDelimiters = 199;
 
     StringTokenizer();
 
-    // Sets the buffer for the working copy: at least kDefaultBufferSize bytes, owned by the caller, which
-    // must outlive the tokens. Needed before the first SetString; changes nothing else.
+    // Sets the buffer for the working copy. It is the caller's, must outlive the tokens and hold every string
+    // that is set, with its NUL. Needed before the first SetString; changes nothing else.
     void SetBuffer(char* buf);
 
-    // The same for a buffer of `size` bytes (at most 65535 are used).
+    // The same for a buffer of `size` bytes (at most 65534 are used): a string that it does not hold is
+    // refused.
     void SetBuffer(char* buf, UINT size);
 
     /*
      * Starts on a copy of `str`, split at any character of `delim`. With `returnTokens` each delimiter is
      * a token of its own, which lies outside the buffer and must not be written to. Refused, leaving the old
-     * string, position and set in force: no buffer, `str` null or empty, `str` longer than the buffer holds,
-     * `delim` longer than kMaxDelimiters.
+     * string, position and set in force: no buffer, `str` null or empty, `str` longer than the told buffer
+     * holds, `delim` longer than kMaxDelimiters.
      */
     void SetString(char* str, const char* delim, BOOL returnTokens);
 

@@ -22,8 +22,7 @@ enum KeplResult : int {
 
 /*
  * Evaluates one line at a time: comma-separated terms from left to right on a value stack. One object
- * belongs to one thread; records (structured parameters) must not be read on two threads at once even
- * through two objects. Nothing is allocated.
+ * belongs to one thread. Nothing is allocated.
  */
 class TALUX_API KEPL_Interpreter {
 public:
@@ -31,14 +30,14 @@ public:
     // the first 254 characters serve for named files of the load commands. No trailing slash.
     explicit KEPL_Interpreter(char* inipath);
 
-    // The tokenizers work in the object's own buffers.
+    // The tokenizers point to the object's own buffers.
     KEPL_Interpreter(const KEPL_Interpreter&) = delete;
     KEPL_Interpreter& operator=(const KEPL_Interpreter&) = delete;
 
     /*
      * Evaluates a line.
      * szLine:     the line, at most kKeplMaxLine characters; a longer one is refused whole.
-     * DataOut:    receives the output of shell terms; must be callable when the line may hold one.
+     * DataOut:    receives the output of shell terms; null: it goes nowhere.
      * szResult:   the answer; kKeplTextSize bytes plus the terminator's length are always enough.
      * terminator: appended to every answer but the empty one after a shell term.
      * uid:        rights of the caller, 0 (lowest) to 3 (all).
@@ -68,11 +67,12 @@ public:
     int ProcessCommand(const char* theCommand, char* txt, double* adStack, int* aiType, int* iSP, int uid);
 
 private:
+    // Programs hold objects of this layout: what is no longer needed stays.
     char szIniPath[255];
-    char strTokenBuffer[255];
+    char strTokenBuffer[255]; // the line
     char strSubTokenBuffer[255];
-    StringTokenizer clStringTokenizer; // splits the line into terms
-    StringTokenizer clSubTokenizer;    // splits a term into words
+    StringTokenizer clStringTokenizer; // of lines and terms, which are split without them
+    StringTokenizer clSubTokenizer;
     char szError[128];
     int machine;
 };

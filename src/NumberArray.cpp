@@ -1,11 +1,14 @@
 #include "src/NumberArray.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/TALUX_Params.h"
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/support/Number.h"
 #include "ParamSystem/support/Text.h"
 
@@ -153,21 +156,27 @@ int readRange(lua_State* L, int id, int count) {
     return 1;
 }
 
-// The name behind the four characters of "TLX_" or "LVR_"; null when there are not that many.
-const char* nameWithoutPrefix(const char* text) {
-    return text != nullptr && strnlen(text, 4) == 4 ? text + 4 : nullptr;
+std::string_view textArgument(lua_State* L, int argument) {
+    std::size_t length = 0;
+    const char* const text = lua_tolstring(L, argument, &length);
+    return {text != nullptr ? text : "", length};
 }
 
 // The parameter decides which kind of array it fills.
 int getArray(lua_State* L) {
-    const char* const name = nameWithoutPrefix(lua_tolstring(L, 2, nullptr));
+    constexpr std::size_t kPrefixLength = 4; // "TLX_" or "LVR_", which are not looked at
+    const std::string_view text = textArgument(L, 2);
     const int first = saturated32(lua_tonumberx(L, 3, nullptr));
     const int last = saturated32(lua_tonumberx(L, 4, nullptr));
 
-    const stParamProperties* const row =
-        name == nullptr ? nullptr : GetParamPropertiesByName(const_cast<char*>(name));
+    // A text with a NUL inside is no name: what stands in front of it might be one.
+    const std::string_view shown = text.substr(0, text.find('\0'));
+    const std::string_view name = shown.substr(std::min(shown.size(), kPrefixLength));
+    const bool isName = shown.size() == text.size() && text.size() >= kPrefixLength;
+    const stParamProperties* const row = isName ? findParameter(name) : nullptr;
     if (row == nullptr) {
-        formatText(szError, sizeof szError, "<< SYNTAX ERROR ('%s') >>", name == nullptr ? "" : name);
+        formatText(szError, sizeof szError, "<< SYNTAX ERROR ('%.*s') >>", static_cast<int>(name.size()),
+                   name.data());
         return 0;
     }
     if (const char* const error = rangeError(*row, first, last)) return refuse(error);

@@ -54,8 +54,8 @@ void decideShell(Decision& decision, std::string_view term, int uid, int board) 
         return;
     }
     decision.isNoted = true;
-    takeWord(term, " ");
-    decision.words = withoutLeading(term, " ");
+    takeWord(term, ' ');
+    decision.words = withoutLeading(term, ' ');
     const auto forbidden = [&](std::string_view part) { return contains(decision.words, part); };
     if (decision.words.empty())
         decision.action = Action::askForShell;
@@ -68,15 +68,15 @@ bool takesFile(Command command) {
     return command == Command::loadAddresses || command == Command::loadParameters;
 }
 
-void decideCommand(Decision& decision, std::string_view term, int uid, const CommandWord& word) {
+void decideFile(Decision& decision, std::string_view term, int uid, const CommandWord& word) {
     if (uid < word.lowestUid) {
         decision.refusal = Refusal::rightsTooLow;
         return;
     }
     decision.action = Action::command;
     if (!takesFile(word.command)) return;
-    takeWord(term, " ");
-    decision.words = takeWord(term, " ");
+    takeWord(term, ' ');
+    decision.words = takeWord(term, ' ');
 }
 
 void decideNumber(Decision& decision, std::string_view term) {
@@ -89,8 +89,7 @@ void decideNumber(Decision& decision, std::string_view term) {
     decision.value.emplace(number);
 }
 
-// No word begins with a digit.
-bool isPlainNumber(std::string_view term) {
+bool beginsWithDigit(std::string_view term) {
     return !term.empty() && term.front() >= '0' && term.front() <= '9';
 }
 
@@ -110,36 +109,34 @@ const OperationWord* operationOf(std::string_view term) {
     return found == std::end(kOperations) ? nullptr : found;
 }
 
-void decideWord(Decision& decision, std::string_view term, int uid, int board) {
-    if (const CommandWord* const word = commandOf(term)) {
-        decision.command = word->command;
-        if (word->command == Command::shell)
-            decideShell(decision, term, uid, board);
-        else
-            decideCommand(decision, term, uid, *word);
+void decideCommand(Decision& decision, std::string_view term, int uid, int board, const CommandWord& word) {
+    decision.command = word.command;
+    if (word.command == Command::shell)
+        decideShell(decision, term, uid, board);
+    else
+        decideFile(decision, term, uid, word);
+}
+
+Decision decideOther(std::string_view term, int uid, int board) {
+    Decision decision;
+    decision.term = term;
+    if (beginsWithDigit(term)) { // as no word does
+        decideNumber(decision, term);
     } else if (const OperationWord* const operation = operationOf(term)) {
         decision.action = Action::compute;
         decision.operation = operation->operation;
+    } else if (const CommandWord* const command = commandOf(term)) {
+        decideCommand(decision, term, uid, board, *command);
     } else {
         decideNumber(decision, term);
     }
+    return decision;
 }
 
 } // namespace
 
 Decision decide(std::string_view term, int uid, int board) {
-    if (isVariable(term)) return decideVariable(term.substr(kPrefixLength), uid);
-    Decision decision;
-    decision.term = term;
-    if (isPlainNumber(term))
-        decideNumber(decision, term);
-    else
-        decideWord(decision, term, uid, board);
-    return decision;
-}
-
-std::string_view termOf(std::string_view piece) {
-    return withoutLeading(piece.substr(0, kKeplMaxTerm), " ");
+    return isVariable(term) ? decideVariable(term.substr(kPrefixLength), uid) : decideOther(term, uid, board);
 }
 
 std::span<const CommandWord> commandWords() {

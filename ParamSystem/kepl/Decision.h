@@ -10,6 +10,7 @@
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/kepl/Refusal.h"
+#include "ParamSystem/kepl/Words.h"
 #include "ParamSystem/store/Values.h"
 
 namespace talux::kepl {
@@ -102,6 +103,7 @@ struct Decision {
     VarLong clock[3] = {};      // year, month, day or hour, minute, second
 
     bool isRefused() const { return action == Action::refuse; }
+    bool isLogged() const { return isNoted || refusal == Refusal::rightsTooLow; }
     // Lack of rights for a command is no error but the answer of the line. Either ends the line.
     bool isAnswer() const { return refusal == Refusal::rightsTooLow && !isVariable; }
 };
@@ -109,20 +111,25 @@ struct Decision {
 // Boards, as KEPL_Interpreter::read_machine() numbers them.
 inline constexpr int kArm5Board = 0, kArm7Board = 1, kOtherBoard = -1;
 
+// The next term of a line, false when none is left. Terms stand between commas. Of each the first
+// kKeplMaxTerm characters count, without the blanks that lead them, so a term may be empty. `rest` is left
+// with what follows the term; what is cut off stands between the two.
+inline bool takeTerm(std::string_view& rest, std::string_view& term) {
+    const std::string_view piece = takeWord(rest, ',');
+    term = withoutLeading(piece.substr(0, kKeplMaxTerm), ' ');
+    return !piece.empty();
+}
+
 /*
- * Decides about a term as termOf() gives it. `uid`: rights, 0 to 3. What depends on values remains to be seen
- * when the decision is carried out: too few values on the stack or too many, a division by zero, the root of
- * a negative number, an answer that is too long, a moment that the clock does not have, a file that cannot be
- * opened.
+ * Decides about a term as takeTerm() gives it. `uid`: rights, 0 to 3. What depends on values remains to be
+ * seen when the decision is carried out: too few values on the stack or too many, a division by zero, the
+ * root of a negative number, an answer that is too long, a moment that the clock does not have, a file that
+ * cannot be opened.
  */
 Decision decide(std::string_view term, int uid, int board = kOtherBoard);
 
 // The same for a variable term without its prefix. One with more than kKeplMaxTerm characters has no parts.
 Decision decideVariable(std::string_view term, int uid);
-
-// The term in a piece of a line between commas: its first kKeplMaxTerm characters count, the leading blanks
-// among them are left out.
-std::string_view termOf(std::string_view piece);
 
 // ---- For completion and help ---------------------------------------------------------------------------
 

@@ -68,8 +68,13 @@ Refusal Evaluation::finish() {
 }
 
 void Evaluation::answer(std::string_view text) {
-    std::memmove(caller.result, text.data(), text.size());
-    std::memcpy(caller.result + text.size(), caller.terminator, std::strlen(caller.terminator) + 1);
+    char* place = caller.result;
+    if (!text.empty()) std::memmove(place, text.data(), text.size());
+    place += text.size();
+    const char* end = caller.terminator; // mostly one character: not worth a call
+    do {
+        *place++ = *end;
+    } while (*end++ != '\0');
 }
 
 } // namespace talux::kepl

@@ -43,13 +43,16 @@ int KEPL_Interpreter::GetResult(char* expression, fnDataOut DataOut, char* resul
                                 int uid) {
     if (*expression == '\0') return kLineEmpty;
     szError[0] = '\0';
-    if (strnlen(expression, sizeof strTokenBuffer) > kKeplMaxLine) return fail(szError, Refusal::syntaxError);
+    const std::size_t length = strnlen(expression, sizeof strTokenBuffer);
+    if (length > kKeplMaxLine) return fail(szError, Refusal::syntaxError);
 
+    // A copy: the answer or an output function may write where the line stands.
+    std::memcpy(strTokenBuffer, expression, length);
+    std::string_view rest(strTokenBuffer, length);
     kepl::Evaluation evaluation({DataOut != nullptr ? DataOut : discard, result, terminator}, szIniPath);
-    clStringTokenizer.SetString(expression, ",", false);
-    while (const char* const piece = clStringTokenizer.nextToken()) {
-        const kepl::Decision decision = kepl::decide(kepl::termOf(piece), uid, machine);
-        kepl::log(decision);
+    for (std::string_view term; kepl::takeTerm(rest, term);) {
+        const kepl::Decision decision = kepl::decide(term, uid, machine);
+        if (decision.isLogged()) kepl::log(decision);
         const Refusal refusal = evaluation.take(decision);
         if (refusal == Refusal::none) continue;
         // What ends the line is also its answer, but for syntax errors and errors of arithmetic.
@@ -82,7 +85,7 @@ int KEPL_Interpreter::ProcessCommand(const char* theCommand, char* txt, double* 
                                      int* iSP, int uid) {
     *txt = '\0';
     const kepl::Decision decision = kepl::decideVariable(theCommand, uid);
-    kepl::log(decision);
+    if (decision.isLogged()) kepl::log(decision);
     const bool isPlace = *iSP >= 0 && *iSP < kKeplStackSize;
     const kepl::Slot slot = isPlace ? kepl::Slot{adStack + *iSP, aiType + *iSP} : kepl::Slot{};
     const Refusal refusal = kepl::accessVariable(decision, txt, slot).refusal;

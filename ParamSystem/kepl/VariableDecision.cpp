@@ -28,7 +28,7 @@ void takeOption(std::string_view word, Style& style) {
 
 void takeIndices(std::string_view word, VariableTerm& parts) {
     for (VarLong* const index : {&parts.first, &parts.last}) {
-        const std::string_view piece = takeWord(word, ".");
+        const std::string_view piece = takeWord(word, '.');
         if (piece.empty()) break;
         ++parts.indices;
         if (parseLong(piece, index) != kParsed) parts.indicesAreNumbers = false;
@@ -36,23 +36,30 @@ void takeIndices(std::string_view word, VariableTerm& parts) {
     if (parts.indices == 1) parts.last = parts.first;
 }
 
-VariableTerm partsOf(std::string_view term) {
-    VariableTerm parts;
-    if (term.size() > kKeplMaxTerm) return parts;
-    std::string_view left = takeWord(term, "=");
-    const std::string_view right = takeWord(term, "=");
-    if (!right.empty()) parts.value = withoutLeading(right, " ");
-
-    constexpr std::string_view kBlanks = " \r\n";
-    const std::string_view name = takeWord(left, kBlanks);
-    const std::string_view second = takeWord(left, kBlanks);
-    if (!name.empty()) parts.name = name;
+// What may stand behind the name: an option or an index, then an option.
+void takeSecondAndThird(std::string_view second, std::string_view third, VariableTerm& parts) {
     if (second.starts_with('-'))
         takeOption(second, parts.style);
     else
         takeIndices(second, parts);
-    takeOption(takeWord(left, kBlanks), parts.style);
-    return parts;
+    takeOption(third, parts.style);
+}
+
+std::string_view takeBlankSeparated(std::string_view& rest) {
+    return takeWordOf(rest, [](char c) { return c == ' ' || c == '\r' || c == '\n'; });
+}
+
+void takeParts(std::string_view term, VariableTerm& parts) {
+    if (term.size() > kKeplMaxTerm) return;
+    std::string_view left = takeWord(term, '=');
+    const std::string_view right = takeWord(term, '=');
+    if (!right.empty()) parts.value = withoutLeading(right, ' ');
+
+    const std::string_view name = takeBlankSeparated(left);
+    if (!name.empty()) parts.name = name;
+    if (left.empty()) return;
+    const std::string_view second = takeBlankSeparated(left);
+    takeSecondAndThird(second, takeBlankSeparated(left), parts);
 }
 
 // ---- Checks -------------------------------------------------------------------------------------------
@@ -140,9 +147,9 @@ private:
             decision.value.emplace(unquoted(*parts.value));
             return true;
         case Nature::date:
-            return clockFits("-\"");
+            return clockFits('-');
         case Nature::time:
-            return clockFits(":\"");
+            return clockFits(':');
         case Nature::none: // commands and records: the number is checked, the store keeps nothing
         case Nature::record:
         case Nature::number:
@@ -151,11 +158,12 @@ private:
         return numberFits();
     }
 
-    // Three numbers, whatever they are.
-    bool clockFits(std::string_view separators) {
+    // Three numbers, whatever they are; they may stand in double quotes.
+    bool clockFits(char separator) {
         std::string_view rest = *parts.value;
         const auto takeNumber = [&](VarLong& number) {
-            return parseLong(takeWord(rest, separators), &number) == kParsed;
+            const auto ends = [=](char c) { return c == separator || c == '"'; };
+            return parseLong(takeWordOf(rest, ends), &number) == kParsed;
         };
         return std::ranges::all_of(decision.clock, takeNumber) || refuse(Refusal::syntaxError);
     }
@@ -193,7 +201,7 @@ Decision decideVariable(std::string_view term, int uid) {
     Decision decision;
     decision.term = term;
     decision.isVariable = true;
-    decision.variable = partsOf(term);
+    takeParts(term, decision.variable);
     decision.row = findParameter(decision.variable.name);
     const bool isWrite = decision.variable.value.has_value();
     Checks checks(decision, uid);

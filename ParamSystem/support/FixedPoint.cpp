@@ -44,16 +44,17 @@ std::uint32_t millionths(std::uint64_t fraction) {
 }
 
 char* appendMillionths(char* place, std::uint32_t value) {
-    for (std::uint32_t unit = kMillion; unit > 1; value %= unit) {
-        unit /= 10;
-        *place++ = static_cast<char>('0' + value / unit);
-    }
-    return place;
+    constexpr int kDigits = 6;
+    for (int k = kDigits - 1; k >= 0; --k, value /= 10)
+        place[k] = static_cast<char>('0' + value % 10);
+    return place + kDigits;
 }
 
 } // namespace
 
 std::size_t formatFixedPoint(char (&dest)[kFixedPointSize], double number, int decimals) {
+    // Processors differ in the sign of what is no number; it is not shown.
+    if (std::isnan(number)) number = std::fabs(number);
     FixedPoint parts{};
     if (!split(std::fabs(number), parts))
         return static_cast<std::size_t>(formatText(dest, sizeof dest, "%.*f", decimals, number));

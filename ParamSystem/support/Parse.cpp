@@ -57,31 +57,34 @@ double toDouble(const char* word, char** end) {
     return strtod_l(word, end, cLocale());
 }
 
-// Converts what most numbers are, [-]digits[.digits] of up to 15 digits, and is false for all else. The
-// digits as one integer and the power of ten below them are exact in a double, so their quotient, rounded
-// once, is the double nearest to the number.
-bool parsePlain(std::string_view word, double* value) {
+// Converts the first word if it is what most numbers are, [-]digits[.digits] of up to 15 digits, and is false
+// for all else. The digits as one integer and the power of ten below them are exact in a double, so their
+// quotient, rounded once, is the double nearest to the number.
+bool parsePlain(std::string_view text, double* value) {
     static_assert(FLT_EVAL_METHOD == 0, "the quotient is rounded to a double at once");
     constexpr int kExactDigits = 15;
     static constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    const bool isNegative = word.starts_with('-');
-    if (isNegative) word.remove_prefix(1);
+    const char* place = text.data();
+    const char* const end = place + text.size();
+    while (place != end && *place == ' ')
+        ++place;
+    const bool isNegative = place != end && *place == '-';
     std::int64_t digits = 0;
     int count = 0;
     int whole = -1; // digits in front of the point, once it has come
-    for (const char c : word) {
-        const int digit = c - '0';
+    for (place += isNegative; place != end && *place != ' '; ++place) {
+        const int digit = *place - '0';
         if (digit >= 0 && digit <= 9 && count < kExactDigits) {
             digits = digits * 10 + digit;
             ++count;
-        } else if (c == '.' && whole < 0) {
+        } else if (*place == '.' && whole < 0) {
             whole = count;
         } else {
             return false;
         }
     }
-    if (count == 0) return false;
+    if (count == 0 || text.size() > kMaxNumberText) return false;
     const auto magnitude = static_cast<double>(digits);
     const double number = whole < 0 ? magnitude : magnitude / kPowers[count - whole];
     *value = isNegative ? -number : number;
@@ -103,8 +106,7 @@ ParseResult parseULong(std::string_view text, VarULong* value) {
 }
 
 ParseResult parseDouble(std::string_view text, double* value) {
-    const std::string_view word = firstWord(text);
-    return parsePlain(word, value) ? kParsed : parseWord(word, value, toDouble);
+    return parsePlain(text, value) ? kParsed : parseWord(firstWord(text), value, toDouble);
 }
 
 } // namespace talux

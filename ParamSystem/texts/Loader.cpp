@@ -40,7 +40,7 @@ bool readLine(FILE* source, char (&line)[kMaxLine + 2], const char* sourcefile) 
 }
 
 stParamText readText(FILE* source, char* line) {
-    char tokens[StringTokenizer::kDefaultBufferSize];
+    char tokens[kMaxLine + 2];
     StringTokenizer tokenizer; // a new one, so that a blank line cannot see the tokens of the last
     tokenizer.SetBuffer(tokens, sizeof tokens);
     tokenizer.SetString(line + std::strspn(line, "\t "), "\t\n", false);
