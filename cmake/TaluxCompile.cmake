@@ -24,3 +24,17 @@ target_compile_options(talux_module INTERFACE
 target_link_options(talux_module INTERFACE
   -static-libgcc -Wl,--as-needed -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map
   -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack -Wl,-z,nodelete -Wl,--build-id=none)
+
+# Dates behind 2038-01-19 need a time of 64 bits, which glibc has for 32-bit processors from 2.34 on.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  include(CheckCXXSourceCompiles)
+  set(talux_wide_time -D_TIME_BITS=64 -D_FILE_OFFSET_BITS=64)
+  set(CMAKE_REQUIRED_DEFINITIONS ${talux_wide_time})
+  check_cxx_source_compiles("#include <ctime>\nstatic_assert(sizeof(std::time_t) == 8);\nint main() {}" TALUX_WIDE_TIME)
+  unset(CMAKE_REQUIRED_DEFINITIONS)
+  if(TALUX_WIDE_TIME)
+    target_compile_options(talux_compile INTERFACE ${talux_wide_time})
+  else()
+    message(WARNING "The C library has no 64-bit time: the module takes dates up to 2038-01-19 only")
+  endif()
+endif()

@@ -1,9 +1,9 @@
 #include "src/lib_talux_lua.h"
 
 #include <cstring>
-#include <unistd.h>
 
 #include "ParamSystem/KEPL_Interpreter.h"
+#include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Number.h"
 #include "src/LuaApi.h"
 #include "src/NumberArray.h"
@@ -55,7 +55,7 @@ int talux_getlasterror(lua_State* L) {
 
 int talux_usleep(lua_State* L) {
     const int microseconds = talux::saturated32(lua_tonumberx(L, 1, nullptr));
-    if (microseconds > 0) usleep(static_cast<useconds_t>(microseconds));
+    if (microseconds > 0) talux::os::sleepMicroseconds(static_cast<unsigned>(microseconds));
     return 0;
 }
 

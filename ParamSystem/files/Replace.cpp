@@ -210,14 +210,15 @@ std::optional<Replacement> replaceWhole(const char* path, std::string_view conte
     return Replacement{};
 }
 
-Replacement writeInPlace(const char* path, std::string_view contents, const Rights* rights, Descriptor& file,
-                         bool isRegular) {
+Replacement writeInPlace(const char* path, std::string_view contents, const Rights* rights,
+                         Descriptor& file, bool isRegular) {
     if (isRegular && !os::emptyFile(file.get())) return failure(Written::notOpened, "fopen");
-    if (!os::writeFile(file.get(), contents)) return failure(Written::notWritten, "write", false);
+    Replacement result;
+    if (!os::writeFile(file.get(), contents)) result = failure(Written::notWritten, "write", false);
     if (rights != nullptr) setRights(file.get(), *rights, path);
+    if (result.written != Written::done) return result;
     if (isRegular && !os::syncFile(file.get())) return failure(Written::notKept, "fsync", false);
-    if (!file.close()) return failure(Written::notWritten, "write", false);
-    return {};
+    return file.close() ? result : failure(Written::notWritten, "write", false);
 }
 
 Replacement makeInPlace(const char* path, std::string_view contents, const Rights* rights) {

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <sys/utsname.h>
 #include <syslog.h>
+#include <unistd.h>
 
 #include "ParamSystem/support/Text.h"
 
@@ -25,15 +26,31 @@ void closePipe(FILE* pipe) {
     pclose(pipe);
 }
 
-// Reads the time zone file again when it has been exchanged; localtime would do so, and allocate, every time.
-static void followTimeZone() {
-    static constinit std::atomic<unsigned> known{0};
+namespace {
+
+constexpr unsigned kFnvPrime = 16777619;
+
+// Which zone the process is told to live in: the text of TZ, or without one the zone file as it is now.
+unsigned zoneFingerprint() {
+    unsigned print = 2166136261;                // FNV-1a
+    if (const char* zone = std::getenv("TZ")) { // NOLINT(concurrency-mt-unsafe): as localtime itself
+        for (; *zone != '\0'; ++zone)
+            print = (print ^ static_cast<unsigned char>(*zone)) * kFnvPrime;
+        return print;
+    }
     struct stat file {};
-    const bool exists = stat("/etc/localtime", &file) == 0;
-    const unsigned current =
-        exists ? static_cast<unsigned>(file.st_ino) * 31 + static_cast<unsigned>(file.st_mtime) : 0U;
+    if (stat("/etc/localtime", &file) != 0) return 0;
+    return static_cast<unsigned>(file.st_ino) * 31 + static_cast<unsigned>(file.st_mtime);
+}
+
+// Makes the C library look again when the zone is another. It would allocate if it looked every time.
+void followTimeZone() {
+    static constinit std::atomic<unsigned> known{0};
+    const unsigned current = zoneFingerprint();
     if (known.exchange(current) != current) tzset();
 }
+
+} // namespace
 
 bool localTime(std::tm& now) {
     const std::time_t seconds = std::time(nullptr);
@@ -46,6 +63,10 @@ bool localTime(std::tm& now) {
 void setClock(std::time_t seconds) {
     const std::timespec time{seconds, 0};
     clock_settime(CLOCK_REALTIME, &time);
+}
+
+void sleepMicroseconds(unsigned microseconds) {
+    usleep(microseconds);
 }
 
 void logInfo(const char* format, ...) {

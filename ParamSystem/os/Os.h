@@ -1,4 +1,5 @@
-// The one door to the operating system: shell, pipe, clock, system log. Nothing else calls them.
+// The one door to the operating system: shell, pipe, clock, system log here, files and network interfaces in
+// the headers beside. Nothing else calls them.
 #ifndef TALUX_OS_OS_H
 #define TALUX_OS_OS_H
 
@@ -15,11 +16,14 @@ void runShell(const char* command);
 FILE* openPipe(const char* command);
 void closePipe(FILE* pipe);
 
-// The local time now. On failure `now` is all zero and the result false.
+// The local time now, in the zone that TZ or /etc/localtime names at this moment. On failure `now` is all
+// zero and the result false.
 bool localTime(std::tm& now);
 
 // Sets the system clock; its result is not examined.
 void setClock(std::time_t seconds);
+
+void sleepMicroseconds(unsigned microseconds);
 
 // Write to the system log with priority informational or error, printf-style.
 [[gnu::format(printf, 1, 2)]] void logInfo(const char* format, ...);

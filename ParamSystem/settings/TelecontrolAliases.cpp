@@ -1,15 +1,9 @@
 // Up to four extra addresses of the telecontrol link: alias interfaces with a network route each.
 #include <algorithm>
-#include <arpa/inet.h>
 #include <cstdlib>
-#include <cstring>
-#include <net/if.h>
-#include <netinet/in.h>
-#include <sys/ioctl.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/os/Interfaces.h"
 #include "ParamSystem/settings/Settings.h"
 #include "ParamSystem/settings/ShellCommand.h"
 #include "ParamSystem/support/Text.h"
@@ -70,28 +64,18 @@ AddressText networkOf(const AddressText& address, const AddressText& netmask) {
     return network;
 }
 
-// One address of an interface as the kernel has it (SIOCGIFADDR, SIOCGIFNETMASK); empty when it has none.
-AddressText askKernel(int socket, unsigned long request, const char* device, int number) {
-    char name[19];
-    talux::formatText(name, sizeof name, "%s:%d", device, number);
-    ifreq record{};
-    talux::copyText(record.ifr_name, name);
-    record.ifr_addr.sa_family = AF_INET;
-
+AddressText asText(const char* dotted) {
     AddressText address;
-    if (ioctl(socket, request, &record) != 0) return address;
-    sockaddr_in answer;
-    std::memcpy(&answer, &record.ifr_addr, sizeof answer);
-    inet_ntop(AF_INET, &answer.sin_addr, address.text, sizeof address.text);
+    talux::copyText(address.text, dotted);
     return address;
 }
 
 void tearDown(const char* device, int number) {
-    const int socket = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    if (socket < 0) return;
-    const AddressText address = askKernel(socket, SIOCGIFADDR, device, number);
-    const AddressText netmask = askKernel(socket, SIOCGIFNETMASK, device, number);
-    close(socket);
+    char name[19];
+    talux::formatText(name, sizeof name, "%s:%d", device, number);
+    const auto known = talux::os::addressOf(name);
+    const AddressText address = asText(known.address);
+    const AddressText netmask = asText(known.netmask);
     if (address.text[0] == '\0' || netmask.text[0] == '\0') return;
 
     constexpr char kRouteDeletion[] = "route del -net %s netmask %s %s:%d > /dev/null 2>&1";

@@ -1,8 +1,8 @@
 // Time zone and time service.
 #include <cstring>
-#include <unistd.h>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/os/Files.h"
 #include "ParamSystem/settings/Settings.h"
 #include "ParamSystem/settings/ShellCommand.h"
 
@@ -15,11 +15,6 @@ constexpr Shell kDefaultZoneShell("VarTIMEZONE (default) ");
 constexpr Shell kTimeShell("VarNTP");
 
 constexpr char kDefaultZone[] = "/usr/share/zoneinfo/UTC";
-
-void readZoneLink(char (&target)[1024]) {
-    const ssize_t length = readlink("/etc/localtime", target, sizeof target - 1);
-    target[length < 0 ? 0 : length] = '\0';
-}
 
 bool linkZone(const char* zone) {
     // A name that begins like an option must not be one.
@@ -68,13 +63,13 @@ void startTimeService() {
 
 int VarTIMEZONE() {
     char linked[1024];
-    readZoneLink(linked);
+    if (!talux::os::readLink("/etc/localtime", linked, sizeof linked)) linked[0] = '\0';
     char zone[kTextSize] = "";
     VarGetGlobalTextValue(kTimeZone, zone);
 
     if (std::strcmp(linked, zone) == 0) {
         kZoneShell.report("used %s", zone);
-    } else if (access(zone, F_OK) == 0) {
+    } else if (talux::os::exists(zone)) {
         if (linkZone(zone)) kZoneShell.report("%s", zone);
     } else {
         if (linkZone(kDefaultZone)) kDefaultZoneShell.report("%s", kDefaultZone);
