@@ -129,6 +129,7 @@ class InDirectory : public testing::Test {
 protected:
     void SetUp() override {
         char name[] = "/tmp/filesXXXXXX";
+        setenv("TZ", "UTC0", 1);
         directory = mkdtemp(name);
         VarInit(name);
         LoadDefParamProperties();

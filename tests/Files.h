@@ -1,0 +1,52 @@
+// Parameter files in a directory of their own, saved at a fixed moment.
+#ifndef TALUX_TEST_FILES_H
+#define TALUX_TEST_FILES_H
+
+#include "Store.h"
+
+#include <ctime>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <sstream>
+#include <sys/stat.h>
+#include <vector>
+
+namespace talux_test {
+
+namespace fs = std::filesystem;
+
+inline constexpr std::time_t kMoment = 1709648553; // 2024-03-05 14:22:33 in UTC
+inline constinit std::time_t moment = kMoment;
+inline const std::string kDatedCopy = "param_2024_03_05_142233.ini";
+
+inline const std::string kNoFile = "(no such file)";
+
+inline std::string contents(const fs::path& path) {
+    std::ifstream file(path);
+    std::stringstream all;
+    all << file.rdbuf();
+    return file ? all.str() : kNoFile;
+}
+
+inline struct stat statusOf(const fs::path& path) {
+    struct stat status {};
+    EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
+    return status;
+}
+
+inline std::vector<std::string> namesIn(const fs::path& directory) {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(directory))
+        names.push_back(entry.path().filename());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+} // namespace talux_test
+
+extern "C" std::time_t time(std::time_t* seconds) noexcept {
+    if (seconds != nullptr) *seconds = talux_test::moment;
+    return talux_test::moment;
+}
+
+#endif
