@@ -1,6 +1,7 @@
 // What the parameter files hold byte for byte, who owns them, and that a load brings everything back.
 #include "Files.h"
 
+#include <cmath>
 #include <dlfcn.h>
 #include <unistd.h>
 
@@ -58,7 +59,9 @@ std::string valueOf(const stParamProperties& row, int space) {
     const char* const slot = raw(space) + block->slotOf(row.id);
     char value[400] = "";
     if (block->number != nullptr) {
-        std::snprintf(value, sizeof value, "%.*f", row.type == 2003 ? 6 : 0, block->number(slot));
+        const double number = block->number(slot);
+        std::snprintf(value, sizeof value, "%.*f", row.type == 2003 ? 6 : 0,
+                      std::isnan(number) ? std::fabs(number) : number);
         return value;
     }
     if (row.type == 2015 || row.type == 2016) {
@@ -75,7 +78,8 @@ std::string valueOf(const stParamProperties& row, int space) {
 // The whole file, were it written from the space as it is now.
 std::string expected(const File& file, int space) {
     std::string all;
-    for (const stParamProperties& row : DefParamProperties) {
+    for (int position = 1; DefParamProperties[position].id != 0; ++position) {
+        const stParamProperties& row = DefParamProperties[position];
         const std::string value = row.is_volatile == 1 || !file.holds(row) ? "" : valueOf(row, space);
         if (!value.empty()) all += std::string("TLX_") + row.name + "=" + value + "\n";
     }
