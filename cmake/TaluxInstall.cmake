@@ -19,6 +19,9 @@ file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/lua)
 file(CREATE_LINK ../../lib_talux_lua.so.1 ${PROJECT_BINARY_DIR}/lua/lib_talux_lua.so SYMBOLIC)
 install(FILES ${PROJECT_BINARY_DIR}/lua/lib_talux_lua.so DESTINATION ${talux_lua_dir} COMPONENT runtime)
 
+# The layer for scripts, where require looks for Lua.
+install(DIRECTORY lua/ DESTINATION ${CMAKE_INSTALL_DATADIR}/lua/5.2 COMPONENT runtime)
+
 foreach(folder ParamSystem MenuSystem)
   file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.h)
   install(FILES ${headers} DESTINATION ${talux_include_dir}/${folder})
@@ -51,7 +54,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME talux-lua)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libc6 (>= 2.34)")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "lua5.2")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Relay controller parameters for Lua 5.2
- The module lib_talux_lua: scripts and programs read and write the parameters of the controller.")
+ The module lib_talux_lua and the layer talux: scripts and programs read and write the parameters of the
+ controller.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME talux-lua-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "talux-lua (= ${PROJECT_VERSION})")

@@ -5,7 +5,7 @@
 #   isolated.sh [--root DIR] [--module DIR] [--read PATH].. -- COMMAND [ARGUMENT..]
 #
 # --root DIR    the directory that becomes /, made when absent and kept afterwards; else a temporary one
-# --module DIR  where Lua finds the module
+# --module DIR  where Lua finds the module, and the project's lua/ beside it, before it looks in its own places
 # --read PATH   also readable inside, at its own path; /usr and the project always are
 #
 # The command finds in TALUX_ISOLATION how far it is from the machine:
@@ -154,7 +154,8 @@ cleanup() {
 }
 trap cleanup EXIT
 lay_root
-export TALUX_ISOLATION LUA_CPATH="$module/?.so" PATH=/usr/sbin:/usr/bin:/sbin:/bin
+[ -z "$module" ] || export LUA_PATH="$project/lua/?.lua;${LUA_PATH-;}" LUA_CPATH="$module/?.so;${LUA_CPATH-;}"
+export TALUX_ISOLATION PATH=/usr/sbin:/usr/bin:/sbin:/bin
 TALUX_ISOLATION=$(find_isolation)
 status=0
 case $TALUX_ISOLATION in

@@ -2,7 +2,7 @@
 # Builds and passes the tests.
 #
 #   test.sh           release, sanitize (addresses and undefined behaviour) and armv7
-#   test.sh --all     also debug, armv5te, threads, commands, lint, plain, reproducible, and the release
+#   test.sh --all     also debug, armv5te, threads, commands, lint, plain, rock, reproducible, and the release
 #                     tests once more as an ordinary user and in a container without privileges
 #   test.sh STAGE..   only these
 #
@@ -12,7 +12,7 @@
 cd "$project"
 
 usual=(release sanitize armv7)
-all=("${usual[@]}" debug armv5te threads commands lint plain reproducible user container)
+all=("${usual[@]}" debug armv5te threads commands lint plain rock reproducible user container)
 
 release() { build release && run_tests build-release; }
 debug() { build debug && run_tests build-debug; }
@@ -68,6 +68,20 @@ plain() {
   targets=$(cmake --build build-plain --target help)
   grep -q 'lib_talux_lua' <<<"$targets" && ! grep -q '_test' <<<"$targets" || status=1
   rm -rf build-plain
+  return "$status"
+}
+
+# luarocks builds and installs module and layer, without a network of its own.
+rock() {
+  local tree status=0
+  need luarocks:luarocks
+  tree=$(mktemp -d)
+  HOME=$tree quiet luarocks --lua-version 5.2 --tree "$tree" make || status=$?
+  diff -r lua "$tree/share/lua/5.2" || status=1
+  [ 35 = "$(scripts/isolated.sh --read "$tree" -- env LUA_PATH="$tree/share/lua/5.2/?.lua" \
+    LUA_CPATH="$tree/lib/lua/5.2/?.so" lua5.2 -e 'local talux = require "talux" talux.set("Uearth", 35)
+      print(talux.get "Uearth")')" ] || status=1
+  rm -rf build-rock "$tree"
   return "$status"
 }
 

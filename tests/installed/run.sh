@@ -28,12 +28,12 @@ fresh_root() { # NAME: a scratch root
 }
 inside() { # NAME TEXT: a shell text in which $run PROGRAM runs with the scratch root as its /usr
   "$project/scripts/isolated.sh" --read "$work" -- \
-    env -u LUA_CPATH run="$emulator -L $work/$1" root="$work/$1" programs="$work/programs" sh -euc "$2"
+    env -u LUA_PATH -u LUA_CPATH run="$emulator -L $work/$1" root="$work/$1" programs="$work/programs" sh -euc "$2"
 }
 try_script() { # NAME
   answer=$(inside "$1" '$run $root/usr/bin/lua5.2 -e "
-    require [[lib_talux_lua]] print(talux_command([[1,2,+]]))"')
-  [ "$answer" = 3.000000 ] || fail "$1: require gave '$answer'"
+    local talux = require [[talux]] talux.set([[Uearth]], 35) print(talux_command([[TLX_Uearth,5,+]]))"')
+  [ "$answer" = 40.000000 ] || fail "$1: require gave '$answer'"
 }
 
 # The tree of cmake --install.
@@ -73,6 +73,6 @@ dpkg-deb -x "$work"/talux-lua_*_"$architecture".deb "$work/package"
 try_script package
 dpkg-deb -x "$work"/talux-lua-dev_*_"$architecture".deb "$work/package"
 (cd "$work/tree/usr/local" && find . ! -type d | LC_ALL=C sort) >"$work/tree.list"
-(cd "$work/package/usr" && find include/talux_lua lib/cmake lib/pkgconfig lib/lua lib/lib_talux* ! -type d |
+(cd "$work/package/usr" && find include/talux_lua lib/cmake lib/pkgconfig lib/lua lib/lib_talux* share/lua ! -type d |
   sed 's|^|./|' | LC_ALL=C sort) | diff "$work/tree.list" - || fail 'packages and installed tree differ'
 echo 'installed tree, programs and packages work'

@@ -1,0 +1,404 @@
+-- The parameters of the relay as Lua values: read as numbers and texts, written with checks and all or none,
+-- told in words. A layer over the module lib_talux_lua that keeps nothing of its own.
+require "lib_talux_lua"
+local checks = require "talux.checks"
+local dictionary = require "talux.dictionary"
+local numbers = require "talux.numbers"
+local protocol = require "talux.protocol"
+local stopwatch = require "talux.stopwatch"
+
+local command, find, abs, tonumber, type = talux_command, string.find, math.abs, tonumber, type
+
+---@class talux
+local talux = {}
+
+-- ---- Lines of the language ----
+
+local refusals = {"^<< ", "^error: ", "^sec error: ", "^type unknown$", "^command required", "^Division durch 0$",
+                  "^Quadratwurzel von "}
+
+---Evaluates any line of KEPL.
+---@param line string
+---@return string? answer without its line end; nil after a refusal
+---@return string? refusal
+function talux.try(line)
+  local answer = command(line):gsub("\n$", "")
+  for _, refusal in ipairs(refusals) do
+    if find(answer, refusal) then return nil, answer end
+  end
+  return answer
+end
+
+-- The words of a refusal without the angle brackets.
+local function bare(refusal) return refusal:match "^<< (.-) >>" or refusal end
+
+-- ---- Reading ----
+
+local function valueOf(answer)
+  if answer:byte() == 34 then return answer:sub(2, -2) end
+  return numbers.read(answer)
+end
+
+-- Date and Time are the clock's, whatever is stored.
+local function isClock(row) return find(row.kind, "of the clock", 1, true) end
+
+local arrays = {long = talux_longarray, double = talux_doublearray}
+
+-- Elements of an indexed parameter by their numbers; long and double ones are read in one piece.
+local function elements(row, first, last)
+  local values, array = {}, arrays[row.kind]
+  if array then
+    local buffer = array.new(last - first + 1)
+    array.get(buffer, "TLX_" .. row.name, first, last)
+    for k = first, last do values[k] = array.getitem(buffer, k - first) end
+  else
+    local bytes = command(("TLX_%s %d.%d -h"):format(row.name, first, last)):gsub("^ARRAY:", "")
+    for k, value in ipairs(numbers.fromBytes(bytes)) do values[first + k - 1] = value end
+  end
+  return values
+end
+
+-- The same of a series; nil and the reason where a member is missing.
+local function series(name, first, last)
+  local values = {}
+  for k = first, last do
+    local row = dictionary.rowInSeries(name, k)
+    if not row then return nil, dictionary.unknown(name .. tostring(k)) end
+    values[k] = valueOf(command("TLX_" .. row.name))
+  end
+  return values
+end
+
+-- Why a name alone gives no value.
+local function whyNot(name)
+  local row = dictionary.row(name)
+  if not row then return dictionary.unknown(name) end
+  return checks.index(row) or row.kind == "record" and "A RECORD" or bare(command("TLX_" .. name))
+end
+
+local anySeries = {first = 0, last = 999}
+
+local function range(name, first, last)
+  local row = dictionary.row(name)
+  local reason = checks.index(row or anySeries, first) or checks.index(row or anySeries, last)
+  if not reason and last < first then reason = "INDEX 1 GREATER THAN INDEX 2" end
+  if reason then return nil, reason end
+  return (row and elements or series)(row or tostring(name), first, last)
+end
+
+-- Lines that read, by the names that have been read: what is no name is no line either.
+local lines = {}
+
+---The value of a parameter: a number, for a choice its number, or a text. With `first` that element of an
+---indexed parameter or of a series (BAassign, 3), with `first` and `last` a table of elements by their numbers.
+---@param name string
+---@param first? integer
+---@param last? integer
+---@return any
+function talux.get(name, first, last)
+  local line = not first and lines[name]
+  if line then
+    local answer = command(line)
+    return tonumber(answer) or valueOf(answer)
+  end
+  local value, reason
+  if first then
+    value, reason = range(name, first, last or first)
+    if value and not last then value = value[first] end
+  else
+    value = type(name) == "string" and find(name, "^[%w_]+$") and valueOf(command("TLX_" .. name)) or nil
+    if value then lines[name] = "TLX_" .. name else reason = whyNot(name) end
+  end
+  if value == nil then error(("%s: %s"):format(tostring(name), reason), 2) end
+  return value
+end
+
+---The members of a record by their names.
+---@param name "MessRecord01"|"MessRecord02"|"StatRecord_c0"
+---@return table<string, number>
+function talux.record(name)
+  local members = (require "talux.records")[name]
+  if not members then error(("%s: NO SUCH RECORD"):format(tostring(name)), 2) end
+  local bytes = command(("TLX_%s -h"):format(name)):gsub("^STRUCT:", "")
+  local record = {}
+  for k, value in ipairs(numbers.fromBytes(bytes, members)) do record[members[k].name] = value end
+  return record
+end
+
+-- ---- Writing ----
+
+---@class talux.Change
+---@field name string
+---@field index? integer of an element
+---@field old any
+---@field new any
+
+-- What cannot be taken back comes last: 1 values that no line could write again, 2 the clock, 3 an address,
+-- which is applied and saved by its write.
+local rank = {["date of the clock"] = 2, ["time of the clock"] = 2, ["interface address"] = 3}
+
+local function lineOf(name, index) return index and ("TLX_%s %d"):format(name, index) or "TLX_" .. name end
+local function labelOf(name, index) return index and ("%s[%s]"):format(name, tostring(index)) or name end
+
+-- One entry for each value to write, or the reasons, one in a line, why some of them cannot be.
+local function plan(settings)
+  local entries, faults, taken = {}, {}, {}
+  local function add(name, row, index, value)
+    local text, new
+    if row then new = checks.index(row, index) else new = dictionary.unknown(name) end
+    if not new then text, new = checks.value(row, value) end
+    local id = text and row.id + (index or 1) - 1
+    if taken[id] then text, new = nil, "NAMED TWICE" end
+    if text then
+      taken[id] = true
+      entries[#entries + 1] = {row = row, index = index, line = lineOf(row.name, index), text = text, new = new}
+    else
+      faults[#faults + 1] = ("%s = %s: %s"):format(labelOf(name, index), tostring(value), new)
+    end
+  end
+  for name, value in pairs(settings) do
+    local row = dictionary.row(name)
+    if type(value) ~= "table" then
+      add(tostring(name), row, nil, value)
+    else
+      for k, element in pairs(value) do
+        if row then add(name, row, k, element)
+        else add(tostring(name) .. tostring(k), dictionary.rowInSeries(tostring(name), k), nil, element) end
+      end
+    end
+  end
+  table.sort(faults)
+  return #faults == 0 and entries, table.concat(faults, "\n")
+end
+
+-- A 32-bit float with all its digits, of which the language prints six behind the point: asks for a multiple.
+local function float(line)
+  local value = numbers.single(numbers.read(command(line .. ",0x1p40,*")) / 2 ^ 40)
+  if abs(value) > 1e-9 then return value end
+  return numbers.read(command(line .. ",0x1p149,*")) / 2 ^ 149
+end
+
+-- The value in the store.
+local function stored(entry)
+  if entry.index then return elements(entry.row, entry.index, entry.index)[entry.index] end
+  if entry.row.kind == "float" then return float(entry.line) end
+  return valueOf(command(entry.line))
+end
+
+-- Notes what is there and how it could be written again.
+local function keepOld(entry)
+  local row, old = entry.row, stored(entry)
+  local text = checks.value(row, old)
+  entry.old, entry.rank = old, rank[row.kind] or text and 0 or 1
+  entry.back = text or type(old) == "number" and numbers.write(old) or checks.carried(row, old)
+end
+
+local function goesFirst(a, b)
+  if a.rank ~= b.rank then return a.rank < b.rank end
+  if a.row ~= b.row then return dictionary.place(a.row) < dictionary.place(b.row) end
+  return (a.index or 0) < (b.index or 0)
+end
+
+local function seconds(time)
+  local hour, minute, second = time:match "(%d+):(%d+):(%d+)"
+  return hour * 3600 + minute * 60 + second
+end
+
+-- Writes an entry; gives the reason when it is not there afterwards.
+local function write(entry)
+  local answer = command(entry.line .. "=" .. entry.text)
+  if answer ~= "" then return bare(answer) end
+  local found, new = stored(entry), entry.new
+  if found == new then return end
+  if entry.row.kind == "time of the clock" and (seconds(found) - seconds(new)) % 86400 < 5 then return end
+  return ("NOT STORED (reads %s)"):format(tostring(found))
+end
+
+-- Writes the old values of the first entries again; names those that are not there then.
+local function takeBack(entries, last)
+  local lost = {}
+  for k = last, 1, -1 do
+    local entry = entries[k]
+    if entry.rank < 2 and entry.back then command(entry.line .. "=" .. entry.back) end
+    if stored(entry) ~= entry.old then lost[#lost + 1] = labelOf(entry.row.name, entry.index) end
+  end
+  return #lost > 0 and "; not taken back: " .. table.concat(lost, ", ") or ""
+end
+
+-- What changed, floats as they are usually written.
+local function changesOf(entries)
+  local changes = {}
+  for _, entry in ipairs(entries) do
+    local old, new = entry.old, entry.new
+    if old ~= new then
+      if entry.row.kind == "float" then old, new = numbers.shortest(old), numbers.shortest(new) end
+      changes[#changes + 1] = {name = entry.row.name, index = entry.index, old = old, new = new}
+    end
+  end
+  return changes
+end
+
+-- Carries settings out, all or none. Gives the changes in the order of the writes, or nil and the reason.
+local function carryOut(settings)
+  local entries, reasons = plan(settings)
+  if not entries then return nil, reasons end
+  for _, entry in ipairs(entries) do keepOld(entry) end
+  table.sort(entries, goesFirst)
+  for k, entry in ipairs(entries) do
+    local reason = write(entry)
+    if reason then
+      local label = labelOf(entry.row.name, entry.index)
+      return nil, ("%s = %s: %s%s"):format(label, tostring(entry.new), reason, takeBack(entries, k))
+    end
+  end
+  return changesOf(entries)
+end
+
+---Writes a value: checked before, read back afterwards. An error says why not. Numbers with all their digits;
+---choices by number or text; elements of an indexed parameter or a series as a table {[3] = ..}.
+---@param name string
+---@param value any
+function talux.set(name, value)
+  if value == nil then error(("%s = nil: NO VALUE"):format(tostring(name)), 2) end
+  local changes, reason = carryOut {[tostring(name)] = value}
+  if not changes then error(reason, 2) end
+end
+
+---Writes all values or none; an error names everything that is refused. Interface addresses go last, since
+---writing one applies and saves it, which cannot be taken back.
+---@param settings table<string, any>
+---@return talux.Change[]
+function talux.apply(settings)
+  if type(settings) ~= "table" then error("a table of settings expected", 2) end
+  local changes, reason = carryOut(settings)
+  if not changes then error(reason, 2) end
+  return changes
+end
+
+-- ---- Files and commit: an error when they fail ----
+
+local function run(line, level)
+  local answer, refusal = talux.try(line)
+  if not answer then error(("%s: %s"):format(line, refusal), level + 1) end
+end
+
+-- A text as a file holds it: addresses are normalised.
+local function asInFile(text) return (text:gsub("%f[%d]0+(%d)", "%1"):gsub('^"0%.0%.0%.0"$', '""')) end
+
+local function agree(a, b)
+  local value = numbers.read(a)
+  return value and value == numbers.read(b) or asInFile(a) == asInFile(b)
+end
+
+local function linesOf(path)
+  local file, values = assert(io.open(path)), {}
+  for line in file:lines() do
+    local name, value = line:match "^TLX_([%w_]+)=(.*)$"
+    if name then values[name] = value end
+  end
+  file:close()
+  return values
+end
+
+-- A write that fails is answered as done, so this looks whether the file holds the settings as they are now.
+local function save(word, name)
+  run(word, 3)
+  local held = linesOf("/" .. name)
+  for _, row in ipairs(require "talux.parameters") do
+    if row.file == name and not isClock(row) and not agree(command("TLX_" .. row.name), held[row.name] or "") then
+      error(("%s: %s does not hold %s"):format(word, name, row.name), 3)
+    end
+  end
+end
+
+local function loadFile(word, file)
+  if file and (file == "" or file:find "[,%s%c]" or #word + #file > 126) then
+    error(word .. ": no file name that a line can carry", 3)
+  end
+  run(file and word .. " " .. file or word, 3)
+end
+
+---Makes pending settings live: everybody's, not only this script's.
+function talux.update() run("update", 2) end
+
+---Makes pending settings live and saves them to parameter.ini, sec_parameter.ini or ip_config.ini.
+function talux.save() save("save", "parameter.ini") end
+function talux.save_sec() save("save_sec", "sec_parameter.ini") end
+function talux.save_ip() save("save_ip", "ip_config.ini") end
+
+---Loads a file of the parameter directory and makes it live; without a name the usual one.
+---@param file? string
+function talux.load(file) loadFile("load", file) end
+---@param file? string
+function talux.load_ip(file) loadFile("load_ip", file) end
+function talux.load_sec() loadFile("load_sec") end
+
+-- ---- In words ----
+
+local languages = {"de", "en"} -- as the parameter Language counts them
+
+-- Texts in the language asked for, else in the device's.
+local function textsIn(language)
+  language = language or languages[numbers.read(command "TLX_Language")] or "en"
+  if language ~= "de" and language ~= "en" then error('a language is "de" or "en"', 3) end
+  return dictionary.texts(language)
+end
+
+---@class talux.Texts
+---@field title string
+---@field description string
+---@field choices? table<integer, string>
+
+---@class talux.Parameter: talux.Row
+---@field de? talux.Texts
+---@field en? talux.Texts
+
+---What is known of a parameter, with its texts in both languages or in one.
+---@param name string
+---@param language? "de"|"en"
+---@return talux.Parameter
+function talux.parameter(name, language)
+  local row = dictionary.row(name)
+  if not row then error(("%s: %s"):format(tostring(name), dictionary.unknown(name)), 2) end
+  local parameter = {}
+  for key, value in pairs(row) do parameter[key] = value end
+  for _, known in ipairs {language or "de", not language and "en" or nil} do
+    local texts = textsIn(known)[row.name]
+    parameter[known] = {title = texts[1], description = texts[2], choices = texts[3]}
+  end
+  return parameter
+end
+
+---The settings whose value in the working copy is not the factory default, which stands as the old value.
+---@return talux.Change[]
+function talux.changed()
+  local changes = {}
+  for _, row in ipairs(require "talux.parameters") do
+    local now = row.default and not isClock(row) and valueOf(command("TLX_" .. row.name))
+    if now and now ~= row.default then
+      changes[#changes + 1] = {name = row.name, old = row.default, new = now}
+    end
+  end
+  return changes
+end
+
+---Changes to print, one in a line: name, title, old and new value with choice text and unit.
+---@param changes talux.Change[]
+---@param language? "de"|"en" else the device's
+---@return string
+function talux.protocol(changes, language) return protocol(changes, textsIn(language)) end
+
+---Calls a function at once and then every so many milliseconds, without drift, until it returns false. The
+---function gets the number of the call; calls that it would be late for are left out.
+---@param milliseconds number
+---@param action fun(k: integer): boolean?
+function talux.every(milliseconds, action)
+  local period, k, elapsed, sleep = milliseconds / 1000, 1, stopwatch()
+  while action(k) ~= false do
+    k = math.max(k + 1, math.ceil(elapsed() / period) + 1)
+    local due = (k - 1) * period
+    while elapsed() < due do sleep(due - elapsed()) end
+  end
+end
+
+return talux

@@ -1,0 +1,127 @@
+-- What a value must be before it is written. A check gives the text for the line and the value as the store
+-- will hold it, or nil and the reason.
+local dictionary = require "talux.dictionary"
+local numbers = require "talux.numbers"
+
+local checks = {}
+
+---The permitted range with its unit, in brackets.
+---@param least? number
+---@param most? number
+---@param unit? string
+---@return string
+function checks.range(least, most, unit)
+  local text = "-999999999 to 999999999"
+  if least and most then text = ("%.10g to %.10g"):format(least, most)
+  elseif most then text = ("up to %.10g"):format(most)
+  elseif least then text = ("from %.10g"):format(least) end
+  return (" (%s%s)"):format(text, unit and " " .. unit or "")
+end
+
+-- The number that a text stands for.
+local function numberOf(row, text)
+  if row.kind == "enum" then return dictionary.choice(row, text) end
+  if text:find "," then return nil, "NOT A NUMBER (a number has a point)" end
+  return text:find "^%s*[-+]?%.?%d[%d.eE+-]*%s*$" and numbers.read(text), "NOT A NUMBER"
+end
+
+local smallest = {enum = 1, bool = 0} -- where a parameter tells no range
+local largest = {bool = 1}
+
+local function checkNumber(row, value)
+  if type(value) == "boolean" and row.kind == "bool" then value = value and 1 or 0 end
+  if type(value) == "string" then
+    local reason
+    value, reason = numberOf(row, value)
+    if not value then return nil, reason end
+  end
+  if type(value) ~= "number" or value ~= value then return nil, "NOT A NUMBER" end
+  local least, most = row.min or smallest[row.kind], row.max or largest[row.kind]
+  local isFloat = row.kind == "float"
+  local reason = value < (least or -999999999) and "VALUE TOO LOW" or value > (most or 999999999) and "VALUE TOO HIGH"
+    or not isFloat and row.kind ~= "double" and value % 1 ~= 0 and "NOT A WHOLE NUMBER"
+  if reason then return nil, reason .. checks.range(least, most, row.unit) end
+  return numbers.write(value), isFloat and numbers.single(value) or value
+end
+
+local function isAddress(text)
+  local parts = {text:match "^(%d+)%.(%d+)%.(%d+)%.(%d+)$"}
+  local value = 0
+  for _, part in ipairs(parts) do
+    if part:find "^0%d" or tonumber(part) > 255 then return false end
+    value = value * 256 + part
+  end
+  return #parts == 4, value
+end
+
+local function isMask(text)
+  local good, value = isAddress(text)
+  return good and math.frexp(2 ^ 32 - value) == 0.5 -- a power of two
+end
+
+local function isDate(text)
+  local year, month, day = text:match "^(%d%d%d%d)-(%d%d)-(%d%d)$"
+  return year and os.date("%Y-%m-%d", os.time {year = year, month = month, day = day}) == text
+end
+
+local function isTime(text)
+  local hour, minute, second = text:match "^(%d%d):(%d%d):(%d%d)$"
+  return hour and tonumber(hour) < 24 and tonumber(minute) < 60 and tonumber(second) < 60
+end
+
+local address = {isAddress, "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)"}
+local forms = {
+  address = address,
+  ["interface address"] = address,
+  ["interface gateway"] = address,
+  ["interface netmask"] = {isMask, "NO NETMASK (ones in front of zeros as in 255.255.255.0)"},
+  ["date of the clock"] = {isDate, "NO DATE (as 2024-05-17)"},
+  ["time of the clock"] = {isTime, "NO TIME (as 10:20:30)"},
+}
+local signs = {[","] = "A COMMA", ["="] = "AN EQUALS SIGN", ['"'] = "A DOUBLE QUOTE"}
+
+---Whether a line can carry a text.
+---@param row talux.Row
+---@param text string
+---@return string? quoted
+---@return string? reason
+function checks.carried(row, text)
+  local odd = text:match '[,="%c]'
+  if odd then return nil, "A LINE CANNOT CARRY " .. (signs[odd] or "A CONTROL CHARACTER") end
+  local most = math.min(row.length, 120 - #row.name) -- 127 characters of a term, less TLX_, name, = and quotes
+  if #text > most then return nil, ("TEXT TOO LONG (%d bytes, at most %d)"):format(#text, most) end
+  return '"' .. text .. '"'
+end
+
+local function checkText(row, value)
+  if type(value) ~= "string" then return nil, "NOT A TEXT" end
+  local quoted, reason = checks.carried(row, value)
+  if not quoted then return nil, reason end
+  local form = forms[row.kind]
+  if form and not form[1](value) then return nil, form[2] end
+  return quoted, value
+end
+
+---@param row talux.Row
+---@param value any
+---@return string? text
+---@return any storedOrReason
+function checks.value(row, value)
+  if row.kind == "record" or row.kind == "command" then return nil, ("A %s KEEPS NO VALUE"):format(row.kind:upper()) end
+  if not row.level then return nil, "VARIABLE IS READ ONLY" end
+  if row.length then return checkText(row, value) end
+  return checkNumber(row, value)
+end
+
+---@param row talux.Row
+---@param index any
+---@return string? reason
+function checks.index(row, index)
+  if not row.first then return index and "NO INDEX ALLOWED" or nil end
+  local reason = not index and "INDEX REQUIRED"
+    or (type(index) ~= "number" or index % 1 ~= 0) and "INDEX MUST BE A WHOLE NUMBER"
+    or index < row.first and "INDEX TOO LOW" or index > row.last and "INDEX TOO HIGH"
+  return reason and reason .. checks.range(row.first, row.last) or nil
+end
+
+return checks

@@ -1,0 +1,267 @@
+-- The layer talux.lua: random settings against a table, all or none, under a locale with a decimal comma.
+local talux = require "talux"
+local numbers = require "talux.numbers"
+local rows = require "talux.parameters"
+local texts = {require "talux.parameters_de", require "talux.parameters_en"}
+
+local check = dofile(arg[0]:match(".*/") .. "check.lua")
+local equal, case = check.equal, check.case
+local random, isolated = math.random, os.getenv "TALUX_ISOLATION" ~= "none"
+math.randomseed(20240517)
+
+os.execute "mkdir -p $LOCPATH && localedef -c -i de_DE -f UTF-8 $LOCPATH/de_DE.UTF-8 >/dev/null 2>&1"
+if not os.setlocale "de_DE.UTF-8" then print "skipped: decimal comma: there is no German locale" end
+
+local function refused(wanted, call, ...)
+  local good, reason = pcall(call, ...)
+  equal(good, false, wanted)
+  equal(tostring(reason):gsub("^[^ ]*%.lua:%d+: ", ""), wanted, wanted)
+end
+
+-- What a script may write, except what reaches clock and network.
+local writable = {}
+for _, row in ipairs(rows) do
+  local kind = row.kind
+  local twice = 7000 <= row.id and row.id <= 7006 -- ids with two names
+  if row.level and kind ~= "interface address" and not kind:find "clock" and kind ~= "command" and not twice then
+    writable[#writable + 1] = row
+  end
+end
+
+-- A permitted value, and what reading gives then.
+local function permitted(row)
+  local kind, least, most = row.kind, row.min or -999999999, row.max or 999999999
+  if row.length then
+    if kind:find "address" or kind:find "gateway" then
+      local address = ("%d.%d.%d.%d"):format(random(0, 255), random(0, 255), random(0, 255), random(0, 255))
+      return address, address
+    end
+    if kind:find "mask" then return "255.255.240.0", "255.255.240.0" end
+    local characters = {}
+    for k = 1, random(0, math.min(row.length, 120 - #row.name)) do characters[k] = ("aZ09 .;#/'<>\\\195\164%%-"):sub(random(18), -1):sub(1, 1) end
+    return table.concat(characters), table.concat(characters)
+  end
+  if kind == "bool" then
+    local on = random() < 0.5
+    return on, on and 1 or 0
+  end
+  if kind == "float" or kind == "double" then
+    local value = random() < 0.5 and least + random() * (most - least) or random() * 10 ^ -random(0, 12)
+    value = math.min(math.max(value, least), most)
+    return random() < 0.1 and numbers.write(value) or value, value
+  end
+  local value = random(kind == "enum" and math.max(least, 1) or least, most)
+  local choice = kind == "enum" and (texts[random(2)][row.name][3] or {})[value]
+  if choice and choice ~= "frei" and choice ~= "NC" then return choice, value end
+  return value, value
+end
+
+-- A value that is refused, and the reason.
+local function forbidden(row)
+  local range = row.max and row.min and (" (%.10g to %.10g%s)"):format(row.min, row.max, row.unit and " " .. row.unit or "")
+  local faults = {{print, row.length and "NOT A TEXT" or "NOT A NUMBER"}}
+  local function add(value, reason) faults[#faults + 1] = {value, reason} end
+  if row.length then
+    add(5, "NOT A TEXT")
+    for sign, name in pairs {[","] = "A COMMA", ["="] = "AN EQUALS SIGN", ['"'] = "A DOUBLE QUOTE",
+                             ["\n"] = "A CONTROL CHARACTER", ["\0"] = "A CONTROL CHARACTER"} do
+      add("x" .. sign .. "system touch /canary", "A LINE CANNOT CARRY " .. name)
+    end
+    local most = math.min(row.length, 120 - #row.name)
+    add(("x"):rep(most + 1), ("TEXT TOO LONG (%d bytes, at most %d)"):format(most + 1, most))
+    for _, address in ipairs(row.kind == "address" and {"", "1.2.3", "1.2.3.256", "01.2.3.4", "hello", "1.2.3.4 "} or {}) do
+      add(address, "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)")
+    end
+  else
+    add(0 / 0, "NOT A NUMBER")
+    if row.kind ~= "enum" then
+      add("7,5", "NOT A NUMBER (a number has a point)")
+      add("x", "NOT A NUMBER")
+    else add("no choice", "NO SUCH CHOICE") end
+    if range then
+      add(row.min - 1, "VALUE TOO LOW" .. range)
+      add(row.max * 1.01 + 1, "VALUE TOO HIGH" .. range)
+      if row.kind ~= "float" then add(row.max - 0.5, "NOT A WHOLE NUMBER" .. range) end
+    end
+  end
+  return table.unpack(faults[random(#faults)])
+end
+
+-- Of 32-bit floats the store keeps 24 bits, and nothing below 2^-149; reading prints six decimals.
+local function isKept(row, index, value)
+  local line = "TLX_" .. row.name
+  if row.kind ~= "float" or index then
+    local found = talux.get(row.name, index)
+    return row.kind == "float" and math.abs(found - value) <= math.abs(value) * 2 ^ -24 or found == value
+  end
+  local found = numbers.read(talux_command(line .. ",713623846352979940529142984724747568191373312,*")) / 2 ^ 149
+  return math.abs(found - value) <= math.max(math.abs(value) * 2 ^ -24, 2 ^ -150)
+end
+
+case("1,000 random tables are applied as a whole or refused as a whole", function()
+  local model = {} -- by name and index: row, index, value
+  local function agrees(entry) return isKept(entry.row, entry.index, entry.value) end
+  for _ = 1, 1000 do
+    local settings, wanted = {}, {}
+    for _ = 1, random(12) do
+      local row = writable[random(#writable)]
+      local index = row.first and random(row.first, row.last)
+      local value, kept = permitted(row)
+      if not settings[row.name] then
+        settings[row.name] = index and {[index] = value} or value
+        wanted[row.name .. (index or "")] = {row = row, index = index, value = kept}
+      end
+    end
+    local reason
+    if random() < 0.5 then
+      local row = writable[random(#writable)]
+      local value
+      value, reason = forbidden(row)
+      settings[row.name] = row.first and {[row.last] = value} or value
+      reason = ("%s%s = %s: %s"):format(row.name, row.first and "[" .. row.last .. "]" or "", tostring(value), reason)
+    end
+    local good, found = pcall(talux.apply, settings)
+    equal(good, not reason, reason or found)
+    if reason then equal(found, reason, "reason") end
+    for key, entry in pairs(wanted) do
+      if not reason then model[key] = entry end
+      if model[key] then equal(agrees(model[key]), true, "value of " .. key) end
+    end
+  end
+  for key, entry in pairs(model) do equal(agrees(entry), true, "value in the end of " .. key) end
+  equal(io.open "/canary", nil, "no text is a command")
+end)
+
+case("factory defaults can be applied, and then nothing is changed but addresses", function()
+  local defaults, names = {}, {}
+  for _, row in ipairs(writable) do defaults[row.name] = row.default end
+  talux.apply(defaults)
+  for k, change in ipairs(talux.changed()) do names[k] = change.name end
+  equal(table.concat(names, " "), "ETH0_IP ETH1_IP WLAN0_IP sec_mode", "changed")
+end)
+
+case("every name that is none is refused with the nearest one", function()
+  for wrong, right in pairs {Uearht = "Uearth", TLX_Uearth = "Uearth", BAasign3 = "BAassign3", u_earth = "Uearth",
+                             MesRecord01 = "MessRecord01"} do
+    refused(wrong .. ": NO SUCH PARAMETER (" .. right .. "?)", talux.get, wrong)
+    refused(wrong .. " = 1: NO SUCH PARAMETER (" .. right .. "?)", talux.set, wrong, 1)
+  end
+  refused("Name,system touch /canary: NO SUCH PARAMETER", talux.get, "Name,system touch /canary")
+  refused("nil: NO SUCH PARAMETER", talux.get)
+  equal(io.open "/canary", nil, "no name is a command")
+end)
+
+case("what cannot be read or written says why", function()
+  for name, reason in pairs {vBE = "INDEX REQUIRED (1 to 96)", MessRecord01 = "A RECORD"} do
+    refused(name .. ": " .. reason, talux.get, name)
+  end
+  for _, row in ipairs {{0, 3, "INDEX TOO LOW (1 to 96)"}, {1, 97, "INDEX TOO HIGH (1 to 96)"},
+                        {1.5, 3, "INDEX MUST BE A WHOLE NUMBER (1 to 96)"}, {3, 2, "INDEX 1 GREATER THAN INDEX 2"}} do
+    refused("vBE: " .. row[3], talux.get, "vBE", row[1], row[2])
+  end
+  refused("Uearth: NO INDEX ALLOWED", talux.get, "Uearth", 1)
+  refused("BAassign: NO SUCH PARAMETER (BAassign1?)", talux.get, "BAassign", 1, 9)
+  for _, row in ipairs {
+    {"MAC_adress", "x", "VARIABLE IS READ ONLY"}, {"Logout", 1, "A COMMAND KEEPS NO VALUE"},
+    {"MessRecord01", 1, "A RECORD KEEPS NO VALUE"}, {"vBE", 1, "INDEX REQUIRED (1 to 96)"},
+    {"ETH0_MASK", "255.0.255.0", "NO NETMASK (ones in front of zeros as in 255.255.255.0)"},
+    {"ETH0_IP", "192.168.1", "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)"},
+    {"Date", "2024-02-30", "NO DATE (as 2024-05-17)"}, {"Time", "24:00:00", "NO TIME (as 10:20:30)"},
+    {"BAassign3", "NC", "STANDS FOR SEVERAL CHOICES (give the number)"}, {"DataBits1", 8, "VALUE TOO HIGH (1 to 2)"},
+    {"Uearth", nil, "NO VALUE"}, {"Uearth", 95, "VALUE TOO HIGH (1 to 90 %)"},
+  } do refused(("%s = %s: %s"):format(row[1], tostring(row[2]), row[3]), talux.set, row[1], row[2]) end
+  refused("Uearth = 40: NAMED TWICE", talux.apply, {Uearth = 40, uearth = 40})
+end)
+
+case("a write that does not arrive takes the others back", function()
+  if not isolated then return print "skipped: taking back: it tries to set the clock" end
+  local before = {preBuff_dUo = 1 / 3e5, BAassign = {[3] = 1}, vBE = {[5] = 7}, Name = "before"}
+  local after = {preBuff_dUo = 0.25, BAassign = {[3] = 2}, vBE = {[5] = 8}, Name = "after", Date = "2001-02-03"}
+  local reason = ("Date = 2001-02-03: NOT STORED (reads %s)"):format(talux.get "Date")
+  talux.apply(before)
+  refused(reason, talux.apply, after)
+  equal(#talux.apply(before), 0, "changes to what was before")
+  assert(io.open("/odd.ini", "w")):write('TLX_Name="a, b"\n'):close() -- what no line can write
+  talux.load "odd.ini"
+  refused(reason .. "; not taken back: Name", talux.apply, after)
+  equal(talux.protocol(talux.apply(before), "en"):match '%S+ %-> %S+$', '"after" -> "before"', "the only change")
+end)
+
+case("elements, series and records come as tables", function()
+  local written = {vMWR = {}, vBE = {}, OVR_MW_val = {}}
+  for k = 1, 32 do
+    written.vMWR[k], written.vBE[k], written.OVR_MW_val[k] = random() * 10 ^ random(-9, 8), random(-9, 9), 2 ^ random(-140, 29)
+  end
+  talux.apply(written)
+  for name, values in pairs(written) do
+    local read = talux.get(name, 2, 31)
+    for k = 1, 32 do equal(read[k], 1 < k and k < 32 and values[k] or nil, name .. k) end
+  end
+  talux.set("prio_list", {[1] = 4, [10] = 5})
+  equal(talux.get("prio_list", 1, 10)[10] + talux.get("prio_list", 1), 9, "series")
+  local record, members = talux.record "MessRecord02", 0
+  for _, value in pairs(record) do members = members + 1 equal(value, 0, "member") end
+  equal(members, 29, "members")
+  refused("Mess: NO SUCH RECORD", talux.record, "Mess")
+  local bytes = "0000803F000020C10100000001000080FFFF7F7F000080FF0000C07F"
+  for k, value in ipairs {1, -10, 2 ^ -149, -2 ^ -149, 2 ^ 128 - 2 ^ 104, -1 / 0, 0 / 0} do
+    equal(numbers.fromBytes(bytes)[k], value, "float " .. k)
+  end
+  equal(numbers.fromBytes("FEFFFFFF", {{kind = "long"}})[1], -2, "long")
+end)
+
+case("refusals are told from answers", function()
+  for line, refusal in pairs {
+    ["TLX_Uearth=95"] = "<< VALUE TOO HIGH >>", ["1,0,/"] = "Division durch 0", ["load none"] = "error: can't load parameter",
+    ["-1,sqrt"] = "Quadratwurzel von negativen Werten nicht erlaubt", ["system"] = "command required",
+    ["TLX_MessRecord01"] = "<< OUTPUT BUFFER EXCEEDED >>", ["load_sec"] = "sec error: can't load parameter",
+  } do
+    local answer, reason = talux.try(line)
+    equal(answer, nil, line)
+    equal(reason, refusal, line)
+  end
+  talux.set("Name", "<< no refusal >>")
+  equal(talux.try "TLX_Name", '"<< no refusal >>"', "a text")
+  equal(talux.try "TLX_vBE 3.2", nil, "a range")
+end)
+
+case("files: an error when they fail, silently too", function()
+  for _, word in ipairs {"update", "save", "save_sec", "save_ip", "load", "load_sec"} do talux[word]() end
+  refused("load none: error: can't load parameter", talux.load, "none")
+  refused("load_ip none: error: can't load IPs", talux.load_ip, "none")
+  refused("load: no file name that a line can carry", talux.load, "my file.ini")
+  if not isolated then return print "skipped: failing files: they are the container's" end
+  os.execute "rm /parameter.ini /sec_parameter.ini; mkdir /parameter.ini; ln -s /dev/null /sec_parameter.ini"
+  refused("save: error: can't save parameter", talux.save)
+  refused("save_sec: sec_parameter.ini does not hold Firewall_dis", talux.save_sec)
+end)
+
+case("changes are told with title, unit and choice in either language", function()
+  talux.apply {Uearth = 30, BAassign3 = 26, Name = "Süd", vBE = {[7] = 1}, Language = 1}
+  local changes = talux.apply {Uearth = 0x1p5 + 0.1, BAassign3 = "qu2 ->F", Name = "Nord", vBE = {[7] = 2}}
+  for language, told in pairs {de = talux.protocol(changes), en = talux.protocol(changes, "en")} do
+    local function title(name) return talux.parameter(name, language)[language].title end
+    local choices = talux.parameter("baassign3")[language].choices
+    for name, values in pairs {Name = '"Süd" -> "Nord"', ["vBE[7]"] = "1 -> 2", Uearth = "30 -> 32.1 %",
+                               BAassign3 = ("26 (%s) -> 28 (%s)"):format(choices[26], choices[28])} do
+      local line = ("%-9s  %s"):format(name, title(name:match "%w+"))
+      local place = told:find(line, 1, true)
+      equal(place and (told .. "\n"):match("^ +(.-)\n", place + #line), values, name .. " in " .. language)
+    end
+  end
+  refused('a language is "de" or "en"', talux.protocol, {}, "fr")
+end)
+
+case("calls come on time, and those that are late are left out", function()
+  local function uptime() return numbers.read(io.open("/proc/uptime"):read():match "^%S+") end
+  local start, calls = uptime(), {}
+  talux.every(50, function(k)
+    calls[#calls + 1] = k
+    if k == 1 then talux_usleep(120000) end
+    return k < 8
+  end)
+  equal(uptime() - start >= 0.33, true, "seven periods")
+  equal(calls[2] >= 4 and calls[#calls] >= 8, true, "the calls " .. table.concat(calls, " "))
+end)
+
+check.finish()
