@@ -3,6 +3,7 @@
 #include <iterator>
 #include <sstream>
 
+#include "ParamSystem/TALUX_ParamCounts.h"
 #include "tools/pages/Markdown.h"
 #include "tools/pages/Pages.h"
 #include "tools/pages/Records.h"

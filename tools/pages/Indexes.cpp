@@ -2,6 +2,7 @@
 #include <set>
 #include <sstream>
 
+#include "ParamSystem/TALUX_ParamCounts.h"
 #include "ParamSystem/support/Text.h"
 #include "tools/pages/Markdown.h"
 #include "tools/pages/Names.h"

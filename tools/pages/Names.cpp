@@ -2,18 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
-#include <cstdlib>
-
-namespace talux {
-
-// The compiler tells it of the text data; the data of the pages are read while the program runs.
-void wrongTextData(const char* why) {
-    std::fprintf(stderr, "tools/pages: %s\n", why);
-    std::exit(1);
-}
-
-} // namespace talux
 
 namespace talux::pages {
 
@@ -40,7 +28,8 @@ std::vector<std::string_view> words(std::string_view text) {
 std::vector<std::string> namesOf(std::string_view patterns) {
     std::vector<std::string> names;
     for (std::string_view pattern : words(patterns))
-        forEachMember(pattern, [&](const Member& member) { names.emplace_back(member.name.view()); });
+        for (generator::Member& member : generator::membersOf(pattern))
+            names.push_back(std::move(member.name));
     return names;
 }
 
@@ -54,12 +43,6 @@ std::vector<int> numbersOf(std::string_view ranges) {
             numbers.push_back(number);
     }
     return numbers;
-}
-
-std::string filledIn(std::string_view text, const Member& member) {
-    std::string filled;
-    fillIn(text, member, [&filled](std::string_view piece) { filled += piece; });
-    return filled;
 }
 
 std::string asRanges(std::vector<int> numbers) {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ParamSystem/dictionary/TextPattern.h"
+#include "tools/generator/TextPattern.h"
 
 namespace talux::pages {
 
@@ -17,9 +17,6 @@ std::vector<std::string> namesOf(std::string_view patterns);
 
 // Every number of "5..7 16".
 std::vector<int> numbersOf(std::string_view ranges);
-
-// A text with the member of a series in its places {n} and {m}.
-std::string filledIn(std::string_view text, const Member& member);
 
 // Ascending numbers the short way: "5..7, 16".
 std::string asRanges(std::vector<int> numbers);

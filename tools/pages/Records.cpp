@@ -9,11 +9,9 @@ std::map<std::string, MemberTexts, std::less<>> memberTextsOf(const Parameter& r
     constexpr std::span<const RecordMember> kTexts[] = {kMessRecord01, kMessRecord02, kStatRecord_c0};
     std::map<std::string, MemberTexts, std::less<>> texts;
     for (const RecordMember& row : kTexts[record.row().id - kFirstStruct])
-        forEachMember(row.members, [&](const Member& member) {
-            texts.emplace(member.name.view(),
-                          MemberTexts{filledIn(row.de, member), filledIn(row.en, member),
-                                      filledIn(row.twin, member), filledIn(row.enable, member)});
-        });
+        for (const generator::Member& member : generator::membersOf(row.members))
+            texts.emplace(member.name, MemberTexts{filledIn(row.de, member), filledIn(row.en, member),
+                                                   filledIn(row.twin, member), filledIn(row.enable, member)});
     return texts;
 }
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "ParamSystem/TALUX_ParamCounts.h"
 #include "tools/pages/Facts.h"
 #include "tools/pages/Glossary.h"
 #include "tools/pages/Pages.h"

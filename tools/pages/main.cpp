@@ -8,6 +8,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "tools/generator/TextPattern.h"
 #include "tools/pages/Facts.h"
 #include "tools/pages/Pages.h"
 
@@ -66,10 +67,15 @@ int main(int argc, char** argv) {
         std::fputs("parameter_pages [--check] FRAME DIR\n", stderr);
         return 2;
     }
-    const auto faults = talux::pages::faults();
-    for (const std::string& fault : faults)
-        std::printf("%s\n", fault.c_str());
-    if (!faults.empty()) return 1;
-    const Pages pages = allPages(argv[argc - 2]);
-    return checks ? check(argv[3], pages) : write(argv[2], pages);
+    try {
+        const auto faults = talux::pages::faults();
+        for (const std::string& fault : faults)
+            std::printf("%s\n", fault.c_str());
+        if (!faults.empty()) return 1;
+        const Pages pages = allPages(argv[argc - 2]);
+        return checks ? check(argv[3], pages) : write(argv[2], pages);
+    } catch (const talux::generator::BrokenRule& rule) {
+        std::printf("tools/pages: %s\n", rule.text);
+        return 1;
+    }
 }
