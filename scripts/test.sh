@@ -2,8 +2,8 @@
 # Builds and passes the tests.
 #
 #   test.sh           release, sanitize (addresses and undefined behaviour) and armv7
-#   test.sh --all     also debug, armv5te, threads, commands, lint, plain, rock, reproducible, and the release
-#                     tests once more as an ordinary user and in a container without privileges
+#   test.sh --all     also debug, armv5te, threads, commands, browser, lint, plain, rock, reproducible, and the
+#                     release tests once more as an ordinary user and in a container without privileges
 #   test.sh STAGE..   only these
 #
 # What is missing is installed (as root). Every stage runs whatever became of the others. The summary repeats
@@ -12,7 +12,7 @@
 cd "$project"
 
 usual=(release sanitize armv7)
-all=("${usual[@]}" debug armv5te threads commands lint plain rock reproducible user container)
+all=("${usual[@]}" debug armv5te threads commands browser lint plain rock reproducible user container)
 
 release() { build release && run_tests build-release; }
 debug() { build debug && run_tests build-debug; }
@@ -58,6 +58,20 @@ commands() {
     -e 'print(talux_command("TLX_Uearth")) print(talux_command("load,TLX_Uearth"))')"
   rm -rf "$root"
   return "$status"
+}
+
+# The page that searches the parameters, in a browser without a window.
+browser() {
+  local profile result
+  need chromium:chromium
+  profile=$(mktemp -d)
+  result=$(timeout 300 chromium --headless --no-sandbox --disable-gpu --no-first-run --disable-background-networking \
+    --disable-component-update --disable-sync --user-data-dir="$profile" --allow-file-access-from-files \
+    --virtual-time-budget=60000 --dump-dom "file://$project/tests/pages/browser.html" 2>/dev/null |
+    sed -n 's,.*<title>\(.*\)</title>.*,\1,p')
+  rm -rf "$profile"
+  echo "${result:-the browser did not start}" | tee -a "$results/summary"
+  [[ $result = 'all right'* ]]
 }
 
 # Without options and test packages there is the module and nothing else.

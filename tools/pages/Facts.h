@@ -1,0 +1,61 @@
+// What every page says of a parameter beside its texts.
+#ifndef TALUX_PAGES_FACTS_H
+#define TALUX_PAGES_FACTS_H
+
+#include <string>
+#include <vector>
+
+#include "tools/pages/Methods.h"
+#include "tools/pages/Notes.h"
+#include "tools/reference/Reference.h"
+
+namespace talux::pages {
+
+using reference::Parameter;
+
+inline int firstId(const Parameter& parameter) {
+    return parameter.row().id;
+}
+inline int lastId(const Parameter& parameter) {
+    return parameter.row().id + parameter.elements() - 1;
+}
+
+inline bool isCommand(const Parameter& parameter) {
+    return parameter.type().code == kTypeCommand;
+}
+inline bool isChoice(const Parameter& parameter) {
+    return parameter.type().kind == Kind::Enum;
+}
+
+// The least number that stands for something: choices count from 1 where nothing else is told.
+double leastNumber(const Parameter& parameter);
+bool hasLimits(const Parameter& parameter);
+
+// Longest text, in bytes, that a line of the language can write: a term has 127 characters, of which
+// prefix, name, "=" and two quotes take some.
+int lineRoom(const Parameter& parameter);
+
+// Factory default as a number or a text; empty where there is none.
+std::string defaultValue(const Parameter& parameter);
+
+// Name of the template whose choices the parameter shares; empty where it has its own.
+std::string_view templateOf(const Parameter& parameter);
+
+// Notes that name the parameter or its template.
+const std::vector<const Note*>& notesOf(const Parameter& parameter);
+
+// The detection method to which a setting belongs, or null.
+const Method* methodOf(const Parameter& parameter);
+
+// The family whose parameters each belong to one method.
+inline constexpr std::string_view kMethodFamily = "Earth-fault detection";
+
+// Patterns of every setting of a method.
+std::string settingsOf(const Method& method);
+
+// What is wrong in the data of the pages: names and choices that do not exist, members without a text.
+std::vector<std::string> faults();
+
+} // namespace talux::pages
+
+#endif

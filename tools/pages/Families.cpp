@@ -1,0 +1,188 @@
+// One page per menu family: a table with a row for each parameter or series.
+#include <algorithm>
+#include <iterator>
+#include <sstream>
+
+#include "ParamSystem/TALUX_ParamCounts.h"
+#include "tools/pages/Markdown.h"
+#include "tools/pages/Pages.h"
+#include "tools/pages/Records.h"
+#include "tools/pages/Series.h"
+
+namespace talux::pages {
+
+namespace {
+
+// Ids of a series in menu order: "10118..10127", or each for itself where they do not count up.
+std::string idsOf(const Entry& entry) {
+    const Parameter &first = entry.first(), &last = entry.members.back();
+    const int count = static_cast<int>(entry.members.size());
+    if (lastId(last) == firstId(first)) return std::to_string(firstId(first));
+    if (count == 1 || lastId(last) - firstId(first) == count - 1)
+        return joined({std::to_string(firstId(first)), "..", std::to_string(lastId(last))});
+    std::string ids;
+    for (const Parameter& member : entry.members)
+        (ids += ids.empty() ? "" : ", ") += std::to_string(firstId(member));
+    return ids;
+}
+
+std::string nameCell(const Entry& entry) {
+    std::string cell;
+    for (const Parameter& member : entry.members)
+        cell += joined({"<a id=\"", member.name(), "\"></a>"});
+    cell += joined({"`", entry.name, "`"});
+    addLine(cell, idsOf(entry));
+    return cell;
+}
+
+// "default 5 = 115200"; of a series whose members differ "default 3, 1, 26".
+std::string defaultLine(const Entry& entry) {
+    std::string list;
+    for (const Parameter& member : entry.members)
+        (list += list.empty() ? "" : ", ") += defaultValue(member);
+    const Parameter& first = entry.first();
+    std::string value = defaultValue(first);
+    const auto likeFirst = [&value](const Parameter& member) { return defaultValue(member) == value; };
+    if (!std::ranges::all_of(entry.members, likeFirst)) return "default " + list;
+    if (value.empty()) return "default empty";
+    if (!first.hasNumber()) return joined({"default `", value, "`"});
+    if (isChoice(first)) {
+        const std::string choice = first.choiceText(static_cast<int>(first.row().val_def), kEnglish);
+        if (!choice.empty()) (value += " = ") += escaped(choice);
+    }
+    return "default " + value;
+}
+
+std::string limitsLine(const Parameter& parameter) {
+    if (!parameter.hasNumber() || parameter.type().kind == Kind::Bool) return {};
+    if (!isChoice(parameter))
+        return hasLimits(parameter)    ? reference::rangeText(parameter, kEnglish)
+               : parameter.isSetting() ? "no limits told"
+                                       : "";
+    return joined({"choice ", reference::shortNumber(leastNumber(parameter)), " to ",
+                   reference::shortNumber(parameter.row().val_max)});
+}
+
+std::string kindLine(const Parameter& parameter) {
+    std::string line(parameter.type().name);
+    const std::string unit = parameter.unit();
+    if (!unit.empty()) (line += " in ") += unit;
+    if (parameter.textRoom() > 0 && parameter.writeLevel() > 0) {
+        line += joined({", ", std::to_string(lineRoom(parameter)), " bytes in a line"});
+        const int meant = parameter.row().val_len;
+        if (meant > 0 && meant < lineRoom(parameter)) line += joined({", meant for ", std::to_string(meant)});
+    }
+    return line;
+}
+
+std::string writeLine(const Parameter& parameter) {
+    if (isCommand(parameter)) return "a write does nothing";
+    if (parameter.writeLevel() == 0) return "read only";
+    return "write: level " + std::to_string(parameter.writeLevel());
+}
+
+std::string valueCell(const Entry& entry) {
+    const Parameter& parameter = entry.first();
+    std::string cell = kindLine(parameter);
+    if (parameter.isTemplate()) return cell;
+    if (parameter.isSetting()) addLine(cell, defaultLine(entry));
+    addLine(cell, limitsLine(parameter));
+    if (parameter.file() != reference::File::none)
+        addLine(cell, joined({"`", reference::fileName(parameter.file()), "`"}));
+    else if (!isCommand(parameter))
+        addLine(cell, "run-time value");
+    addLine(cell, writeLine(parameter));
+    return cell;
+}
+
+void addItems(std::string& cell, const Parameter& parameter, ParamLanguage language) {
+    if (!isCommand(parameter)) addLine(cell, listOf(parameter.items(reference::kChoices, language)));
+    for (auto group : {reference::kMessages, reference::kErrors}) {
+        const std::string list = listOf(parameter.items(group, language));
+        if (!list.empty()) addLine(cell, joined({parameter.heading(group, language), ": ", list}));
+    }
+    const std::string_view name = templateOf(parameter);
+    if (name.empty()) return;
+    addLine(cell, joined({language == kGerman ? "wie" : "as", " [", name, "](templates.md#", name, ")"}));
+}
+
+std::string textCell(const Entry& entry, ParamLanguage language) {
+    const Parameter& parameter = entry.first();
+    const std::string title = parameter.title(language);
+    std::string cell;
+    if (title.empty())
+        addLine(cell, language == kGerman ? "kein Text" : "no text");
+    else
+        addLine(cell, joined({"**", escaped(entry.withNumbers(title)), "**"}));
+    addLine(cell, escaped(entry.withNumbers(parameter.description(language))));
+    addItems(cell, parameter, language);
+    // What is said of a template stands there.
+    for (const Note* note : notesOf(parameter))
+        if (parameter.isTemplate() || !note->names.starts_with("TPL_"))
+            addLine(cell, joined({"*", escaped(language == kGerman ? note->de : note->en), "*"}));
+    return cell;
+}
+
+void addTable(std::ostringstream& page, const std::vector<Parameter>& parameters) {
+    page << "| Name, id | Value | English | Deutsch |\n|---|---|---|---|\n";
+    for (const Entry& entry : entriesOf(parameters))
+        page << "| " << nameCell(entry) << " | " << valueCell(entry) << " | " << textCell(entry, kEnglish)
+             << " | " << textCell(entry, kGerman) << " |\n";
+}
+
+// One heading per method, in their order.
+void addMethodTables(std::ostringstream& page, const std::vector<Parameter>& parameters) {
+    for (const Method& method : kMethods) {
+        std::vector<Parameter> own;
+        std::ranges::copy_if(parameters, std::back_inserter(own), [&method](const Parameter& parameter) {
+            return methodOf(parameter) == &method;
+        });
+        if (own.empty()) continue;
+        page << "\n## " << method.en << " · " << method.de << "\n\n";
+        addTable(page, own);
+    }
+}
+
+void addMembers(std::ostringstream& page, const Parameter& record) {
+    const auto texts = memberTextsOf(record);
+    page << "\n## Members of " << record.name() << "\n\n"
+         << "| Byte | Member | Kind | English | Deutsch | As, switched by |\n|---|---|---|---|---|---|\n";
+    for (const StructMemberProperties_t& member : reference::members(record)) {
+        const MemberTexts& text = texts.find(member.aszMemberName)->second;
+        std::string like = text.twin.empty() ? "" : linkTo(text.twin);
+        if (!text.twin.empty() && !reference::find(text.twin)->unit().empty())
+            like += " in " + reference::find(text.twin)->unit();
+        if (!text.enable.empty()) addLine(like, linkTo(text.enable));
+        page << "| " << member.lMemberOffset << " | `" << member.aszMemberName << "` | "
+             << member.szMemberType << " | " << text.en << " | " << text.de << " | " << like << " |\n";
+    }
+}
+
+std::string pageOf(const stParamFamily& family) {
+    std::vector<Parameter> parameters;
+    for (const Parameter& parameter : reference::parameters())
+        if (&parameter.family() == &family) parameters.push_back(parameter);
+    std::ostringstream page;
+    page << kGenerated << "# " << family.name << "\n\n[How to read a row, all families](README.md)\n";
+    if (family.name == kMethodFamily) {
+        page
+            << "\nWhat belongs to a method beside its settings, its outputs for instance, stands on the page "
+               "[Detection methods](detection-methods.md).\n";
+        addMethodTables(page, parameters);
+    } else {
+        page << '\n';
+        addTable(page, parameters);
+    }
+    for (const Parameter& parameter : parameters)
+        if (parameter.type().nature == Nature::record) addMembers(page, parameter);
+    return page.str();
+}
+
+} // namespace
+
+void addFamilies(Pages& pages) {
+    for (const stParamFamily& family : DefParamFamilies)
+        pages[fileOf(family)] = pageOf(family);
+}
+
+} // namespace talux::pages

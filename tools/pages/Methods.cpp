@@ -1,0 +1,73 @@
+// The page of the detection methods: what belongs together.
+#include "tools/pages/Methods.h"
+
+#include "tools/pages/Markdown.h"
+#include "tools/pages/Names.h"
+#include "tools/pages/Pages.h"
+
+namespace talux::pages {
+
+namespace {
+
+// "`Uearth` 30 %": with the factory default where there is one.
+std::string parameterList(std::string_view patterns) {
+    std::string list;
+    for (const std::string& name : namesOf(patterns)) {
+        const Parameter& parameter = *reference::find(name);
+        (list += list.empty() ? "" : ", ") += linkTo(parameter);
+        if (parameter.isSetting()) (list += ' ') += defaultValue(parameter);
+        if (parameter.isSetting() && !parameter.unit().empty()) (list += ' ') += parameter.unit();
+    }
+    return list;
+}
+
+std::string choiceList(std::string_view numbers, std::string_view parameter) {
+    std::vector<reference::Choice> choices;
+    const Parameter& chooser = *reference::find(parameter);
+    for (int number : numbersOf(numbers))
+        choices.push_back({number, chooser.choiceText(number, kEnglish)});
+    std::string list;
+    for (const auto& [number, text] : choices) {
+        (list += list.empty() ? "" : " · ") += std::to_string(number);
+        const std::string german = chooser.choiceText(number, kGerman);
+        (list += " = ") += escaped(text);
+        if (german != text) list += " (" + escaped(german) + ")";
+    }
+    return list;
+}
+
+void addRow(std::string& page, std::string_view label, const std::string& content) {
+    if (!content.empty()) page += joined({"| ", label, " | ", content, " |\n"});
+}
+
+void addMethod(std::string& page, const Method& method) {
+    page += joined({"\n## ", method.en, " · ", method.de, "\n\n"});
+    if (!method.enRemark.empty())
+        page += joined({escaped(method.enRemark), "\n\n*", escaped(method.deRemark), "*\n\n"});
+    page += "| | |\n|---|---|\n";
+    addRow(page, "switch · Freigabe", parameterList(method.enable));
+    addRow(page, "thresholds · Schwellen", parameterList(method.thresholds));
+    addRow(page, "settings · Einstellungen", parameterList(method.settings));
+    addRow(page, "delays · Verzögerungen", parameterList(method.delays));
+    addRow(page, "durations · Dauern", parameterList(method.durations));
+    addRow(page, "logs · Logbücher", parameterList(method.logs));
+    addRow(page, "measured · Messwerte", parameterList(method.measured));
+    addRow(page, "output functions · Ausgangsfunktionen", choiceList(method.functions, "BAassign1"));
+    addRow(page, "priorities · Prioritäten", choiceList(method.priorities, "prio_list_1"));
+}
+
+} // namespace
+
+void addMethods(Pages& pages) {
+    std::string page = joined(
+        {kGenerated, "# Detection methods\n\n[All parameters](README.md)\n\n",
+         "What belongs together, with the factory defaults. A method works when its switch is 1 and signals on the "
+         "outputs to which one of its *output functions* is assigned: their numbers go into `BAassign{1..8}` for "
+         "relays and `LEDassign{1..10}` for LEDs ([BA_FUNCTION](templates.md#BA_FUNCTION) has the whole list), "
+         "those of its *priorities* into `prio_list_{1..10}`.\n"});
+    for (const Method& method : kMethods)
+        addMethod(page, method);
+    pages["detection-methods.md"] = page;
+}
+
+} // namespace talux::pages

@@ -1,0 +1,23 @@
+// The pages of docs/parameters, each by the name of its file.
+#ifndef TALUX_PAGES_PAGES_H
+#define TALUX_PAGES_PAGES_H
+
+#include <map>
+#include <string>
+
+namespace talux::pages {
+
+using Pages = std::map<std::string, std::string>;
+
+void addFamilies(Pages& pages); // one page per menu family
+void addIndexes(Pages& pages);  // entry page, by name, by id
+void addMethods(Pages& pages);
+void addGlossary(Pages& pages);
+void addTable(Pages& pages); // all parameters as CSV
+
+// All parameters on one page to search, made from its frame: HTML with a place for the data.
+void addSearchPage(Pages& pages, std::string frame);
+
+} // namespace talux::pages
+
+#endif
