@@ -72,7 +72,8 @@ extern TALUX_API int mutex_init;
 // Sets the directory of the parameter files (its first 255 characters count), creates the locks once and
 // attaches the segments, creating them zero-filled when no program has yet. Call before anything else
 // here and before a second thread. A failure prints the system error and ends the process with status 1.
-// A second call attaches the segments again and sets the directory anew.
+// A later call sets the directory anew; segments that are attached stay where they are, so that other threads
+// may be inside an accessor, and one that was removed and made anew meanwhile is attached in its place.
 TALUX_API void VarInit(char* inipath);
 
 // What VarInit does besides the path.
@@ -251,12 +252,16 @@ TALUX_API int VarUpdateGlobalSpace(void);
  * Text files of lines TLX_<name>=<value> in szParameterPath: parameter.ini (levels 1 and 2),
  * sec_parameter.ini (level 3), ip_config.ini (addresses) and the factory addresses def_ip_config.ini.
  * They are written from the global space and loaded into the temporary space, then committed. Messages go
- * to the error stream or standard output as told in docs/architecture.md. Two saves of one file at once
- * are not prevented.
+ * to the error stream or standard output as told in docs/architecture.md; docs/files.md tells the format.
+ *
+ * A save replaces the file as a whole: whoever reads it, also after a cut of the power, finds the old one or
+ * the new one. Several processes and threads may save at once; the last one counts. A save needs 48 kB of
+ * stack and no heap.
  */
 
-// Write one file. 1 done, 0 the file cannot be created (or, for the address file, has an empty name). A
-// failed write is reported, writing stops, the result is 1. The address file is committed first.
+// Write one file. 1 done; 0 the file cannot be created, is not surely kept, has an empty name (the address
+// file) or nobody has called LoadDefParamProperties. A write that fails is reported, the old file stays, and
+// the result is 1. The address file is committed first.
 TALUX_API int VarSaveParamFile(char* filename);
 TALUX_API int VarSaveSecParamFile(char* filename);
 TALUX_API int VarSaveIPConfigFile(char* filename);

@@ -1,10 +1,8 @@
 // How parameter files are read: every rule as a line, and the operations around the loader.
-#include "Store.h"
+#include "Files.h"
 
-#include <fstream>
 #include <strings.h>
 #include <unistd.h>
-#include <vector>
 
 #include "ParamSystem/TALUX_Funcs.h"
 
@@ -162,31 +160,33 @@ TEST_F(Load, DoesWhatTheModelDoes) {
     }
 }
 
-// What people rely on, without a model.
-TEST_F(Load, FollowsTheRulesOfALine) {
-    const struct {
-        const char* content;
-        const char* name;
-        double channel;
-        std::string output = {};
-    } rules[] = {
-        {"tlx_CHANNEL = 12 ;comment\n", "", 12},
-        {"TLX_Name=\"a;b#c//d\"\r\nTLX_channel=\"6\"", "a;b#c//d", 6},
-        {"TLX_Name= \"abc\"\n", " \"abc\"", 0},
-        {"TLX_Name=\"a=b\"\n", "a", 0},
-        {"TLX_Name=\"a\"b\"\n", "a", 0},
-        {"#\n\nTLX_channel=12abc\nTLX_Name=x\n", "x", 0, wrong(3, 6029)},
-        {"TLX_=x\nTLX_U1_prim=5\n", "", 0, wrong(1, 18000)},
-        {"\nTLX_Name", "", 0, "\nError (TALUX_Var): Error on line 2\n"},
-    };
-    for (const auto& rule : rules) {
-        begin();
-        EXPECT_EQ(outcomeOf([&] { return VarLoadFile(write("file", rule.content).data(), 0); }),
-                  Outcome(1, rule.output, ""));
-        EXPECT_EQ(text(9000, kGlobal), rule.name) << rule.content;
-        EXPECT_EQ(number(6029, kGlobal), rule.channel) << rule.content;
-        EXPECT_EQ(number(2000, kTemp), 0);
+// Each row of the page for people has a line, what is stored and what is said, all in `code`.
+TEST_F(Load, FollowsItsPage) {
+    std::istringstream page(contents(TALUX_PAGE));
+    int rows = 0;
+    for (std::string row; std::getline(page, row);) {
+        if (strncasecmp(row.c_str(), "| `TLX_", 7) != 0) continue;
+        std::vector<std::string> codes;
+        for (std::size_t at = row.find('`'), end = 0; at != std::string::npos; at = row.find('`', end + 1))
+            end = row.find('`', at + 1), codes.push_back(row.substr(at + 1, end - at - 1));
+        const std::string line = codes[0], name = line.substr(4, line.find_first_of(" =") - 4);
+        const stParamProperties* const known = GetParamPropertiesByName(const_cast<char*>(name.c_str()));
+        const int id = known == nullptr ? 9000 : known->id;
+        double seven = 7;
+        id == 9000 ? VarSetTextValue(id, std::string("7").data()) : VarSetValue(id, &seven);
+        const auto [result, output, errors] =
+            outcomeOf([&] { return VarLoadFile(write("file", line + "\n").data(), 0); });
+        char stored[32];
+        std::snprintf(stored, sizeof stored, "%g", number(id, kTemp));
+        const bool isEmpty = row.find("| the empty text") != std::string::npos,
+                   isNothing = row.find("| nothing") != std::string::npos;
+        EXPECT_EQ(id == 9000 ? text(id, kTemp) : stored, isNothing ? "7" : isEmpty ? "" : codes[1]) << line;
+        EXPECT_EQ(output.empty(), row.find("on line") == std::string::npos) << line;
+        for (std::size_t k = isNothing || isEmpty ? 1 : 2; k < codes.size(); ++k)
+            EXPECT_NE(output.find(codes[k]), std::string::npos) << line << output;
+        ++rows;
     }
+    EXPECT_GT(rows, 15);
 }
 
 TEST_F(Load, OfAMissingFileCommitsNothing) {
