@@ -12,19 +12,14 @@ file(MAKE_DIRECTORY ${talux_generated}/ParamSystem/dictionary ${talux_generated}
 
 if(CMAKE_CROSSCOMPILING)
   find_program(TALUX_HOST_CXX NAMES c++ g++ clang++ DOC "The compiler for programs of this machine" REQUIRED)
-  include(ExternalProject)
   set(folder ${PROJECT_BINARY_DIR}/generator)
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=CXXFLAGS --unset=LDFLAGS
+    ${CMAKE_COMMAND} -G ${CMAKE_GENERATOR} -S ${PROJECT_SOURCE_DIR}/tools/generator -B ${folder}
+      -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=${TALUX_HOST_CXX}
+    OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
   set(talux_generator ${folder}/dictionary_generator)
-  ExternalProject_Add(talux_generator_build
-    SOURCE_DIR ${PROJECT_SOURCE_DIR}/tools/generator
-    BINARY_DIR ${folder}
-    CONFIGURE_COMMAND ${CMAKE_COMMAND} -E env --unset=CXXFLAGS --unset=LDFLAGS
-      ${CMAKE_COMMAND} -G ${CMAKE_GENERATOR} -S <SOURCE_DIR> -B <BINARY_DIR>
-      -DCMAKE_CXX_COMPILER=${TALUX_HOST_CXX} -DCMAKE_BUILD_TYPE=Release
-    BUILD_COMMAND ${CMAKE_COMMAND} --build <BINARY_DIR>
-    BUILD_ALWAYS ON
-    BUILD_BYPRODUCTS ${talux_generator}
-    INSTALL_COMMAND "")
+  add_custom_target(talux_generator_build COMMAND ${CMAKE_COMMAND} --build ${folder}
+    BYPRODUCTS ${talux_generator} VERBATIM)
 else()
   add_subdirectory(tools/generator)
   set(talux_generator dictionary_generator)
