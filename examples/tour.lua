@@ -1,6 +1,6 @@
 -- A tour of the module: measured values, arithmetic, ranges and records, settings, files, refusals.
 -- Run it with scripts/run.sh; the device program (examples/device.cpp) runs beside it.
-require "lib_talux_lua"
+local talux = require "talux"
 
 local step = 0
 local function headline(text)
@@ -34,13 +34,11 @@ local function wait_for(what, ready)
   error("the device program does not answer: " .. what)
 end
 
--- Members 1 and 2 of the record are the time and the number of the device's measuring cycle.
-local function device_cycle()
-  return tonumber(talux_command("TLX_MessRecord01 -c"):match("^STRUCT:%s+%d+;(%d+);"))
-end
+-- The number of the device's measuring cycle.
+local function device_cycle() return talux.record "MessRecord01".Cnt end
 
 local function pass_two_cycles()
-  local start = wait_for("no record", device_cycle)
+  local start = device_cycle()
   wait_for("no new cycle", function() return device_cycle() >= start + 2 end)
 end
 
@@ -92,20 +90,18 @@ show "TLX_P_prim,sqr,TLX_Q_prim,sqr,+,sqrt,1000,/"
 
 headline "Read a range of an array"
 say("Twelve measured voltages in kV, one per cycle, go into the array vMWR:")
-for k = 1, 12 do
-  local kilovolt = talux_command("TLX_U1_prim")
-  assert(talux_command(("TLX_vMWR %d=%s"):format(k, kilovolt)) == "")
-  talux_usleep(50000)
-end
+talux.every(50, function(k)
+  talux.set("vMWR", {[k] = talux.get "U1_prim"})
+  return k < 12
+end)
 show("TLX_vMWR 1.12", 4)
 show "TLX_vMWR 1.12 -c"
 say("All 96 in the plain form do not fit into the 1000 bytes of an answer; values alone do:")
 show "TLX_vMWR 1.96"
 show("TLX_vMWR 1.96 -p", 4)
 say("A script that needs them all as numbers takes them in one call:")
-local array = talux_doublearray.new(96)
-local count = talux_doublearray.get(array, "TLX_vMWR", 1, 96)
-say("talux_doublearray.get reads %d values, the twelfth is %f", count, talux_doublearray.getitem(array, 11))
+local values = talux.get("vMWR", 1, 96)
+say("talux.get reads %d values, the twelfth is %f", #values, values[12])
 
 headline "Read a record of 59 members"
 show "TLX_MessRecord01"
@@ -153,3 +149,10 @@ show "TLX_vMWR 97"
 show "TLX_U1_prim 3"
 show "1,0,/"
 say("the setting is still %s", talux_command "TLX_Uearth")
+
+headline "The same in Lua: values, tables, errors"
+local good, reason = pcall(talux.apply, {Uearth = 40, qu2_Ice = "7,5", BAasign3 = "qu2 ->F"})
+for fault in reason:gmatch "[^\n]+" do say("refused: %s", fault) end
+assert(not good and talux.get "Uearth" == 35)
+local changes = talux.apply {Uearth = 40, qu2_Ice = 7.5, BAassign3 = "qu2 ->F"}
+for change in talux.protocol(changes, "en"):gmatch "[^\n]+" do say("%s", change) end

@@ -153,7 +153,8 @@ local function plan(settings)
       taken[id] = true
       entries[#entries + 1] = {row = row, index = index, line = lineOf(row.name, index), text = text, new = new}
     else
-      faults[#faults + 1] = ("%s = %s: %s"):format(labelOf(name, index), tostring(value), new)
+      local label = labelOf(row and row.name or name, index)
+      faults[#faults + 1] = ("%s = %s: %s"):format(label, tostring(value), new)
     end
   end
   for name, value in pairs(settings) do

@@ -31,4 +31,6 @@ if [ "${1-}" = --check ]; then
 else
   bench "$program" time /counts.tsv "$project/bench/startup.lua" --benchmark_enable_random_interleaving=true \
     --benchmark_repetitions=9 --benchmark_min_time=0.02 "$@"
+  printf '\nthe layer talux, microseconds:\n'
+  bench lua5.2 "$project/bench/layer.lua"
 fi
