@@ -27,6 +27,7 @@ while [ "$#" -gt 0 ]; do
     --root) root=$2; shift 2 ;;
     --module) module=$2; reads+=("$2"); shift 2 ;;
     --read) reads+=("$2"); shift 2 ;;
+    -h | --help) sed -n '2,/^[^#]/s/^# \?//p' "$0" | grep -v '^shellcheck'; exit ;;
     --) shift; break ;;
     *) fail "unknown option '$1'" ;;
   esac

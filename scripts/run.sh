@@ -1,27 +1,33 @@
 #!/bin/bash
 # Runs a Lua script with the module on an isolated device, beside the program that plays the rest of it.
 #
-#   run.sh [--root DIR] [--alone] [SCRIPT [ARGUMENT..] | -e CODE]
+#   run.sh [--root DIR] [--boot | --alone] [SCRIPT [ARGUMENT..] | -e CODE]
 #
-# SCRIPT       a Lua script, by default examples/tour.lua; its folder is readable at its own path
+# SCRIPT       a Lua script, by default examples/tour.lua. Its folder can be read at its own path, not written;
+#              modules beside it are found by require
 # -e CODE      runs CODE with the module loaded
 # --root DIR   the directory that becomes /, kept afterwards: parameter files and the device's log
 #              /tmp/device.log lie there; by default a temporary one
-# --alone      without the device program: all values are zero at first
+#
+# A run starts from the factory defaults, whatever files lie in the root: a save replaces them.
+# --boot       starts as a device does: the defaults, then the parameter files of the root. The network stays as it is
+# --alone      without the device program: all values are zero at first, and a save writes the zeros
 #
 # The exit status is the script's. What is missing is installed (as root) and built first. Where SCRIPT.setup.sh
 # stands beside the script (tour.setup.sh for tour.lua) it is sourced inside the root before.
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
-isolation=() session=(--device "$project/build-release/examples/device")
+isolation=() session=(--device "$project/build-release/examples/device") boot=()
 while [ "$#" -gt 0 ]; do
   case $1 in
     --root) isolation+=(--root "$2"); shift 2 ;;
     --alone) session=(); shift ;;
+    --boot) boot=(--boot); shift ;;
     -h | --help) sed -n '2,/^[^#]/s/^# \?//p' "$0"; exit ;;
     *) break ;;
   esac
 done
+[ "${#session[@]}" != 0 ] || [ "${#boot[@]}" = 0 ] || fail '--boot needs the device program, which loads the defaults'
 
 case ${1-} in
   -e) [ "$#" = 2 ] || fail '-e takes the code and nothing else'
@@ -42,4 +48,4 @@ esac
 
 (cd "$project" && need_build_tools && build release lib_talux_lua device)
 exec "$project/scripts/isolated.sh" --module "$project/build-release" "${isolation[@]}" -- \
-  "$project/scripts/session.sh" "${session[@]}" -- lua5.2 "${command[@]}"
+  "$project/scripts/session.sh" "${session[@]}" "${boot[@]}" -- lua5.2 "${command[@]}"

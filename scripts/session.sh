@@ -1,14 +1,15 @@
 #!/bin/bash
 # What happens inside the isolated root when a script runs: stage, device program, script.
 #
-#   session.sh [--setup FILE] [--device PROGRAM] [--emulator "WORD;WORD"] -- COMMAND [ARGUMENT..]
+#   session.sh [--setup FILE] [--device PROGRAM] [--boot] [--emulator "WORD;WORD"] -- COMMAND [ARGUMENT..]
 #
 # FILE is sourced: what it exports, another PATH for instance, holds for the rest. The device program is there,
 # with values in the store, before the command starts, and ends with it. It keeps its log in /tmp/device.log.
+# With --boot the parameter files that lie in the root are loaded over its defaults, without applying addresses.
 # The words stand before the device program when it is not for this processor.
 set -eu
 
-device='' emulator=() log=/tmp/device.log
+device='' boot='' emulator=() log=/tmp/device.log
 while [ "$#" -gt 0 ]; do
   case $1 in
     --setup)
@@ -17,6 +18,7 @@ while [ "$#" -gt 0 ]; do
       . "$2"
       shift 2 ;;
     --device) device=$2; shift 2 ;;
+    --boot) boot=1; shift ;;
     --emulator) IFS=";" read -ra emulator <<<"$2"; shift 2 ;;
     --) shift; break ;;
     *) echo "session.sh: unknown option '$1'" >&2; exit 2 ;;
@@ -28,6 +30,11 @@ if [ -n "$device" ]; then
   pid=$!
   read -r _ <&3 || { echo 'session.sh: the device program did not start' >&2; exit 2; }
 fi
+[ -z "$boot" ] || lua5.2 -l lib_talux_lua - <<'EOF' >&2
+for file, line in ("parameter=load;sec_parameter=load_sec;ip_config=load_ip ip_config.ini"):gmatch "([^=;]+)=([^;]+)" do
+  if io.open("/" .. file .. ".ini") then io.write("boot: /", file, ".ini: ", talux_command(line)) end
+end
+EOF
 status=0
 "$@" || status=$?
 if [ -n "$device" ]; then

@@ -56,6 +56,7 @@ commands() {
   expect TLX_Uearth=35.000000 "$(grep Uearth= "$root/device/parameter.ini")"
   expect $'30.000000\n35.000000' "$(scripts/run.sh --root "$root/device" \
     -e 'print(talux_command("TLX_Uearth")) print(talux_command("load,TLX_Uearth"))')"
+  expect 35.000000 "$(scripts/run.sh --root "$root/device" --boot -e 'print(talux_command("TLX_Uearth"))' 2>/dev/null)"
   rm -rf "$root"
   return "$status"
 }
