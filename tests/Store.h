@@ -106,24 +106,6 @@ private:
     std::mt19937 engine{20240305};
 };
 
-// Both spaces begin with garbage; the model says what they have to hold.
-class AgainstModel : public testing::Test {
-protected:
-    void SetUp() override {
-        VarInit(kNoDirectory);
-        for (const int space : {kTemp, kGlobal}) {
-            random.fill(raw(space), kSpaceSize);
-            model[space] = bytes(raw(space), kSpaceSize);
-        }
-    }
-    bool spacesMatch() const {
-        return std::memcmp(raw(kTemp), model[kTemp].data(), kSpaceSize) == 0 &&
-               std::memcmp(raw(kGlobal), model[kGlobal].data(), kSpaceSize) == 0;
-    }
-    Random random;
-    std::string model[2];
-};
-
 // A directory of parameter files, and the dictionary loaded.
 class InDirectory : public testing::Test {
 protected:

@@ -10,17 +10,12 @@
 
 namespace {
 
-// The library call that is to fail: how often it works before, and the error.
-struct Failure {
-    const char* call;
-    int after;
-    int error;
-};
-constinit Failure failure{"", 0, 0};
-constinit int attempts = 0;
+// The library call that is to fail for want of memory, and how often it works before.
+constinit const char* failing = "";
+constinit int worksBefore = 0, attempts = 0;
 
 bool fails(const char* call) {
-    return std::strcmp(call, failure.call) == 0 && attempts++ == failure.after;
+    return std::strcmp(call, failing) == 0 && attempts++ == worksBefore;
 }
 
 } // namespace
@@ -32,11 +27,11 @@ bool fails(const char* call) {
     }
 // The thread functions return the error and leave errno alone.
 #define TALUX_FAILING_THREADS(function, parameters, ...)                                                     \
-    TALUX_FAILING(int, function, failure.error, parameters, __VA_ARGS__)
+    TALUX_FAILING(int, function, ENOMEM, parameters, __VA_ARGS__)
 
 extern "C" {
-TALUX_FAILING(int, shmget, (errno = failure.error, -1), (key_t key, size_t size, int flags), key, size, flags)
-TALUX_FAILING(void*, shmat, (errno = failure.error, reinterpret_cast<void*>(-1)), // NOLINT(*-int-to-ptr)
+TALUX_FAILING(int, shmget, (errno = ENOMEM, -1), (key_t key, size_t size, int flags), key, size, flags)
+TALUX_FAILING(void*, shmat, (errno = ENOMEM, reinterpret_cast<void*>(-1)), // NOLINT(*-int-to-ptr)
               (int id, const void* address, int flags), id, address, flags)
 TALUX_FAILING_THREADS(pthread_mutexattr_init, (pthread_mutexattr_t * attributes), attributes)
 TALUX_FAILING_THREADS(pthread_mutexattr_setprotocol, (pthread_mutexattr_t * attributes, int protocol),
@@ -51,7 +46,7 @@ namespace {
 using namespace talux_test;
 
 void removeSegment(key_t key) {
-    shmctl(shmget(key, 0, 0), IPC_RMID, nullptr);
+    if (key != 0) shmctl(shmget(key, 0, 0), IPC_RMID, nullptr);
 }
 
 shmid_ds statusOf(key_t key) {
@@ -65,20 +60,16 @@ TEST(Spaces, ArePublicSegmentsOfFixedSizeAndBeginEmpty) {
     for (const key_t key : {kRecordsKey, kGlobalKey, kTempKey})
         removeSegment(key);
     VarInit(kNoDirectory);
-    struct {
-        key_t key;
-        std::size_t size;
-        void* attached;
-    } const segments[] = {
-        {kRecordsKey, 588, pVarStruct}, {kGlobalKey, 19500, pVarGlobal}, {kTempKey, 19500, pVarTemp}};
-    for (const auto& segment : segments) {
-        const shmid_ds status = statusOf(segment.key);
-        EXPECT_EQ(status.shm_segsz, segment.size);
-        EXPECT_EQ(status.shm_perm.mode & 07777, 0666);
-        char* const outside = attach(segment.key);
-        EXPECT_EQ(bytes(outside, segment.size), std::string(segment.size, '\0')) << segment.key;
-        outside[segment.size - 1] = 'x';
-        EXPECT_EQ(static_cast<char*>(segment.attached)[segment.size - 1], 'x') << segment.key;
+    for (const auto& [key, size, attached] :
+         {std::tuple<key_t, std::size_t, void*>(kRecordsKey, 588, pVarStruct),
+          {kGlobalKey, 19500, pVarGlobal},
+          {kTempKey, 19500, pVarTemp}}) {
+        const shmid_ds status = statusOf(key);
+        EXPECT_TRUE(status.shm_segsz == size && (status.shm_perm.mode & 07777) == 0666) << key;
+        char* const outside = attach(key);
+        EXPECT_EQ(bytes(outside, size), std::string(size, '\0')) << key;
+        outside[size - 1] = 'x';
+        EXPECT_EQ(static_cast<char*>(attached)[size - 1], 'x') << key;
     }
 }
 
@@ -140,47 +131,44 @@ TEST(Logbook, IsRemovedFromTheCurrentDirectory) {
 // The whole error output: the message, and how often the failing call was tried in all.
 TEST(SetUp, EndsTheProcessWhenACallFails) {
     const struct {
-        Failure failure;
-        std::string message;
-        int attempts;
+        const char* call;
+        int worksBefore, attempts;
+        const char* message;
         key_t tooSmall = 0; // another program has made this segment, one byte too small
     } cases[] = {
-        {{"pthread_mutexattr_init", 0, ENOMEM}, "pthread_mutexattr_xxx: Cannot allocate memory\n", 1},
-        {{"pthread_mutexattr_setprotocol", 0, ENOTSUP},
-         "pthread_mutexattr_xxx: Operation not supported\n",
-         1},
-        {{"pthread_mutex_init", 0, ENOMEM}, "pthread_mutex_init (GlobalData): Cannot allocate memory\n", 14},
-        {{"pthread_mutex_init", 13, EPERM}, "pthread_mutex_init (GlobalData): Operation not permitted\n", 14},
-        {{"pthread_mutex_init", 14, ENOMEM}, "pthread_mutex_init (TempData): Cannot allocate memory\n", 27},
-        {{"pthread_mutex_init", 26, EPERM}, "pthread_mutex_init (TempData): Operation not permitted\n", 27},
-        {{"pthread_mutexattr_destroy", 0, EINVAL}, "pthread_mutexattr_destroy: Invalid argument\n", 1},
-        {{"shmget", 0, ENOSPC}, "StructSpace: 588\nshmget (structspace): No space left on device\n", 1},
-        {{"shmat", 0, EACCES}, "shmat (structspace): Permission denied\n", 1},
-        {{"shmget", 1, EACCES}, "GlobalSpace: 19500\nshmget (globalspace): Permission denied\n", 2},
-        {{"shmat", 1, ENOMEM}, "shmat (globalspace): Cannot allocate memory\n", 2},
-        {{"shmget", 2, EACCES}, "shmget (tempspace): Permission denied\n", 3},
-        {{"shmat", 2, ENOMEM}, "shmat (tempspace): Cannot allocate memory\n", 3},
-        {{"", 0, 0}, "StructSpace: 588\nshmget (structspace): Invalid argument\n", 0, kRecordsKey},
-        {{"", 0, 0}, "GlobalSpace: 19500\nshmget (globalspace): Invalid argument\n", 0, kGlobalKey},
-        {{"", 0, 0}, "shmget (tempspace): Invalid argument\n", 0, kTempKey},
+        {"pthread_mutexattr_init", 0, 1, "pthread_mutexattr_xxx"},
+        {"pthread_mutexattr_setprotocol", 0, 1, "pthread_mutexattr_xxx"},
+        {"pthread_mutex_init", 0, 14, "pthread_mutex_init (GlobalData)"},
+        {"pthread_mutex_init", 13, 14, "pthread_mutex_init (GlobalData)"},
+        {"pthread_mutex_init", 14, 27, "pthread_mutex_init (TempData)"},
+        {"pthread_mutex_init", 26, 27, "pthread_mutex_init (TempData)"},
+        {"pthread_mutexattr_destroy", 0, 1, "pthread_mutexattr_destroy"},
+        {"shmget", 0, 1, "StructSpace: 588\nshmget (structspace)"},
+        {"shmat", 0, 1, "shmat (structspace)"},
+        {"shmget", 1, 2, "GlobalSpace: 19500\nshmget (globalspace)"},
+        {"shmat", 1, 2, "shmat (globalspace)"},
+        {"shmget", 2, 3, "shmget (tempspace)"},
+        {"shmat", 2, 3, "shmat (tempspace)"},
+        {"", 0, 0, "StructSpace: 588\nshmget (structspace)", kRecordsKey},
+        {"", 0, 0, "GlobalSpace: 19500\nshmget (globalspace)", kGlobalKey},
+        {"", 0, 0, "shmget (tempspace)", kTempKey},
     };
     for (const auto& test : cases) {
-        if (test.tooSmall != 0) {
-            removeSegment(test.tooSmall);
-            ASSERT_NE(shmget(test.tooSmall, test.tooSmall == kRecordsKey ? 587 : 19499, IPC_CREAT | 0666),
-                      -1);
-        }
+        removeSegment(test.tooSmall);
+        if (test.tooSmall != 0)
+            shmget(test.tooSmall, test.tooSmall == kRecordsKey ? 587 : 19499, IPC_CREAT | 0666);
         const auto start = [&test] {
             std::atexit([] { std::fprintf(stderr, "%d", attempts); });
             mutex_init = errno = 0;
             pVarGlobal = pVarTemp = nullptr, pVarStruct = nullptr;
-            failure = test.failure;
-            attempts = 0;
+            failing = test.call, worksBefore = test.worksBefore, attempts = 0;
             VarInit(kNoDirectory);
         };
+        const std::string reason = test.tooSmall == 0 ? "Cannot allocate memory" : "Invalid argument";
         EXPECT_EXIT(start(), testing::ExitedWithCode(1),
-                    testing::Matcher<const std::string&>(test.message + std::to_string(test.attempts)));
-        if (test.tooSmall != 0) removeSegment(test.tooSmall);
+                    testing::Matcher<const std::string&>(test.message + (": " + reason) + "\n" +
+                                                         std::to_string(test.attempts)));
+        removeSegment(test.tooSmall);
     }
 }
 
