@@ -1,5 +1,4 @@
-// Look-ups and symbols against plain scans of the table.
-#include "ParamSystem/TALUX_ParamCounts.h"
+// Tables, look-ups and symbols against plain scans of the rows.
 #include "ParamSystem/TALUX_Params.h"
 
 #include <gtest/gtest.h>
@@ -41,30 +40,47 @@ protected:
     }
 };
 
+// Rows between the sentinels.
+int countRows() {
+    int rows = 0;
+    while (DefParamProperties[rows + 1].id != 0)
+        ++rows;
+    return rows;
+}
+const int kRows = countRows();
+
 // The first working row in table order that fits.
 template <class Fits>
 const stParamProperties* scan(Fits fits) {
-    for (int position = 1; position <= kParamCount; ++position)
+    for (int position = 1; position <= kRows; ++position)
         if (fits(DefParamProperties[position])) return GetParamPropertiesByOrder(position);
     return nullptr;
 }
 
-TEST_F(Dictionary, WorkingTableCopiesTheCompiledOne) {
+TEST_F(Dictionary, TableHasSentinelsAndFamilies) {
     EXPECT_TRUE(emptyAtFirst);
-    for (int position = 0; position <= kParamCount; ++position) {
-        const stParamProperties* const row = GetParamPropertiesByOrder(position);
-        const stParamProperties& source = DefParamProperties[position];
-        ASSERT_TRUE(row != nullptr) << position;
-        EXPECT_TRUE(row->id == source.id && row->name == source.name && row->val_def == source.val_def &&
-                    row->userlevel == source.userlevel)
-            << position;
+    for (const int position : {0, kRows + 1}) {
+        const stParamProperties& row = DefParamProperties[position];
+        EXPECT_EQ(row.id + row.type + row.val_access + row.userlevel, 0);
+        for (const char* text : {row.name, row.format, row.val_init_text, row.val_def_text})
+            EXPECT_STREQ(text, "***");
     }
-    for (const int position : {kParamCount + 1, kParamTableRows, 1 << 30})
-        EXPECT_EQ(GetParamPropertiesByOrder(position), nullptr) << position;
+    const stParamFamily* family = DefParamFamilies;
+    for (int next = 1; next <= kRows; next = family++->last + 1)
+        EXPECT_TRUE(family->first == next && family->last >= next) << family->name;
+    EXPECT_STREQ(family[-1].name, "Records");
     EXPECT_EQ(LoadParamProperties(nullptr), 1);
 }
 
-TEST_F(Dictionary, FindsIdsLikeAScan) {
+TEST_F(Dictionary, FindsPositionsAndIdsLikeAScan) {
+    for (int position = 0; position <= kRows; ++position) {
+        const stParamProperties* const row = GetParamPropertiesByOrder(position);
+        ASSERT_TRUE(row != nullptr && row->id == DefParamProperties[position].id &&
+                    row->name == DefParamProperties[position].name)
+            << position;
+    }
+    for (const int position : {kRows + 1, kRows + 100, 1 << 30})
+        EXPECT_EQ(GetParamPropertiesByOrder(position), nullptr) << position;
     for (int id = 0; id < 32000; ++id)
         ASSERT_EQ(GetParamProperties(id), scan([id](const auto& row) { return row.id == id; })) << id;
     EXPECT_EQ(GetParamProperties(0x7fffffff), nullptr);
@@ -74,7 +90,7 @@ TEST_F(Dictionary, FindsIdsLikeAScan) {
 }
 
 TEST_F(Dictionary, FindsNamesLikeAScan) {
-    for (int position = 1; position <= kParamCount; ++position) {
+    for (int position = 1; position <= kRows; ++position) {
         const std::string name = randomCase(DefParamProperties[position].name);
         for (const std::string& asked : {name, mutated(name)}) {
             const auto fits = [&](const auto& row) { return strcasecmp(row.name, asked.c_str()) == 0; };
@@ -99,7 +115,7 @@ VarLong resolved(std::string symbol) {
 // The symbols that the rows with a name ask for.
 std::map<std::string, int> expectedSymbols() {
     std::map<std::string, int> symbols = {{"VAR_NULL", 0}, {"VAR_TPL_NULL", 0}};
-    for (int position = 1; position <= kParamCount; ++position) {
+    for (int position = 1; position <= kRows; ++position) {
         const stParamProperties& row = DefParamProperties[position];
         if (*row.name == '\0') continue;
         const std::string name = (row.type == kTypeCommand ? "CMD_" : "VAR_") + std::string(row.name);
@@ -112,26 +128,19 @@ std::map<std::string, int> expectedSymbols() {
 
 TEST_F(Dictionary, SymbolsFollowTheRows) {
     std::map<std::string, int> missing = expectedSymbols();
-    EXPECT_STREQ(DefParamSymbols[1].name, "VAR_NULL");
-    EXPECT_STREQ(DefParamSymbols[2].name, "VAR_TPL_NULL");
-    int nextTemplate = 18000;
     const stParamSymbol* symbol = DefParamSymbols + 1;
     for (; std::string(symbol->name) != "***"; ++symbol) {
-        const std::string name = symbol->name;
-        EXPECT_EQ(resolved(randomCase(name)), symbol->value);
-        EXPECT_EQ(resolved(name + "?"), -1);
-        if (symbol->value >= 18000 && symbol->value <= 18033) {
-            EXPECT_TRUE(name.starts_with("VAR_TPL_") && symbol->value == nextTemplate++) << name;
-        } else {
-            EXPECT_TRUE(missing.contains(name) && missing[name] == symbol->value) << name;
-            missing.erase(name);
-        }
+        EXPECT_EQ(resolved(randomCase(symbol->name)), symbol->value);
+        EXPECT_EQ(resolved(std::string(symbol->name) + "?"), -1);
+        const bool isTemplate = std::string(symbol->name).starts_with("VAR_TPL_") && symbol->value != 0;
+        EXPECT_TRUE(isTemplate ? *GetParamProperties(symbol->value)->name == '\0'
+                               : missing.contains(symbol->name) && missing[symbol->name] == symbol->value)
+            << symbol->name;
+        missing.erase(symbol->name);
     }
-    EXPECT_EQ(nextTemplate, 18034);
     EXPECT_TRUE(missing.empty()) << missing.begin()->first;
     for (const stParamSymbol* sentinel : {DefParamSymbols, symbol})
         EXPECT_TRUE(sentinel->value == 0 && std::string(sentinel->name) == "***");
-    EXPECT_EQ(resolved("var_vmwr_2"), 1001);
     EXPECT_EQ(resolved("VAR_TPL_BAUDRATE"), 18021);
     EXPECT_EQ(resolved("VAR_TPL_DLG_Test"), 18000);
     for (const char* unknown :

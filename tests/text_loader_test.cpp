@@ -114,20 +114,15 @@ TEST_F(TextLoaderDeathTest, BadFilesEndTheProcess) {
     std::filesystem::remove(kFile);
     expectEndOf(kFile, "Error (TALUX_ParamStrings): Can't find source file '" + kFile + "'\n");
     expectEndOf("/tmp", "\nError (TALUX_ParamStrings): Can't read source file '/tmp'\n");
-    for (std::size_t length : {253u, 254u, 100'000u})
-        expectEnd(kSentinel + std::string(length, ' ') + "\n",
-                  "Line too long in source file '" + kFile + "'");
-    expectEnd(std::string(254, 'x'), "Line too long in source file '" + kFile + "'");
+    for (std::size_t length : {254u, 100'000u})
+        expectEnd(kSentinel + std::string(length, ' '), "Line too long in source file '" + kFile + "'");
 
     std::string before = kSentinel;
     std::istringstream fields("id VAR_Language language 1 type 3002 id_group 0 id_item 0 txt \"x\"");
-    for (std::string name, value; fields >> name >> value; before += value + "\t") {
+    for (std::string name, value; fields >> name >> value; before += value + "\t")
         expectEnd(before + "\t\n", "no value for field '" + name + "'");
-        expectEnd(before + "10000x\n", "no valid value for field '" + name + "'");
-    }
     expectEnd(kSentinel + "  ", "no value for field 'id'"); // a blank line is no empty line
-    for (const char* wrong : {"\r\n", "10000\t1\t3002\t0\t0\t\"x\"\n"})
-        expectEnd(kSentinel + wrong, "no valid value for field 'id'");
+    expectEnd(kSentinel + "10000\t1\t3002\t0\t0\t\"x\"\n", "no valid value for field 'id'");
     ASSERT_NE(Data_StringSave(std::string(kDataStringSpaceSize - 3, 'x').c_str()), nullptr);
     expectEnd(title("VAR_Name", "ab"), "no string space for field 'txt'");
 }

@@ -1,5 +1,4 @@
 // The compiled-in texts, their look-ups in two languages and the TXT_ names.
-#include "ParamSystem/TALUX_ParamCounts.h"
 #include "ParamSystem/TALUX_ParamStrings.h"
 
 #include <gmock/gmock.h>
@@ -7,22 +6,21 @@
 
 #include <algorithm>
 #include <climits>
-#include <clocale>
-#include <cstdlib>
 #include <random>
-#include <set>
 #include <span>
 #include <sstream>
 #include <string>
 #include <string_view>
-#include <tuple>
-#include <vector>
 
 #include "ParamSystem/TALUX_Var.h"
 
 namespace {
 
 constexpr int kLanguage = 10000, kAny = INT_MIN, kNotFound = 0;
+
+// Before texts are loaded none is found: asked before any test runs.
+const bool emptyAtFirst = GetParamString(kLanguage, kTextTitle)->id == 0 &&
+                          GetFirstParamStringInGroup(18021, 0, kTextItem)->txt == nullptr;
 
 class Texts : public testing::Test {
 protected:
@@ -31,7 +29,6 @@ protected:
         VarInit(path);
         LoadDefParamProperties();
         ASSERT_EQ(LoadDefParamStrings(), 1);
-        ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr); // to count characters
     }
 };
 using TextsDeathTest = Texts;
@@ -49,10 +46,6 @@ int find(int from, int language, int id, int type, int group = kAny, int item = 
             return row;
     }
     return kNotFound;
-}
-
-std::string_view plain(int language, int id, int type) {
-    return DefParamText[find(1, language, id, type)].txt;
 }
 
 // All texts of a group in the current language on one line: the number of the first, the texts with "|"
@@ -76,12 +69,6 @@ long resolve(std::string name) {
     return ResolveParamTextSymbol(name.data(), &id) == 1 ? id : -1;
 }
 
-// Where the texts of a parameter hang.
-int textIdOf(const stParamProperties& row) {
-    const int kind = row.type - kTypeIpAddress; // 0 address, 1 mask, 2 gateway of an interface
-    return kind < 0 || kind > 2 ? row.id : 20000 + 1000 * kind + row.id - 16029 - 3 * kind;
-}
-
 const stParamText* lookUp(int which, int id, int type, int group, int item) {
     return which == 0   ? GetParamString(id, type)
            : which == 1 ? GetFirstParamString(id, type)
@@ -93,77 +80,14 @@ const stParamText* lookUp(int which, int id, int type, int group, int item) {
 
 } // namespace
 
-TEST_F(Texts, AreWellFormed) {
+TEST_F(Texts, AreFoundOnceTheyAreLoadedOnly) {
+    EXPECT_TRUE(emptyAtFirst);
     for (const stParamText& sentinel : {DefParamText[0], DefParamText[DefParamTextCount - 1]})
         EXPECT_TRUE(sentinel.id == 0 && sentinel.language == 0 && sentinel.type == 0 &&
                     std::string_view(sentinel.txt) == "***");
-    EXPECT_LE(DefParamTextCount, kParamTextRows - 200);
-
-    std::set<std::tuple<int, int, int, int, int>> met;
-    std::vector<std::string> wrong;
-    for (const stParamText& t : texts()) {
-        const auto check = [&](bool holds, const char* what) {
-            if (!holds) wrong.push_back(std::to_string(t.id) + " " + t.txt + ": " + what);
-        };
-        const std::string text = t.txt, edges{' ', text.front(), text.back(), ' '};
-        const std::size_t characters = std::mbstowcs(nullptr, t.txt, 0);
-        const bool isOwnName = t.type == kTextItem && t.id >= 19000 && t.id <= 19020 && t.id_group == 0;
-        check(met.insert({t.id, t.language, t.type, t.id_group, t.id_item}).second, "there twice");
-        check(characters != 0 && characters != text.npos, "UTF-8");
-        check(t.type != kTextTitle || characters <= 24, "longer than a line of the display");
-        check(edges.find_first_of(" \t\n", 1) == 3 && text.find("  ") == text.npos &&
-                  text.find_first_of("{}|\t\r") == text.npos,
-              "blanks or signs of the data's grammar");
-        check(t.type == kTextUnit || isOwnName
-                  ? t.language == kEnglish
-                  : find(1, kGerman + kEnglish - t.language, t.id, t.type, t.id_group, t.id_item) != 0,
-              "languages");
-        check(t.type != kTextDescription || text != plain(t.language, t.id, kTextTitle), "the title again");
-    }
-    EXPECT_THAT(wrong, testing::IsEmpty());
 }
 
-// Every parameter and template has its texts in table order, in each language a title, an enum all its
-// choices or none, and a name.
-TEST_F(Texts, CoverTheCatalogue) {
-    std::vector<int> expectedIds, ids;
-    std::vector<std::string> wrong;
-    for (int position = 1; position <= kParamCount; ++position) {
-        const stParamProperties& row = DefParamProperties[position];
-        const std::string name = row.name;
-        const bool isTemplate = name.empty();
-        if (row.val_max_id > 0 && DefParamProperties[position - 1].name == name) continue; // one for all
-        if (name.starts_with("EvCnt_qu2") || name == "OVR_BE_LT_enable") continue; // another has the id
-        const int id = expectedIds.emplace_back(textIdOf(row));
-        const auto check = [&](bool holds, const char* what) {
-            if (!holds) wrong.push_back(std::to_string(id) + " " + name + ": " + what);
-        };
-        for (int language : {kGerman, kEnglish}) {
-            const std::string_view title = plain(language, id, kTextTitle);
-            check(title != "***", "no title");
-            check(name.find('_') == name.npos || title != name, "the title is the name");
-            check(isTemplate || row.is_volatile != 0 || row.val_access == kReadOnly ||
-                      name.starts_with("stat_") || name.starts_with("UserText") ||
-                      plain(language, id, kTextDescription) != "***",
-                  "no description");
-            const auto choices = std::count_if(texts().begin(), texts().end(), [&](const stParamText& t) {
-                return t.id == id && t.type == kTextItem && t.language == language;
-            });
-            const double all = id == 18031 ? 10 : id == 18032 ? 13 : row.val_max; // the last have no text
-            check(row.type != kTypeEnum || choices == 0 || static_cast<double>(choices) == all, "choices");
-        }
-        const std::size_t place = 2 + expectedIds.size();
-        const std::string symbol = isTemplate ? DefParamSymbols[place].name + 4 : name; // behind VAR_
-        check(DefParamTextSymbols[place].name == "TXT_" + symbol && resolve("txt_" + symbol) == id, "symbol");
-    }
-    for (const stParamText& text : texts())
-        if (ids.empty() || ids.back() != text.id) ids.push_back(text.id);
-    EXPECT_EQ(ids, expectedIds);
-    EXPECT_THAT(wrong, testing::IsEmpty());
-    for (std::size_t end : {std::size_t{0}, ids.size() + 3})
-        EXPECT_STREQ(DefParamTextSymbols[end].name, "***");
-}
-
+// Every id with texts has them in one piece and one name, in the same order.
 TEST_F(Texts, HaveNames) {
     std::istringstream ids(
         "txt_tpl_baudrate 18021 TXT_TPL_DLG_Test 18000 TXT_NULL 0 TXT_TPL_NULL 0 "
@@ -175,6 +99,16 @@ TEST_F(Texts, HaveNames) {
     EXPECT_EQ(id, -1);
     for (std::string name; ids >> name >> id;)
         EXPECT_EQ(resolve(name), id) << name;
+    const stParamText* text = DefParamText + 1;
+    const stParamSymbol* symbol = DefParamTextSymbols + 3;
+    for (; symbol->value != 0; ++symbol) {
+        EXPECT_EQ(resolve(symbol->name), symbol->value);
+        EXPECT_EQ(text->id, symbol->value) << symbol->name;
+        while (text->id == symbol->value)
+            ++text;
+    }
+    EXPECT_EQ(text->id, 0);
+    EXPECT_STREQ(symbol->name, "***");
 }
 
 // The texts that other programs and manuals rely on: language, id, type, group, texts.

@@ -144,10 +144,13 @@ void checkCatalogue(std::span<const catalogue::Family> families, const std::vect
             if (row.series != catalogue::Row::kSingle && row.count() < 2)
                 faults.push_back({row.where, row.properties.name, "a series has at least two members"});
     const Register all(parameters);
+    const catalogue::Row* reported = nullptr; // one fault is enough for a series
     for (const Parameter& p : parameters) {
         const auto broken = std::find_if(std::begin(kRules), std::end(kRules),
                                          [&](const Rule& rule) { return !rule.holds(p, all); });
-        if (broken != std::end(kRules)) faults.push_back({p.row->where, p.stem(), broken->text});
+        if (broken == std::end(kRules) || p.row == reported) continue;
+        faults.push_back({p.row->where, p.stem(), broken->text});
+        reported = p.row;
     }
 }
 

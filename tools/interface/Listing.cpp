@@ -1,0 +1,146 @@
+#include "tools/interface/Listing.h"
+
+#include <map>
+#include <sstream>
+
+#include "tools/reference/Reference.h"
+
+namespace talux::interface {
+namespace {
+
+using reference::File;
+using reference::Parameter;
+using reference::shortNumber;
+
+std::string quoted(std::string_view text) {
+    return '"' + std::string(text) + '"';
+}
+
+std::string value(const Parameter& parameter, double number, const char* text) {
+    return isText(parameter.row()) ? quoted(text) : shortNumber(number);
+}
+
+std::string placeOf(const Parameter& parameter) {
+    if (parameter.isTemplate()) return "template";
+    if (parameter.type().nature == Nature::none) return "";
+    return parameter.file() == File::none ? "run-time" : std::string(fileName(parameter.file()));
+}
+
+std::string withElements(std::string text, const Parameter& parameter, int first) {
+    if (parameter.isIndexed()) text += ".." + std::to_string(first + parameter.elements() - 1);
+    return text;
+}
+
+std::string nameOf(const Parameter& parameter) {
+    const std::string name(parameter.name());
+    return parameter.isIndexed() ? name + "[" + withElements("1", parameter, 1) + "]" : name;
+}
+
+void addLimits(Row& cells, const Parameter& parameter) {
+    if (!parameter.hasNumber()) return;
+    if (parameter.hasMinimum()) cells[kMin] = shortNumber(parameter.row().val_min);
+    if (parameter.hasMaximum()) cells[kMax] = shortNumber(parameter.row().val_max);
+    if (parameter.row().val_step != 1) cells[kStep] = shortNumber(parameter.row().val_step);
+}
+
+void addValues(Row& cells, const Parameter& parameter) {
+    const stParamProperties& row = parameter.row();
+    cells[kInitial] = value(parameter, row.val_init, row.val_init_text);
+    const std::string byDefault = value(parameter, row.val_def, row.val_def_text);
+    if (cells[kInitial] == byDefault) cells[kInitial].clear();
+    if (parameter.isSetting() || parameter.isTemplate()) cells[kDefault] = byDefault;
+    if (row.val_len >= 0) cells[kLength] = std::to_string(row.val_len);
+}
+
+Row rowOf(const Parameter& parameter) {
+    const stParamProperties& row = parameter.row();
+    Row cells;
+    cells[kId] = withElements(std::to_string(row.id), parameter, row.id);
+    cells[kName] = nameOf(parameter);
+    cells[kKind] = parameter.type().name;
+    cells[kPlace] = placeOf(parameter);
+    cells[kAccess] = row.val_access == kReadOnly ? "r" : "rw";
+    cells[kLevel] = std::to_string(row.userlevel);
+    addLimits(cells, parameter);
+    if (parameter.hasNumber() || isText(row)) addValues(cells, parameter);
+    if (row.id_template != 0) cells[kTemplate] = reference::templateName(row.id_template);
+    cells[kFormat] = row.format;
+    return cells;
+}
+
+Row rowOf(const Parameter& record, const StructMemberProperties_t& member) {
+    Row cells;
+    cells[kId] = std::to_string(record.row().id);
+    cells[kName] = std::string(record.name()) + "." + member.aszMemberName;
+    cells[kKind] = member.szMemberType;
+    cells[kPlace] =
+        "byte " + std::to_string(ARR_StructOffset[record.row().id - kFirstStruct] + member.lMemberOffset);
+    cells[kLength] = std::to_string(member.iMemberBitsize / 8);
+    return cells;
+}
+
+std::string joined(const std::map<std::string, int>& counts) {
+    std::string text;
+    for (const auto& [what, count] : counts)
+        text += (text.empty() ? " " : ", ") + std::to_string(count) + ' ' + what;
+    return text;
+}
+
+std::string summary() {
+    std::map<std::string, int> kinds, settings, files;
+    int rows = 0;
+    for (const Parameter& parameter : reference::parameters()) {
+        const std::string kind(parameter.type().name);
+        rows += parameter.elements();
+        kinds[kind] += parameter.elements();
+        if (!parameter.isSetting()) continue;
+        ++settings[kind];
+        ++files[std::string(fileName(parameter.file()))];
+    }
+    return "# " + std::to_string(rows) + " rows:" + joined(kinds) +
+           "\n# A commit copies:" + joined(settings) + "\n# Files hold:" + joined(files) + "\n";
+}
+
+} // namespace
+
+Listing listing() {
+    Listing listing;
+    for (const Parameter& parameter : reference::parameters())
+        listing.push_back(rowOf(parameter));
+    for (const Parameter& parameter : reference::parameters())
+        if (parameter.type().nature == Nature::record)
+            for (const StructMemberProperties_t& member : reference::members(parameter))
+                listing.push_back(rowOf(parameter, member));
+    return listing;
+}
+
+std::string print(const Listing& listing) {
+    Row heads;
+    for (std::size_t column = 0; column < kColumns; ++column)
+        heads[column] = kColumnTexts[column].head;
+    Listing rows = listing;
+    rows.insert(rows.begin(), heads);
+    std::string file;
+    for (const Row& row : rows) {
+        std::string line;
+        for (const std::string& cell : row)
+            line += cell + '\t';
+        file += line.erase(line.find_last_not_of('\t') + 1) + '\n';
+    }
+    return file + summary();
+}
+
+Listing parse(std::string_view file) {
+    Listing listing;
+    std::istringstream lines{std::string(file)};
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with('#') || line.starts_with(kColumnTexts[kId].head)) continue;
+        std::istringstream cells(line);
+        Row& row = listing.emplace_back();
+        for (std::string& cell : row)
+            std::getline(cells, cell, '\t');
+    }
+    return listing;
+}
+
+} // namespace talux::interface
