@@ -39,6 +39,11 @@ file(RELATIVE_PATH talux_prefix_from_pkgconfig /${talux_pkgconfig_dir} /)
 configure_file(packaging/talux_lua.pc.in talux_lua.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/talux_lua.pc DESTINATION ${talux_pkgconfig_dir})
 
+# Pages and examples, beside each other as in the project so that their links hold.
+set(talux_doc_dir ${CMAKE_INSTALL_DATADIR}/doc/talux-lua-dev)
+install(FILES README.md DESTINATION ${talux_doc_dir})
+install(DIRECTORY docs examples DESTINATION ${talux_doc_dir})
+
 # Packages: one for the device, one for developers.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "talux")
@@ -59,6 +64,7 @@ set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Relay controller parameters for Lua 5.2
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME talux-lua-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "talux-lua (= ${PROJECT_VERSION})")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Relay controller parameters, headers
- What it takes to build programs against lib_talux_lua.")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Relay controller parameters, headers and documentation
+ What it takes to build programs against lib_talux_lua; pages about commissioning, scripts and every
+ parameter, with one page to search them all; examples.")
 include(CPack)

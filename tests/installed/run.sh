@@ -73,6 +73,7 @@ dpkg-deb -x "$work"/talux-lua_*_"$architecture".deb "$work/package"
 try_script package
 dpkg-deb -x "$work"/talux-lua-dev_*_"$architecture".deb "$work/package"
 (cd "$work/tree/usr/local" && find . ! -type d | LC_ALL=C sort) >"$work/tree.list"
-(cd "$work/package/usr" && find include/talux_lua lib/cmake lib/pkgconfig lib/lua lib/lib_talux* share/lua ! -type d |
+(cd "$work/package/usr" && find include/talux_lua lib/cmake lib/pkgconfig lib/lua lib/lib_talux* share/lua \
+  share/doc/talux-lua-dev ! -type d |
   sed 's|^|./|' | LC_ALL=C sort) | diff "$work/tree.list" - || fail 'packages and installed tree differ'
 echo 'installed tree, programs and packages work'
