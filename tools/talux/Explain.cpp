@@ -53,13 +53,6 @@ std::string kindText(const Parameter& parameter, const Context& context) {
     return text;
 }
 
-std::string rangeOf(const Parameter& parameter, const Context& context) {
-    if (!parameter.hasNumber()) return {};
-    if (parameter.type().kind == Kind::Enum && !parameter.hasMinimum())
-        return fill(context.say("1 to {}", "1 bis {}"), {reference::shortNumber(parameter.row().val_max)});
-    return reference::rangeText(parameter, context.language);
-}
-
 std::string rightsOf(const Parameter& parameter, const Context& context) {
     const int level = parameter.writeLevel();
     if (level == 0) return context.say("read-only, read at level 1", "nur lesen, ab Stufe 1");
@@ -103,7 +96,8 @@ void addValues(Table& table, const Parameter& parameter, const Places& places, c
     const char* label = context.say("value", "Wert");
     for (const Source& source : places.sources) {
         const auto value = source.value(parameter);
-        if (!value) continue;
+        const bool isTwice = source.kind() == Source::Kind::staged && !parameter.isSetting();
+        if (!value || isTwice) continue;
         table.add({label, fill("{} {}", {source.name(), shown(parameter, value, context)})});
         label = "";
     }
@@ -114,7 +108,7 @@ void explain(const Parameter& parameter, const Places& places, const Context& co
     addTexts(table, parameter, context.language);
     addTexts(table, parameter, context.otherLanguage());
     addLine(table, context.say("kind", "Art"), kindText(parameter, context));
-    addLine(table, context.say("range", "Bereich"), rangeOf(parameter, context));
+    addLine(table, context.say("range", "Bereich"), range(parameter, context.language));
     addLine(table, context.say("default", "Werkseinst."), defaultText(parameter, context));
     addChoices(table, parameter, context);
     if (parameter.type().nature == Nature::record) addMembers(table, parameter, context);

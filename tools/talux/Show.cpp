@@ -43,6 +43,22 @@ std::string shown(const Parameter& parameter, const std::optional<Value>& value,
     return value ? plain(parameter, *value) + meaning(parameter, *value, context) : "-";
 }
 
+double leastNumber(const Parameter& parameter) {
+    const bool isChoice = parameter.type().kind == Kind::Enum && !parameter.hasMinimum();
+    return isChoice ? 1 : parameter.row().val_min;
+}
+
+bool isInRange(const Parameter& parameter, double number) {
+    return number >= leastNumber(parameter) && number <= parameter.row().val_max; // false for not-a-number
+}
+
+std::string range(const Parameter& parameter, ParamLanguage language) {
+    if (!parameter.hasNumber()) return {};
+    if (leastNumber(parameter) == parameter.row().val_min) return reference::rangeText(parameter, language);
+    return fill(language == kGerman ? "1 bis {}" : "1 to {}",
+                {reference::shortNumber(parameter.row().val_max)});
+}
+
 std::string change(const Parameter& parameter, const std::optional<Value>& from,
                    const std::optional<Value>& to, const Context& context) {
     // The unit stands once, behind both.

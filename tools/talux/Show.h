@@ -19,6 +19,14 @@ std::string plain(const Parameter& parameter, const Value& value);
 // With its unit or the text of the choice: "30 %", "2 (English)". Nothing is "-".
 std::string shown(const Parameter& parameter, const std::optional<Value>& value, const Context& context);
 
+// Choices count from 1 where the dictionary does not say otherwise; a write does not see to that.
+double leastNumber(const Parameter& parameter);
+
+bool isInRange(const Parameter& parameter, double number);
+
+// "1 to 90"; empty for texts and without limits.
+std::string range(const Parameter& parameter, ParamLanguage language);
+
 // "30 -> 35 %"
 std::string change(const Parameter& parameter, const std::optional<Value>& from,
                    const std::optional<Value>& to, const Context& context);

@@ -35,9 +35,10 @@ constexpr reference::File kFiles[] = {reference::File::normal, reference::File::
 
 } // namespace
 
-void readEntries(const std::string& path, const Context& context, const std::function<void(Entry&)>& visit) {
+void readEntries(const std::string& path, const Context& context,
+                 const std::function<void(const Entry&)>& visit) {
     errno = 0;
-    switch (readLines(path.c_str(), [&visit](Entry& entry) { visit(entry); })) {
+    switch (readLines(path.c_str(), [&visit](const Entry& entry) { visit(entry); })) {
     case ReadResult::done:
         return;
     case ReadResult::notOpened:
@@ -80,7 +81,7 @@ void Source::readFolder(const std::string& folder, const Context& context) {
 }
 
 void Source::readFile(const std::string& path, const Context& context) {
-    readEntries(path, context, [this](Entry& entry) {
+    readEntries(path, context, [this](const Entry& entry) {
         const Effect effect = effectOf(entry);
         if (effect.outcome != Outcome::stored) return;
         if (const auto kept = storedAs(effect.row->id, *effect.value))

@@ -27,6 +27,9 @@ public:
 
     static Source defaults() { return Source(Kind::defaults, "default"); }
 
+    // A file that is not there.
+    static Source nothing(const std::string& path) { return Source(Kind::file, path); }
+
     // Whether the name stands for the device.
     static bool isDevice(std::string_view name) { return name == "live" || name == "staged"; }
 
@@ -62,7 +65,8 @@ bool isDeviceThere();
 std::string pathOf(reference::File file, const Context& context);
 
 // Calls visit(entry) for every line of a parameter file. Throws CouldNot with the reason.
-void readEntries(const std::string& path, const Context& context, const std::function<void(Entry&)>& visit);
+void readEntries(const std::string& path, const Context& context,
+                 const std::function<void(const Entry&)>& visit);
 
 // The two that show the clock: kept in files, never part of a comparison.
 bool isOfClock(const Parameter& parameter);

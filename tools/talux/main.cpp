@@ -26,7 +26,8 @@ ParamLanguage languageOfEnvironment() {
 }
 
 void addCommands(CLI::App& app, Commands& commands) {
-    for (const auto add : {addExplain, addList, addDiff})
+    for (const auto add : {addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport,
+                           addWatch, addBoot, addAnnotations})
         add(app, commands);
 }
 
