@@ -1,0 +1,118 @@
+// talux annotations: a Lua file for editors with language servers, which then know the functions of the
+// module and every parameter.
+#include <memory>
+
+#include "tools/talux/Command.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+constexpr const char* kFunctions = R"lua(---@meta lib_talux_lua
+-- Made by `talux annotations`: what an editor with a Lua language server needs to know of the module.
+
+---Evaluates a line of KEPL with all rights and gives its answer.
+---@param line talux.term|string terms with commas between them, at most 254 characters
+---@return string answer of the line, or the text of the refusal, which begins with "<< "
+function talux_command(line) end
+
+---Why the last call of talux_longarray.get or talux_doublearray.get read nothing.
+---@return string
+function talux_getlasterror() end
+
+---Waits.
+---@param microseconds number
+function talux_usleep(microseconds) end
+)lua";
+
+constexpr const char* kArray = R"lua(
+---@class talux.{}: userdata
+
+talux_{} = {}
+
+---A new array of n elements, all 0.
+---@param n integer
+---@return talux.{}
+function talux_{}.new(n) end
+
+---Number of elements.
+---@param array talux.{}
+---@return integer
+function talux_{}.size(array) end
+
+---Element i, counted from 0.
+---@param array talux.{}
+---@param i integer
+---@return number
+function talux_{}.getitem(array, i) end
+
+---Sets element i, counted from 0.
+---@param array talux.{}
+---@param i integer
+---@param value number
+function talux_{}.setitem(array, i, value) end
+
+---Copies the live elements first to last of a parameter into the array.
+---@param array talux.{}
+---@param name talux.{}.name|string
+---@param first integer
+---@param last integer
+---@return integer? count of elements, nothing when they could not be read
+function talux_{}.get(array, name, first, last) end
+)lua";
+
+std::string arrayFunctions(std::string_view name) {
+    return fill(kArray, {name, name, "{}", name, name, name, name, name, name, name, name, name, name, name});
+}
+
+// What stands behind a name: title, unit, range, elements; the texts of a few choices.
+std::string remarkOn(const Parameter& parameter, const Context& context) {
+    std::string text = parameter.title(context.language);
+    if (const std::string unit = parameter.unit(); !unit.empty()) text += fill(", {}", {unit});
+    if (const std::string limits = range(parameter, context.language); !limits.empty())
+        text += fill(", {}", {limits});
+    if (parameter.isIndexed())
+        text +=
+            fill(context.say(", elements {} to {}", ", Elemente {} bis {}"),
+                 {std::to_string(parameter.row().val_min_id), std::to_string(parameter.row().val_max_id)});
+    const auto choices = parameter.choices(context.language);
+    for (std::size_t k = 0; k < choices.size() && choices.size() <= 6; ++k)
+        text += fill("{}{} = {}", {k == 0 ? ": " : ", ", std::to_string(choices[k].number), choices[k].text});
+    if (const std::string more = parameter.description(context.language); !more.empty())
+        text += fill(". {}", {more});
+    return text;
+}
+
+std::string names(const char* alias, const Context& context,
+                  const std::function<bool(const Parameter&)>& wanted) {
+    std::string text = fill("\n---@alias {}\n", {alias});
+    for (const Parameter& parameter : reference::parameters())
+        if (!parameter.isTemplate() && wanted(parameter))
+            text += fill("---| \"TLX_{}\" # {}\n", {parameter.name(), remarkOn(parameter, context)});
+    return text;
+}
+
+Status run(const Context& context) {
+    const auto hasElements = [](Kind kind) {
+        return [kind](const Parameter& parameter) {
+            return parameter.isIndexed() && parameter.type().kind == kind;
+        };
+    };
+    print(kFunctions + arrayFunctions("longarray") + arrayFunctions("doublearray") +
+          names("talux.longarray.name", context, hasElements(Kind::Long)) +
+          names("talux.doublearray.name", context, hasElements(Kind::Double)) +
+          names("talux.term", context, [](const Parameter&) { return true; }));
+    return kNothing;
+}
+
+} // namespace
+
+void addAnnotations(CLI::App& app, Commands& commands) {
+    CLI::App* const command =
+        app.add_subcommand("annotations", "a Lua file that tells editors functions and names");
+    commands.push_back({command, [](const Context& context) { return run(context); }});
+}
+
+} // namespace talux::tool

@@ -1,0 +1,125 @@
+// talux check: what loading a file would do, line by line.
+#include <memory>
+
+#include "tools/talux/Command.h"
+#include "tools/talux/Judgement.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+constexpr std::size_t kMostTold = 1000; // lines of a file about which something is said
+
+struct Options {
+    std::vector<std::string> files;
+    std::string against = "default";
+    bool json = false;
+};
+
+// What is told about one file.
+struct Told {
+    std::vector<Judgement> judgements;
+    int settings = 0;
+    int changes = 0;
+    int findings = 0;
+    std::size_t untold = 0;
+};
+
+Told judgeFile(const std::string& path, const Source& before, const Context& context) {
+    Judge judge(path, before, context);
+    Told told;
+    readEntries(path, context, [&](const Entry& entry) {
+        Judgement judgement = judge.judge(entry);
+        told.settings += judgement.to ? 1 : 0;
+        told.changes += judgement.isChange() ? 1 : 0;
+        told.findings += static_cast<int>(judgement.findings.size());
+        if (judgement.isUntold || told.judgements.size() >= kMostTold)
+            ++told.untold;
+        else if (judgement.changes() || !judgement.findings.empty())
+            told.judgements.push_back(std::move(judgement));
+    });
+    return told;
+}
+
+void printJudgement(const std::string& path, const Judgement& judgement, const Context& context) {
+    const Paint paint;
+    std::string text = fill("{}:{}:", {path, std::to_string(judgement.line)});
+    if (!judgement.name.empty()) text += " " + paint.bold(judgement.name) + ":";
+    if (judgement.isChange())
+        text += " " + paint.changed(change(*judgement.parameter, judgement.from, judgement.to, context));
+    const char* separator = judgement.isChange() ? "; " : " ";
+    for (const Finding& finding : judgement.findings) {
+        text += separator + paint.bad(finding.text);
+        separator = "; ";
+    }
+    if (judgement.isChange() || !judgement.findings.empty()) print(text + "\n");
+}
+
+void printText(const std::string& path, const Told& told, const Context& context) {
+    for (const Judgement& judgement : told.judgements)
+        printJudgement(path, judgement, context);
+    if (told.untold > 0)
+        print(fill(
+            context.say("{}: {} more lines are not told\n", "{}: {} weitere Zeilen sind nicht genannt\n"),
+            {path, std::to_string(told.untold)}));
+    print(fill(
+        context.say("{}: {} settings, {} changes, {} findings\n",
+                    "{}: {} Einstellungen, {} Änderungen, {} Befunde\n"),
+        {path, std::to_string(told.settings), std::to_string(told.changes), std::to_string(told.findings)}));
+}
+
+Json described(const Judgement& judgement) {
+    Json object{{"line", judgement.line}, {"name", judgement.name}};
+    if (judgement.to) {
+        object["from"] = json(*judgement.parameter, judgement.from);
+        object["to"] = json(*judgement.parameter, judgement.to);
+    }
+    for (const Finding& finding : judgement.findings)
+        object["findings"].push_back({{"code", finding.code}, {"text", finding.text}});
+    return object;
+}
+
+Json described(const std::string& path, const Told& told) {
+    Json lines = Json::array();
+    for (const Judgement& judgement : told.judgements)
+        lines.push_back(described(judgement));
+    return {{"file", path},
+            {"settings", told.settings},
+            {"changes", told.changes},
+            {"findings", told.findings},
+            {"untold", told.untold},
+            {"lines", lines}};
+}
+
+Status run(const Options& options, const Context& context) {
+    const Source before = Source::open(options.against, context);
+    Status status = kNothing;
+    Json all = Json::array();
+    for (const std::string& path : options.files) {
+        const Told told = judgeFile(path, before, context);
+        if (told.changes > 0 || told.findings > 0 || told.untold > 0) status = kFound;
+        if (options.json)
+            all.push_back(described(path, told));
+        else
+            printText(path, told, context);
+    }
+    if (options.json) printJson(all);
+    return status;
+}
+
+} // namespace
+
+void addCheck(CLI::App& app, Commands& commands) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* const command = app.add_subcommand("check", "what loading a file would do, line by line");
+    command->add_option("FILE", options->files, "parameter files")->required();
+    command->add_option(
+        "--against", options->against,
+        "what the values are now: default, live, staged, a file or a folder; default if not given");
+    command->add_flag("--json", options->json, "print JSON");
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+}
+
+} // namespace talux::tool

@@ -1,0 +1,59 @@
+// What the commands of talux share: how they are registered, in which language they speak, how they end.
+#ifndef TALUX_TOOLS_TALUX_COMMAND_H
+#define TALUX_TOOLS_TALUX_COMMAND_H
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "ParamSystem/TALUX_ParamStrings.h"
+
+namespace talux::tool {
+
+// How the program ends.
+enum Status : int { kNothing = 0, kFound = 1, kCouldNot = 2 };
+
+// Ends the command with kCouldNot; the text says what, where and what to do.
+struct CouldNot : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+// What the person asked for besides the command.
+struct Context {
+    ParamLanguage language = kEnglish;
+    std::string directory; // of the parameter files, without a trailing slash
+
+    // The one of two texts that is in the person's language.
+    const char* say(const char* english, const char* german) const {
+        return language == kGerman ? german : english;
+    }
+    ParamLanguage otherLanguage() const { return language == kGerman ? kEnglish : kGerman; }
+};
+
+struct Command {
+    CLI::App* app;
+    std::function<Status(const Context&)> run;
+};
+using Commands = std::vector<Command>;
+
+// Each stands in the file of the command.
+void addExplain(CLI::App& app, Commands& commands);
+void addList(CLI::App& app, Commands& commands);
+void addCheck(CLI::App& app, Commands& commands);
+void addDiff(CLI::App& app, Commands& commands);
+void addStatus(CLI::App& app, Commands& commands);
+void addFingerprint(CLI::App& app, Commands& commands);
+void addReport(CLI::App& app, Commands& commands);
+void addShell(CLI::App& app, Commands& commands);
+void addLint(CLI::App& app, Commands& commands);
+void addAnnotations(CLI::App& app, Commands& commands);
+void addBoot(CLI::App& app, Commands& commands);
+void addWatch(CLI::App& app, Commands& commands);
+
+} // namespace talux::tool
+
+#endif

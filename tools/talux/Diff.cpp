@@ -1,0 +1,80 @@
+// talux diff: in what two sources differ.
+#include <memory>
+
+#include "tools/talux/Command.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+struct Options {
+    std::vector<std::string> sources;
+    bool json = false;
+};
+
+struct Difference {
+    const Parameter* parameter;
+    std::optional<Value> from;
+    std::optional<Value> to;
+};
+
+// A file that does not hold a setting says nothing about it, unless the other side is a file, too.
+std::vector<Difference> differences(const Source& a, const Source& b) {
+    std::vector<Difference> found;
+    for (const Parameter& parameter : reference::parameters()) {
+        if (!parameter.isSetting() || isOfClock(parameter)) continue;
+        const auto from = a.value(parameter), to = b.value(parameter);
+        const bool saysNothing = a.isPartial() != b.isPartial() && (!from || !to);
+        if (!saysNothing && !sameValue(from, to)) found.push_back({&parameter, from, to});
+    }
+    return found;
+}
+
+void printText(const std::vector<Difference>& found, const Context& context) {
+    const Paint paint;
+    Table table;
+    for (const auto& [parameter, from, to] : found)
+        table.add({paint.bold(std::string(parameter->name())), change(*parameter, from, to, context),
+                   paint.dim(parameter->title(context.language))});
+    print(table.text());
+}
+
+void printDifferences(const std::vector<Difference>& found, const Source& a, const Source& b) {
+    Json list = Json::array();
+    for (const auto& [parameter, from, to] : found)
+        list.push_back({{"name", parameter->name()},
+                        {"from", json(*parameter, from)},
+                        {"to", json(*parameter, to)},
+                        {"unit", parameter->unit()}});
+    printJson(Json{{"from", a.name()}, {"to", b.name()}, {"differences", list}});
+}
+
+Status run(const Options& options, const Context& context) {
+    const bool hasBoth = options.sources.size() == 2;
+    const Source a = Source::open(hasBoth ? options.sources[0] : "live", context);
+    const Source b = Source::open(options.sources.back(), context);
+    const auto found = differences(a, b);
+    if (options.json)
+        printDifferences(found, a, b);
+    else
+        printText(found, context);
+    return found.empty() ? kNothing : kFound;
+}
+
+} // namespace
+
+void addDiff(CLI::App& app, Commands& commands) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* const command = app.add_subcommand("diff", "in which settings two sources differ");
+    command
+        ->add_option("SOURCE", options->sources,
+                     "[A] B, each default, live, staged, a file or a folder; A is live")
+        ->required()
+        ->expected(1, 2);
+    command->add_flag("--json", options->json, "print JSON");
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+}
+
+} // namespace talux::tool

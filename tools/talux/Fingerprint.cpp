@@ -1,0 +1,79 @@
+// talux fingerprint: a number that two relays have in common only if their settings are the same.
+#include "tools/talux/Listing.h"
+
+#include <algorithm>
+#include <memory>
+#include <sys/types.h>
+
+#include <sha2.h>
+
+#include "tools/talux/Command.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+struct Options {
+    std::string source = "live";
+    std::string file;
+    bool listing = false;
+};
+
+reference::File fileCalled(const std::string& name, const Context& context) {
+    using reference::File;
+    if (name.empty()) return File::none;
+    for (const File file : {File::normal, File::security, File::address})
+        if (reference::fileName(file).starts_with(name)) return file;
+    throw CouldNot(
+        fill(context.say("--file {}: is none of parameter.ini, sec_parameter.ini, ip_config.ini",
+                         "--file {}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini"),
+             {printable(name)}));
+}
+
+Status run(const Options& options, const Context& context) {
+    const Source source = Source::open(options.source, context);
+    const Listing listing = listingOf(source, fileCalled(options.file, context));
+    if (options.listing)
+        print(listing.text);
+    else
+        print(fill(context.say("{}  {}, {} settings\n", "{}  {}, {} Einstellungen\n"),
+                   {fingerprintOf(listing), source.name(), std::to_string(listing.settings)}));
+    return kNothing;
+}
+
+} // namespace
+
+Listing listingOf(const Source& source, reference::File only) {
+    std::vector<std::string> lines;
+    for (const Parameter& parameter : reference::parameters()) {
+        if (!parameter.isSetting() || isOfClock(parameter)) continue;
+        if (only != reference::File::none && parameter.file() != only) continue;
+        if (const auto value = source.value(parameter))
+            lines.push_back(fill("TLX_{}={}\n", {parameter.name(), fileForm(parameter, *value)}));
+    }
+    std::ranges::sort(lines);
+    Listing listing{{}, static_cast<int>(lines.size())};
+    for (const std::string& line : lines)
+        listing.text += line;
+    return listing;
+}
+
+std::string fingerprintOf(const Listing& listing) {
+    char digits[SHA256_DIGEST_STRING_LENGTH];
+    SHA256Data(reinterpret_cast<const std::uint8_t*>(listing.text.data()), listing.text.size(), digits);
+    return digits;
+}
+
+void addFingerprint(CLI::App& app, Commands& commands) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* const command =
+        app.add_subcommand("fingerprint", "a number that tells whether settings are the same");
+    command->add_option("SOURCE", options->source, "live if not given");
+    command->add_option("--file", options->file, "only the settings of the file whose name begins so");
+    command->add_flag("--listing", options->listing, "print what it is the SHA-256 of");
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+}
+
+} // namespace talux::tool

@@ -1,0 +1,283 @@
+#include "tools/talux/Judgement.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+#include "ParamSystem/files/Line.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+constexpr int kMostStrangers = 100; // of a file are judged
+
+std::optional<reference::File> fileNamedBy(const std::string& path) {
+    const std::string name = path.substr(path.find_last_of('/') + 1);
+    if (name.find("ip_config") != name.npos) return reference::File::address;
+    if (name.starts_with("sec_param")) return reference::File::security;
+    if (name.starts_with("param")) return reference::File::normal;
+    return {};
+}
+
+// Of a file that can be looked at twice.
+bool beginsWithMark(const std::string& path) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) return false;
+    char mark[3] = {};
+    std::ifstream(path, std::ios::binary).read(mark, sizeof mark);
+    return std::string_view(mark, sizeof mark) == "\xEF\xBB\xBF";
+}
+
+std::optional<std::uint32_t> addressOf(std::string_view text) {
+    std::uint32_t address = 0;
+    for (int part = 0; part < 4; ++part) {
+        unsigned number = 256;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+        if (error != std::errc() || number > 255 || end - text.data() > 3) return {};
+        text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+        if (part < 3 && !text.starts_with('.')) return {};
+        if (part < 3) text.remove_prefix(1);
+        address = address << 8 | number;
+    }
+    return text.empty() ? std::optional(address) : std::nullopt;
+}
+
+// Words behind the first one of a number, which are not read.
+std::string_view wordsBehind(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t");
+    const auto blank = text.find_first_of(" \t", first);
+    const auto second = text.find_first_not_of(" \t", blank);
+    return blank == text.npos || second == text.npos ? std::string_view() : text.substr(second);
+}
+
+bool isWhole(const Parameter& parameter) {
+    return parameter.type().fileDecimals == 0;
+}
+
+} // namespace
+
+bool isAddressText(std::string_view text) {
+    return addressOf(text).has_value();
+}
+
+bool isNetmask(std::string_view text) {
+    const auto mask = addressOf(text);
+    return mask && (~*mask & (~*mask + 1)) == 0;
+}
+
+std::optional<Finding> wouldNotComeBack(const Parameter& parameter, const Value& value,
+                                        const Context& context) {
+    char line[kLineSize];
+    if (formatLine(line, parameter.row(), value) == 0) return {};
+    const std::string written = fileForm(parameter, value);
+    const Effect effect = effectOf(parseEntry(line));
+    std::optional<Value> back;
+    if (effect.outcome == Outcome::stored) back = storedAs(effect.row->id, *effect.value);
+    if (sameValue(back, value)) return {};
+    return Finding{"not-back",
+                   fill(context.say("would not come back: a save writes {}, a load makes {} of it",
+                                    "käme nicht zurück: Speichern schreibt {}, Laden macht daraus {}"),
+                        {printable(written), back ? plain(parameter, *back) : "-"})};
+}
+
+Judge::Judge(const std::string& path, const Source& source, const Context& person)
+    : before(source), context(person), expected(fileNamedBy(path)), hasMark(beginsWithMark(path)) {}
+
+void Judge::add(Judgement& judgement, const char* code, std::string text) const {
+    judgement.findings.push_back({code, std::move(text)});
+}
+
+Judgement Judge::judge(const Entry& entry) {
+    Judgement judgement;
+    judgement.line = entry.line;
+    // The rest of a line that was told to be too long matters only where it is read as a parameter.
+    if (entry.form == LineForm::nothing || (entry.continues && entry.form != LineForm::entry))
+        return judgement;
+    const Effect effect = effectOf(entry);
+    if (effect.row == nullptr && ++strangers > kMostStrangers) {
+        judgement.isUntold = true;
+        return judgement;
+    }
+    judgeLine(entry, judgement);
+    if (entry.form != LineForm::entry) return judgement;
+    judgement.name = effect.row == nullptr ? printable(entry.name) : effect.row->name;
+    judgement.parameter = effect.row == nullptr ? nullptr : reference::find(effect.row->name);
+    if (effect.outcome == Outcome::stored)
+        judgeStored(entry, effect, judgement);
+    else
+        judgeSkipped(entry, effect, judgement);
+    return judgement;
+}
+
+// What is odd whatever the line is about.
+void Judge::judgeLine(const Entry& entry, Judgement& judgement) const {
+    if (entry.line == 1 && hasMark)
+        add(judgement, "mark",
+            context.say(
+                "a byte order mark stands in front of it, so the line is not read: save the file without",
+                "davor steht ein Byte Order Mark, die Zeile wird deshalb nicht gelesen: ohne speichern"));
+    else if (entry.form == LineForm::foreign)
+        add(judgement, "foreign",
+            context.say("no parameter: does not begin with TLX_; is skipped",
+                        "kein Parameter: beginnt nicht mit TLX_; wird übergangen"));
+    if (entry.continues)
+        add(judgement, "continued",
+            context.say("is the rest of a line of more than 254 characters and is read as a parameter",
+                        "ist der Rest einer Zeile mit mehr als 254 Zeichen und wird als Parameter gelesen"));
+    if (entry.isCut)
+        add(judgement, "cut-line",
+            context.say("more than 254 characters: the rest is read as a line of its own",
+                        "mehr als 254 Zeichen: der Rest wird als eigene Zeile gelesen"));
+    if (entry.hasNul)
+        add(judgement, "nul",
+            context.say("holds a NUL character: what stands behind it is not read",
+                        "enthält ein NUL-Zeichen: was dahinter steht, wird nicht gelesen"));
+}
+
+void Judge::judgeSkipped(const Entry& entry, const Effect& effect, Judgement& judgement) const {
+    switch (effect.outcome) {
+    case Outcome::unknownName: {
+        std::string text =
+            context.say("no parameter has this name; is skipped", "kein Parameter heißt so; wird übergangen");
+        if (const auto near = reference::nearest(entry.name); !near.empty())
+            text += fill(context.say("; the nearest name is {}", "; der ähnlichste Name ist {}"), {near});
+        add(judgement, "unknown", std::move(text));
+        break;
+    }
+    case Outcome::runTime:
+        add(judgement, "run-time",
+            context.say("is a run-time value, no setting; is skipped",
+                        "ist ein Laufzeitwert, keine Einstellung; wird übergangen"));
+        break;
+    case Outcome::notANumber: {
+        if (*entry.value == '\0') {
+            add(judgement, "no-number",
+                context.say("has no value; is skipped", "hat keinen Wert; wird übergangen"));
+            break;
+        }
+        const bool hasComma = std::strchr(entry.value, ',') != nullptr;
+        std::string text =
+            fill(context.say("'{}' is no number; is skipped", "'{}' ist keine Zahl; wird übergangen"),
+                 {printable(entry.value)});
+        if (hasComma)
+            text += context.say("; decimals stand behind a point", "; Dezimalen stehen hinter einem Punkt");
+        add(judgement, "no-number", std::move(text));
+        break;
+    }
+    case Outcome::noSlot:
+        add(judgement, "no-value",
+            context.say("keeps no value; is skipped", "behält keinen Wert; wird übergangen"));
+        break;
+    case Outcome::noEntry:
+    case Outcome::otherType:
+    case Outcome::stored:
+        break;
+    }
+}
+
+void Judge::judgeStored(const Entry& entry, const Effect& effect, Judgement& judgement) {
+    const int id = effect.row->id;
+    const auto earlier = seen.find(id);
+    judgement.from = earlier == seen.end() ? before.value(id) : std::optional(earlier->second.value);
+    judgement.to = storedAs(id, *effect.value);
+    if (earlier != seen.end())
+        add(judgement, "again",
+            fill(context.say("stands in line {} too; this one counts",
+                             "steht auch in Zeile {}; diese hier gilt"),
+                 {std::to_string(earlier->second.line)}));
+    seen.insert_or_assign(id, Seen{*judgement.to, entry.line});
+    if (isOfClock(*judgement.parameter)) return;
+    if (!entry.hasValue)
+        add(judgement, "empty",
+            context.say("has no value; the empty text is loaded",
+                        "hat keinen Wert; der leere Text wird geladen"));
+    if (entry.tail == Tail::text)
+        add(judgement, "tail",
+            context.say("what stands behind the value is not read",
+                        "was hinter dem Wert steht, wird nicht gelesen"));
+    if (judgement.to->isText())
+        judgeText(entry, judgement);
+    else
+        judgeNumber(entry, effect.value->number(), judgement);
+    if (auto finding = wouldNotComeBack(*judgement.parameter, *judgement.to, context))
+        judgement.findings.push_back(std::move(*finding));
+    judgePlace(judgement);
+}
+
+void Judge::judgeNumber(const Entry& entry, double given, Judgement& judgement) const {
+    const Parameter& parameter = *judgement.parameter;
+    if (const auto words = wordsBehind(entry.value); !words.empty())
+        add(judgement, "tail",
+            fill(context.say("'{}' behind the number is not read", "'{}' hinter der Zahl wird nicht gelesen"),
+                 {printable(words)}));
+    if (!isInRange(parameter, given))
+        add(judgement, "range",
+            fill(context.say("out of range ({}), is loaded all the same",
+                             "außerhalb des Bereichs ({}), wird trotzdem geladen"),
+                 {range(parameter, context.language)}));
+    const double kept = judgement.to->number();
+    const double lost = std::abs(kept - given);
+    if (isWhole(parameter) ? kept != given : lost > 1e-6 * std::abs(given))
+        add(judgement, "rounded",
+            fill(context.say("is kept as {}", "wird als {} gehalten"), {plain(parameter, *judgement.to)}));
+}
+
+void Judge::judgeText(const Entry& entry, Judgement& judgement) const {
+    const Parameter& parameter = *judgement.parameter;
+    const std::string_view given = entry.value, kept = judgement.to->text();
+    const int meant = parameter.row().val_len;
+    if (entry.isQuoted && !entry.isClosed)
+        add(judgement, "unclosed",
+            context.say("the closing quote is missing", "das schließende Anführungszeichen fehlt"));
+    if (!entry.isQuoted && given.find('"') != given.npos)
+        add(judgement, "quote",
+            context.say("the quotes become part of the text: the value does not begin with one",
+                        "die Anführungszeichen werden Teil des Textes: der Wert beginnt nicht damit"));
+    if (!entry.isQuoted && given.ends_with(' '))
+        add(judgement, "blank",
+            context.say("the blanks at the end become part of the text",
+                        "die Leerzeichen am Ende werden Teil des Textes"));
+    if (kept.size() < given.size())
+        add(judgement, "cut",
+            fill(context.say("is cut at {} characters", "wird nach {} Zeichen abgeschnitten"),
+                 {std::to_string(kept.size())}));
+    else if (meant > 0 && width(kept) > static_cast<std::size_t>(meant))
+        add(judgement, "long",
+            fill(context.say("{} characters; at most {} are meant",
+                             "{} Zeichen; vorgesehen sind höchstens {}"),
+                 {std::to_string(width(kept)), std::to_string(meant)}));
+    if (!isUtf8(kept))
+        add(judgement, "encoding",
+            context.say("is no UTF-8 text and will not be shown as meant",
+                        "ist kein UTF-8-Text und wird nicht wie gemeint angezeigt"));
+    if (isAddress(parameter.row()) && !isAddressText(kept))
+        add(judgement, "address",
+            context.say("is no address: four numbers of 0 to 255 with points between them",
+                        "ist keine Adresse: vier Zahlen von 0 bis 255 mit Punkten dazwischen"));
+    else if (parameter.row().type == kTypeIpMask && !isNetmask(kept))
+        add(judgement, "netmask",
+            context.say("is no netmask: its ones do not stand in front",
+                        "ist keine Netzmaske: die Einsen stehen nicht vorn"));
+}
+
+void Judge::judgePlace(Judgement& judgement) const {
+    const Parameter& parameter = *judgement.parameter;
+    if (expected && parameter.file() != *expected)
+        add(judgement, "other-file",
+            fill(context.say("belongs into {}: is loaded here, but saved there",
+                             "gehört in {}: wird von hier geladen, aber dort gespeichert"),
+                 {reference::fileName(parameter.file())}));
+    if (expected == reference::File::security && parameter.name() == "sec_mode" &&
+        judgement.to->number() != 1)
+        add(judgement, "sec-mode",
+            context.say("load_sec makes it 1 whatever the file says",
+                        "load_sec macht 1 daraus, was auch immer hier steht"));
+}
+
+} // namespace talux::tool

@@ -1,0 +1,74 @@
+// What is to be said about a line of a parameter file before it is loaded: what a load does with it, and what
+// it does in silence. The library's own reader and its own judgement of an entry stand behind it.
+#ifndef TALUX_TOOLS_TALUX_JUDGEMENT_H
+#define TALUX_TOOLS_TALUX_JUDGEMENT_H
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ParamSystem/files/Effect.h"
+#include "tools/talux/Source.h"
+
+namespace talux::tool {
+
+struct Finding {
+    const char* code; // for programs; never changes
+    std::string text;
+};
+
+struct Judgement {
+    int line = 0;
+    std::string name;                     // of the parameter, or what stands for it; empty without one
+    const Parameter* parameter = nullptr; // of a known name
+    std::optional<Value> from;            // before the line is loaded
+    std::optional<Value> to;              // afterwards; none when nothing is stored
+    std::vector<Finding> findings;
+    bool isUntold = false; // one of too many lines that are no parameter's: nothing else is filled in
+
+    bool changes() const { return to && !sameValue(from, to); }
+    // The clock's own lines are kept by a load and mean nothing.
+    bool isChange() const { return changes() && !isOfClock(*parameter); }
+};
+
+// Judges the lines of one file, one after the other.
+class Judge {
+public:
+    // `before`: what the values are before the file is loaded.
+    Judge(const std::string& path, const Source& before, const Context& context);
+
+    Judgement judge(const Entry& entry);
+
+private:
+    const Source& before;
+    const Context& context;
+    std::optional<reference::File> expected; // the file that the path is named after
+    bool hasMark;                            // a byte order mark in front of the first line
+    int strangers = 0;                       // lines so far that are no parameter's
+    struct Seen {
+        Value value;
+        int line;
+    };
+    std::map<int, Seen> seen; // by id
+
+    void judgeLine(const Entry& entry, Judgement& judgement) const;
+    void judgeSkipped(const Entry& entry, const Effect& effect, Judgement& judgement) const;
+    void judgeStored(const Entry& entry, const Effect& effect, Judgement& judgement);
+    void judgeNumber(const Entry& entry, double given, Judgement& judgement) const;
+    void judgeText(const Entry& entry, Judgement& judgement) const;
+    void judgePlace(Judgement& judgement) const;
+    void add(Judgement& judgement, const char* code, std::string text) const;
+};
+
+// What a save would write for a value and a load would make of that: nothing when it is the value again.
+std::optional<Finding> wouldNotComeBack(const Parameter& parameter, const Value& value,
+                                        const Context& context);
+
+// Four numbers of 0 to 255; of a netmask, ones in front of zeros.
+bool isAddressText(std::string_view text);
+bool isNetmask(std::string_view text);
+
+} // namespace talux::tool
+
+#endif

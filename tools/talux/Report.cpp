@@ -1,0 +1,206 @@
+// talux report: a record of the settings to print and sign. One HTML page that needs nothing else.
+#include <cerrno>
+#include <cstdlib>
+#include <ctime>
+#include <fstream>
+#include <memory>
+#include <system_error>
+
+#include "tools/talux/Command.h"
+#include "tools/talux/Judgement.h"
+#include "tools/talux/Listing.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+struct Options {
+    std::string source;
+    std::string output;
+    std::string title;
+    bool changed = false;
+};
+
+// What tells the device, where the source knows it.
+constexpr const char* kFacts[] = {"Name",          "Abg",           "Kenn",       "Status_art_no",
+                                  "Status_ser_no", "Status_ord_no", "MAC_adress", "FW_version"};
+
+constexpr const char* kStyle = R"(
+body{font:10pt/1.35 sans-serif;margin:2em auto;max-width:60em;padding:0 1em;color:#000;background:#fff}
+h1{font-size:16pt;margin:0 0 .5em}h2{font-size:12pt;margin:1.4em 0 .3em;break-after:avoid}
+table{border-collapse:collapse;width:100%}
+th,td{text-align:left;vertical-align:top;padding:.15em .5em;border-bottom:1px solid #bbb}
+thead th{border-bottom:1px solid #000}thead{display:table-header-group}tr{break-inside:avoid}
+.facts th{width:14em;font-weight:normal}.facts td{overflow-wrap:anywhere}
+.mark{width:1em;padding-right:0}.name{width:13em}.value{width:14em}.default{width:12em;color:#444}
+td{overflow-wrap:anywhere}.changed td{font-weight:bold}.changed .default{font-weight:normal}
+.remark{display:block;font-weight:normal;font-style:italic}
+.sign{display:flex;gap:2em;margin-top:4em;break-inside:avoid}.sign div{flex:1;border-top:1px solid #000;padding-top:.2em}
+@page{size:A4;margin:18mm 15mm}@media print{body{margin:0;max-width:none;padding:0}}
+)";
+
+std::string escaped(std::string_view text) {
+    std::string html;
+    for (const char c : text) {
+        switch (c) {
+        case '&':
+            html += "&amp;";
+            break;
+        case '<':
+            html += "&lt;";
+            break;
+        case '>':
+            html += "&gt;";
+            break;
+        case '"':
+            html += "&quot;";
+            break;
+        default:
+            html += c;
+        }
+    }
+    return html;
+}
+
+// The variable that makes builds reproducible makes reports so, too.
+std::string today() {
+    const char* const fixed = std::getenv("SOURCE_DATE_EPOCH");
+    const std::time_t now = fixed != nullptr ? std::strtoll(fixed, nullptr, 10) : std::time(nullptr);
+    char text[32] = "";
+    std::tm local{};
+    if (localtime_r(&now, &local) != nullptr) std::strftime(text, sizeof text, "%Y-%m-%d %H:%M", &local);
+    return text;
+}
+
+class Page {
+public:
+    Page(const Options& wanted, const Source& values, const Context& person)
+        : options(wanted), source(values), context(person) {}
+
+    std::string text() {
+        const std::string families = familyTables(); // counts what the head tells
+        const std::string title =
+            options.title.empty() ? context.say("Settings record", "Einstellprotokoll") : options.title;
+        return fill("<!DOCTYPE html>\n<html lang=\"{}\">\n<head>\n<meta charset=\"utf-8\">\n"
+                    "<title>{}</title>\n<style>{}</style>\n</head>\n<body>\n<h1>{}</h1>\n",
+                    {context.say("en", "de"), escaped(title), kStyle, escaped(title)}) +
+               facts() + families + signature() + "</body>\n</html>\n";
+    }
+
+private:
+    const Options& options;
+    const Source& source;
+    const Context& context;
+    const Source defaults = Source::defaults();
+    int changedCount = 0;
+
+    static std::string fact(std::string_view label, const std::string& value) {
+        return fill("<tr><th>{}</th><td>{}</td></tr>\n", {escaped(label), escaped(value)});
+    }
+
+    std::string facts() const {
+        const Listing listing = listingOf(source);
+        std::string rows;
+        for (const char* name : kFacts) {
+            const Parameter& parameter = *reference::find(name);
+            if (const auto value = source.value(parameter); value && *value->text() != '\0')
+                rows += fact(parameter.title(context.language), printable(value->text()));
+        }
+        rows += fact(context.say("Source", "Quelle"), printable(source.name()));
+        rows += fact(context.say("Date", "Datum"), today());
+        rows += fact(context.say("Settings", "Einstellungen"),
+                     fill(context.say("{}, of which {} differ from the factory settings",
+                                      "{}, davon {} anders als die Werkseinstellung"),
+                          {std::to_string(listing.settings), std::to_string(changedCount)}));
+        rows += fact(context.say("Fingerprint (SHA-256)", "Fingerabdruck (SHA-256)"), fingerprintOf(listing));
+        return "<table class=\"facts\">\n" + rows + "</table>\n" +
+               fill("<p>{}</p>\n",
+                    {context.say("● marks what is not the factory setting.",
+                                 "● kennzeichnet, was nicht der Werkseinstellung entspricht.")});
+    }
+
+    std::string familyTables() {
+        std::string tables;
+        for (const stParamFamily& family : DefParamFamilies) {
+            std::string rows;
+            for (const Parameter& parameter : reference::parameters())
+                if (parameter.position() >= family.first && parameter.position() <= family.last)
+                    rows += row(parameter);
+            if (!rows.empty())
+                tables += fill(
+                    "<h2>{}</h2>\n<table>\n<thead><tr><th class=\"mark\"></th><th class=\"name\">{}</th>"
+                    "<th>{}</th><th class=\"value\">{}</th><th class=\"default\">{}</th></tr></thead>\n"
+                    "<tbody>\n{}</tbody>\n</table>\n",
+                    {escaped(family.name), context.say("Name", "Name"), context.say("Title", "Titel"),
+                     context.say("Value", "Wert"), context.say("Factory setting", "Werkseinstellung"), rows});
+        }
+        return tables;
+    }
+
+    std::string row(const Parameter& parameter) {
+        const auto value = source.value(parameter);
+        if (!value || !parameter.isSetting() || isOfClock(parameter)) return {};
+        const auto factory = defaults.value(parameter);
+        const bool changed = !sameValue(value, factory);
+        changedCount += changed ? 1 : 0;
+        if (options.changed && !changed) return {};
+        return fill(
+            "<tr{}><td class=\"mark\">{}</td><td class=\"name\">{}</td><td>{}</td><td class=\"value\">{}{}"
+            "</td><td class=\"default\">{}</td></tr>\n",
+            {changed ? " class=\"changed\"" : "", changed ? "●" : "", escaped(parameter.name()),
+             escaped(parameter.title(context.language)), escaped(shown(parameter, value, context)),
+             remark(parameter, *value), escaped(shown(parameter, factory, context))});
+    }
+
+    std::string remark(const Parameter& parameter, const Value& value) const {
+        std::string text;
+        if (!value.isText() && !isInRange(parameter, value.number()))
+            text = fill(context.say("out of range ({})", "außerhalb des Bereichs ({})"),
+                        {range(parameter, context.language)});
+        else if (const auto finding = wouldNotComeBack(parameter, value, context))
+            text = finding->text;
+        return text.empty() ? text : fill("<span class=\"remark\">{}</span>", {escaped(text)});
+    }
+
+    std::string signature() const {
+        std::string lines;
+        for (const char* label : {context.say("Place, date", "Ort, Datum"), context.say("Name", "Name"),
+                                  context.say("Signature", "Unterschrift")})
+            lines += fill("<div>{}</div>", {label});
+        return fill("<div class=\"sign\">{}</div>\n", {lines});
+    }
+};
+
+void write(const std::string& path, const std::string& text, const Context& context) {
+    errno = 0;
+    std::ofstream file(path, std::ios::binary);
+    if ((file << text).flush()) return;
+    throw CouldNot(fill(context.say("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}"),
+                        {path, std::generic_category().message(errno)}));
+}
+
+Status run(const Options& options, const Context& context) {
+    const Source source = Source::open(options.source, context);
+    const std::string text = Page(options, source, context).text();
+    if (options.output.empty())
+        print(text);
+    else
+        write(options.output, text, context);
+    return kNothing;
+}
+
+} // namespace
+
+void addReport(CLI::App& app, Commands& commands) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* const command = app.add_subcommand("report", "a settings record to print and sign, as HTML");
+    command->add_option("SOURCE", options->source, "live, staged, default, a file or a folder")->required();
+    command->add_option("-o,--output", options->output, "write it to this file");
+    command->add_option("--title", options->title, "what stands above it");
+    command->add_flag("--changed", options->changed, "only what is not the factory setting");
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+}
+
+} // namespace talux::tool

@@ -1,0 +1,90 @@
+#include "tools/talux/Show.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+
+#include "ParamSystem/support/Number.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+// Without an exponent where people write none.
+template <typename Number>
+std::string shortest(Number number) {
+    const auto size = std::abs(number);
+    const bool isOrdinary = size == 0 || (size >= Number(1e-6) && size < Number(1e15));
+    char text[64];
+    const auto result = isOrdinary ? std::to_chars(text, text + sizeof text, number, std::chars_format::fixed)
+                                   : std::to_chars(text, text + sizeof text, number);
+    return {text, result.ptr};
+}
+
+// What stands behind the number.
+std::string meaning(const Parameter& parameter, const Value& value, const Context& context) {
+    if (value.isText()) return {};
+    if (const std::string unit = parameter.unit(); !unit.empty()) return " " + unit;
+    if (parameter.type().kind != Kind::Enum) return {};
+    const std::string choice = parameter.choiceText(static_cast<int>(value.number()), context.language);
+    return choice.empty() ? std::string() : " (" + choice + ")";
+}
+
+} // namespace
+
+std::string plain(const Parameter& parameter, const Value& value) {
+    if (value.isText()) return "\"" + printable(value.text()) + "\"";
+    return parameter.type().kind == Kind::Float ? shortest(narrowed(value.number()))
+                                                : shortest(value.number());
+}
+
+std::string shown(const Parameter& parameter, const std::optional<Value>& value, const Context& context) {
+    return value ? plain(parameter, *value) + meaning(parameter, *value, context) : "-";
+}
+
+double leastNumber(const Parameter& parameter) {
+    const bool isChoice = parameter.type().kind == Kind::Enum && !parameter.hasMinimum();
+    return isChoice ? 1 : parameter.row().val_min;
+}
+
+bool isInRange(const Parameter& parameter, double number) {
+    return number >= leastNumber(parameter) && number <= parameter.row().val_max; // false for not-a-number
+}
+
+std::string range(const Parameter& parameter, ParamLanguage language) {
+    if (!parameter.hasNumber()) return {};
+    if (leastNumber(parameter) == parameter.row().val_min) return reference::rangeText(parameter, language);
+    return fill(language == kGerman ? "1 bis {}" : "1 to {}",
+                {reference::shortNumber(parameter.row().val_max)});
+}
+
+std::string change(const Parameter& parameter, const std::optional<Value>& from,
+                   const std::optional<Value>& to, const Context& context) {
+    // The unit stands once, behind both.
+    const bool isOneUnit = from && to && !parameter.unit().empty();
+    const std::string before = isOneUnit ? plain(parameter, *from) : shown(parameter, from, context);
+    return before + " -> " + shown(parameter, to, context);
+}
+
+Json json(const Parameter& parameter, const std::optional<Value>& value) {
+    if (!value) return nullptr;
+    if (value->isText()) return value->text();
+    const double number = value->number();
+    if (!std::isfinite(number)) return plain(parameter, *value);
+    if (parameter.type().fileDecimals == 0) return static_cast<std::int64_t>(number);
+    double rounded = 0;
+    const std::string text = plain(parameter, *value);
+    std::from_chars(text.data(), text.data() + text.size(), rounded);
+    return rounded;
+}
+
+void printJson(const Json& document) {
+    print(document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
+}
+
+void print(std::string_view text) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+} // namespace talux::tool

@@ -1,0 +1,45 @@
+// Values as people read them.
+#ifndef TALUX_TOOLS_TALUX_SHOW_H
+#define TALUX_TOOLS_TALUX_SHOW_H
+
+#include <optional>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "tools/talux/Source.h"
+
+namespace talux::tool {
+
+using Json = nlohmann::ordered_json;
+
+// A number with as many digits as tell it from all others of its width; a text in double quotes.
+std::string plain(const Parameter& parameter, const Value& value);
+
+// With its unit or the text of the choice: "30 %", "2 (English)". Nothing is "-".
+std::string shown(const Parameter& parameter, const std::optional<Value>& value, const Context& context);
+
+// Choices count from 1 where the dictionary does not say otherwise; a write does not see to that.
+double leastNumber(const Parameter& parameter);
+
+bool isInRange(const Parameter& parameter, double number);
+
+// "1 to 90"; empty for texts and without limits.
+std::string range(const Parameter& parameter, ParamLanguage language);
+
+// "30 -> 35 %"
+std::string change(const Parameter& parameter, const std::optional<Value>& from,
+                   const std::optional<Value>& to, const Context& context);
+
+// A number or a text; null for nothing.
+Json json(const Parameter& parameter, const std::optional<Value>& value);
+
+// Prints it; texts that are no UTF-8 get replacement characters.
+void printJson(const Json& document);
+
+// Prints to standard output.
+void print(std::string_view text);
+
+} // namespace talux::tool
+
+#endif

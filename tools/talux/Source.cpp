@@ -1,0 +1,154 @@
+#include "tools/talux/Source.h"
+
+#include <cerrno>
+#include <cmath>
+#include <cstring>
+#include <fstream>
+#include <sstream>
+#include <sys/stat.h>
+
+#include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/files/Effect.h"
+#include "ParamSystem/files/Line.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+std::string reason(int error) {
+    return std::generic_category().message(error);
+}
+
+bool isFolder(const std::string& path) {
+    struct stat info;
+    return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
+bool isThere(const std::string& path) {
+    struct stat info;
+    return stat(path.c_str(), &info) == 0;
+}
+
+constexpr reference::File kFiles[] = {reference::File::normal, reference::File::security,
+                                      reference::File::address};
+
+} // namespace
+
+void readEntries(const std::string& path, const Context& context,
+                 const std::function<void(const Entry&)>& visit) {
+    errno = 0;
+    switch (readLines(path.c_str(), [&visit](const Entry& entry) { visit(entry); })) {
+    case ReadResult::done:
+        return;
+    case ReadResult::notOpened:
+        throw CouldNot(fill(context.say("{}: cannot be opened: {}", "{}: lässt sich nicht öffnen: {}"),
+                            {path, reason(errno)}));
+    case ReadResult::broken:
+        throw CouldNot(fill(context.say("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}"),
+                            {path, reason(errno)}));
+    }
+}
+
+Source Source::open(const std::string& name, const Context& context) {
+    if (name == "default") return defaults();
+    if (isDevice(name)) {
+        attachDevice(Attachment::readOnly, context);
+        return Source(name == "live" ? Kind::live : Kind::staged, name);
+    }
+    Source source(Kind::file, name);
+    if (isFolder(name))
+        source.readFolder(name, context);
+    else
+        source.readFile(name, context);
+    return source;
+}
+
+void Source::readFolder(const std::string& folder, const Context& context) {
+    bool found = false;
+    for (const reference::File file : kFiles) {
+        const std::string path = folder + "/" + std::string(reference::fileName(file));
+        if (!isThere(path)) continue;
+        readFile(path, context);
+        found = true;
+    }
+    if (!found)
+        throw CouldNot(
+            fill(context.say("{}: none of parameter.ini, sec_parameter.ini, ip_config.ini is there",
+                             "{}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini "
+                             "ist da"),
+                 {folder}));
+}
+
+void Source::readFile(const std::string& path, const Context& context) {
+    readEntries(path, context, [this](const Entry& entry) {
+        const Effect effect = effectOf(entry);
+        if (effect.outcome != Outcome::stored) return;
+        if (const auto kept = storedAs(effect.row->id, *effect.value))
+            held.insert_or_assign(effect.row->id, *kept);
+    });
+}
+
+std::optional<Value> Source::value(int id) const {
+    const stParamProperties* const row = GetParamProperties(id);
+    if (row == nullptr) return {};
+    switch (kind_) {
+    case Kind::defaults:
+        return row->is_volatile == 1 ? std::nullopt : defaultOf(*row);
+    case Kind::live:
+        return readValue(Space::global, id);
+    case Kind::staged:
+        return readValue(row->is_volatile == 1 ? Space::global : Space::temp, id);
+    case Kind::file:
+        break;
+    }
+    const auto found = held.find(id);
+    return found == held.end() ? std::nullopt : std::optional(found->second);
+}
+
+void attachDevice(Attachment attachment, const Context& context) {
+    const char* const missing = attachExisting(attachment);
+    if (missing == nullptr) return;
+    const int error = errno;
+    throw CouldNot(fill(context.say("no device here: the {} cannot be attached: {}; on a device `talux boot` "
+                                    "makes it, on a desk scripts/run.sh",
+                                    "hier ist kein Gerät: {} nicht erreichbar: {}; auf einem Gerät legt ihn "
+                                    "`talux boot` an, am Schreibtisch scripts/run.sh"),
+                        {missing, reason(error)}));
+}
+
+bool isDeviceThere() {
+    std::ifstream table("/proc/sysvipc/shm");
+    std::string line;
+    while (std::getline(table, line)) {
+        int key = 0;
+        if (std::istringstream(line) >> key && key == kGlobalSpaceKey) return true;
+    }
+    return false;
+}
+
+std::string pathOf(reference::File file, const Context& context) {
+    return context.directory + "/" + std::string(reference::fileName(file));
+}
+
+bool isOfClock(const Parameter& parameter) {
+    const Nature nature = parameter.type().nature;
+    return nature == Nature::date || nature == Nature::time;
+}
+
+bool sameValue(const std::optional<Value>& a, const std::optional<Value>& b) {
+    if (!a || !b) return !a && !b;
+    if (a->isText() != b->isText()) return false;
+    if (a->isText()) return std::strcmp(a->text(), b->text()) == 0;
+    return a->number() == b->number() || (std::isnan(a->number()) && std::isnan(b->number()));
+}
+
+std::string fileForm(const Parameter& parameter, const Value& value) {
+    char line[kLineSize];
+    const std::size_t length = formatLine(line, parameter.row(), value);
+    if (length == 0) return {};
+    const std::string_view whole(line, length - 1);
+    return std::string(whole.substr(whole.find('=') + 1));
+}
+
+} // namespace talux::tool

@@ -1,0 +1,81 @@
+// Where values come from: the live values of a device, its working copy, the factory defaults, a parameter
+// file or a folder with the three of them.
+#ifndef TALUX_TOOLS_TALUX_SOURCE_H
+#define TALUX_TOOLS_TALUX_SOURCE_H
+
+#include <map>
+#include <optional>
+#include <string>
+
+#include "ParamSystem/files/Reader.h"
+#include "ParamSystem/store/Spaces.h"
+#include "ParamSystem/store/Values.h"
+#include "tools/reference/Reference.h"
+#include "tools/talux/Command.h"
+
+namespace talux::tool {
+
+using reference::Parameter;
+
+class Source {
+public:
+    enum class Kind { defaults, live, staged, file };
+
+    // By name: "default", "live", "staged", else a path. Live and staged attach the device's segments,
+    // read-only and creating none. Throws CouldNot when there is no device or no such file.
+    static Source open(const std::string& name, const Context& context);
+
+    static Source defaults() { return Source(Kind::defaults, "default"); }
+
+    // A file that is not there.
+    static Source nothing(const std::string& path) { return Source(Kind::file, path); }
+
+    // Whether the name stands for the device.
+    static bool isDevice(std::string_view name) { return name == "live" || name == "staged"; }
+
+    Kind kind() const { return kind_; }
+    const std::string& name() const { return name_; }
+
+    // The value of an id. Run-time values are those of the device, whether live or staged. Of a file what a
+    // load would keep of it.
+    std::optional<Value> value(int id) const;
+    std::optional<Value> value(const Parameter& parameter) const { return value(parameter.row().id); }
+
+    // A file need not hold every setting; all others do.
+    bool isPartial() const { return kind_ == Kind::file; }
+
+private:
+    Source(Kind kind, std::string name) : kind_(kind), name_(std::move(name)) {}
+
+    void readFolder(const std::string& folder, const Context& context);
+    void readFile(const std::string& path, const Context& context);
+
+    Kind kind_;
+    std::string name_;
+    std::map<int, Value> held; // of a file
+};
+
+// Attaches what other programs have made; throws CouldNot when there is nothing.
+void attachDevice(Attachment attachment, const Context& context);
+
+// Whether the device's segments are there; looks without attaching.
+bool isDeviceThere();
+
+// Path of one of the parameter files in the folder of the device.
+std::string pathOf(reference::File file, const Context& context);
+
+// Calls visit(entry) for every line of a parameter file. Throws CouldNot with the reason.
+void readEntries(const std::string& path, const Context& context,
+                 const std::function<void(const Entry&)>& visit);
+
+// The two that show the clock: kept in files, never part of a comparison.
+bool isOfClock(const Parameter& parameter);
+
+bool sameValue(const std::optional<Value>& a, const std::optional<Value>& b);
+
+// The value as a parameter file holds it, without name and line end; the canonical form of a value.
+std::string fileForm(const Parameter& parameter, const Value& value);
+
+} // namespace talux::tool
+
+#endif

@@ -1,0 +1,171 @@
+// talux status: what update and save would change, and which of it reaches the network.
+#include <array>
+#include <memory>
+#include <unistd.h>
+
+#include "tools/talux/Command.h"
+#include "tools/talux/Judgement.h"
+#include "tools/talux/Network.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+using reference::File;
+
+struct Options {
+    bool json = false;
+};
+
+struct Pending {
+    const Parameter* parameter;
+    std::optional<Value> from;
+    std::optional<Value> to;
+};
+
+// What one command would change, in its own space or file.
+struct Change {
+    const char* command; // of the command language
+    std::string place;
+    bool isThere;
+    std::vector<Pending> pending;
+};
+
+// The change flags that other programs wait for.
+constexpr std::array<const char*, 4> kFlags{"ParamChanged", "IpParamChanged", "SecParamChanged",
+                                            "StmParamChanged"};
+
+struct Report {
+    std::vector<Change> changes;
+    std::vector<std::string> flags;
+    std::vector<std::pair<const Parameter*, Finding>> losses; // what a save would write and not bring back
+};
+
+// Calls differs(parameter, before, after) for every setting.
+template <class Differs>
+std::vector<Pending> pendingIn(const Source& from, const Source& to, Differs differs) {
+    std::vector<Pending> pending;
+    for (const Parameter& parameter : reference::parameters()) {
+        if (!parameter.isSetting() || isOfClock(parameter)) continue;
+        const auto before = from.value(parameter), after = to.value(parameter);
+        if (differs(parameter, before, after)) pending.push_back({&parameter, before, after});
+    }
+    return pending;
+}
+
+Change updateChange(const Source& live, const Source& staged) {
+    const auto differs = [](const Parameter&, const auto& a, const auto& b) { return !sameValue(a, b); };
+    return {"update", "live", true, pendingIn(live, staged, differs)};
+}
+
+// A save commits first, so the file gets what is staged. Values count as they stand in files.
+Change saveChange(const char* command, File file, const Source& staged, const Context& context) {
+    const std::string path = pathOf(file, context);
+    const bool isThere = access(path.c_str(), F_OK) == 0;
+    const auto differs = [file](const Parameter& parameter, const auto& old, const auto& wanted) {
+        if (parameter.file() != file || !wanted) return false;
+        return !old || fileForm(parameter, *old) != fileForm(parameter, *wanted);
+    };
+    const Source before = isThere ? Source::open(path, context) : Source::nothing(path);
+    return {command, path, isThere, pendingIn(before, staged, differs)};
+}
+
+Report reportOn(const Context& context) {
+    const Source live = Source::open("live", context), staged = Source::open("staged", context);
+    Report report;
+    report.changes.push_back(updateChange(live, staged));
+    report.changes.push_back(saveChange("save", File::normal, staged, context));
+    report.changes.push_back(saveChange("save_sec", File::security, staged, context));
+    report.changes.push_back(saveChange("save_ip", File::address, staged, context));
+    for (const char* name : kFlags)
+        if (const auto flag = live.value(*reference::find(name)); flag && flag->number() != 0)
+            report.flags.emplace_back(name);
+    for (const Parameter& parameter : reference::parameters())
+        if (const auto value = staged.value(parameter);
+            value && parameter.isSetting() && !isOfClock(parameter))
+            if (auto finding = wouldNotComeBack(parameter, *value, context))
+                report.losses.emplace_back(&parameter, std::move(*finding));
+    return report;
+}
+
+void printChange(const Change& change, const Context& context) {
+    const Paint paint;
+    const char* const pattern = change.isThere
+                                    ? context.say("{} would change {} in {}", "{} würde {} ändern in {}")
+                                    : context.say("{} would write {} to {}, which is not there",
+                                                  "{} würde {} schreiben nach {}, das nicht da ist");
+    const auto head = fill(pattern, {change.command, std::to_string(change.pending.size()), change.place});
+    print(paint.bold(head) + "\n");
+    if (!change.isThere) return;
+    Table table;
+    for (const auto& [parameter, from, to] : change.pending)
+        table.add({std::string(parameter->name()), paint.changed(tool::change(*parameter, from, to, context)),
+                   reachesNetwork(*parameter) ? context.say("network", "Netzwerk") : ""});
+    print(table.text("  "));
+}
+
+void printText(const Report& report, const Context& context) {
+    bool network = false;
+    for (const Change& change : report.changes) {
+        printChange(change, context);
+        for (const Pending& pending : change.pending)
+            network = network || reachesNetwork(*pending.parameter);
+    }
+    if (network)
+        print(context.say(
+            "network: update and save apply nothing to the system; load_ip or a write of ETH0_IP, ETH1_IP, "
+            "WLAN0_IP does\n",
+            "Netzwerk: update und save wenden am System nichts an; load_ip oder Schreiben von ETH0_IP, "
+            "ETH1_IP, "
+            "WLAN0_IP tut es\n"));
+    for (const auto& [parameter, finding] : report.losses)
+        print(fill("{}: {}\n", {parameter->name(), finding.text}));
+    for (const std::string& flag : report.flags)
+        print(fill(context.say("{} is raised: another program has not yet taken it up\n",
+                               "{} ist gesetzt: ein anderes Programm hat es noch nicht übernommen\n"),
+                   {flag}));
+}
+
+void printReport(const Report& report) {
+    Json all;
+    for (const Change& change : report.changes) {
+        Json list = Json::array();
+        for (const auto& [parameter, from, to] : change.pending)
+            list.push_back({{"name", parameter->name()},
+                            {"from", json(*parameter, from)},
+                            {"to", json(*parameter, to)},
+                            {"network", reachesNetwork(*parameter)}});
+        all[change.command] = {{"place", change.place}, {"there", change.isThere}, {"changes", list}};
+    }
+    all["flags"] = report.flags;
+    all["not_back"] = Json::array();
+    for (const auto& [parameter, finding] : report.losses)
+        all["not_back"].push_back({{"name", parameter->name()}, {"text", finding.text}});
+    printJson(all);
+}
+
+Status run(const Options& options, const Context& context) {
+    const Report report = reportOn(context);
+    if (options.json)
+        printReport(report);
+    else
+        printText(report, context);
+    bool found = !report.losses.empty();
+    for (const Change& change : report.changes)
+        found = found || !change.pending.empty();
+    return found ? kFound : kNothing;
+}
+
+} // namespace
+
+void addStatus(CLI::App& app, Commands& commands) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* const command =
+        app.add_subcommand("status", "what update and save would change on this device");
+    command->add_flag("--json", options->json, "print JSON");
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+}
+
+} // namespace talux::tool

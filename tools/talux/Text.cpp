@@ -1,0 +1,146 @@
+#include "tools/talux/Text.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <unistd.h>
+
+#include "ParamSystem/support/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+// Length of the well-formed UTF-8 character at the beginning, 0 when there is none.
+std::size_t characterAt(std::string_view text) {
+    const auto byte = [text](std::size_t k) {
+        return k < text.size() ? static_cast<unsigned char>(text[k]) : 0u;
+    };
+    const auto follows = [&byte](std::size_t k) { return (byte(k) & 0xC0) == 0x80; };
+    const unsigned first = byte(0), second = byte(1);
+    if (first < 0x80) return 1;
+    if (first >= 0xC2 && first < 0xE0) return follows(1) ? 2 : 0;
+    if (first >= 0xE0 && first < 0xF0) {
+        const bool isShortest = first != 0xE0 || second >= 0xA0,
+                   isSurrogate = first == 0xED && second >= 0xA0;
+        return isShortest && !isSurrogate && follows(1) && follows(2) ? 3 : 0;
+    }
+    if (first >= 0xF0 && first < 0xF5) {
+        const bool isInRange = (first != 0xF0 || second >= 0x90) && (first != 0xF4 || second < 0x90);
+        return isInRange && follows(1) && follows(2) && follows(3) ? 4 : 0;
+    }
+    return 0;
+}
+
+bool isEscape(std::string_view cell, std::size_t at) {
+    return cell[at] == '\033';
+}
+
+bool fitsPattern(std::string_view name, std::string_view pattern) {
+    if (pattern.empty()) return name.empty();
+    if (pattern[0] == '*')
+        return fitsPattern(name, pattern.substr(1)) ||
+               (!name.empty() && fitsPattern(name.substr(1), pattern));
+    if (name.empty()) return false;
+    const bool same = pattern[0] == '?' || lowerAscii(pattern[0]) == lowerAscii(name[0]);
+    return same && fitsPattern(name.substr(1), pattern.substr(1));
+}
+
+} // namespace
+
+std::string fill(std::string_view pattern, std::initializer_list<std::string_view> pieces) {
+    std::string text;
+    const auto* piece = pieces.begin();
+    for (std::size_t gap = pattern.find("{}"); gap != pattern.npos && piece != pieces.end();
+         gap = pattern.find("{}")) {
+        text.append(pattern.substr(0, gap)).append(*piece++);
+        pattern.remove_prefix(gap + 2);
+    }
+    return text.append(pattern);
+}
+
+// Colours take no room.
+std::size_t width(std::string_view text) {
+    std::size_t columns = 0;
+    for (std::size_t k = 0; k < text.size(); ++k) {
+        if (isEscape(text, k))
+            k = std::min(text.find('m', k), text.size());
+        else if ((static_cast<unsigned char>(text[k]) & 0xC0) != 0x80)
+            ++columns;
+    }
+    return columns;
+}
+
+bool isUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const std::size_t length = characterAt(text);
+        if (length == 0) return false;
+        text.remove_prefix(length);
+    }
+    return true;
+}
+
+std::string padded(std::string text, std::size_t columns) {
+    const std::size_t taken = width(text);
+    if (taken < columns) text.append(columns - taken, ' ');
+    return text;
+}
+
+bool containsIgnoringCase(std::string_view text, std::string_view part) {
+    const auto same = [](char a, char b) { return lowerAscii(a) == lowerAscii(b); };
+    return std::search(text.begin(), text.end(), part.begin(), part.end(), same) != text.end();
+}
+
+bool fits(std::string_view name, std::string_view pattern) {
+    if (pattern.find_first_of("*?") == pattern.npos) return containsIgnoringCase(name, pattern);
+    return fitsPattern(name, pattern);
+}
+
+std::string printable(std::string_view text) {
+    std::string shown;
+    while (!text.empty()) {
+        const std::size_t length = characterAt(text);
+        const auto first = static_cast<unsigned char>(text[0]);
+        if (length == 0 || first < ' ' || first == 0x7F) {
+            char code[8];
+            std::snprintf(code, sizeof code, "\\x%02X", first);
+            shown += code;
+            text.remove_prefix(1);
+        } else {
+            shown.append(text.substr(0, length));
+            text.remove_prefix(length);
+        }
+    }
+    return shown;
+}
+
+Paint::Paint() {
+    const char* const none = std::getenv("NO_COLOR");
+    const char* const terminal = std::getenv("TERM");
+    const bool isDumb = terminal == nullptr || std::string_view(terminal) == "dumb";
+    isOn = isatty(STDOUT_FILENO) == 1 && !isDumb && (none == nullptr || *none == '\0');
+}
+
+std::string Paint::with(const char* code, const std::string& text) const {
+    return isOn && !text.empty() ? std::string("\033[") + code + "m" + text + "\033[0m" : text;
+}
+
+std::string Table::text(std::string_view indent) const {
+    std::vector<std::size_t> columns;
+    for (const auto& row : rows) {
+        columns.resize(std::max(columns.size(), row.size()));
+        for (std::size_t k = 0; k + 1 < row.size(); ++k)
+            columns[k] = std::max(columns[k], width(row[k]));
+    }
+    std::string text;
+    for (const auto& row : rows) {
+        std::string line(indent);
+        for (std::size_t k = 0; k < row.size(); ++k)
+            line += k + 1 < row.size() ? padded(row[k], columns[k]) + "  " : row[k];
+        line.erase(line.find_last_not_of(' ') + 1);
+        text += line + '\n';
+    }
+    return text;
+}
+
+} // namespace talux::tool

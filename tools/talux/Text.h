@@ -1,0 +1,61 @@
+// Texts for people: patterns with gaps, columns, colours.
+#ifndef TALUX_TOOLS_TALUX_TEXT_H
+#define TALUX_TOOLS_TALUX_TEXT_H
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace talux::tool {
+
+// Puts the pieces into the gaps "{}" of the pattern, one after the other.
+std::string fill(std::string_view pattern, std::initializer_list<std::string_view> pieces);
+
+// Characters that a UTF-8 text takes on a terminal.
+std::size_t width(std::string_view text);
+
+// Whether the text is well-formed UTF-8.
+bool isUtf8(std::string_view text);
+
+// The text with blanks behind it up to this width.
+std::string padded(std::string text, std::size_t columns);
+
+bool containsIgnoringCase(std::string_view text, std::string_view part);
+
+// Whether a name fits "*" and "?" patterns, or holds a text without them. Letter case is ignored.
+bool fits(std::string_view name, std::string_view pattern);
+
+// For text that comes from files: control characters and what is no UTF-8 become "\xNN".
+std::string printable(std::string_view text);
+
+// Colours, on a terminal only and unless NO_COLOR is set.
+class Paint {
+public:
+    Paint();
+    std::string bold(const std::string& text) const { return with("1", text); }
+    std::string dim(const std::string& text) const { return with("2", text); }
+    std::string bad(const std::string& text) const { return with("31", text); }
+    std::string changed(const std::string& text) const { return with("33", text); }
+
+private:
+    bool isOn;
+    std::string with(const char* code, const std::string& text) const;
+};
+
+// Rows of cells, printed so that columns stand below each other; the last one is not padded.
+class Table {
+public:
+    void add(std::vector<std::string> cells) { rows.push_back(std::move(cells)); }
+    bool empty() const { return rows.empty(); }
+    std::size_t size() const { return rows.size(); }
+    // `indent` stands in front of every row.
+    std::string text(std::string_view indent = "") const;
+
+private:
+    std::vector<std::vector<std::string>> rows;
+};
+
+} // namespace talux::tool
+
+#endif

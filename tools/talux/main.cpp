@@ -1,0 +1,79 @@
+// talux: one program for the person at the relay and at the desk.
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+
+#include "tools/talux/Command.h"
+
+namespace {
+
+using namespace talux::tool;
+
+constexpr const char* kAbout =
+    "Settings of the relay: what they mean, what a file would change, what is pending.\n"
+    "SOURCE: live, staged, default, a parameter file, or a folder with the three files.\n"
+    "Exit status: 0 nothing to tell, 1 findings or differences, 2 could not.";
+
+// As the usual variables of the environment say it.
+ParamLanguage languageOfEnvironment() {
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const char* const value = std::getenv(name);
+        if (value == nullptr || *value == '\0') continue;
+        return std::string_view(value).starts_with("de") ? kGerman : kEnglish;
+    }
+    return kEnglish;
+}
+
+void addCommands(CLI::App& app, Commands& commands) {
+    for (const auto add : {addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport,
+                           addWatch, addBoot, addAnnotations})
+        add(app, commands);
+}
+
+// Help goes to standard output, what is wrong to the error stream, each with the status that belongs to it.
+Status endParsing(const CLI::App& app, const CLI::ParseError& error) {
+    return app.exit(error, std::cout, std::cerr) == 0 ? kNothing : kCouldNot;
+}
+
+Status runChosen(const Commands& commands, const Context& context) {
+    const auto chosen =
+        std::ranges::find_if(commands, [](const Command& command) { return command.app->parsed(); });
+    try {
+        const Status status = chosen->run(context);
+        if (std::fflush(stdout) != 0)
+            throw CouldNot(
+                context.say("the output cannot be written", "die Ausgabe lässt sich nicht schreiben"));
+        return status;
+    } catch (const CouldNot& error) {
+        std::fflush(stdout);
+        std::fprintf(stderr, "talux: %s\n", error.what());
+        return kCouldNot;
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    LoadDefParamProperties();
+    Context context;
+    context.language = languageOfEnvironment();
+
+    CLI::App app(kAbout, "talux");
+    const std::map<std::string, ParamLanguage> languages{{"de", kGerman}, {"en", kEnglish}};
+    app.add_option("--language", context.language, "de or en; by default that of the environment")
+        ->transform(CLI::CheckedTransformer(languages, CLI::ignore_case).description(""));
+    app.add_option("--directory", context.directory,
+                   "where the device keeps its parameter files; by default /");
+    app.require_subcommand(1);
+    app.fallthrough();
+
+    Commands commands;
+    addCommands(app, commands);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return endParsing(app, error);
+    }
+    return runChosen(commands, context);
+}
