@@ -27,6 +27,8 @@ foreach(folder ParamSystem MenuSystem)
   install(FILES ${headers} DESTINATION ${talux_include_dir}/${folder})
 endforeach()
 install(FILES ${talux_generated}/ParamSystem/TALUX_ParamCounts.h DESTINATION ${talux_include_dir}/ParamSystem)
+file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/talux/*.hpp)
+install(FILES ${headers} DESTINATION ${talux_include_dir}/talux)
 install(FILES src/talux_interpreter.h src/lib_talux_lua.h DESTINATION ${talux_include_dir}/src)
 
 install(EXPORT talux_lua NAMESPACE talux_lua:: DESTINATION ${talux_package_dir})

@@ -58,7 +58,8 @@ private:
 
 namespace detail {
 
-// Puts words and numbers one behind the other; numbers with up to three decimals and a point in every locale.
+// Puts words and numbers one behind the other; of the numbers, which are limits, at most three decimals, with
+// a point in every locale.
 class Writer {
 public:
     explicit Writer(char* text) : end(text) {}
@@ -71,7 +72,7 @@ public:
 
     void put(double number) {
         if (number < 0.0) put("-");
-        const auto thousandths = static_cast<long long>((number < 0.0 ? -number : number) * 1000.0 + 0.5);
+        const auto thousandths = static_cast<long long>((number < 0.0 ? -number : number) * 1000.0 + 0.25);
         putDigits(thousandths / 1000);
         if (thousandths % 1000 == 0) return;
         put(".");

@@ -12,13 +12,14 @@ status=0
 fail() { printf '%s\n' "$@"; status=1; }
 
 # Every wrong line is refused; the message begins with the line and its name, and gives the reason.
-"${compile[@]}" -fsyntax-only "$here/wrong.cpp" >"$work/messages" 2>&1 && fail 'wrong handles compile'
+"${compile[@]}" -fsyntax-only -x c++ "$here/wrong.hpp" >"$work/messages" 2>&1 && fail 'wrong handles compile'
 while IFS=: read -r line text; do
   name=$(cut -d'"' -f2 <<<"$text") reason=${text##*// }
-  message=$(grep -A 9 -m 1 "wrong\.cpp:$line:" "$work/messages") || message='(nothing)'
-  head -n 2 <<<"$message" | grep -qF "\"$name\"" && grep -qF "$reason" <<<"$message" ||
+  message=$(grep -A 9 -m 1 "wrong\.hpp:$line:" "$work/messages") || message='(nothing)'
+  if ! head -n 2 <<<"$message" | grep -qF "\"$name\"" || ! grep -qF "$reason" <<<"$message"; then
     fail "line $line: $reason is not said of $name:" "$message"
-done < <(grep -n '^constexpr' "$here/wrong.cpp")
+  fi
+done < <(grep -n '^constexpr' "$here/wrong.hpp")
 
 # A run that does not fit is seen while compiling, or where the optimiser sees it.
 for run in 'auto f() { return last.run<3>().get(); }' 'void f(std::span<float, 3> to) { last.get_run(to); }'; do
@@ -38,10 +39,10 @@ instructions() { # SYMBOL
     awk -v name="<$1>:" '$2 == name { on = 1; next } /^$/ { on = 0 } on' |
     sed -E '/\bnop/d; s/^\s*[0-9a-f]+:\s*//; s/[0-9a-f]+ <[^>]*>//; s/\s+#.*//'
 }
-for plain in $(grep -o '[a-z]*_plain' "$here/pairs.cpp"); do
-  pair=${plain%_plain}
-  difference=$(diff <(instructions "${pair}_handle") <(instructions "$plain")) || fail "$pair:" "$difference"
-  [ -n "$(instructions "$plain")" ] || fail "$pair: no instructions"
+for pair in get set run staged stage record; do
+  difference=$(diff <(instructions "${pair}_handle") <(instructions "${pair}_plain")) ||
+    fail "$pair:" "$difference"
+  [ -n "$(instructions "${pair}_plain")" ] || fail "$pair: no instructions"
 done
 
 # What the generated headers add to a compilation, in seconds of the processor, best of three.
