@@ -1,12 +1,12 @@
 #!/bin/bash
 # What the compiler makes of handles, or says of wrong ones.
 #
-#   compile.sh OBJDUMP COMPILER..
+#   compile.sh OBJDUMP GENERATED-HEADERS COMPILER..
 # shellcheck disable=SC2016 # texts for awk
 set -eu
-objdump=$1; shift
+objdump=$1 generated=$2; shift 2
 here=$(cd "$(dirname "$0")" && pwd)
-compile=("$@" -std=c++20 -fno-exceptions -fno-rtti -Wall -Wextra -Wconversion -Wshadow -Werror -I"$here/../..")
+compile=("$@" -std=c++20 -fno-exceptions -fno-rtti -Wall -Wextra -Wconversion -Wshadow -Werror -I"$here/../.." -I"$generated")
 work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
 status=0
 fail() { printf '%s\n' "$@"; status=1; }
