@@ -1,70 +1,72 @@
-# What a device gets (component runtime) and what a developer gets besides (component development). The paths
-# below the prefix are relative to each other, so that the tree works wherever it lies; /usr and /usr/local
-# are where Lua looks by itself.
+# What a device gets (component runtime) and what a developer gets besides (component development), in two
+# layouts. The tree of cmake --install is for any prefix; the paths below it are relative to each other, so that it
+# works wherever it lies, and /usr and /usr/local are where Lua looks by itself. The packages follow Debian: what
+# depends on the processor lies in the folder of its architecture, so that those of several go together.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-set(talux_lua_dir ${CMAKE_INSTALL_LIBDIR}/lua/5.2)
-set(talux_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/talux_lua)
-set(talux_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/talux_lua)
-set(talux_pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
+set(talux_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/talux_lua)
 
-install(TARGETS lib_talux_lua EXPORT talux_lua
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
-  INCLUDES DESTINATION ${talux_include_dir})
+# Consumers get talux_lua::lib_talux_lua, and talux_lua::talux with the handles besides.
+target_compile_features(lib_talux_lua INTERFACE cxx_std_17)
+add_library(talux_handles INTERFACE)
+set_target_properties(talux_handles PROPERTIES EXPORT_NAME talux)
+target_compile_features(talux_handles INTERFACE cxx_std_20)
+target_link_libraries(talux_handles INTERFACE lib_talux_lua)
 
-# Where require finds the module.
-file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/lua)
-file(CREATE_LINK ../../lib_talux_lua.so.1 ${PROJECT_BINARY_DIR}/lua/lib_talux_lua.so SYMBOLIC)
-install(FILES ${PROJECT_BINARY_DIR}/lua/lib_talux_lua.so DESTINATION ${talux_lua_dir} COMPONENT runtime)
+# talux_install(COMPONENT TARGETS|FILES|..): what lies at the same place in both layouts.
+function(talux_install component)
+  install(${ARGN} COMPONENT ${component})
+  install(${ARGN} COMPONENT deb_${component} EXCLUDE_FROM_ALL)
+endfunction()
 
-# The layer for scripts, where require looks for Lua.
-install(DIRECTORY lua/ DESTINATION ${CMAKE_INSTALL_DATADIR}/lua/5.2 COMPONENT runtime)
+# The library and what tells where it is. Components of the packages have the prefix deb_.
+function(talux_install_library prefix libdir exclude)
+  set(package_dir ${libdir}/cmake/talux_lua)
+  set(work ${PROJECT_BINARY_DIR}/${prefix}install)
+  install(TARGETS lib_talux_lua talux_handles EXPORT ${prefix}talux_lua
+    LIBRARY DESTINATION ${libdir} COMPONENT ${prefix}runtime ${exclude} NAMELINK_COMPONENT ${prefix}development
+    INCLUDES DESTINATION ${talux_include_dir})
 
-foreach(folder ParamSystem MenuSystem)
-  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.h)
-  install(FILES ${headers} DESTINATION ${talux_include_dir}/${folder})
-endforeach()
-install(FILES ${talux_generated}/ParamSystem/TALUX_ParamCounts.h DESTINATION ${talux_include_dir}/ParamSystem)
-install(FILES src/talux_interpreter.h src/lib_talux_lua.h DESTINATION ${talux_include_dir}/src)
+  # Where require finds the module.
+  file(MAKE_DIRECTORY ${work})
+  file(CREATE_LINK ../../lib_talux_lua.so.1 ${work}/lib_talux_lua.so SYMBOLIC)
+  install(FILES ${work}/lib_talux_lua.so
+    DESTINATION ${libdir}/lua/5.2 COMPONENT ${prefix}runtime ${exclude})
 
-install(EXPORT talux_lua NAMESPACE talux_lua:: DESTINATION ${talux_package_dir})
+  install(EXPORT ${prefix}talux_lua FILE talux_lua.cmake NAMESPACE talux_lua::
+    DESTINATION ${package_dir} COMPONENT ${prefix}development ${exclude})
+  install(FILES packaging/talux_lua-config.cmake ${PROJECT_BINARY_DIR}/talux_lua-config-version.cmake
+    DESTINATION ${package_dir} COMPONENT ${prefix}development ${exclude})
+
+  file(RELATIVE_PATH talux_prefix_from_pkgconfig /${libdir}/pkgconfig /)
+  set(talux_libdir ${libdir})
+  configure_file(packaging/talux_lua.pc.in ${work}/talux_lua.pc @ONLY)
+  install(FILES ${work}/talux_lua.pc
+    DESTINATION ${libdir}/pkgconfig COMPONENT ${prefix}development ${exclude})
+endfunction()
+
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/talux_lua-config-version.cmake
   COMPATIBILITY SameMajorVersion)
-install(FILES packaging/talux_lua-config.cmake ${PROJECT_BINARY_DIR}/talux_lua-config-version.cmake
-  DESTINATION ${talux_package_dir})
+talux_install_library("" ${CMAKE_INSTALL_LIBDIR} "")
+talux_install_library(deb_ lib/${CMAKE_LIBRARY_ARCHITECTURE} EXCLUDE_FROM_ALL)
 
-file(RELATIVE_PATH talux_prefix_from_pkgconfig /${talux_pkgconfig_dir} /)
-configure_file(packaging/talux_lua.pc.in talux_lua.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/talux_lua.pc DESTINATION ${talux_pkgconfig_dir})
+# The layer for scripts, where require looks for Lua.
+talux_install(runtime DIRECTORY lua/ DESTINATION ${CMAKE_INSTALL_DATADIR}/lua/5.2)
+
+foreach(headers ParamSystem/*.h MenuSystem/*.h talux/*.hpp)
+  file(GLOB files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${headers})
+  get_filename_component(folder ${headers} DIRECTORY)
+  talux_install(development FILES ${files} DESTINATION ${talux_include_dir}/${folder})
+endforeach()
+talux_install(development FILES ${talux_generated}/ParamSystem/TALUX_ParamCounts.h
+  DESTINATION ${talux_include_dir}/ParamSystem)
+talux_install(development FILES src/talux_interpreter.h src/lib_talux_lua.h DESTINATION ${talux_include_dir}/src)
 
 # Pages and examples, beside each other as in the project so that their links hold.
 set(talux_doc_dir ${CMAKE_INSTALL_DATADIR}/doc/talux-lua-dev)
-install(FILES README.md DESTINATION ${talux_doc_dir})
-install(DIRECTORY docs examples DESTINATION ${talux_doc_dir})
+talux_install(development FILES README.md DESTINATION ${talux_doc_dir})
+talux_install(development DIRECTORY docs examples DESTINATION ${talux_doc_dir})
 
-# Packages: one for the device, one for developers.
-set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_VENDOR "talux")
-set(CPACK_PACKAGE_CONTACT "talux developers <developers@talux.invalid>")
-set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
-set(CPACK_COMPONENTS_ALL runtime development)
-set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME talux-lua)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libc6 (>= 2.34)")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "lua5.2")
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Relay controller parameters for Lua 5.2
- The module lib_talux_lua and the layer talux: scripts and programs read and write the parameters of the
- controller.")
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME talux-lua-dev)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "talux-lua (= ${PROJECT_VERSION})")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Relay controller parameters, headers and documentation
- What it takes to build programs against lib_talux_lua; pages about commissioning, scripts and every
- parameter, with one page to search them all; examples.")
-include(CPack)
+include(TaluxPackages)

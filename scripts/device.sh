@@ -2,7 +2,9 @@
 # Builds the module for a device: stripped, installed below build-ARCH/device, its size printed. What is
 # missing is installed (as root).
 #
-#   device.sh armv7|armv5te [CMAKE-OPTION..]
+#   device.sh armv7|armv5te [--tests] [CMAKE-OPTION..]
+#
+# --tests   also builds examples and tests
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 cd "$project"
 
@@ -10,14 +12,19 @@ arch=${1-}
 case $arch in
   armv7) multiarch=arm-linux-gnueabihf debian=armhf ;;
   armv5te) multiarch=arm-linux-gnueabi debian=armel ;;
-  *) fail 'usage: device.sh armv7|armv5te [CMAKE-OPTION..]' ;;
+  *) fail 'usage: device.sh armv7|armv5te [--tests] [CMAKE-OPTION..]' ;;
 esac
 shift
 
-need "$multiarch-g++:g++-$multiarch" qemu-arm:qemu-user cmake:cmake ninja:ninja-build \
-  /usr/src/googletest/CMakeLists.txt:googletest
+need "$multiarch-g++:g++-$multiarch" cmake:cmake ninja:ninja-build
+tests=OFF
+if [ "${1-}" = --tests ]; then
+  need qemu-arm:qemu-user /usr/src/googletest/CMakeLists.txt:googletest
+  tests=ON
+  shift
+fi
 scripts/sysroot.sh "$debian" "build-sysroot/$debian"
-cmake --preset "$arch" "$@"
+cmake --preset "$arch" -DTALUX_BUILD_TESTS="$tests" -DTALUX_BUILD_EXAMPLES="$tests" "$@"
 cmake --build "build-$arch"
 rm -rf "build-$arch/device"
 cmake --install "build-$arch" --prefix "build-$arch/device" --component runtime --strip

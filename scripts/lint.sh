@@ -7,7 +7,7 @@ cd "$project"
 need_build_tools
 need clang-format:clang-format clang-tidy:clang-tidy shellcheck:shellcheck
 
-mapfile -t formatted < <(git ls-files '*.h' '*.cpp')
+mapfile -t formatted < <(git ls-files '*.h' '*.hpp' '*.cpp')
 mapfile -t sources < <(if [ "$#" -gt 0 ]; then printf '%s\n' "$@"; else git ls-files '*.cpp'; fi)
 mapfile -t shell < <(git ls-files '*.sh' .ci/run)
 

@@ -2,8 +2,8 @@
 # Builds and passes the tests.
 #
 #   test.sh           release, sanitize (addresses and undefined behaviour) and armv7
-#   test.sh --all     also debug, armv5te, threads, commands, browser, lint, plain, rock, reproducible, and the
-#                     release tests once more as an ordinary user and in a container without privileges
+#   test.sh --all     also debug, armv5te, packages, threads, commands, browser, lint, plain, rock, reproducible, and
+#                     the release tests once more as an ordinary user and in a container without privileges
 #   test.sh STAGE..   only these
 #
 # What is missing is installed (as root). Every stage runs whatever became of the others. The summary repeats
@@ -12,7 +12,7 @@
 cd "$project"
 
 usual=(release sanitize armv7)
-all=("${usual[@]}" debug armv5te threads commands browser lint plain rock reproducible user container)
+all=("${usual[@]}" debug armv5te packages threads commands browser lint plain rock reproducible user container)
 
 release() { build release && run_tests build-release; }
 debug() { build debug && run_tests build-debug; }
@@ -24,7 +24,27 @@ reproducible() { scripts/reproducible.sh | tee -a "$results/summary"; }
 
 on_device() {
   need "$2-g++:g++-$2" qemu-arm:qemu-user
-  quiet scripts/device.sh "$1" && run_tests "build-$1" && same_image "$1"
+  quiet scripts/device.sh "$1" --tests && run_tests "build-$1" && same_image "$1"
+}
+
+# Debian has no complaint about any package, and those of the PC and the devices go together.
+packages() {
+  local folder build complaints status=0
+  need lintian:lintian
+  folder=$(mktemp -d)
+  build release && quiet scripts/device.sh armv7 && quiet scripts/device.sh armv5te || return
+  for build in release armv7 armv5te; do
+    quiet cpack --config "build-$build/CPackConfig.cmake" -B "$folder" || status=1
+  done
+  complaints=$(lintian --allow-root "$folder"/*.deb 2>&1) || status=1
+  [ -z "$complaints" ] || { echo "$complaints"; status=1; }
+  mkdir -p "$folder"/root/var/lib/dpkg/{updates,info,triggers}
+  touch "$folder"/root/var/lib/dpkg/{status,available}
+  echo "$(dpkg --print-architecture) armhf armel" | tr ' ' '\n' >"$folder/root/var/lib/dpkg/arch"
+  quiet dpkg --root="$folder/root" --force-not-root,depends,script-chrootless -i "$folder"/*.deb || status=1
+  [ "$(find "$folder/root" -name lib_talux_lua.so.1 | wc -l)" = 3 ] || status=1
+  rm -rf "$folder"
+  return "$status"
 }
 
 # The device leaves the same bytes behind as this machine.

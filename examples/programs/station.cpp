@@ -2,26 +2,25 @@
 // prints what the device's other programs now see.
 //
 //   station NEW-NAME
-#include <ParamSystem/TALUX_Var.h>
-#include <src/talux_interpreter.h>
-
 #include <cstdio>
+
+#include <talux/talux.hpp>
+
+namespace {
+
+constexpr talux::Setting<talux::Text> kName{"Name"};
+
+} // namespace
 
 int main(int argc, char** argv) {
     if (argc != 2) return 2;
-    talux_interpreter_Init(); // the dictionary, for the look-ups
-
-    char name[] = "Name";
-    const stParamProperties* row = GetParamPropertiesByName(name);
-    if (row == nullptr || !VarIsText(row->id)) return 1;
-
-    char text[kTextSize];
-    VarGetGlobalTextValue(row->id, text);
-    std::printf("%s (id %d) was \"%s\"\n", row->name, row->id, text);
-
-    VarSetTextValue(row->id, argv[1]); // the working copy of the settings
-    VarUpdateGlobalSpace();            // the commit makes it live
-    VarGetGlobalTextValue(row->id, text);
-    std::printf("%s (id %d) is \"%s\"\n", row->name, row->id, text);
+    talux::Store store;
+    std::printf("Name was \"%s\"\n", kName.live().c_str());
+    if (const talux::Refusal refusal = kName.stage(argv[1])) { // into the working copy of the settings
+        std::fprintf(stderr, "station: %s\n", refusal.text().c_str());
+        return 1;
+    }
+    store.commit(); // makes it live
+    std::printf("Name is \"%s\"\n", kName.live().c_str());
     return 0;
 }

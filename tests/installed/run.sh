@@ -14,9 +14,9 @@ for command in qemu-arm:qemu-user pkg-config:pkg-config dpkg-deb:dpkg apt-get:ap
   command -v "${command%:*}" >/dev/null || { echo "skipped: needs the package ${command#*:}"; exit 77; }
 done
 case $architecture in
-  amd64) emulator=qemu-x86_64 ;;
-  armhf) emulator='qemu-arm -cpu cortex-a7' ;;
-  armel) emulator='qemu-arm -cpu arm926' ;;
+  amd64) emulator=qemu-x86_64 multiarch=x86_64-linux-gnu ;;
+  armhf) emulator='qemu-arm -cpu cortex-a7' multiarch=arm-linux-gnueabihf ;;
+  armel) emulator='qemu-arm -cpu arm926' multiarch=arm-linux-gnueabi ;;
 esac
 
 fail() { echo "FAILED: $*" >&2; exit 1; }
@@ -41,22 +41,37 @@ fresh_root tree
 DESTDIR=$work/tree "$cmake" --install "$build" --prefix /usr/local >/dev/null
 try_script tree
 
-# Programs that know the installed tree only, found by CMake and by pkg-config.
+# Programs that know the installed tree only, found by CMake and by pkg-config. The standards that they need come
+# with the targets. Only a device's processor sees addresses set, unless --apply is said.
 rm -rf "$work/programs"
-"$cmake" -G Ninja -S "$project/examples/programs" -B "$work/programs" \
+"$cmake" -G Ninja -S "$project/examples/programs" -B "$work/programs" -DCMAKE_CXX_STANDARD=14 \
   -DCMAKE_PREFIX_PATH="$work/tree/usr/local" "$@" >/dev/null
 "$cmake" --build "$work/programs" >/dev/null
 answer=$(inside tree '
   printf "TLX_Name=\"Nord 1\"\n" >/parameter.ini
-  $run $programs/boot 2>/dev/null
+  $run $programs/boot 2>&1 | grep -o "VarStaticIP:\|boot: .*" | sort -u
+  $run $programs/boot --apply 2>&1 | grep -o "VarStaticIP:\|boot: .*" | sort -u
   printf "TLX_Name\nTLX_Language=2\nTLX_Language,10,*\nnonsense\n" | $run $programs/entry
-  $run $programs/station "Nord 2"')
-[ "$answer" = '"Nord 1"
+  $run $programs/evaluate 6,7,*
+  $run $programs/station "Nord 2"
+  $run $programs/station "A name that is longer than the forty characters that it may have" 2>&1 || echo refused')
+case $architecture in
+  amd64) boots='boot: no device, so no address and no clock is set; boot --apply does
+VarStaticIP:' ;;
+  *) boots='VarStaticIP:
+VarStaticIP:' ;;
+esac
+[ "$answer" = "$boots"'
+"Nord 1"
 
 20.000000
 << SYNTAX ERROR >>
-Name (id 9000) was "Nord 1"
-Name (id 9000) is "Nord 2"' ] || fail "programs: $answer"
+42.000000
+Name was "Nord 1"
+Name is "Nord 2"
+station: TEXT TOO LONG, up to 40 characters
+Name was "Nord 2"
+refused' ] || fail "programs: $answer"
 
 flags=$(PKG_CONFIG_LIBDIR=$work/tree/usr/local/lib/pkgconfig pkg-config --cflags --libs talux_lua)
 # shellcheck disable=SC2086 # flags are words
@@ -64,7 +79,24 @@ flags=$(PKG_CONFIG_LIBDIR=$work/tree/usr/local/lib/pkgconfig pkg-config --cflags
 answer=$(inside tree 'echo "6,7,*" | $run $programs/by-hand')
 [ "$answer" = 42.000000 ] || fail "entry built with pkg-config: $answer"
 
-# The packages: the first one alone is enough for scripts.
+# What the page tells of programs for a device.
+if [ "$architecture" != amd64 ]; then
+  for way in CMake pkg-config; do
+    rm -rf "$work/programs"
+    mkdir "$work/programs"
+    cp "$project"/examples/programs/* "$project"/examples/e*.c* "$work/programs"
+    awk -v way="$way" '/^\*\*With / { on = index($0, way) } /^```$/ { on = block = 0 } block; on && /^```sh/ { block = 1 }' \
+      "$project/docs/linking.md" | sed "s,arm-linux-gnueabihf,$multiarch,; s,^tree=.*,tree=$work/tree/usr/local," \
+      >"$work/block.sh"
+    (cd "$work/programs" && sed -i 's,\.\./e,e,' CMakeLists.txt && sh -eu "$work/block.sh" >/dev/null)
+    answer=$(inside tree '$run -E LD_LIBRARY_PATH=/usr/local/lib $programs/build/station Süd')
+    [ "$answer" = 'Name was ""
+Name is "Süd"' ] || fail "station by $way as docs/linking.md tells: $answer"
+  done
+fi
+
+# The packages: the first one alone is enough for scripts, and both hold what the tree holds, in the folders of
+# their architecture, so that those of several go together.
 rm -f "$work"/*.deb
 cpack=$(dirname "$cmake")/cpack
 "$cpack" --config "$build/CPackConfig.cmake" -B "$work" >/dev/null
@@ -73,7 +105,9 @@ dpkg-deb -x "$work"/talux-lua_*_"$architecture".deb "$work/package"
 try_script package
 dpkg-deb -x "$work"/talux-lua-dev_*_"$architecture".deb "$work/package"
 (cd "$work/tree/usr/local" && find . ! -type d | LC_ALL=C sort) >"$work/tree.list"
-(cd "$work/package/usr" && find include/talux_lua lib/cmake lib/pkgconfig lib/lua lib/lib_talux* share/lua \
-  share/doc/talux-lua-dev ! -type d |
-  sed 's|^|./|' | LC_ALL=C sort) | diff "$work/tree.list" - || fail 'packages and installed tree differ'
+for package in "$work"/*.deb; do
+  [ "$(dpkg-deb -f "$package" Multi-Arch)" = same ] || fail "$package is not for several architectures"
+  dpkg-deb --fsys-tarfile "$package" | tar -t
+done | sed -n "s|^\./usr/lib/$multiarch/\(.*[^/]\)$|./lib/\1|p; s|^\./usr/\(include/.*[^/]\|share/lua/.*[^/]\|share/doc/talux-lua-dev/\(docs/\|examples/\|README\).*[^/]\)$|./\1|p" |
+  LC_ALL=C sort | diff "$work/tree.list" - || fail 'packages and installed tree differ'
 echo 'installed tree, programs and packages work'

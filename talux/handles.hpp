@@ -1,0 +1,330 @@
+// Handles of parameters: found by name while compiling, no more than an id at run time.
+#ifndef TALUX_HANDLES_HPP
+#define TALUX_HANDLES_HPP
+
+#include <array>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <span>
+#include <utility>
+
+#include "ParamSystem/TALUX_Var.h"
+#include "talux/lookup.hpp"
+
+namespace talux {
+
+namespace detail {
+
+// The accessors of one kind and the type that they take.
+template <table::Kind>
+struct Accessors;
+
+#define TALUX_ACCESSORS(kind, Name, Type)                                                                    \
+    template <>                                                                                              \
+    struct Accessors<table::Kind::kind> {                                                                    \
+        using Raw = Type;                                                                                    \
+        static constexpr auto getLive = VarGetGlobal##Name##Value;                                           \
+        static constexpr auto setLive = VarSetGlobal##Name##Value;                                           \
+        static constexpr auto getStaged = VarGet##Name##Value;                                               \
+        static constexpr auto setStaged = VarSet##Name##Value;                                               \
+    };
+TALUX_ACCESSORS(f32, Float, float)
+TALUX_ACCESSORS(f64, Double, double)
+TALUX_ACCESSORS(i32, Long, VarLong)
+TALUX_ACCESSORS(i16, Int, short)
+TALUX_ACCESSORS(flag, Bool, char)
+TALUX_ACCESSORS(choice, Enum, short)
+TALUX_ACCESSORS(text, Text, char)
+TALUX_ACCESSORS(identifier, Id, char)
+TALUX_ACCESSORS(address, Ip, char)
+
+#undef TALUX_ACCESSORS
+
+// The accessors of runs; flags have none here, since a byte of the store need not be 0 or 1.
+template <class Value>
+struct RunAccessors;
+template <>
+struct RunAccessors<float> {
+    static constexpr auto get = VarGetGlobalFloatValueArray, set = VarSetGlobalFloatValueArray;
+};
+template <>
+struct RunAccessors<double> {
+    static constexpr auto get = VarGetGlobalDoubleValueArray, set = VarSetGlobalDoubleValueArray;
+};
+template <>
+struct RunAccessors<short> {
+    static constexpr auto get = VarGetGlobalIntValueArray, set = VarSetGlobalIntValueArray;
+};
+template <>
+struct RunAccessors<VarLong> {
+    static constexpr auto get = VarGetGlobalLongValueArray, set = VarSetGlobalLongValueArray;
+};
+
+template <class Value>
+void getRun(int id, Value* to, std::size_t count) {
+    RunAccessors<Value>::get(id, to, count);
+}
+template <class Value>
+void setRun(int id, const Value* from, std::size_t count) {
+    RunAccessors<Value>::set(id, const_cast<Value*>(from), count);
+}
+
+template <class Value>
+using AccessorsOf = Accessors<table::kindOf<Value>()>;
+
+template <class Value>
+inline constexpr bool kIsText = table::kTextKind<Value> != table::Kind::command;
+
+// Reads a value by one of the accessors of its kind.
+template <class Value, class Get>
+Value read(Get get, int id) {
+    if constexpr (kIsText<Value>) {
+        Value text;
+        get(id, text.data());
+        return text;
+    } else if constexpr (std::is_same_v<Value, bool>) {
+        char byte;
+        get(id, &byte);
+        return byte != 0;
+    } else {
+        typename AccessorsOf<Value>::Raw raw;
+        get(id, &raw);
+        return static_cast<Value>(raw);
+    }
+}
+
+template <class Value, class Set>
+void write(Set set, int id, const Value& value) {
+    if constexpr (kIsText<Value>)
+        set(id, Value(value).data());
+    else
+        set(id, static_cast<typename AccessorsOf<Value>::Raw>(value));
+}
+
+// What a write may set.
+struct Limits {
+    double min, max;
+};
+
+// A float that is the nearest one to its limit is inside, though the limit itself may have no float.
+constexpr Refusal checkFloat(double value, Limits limits) {
+    const double least = static_cast<float>(limits.min), most = static_cast<float>(limits.max);
+    if (value != value) return Reason::notANumber;
+    if (value < limits.min && value < least) return {Reason::tooLow, limits.min, limits.max};
+    if (value > limits.max && value > most) return {Reason::tooHigh, limits.min, limits.max};
+    return {};
+}
+
+template <class Integer>
+constexpr Refusal checkInteger(Integer value, Limits limits) {
+    if (std::cmp_less(value, static_cast<long long>(limits.min)))
+        return {Reason::tooLow, limits.min, limits.max};
+    if (std::cmp_greater(value, static_cast<long long>(limits.max)))
+        return {Reason::tooHigh, limits.min, limits.max};
+    return {};
+}
+
+// Whether a setting of this type takes what is given without a change of its own.
+template <class Value, class Given>
+constexpr Refusal check(Given given, Limits limits) {
+    if constexpr (std::is_enum_v<Value>) {
+        static_assert(std::is_same_v<Given, Value>, "the setting takes one of its choices");
+        return checkInteger(static_cast<short>(given), limits);
+    } else if constexpr (std::is_same_v<Value, bool>) {
+        static_assert(std::is_same_v<Given, bool>, "the setting takes true or false");
+        return {};
+    } else if constexpr (std::is_floating_point_v<Value>) {
+        static_assert(std::is_arithmetic_v<Given> && !std::is_same_v<Given, bool>,
+                      "the setting takes a number");
+        return checkFloat(static_cast<double>(given), limits);
+    } else {
+        static_assert(std::is_integral_v<Given> && !std::is_same_v<Given, bool>,
+                      "the setting takes a whole number");
+        return checkInteger(given, limits);
+    }
+}
+
+// Copies a text of at most `most` characters of UTF-8.
+template <class Value>
+Refusal copyText(std::string_view from, double most, Value& to) {
+    int characters = 0;
+    for (const char c : from) {
+        if (c == '\0') return Reason::holdsNul;
+        if ((static_cast<unsigned char>(c) & 0xC0U) != 0x80U) ++characters;
+    }
+    if (characters > most || from.size() > Value::kRoom) return {Reason::tooLong, 0.0, most};
+    std::memcpy(to.data(), from.data(), from.size());
+    to.data()[from.size()] = '\0';
+    return {};
+}
+
+// A mistake of the program, like an id of the wrong kind.
+[[noreturn, gnu::cold, gnu::noinline]] inline void stop(const char* why) {
+    std::fputs(why, stderr);
+    std::abort();
+}
+
+// Where the compiler sees such a mistake, it does not compile.
+[[gnu::error("the run is longer than the values that follow one another")]] void runIsTooLong();
+
+inline void expectRun(std::size_t count, int most) {
+    const bool tooLong = count > static_cast<std::size_t>(most);
+    if (__builtin_constant_p(tooLong) && tooLong) runIsTooLong();
+    if (tooLong) stop("talux: the run is longer than the values that follow one another\n");
+}
+
+} // namespace detail
+
+// A number of measured values that follow one another, as one.
+template <class Element, std::size_t count>
+class Run {
+public:
+    using Value = std::array<Element, count>;
+
+    constexpr explicit Run(int firstId) : first(firstId) {}
+
+    [[nodiscard]] constexpr int id() const { return first; }
+
+    [[nodiscard]] Value get() const {
+        Value values;
+        detail::getRun(first, values.data(), count);
+        return values;
+    }
+    void set(const Value& values) const { detail::setRun(first, values.data(), count); }
+
+private:
+    int first;
+};
+
+// A run-time value. It is live at once and has no limits; a text that does not fit is refused.
+template <class Measure>
+class Measured {
+public:
+    using Value = Measure;
+
+    // Of an indexed parameter the first element.
+    consteval Measured(const char* parameterName) : Measured(table::resolve<Value>(parameterName, true)) {}
+    consteval Measured(const char* parameterName, int elementIndex) : Measured(parameterName) {
+        table::expectIndex(table::find(parameterName), elementIndex);
+        *this = at(elementIndex);
+    }
+
+    [[nodiscard]] constexpr int id() const { return first; }
+
+    [[nodiscard]] Value get() const {
+        return detail::read<Value>(detail::AccessorsOf<Value>::getLive, first);
+    }
+    void set(Value value) const requires(!detail::kIsText<Value>) {
+        detail::write(detail::AccessorsOf<Value>::setLive, first, value);
+    }
+    Refusal set(std::string_view text) const requires(detail::kIsText<Value>) {
+        Value value;
+        const Refusal refusal = detail::copyText(text, length, value);
+        if (!refusal) detail::write(detail::AccessorsOf<Value>::setLive, first, value);
+        return refusal;
+    }
+
+    // An element of an indexed parameter, counted from 1.
+    [[nodiscard]] constexpr Measured at(int elementIndex) const {
+        if (elementIndex < 1 || elementIndex > elements)
+            detail::stop("talux: the index is outside its range\n");
+        Measured element = *this;
+        element.first += elementIndex - 1;
+        element.following -= elementIndex - 1;
+        element.elements = 0;
+        return element;
+    }
+
+    // This value and those that follow it, in one piece: elements, or parameters with consecutive ids.
+    void get_run(std::span<Value> values) const {
+        detail::expectRun(values.size(), following);
+        detail::getRun(first, values.data(), values.size());
+    }
+    void set_run(std::span<const Value> values) const {
+        detail::expectRun(values.size(), following);
+        detail::setRun(first, values.data(), values.size());
+    }
+    template <std::size_t count>
+    [[nodiscard]] consteval Run<Value, count> run() const {
+        if (count < 1 || count > static_cast<std::size_t>(following)) table::the_run_is_too_long();
+        return Run<Value, count>(first);
+    }
+
+private:
+    int first;
+    int following; // values that follow one another, this one included
+    int elements;
+    int length; // longest text in characters
+
+    constexpr explicit Measured(const table::Row& row)
+        : first(row.id), following(row.run), elements(row.elements),
+          length(detail::kIsText<Value> ? static_cast<int>(row.max) : 0) {}
+};
+
+// A setting: staged in the working copy, live with the commit of the store.
+template <class Kept>
+class Setting {
+public:
+    using Value = Kept;
+
+    consteval Setting(const char* parameterName) : Setting(table::resolve<Value>(parameterName, false)) {}
+
+    [[nodiscard]] constexpr int id() const { return place; }
+
+    // What the device works with, and what the next commit makes of it.
+    [[nodiscard]] Value live() const {
+        return detail::read<Value>(detail::AccessorsOf<Value>::getLive, place);
+    }
+    [[nodiscard]] Value staged() const {
+        return detail::read<Value>(detail::AccessorsOf<Value>::getStaged, place);
+    }
+
+    // Nothing is stored when the value is refused: outside the range or the choices, a text that is too long,
+    // a parameter that nobody changes.
+    template <class Given>
+    Refusal stage(Given value) const requires(!detail::kIsText<Value>) {
+        const Refusal refusal = readOnly ? Refusal(Reason::readOnly) : detail::check<Value>(value, limits);
+        if (!refusal) detail::write(detail::AccessorsOf<Value>::setStaged, place, static_cast<Value>(value));
+        return refusal;
+    }
+    Refusal stage(std::string_view text) const requires(detail::kIsText<Value>) {
+        Value value;
+        const Refusal refusal =
+            readOnly ? Refusal(Reason::readOnly) : detail::copyText(text, limits.max, value);
+        if (!refusal) detail::write(detail::AccessorsOf<Value>::setStaged, place, value);
+        return refusal;
+    }
+
+private:
+    int place;
+    bool readOnly;
+    detail::Limits limits;
+
+    constexpr explicit Setting(const table::Row& row)
+        : place(row.id), readOnly(row.use == table::Use::status), limits{row.min, row.max} {}
+};
+
+// One of the three records.
+template <class Layout>
+class Record {
+public:
+    using Value = Layout;
+    static_assert(kRecordId<Layout> != 0, "no record has this layout");
+
+    [[nodiscard]] static constexpr int id() { return kRecordId<Layout>; }
+
+    [[nodiscard]] Value get() const {
+        Value record;
+        VarGetGlobalStructValue(id(), &record, sizeof record);
+        return record;
+    }
+    void set(const Value& record) const {
+        VarSetGlobalStructValue(id(), const_cast<Value*>(&record), sizeof record);
+    }
+};
+
+} // namespace talux
+
+#endif

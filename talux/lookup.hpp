@@ -1,0 +1,117 @@
+// Finds parameters by name while compiling. A handle that cannot be made does not compile, and the functions
+// named below say why; the compiler names the parameter with them.
+#ifndef TALUX_LOOKUP_HPP
+#define TALUX_LOOKUP_HPP
+
+#include <cstdint>
+#include <iterator>
+#include <string_view>
+#include <type_traits>
+
+#include "talux/records.hpp"
+#include "talux/values.hpp"
+
+namespace talux::table {
+
+// None of these can be called while compiling.
+void no_parameter_has_this_name();
+void it_is_a_setting_take_talux_Setting();
+void it_is_measured_take_talux_Measured();
+void it_is_a_record_take_talux_Record();
+void it_is_the_clock_of_the_system();
+void it_is_a_command_without_a_value();
+void its_values_are_float();
+void its_values_are_double();
+void its_values_are_std_int32_t();
+void its_values_are_short();
+void its_values_are_bool();
+void its_values_are_choices();
+void its_values_are_talux_Text();
+void its_values_are_talux_Identifier();
+void its_values_are_talux_Address();
+void its_choices_have_another_enum();
+void it_has_no_index();
+void the_index_is_outside_its_range();
+void the_run_is_too_long();
+
+constexpr const Row& find(std::string_view name) {
+    std::size_t first = 0, last = std::size(kRows);
+    while (first < last) {
+        const std::size_t middle = (first + last) / 2;
+        if (name == kRows[middle].name) return kRows[middle];
+        if (name < kRows[middle].name)
+            last = middle;
+        else
+            first = middle + 1;
+    }
+    no_parameter_has_this_name();
+    return kRows[0];
+}
+
+template <class>
+inline constexpr Kind kTextKind = Kind::command;
+template <Kind kind>
+inline constexpr Kind kTextKind<StoredText<kind>> = kind;
+
+// The kind of parameters with values of this type.
+template <class Value>
+constexpr Kind kindOf() {
+    if constexpr (std::is_same_v<Value, float>) return Kind::f32;
+    if constexpr (std::is_same_v<Value, double>) return Kind::f64;
+    if constexpr (std::is_same_v<Value, bool>) return Kind::flag;
+    if constexpr (std::is_same_v<Value, std::int32_t> || std::is_same_v<Value, VarLong>) return Kind::i32;
+    if constexpr (std::is_same_v<Value, short>) return Kind::i16;
+    if constexpr (std::is_same_v<Value, Choice> || kChoices<Value> != 0) return Kind::choice;
+    return kTextKind<Value>;
+}
+
+constexpr void expectKind(const Row& row, Kind kind) {
+    if (row.kind == kind) return;
+    switch (row.kind) {
+    case Kind::f32:
+        return its_values_are_float();
+    case Kind::f64:
+        return its_values_are_double();
+    case Kind::i32:
+        return its_values_are_std_int32_t();
+    case Kind::i16:
+        return its_values_are_short();
+    case Kind::flag:
+        return its_values_are_bool();
+    case Kind::choice:
+        return its_values_are_choices();
+    case Kind::text:
+        return its_values_are_talux_Text();
+    case Kind::identifier:
+        return its_values_are_talux_Identifier();
+    case Kind::address:
+        return its_values_are_talux_Address();
+    case Kind::record:
+        return it_is_a_record_take_talux_Record();
+    case Kind::clock:
+        return it_is_the_clock_of_the_system();
+    case Kind::command:
+        return it_is_a_command_without_a_value();
+    }
+}
+
+// The row of a measured value or a setting of this type.
+template <class Value>
+constexpr const Row& resolve(std::string_view name, bool measured) {
+    static_assert(kindOf<Value>() != Kind::command, "no parameter has values of this type");
+    const Row& row = find(name);
+    expectKind(row, kindOf<Value>());
+    if (measured && row.use != Use::measured) it_is_a_setting_take_talux_Setting();
+    if (!measured && row.use == Use::measured) it_is_measured_take_talux_Measured();
+    if (kChoices<Value> != 0 && kChoices<Value> != row.choices) its_choices_have_another_enum();
+    return row;
+}
+
+constexpr void expectIndex(const Row& row, int index) {
+    if (row.elements == 0) it_has_no_index();
+    if (index < 1 || index > row.elements) the_index_is_outside_its_range();
+}
+
+} // namespace talux::table
+
+#endif

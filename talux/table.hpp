@@ -1,0 +1,45 @@
+// What the compiler knows of a parameter. The rows stand in the generated talux/parameters.hpp.
+#ifndef TALUX_TABLE_HPP
+#define TALUX_TABLE_HPP
+
+#include "ParamSystem/TALUX_Params.h"
+
+namespace talux::table {
+
+// What a value is to a C++ program.
+enum class Kind : unsigned char {
+    f32,
+    f64,
+    i32,
+    i16,
+    flag,
+    choice, // 16 bits, counted from 1
+    text,
+    identifier,
+    address,
+    clock, // of the system: nothing of it is in the store
+    record,
+    command, // no value at all
+};
+
+enum class Use : unsigned char {
+    measured, // a run-time value: written live by whoever measures it
+    setting,  // staged in the working copy, live with the commit
+    status,   // stored like a setting, but nobody changes it
+};
+
+struct Row {
+    const char* name;
+    int id; // of an indexed parameter that of its first element
+    Kind kind;
+    Use use;
+    short run = 1;       // measured values of the kind that follow one another from here on
+    short elements = 0;  // of an indexed parameter
+    short choices = 0;   // which list of choices
+    double min = kNoMin; // what may be staged; of a text 0 and its longest length in characters
+    double max = kNoMax;
+};
+
+} // namespace talux::table
+
+#endif

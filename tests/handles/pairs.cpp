@@ -1,0 +1,64 @@
+// Each handle beside what a program would write without it; both have to become the same instructions.
+#include <talux/talux.hpp>
+
+namespace {
+
+constexpr talux::Measured<float> u0{"U0_prim"};
+constexpr talux::Measured<double> fifth{"vMWR", 5};
+constexpr talux::Setting<float> threshold{"Uearth"};
+constexpr talux::Setting<talux::choice::Language> language{"Language"};
+constexpr talux::Record<talux::MessRecord01> record;
+
+constexpr int kU0 = 2003, kFifth = 1004, kThreshold = 2148, kLanguage = 10000;
+
+} // namespace
+
+extern "C" {
+
+float get_handle() {
+    return u0.get();
+}
+float get_plain() {
+    float value;
+    VarGetGlobalFloatValue(kU0, &value);
+    return value;
+}
+
+void set_handle(double value) {
+    fifth.set(value);
+}
+void set_plain(double value) {
+    VarSetGlobalDoubleValue(kFifth, value);
+}
+
+void run_handle(const float* values) {
+    u0.set_run(std::span(values, 3));
+}
+void run_plain(float* values) {
+    VarSetGlobalFloatValueArray(kU0, values, 3);
+}
+
+float staged_handle() {
+    return threshold.staged();
+}
+float staged_plain() {
+    float value;
+    VarGetFloatValue(kThreshold, &value);
+    return value;
+}
+
+bool stage_handle() {
+    return language.stage(talux::choice::Language::kEnglish) || threshold.stage(95);
+}
+bool stage_plain() {
+    VarSetEnumValue(kLanguage, 2);
+    return true;
+}
+
+void record_handle(talux::MessRecord01& value) {
+    record.set(value);
+}
+void record_plain(talux::MessRecord01* value) {
+    VarSetGlobalStructValue(kFirstStruct, value, 236);
+}
+}

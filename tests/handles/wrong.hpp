@@ -1,0 +1,21 @@
+// Handles that must not compile. Behind each: what the compiler has to say of it besides the parameter's
+// name.
+#include <talux/talux.hpp>
+
+using namespace talux;
+
+constexpr Measured<float> case1{"U0_prin"};            // no_parameter_has_this_name
+constexpr Measured<float> case2{"U0_PRIM"};            // no_parameter_has_this_name
+constexpr Measured<double> case3{"U0_prim"};           // its_values_are_float
+constexpr Measured<short> case4{"channel"};            // its_values_are_std_int32_t
+constexpr Measured<float> case5{"Uearth"};             // it_is_a_setting_take_talux_Setting
+constexpr Setting<float> case6{"U0_prim"};             // it_is_measured_take_talux_Measured
+constexpr Measured<double> case7{"vMWR", 97};          // the_index_is_outside_its_range
+constexpr Measured<double> case8{"vMWR", 0};           // the_index_is_outside_its_range
+constexpr Measured<float> case9{"U0_prim", 1};         // it_has_no_index
+constexpr Setting<Choice> case10{"qui_active"};        // its_values_are_bool
+constexpr Setting<choice::Parity> case11{"Baudrate1"}; // its_choices_have_another_enum
+constexpr Setting<Text> case12{"ETH0_IP"};             // its_values_are_talux_Address
+constexpr Setting<Text> case13{"Date"};                // it_is_the_clock_of_the_system
+constexpr Measured<float> case14{"VarSaveParams"};     // it_is_a_command_without_a_value
+constexpr Measured<float> case15{"MessRecord01"};      // it_is_a_record_take_talux_Record

@@ -1,0 +1,146 @@
+// Typed handles beside the language: what one takes the other takes, and both find it in the same place.
+#include "src/talux_interpreter.h"
+#include "talux/talux.hpp"
+
+#include <cmath>
+#include <gmock/gmock.h>
+#include <random>
+#include <string>
+#include <tuple>
+#include <vector>
+
+using namespace talux;
+using namespace std::literals;
+
+namespace {
+
+// Answer of a line, or its error.
+std::string ask(std::string line) {
+    char answer[TALUX_ANSWER_SIZE] = "", error[128], end[] = "";
+    if (talux_interpreter_ProcessLine(line.data(), nullptr, answer, end) == 1) return answer;
+    talux_interpreter_GetError(error, sizeof error);
+    return error;
+}
+
+std::string show(double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.10g", value);
+    return text;
+}
+
+Refusal checkAs(table::Kind kind, double value, detail::Limits limits) {
+    if (kind == table::Kind::f32) return detail::check<float>(value, limits);
+    if (kind == table::Kind::i32) return detail::check<std::int32_t>(static_cast<long long>(value), limits);
+    return detail::check<Choice>(static_cast<Choice>(value), limits);
+}
+
+class Handles : public testing::Test {
+protected:
+    Store store;
+
+    Handles() {
+        VarClean();
+        store.stage_defaults();
+        store.commit();
+    }
+};
+
+// Every setting, around its limits. The language takes a choice below 1 where no limit says otherwise, and
+// knows limits that the store cannot: between two floats.
+TEST_F(Handles, TakeWhatTheLanguageTakes) {
+    int compared = 0;
+    for (const table::Row& row : table::kRows) {
+        if (row.use != table::Use::setting || row.kind == table::Kind::flag) continue;
+        if (row.kind != table::Kind::f32 && row.kind != table::Kind::i32 && row.kind != table::Kind::choice)
+            continue;
+        for (const double limit : {row.min, row.max})
+            for (const double by : {-1000.0, -1.0, -0.001, 0.0, 0.001, 1.0, 1000.0}) {
+                const double value = limit + by;
+                if (row.kind != table::Kind::f32 && value != std::floor(value)) continue;
+                if (row.kind == table::Kind::choice && value < 1.0) continue;
+                if (by != 0.0 && static_cast<float>(value) == static_cast<float>(limit)) continue;
+                const std::string answer = ask("TLX_"s + row.name + "=" + show(value));
+                const Reason reason = checkAs(row.kind, value, {row.min, row.max}).reason();
+                const auto* const expected = reason == Reason::none     ? ""
+                                             : reason == Reason::tooLow ? "<< VALUE TOO LOW >>"
+                                                                        : "<< VALUE TOO HIGH >>";
+                EXPECT_EQ(answer, expected) << row.name << " = " << show(value);
+                ++compared;
+            }
+    }
+    EXPECT_GT(compared, 3000);
+}
+
+TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
+    constexpr Setting<float> threshold{"Uearth"}, ratio{"knu1"};
+    constexpr Setting<std::int32_t> channel{"channel"}, limit{"BAF_cnt_val_dT1"};
+    constexpr Setting<bool> active{"qui_active"};
+    constexpr Setting<choice::Language> language{"Language"};
+    constexpr Setting<Choice> skew{"skew_type"};
+    constexpr Setting<Text> name{"Name"}, version{"FW_version"};
+    constexpr Setting<Identifier> mark{"Kenn"};
+    constexpr Setting<Address> address{"ETH0_IP"};
+
+    EXPECT_FALSE(threshold.stage(35) || ratio.stage(0.1f) || channel.stage(7) || active.stage(true) ||
+                 language.stage(choice::Language::kGerman) || skew.stage(Choice{2}) ||
+                 name.stage("Süd \"1\"") || mark.stage("B:") || address.stage("10.0.0.7"));
+    const auto read = [] {
+        return ask("TLX_Uearth") + ask("TLX_channel") + ask("TLX_qui_active") + ask("TLX_Language") +
+               ask("TLX_skew_type") + ask("TLX_Name") + ask("TLX_Kenn") + ask("TLX_ETH0_IP");
+    };
+    const std::string staged = "35.000000711.0000002.000000\"Süd \"1\"\"\"B:\"\"10.0.0.7\"";
+    EXPECT_EQ(read(), staged);
+    EXPECT_EQ(name.staged(), "Süd \"1\"");
+    EXPECT_EQ(name.live(), "DEF-NAME");
+
+    std::vector<std::string> texts;
+    for (const Refusal& refusal :
+         {threshold.stage(95), ratio.stage(0.09), limit.stage(-2LL), limit.stage(1ULL << 63),
+          threshold.stage(std::nan("")), skew.stage(Choice{0}), name.stage(std::string(41, 'x')),
+          name.stage("a\0b"sv), mark.stage("B: A"), version.stage("2")})
+        texts.emplace_back(refusal.text().view());
+    EXPECT_THAT(texts, testing::ElementsAre("VALUE TOO HIGH, 1 to 90", "VALUE TOO LOW, 0.1 to 90000",
+                                            "VALUE TOO LOW, -1 to 100000", "VALUE TOO HIGH, -1 to 100000",
+                                            "NOT A NUMBER", "VALUE TOO LOW, 1 to 4",
+                                            "TEXT TOO LONG, up to 40 characters", "TEXT WITH A NUL",
+                                            "TEXT TOO LONG, up to 3 characters", "VARIABLE IS READ ONLY"));
+    EXPECT_EQ(read(), staged);
+
+    store.commit();
+    EXPECT_EQ(threshold.live(), 35.0f);
+    EXPECT_EQ(name.live(), "Süd \"1\"");
+    EXPECT_EQ(language.live(), choice::Language::kGerman);
+}
+
+TEST_F(Handles, MeasuredValuesAreLiveAtOnce) {
+    constexpr Measured<float> phases{"U1_prim"};
+    constexpr Measured<double> word{"vMWR"}, fifth{"vMWR", 5};
+    constexpr Measured<std::int32_t> inputs{"vBE"};
+    constexpr Measured<bool> changed{"ParamChanged"};
+    constexpr Measured<Text> file{"SampleFile"};
+    constexpr Record<MessRecord02> record;
+
+    phases.set_run(std::array{11.5f, 11.25f, 11.75f});
+    fifth.set(0.5);
+    word.at(96).set(9.0);
+    inputs.set_run(std::vector<std::int32_t>(96, 3));
+    changed.set(true);
+    EXPECT_FALSE(file.set("/tmp/samples"));
+    EXPECT_EQ(file.set(std::string(128, 'x')).reason(), Reason::tooLong);
+    MessRecord02 values{};
+    values.y_BAF_04 = -4;
+    record.set(values);
+
+    EXPECT_EQ(ask("TLX_U2_prim") + ask("TLX_vMWR 5") + ask("TLX_vMWR 96 -p") + ask("TLX_vBE 96"),
+              "11.2500000.500000\n9.000000\n3\n");
+    EXPECT_EQ(ask("TLX_ParamChanged") + ask("TLX_SampleFile"), "1\"/tmp/samples\"");
+    EXPECT_THAT(ask("TLX_MessRecord02"), testing::EndsWith("TLX_MessRecord02.y_BAF_04 = -4\n"));
+    EXPECT_EQ((phases.run<3>().get()), (std::array{11.5f, 11.25f, 11.75f}));
+    EXPECT_EQ(record.get().y_BAF_04, -4);
+    std::array<float, 2> two{};
+    phases.get_run(two);
+    EXPECT_EQ(two[1], 11.25f);
+    EXPECT_DEATH(std::ignore = word.at(97), "the index is outside its range");
+}
+
+} // namespace
