@@ -25,9 +25,10 @@ programs read measured values and read and write the settings of the controller.
 set(CPACK_DEBIAN_DEB_DEVELOPMENT_PACKAGE_NAME talux-lua-dev)
 set(CPACK_DEBIAN_DEB_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEB_DEVELOPMENT_PACKAGE_DEPENDS "talux-lua (= ${PROJECT_VERSION})")
-set(CPACK_COMPONENT_DEB_DEVELOPMENT_DESCRIPTION "Relay controller parameters, headers
+set(CPACK_COMPONENT_DEB_DEVELOPMENT_DESCRIPTION "Relay controller parameters, headers and documentation
 What it takes to build C and C++ programs against lib_talux_lua: headers, and
-the files by which CMake and pkg-config find the library.")
+the files by which CMake and pkg-config find the library; pages about
+commissioning, scripts and every parameter, with one page to search them all.")
 
 # What every package tells of itself; the same bytes on every machine.
 find_program(GZIP_PROGRAM gzip REQUIRED)
