@@ -11,6 +11,7 @@
 namespace talux {
 
 extern const int kParameters; // rows between the sentinels
+extern const std::span<const stParamFamily> kFamilies;
 extern const std::span<const Setting> kSettings;
 extern const NameIndex kNameIndex;
 extern const NameIndex kSymbolIndex;

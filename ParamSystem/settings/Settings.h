@@ -5,37 +5,37 @@
 #include <string_view>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/dictionary/IdOf.h"
 
 namespace talux::settings {
 
-// Parameter ids.
 enum Setting : int {
-    kChannel = 6029,
-    kEth1Active = 8008,
-    kWlan0Active = 8009,
-    kNtpRtc = 8035,
-    kDcf77Active = 8038,
-    kEssid = 9022,
-    kKey = 9023,
-    kTimeZone = 9024,
-    kWlan0Type = 10011,
-    kRate = 10012,
-    kT104Ethernet = 10040,
-    kDns = 16000,
-    kNtp1 = 16007,
-    kNtp2 = 16008,
-    kT104Address1 = 16010, // the next three aliases follow at steps of 4
-    kT104Netmask1 = 16011,
-    kT104Gateway1 = 16012,
-    kEth0Address = 16029,
-    kEth1Address = 16030,
-    kWlan0Address = 16031,
-    kEth0Netmask = 16032,
-    kEth1Netmask = 16033,
-    kWlan0Netmask = 16034,
-    kEth0Gateway = 16035,
-    kEth1Gateway = 16036,
-    kWlan0Gateway = 16037,
+    kChannel = idOf("channel"),
+    kEth1Active = idOf("eth1_active"),
+    kWlan0Active = idOf("wlan0_active"),
+    kNtpRtc = idOf("NTP_RTC"),
+    kDcf77Active = idOf("DCF77_activ"),
+    kEssid = idOf("essid"),
+    kKey = idOf("key"),
+    kTimeZone = idOf("TIMEZONE"),
+    kWlan0Type = idOf("VarSetWLAN0TypeDev"),
+    kRate = idOf("rate"),
+    kT104Ethernet = idOf("T104_ethernet"),
+    kDns = idOf("DNS"),
+    kNtp1 = idOf("NTP1"),
+    kNtp2 = idOf("NTP2"),
+    kT104Address1 = idOf("T104_ETH_IP_1"), // of the first alias
+    kT104Netmask1 = idOf("T104_ETH_MA_1"),
+    kT104Gateway1 = idOf("T104_ETH_GW_1"),
+    kEth0Address = idOf("ETH0_IP"),
+    kEth1Address = idOf("ETH1_IP"),
+    kWlan0Address = idOf("WLAN0_IP"),
+    kEth0Netmask = idOf("ETH0_MASK"),
+    kEth1Netmask = idOf("ETH1_MASK"),
+    kWlan0Netmask = idOf("WLAN0_MASK"),
+    kEth0Gateway = idOf("ETH0_GATEWAY"),
+    kEth1Gateway = idOf("ETH1_GATEWAY"),
+    kWlan0Gateway = idOf("WLAN0_GATEWAY"),
 };
 
 inline constexpr std::string_view kNoAddress = "0.0.0.0";

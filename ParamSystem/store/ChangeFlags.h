@@ -3,15 +3,15 @@
 #ifndef TALUX_STORE_CHANGEFLAGS_H
 #define TALUX_STORE_CHANGEFLAGS_H
 
-#include "ParamSystem/TALUX_Var.h"
-
 namespace talux {
 
-enum class ChangeFlag : int { param = 8000, ip = 8001, secParam = 8002, stm = 8004 }; // parameter ids
+enum class ChangeFlag { param, ip, secParam, stm };
+inline constexpr int kChangeFlagCount = 4;
 
-inline void raise(ChangeFlag flag) {
-    VarSetGlobalBoolValue(static_cast<int>(flag), 1);
-}
+// The parameters, in this order.
+extern const int kChangeFlagIds[kChangeFlagCount];
+
+void raise(ChangeFlag flag);
 
 } // namespace talux
 

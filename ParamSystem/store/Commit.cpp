@@ -8,7 +8,6 @@
 
 namespace {
 
-using talux::ChangeFlag;
 using talux::Kind;
 using talux::Space;
 
@@ -44,22 +43,18 @@ void reportMissingRows() {
 class KeptFlags {
 public:
     KeptFlags() {
-        for (int k = 0; k < kCount; ++k)
-            VarGetGlobalBoolValue(kFlags[k], &values[k]);
+        for (int k = 0; k < talux::kChangeFlagCount; ++k)
+            VarGetGlobalBoolValue(talux::kChangeFlagIds[k], &values[k]);
     }
     ~KeptFlags() {
-        for (int k = 0; k < kCount; ++k)
-            VarSetGlobalBoolValue(kFlags[k], values[k]);
+        for (int k = 0; k < talux::kChangeFlagCount; ++k)
+            VarSetGlobalBoolValue(talux::kChangeFlagIds[k], values[k]);
     }
     KeptFlags(const KeptFlags&) = delete;
     KeptFlags& operator=(const KeptFlags&) = delete;
 
 private:
-    static constexpr int kFlags[] = {static_cast<int>(ChangeFlag::param), static_cast<int>(ChangeFlag::ip),
-                                     static_cast<int>(ChangeFlag::stm),
-                                     static_cast<int>(ChangeFlag::secParam)};
-    static constexpr int kCount = 4;
-    char values[kCount];
+    char values[talux::kChangeFlagCount];
 };
 
 } // namespace

@@ -142,7 +142,8 @@ std::string properties(std::span<const catalogue::Family> families,
         names.push_back(parameter.name());
     return std::string(kHead) + "#include \"ParamSystem/dictionary/Tables.h\"\n" + pool.definition() +
            tables + "namespace talux {\nconst int kParameters = " + std::to_string(parameters.size()) +
-           ";\n" + settingTable(parameters) + nameIndex("Name", names) + idIndex(parameters) + "}\n";
+           ";\n" + "constinit const std::span<const stParamFamily> kFamilies = DefParamFamilies;\n" +
+           settingTable(parameters) + nameIndex("Name", names) + idIndex(parameters) + "}\n";
 }
 
 std::string symbolTable(std::string_view name, const std::vector<Symbol>& symbols, Pool& pool) {

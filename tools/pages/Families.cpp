@@ -3,7 +3,7 @@
 #include <iterator>
 #include <sstream>
 
-#include "ParamSystem/TALUX_ParamCounts.h"
+#include "ParamSystem/dictionary/Tables.h"
 #include "tools/pages/Markdown.h"
 #include "tools/pages/Pages.h"
 #include "tools/pages/Records.h"
@@ -181,7 +181,7 @@ std::string pageOf(const stParamFamily& family) {
 } // namespace
 
 void addFamilies(Pages& pages) {
-    for (const stParamFamily& family : DefParamFamilies)
+    for (const stParamFamily& family : kFamilies)
         pages[fileOf(family)] = pageOf(family);
 }
 

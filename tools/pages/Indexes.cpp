@@ -2,7 +2,7 @@
 #include <set>
 #include <sstream>
 
-#include "ParamSystem/TALUX_ParamCounts.h"
+#include "ParamSystem/dictionary/Tables.h"
 #include "ParamSystem/support/Text.h"
 #include "tools/pages/Markdown.h"
 #include "tools/pages/Names.h"
@@ -69,7 +69,7 @@ std::string inSmallLetters(std::string_view text) {
 std::string entryPage() {
     std::ostringstream page;
     page << kGenerated << kEntry;
-    for (const stParamFamily& family : DefParamFamilies) {
+    for (const stParamFamily& family : kFamilies) {
         int count = 0;
         std::vector<int> ids;
         for (const Parameter& parameter : reference::parameters()) {

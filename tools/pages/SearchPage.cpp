@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "ParamSystem/TALUX_ParamCounts.h"
+#include "ParamSystem/dictionary/Tables.h"
 #include "tools/pages/Facts.h"
 #include "tools/pages/Glossary.h"
 #include "tools/pages/Pages.h"
@@ -100,7 +100,7 @@ std::string glossary() {
 
 template <typename Range, typename Item>
 int placeOf(const Range& range, const Item* item) {
-    return static_cast<int>(item - std::begin(range));
+    return static_cast<int>(item - &*std::begin(range));
 }
 
 void addLimits(Object& object, const Parameter& parameter) {
@@ -123,7 +123,7 @@ std::string objectOf(const Parameter& parameter) {
     object.add("name", quoted(parameter.name())).add("id", firstId(parameter));
     if (parameter.isIndexed())
         object.add("first", parameter.row().val_min_id).add("last", parameter.row().val_max_id);
-    object.add("family", placeOf(DefParamFamilies, &parameter.family()));
+    object.add("family", placeOf(kFamilies, &parameter.family()));
     if (const Method* method = methodOf(parameter)) object.add("method", placeOf(kMethods, method));
     object.add("kind", quoted(parameter.type().name)).add("unit", quoted(parameter.unit()));
     addValue(object, parameter);
@@ -144,7 +144,7 @@ std::string data() {
                          [](const Parameter& parameter) { return !parameter.isTemplate(); });
     const auto both = [](const auto& item) { return bothTexts(item.de, item.en); };
     return Object()
-        .add("families", array(DefParamFamilies, [](const stParamFamily& f) { return quoted(f.name); }))
+        .add("families", array(kFamilies, [](const stParamFamily& f) { return quoted(f.name); }))
         .add("methods", array(kMethods, both, ",\n"))
         .add("notes", array(kNotes, both, ",\n"))
         .add("words", glossary())

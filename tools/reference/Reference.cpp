@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/dictionary/Tables.h"
 #include "ParamSystem/store/Kinds.h"
 #include "ParamSystem/support/Text.h"
 
@@ -120,10 +121,8 @@ std::string_view Parameter::name() const {
 }
 
 const stParamFamily& Parameter::family() const {
-    const stParamFamily* family = DefParamFamilies;
-    while (family->last < place)
-        ++family;
-    return *family;
+    return *std::find_if(kFamilies.begin(), kFamilies.end(),
+                         [this](const stParamFamily& family) { return place <= family.last; });
 }
 
 bool Parameter::isSetting() const {
@@ -199,7 +198,7 @@ std::string Parameter::choiceText(int number, ParamLanguage language) const {
 const std::vector<Parameter>& parameters() {
     static const auto all = [] {
         std::vector<Parameter> list;
-        for (int position = 1; DefParamProperties[position].id != 0; position += list.back().elements())
+        for (int position = 1; position <= kParameters; position += list.back().elements())
             list.emplace_back(position);
         return list;
     }();

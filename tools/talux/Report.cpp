@@ -6,6 +6,7 @@
 #include <memory>
 #include <system_error>
 
+#include "ParamSystem/dictionary/Tables.h"
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Listing.h"
@@ -123,7 +124,7 @@ private:
 
     std::string familyTables() {
         std::string tables;
-        for (const stParamFamily& family : DefParamFamilies) {
+        for (const stParamFamily& family : kFamilies) {
             std::string rows;
             for (const Parameter& parameter : reference::parameters())
                 if (parameter.position() >= family.first && parameter.position() <= family.last)
