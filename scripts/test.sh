@@ -86,9 +86,9 @@ browser() {
   local profile result
   need chromium:chromium
   profile=$(mktemp -d)
-  result=$(timeout 300 chromium --headless --no-sandbox --disable-gpu --no-first-run --disable-background-networking \
+  result=$(timeout 600 chromium --headless --no-sandbox --disable-gpu --no-first-run --disable-background-networking \
     --disable-component-update --disable-sync --user-data-dir="$profile" --allow-file-access-from-files \
-    --virtual-time-budget=60000 --dump-dom "file://$project/tests/pages/browser.html" 2>/dev/null |
+    --virtual-time-budget=10000 --dump-dom "file://$project/tests/pages/browser.html" 2>/dev/null |
     sed -n 's,.*<title>\(.*\)</title>.*,\1,p')
   rm -rf "$profile"
   echo "${result:-the browser did not start}" | tee -a "$results/summary"

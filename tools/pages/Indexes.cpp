@@ -44,7 +44,7 @@ with an id of its own: `TLX_vBE 5`.
 | 1 to 90 | a write outside is refused. "no limits told": anything from -999999999 to 999999999 is taken. Run-time values are checked only where a range stands |
 | choice 1 to 5 | choices **count from 1**. More is refused; where there is no least number told, 0, negative numbers and fractions are taken all the same |
 | bytes in a line | what a line of the language can write: of 127 characters, prefix, name, `=` and quotes take theirs. An umlaut has two bytes. A longer text is **cut without a word** (the store itself keeps 127 bytes of a text, 19 of an address and an identifier). "meant for" is the length that the device expects; nothing checks it |
-| `parameter.ini`, `sec_parameter.ini`, `ip_config.ini` | the file that keeps the setting; see [which command writes it](../commissioning.md) |
+| `parameter.ini`, `sec_parameter.ini`, `ip_config.ini` | the [file](../files.md) that keeps the setting |
 | run-time value | measured value, state, process image: live at once, in no file, zero after power-up |
 | write: level 2 | the rights that a write takes. Scripts and the entry functions have level 3 |
 | read only, a write does nothing | the language refuses a write; a command keeps no value: a write is accepted and has no effect |
