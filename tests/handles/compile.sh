@@ -45,12 +45,10 @@ for pair in get set run staged stage record; do
   [ -n "$(instructions "${pair}_plain")" ] || fail "$pair: no instructions"
 done
 
-# What the generated headers add to a compilation, in seconds of the processor, best of three.
+# What the generated headers add to a compilation, in seconds of the processor.
 seconds() { # HEADER..
   printf '#include <%s>\n' "$@" >"$work/include.cpp"
-  for _ in 1 2 3; do
-    (TIMEFORMAT=%U; time "${compile[@]}" -O2 -c "$work/include.cpp" -o "$work/include.o") 2>&1
-  done | sort -n | head -n 1
+  (TIMEFORMAT=%U; time "${compile[@]}" -O2 -c "$work/include.cpp" -o "$work/include.o") 2>&1
 }
 awk -v before="$(seconds talux/table.hpp cstddef cstdint)" \
   -v after="$(seconds talux/table.hpp talux/parameters.hpp talux/records.hpp)" \

@@ -108,6 +108,7 @@ dpkg-deb -x "$work"/talux-lua-dev_*_"$architecture".deb "$work/package"
 for package in "$work"/*.deb; do
   [ "$(dpkg-deb -f "$package" Multi-Arch)" = same ] || fail "$package is not for several architectures"
   dpkg-deb --fsys-tarfile "$package" | tar -t
-done | sed -n "s|^\./usr/lib/$multiarch/\(.*[^/]\)$|./lib/\1|p; s|^\./usr/\(include/.*[^/]\|share/lua/.*[^/]\|share/doc/talux-lua-dev/\(docs/\|examples/\|README\).*[^/]\)$|./\1|p" |
+done | sed -nE "/\/$/d; s,^\./usr/lib/$multiarch/,./lib/,p
+  s,^\./usr/(include|share/lua|share/doc/talux-lua-dev/(docs|examples|README))(.*),./\1\3,p" |
   LC_ALL=C sort | diff "$work/tree.list" - || fail 'packages and installed tree differ'
 echo 'installed tree, programs and packages work'
