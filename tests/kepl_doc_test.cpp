@@ -1,36 +1,48 @@
-// The examples of the language in the documentation are true.
-#include "KeplLine.h"
+// The examples of the language in the documentation are true, with real files, shells and pipes.
+#include "Machine.h"
+#include "ParamSystem/KEPL_Interpreter.h"
+#include "ParamSystem/TALUX_Var.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
 using namespace talux_test;
-using KeplDocumentation = KeplTest;
 
-// Examples show the language, not the machine's network.
-extern "C" int system(const char*) {
-    return 0;
+namespace {
+
+std::string output; // of shell terms
+void collect(char* buffer, int /*buffered*/) {
+    output += buffer;
 }
 
-// What a user sees of a line, its terminator being a newline, without newlines at the end.
-static std::string show(KEPL_Interpreter& interpreter, const std::string& line, int uid) {
-    const Outcome outcome = evaluate(interpreter, line, uid);
-    std::string text = output + (outcome.result == kLineError ? outcome.error : outcome.answer);
-    std::ranges::replace(text, '#', '\n');
+std::string withoutLineEnds(const std::string& text) {
     return text.substr(0, text.find_last_not_of('\n') + 1);
 }
 
+// What a user sees of a line.
+std::string show(KEPL_Interpreter& interpreter, std::string line, int uid) {
+    char terminator[] = "\n", result[kKeplTextSize + 1];
+    output.clear();
+    if (interpreter.ProcessLine(line.data(), collect, result, terminator, uid) == kLineError)
+        interpreter.GetError(result, kKeplMaxTerm);
+    return withoutLineEnds(output + result);
+}
+
+void resetStore() {
+    VarClean();
+    VarSetDefault();
+    VarUpdateGlobalSpace();
+}
+
 // Carries out the blocks of one page; gives the number of examples.
-static int follow(KEPL_Interpreter& interpreter, std::istream& page) {
+int follow(KEPL_Interpreter& interpreter, std::istream& page) {
     const std::string prompt = "kepl> ";
     std::string text, input, expected;
     int uid = -1, examples = 0; // uid -1: outside a block
     while (std::getline(page, text)) {
         const bool isFence = text.starts_with("```"), isInput = uid >= 0 && text.starts_with(prompt);
         if (!input.empty() && (isFence || isInput)) {
-            EXPECT_EQ(show(interpreter, input, uid), expected.substr(0, expected.find_last_not_of('\n') + 1))
-                << input;
+            EXPECT_EQ(show(interpreter, input, uid), withoutLineEnds(expected)) << input;
             ++examples;
             input.clear();
         }
@@ -47,8 +59,15 @@ static int follow(KEPL_Interpreter& interpreter, std::istream& page) {
     return examples;
 }
 
+} // namespace
+
+class KeplDocumentation : public OnMachine {};
+
 TEST_F(KeplDocumentation, ShowsWhatLinesAnswer) {
+    char path[] = "/tmp/kepl";
     std::filesystem::create_directory(path);
+    LoadDefParamProperties();
+    KEPL_Interpreter interpreter(path);
     int examples = 0;
     for (const auto& page : std::filesystem::directory_iterator(TALUX_DOCUMENTATION)) {
         std::ifstream text(page.path());

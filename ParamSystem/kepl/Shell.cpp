@@ -40,7 +40,7 @@ bool readChunk(FILE* pipe, char (&chunk)[255]) {
     return length > 0;
 }
 
-void streamOutput(const char* command, fnDataOut dataOut) {
+void streamOutput(const char* command, fnDataOut dataOut, char* terminator) {
     FILE* const pipe = os::openPipe(command);
     if (pipe == nullptr) std::perror("KEPL: system");
 
@@ -50,6 +50,7 @@ void streamOutput(const char* command, fnDataOut dataOut) {
         dataOut(shell_result, kMoreFollows);
     copyText(shell_result, "\n");
     dataOut(shell_result, kMoreFollows);
+    dataOut(terminator, kLastChunk);
     if (pipe != nullptr) os::closePipe(pipe);
 }
 
@@ -63,8 +64,7 @@ TermResult runShellTerm(const Decision& decision, fnDataOut dataOut, char* termi
     char command[kKeplMaxTerm + 1];
     copyText(command, decision.words);
     if (decision.action == Action::endProcess) endProcess(command);
-    streamOutput(command, dataOut);
-    dataOut(terminator, kLastChunk);
+    streamOutput(command, dataOut, terminator);
     return says(Says::nothing);
 }
 

@@ -3,8 +3,10 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include "ParamSystem/dictionary/Types.h"
+#include "ParamSystem/support/Number.h"
 
 namespace talux::kepl {
 
@@ -14,7 +16,11 @@ static_assert(std::endian::native == std::endian::little, "bytes are shown in me
 
 template <typename Stored>
 void store(double number, char* bytes) {
-    const auto value = static_cast<Stored>(number);
+    Stored value;
+    if constexpr (std::is_same_v<Stored, float>)
+        value = narrowed(number);
+    else
+        value = static_cast<Stored>(number);
     std::memcpy(bytes, &value, sizeof value);
 }
 
@@ -22,7 +28,10 @@ template <typename Stored>
 double load(const char* bytes) {
     Stored value;
     std::memcpy(&value, bytes, sizeof value);
-    return static_cast<double>(value);
+    if constexpr (std::is_same_v<Stored, float>)
+        return widened(value);
+    else
+        return static_cast<double>(value);
 }
 
 struct Format {

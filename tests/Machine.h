@@ -1,0 +1,224 @@
+// The machine around the module, made of paper: commands, pipes, clock, system log, board and interfaces are
+// noted instead of used. A test program includes this once: its functions take the place of the C library's
+// for the module, too.
+#ifndef TALUX_TEST_MACHINE_H
+#define TALUX_TEST_MACHINE_H
+
+#include <arpa/inet.h>
+#include <cerrno>
+#include <csetjmp>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <dlfcn.h>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <net/if.h>
+#include <optional>
+#include <string>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+#include <sys/utsname.h>
+#include <sys/wait.h>
+#include <syslog.h>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace talux_test {
+
+struct Machine {
+    std::vector<std::string> events;    // in their order, as note() has them
+    std::function<std::string()> stamp; // what an event is marked with; empty: with nothing
+    std::string errors;                 // what ErrorStream caught
+    std::time_t now = 0;                // 0: the real time
+    std::string board = "x86_64";       // empty: cannot be found out
+    std::optional<std::string> pipe;    // what a command writes; none: pipes are real
+    bool pipesFail = false;
+    bool hasSignals = false; // reads from a pipe are interrupted now and then
+    int openPipes = 0;
+    std::map<std::string, std::string> addresses; // "eth0:1", its netmask at "eth0:1/"
+    bool socketsFail = false;
+    std::jmp_buf* processEnd = nullptr; // where exit() goes on; null: the process ends
+    std::size_t allocations = 0;        // of memory by others than the machine
+    int working = 0;                    // calls into the machine that are not over
+};
+inline Machine machine;
+
+// Notes what happened; the machine's own need of memory does not count.
+inline void note(const std::string& event) {
+    machine.events.push_back(event + (machine.stamp ? machine.stamp() : ""));
+}
+struct Working {
+    Working() { ++machine.working; }
+    ~Working() { --machine.working; }
+};
+
+template <typename Function>
+Function* real(const char* name) {
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+// How often the heap was asked while `action` ran. Nothing is seen where a sanitizer has its own heap.
+template <typename Action>
+std::size_t allocationsOf(const Action& action) {
+    const std::size_t before = machine.allocations;
+    action();
+    return machine.allocations - before;
+}
+
+// A stream that reads a text, interrupted by signals now and then if the machine has some.
+inline FILE* reader(const std::string& text) {
+    const auto take = [](void* from, char* to, std::size_t size) -> ssize_t {
+        const Working working;
+        auto& rest = *static_cast<std::string*>(from);
+        static bool isInterrupted = false;
+        isInterrupted = machine.hasSignals && rest.size() % 3 == 1 && !isInterrupted;
+        if (isInterrupted) return errno = EINTR, -1;
+        size = rest.copy(to, size);
+        rest.erase(0, size);
+        return static_cast<ssize_t>(size);
+    };
+    const auto close = [](void* from) { return delete static_cast<std::string*>(from), 0; };
+    FILE* const stream = fopencookie(new std::string(text), "r", {take, nullptr, nullptr, close});
+    std::setvbuf(stream, nullptr, _IONBF, 0);
+    return stream;
+}
+
+// What is written to the error stream meanwhile lands in machine.errors.
+class ErrorStream {
+public:
+    ErrorStream() {
+        const auto put = [](void*, const char* from, std::size_t size) -> ssize_t {
+            const Working working;
+            machine.errors.append(from, size);
+            return static_cast<ssize_t>(size);
+        };
+        stderr = fopencookie(nullptr, "w", {nullptr, put, nullptr, nullptr});
+        std::setvbuf(stderr, nullptr, _IONBF, 0);
+    }
+    ~ErrorStream() {
+        std::fclose(stderr);
+        stderr = own;
+    }
+    ErrorStream(const ErrorStream&) = delete;
+    ErrorStream& operator=(const ErrorStream&) = delete;
+
+private:
+    FILE* const own = stderr;
+};
+
+inline std::size_t openDescriptors() {
+    std::size_t count = 0;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator("/proc/self/fd"))
+        ++count;
+    return count;
+}
+
+// Sees that no test leaves a descriptor, a pipe or a child behind.
+class OnMachine : public testing::Test {
+protected:
+    OnMachine() { machine = {}; }
+    ~OnMachine() override {
+        EXPECT_EQ(machine.openPipes, 0);
+        EXPECT_EQ(openDescriptors(), descriptors);
+        EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is left";
+        machine = {};
+    }
+
+private:
+    const std::size_t descriptors = openDescriptors();
+};
+
+} // namespace talux_test
+
+extern "C" {
+
+int system(const char* command) {
+    const talux_test::Working working;
+    talux_test::note("$ " + std::string(command));
+    return 0;
+}
+
+FILE* popen(const char* command, const char* mode) {
+    using talux_test::machine;
+    const talux_test::Working working;
+    if (!machine.pipe && !machine.pipesFail)
+        return talux_test::real<FILE*(const char*, const char*)>("popen")(command, mode);
+    talux_test::note("| " + std::string(command));
+    if (machine.pipesFail) return errno = EMFILE, nullptr;
+    ++machine.openPipes;
+    return talux_test::reader(*machine.pipe);
+}
+
+int pclose(FILE* stream) {
+    using talux_test::machine;
+    const talux_test::Working working;
+    if (!machine.pipe) return talux_test::real<int(FILE*)>("pclose")(stream);
+    talux_test::note("closed");
+    --machine.openPipes;
+    return std::fclose(stream);
+}
+
+std::time_t time(std::time_t* seconds) noexcept {
+    timespec now{talux_test::machine.now, 0};
+    if (now.tv_sec == 0) clock_gettime(CLOCK_REALTIME, &now);
+    if (seconds != nullptr) *seconds = now.tv_sec;
+    return now.tv_sec;
+}
+
+int clock_settime(clockid_t, const timespec* time) noexcept {
+    const talux_test::Working working;
+    talux_test::note("clock " + std::to_string(time->tv_sec));
+    return 0;
+}
+
+void vsyslog(int priority, const char* format, std::va_list arguments) {
+    const talux_test::Working working;
+    char text[4000];
+    std::vsnprintf(text, sizeof text, format, arguments);
+    talux_test::note("log " + std::to_string(priority) + " " + text);
+}
+void __vsyslog_chk(int priority, int, const char* format, std::va_list arguments) {
+    vsyslog(priority, format, arguments);
+}
+
+int uname(utsname* system) noexcept {
+    *system = {};
+    talux_test::machine.board.copy(system->machine, sizeof system->machine - 1);
+    return talux_test::machine.board.empty() ? -1 : 0;
+}
+
+void exit(int status) noexcept(false) {
+    using talux_test::machine;
+    if (machine.processEnd == nullptr) talux_test::real<void(int)>("exit")(status);
+    {
+        const talux_test::Working working;
+        talux_test::note("exit " + std::to_string(status & 255));
+    }
+    std::longjmp(*machine.processEnd, 1);
+}
+
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+void* __libc_malloc(std::size_t);
+void* __libc_calloc(std::size_t, std::size_t);
+void* __libc_realloc(void*, std::size_t);
+void* malloc(std::size_t size) {
+    talux_test::machine.allocations += talux_test::machine.working == 0;
+    return __libc_malloc(size);
+}
+void* calloc(std::size_t count, std::size_t size) {
+    talux_test::machine.allocations += talux_test::machine.working == 0;
+    return __libc_calloc(count, size);
+}
+void* realloc(void* memory, std::size_t size) {
+    talux_test::machine.allocations += talux_test::machine.working == 0;
+    return __libc_realloc(memory, size);
+}
+#endif
+}
+
+#endif
