@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "ParamSystem/dictionary/IdOf.h"
 #include "ParamSystem/files/Effect.h"
 #include "ParamSystem/files/Path.h"
 #include "ParamSystem/os/Os.h"
@@ -63,7 +64,8 @@ int VarLoadParams(void) {
 }
 
 int VarLoadSecParams(void) {
-    constexpr int kSecMode = 8176; // encryption of the command port; no file may switch it off
+    constexpr int kSecMode =
+        talux::idOf("sec_mode"); // encryption of the command port; no file may switch it off
     const int result = loadWhole("/sec_parameter.ini");
     VarSetBoolValue(kSecMode, 1);
     VarSetGlobalBoolValue(kSecMode, 1);

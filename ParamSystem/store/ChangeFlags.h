@@ -4,10 +4,16 @@
 #define TALUX_STORE_CHANGEFLAGS_H
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/dictionary/IdOf.h"
 
 namespace talux {
 
-enum class ChangeFlag : int { param = 8000, ip = 8001, secParam = 8002, stm = 8004 }; // parameter ids
+enum class ChangeFlag : int {
+    param = idOf("ParamChanged"),
+    ip = idOf("IpParamChanged"),
+    secParam = idOf("SecParamChanged"),
+    stm = idOf("StmParamChanged"),
+};
 
 inline void raise(ChangeFlag flag) {
     VarSetGlobalBoolValue(static_cast<int>(flag), 1);
