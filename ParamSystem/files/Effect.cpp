@@ -1,6 +1,7 @@
 #include "ParamSystem/files/Effect.h"
 
 #include "ParamSystem/TALUX_Funcs.h"
+#include "ParamSystem/dictionary/Lookup.h"
 
 namespace talux {
 
@@ -25,7 +26,7 @@ Effect numberEffect(const stParamProperties& row, const char* text) {
 
 Effect effectOf(const Entry& entry, int wantedType) {
     if (entry.form != LineForm::entry) return {};
-    const stParamProperties* const row = GetParamPropertiesByName(entry.name);
+    const stParamProperties* const row = findParameter(entry.name);
     if (row == nullptr) return {Outcome::unknownName, nullptr, {}};
     if (row->is_volatile == 1) return {Outcome::runTime, row, {}};
     return isText(*row) ? textEffect(*row, entry.value, wantedType) : numberEffect(*row, entry.value);

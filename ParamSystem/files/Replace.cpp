@@ -1,5 +1,6 @@
 #include "ParamSystem/files/Replace.h"
 
+#include <array>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
@@ -92,20 +93,22 @@ public:
     explicit Draft(int in) : directory(in) {}
     ~Draft() {
         if (descriptor < 0) return;
-        if (!isPlaced) os::removeIn(directory, name);
+        if (!isPlaced) os::removeIn(directory, name.data());
         os::closeFile(descriptor); // gives the lock back
     }
     Draft(const Draft&) = delete;
     Draft& operator=(const Draft&) = delete;
 
     int get() const { return descriptor; }
+    const struct stat& status() const { return made; }
 
-    // Clears away what was left behind and takes a name that no other save has at the moment.
+    // Takes the first name that no other save has at the moment, and clears away what was left behind.
     bool make() {
-        for (int number = 0; number < kNames; ++number)
-            clear(number);
-        for (int number = 0; number < kNames; ++number) {
-            if (claim(number)) return true;
+        for (; name[kNumber] < kEnd; ++name[kNumber]) {
+            if (claim() || (errno == EEXIST && (clear(name), claim()))) {
+                clearBehind();
+                return true;
+            }
             if (errno != EEXIST) return false;
         }
         errno = EAGAIN;
@@ -113,48 +116,59 @@ public:
     }
 
     bool placeAs(const char* file) {
-        isPlaced = os::renameIn(directory, name, file);
+        isPlaced = os::renameIn(directory, name.data(), file);
         return isPlaced;
     }
 
 private:
-    static constexpr int kNames = 4; // as many saves of one directory at once
+    using Name = std::array<char, 20>;
     static constexpr int kNumber = 12;
+    static constexpr char kEnd = '4'; // four saves of one directory at once
 
     int directory;
     int descriptor = -1;
     bool isPlaced = false;
-    char name[20] = ".talux-save-0.tmp";
+    Name name{".talux-save-0.tmp"};
+    struct stat made {};
 
-    void clear(int number) {
-        name[kNumber] = static_cast<char>('0' + number);
-        const Descriptor left(os::openIn(directory, name));
-        if (left && os::tryLockFile(left.get()) && isNamed(left.get())) os::removeIn(directory, name);
-    }
-
-    // Whether the name still stands for the file: its maker may have put it in place before it was locked
-    // here.
-    bool isNamed(int opened) const {
-        struct stat own {};
-        struct stat named {};
-        return os::statusOf(opened, own) && S_ISREG(own.st_mode) && os::statusIn(directory, name, named) &&
-               own.st_dev == named.st_dev && own.st_ino == named.st_ino;
-    }
-
-    bool claim(int number) {
-        name[kNumber] = static_cast<char>('0' + number);
-        descriptor = os::makeIn(directory, name);
+    // Another save may take the file for a leftover and remove it before it is locked.
+    bool claim() {
+        descriptor = os::makeIn(directory, name.data());
         if (descriptor < 0) return false;
-        if (os::tryLockFile(descriptor) && isNamed(descriptor)) return true;
-        // Another save has taken it for a leftover in between.
+        if (os::tryLockFile(descriptor) && os::statusOf(descriptor, made) && made.st_nlink > 0) return true;
         os::closeFile(descriptor);
         descriptor = -1;
         errno = EEXIST;
         return false;
     }
+
+    // Of saves that ran beside each other; the first gap ends them.
+    void clearBehind() const {
+        for (Name left = name; ++left[kNumber] < kEnd && clear(left);) {
+        }
+    }
+
+    // False when there is no such file.
+    bool clear(const Name& left) const {
+        const Descriptor file(os::openIn(directory, left.data()));
+        if (!file) return false;
+        if (os::tryLockFile(file.get()) && stillNames(left, file.get())) os::removeIn(directory, left.data());
+        return true;
+    }
+
+    // Its maker may have put it in place before it was locked here.
+    bool stillNames(const Name& left, int file) const {
+        struct stat own {};
+        struct stat named {};
+        return os::statusOf(file, own) && S_ISREG(own.st_mode) &&
+               os::statusIn(directory, left.data(), named) && own.st_dev == named.st_dev &&
+               own.st_ino == named.st_ino;
+    }
 };
 
 // ---- Owner and rights ----
+
+constexpr mode_t kAllRights = 07777;
 
 void reportRights(const char* path, const char* call) {
     const int error = errno;
@@ -164,9 +178,17 @@ void reportRights(const char* path, const char* call) {
     std::perror(call);
 }
 
-void setRights(int descriptor, const Rights& rights, const char* path) {
-    if (!os::giveFile(descriptor, rights.owner, rights.group)) reportRights(path, "chown");
-    if (!os::allowFile(descriptor, rights.mode)) reportRights(path, "chmod");
+// `now` is what the file has.
+void setRights(int descriptor, const struct stat& now, const Rights& rights, const char* path) {
+    if ((now.st_uid != rights.owner || now.st_gid != rights.group) &&
+        !os::giveFile(descriptor, rights.owner, rights.group))
+        reportRights(path, "chown");
+    if ((now.st_mode & kAllRights) != rights.mode && !os::allowFile(descriptor, rights.mode))
+        reportRights(path, "chmod");
+}
+
+Rights rightsOf(const struct stat& file) {
+    return {file.st_uid, file.st_gid, file.st_mode & kAllRights};
 }
 
 // ---- Both ways ----
@@ -179,10 +201,9 @@ bool isReplaceable(const struct stat& old) {
 }
 
 // Only root can give a file to another owner.
-bool keepsOwner(int draft, Old old) {
-    struct stat own {};
-    if (old == nullptr || os::isRoot()) return true;
-    return os::statusOf(draft, own) && own.st_uid == old->st_uid && own.st_gid == old->st_gid;
+bool keepsOwner(const struct stat& draft, Old old) {
+    if (old == nullptr || (draft.st_uid == old->st_uid && draft.st_gid == old->st_gid)) return true;
+    return os::isRoot();
 }
 
 // Nothing when the file cannot be replaced; all is as before then.
@@ -197,13 +218,11 @@ std::optional<Replacement> replaceWhole(const char* path, std::string_view conte
     if (!directory) return refusedOr(Written::notOpened, "fopen");
     Draft draft(directory.get());
     if (!draft.make()) return refusedOr(Written::notOpened, "fopen");
-    if (!keepsOwner(draft.get(), old)) return {};
+    if (!keepsOwner(draft.status(), old)) return {};
 
     if (!os::writeFile(draft.get(), contents)) return failure(Written::notWritten, "write");
-    if (rights != nullptr)
-        setRights(draft.get(), *rights, path);
-    else if (old != nullptr)
-        setRights(draft.get(), {old->st_uid, old->st_gid, old->st_mode & 07777U}, path);
+    if (rights != nullptr || old != nullptr)
+        setRights(draft.get(), draft.status(), rights != nullptr ? *rights : rightsOf(*old), path);
     if (!os::syncFile(draft.get())) return failure(Written::notKept, "fsync");
     if (!draft.placeAs(place.name())) return refusedOr(Written::notKept, "rename");
     if (!os::syncFile(directory.get())) return failure(Written::notKept, "fsync", false);
@@ -211,20 +230,17 @@ std::optional<Replacement> replaceWhole(const char* path, std::string_view conte
 }
 
 Replacement writeInPlace(const char* path, std::string_view contents, const Rights* rights,
-                         Descriptor& file, bool isRegular) {
+                         Descriptor& file) {
+    struct stat status {};
+    if (!file || !os::statusOf(file.get(), status)) return failure(Written::notOpened, "fopen");
+    const bool isRegular = S_ISREG(status.st_mode);
     if (isRegular && !os::emptyFile(file.get())) return failure(Written::notOpened, "fopen");
     Replacement result;
     if (!os::writeFile(file.get(), contents)) result = failure(Written::notWritten, "write", false);
-    if (rights != nullptr) setRights(file.get(), *rights, path);
+    if (rights != nullptr) setRights(file.get(), status, *rights, path);
     if (result.written != Written::done) return result;
     if (isRegular && !os::syncFile(file.get())) return failure(Written::notKept, "fsync", false);
     return file.close() ? result : failure(Written::notWritten, "write", false);
-}
-
-Replacement makeInPlace(const char* path, std::string_view contents, const Rights* rights) {
-    Descriptor file(os::openEmptied(path));
-    if (!file) return failure(Written::notOpened, "fopen");
-    return writeInPlace(path, contents, rights, file, true);
 }
 
 } // namespace
@@ -237,8 +253,9 @@ Replacement replaceFile(const char* path, std::string_view contents, const Right
     if (!existing || isReplaceable(old))
         if (const auto replaced = replaceWhole(path, contents, rights, existing ? &old : nullptr))
             return *replaced;
-    if (!existing) return makeInPlace(path, contents, rights);
-    return writeInPlace(path, contents, rights, existing, S_ISREG(old.st_mode));
+    if (existing) return writeInPlace(path, contents, rights, existing);
+    Descriptor made(os::openEmptied(path));
+    return writeInPlace(path, contents, rights, made);
 }
 
 } // namespace talux

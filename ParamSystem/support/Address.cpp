@@ -1,8 +1,10 @@
 #include "ParamSystem/support/Address.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <limits>
 
 #include "ParamSystem/support/Text.h"
@@ -23,10 +25,13 @@ int takePiece(const char*& text) {
 } // namespace
 
 void normaliseAddress(char* dest, std::size_t size, const char* text) {
-    int pieces[4];
-    for (int& piece : pieces)
-        piece = takePiece(text);
-    formatText(dest, size, "%d.%d.%d.%d", pieces[0], pieces[1], pieces[2], pieces[3]);
+    char whole[kWholeAddressSize];
+    char* end = whole;
+    for (int piece = 0; piece < 4; ++piece) {
+        if (piece > 0) *end++ = '.';
+        end = std::to_chars(end, std::end(whole), takePiece(text)).ptr;
+    }
+    copyText(dest, size, {whole, end});
 }
 
 } // namespace talux
