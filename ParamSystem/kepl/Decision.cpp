@@ -136,7 +136,8 @@ Decision decideOther(std::string_view term, int uid, int board) {
 } // namespace
 
 Decision decide(std::string_view term, int uid, int board) {
-    return isVariable(term) ? decideVariable(term.substr(kPrefixLength), uid) : decideOther(term, uid, board);
+    return isVariable(term) ? decideVariable(behind(term, kPrefixLength), uid)
+                            : decideOther(term, uid, board);
 }
 
 std::span<const CommandWord> commandWords() {

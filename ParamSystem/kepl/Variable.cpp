@@ -145,7 +145,8 @@ private:
             QuotedText quoted;
             const std::string_view text = quote(quoted, row, id);
             slot.put(0.0, row.type);
-            return show(style, {" ", label.view(), text, text.substr(1, text.size() - 2), index == 1});
+            return show(style,
+                        {" ", label.view(), text, behind(text.substr(0, text.size() - 1), 1), index == 1});
         }
         const double value = numberOf(row, id);
         slot.put(value, row.type);

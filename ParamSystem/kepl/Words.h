@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "ParamSystem/support/Text.h"
+
 namespace talux::kepl {
 
 constexpr std::string_view withoutLeading(std::string_view text, char delimiter) {
@@ -17,7 +19,7 @@ constexpr std::string_view withoutLeading(std::string_view text, char delimiter)
 constexpr std::string_view takeWord(std::string_view& rest, char delimiter) {
     const std::string_view text = withoutLeading(rest, delimiter);
     const std::string_view word = text.substr(0, text.find(delimiter));
-    rest = text.substr(word.size());
+    rest = behind(text, word.size());
     return word;
 }
 

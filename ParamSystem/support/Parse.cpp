@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "ParamSystem/support/Locale.h"
+#include "ParamSystem/support/Text.h"
 
 namespace talux {
 
@@ -19,7 +20,7 @@ std::string_view firstWord(std::string_view text) {
     std::size_t start = 0;
     while (start < text.size() && text[start] == ' ')
         ++start;
-    return text.substr(start, text.find(' ', start) - start);
+    return behind(text.substr(0, text.find(' ', start)), start);
 }
 
 // `convert` is the C library's conversion of a whole word.

@@ -16,6 +16,13 @@ void copyText(char (&dest)[N], std::string_view text) {
     copyText(dest, N, text);
 }
 
+// What follows the first `length` characters, which are there. substr() would ask for the C++ library, which
+// throws where they are not.
+constexpr std::string_view behind(std::string_view text, std::size_t length) {
+    text.remove_prefix(length);
+    return text;
+}
+
 constexpr char lowerAscii(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
