@@ -2,8 +2,8 @@
 # Builds and passes the tests.
 #
 #   test.sh           release, sanitize (addresses and undefined behaviour) and armv7
-#   test.sh --all     also debug, armv5te, packages, threads, commands, browser, lint, plain, rock, reproducible, and
-#                     the release tests once more as an ordinary user and in a container without privileges
+#   test.sh --all     also debug, armv5te, packages, threads, commands, browser, bench, lint, plain, rock,
+#                     reproducible, and the release tests once more as an ordinary user and in a container without privileges
 #   test.sh STAGE..   only these
 #
 # What is missing is installed (as root). Every stage runs whatever became of the others. The summary repeats
@@ -12,7 +12,7 @@
 cd "$project"
 
 usual=(release sanitize armv7)
-all=("${usual[@]}" debug armv5te packages threads commands browser lint plain rock reproducible user container)
+all=("${usual[@]}" debug armv5te packages threads commands browser bench lint plain rock reproducible user container)
 
 release() { build release && run_tests build-release; }
 debug() { build debug && run_tests build-debug; }
@@ -20,6 +20,7 @@ sanitize() { build sanitize && run_tests build-sanitize; }
 armv7() { on_device armv7 arm-linux-gnueabihf; }
 armv5te() { on_device armv5te arm-linux-gnueabi; }
 lint() { scripts/lint.sh; }
+bench() { scripts/bench.sh --check; }
 reproducible() { scripts/reproducible.sh | tee -a "$results/summary"; }
 
 on_device() {

@@ -8,9 +8,9 @@
 //             | '"' n "." n "." n "." n '"'  addresses, without leading zeros
 //             | '"' date '"' | '"' time '"'  of the system clock: YYYY-MM-DD, hh:mm:ss
 //
-// What a reader takes beyond that (comments, blanks, values without quotes) is told in docs/files.md. These do not
-// come back as they were: digits behind the sixth decimal, a text behind a double quote or "=", not-a-number in an
-// integer, date and time.
+// What a reader takes beyond that (comments, blanks, values without quotes) is told in docs/files.md. These
+// do not come back as they were: digits behind the sixth decimal, a text behind a double quote or "=",
+// not-a-number in an integer, date and time.
 #ifndef TALUX_FILES_LINE_H
 #define TALUX_FILES_LINE_H
 
