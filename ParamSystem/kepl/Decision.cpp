@@ -120,12 +120,11 @@ void decideCommand(Decision& decision, std::string_view term, int uid, int board
 Decision decideOther(std::string_view term, int uid, int board) {
     Decision decision;
     decision.term = term;
-    if (beginsWithDigit(term)) { // as no word does
-        decideNumber(decision, term);
-    } else if (const OperationWord* const operation = operationOf(term)) {
+    const bool mayBeWord = !beginsWithDigit(term); // as no word does
+    if (const OperationWord* const operation = mayBeWord ? operationOf(term) : nullptr) {
         decision.action = Action::compute;
         decision.operation = operation->operation;
-    } else if (const CommandWord* const command = commandOf(term)) {
+    } else if (const CommandWord* const command = mayBeWord ? commandOf(term) : nullptr) {
         decideCommand(decision, term, uid, board, *command);
     } else {
         decideNumber(decision, term);
