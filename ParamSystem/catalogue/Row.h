@@ -2,14 +2,13 @@
 #ifndef TALUX_CATALOGUE_ROW_H
 #define TALUX_CATALOGUE_ROW_H
 
-#include <source_location>
-
 #include "ParamSystem/TALUX_Params.h"
+#include "ParamSystem/dictionary/SourceLine.h"
 
 namespace talux::catalogue {
 
 // The line that a row is written on: every verb notes where it is used, so that messages can say it.
-using Where = std::source_location;
+using Where = SourceLine;
 
 inline constexpr int kNoLength = -1;
 

@@ -15,12 +15,13 @@
 #define TALUX_TEXTS_WORDS_H
 
 #include <array>
-#include <source_location>
+
+#include "ParamSystem/dictionary/SourceLine.h"
 
 namespace talux::texts {
 
 // The line that a text is written on, for messages about it.
-using Where = std::source_location;
+using Where = SourceLine;
 
 // A text, or a list divided by "|", in German and English. Empty only where a line has no such text.
 struct Both {

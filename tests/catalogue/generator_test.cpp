@@ -140,9 +140,9 @@ const Wrong kTexts[] = {
 };
 // clang-format on
 
-void expectRefusal(const Wrong& wrong, const std::string& messages, const std::source_location& where) {
-    const std::string file = where.file_name();
-    const std::string head = file.substr(file.rfind("ParamSystem/")) + ":" + std::to_string(where.line()) +
+void expectRefusal(const Wrong& wrong, const std::string& messages, const SourceLine& where) {
+    const std::string file = where.file;
+    const std::string head = file.substr(file.rfind("ParamSystem/")) + ":" + std::to_string(where.number) +
                              ": error: " + wrong.subject + ": ";
     EXPECT_THAT(messages, testing::AllOf(testing::StartsWith(head), testing::HasSubstr(wrong.words)));
     EXPECT_EQ(messages.find('\n'), messages.size() - 1) << messages;

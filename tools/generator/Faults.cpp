@@ -18,8 +18,8 @@ void print(const Faults& faults, std::FILE* out) {
     const std::size_t shown = faults.size() <= kLines ? faults.size() : kLines - 1;
     for (std::size_t k = 0; k < shown; ++k) {
         const Fault& fault = faults[k];
-        if (fault.where.line() != 0)
-            std::fprintf(out, "%s:%u: ", shortName(fault.where.file_name()).data(), fault.where.line());
+        if (fault.where.number != 0)
+            std::fprintf(out, "%s:%u: ", shortName(fault.where.file).data(), fault.where.number);
         std::fprintf(out, "error: %s: %s\n", fault.subject.c_str(), fault.rule.c_str());
     }
     if (shown < faults.size()) std::fprintf(out, "and %zu more\n", faults.size() - shown);

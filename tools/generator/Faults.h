@@ -3,15 +3,16 @@
 #define TALUX_GENERATOR_FAULTS_H
 
 #include <cstdio>
-#include <source_location>
 #include <string>
 #include <vector>
+
+#include "ParamSystem/dictionary/SourceLine.h"
 
 namespace talux::generator {
 
 struct Fault {
-    std::source_location where; // the row, if there is one
-    std::string subject;        // its name
+    SourceLine where;    // the row, if there is one
+    std::string subject; // its name
     std::string rule;
 };
 

@@ -1,0 +1,21 @@
+// The line of a source that a row is written on, for messages about it.
+#ifndef TALUX_DICTIONARY_SOURCELINE_H
+#define TALUX_DICTIONARY_SOURCELINE_H
+
+namespace talux {
+
+// What std::source_location is, for clang-tidy too, which does not have that yet.
+struct SourceLine {
+    const char* file = "";
+    unsigned number = 0; // 0: no line
+
+    // As a default argument: where the function is called.
+    static constexpr SourceLine current(const char* name = __builtin_FILE(),
+                                        unsigned line = __builtin_LINE()) {
+        return {name, line};
+    }
+};
+
+} // namespace talux
+
+#endif
