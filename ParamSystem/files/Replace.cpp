@@ -237,7 +237,8 @@ Replacement writeInPlace(const char* path, std::string_view contents, const Righ
     if (isRegular && !os::emptyFile(file.get())) return failure(Written::notOpened, "fopen");
     Replacement result;
     if (!os::writeFile(file.get(), contents)) result = failure(Written::notWritten, "write", false);
-    if (rights != nullptr) setRights(file.get(), status, *rights, path);
+    if (rights != nullptr && isRegular)
+        setRights(file.get(), status, *rights, path); // no device is given away
     if (result.written != Written::done) return result;
     if (isRegular && !os::syncFile(file.get())) return failure(Written::notKept, "fsync", false);
     return file.close() ? result : failure(Written::notWritten, "write", false);
