@@ -133,9 +133,8 @@ end
 ---@field old any
 ---@field new any
 
--- What cannot be taken back comes last: 1 values that no line could write again, 2 the clock, 3 an address,
--- which is applied and saved by its write.
-local rank = {["date of the clock"] = 2, ["time of the clock"] = 2, ["interface address"] = 3}
+-- What cannot be taken back comes last: the clock, then an address, which is applied and saved by its write.
+local rank = {["date of the clock"] = 1, ["time of the clock"] = 1, ["interface address"] = 2}
 
 local function lineOf(name, index) return index and ("TLX_%s %d"):format(name, index) or "TLX_" .. name end
 local function labelOf(name, index) return index and ("%s[%s]"):format(name, tostring(index)) or name end
@@ -189,9 +188,8 @@ end
 -- Notes what is there and how it could be written again.
 local function keepOld(entry)
   local row, old = entry.row, stored(entry)
-  local text = checks.value(row, old)
-  entry.old, entry.rank = old, rank[row.kind] or text and 0 or 1
-  entry.back = text or type(old) == "number" and numbers.write(old) or checks.carried(row, old)
+  entry.old, entry.rank = old, rank[row.kind] or 0
+  entry.back = type(old) == "number" and numbers.write(old) or row.length and checks.carried(row, old)
 end
 
 local function goesFirst(a, b)
@@ -220,7 +218,7 @@ local function takeBack(entries, last)
   local lost = {}
   for k = last, 1, -1 do
     local entry = entries[k]
-    if entry.rank < 2 and entry.back then command(entry.line .. "=" .. entry.back) end
+    if entry.rank == 0 and entry.back then command(entry.line .. "=" .. entry.back) end
     if stored(entry) ~= entry.old then lost[#lost + 1] = labelOf(entry.row.name, entry.index) end
   end
   return #lost > 0 and "; not taken back: " .. table.concat(lost, ", ") or ""
