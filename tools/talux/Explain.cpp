@@ -1,4 +1,6 @@
 // talux explain: what a parameter is and what it is set to.
+#include "tools/talux/Explain.h"
+
 #include <algorithm>
 #include <memory>
 #include <sys/stat.h>
@@ -194,6 +196,10 @@ Status run(const Options& options, const Context& context) {
 }
 
 } // namespace
+
+void explain(const std::string& name, const Context& context) {
+    run({.words = {name}, .live = true}, context);
+}
 
 void addExplain(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <memory>
 #include <system_error>
+#include <utility>
 
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
@@ -122,21 +123,23 @@ private:
     }
 
     std::string familyTables() {
-        std::string tables;
-        for (const stParamFamily& family : DefParamFamilies) {
-            std::string rows;
-            for (const Parameter& parameter : reference::parameters())
-                if (parameter.position() >= family.first && parameter.position() <= family.last)
-                    rows += row(parameter);
-            if (!rows.empty())
-                tables += fill(
-                    "<h2>{}</h2>\n<table>\n<thead><tr><th class=\"mark\"></th><th class=\"name\">{}</th>"
+        std::string tables, rows;
+        const stParamFamily* family = nullptr;
+        for (const Parameter& parameter : reference::parameters()) {
+            if (family != &parameter.family()) tables += tableOf(family, std::exchange(rows, {}));
+            family = &parameter.family();
+            rows += row(parameter);
+        }
+        return tables + tableOf(family, rows);
+    }
+
+    std::string tableOf(const stParamFamily* family, const std::string& rows) const {
+        if (rows.empty()) return {};
+        return fill("<h2>{}</h2>\n<table>\n<thead><tr><th class=\"mark\"></th><th class=\"name\">{}</th>"
                     "<th>{}</th><th class=\"value\">{}</th><th class=\"default\">{}</th></tr></thead>\n"
                     "<tbody>\n{}</tbody>\n</table>\n",
-                    {escaped(family.name), context.say("Name", "Name"), context.say("Title", "Titel"),
+                    {escaped(family->name), context.say("Name", "Name"), context.say("Title", "Titel"),
                      context.say("Value", "Wert"), context.say("Factory setting", "Werkseinstellung"), rows});
-        }
-        return tables;
     }
 
     std::string row(const Parameter& parameter) {

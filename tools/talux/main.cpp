@@ -27,7 +27,7 @@ ParamLanguage languageOfEnvironment() {
 
 void addCommands(CLI::App& app, Commands& commands) {
     for (const auto add : {addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport,
-                           addWatch, addBoot, addAnnotations})
+                           addWatch, addShell, addLint, addBoot, addAnnotations})
         add(app, commands);
 }
 

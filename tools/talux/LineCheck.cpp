@@ -1,0 +1,372 @@
+#include "tools/talux/LineCheck.h"
+
+#include <algorithm>
+
+#include "ParamSystem/kepl/Words.h"
+#include "ParamSystem/support/Text.h"
+#include "tools/talux/Judgement.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+using kepl::Action;
+using kepl::Decision;
+using kepl::Refusal;
+
+const Parameter* parameterOf(const Decision& decision) {
+    return decision.row == nullptr ? nullptr : reference::find(decision.row->name);
+}
+
+std::string unknownName(std::string_view name, const Context& context) {
+    std::string text =
+        fill(context.say("no parameter is named {}", "kein Parameter heißt {}"), {printable(name)});
+    if (const auto near = reference::nearest(name); !near.empty())
+        text += fill(context.say("; the nearest name is {}", "; der ähnlichste Name ist {}"), {near});
+    return text;
+}
+
+std::string syntaxReason(const Decision& decision, const Context& context) {
+    const std::string term = printable(decision.term);
+    if (!decision.isVariable) {
+        if (const Parameter* parameter = reference::find(decision.term);
+            parameter != nullptr && !term.empty())
+            return fill(context.say("parameters are written with a prefix: TLX_{}",
+                                    "Parameter stehen mit Vorsatz: TLX_{}"),
+                        {parameter->name()});
+        return fill(context.say("'{}' is no number, command, parameter, operator or function",
+                                "'{}' ist weder Zahl noch Befehl, Parameter, Operator oder Funktion"),
+                    {term});
+    }
+    if (decision.row == nullptr) return unknownName(decision.variable.name, context);
+    const std::string value = printable(decision.variable.value.value_or(""));
+    if (value.empty()) return context.say("there is no value behind =", "hinter = steht kein Wert");
+    switch (typeOf(*decision.row).nature) {
+    case Nature::date:
+        return fill(context.say("'{}' is no date: YYYY-MM-DD", "'{}' ist kein Datum: JJJJ-MM-TT"), {value});
+    case Nature::time:
+        return fill(context.say("'{}' is no time: HH:MM:SS", "'{}' ist keine Uhrzeit: HH:MM:SS"), {value});
+    default:
+        return fill(context.say("'{}' is no number", "'{}' ist keine Zahl"), {value});
+    }
+}
+
+std::string rightsReason(const Decision& decision, const Context& context) {
+    int level = kepl::kShellLevel;
+    if (decision.isVariable && !decision.variable.value) {
+        level = kepl::kReadLevel;
+    } else if (decision.isVariable) {
+        level = std::max(kepl::kWriteLevel, decision.row != nullptr ? decision.row->userlevel : 0);
+    } else {
+        for (const kepl::CommandWord& word : kepl::commandWords())
+            if (word.command == decision.command && word.command != kepl::Command::shell)
+                level = word.lowestUid;
+    }
+    return fill(context.say("takes rights level {}", "verlangt Rechtestufe {}"), {std::to_string(level)});
+}
+
+std::string elementsOf(const stParamProperties& row, const Context& context) {
+    return fill(context.say("elements are {} to {}: TLX_{} {}", "Elemente sind {} bis {}: TLX_{} {}"),
+                {std::to_string(row.val_min_id), std::to_string(row.val_max_id), row.name,
+                 std::to_string(row.val_max_id)});
+}
+
+// ---- What happens in silence --------------------------------------------------------------------------
+
+// A term with what follows from its place in the line.
+struct Piece {
+    std::string_view text; // between the commas
+    std::string_view term;
+    Decision decision;
+    bool isLast;
+};
+
+class Look {
+public:
+    Look(std::string_view lookedAt, const LineAsked& how, const Context& person)
+        : line(lookedAt), asked(how), context(person) {}
+
+    std::vector<LineFinding> run() {
+        if (line.size() > kKeplMaxLine) {
+            add(0,
+                fill(context.say("{} characters: a line of more than 254 is refused whole",
+                                 "{} Zeichen: eine Zeile mit mehr als 254 wird ganz abgelehnt"),
+                     {std::to_string(line.size())}),
+                true);
+            return findings;
+        }
+        for (const Piece& piece : pieces()) {
+            const bool isHead = piece.isLast && !asked.isWhole;
+            if (isHead ? !lookAtHead(piece) : !lookAt(piece)) return findings;
+        }
+        if (asked.isWhole && !findings.empty()) return findings;
+        if (asked.isWhole && !line.empty() && saysValue && depth == 0)
+            add(0, context.say("the line has no value to answer", "die Zeile hat keinen Wert zu antworten"),
+                true);
+        return findings;
+    }
+
+private:
+    const std::string_view line;
+    const LineAsked& asked;
+    const Context& context;
+    std::vector<LineFinding> findings;
+    int depth = 0;                            // values on the stack
+    bool saysValue = true;                    // whether the top of the stack is the answer so far
+    bool topIsZero = false;                   // a literal 0 lies on top
+    const Parameter* numberWritten = nullptr; // by the term before
+
+    void add(std::size_t at, std::string text, bool isRefusal = false) {
+        findings.push_back({at, std::move(text), isRefusal});
+    }
+    std::size_t placeOf(const Piece& piece) const {
+        return static_cast<std::size_t>(piece.term.data() - line.data());
+    }
+
+    std::vector<Piece> pieces() const {
+        std::vector<Piece> all;
+        std::string_view rest = line;
+        for (;;) {
+            const std::string_view ahead = kepl::withoutLeading(rest, ',');
+            std::string_view term;
+            if (!kepl::takeTerm(rest, term)) break;
+            const std::string_view text = ahead.substr(0, ahead.size() - rest.size());
+            all.push_back({text, term, kepl::decide(term, asked.uid), rest.empty()});
+        }
+        return all;
+    }
+
+    // False when the line ends with this term.
+    bool lookAt(const Piece& piece) {
+        const Decision& decision = piece.decision;
+        if (piece.text.size() > kKeplMaxTerm)
+            add(placeOf(piece), context.say("more than 127 characters: the term is cut",
+                                            "mehr als 127 Zeichen: der Term wird abgeschnitten"));
+        if (decision.isRefused()) {
+            add(placeOf(piece), reasonOf(decision, context), true);
+            return false;
+        }
+        if (!lookAtStack(piece)) return false;
+        if (decision.isVariable) lookAtVariable(piece);
+        numberWritten =
+            decision.action == Action::write && !isText(*decision.row) ? parameterOf(decision) : nullptr;
+        return true;
+    }
+
+    bool lookAtStack(const Piece& piece) {
+        const Decision& decision = piece.decision;
+        const bool wasZero = topIsZero;
+        topIsZero = false;
+        switch (decision.action) {
+        case Action::push:
+            if (numberWritten != nullptr && piece.isLast)
+                add(placeOf(piece),
+                    fill(context.say(
+                             "is not answered behind a write; were decimals of {} meant, they stand behind a "
+                             "point",
+                             "wird hinter einem Schreiben nicht geantwortet; Dezimalen von {} stünden hinter "
+                             "einem Punkt"),
+                         {numberWritten->name()}));
+            ++depth;
+            topIsZero = decision.value->number() == 0;
+            return true;
+        case Action::readScalar:
+            saysValue = !isText(*decision.row);
+            depth += saysValue ? 1 : 0;
+            return true;
+        case Action::compute:
+            return lookAtOperation(piece, wasZero);
+        case Action::write:
+        case Action::setClock:
+        case Action::readElements:
+        case Action::readRecord:
+        case Action::command:
+        case Action::shell:
+        case Action::askForShell:
+        case Action::endProcess:
+            saysValue = false;
+            return true;
+        case Action::refuse:
+            break;
+        }
+        return true;
+    }
+
+    bool lookAtOperation(const Piece& piece, bool wasZero) {
+        const int operands = kepl::operandsOf(piece.decision.operation);
+        if (depth < operands) {
+            add(placeOf(piece),
+                fill(context.say("takes {} values from the stack, there are {}",
+                                 "nimmt {} Werte vom Stapel, da sind {}"),
+                     {std::to_string(operands), std::to_string(depth)}),
+                true);
+            return false;
+        }
+        if (piece.decision.operation == kepl::Operation::divide && wasZero) {
+            add(placeOf(piece), context.say("divides by zero", "teilt durch null"), true);
+            return false;
+        }
+        depth -= operands - 1;
+        return true;
+    }
+
+    void lookAtVariable(const Piece& piece) {
+        const Decision& decision = piece.decision;
+        if (decision.action == Action::write) lookAtWrite(piece, *parameterOf(decision));
+        const std::string_view behind =
+            kepl::withoutLeading(piece.term.substr(std::min(piece.term.find('='), piece.term.size())), '=');
+        if (decision.variable.value && behind.find('=') != behind.npos)
+            add(placeOf(piece), context.say("a second = ends the value", "ein zweites = beendet den Wert"));
+        const std::size_t length = leastAnswer(decision);
+        if (length > asked.answerRoom)
+            add(placeOf(piece),
+                fill(context.say("the answer has at least {} characters, {} fit: read less at once",
+                                 "die Antwort hat mindestens {} Zeichen, {} passen: weniger auf einmal "
+                                 "lesen"),
+                     {std::to_string(length), std::to_string(asked.answerRoom)}));
+    }
+
+    void lookAtWrite(const Piece& piece, const Parameter& parameter) {
+        const Value& given = *piece.decision.value;
+        const std::size_t at = placeOf(piece);
+        if (!given.isText()) {
+            if (!isInRange(parameter, given.number()))
+                add(at, fill(context.say("choices of {} are {}", "die Auswahl von {} ist {}"),
+                             {parameter.name(), range(parameter, context.language)}));
+            return;
+        }
+        const std::string_view value = *piece.decision.variable.value;
+        if (value.starts_with('"') && (value.size() < 2 || !value.ends_with('"')))
+            add(at,
+                piece.isLast
+                    ? context.say(
+                          "the text begins with a quote and loses its last character, which is none",
+                          "der Text beginnt mit einem Anführungszeichen und verliert sein letztes Zeichen, "
+                          "das keines ist")
+                    : context.say("a comma ends the text, whatever stands around it",
+                                  "ein Komma beendet den Text, was auch immer ihn umgibt"));
+        const auto room = static_cast<std::size_t>(parameter.textRoom());
+        const std::string_view text = given.text();
+        if (text.size() > room)
+            add(at, fill(context.say("the text is cut at {} characters",
+                                     "der Text wird nach {} Zeichen abgeschnitten"),
+                         {std::to_string(room)}));
+        if (isAddress(parameter.row()) && !isAddressText(text))
+            add(at, fill(context.say("'{}' is no address", "'{}' ist keine Adresse"), {printable(text)}));
+    }
+
+    // Characters of the answer when every value is as short as can be.
+    static std::size_t leastAnswer(const Decision& decision) {
+        const bool isRecord = decision.action == Action::readRecord;
+        if (!isRecord && decision.action != Action::readElements) return 0;
+        const Parameter& parameter = *parameterOf(decision);
+        const auto style = decision.variable.style;
+        std::size_t length = isRecord ? 8 : decision.variable.last - decision.variable.first > 1 ? 7 : 0;
+        const auto addOne = [&](const Type& type, std::size_t label) {
+            const std::size_t value = type.shownDecimals == 0 ? 1 : 8; // "0", "0.000000"
+            const std::size_t named =
+                parameter.name().size() + label + 10; // "TLX_", a separator, " = ", line end
+            if (style == kepl::Style::hex)
+                length += 2 * (type.width == Width::f64 ? 8 : 4);
+            else
+                length += style == kepl::Style::plain ? named + value - 1 : value + 1;
+        };
+        if (isRecord) {
+            for (const auto& member : reference::members(parameter))
+                addOne(typeOf(std::string_view(member.szMemberType) == "float" ? kTypeFloat : kTypeLong),
+                       std::string_view(member.aszMemberName).size());
+        } else {
+            for (VarLong k = decision.variable.first; k <= decision.variable.last; ++k)
+                addOne(parameter.type(), std::to_string(k).size());
+        }
+        return length - (style == kepl::Style::columns ? 1 : 0);
+    }
+
+    // The last term, of which only the head is known: its name, when something stands behind it, and whether
+    // that may be written.
+    bool lookAtHead(const Piece& piece) {
+        const std::string_view term = piece.term;
+        if (!piece.decision.isVariable) return true; // a number or a command may become anything
+        const std::string_view name = piece.decision.variable.name;
+        const std::string_view behind = term.substr(std::min(term.find_first_of(" =\r\n", 4), term.size()));
+        if (behind.empty()) return lookAtUnfinishedName(piece, term.substr(4));
+        if (piece.decision.row == nullptr) {
+            add(placeOf(piece), unknownName(name, context), true);
+            return false;
+        }
+        if (behind.find('=') == behind.npos) return true;
+        return lookAtHeadOfWrite(piece);
+    }
+
+    bool lookAtUnfinishedName(const Piece& piece, std::string_view head) {
+        const bool isBegun = std::ranges::any_of(reference::parameters(), [head](const Parameter& parameter) {
+            return !parameter.isTemplate() && startsIgnoringCase(parameter.name(), head);
+        });
+        if (!isBegun)
+            add(placeOf(piece),
+                fill(context.say("no name begins with {}", "kein Name beginnt mit {}"), {head}), true);
+        return isBegun;
+    }
+
+    // With a value that would be accepted: whatever is refused then is refused with any value.
+    bool lookAtHeadOfWrite(const Piece& piece) {
+        const Parameter& parameter = *parameterOf(piece.decision);
+        std::string term(piece.term.substr(0, piece.term.find('=')));
+        const Nature nature = parameter.type().nature;
+        term += nature == Nature::date   ? "=2024-01-01"
+                : nature == Nature::time ? "=00:00:00"
+                                         : fill("={}", {reference::shortNumber(leastNumber(parameter))});
+        const Decision decision = kepl::decide(term, asked.uid);
+        if (!decision.isRefused()) return true;
+        add(placeOf(piece), reasonOf(decision, context), true);
+        return false;
+    }
+};
+
+} // namespace
+
+std::string reasonOf(const Decision& decision, const Context& context) {
+    const Parameter* const parameter = parameterOf(decision);
+    switch (decision.refusal) {
+    case Refusal::rightsTooLow:
+        return rightsReason(decision, context);
+    case Refusal::syntaxError:
+        return syntaxReason(decision, context);
+    case Refusal::indexNotANumber:
+        return context.say(
+            "behind the name stands an index, a range as 1.5, or an option: -p, -c, -h",
+            "hinter dem Namen steht ein Index, ein Bereich wie 1.5 oder eine Option: -p, -c, -h");
+    case Refusal::noIndexAllowed:
+        return fill(context.say("{} has no elements", "{} hat keine Elemente"), {decision.row->name});
+    case Refusal::indexRequired:
+    case Refusal::indexTooLow:
+    case Refusal::indexTooHigh:
+    case Refusal::index1TooLow:
+    case Refusal::index1TooHigh:
+    case Refusal::index2TooLow:
+    case Refusal::index2TooHigh:
+        return elementsOf(*decision.row, context);
+    case Refusal::index1GreaterThanIndex2:
+        return context.say("the range runs backwards", "der Bereich läuft rückwärts");
+    case Refusal::valueTooLow:
+    case Refusal::valueTooHigh:
+        return fill(context.say("{} is out of range: {} {}", "{} liegt außerhalb: {} {}"),
+                    {reference::shortNumber(decision.value->number()), range(*parameter, context.language),
+                     parameter->unit()});
+    case Refusal::readOnly:
+        return fill(context.say("{} can only be read", "{} kann nur gelesen werden"), {decision.row->name});
+    case Refusal::writeOnly:
+        return fill(context.say("{} can only be written", "{} kann nur geschrieben werden"),
+                    {decision.row->name});
+    default:
+        return {};
+    }
+}
+
+std::vector<LineFinding> checkLine(std::string_view line, const LineAsked& asked, const Context& context) {
+    return Look(line, asked, context).run();
+}
+
+} // namespace talux::tool

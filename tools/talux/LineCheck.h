@@ -1,0 +1,35 @@
+// A line of the command language looked at without evaluating it: what will be refused and why, and what
+// happens in silence. The interpreter's own decisions stand behind it. Used by the shell after a refusal and
+// by lint.
+#ifndef TALUX_TOOLS_TALUX_LINECHECK_H
+#define TALUX_TOOLS_TALUX_LINECHECK_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ParamSystem/kepl/Decision.h"
+#include "tools/talux/Command.h"
+
+namespace talux::tool {
+
+struct LineFinding {
+    std::size_t at; // where the term begins in the line
+    std::string text;
+    bool isRefusal; // the line ends here with an error
+};
+
+struct LineAsked {
+    int uid = 3;
+    std::size_t answerRoom = 2998; // characters that an answer may have
+    bool isWhole = true;           // false: only the head of the line is known, the rest is not
+};
+
+std::vector<LineFinding> checkLine(std::string_view line, const LineAsked& asked, const Context& context);
+
+// Why a term is refused, in words, with the range or the nearest name.
+std::string reasonOf(const kepl::Decision& decision, const Context& context);
+
+} // namespace talux::tool
+
+#endif

@@ -1,0 +1,167 @@
+#include "tools/talux/LineReader.h"
+
+#include <csignal>
+#include <cstdio>
+#include <iostream>
+
+#ifdef TALUX_HAVE_LIBEDIT
+#include <cerrno>
+#include <clocale>
+#include <histedit.h>
+
+#include "tools/talux/Completion.h"
+#include "tools/talux/Text.h"
+#endif
+
+namespace talux::tool {
+
+namespace {
+
+// Also a person's, where there is no library to edit lines with.
+class Plain : public LineReader {
+public:
+    explicit Plain(const char* shownPrompt) : prompt(shownPrompt) {}
+
+    std::optional<std::string> next() override {
+        std::fputs(prompt, stdout);
+        std::fflush(stdout);
+        std::string line;
+        if (!std::getline(std::cin, line)) return {};
+        if (line.ends_with('\r')) line.pop_back();
+        return line;
+    }
+
+private:
+    const char* prompt;
+};
+
+constexpr char kPrompt[] = "talux> ";
+
+#ifdef TALUX_HAVE_LIBEDIT
+
+volatile std::sig_atomic_t interrupted = 0;
+void interrupt(int) {
+    interrupted = 1;
+}
+
+class Edited : public LineReader {
+public:
+    Edited(std::string file, const Context& person)
+        : historyFile(std::move(file)), context(person), past(history_init()),
+          editor(el_init("talux", stdin, stdout, stderr)) {
+        std::setlocale(LC_CTYPE, "");
+        catchInterrupts();
+        HistEvent event;
+        history(past, &event, H_SETSIZE, 1000);
+        history(past, &event, H_SETUNIQUE, 1);
+        if (!historyFile.empty()) history(past, &event, H_LOAD, historyFile.c_str());
+        el_set(editor, EL_CLIENTDATA, this);
+        el_set(
+            editor, EL_PROMPT, +[](EditLine*) { return const_cast<char*>(kPrompt); });
+        el_set(editor, EL_EDITOR, "emacs");
+        el_set(editor, EL_HIST, history, past);
+        el_set(editor, EL_ADDFN, "talux-complete", "Completes names and values", completeKey);
+        el_set(editor, EL_BIND, "^I", "talux-complete", nullptr);
+        el_set(editor, EL_BIND, "^R", "em-inc-search-prev", nullptr);
+    }
+    ~Edited() override {
+        el_end(editor);
+        history_end(past);
+    }
+    Edited(const Edited&) = delete;
+    Edited& operator=(const Edited&) = delete;
+
+    std::optional<std::string> next() override {
+        int count = 0;
+        interrupted = 0;
+        const char* const text = el_gets(editor, &count);
+        if (text == nullptr && interrupted != 0) {
+            el_reset(editor);
+            std::fputs("\n", stdout);
+            return std::string();
+        }
+        if (text == nullptr || count <= 0) {
+            std::fputs("\n", stdout);
+            return {};
+        }
+        std::string line(text, static_cast<std::size_t>(count));
+        line.erase(line.find_last_not_of("\r\n") + 1);
+        if (!line.empty()) remember(line);
+        return line;
+    }
+
+private:
+    const std::string historyFile;
+    const Context& context;
+    History* const past;
+    EditLine* const editor;
+
+    // A call that waits for a key must end, so it is not begun again by itself.
+    static void catchInterrupts() {
+        struct sigaction action {};
+        action.sa_handler = interrupt;
+        sigaction(SIGINT, &action, nullptr);
+    }
+
+    // Saved at once: the session may end any time.
+    void remember(const std::string& line) {
+        HistEvent event;
+        history(past, &event, H_ENTER, line.c_str());
+        if (!historyFile.empty()) history(past, &event, H_SAVE, historyFile.c_str());
+    }
+
+    static unsigned char completeKey(EditLine* editor, int /*key*/) {
+        void* self = nullptr;
+        el_get(editor, EL_CLIENTDATA, &self);
+        const LineInfo* const line = el_line(editor);
+        const std::string_view head(line->buffer, static_cast<std::size_t>(line->cursor - line->buffer));
+        const Completion completion = complete(head, static_cast<Edited*>(self)->context);
+        if (completion.candidates.empty()) return CC_REFRESH_BEEP;
+        const std::string text = completion.common();
+        const std::string_view typed = head.substr(head.size() - completion.typed);
+        if (text.size() > typed.size() || (completion.candidates.size() == 1 && text != typed)) {
+            el_deletestr(editor, static_cast<int>(completion.typed));
+            if (!text.empty()) el_insertstr(editor, text.c_str());
+            return CC_REFRESH;
+        }
+        if (completion.candidates.size() == 1) return CC_REFRESH;
+        showList(completion);
+        return CC_REDISPLAY;
+    }
+
+    // Choices with texts one below the other, names side by side.
+    static void showList(const Completion& completion) {
+        constexpr std::size_t kColumns = 80, kMost = 120;
+        std::size_t widest = 0;
+        for (const Candidate& candidate : completion.candidates)
+            widest = std::max(widest, width(candidate.label) + 2);
+        const std::size_t perLine = std::max<std::size_t>(1, kColumns / widest);
+        std::string text = "\n";
+        for (std::size_t k = 0; k < completion.candidates.size() && k < kMost; ++k) {
+            const bool endsLine = k % perLine == perLine - 1;
+            text += endsLine ? completion.candidates[k].label + "\n"
+                             : padded(completion.candidates[k].label, widest);
+        }
+        if (completion.candidates.size() > kMost) text += "..";
+        std::fputs((text + "\n").c_str(), stdout);
+    }
+};
+
+#endif
+
+} // namespace
+
+std::unique_ptr<LineReader> pipeReader() {
+    return std::make_unique<Plain>("");
+}
+
+std::unique_ptr<LineReader> terminalReader([[maybe_unused]] const std::string& historyFile,
+                                           [[maybe_unused]] const Context& context) {
+#ifdef TALUX_HAVE_LIBEDIT
+    return std::make_unique<Edited>(historyFile, context);
+#else
+    return std::make_unique<Plain>(kPrompt);
+#endif
+}
+
+} // namespace talux::tool

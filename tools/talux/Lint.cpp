@@ -1,0 +1,323 @@
+// talux lint: every line of a KEPL or Lua script looked at without running it.
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <set>
+#include <system_error>
+
+#include "tools/talux/Command.h"
+#include "tools/talux/LineCheck.h"
+#include "tools/talux/LuaTokens.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+constexpr std::size_t kLuaAnswerRoom = 998; // of talux_command
+constexpr std::size_t kMostFindings = 1000;
+
+struct Options {
+    std::vector<std::string> files;
+    int level = 3;
+};
+
+// Says FILE:LINE:COLUMN: finding.
+class Findings {
+public:
+    Findings(std::string fileName, std::string_view contents) : name(std::move(fileName)), script(contents) {}
+
+    void add(std::size_t at, const std::string& text) {
+        if (isFull()) return;
+        ++count;
+        moveTo(std::min(at, script.size()));
+        print(fill("{}:{}:{}: {}\n",
+                   {name, std::to_string(line), std::to_string(place - lineStart + 1), text}));
+    }
+
+    // There is no use in looking for more.
+    bool isFull() const { return count >= kMostFindings; }
+
+    void finish(const Context& context) const {
+        if (isFull())
+            print(fill(context.say("{}: {} findings are told, more are not looked for\n",
+                                   "{}: {} Befunde sind genannt, weitere nicht gesucht\n"),
+                       {name, std::to_string(count)}));
+    }
+
+    bool empty() const { return count == 0; }
+
+private:
+    const std::string name;
+    const std::string_view script;
+    std::size_t count = 0;
+    std::size_t place = 0, line = 1, lineStart = 0; // of the finding that was told last
+
+    void moveTo(std::size_t at) {
+        if (at < lineStart) place = lineStart = 0, line = 1;
+        for (; place < at; ++place)
+            if (script[place] == '\n') ++line, lineStart = place + 1;
+        place = at;
+    }
+};
+
+// ---- Files of the command language ------------------------------------------------------------------------
+
+void lintKepl(std::string_view script, const Options& options, Findings& findings, const Context& context) {
+    for (std::size_t start = 0; start < script.size() && !findings.isFull();) {
+        const std::size_t end = std::min(script.find('\n', start), script.size());
+        std::string_view line = script.substr(start, end - start);
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        if (line.find('\0') != line.npos)
+            findings.add(start, context.say("holds a NUL character: the line is refused whole",
+                                            "enthält ein NUL-Zeichen: die Zeile wird ganz abgelehnt"));
+        else if (!line.starts_with('#'))
+            for (const LineFinding& finding : checkLine(line, {.uid = options.level}, context))
+                findings.add(start + finding.at, finding.text);
+        start = end + 1;
+    }
+}
+
+// ---- Lua --------------------------------------------------------------------------------------------------
+
+// A text argument as far as it is constant.
+struct Constant {
+    std::string text;
+    std::vector<std::size_t> where;
+    bool isWhole = true;
+};
+
+class LuaLint {
+public:
+    LuaLint(std::string_view script, Findings& told, const Context& person)
+        : tokens(luaTokens(script)), findings(told), context(person) {}
+
+    void run() {
+        for (std::size_t k = 0; k + 1 < tokens.size() && !findings.isFull(); ++k) {
+            rememberAlias(k);
+            if (isCommand(k))
+                lintCommand(k + 1);
+            else if (isArrayGet(k))
+                lintArray(k + 3, tokens[k].text);
+            else if (isLayerCall(k))
+                lintLayer(k + 3);
+        }
+    }
+
+private:
+    const std::vector<LuaToken> tokens;
+    Findings& findings;
+    const Context& context;
+    std::set<std::string> aliases{"talux_command"};
+
+    const LuaToken& at(std::size_t k) const { return tokens[std::min(k, tokens.size() - 1)]; }
+    bool isText(std::size_t k) const { return at(k).kind == LuaToken::Kind::text; }
+    bool isName(std::size_t k) const { return at(k).kind == LuaToken::Kind::name; }
+
+    // A field or a method of the same name is another function.
+    bool isOwn(std::size_t k) const { return k == 0 || (!at(k - 1).is(".") && !at(k - 1).is(":")); }
+
+    // "local ask = talux_command"
+    void rememberAlias(std::size_t k) {
+        const bool isPlain =
+            at(k).is("local") && isName(k + 1) && at(k + 2).is("=") && at(k + 3).is("talux_command");
+        if (isPlain && !at(k + 4).is("(") && !isText(k + 4)) aliases.insert(at(k + 1).text);
+    }
+
+    bool isCommand(std::size_t k) const {
+        const bool isCall = at(k + 1).is("(") || isText(k + 1);
+        return isName(k) && aliases.contains(at(k).text) && isOwn(k) && isCall;
+    }
+
+    bool isArrayGet(std::size_t k) const {
+        return (at(k).is("talux_longarray") || at(k).is("talux_doublearray")) && at(k + 1).is(".") &&
+               at(k + 2).is("get") && at(k + 3).is("(");
+    }
+
+    // talux.get "Uearth", talux.set("Uearth", 35), ..
+    bool isLayerCall(std::size_t k) const {
+        constexpr std::string_view kFunctions[] = {"get", "set", "record", "parameter"};
+        return at(k).is("talux") && isOwn(k) && at(k + 1).is(".") &&
+               std::ranges::find(kFunctions, at(k + 2).text) != std::end(kFunctions) &&
+               (at(k + 3).is("(") || isText(k + 3));
+    }
+
+    // The constant that begins at token k, which is behind a "(" or a text in its place; nothing when what
+    // begins there is no constant.
+    std::optional<Constant> constantAt(std::size_t k) const {
+        bool isFormat = false;
+        if (at(k).is("string") && at(k + 1).is(".") && at(k + 2).is("format") && at(k + 3).is("(")) {
+            k += 4;
+            isFormat = true;
+        }
+        const bool isInBrackets = at(k).is("(") && isText(k + 1) && at(k + 2).is(")");
+        if (isInBrackets) ++k;
+        if (!isText(k)) return {};
+        Constant constant{at(k).text, at(k).where, true};
+        k += isInBrackets ? 2 : 1;
+        if (isFormat || (at(k).is(":") && at(k + 1).is("format"))) return headOfFormat(std::move(constant));
+        while (at(k).is("..") && isText(k + 1)) {
+            constant.text += at(k + 1).text;
+            constant.where.insert(constant.where.end(), at(k + 1).where.begin(), at(k + 1).where.end());
+            k += 2;
+        }
+        constant.isWhole = at(k).is(")") || at(k).is(",") || !isSign(k);
+        return constant;
+    }
+
+    bool isSign(std::size_t k) const { return at(k).kind == LuaToken::Kind::sign; }
+
+    // Up to the first "%" that stands for something.
+    static Constant headOfFormat(Constant constant) {
+        const std::size_t gap = constant.text.find('%');
+        constant.isWhole = false;
+        constant.text.resize(std::min(gap, constant.text.size()));
+        return constant;
+    }
+
+    // `k`: the "(" or the text itself. A text that is called without brackets is the whole argument.
+    std::optional<Constant> argumentAt(std::size_t k) const {
+        if (isText(k)) return Constant{at(k).text, at(k).where, true};
+        return constantAt(k + 1);
+    }
+
+    void lintCommand(std::size_t k) {
+        const auto constant = argumentAt(k);
+        if (!constant) return;
+        const auto place = [&](std::size_t offset) {
+            return offset < constant->where.size() ? constant->where[offset] : at(k).at;
+        };
+        if (const auto nul = constant->text.find('\0'); nul != std::string::npos) {
+            findings.add(place(nul), context.say("holds a NUL character: the line is refused whole",
+                                                 "enthält ein NUL-Zeichen: die Zeile wird ganz abgelehnt"));
+            return;
+        }
+        const LineAsked asked{.answerRoom = kLuaAnswerRoom, .isWhole = constant->isWhole};
+        for (const LineFinding& finding : checkLine(constant->text, asked, context))
+            findings.add(place(finding.at), finding.text);
+    }
+
+    // talux_longarray.get(array, "TLX_name", first, last); `k`: the "(".
+    void lintArray(std::size_t k, std::string_view table) {
+        std::size_t argument = k + 1;
+        if (!skipArgument(argument)) return;
+        const auto constant = constantAt(argument);
+        if (!constant || !constant->isWhole) return;
+        const std::size_t place = at(argument).at;
+        const std::string_view name = constant->text;
+        const Parameter* const parameter = name.size() > 4 ? reference::find(name.substr(4)) : nullptr;
+        if (parameter == nullptr || parameter->isTemplate()) {
+            std::string text =
+                fill(context.say("no parameter is named {}", "kein Parameter heißt {}"), {printable(name)});
+            if (const auto near = reference::nearest(name); !near.empty())
+                text += fill(context.say("; the nearest name is TLX_{}", "; der ähnlichste Name ist TLX_{}"),
+                             {near});
+            findings.add(place, text);
+            return;
+        }
+        lintElements(argument, *parameter, table == "talux_longarray" ? Kind::Long : Kind::Double);
+    }
+
+    void lintElements(std::size_t argument, const Parameter& parameter, Kind wanted) {
+        const std::string name(parameter.name());
+        if (!parameter.isIndexed()) {
+            findings.add(at(argument).at,
+                         fill(context.say("{} has no elements", "{} hat keine Elemente"), {name}));
+            return;
+        }
+        if (parameter.type().kind != wanted)
+            findings.add(at(argument).at, fill(context.say("{} is {} and does not fit this kind of array",
+                                                           "{} ist {} und passt nicht in diese Art Feld"),
+                                               {name, parameter.type().name}));
+        while (skipArgument(argument)) {
+            const auto number = numberAt(argument);
+            if (number && (*number < parameter.row().val_min_id || *number > parameter.row().val_max_id))
+                findings.add(at(argument).at, fill(context.say("elements of {} are {} to {}",
+                                                               "Elemente von {} sind {} bis {}"),
+                                                   {name, std::to_string(parameter.row().val_min_id),
+                                                    std::to_string(parameter.row().val_max_id)}));
+        }
+    }
+
+    void lintLayer(std::size_t k) {
+        const auto constant = argumentAt(k);
+        if (!constant || !constant->isWhole || reference::find(constant->text) != nullptr) return;
+        std::string text = fill(context.say("no parameter is named {}", "kein Parameter heißt {}"),
+                                {printable(constant->text)});
+        if (const auto near = reference::nearest(constant->text); !near.empty())
+            text += fill(context.say("; the nearest name is {}", "; der ähnlichste Name ist {}"), {near});
+        findings.add(constant->where.empty() ? at(k).at : constant->where[0], text);
+    }
+
+    // Moves behind the next comma of the argument list; false when the list ends before.
+    bool skipArgument(std::size_t& k) const {
+        for (int depth = 0; k + 1 < tokens.size(); ++k) {
+            if (at(k).is("(") || at(k).is("{") || at(k).is("[")) ++depth;
+            if (at(k).is(")") || at(k).is("}") || at(k).is("]")) --depth;
+            if (depth < 0) return false;
+            if (depth == 0 && at(k).is(",")) {
+                ++k;
+                return true;
+            }
+        }
+        return false;
+    }
+
+    // A whole number that is the whole argument.
+    std::optional<long> numberAt(std::size_t k) const {
+        const bool isNegative = at(k).is("-");
+        if (isNegative) ++k;
+        if (at(k).kind != LuaToken::Kind::number || !(at(k + 1).is(",") || at(k + 1).is(")"))) return {};
+        const std::string& digits = at(k).text;
+        long number = 0;
+        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+        if (error != std::errc() || end != digits.data() + digits.size()) return {};
+        return isNegative ? -number : number;
+    }
+};
+
+// ---- Command ----------------------------------------------------------------------------------------------
+
+std::string contentsOf(const std::string& path, const Context& context) {
+    errno = 0;
+    std::ifstream file(path, std::ios::binary);
+    std::string contents{std::istreambuf_iterator<char>(file), {}};
+    if (file && errno == 0) return contents;
+    throw CouldNot(fill(context.say("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}"),
+                        {path, std::generic_category().message(errno)}));
+}
+
+Status run(const Options& options, const Context& context) {
+    Status status = kNothing;
+    for (const std::string& path : options.files) {
+        const std::string script = contentsOf(path, context);
+        Findings findings(path, script);
+        if (path.ends_with(".lua"))
+            LuaLint(script, findings, context).run();
+        else
+            lintKepl(script, options, findings, context);
+        findings.finish(context);
+        if (!findings.empty()) status = kFound;
+    }
+    return status;
+}
+
+} // namespace
+
+void addLint(CLI::App& app, Commands& commands) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* const command =
+        app.add_subcommand("lint", "every line of a KEPL or Lua script, without running it");
+    command->add_option("FILE", options->files, "scripts; *.lua are Lua, all others lines of KEPL")
+        ->required();
+    command->add_option("--level", options->level, "rights that lines of KEPL have, 0 to 3; 3 if not given")
+        ->check(CLI::Range(0, 3));
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+}
+
+} // namespace talux::tool

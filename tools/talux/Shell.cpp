@@ -1,0 +1,168 @@
+// talux shell: the command language with completion, history and help.
+#include "tools/talux/Shell.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <unistd.h>
+
+#include "ParamSystem/KEPL_Interpreter.h"
+#include "ParamSystem/support/Text.h"
+#include "tools/talux/Command.h"
+#include "tools/talux/Explain.h"
+#include "tools/talux/LineCheck.h"
+#include "tools/talux/LineReader.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+struct Options {
+    int level = 2;
+};
+
+constexpr const char* kHelpEnglish =
+    R"(A line holds terms with commas between them, carried out from left to right.
+  TLX_NAME [-p|-c|-h]        read a parameter or a record
+  TLX_NAME 5, TLX_NAME 1.5   read elements; -p values only, -c in one line, -h bytes
+  TLX_NAME = VALUE           write; settings are staged until update, save or a load
+  load, load_ip, load_sec [FILE]    load a parameter file and make it live
+  save, save_ip, save_sec           make everything staged live and write the file
+  update                     make everything staged live
+  + - * / sin cos tan deg rad sqr sqrt    operands first: TLX_U12,1000,/
+  system COMMAND             run a shell command (level 3)
+  help NAME                  explain a parameter
+  quit                       end, as ctrl-D; ctrl-C gives a line up, Tab completes
+)";
+
+constexpr const char* kHelpGerman =
+    R"(Eine Zeile enthält Terme mit Kommas dazwischen, ausgeführt von links nach rechts.
+  TLX_NAME [-p|-c|-h]        einen Parameter oder Datensatz lesen
+  TLX_NAME 5, TLX_NAME 1.5   Elemente lesen; -p nur Werte, -c in einer Zeile, -h Bytes
+  TLX_NAME = WERT            schreiben; Einstellungen warten auf update, save oder ein load
+  load, load_ip, load_sec [DATEI]   eine Parameterdatei laden und aktivieren
+  save, save_ip, save_sec           alles Anstehende aktivieren und die Datei schreiben
+  update                     alles Anstehende aktivieren
+  + - * / sin cos tan deg rad sqr sqrt    Operanden zuerst: TLX_U12,1000,/
+  system BEFEHL              einen Shell-Befehl ausführen (Stufe 3)
+  help NAME                  einen Parameter erklären
+  quit                       Ende, wie Strg-D; Strg-C verwirft die Zeile, Tab ergänzt
+)";
+
+// Shell terms send their output as it comes.
+void showOutput(char* text, int /*isMore*/) {
+    std::fputs(text, stdout);
+    std::fflush(stdout);
+}
+
+// In the folder for a user's state, which is made when it is missing; empty when there is none to be had.
+std::string historyFile() {
+    const char* const state = std::getenv("XDG_STATE_HOME");
+    const char* const home = std::getenv("HOME");
+    std::filesystem::path folder;
+    if (state != nullptr && *state == '/')
+        folder = state;
+    else if (home != nullptr && *home == '/')
+        folder = std::filesystem::path(home) / ".local/state";
+    else
+        return {};
+    folder /= "talux";
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    return error ? std::string() : (folder / "history").string();
+}
+
+class Shell {
+public:
+    Shell(const Options& options, const Context& person)
+        : context(person), level(options.level), directory(person.directory), interpreter(directory.data()) {}
+
+    Status run() {
+        const bool isPerson = isatty(STDIN_FILENO) == 1;
+        const auto reader = isPerson ? terminalReader(historyFile(), context) : pipeReader();
+        bool refused = false;
+        while (const auto line = reader->next()) {
+            if (*line == kQuitWord) break;
+            refused |= !take(*line);
+            std::fflush(stdout);
+        }
+        return refused && !isPerson ? kFound : kNothing;
+    }
+
+private:
+    const Context& context;
+    const int level;
+    std::string directory;
+    KEPL_Interpreter interpreter;
+
+    // False when the line was refused. Lines that begin with a hash mark are comments of scripts.
+    bool take(const std::string& line) {
+        if (line.starts_with('#')) return true;
+        if (line == kHelpWord) return print(context.say(kHelpEnglish, kHelpGerman)), true;
+        if (line.starts_with(kHelpWord) && line[kHelpWord.size()] == ' ')
+            return explainName(line.substr(kHelpWord.size() + 1));
+        return evaluate(line);
+    }
+
+    bool explainName(const std::string& name) const {
+        try {
+            explain(name, context);
+            return true;
+        } catch (const CouldNot& error) {
+            std::fprintf(stderr, "%s\n", error.what());
+            return false;
+        }
+    }
+
+    bool evaluate(const std::string& line) {
+        if (line.find('\0') != line.npos) return refuse(kepl::textOf(kepl::Refusal::syntaxError), line);
+        std::string copy = line;
+        char terminator[] = "\n";
+        char answer[kKeplTextSize + sizeof terminator] = "";
+        char error[128] = "";
+        const int result = interpreter.ProcessLine(copy.data(), showOutput, answer, terminator, level);
+        if (result == kLineEmpty) return true;
+        interpreter.GetError(error, sizeof error);
+        if (result == kLineError) return refuse(error, line);
+        if (answer == std::string(kepl::textOf(kepl::Refusal::rightsTooLow)) + terminator)
+            return refuse(kepl::textOf(kepl::Refusal::rightsTooLow), line);
+        warn(line);
+        if (answer != std::string_view(terminator)) print(answer);
+        return true;
+    }
+
+    bool refuse(const char* text, const std::string& line) const {
+        std::fflush(stdout);
+        std::fprintf(stderr, "%s\n", text);
+        for (const LineFinding& finding : checkLine(line, {.uid = level}, context))
+            if (finding.isRefusal) std::fprintf(stderr, "  %s\n", finding.text.c_str());
+        return false;
+    }
+
+    // What went through in silence and was perhaps not meant.
+    void warn(const std::string& line) const {
+        std::fflush(stdout);
+        for (const LineFinding& finding : checkLine(line, {.uid = level}, context))
+            std::fprintf(stderr, "  %s\n", finding.text.c_str());
+    }
+};
+
+Status run(const Options& options, const Context& context) {
+    attachDevice(Attachment::readWrite, context);
+    return Shell(options, context).run();
+}
+
+} // namespace
+
+void addShell(CLI::App& app, Commands& commands) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* const command =
+        app.add_subcommand("shell", "the command language with completion, history, help");
+    command->add_option("--level", options->level, "rights, 0 to 3; 2 if not given")->check(CLI::Range(0, 3));
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+}
+
+} // namespace talux::tool
