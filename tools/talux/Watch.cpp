@@ -76,16 +76,13 @@ Wanted wantedBy(const std::string& text, const Context& context) {
     wanted.last = row.val_max_id;
     if (name.size() == text.size()) return wanted;
     const char* const end = text.data() + text.size();
-    auto [next, error] = std::from_chars(text.data() + name.size() + 1, end, wanted.first);
+    auto read = std::from_chars(text.data() + name.size() + 1, end, wanted.first);
     wanted.last = wanted.first;
-    if (error == std::errc() && next != end && *next == '.') {
-        const auto second = std::from_chars(next + 1, end, wanted.last);
-        next = second.ptr;
-        error = second.ec;
-    }
+    if (read.ec == std::errc() && read.ptr != end && *read.ptr == '.')
+        read = std::from_chars(read.ptr + 1, end, wanted.last);
     const bool fits =
         wanted.first >= row.val_min_id && wanted.last <= row.val_max_id && wanted.first <= wanted.last;
-    if (error != std::errc() || next != end || !wanted.parameter->isIndexed() || !fits)
+    if (read.ec != std::errc() || read.ptr != end || !wanted.parameter->isIndexed() || !fits)
         throw CouldNot(
             fill(context.say("'{}': no such element; elements are {} to {}",
                              "'{}': kein solches Element; Elemente sind {} bis {}"),
@@ -114,7 +111,7 @@ std::string timeOfDay() {
     clock_gettime(CLOCK_REALTIME, &now);
     std::tm local{};
     localtime_r(&now.tv_sec, &local);
-    char text[40], milliseconds[16];
+    char text[40], milliseconds[24];
     std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local);
     std::snprintf(milliseconds, sizeof milliseconds, ".%03ld", now.tv_nsec / 1000000);
     return std::string(text) + milliseconds;
