@@ -23,6 +23,11 @@ inline int lastId(const Parameter& parameter) {
 inline bool isCommand(const Parameter& parameter) {
     return parameter.type().code == kTypeCommand;
 }
+// Whether a write is accepted and has no effect.
+inline bool ignoresWrites(const Parameter& parameter) {
+    return parameter.row().val_access != kReadOnly &&
+           (isCommand(parameter) || parameter.type().nature == Nature::record);
+}
 inline bool isChoice(const Parameter& parameter) {
     return parameter.type().kind == Kind::Enum;
 }

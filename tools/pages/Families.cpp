@@ -76,7 +76,7 @@ std::string kindLine(const Parameter& parameter) {
 }
 
 std::string writeLine(const Parameter& parameter) {
-    if (isCommand(parameter)) return "a write does nothing";
+    if (ignoresWrites(parameter)) return "a write does nothing";
     if (parameter.writeLevel() == 0) return "read only";
     return "write: level " + std::to_string(parameter.writeLevel());
 }

@@ -26,8 +26,8 @@ Every parameter of the device, in English and German.
 | [By name](by-name.md), [by id](by-id.md) | every parameter |
 | the pages of the families, below | every parameter in the order of the menus |
 
-How settings are changed, made live and kept stands in [Commissioning](../commissioning.md), the language of the
-lines in [KEPL](../kepl.md).
+At the relay `talux explain NAME` tells the same and the values. How settings are changed, made live and kept stands in
+[Commissioning](../commissioning.md), the language of the lines in [KEPL](../kepl.md).
 
 ## How to read a row
 
@@ -47,7 +47,7 @@ with an id of its own: `TLX_vBE 5`.
 | `parameter.ini`, `sec_parameter.ini`, `ip_config.ini` | the [file](../files.md) that keeps the setting |
 | run-time value | measured value, state, process image: live at once, in no file, zero after power-up |
 | write: level 2 | the rights that a write takes. Scripts and the entry functions have level 3 |
-| read only, a write does nothing | the language refuses a write; a command keeps no value: a write is accepted and has no effect |
+| read only, a write does nothing | the language refuses a write; a write to a command or a record is accepted and has no effect |
 
 **Texts.** Title, description, choices; in *italics* what else must be known, also what is *not* known here: where a
 number is only passed on to another program, ask for its meaning before setting it. "as X" points to choices that

@@ -114,6 +114,7 @@ void addValue(Object& object, const Parameter& parameter) {
     if (parameter.isSetting()) object.add("factory", parameter.hasNumber() ? factory : quoted(factory + " "));
     addLimits(object, parameter);
     object.add("file", static_cast<int>(parameter.file())).add("level", parameter.writeLevel());
+    if (ignoresWrites(parameter)) object.add("idle", 1);
     if (lineRoom(parameter) > 0) object.add("room", lineRoom(parameter));
     if (parameter.row().val_len > 0) object.add("meant", parameter.row().val_len);
 }
