@@ -165,18 +165,18 @@ private:
 
 TermResult accessVariable(const Decision& decision, char* txt, Slot slot) {
     if (decision.isRefused()) return refused(decision.refusal);
-    VariableAccess access(decision, txt, slot);
+    VariableAccess variable(decision, txt, slot);
     switch (decision.action) {
     case Action::readScalar:
-        return access.readScalar();
+        return variable.readScalar();
     case Action::readElements:
-        return access.readElements();
+        return variable.readElements();
     case Action::readRecord:
-        return access.readRecord();
+        return variable.readRecord();
     case Action::write:
-        return access.write();
+        return variable.write();
     default:
-        return access.setClock();
+        return variable.setClock();
     }
 }
 
