@@ -1,16 +1,13 @@
-// A literal model of the command language: a line goes in; answer, error, events and both spaces come out.
+// A literal model of the command language. It works on the store itself and notes what it would do to the
+// machine.
 #ifndef TALUX_TEST_KEPLMODEL_H
 #define TALUX_TEST_KEPLMODEL_H
 
-#include <algorithm>
 #include <cmath>
 #include <cstdarg>
-#include <cstring>
-#include <ctime>
 #include <optional>
-#include <string>
-#include <vector>
 
+#include "Machine.h"
 #include "Store.h"
 
 namespace talux_test {
@@ -48,22 +45,28 @@ inline std::string withoutBlanks(const std::string& text) {
     return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
-// The first word of a text as a number.
+// The first word of a text, as a whole, converted; why not: -1 no text, -2 no number.
 template <typename Convert>
-auto parse(const std::string& text, Convert convert) {
-    const Words words = tokens(text.substr(0, 50), " ");
+auto parse(const std::string& text, Convert convert, int& why) {
+    const Words words = tokens(text, " ");
     char* end = nullptr;
     const auto value = convert(words.empty() ? "" : words[0].c_str(), &end);
-    return text.size() < 50 && !words.empty() && *end == '\0' ? std::optional(value) : std::nullopt;
+    why = text.size() > 49 || words.empty() ? -1 : *end == '\0' ? 1 : -2;
+    return why == 1 ? std::optional(value) : std::nullopt;
 }
 inline std::optional<double> makeDouble(const std::string& text) {
-    return parse(text, [](const char* word, char** end) { return std::strtod(word, end); });
+    int why;
+    return parse(
+        text, [](const char* word, char** end) { return std::strtod(word, end); }, why);
+}
+template <int base = 10>
+std::int32_t longOf(const char* word, char** end) {
+    const long long number = std::strtoll(word, end, base);
+    return static_cast<std::int32_t>(std::clamp<long long>(number, INT32_MIN, INT32_MAX));
 }
 inline std::optional<std::int32_t> makeLong(const std::string& text) {
-    return parse(text, [](const char* word, char** end) {
-        const long long number = std::strtoll(word, end, 10);
-        return static_cast<std::int32_t>(std::clamp<long long>(number, INT32_MIN, INT32_MAX));
-    });
+    int why;
+    return parse(text, longOf<10>, why);
 }
 
 inline std::string print(double number, int type) {
@@ -83,13 +86,13 @@ inline int resultType(int left, int right) {
     return rank(left) < 6 && rank(right) < 6 && rank(right) > rank(left) ? right : left;
 }
 
+inline bool isText(int type) {
+    return type == 2011 || (type >= 2013 && type <= 2021);
+}
+
 struct Model {
-    std::string spaces[2], records;
-    Words events;
-    std::string iniPath, pipe, errors;
-    std::time_t now = 0;
+    std::string iniPath;
     int board = -1, storeResult = 1;
-    bool pipesFail = false;
 
     struct Outcome {
         int result;
@@ -99,55 +102,17 @@ struct Model {
             return out << outcome.result << " '" << outcome.answer << "' error '" << outcome.error << "'";
         }
     };
+    struct Value {
+        double number;
+        int type;
+    };
     // Of a variable term: its text, what it leaves on the stack, its error.
     struct Reply {
         int result;
         std::string text;
-        std::optional<std::pair<double, int>> slot = {};
+        std::optional<Value> slot = {};
         std::string error = {};
     };
-
-    std::string stamp() const { return format(" @%zx", std::hash<std::string>()(spaces[0] + spaces[1])); }
-    void note(const std::string& event) { events.push_back(event + stamp()); }
-
-    // ---- Values ----
-
-    static const Block* blockOf(int id) {
-        const Block* found = nullptr;
-        for (const Block& block : kBlocks) // of int and long, long
-            if (block.holds(id) && (found == nullptr || block.type == 2004)) found = &block;
-        return found;
-    }
-    char* slotOf(const Block& block, const stParamProperties& row, int id) {
-        return &spaces[row.is_volatile != 0][block.slotOf(id)];
-    }
-    double numberOf(const stParamProperties& row, int id) {
-        const Block* const block = blockOf(id);
-        return block == nullptr ? 0 : block->number(slotOf(*block, row, id));
-    }
-    std::string textOf(const stParamProperties& row, int id) {
-        const std::tm clock = *std::localtime(&now);
-        if (row.type == 2015)
-            return format("%04d-%02d-%02d", clock.tm_year + 1900, clock.tm_mon + 1, clock.tm_mday);
-        if (row.type == 2016) return format("%02d:%02d:%02d", clock.tm_hour, clock.tm_min, clock.tm_sec);
-        return blockOf(id)->textIn(slotOf(*blockOf(id), row, id));
-    }
-    void put(const stParamProperties& row, int id, double number) {
-        const auto whole = static_cast<std::int32_t>(std::clamp(number, -2147483648.0, 2147483647.0));
-        const auto positive = static_cast<std::uint32_t>(std::clamp(number, 0.0, 4294967295.0));
-        const auto narrow = static_cast<float>(number);
-        for (const Block& block : kBlocks)
-            if (block.holds(id) && block.number != nullptr)
-                std::memcpy(slotOf(block, row, id),
-                            block.type == 2002   ? static_cast<const void*>(&number)
-                            : block.type == 2003 ? static_cast<const void*>(&narrow)
-                            : block.type == 2010 ? static_cast<const void*>(&positive)
-                                                 : &whole,
-                            block.size);
-    }
-
-    // ---- Variable terms ----
-
     struct Term {
         std::string name = "???", value;
         bool isWrite = false;
@@ -156,7 +121,32 @@ struct Model {
         std::int32_t index[2] = {0, 0};
     };
 
-    Reply command(const std::string& text, int uid, bool hasSlot) {
+    static const Block* blockOf(int id) { // none for commands; of int and long, long
+        const auto holds = [=](const Block& block) { return block.holds(id) && block.type != 2008; };
+        const auto* const block = std::ranges::find_if(kBlocks, holds);
+        return block == std::end(kBlocks) ? nullptr : block;
+    }
+    static std::string bytesOf(const stParamProperties& row, int id) {
+        return bytes(raw(row.is_volatile != 0) + blockOf(id)->slotOf(id), blockOf(id)->size);
+    }
+    static double numberOf(const stParamProperties& row, int id) {
+        return blockOf(id) == nullptr ? 0 : blockOf(id)->number(bytesOf(row, id).data());
+    }
+    static std::string textOf(const stParamProperties& row, int id) {
+        const std::tm clock = *std::localtime(&machine.now);
+        if (row.type == 2015)
+            return format("%04d-%02d-%02d", clock.tm_year + 1900, clock.tm_mon + 1, clock.tm_mday);
+        if (row.type == 2016) return format("%02d:%02d:%02d", clock.tm_hour, clock.tm_min, clock.tm_sec);
+        const std::string slot = bytesOf(row, id);
+        return {slot.data(), strnlen(slot.data(), slot.size() - 1)};
+    }
+    static void put(const stParamProperties& row, int id, void* value) {
+        (row.is_volatile == 0 ? VarSetValue : VarSetGlobalValue)(id, static_cast<double*>(value));
+    }
+
+    // ---- Variable terms ----
+
+    Reply command(const std::string& text, int uid, bool hasSlot) const {
         const auto refuse = [&](const std::string& why) {
             if (why == kRights) note("log 3 " + text + " " + why);
             return Reply{-1, "", {}, why};
@@ -207,12 +197,10 @@ struct Model {
         if (term.isWrite) return write(term, *row);
         if (term.indices > 0) return readElements(term, *row, hasSlot);
         if (row->type == 2022) return readRecord(term, *row);
-        if (isText(row->type)) return {1, '"' + textOf(*row, row->id) + '"', {{0.0, row->type}}};
+        if (isText(row->type)) return {1, '"' + textOf(*row, row->id) + '"', Value{0, row->type}};
         if (!hasSlot) return refuse(kSyntax);
-        return {1, "", {{numberOf(*row, row->id), row->type}}};
+        return {1, "", Value{numberOf(*row, row->id), row->type}};
     }
-
-    static bool isText(int type) { return type == 2011 || (type >= 2013 && type <= 2021); }
 
     // Appends one value of a dump; false when the answer is full.
     static bool append(std::string& text, char option, const std::string& label, const std::string& shown,
@@ -226,50 +214,48 @@ struct Model {
         return true;
     }
 
-    Reply readElements(const Term& term, const stParamProperties& row, bool hasSlot) {
-        std::string text = term.index[1] - term.index[0] > 1 ? "ARRAY:\n" : "";
+    static Reply readElements(const Term& term, const stParamProperties& row, bool hasSlot) {
+        Reply reply{1, term.index[1] - term.index[0] > 1 ? "ARRAY:\n" : ""};
         const char option = term.option == ' ' && term.indices == 1 ? 'p' : term.option;
-        Reply reply{1, ""};
-        for (std::int32_t k = term.index[0]; k <= term.index[1]; ++k) {
+        for (std::int32_t k = term.index[0]; k <= term.index[1] && reply.result == 1; ++k) {
             const int id = row.id + k - 1;
-            const bool isNumber = !isText(row.type);
-            const double number = isNumber ? numberOf(row, id) : 0;
-            if (hasSlot) reply.slot = {number, row.type};
-            if (option == 'h' && row.type == 2012) return {-1, text, reply.slot, "type unknown"};
-            if (!append(text, option, format("TLX_%s %d", row.name, k),
-                        isNumber ? print(number, row.type) : '"' + textOf(row, id) + '"',
-                        isNumber ? std::string(slotOf(*blockOf(id), row, id), blockOf(id)->size)
-                                 : textOf(row, id),
-                        k == 1))
-                return {-1, text, reply.slot, kFull};
+            const double number = isText(row.type) ? 0 : numberOf(row, id);
+            const std::string shown =
+                isText(row.type) ? '"' + textOf(row, id) + '"' : print(number, row.type);
+            const std::string stored = isText(row.type) ? textOf(row, id) : bytesOf(row, id);
+            if (hasSlot) reply.slot = Value{number, row.type};
+            if (option == 'h' && row.type == 2012)
+                reply.result = -1, reply.error = "type unknown";
+            else if (!append(reply.text, option, format("TLX_%s %d", row.name, k), shown, stored, k == 1))
+                reply.result = -1, reply.error = kFull;
         }
-        reply.text = text;
         return reply;
     }
 
-    Reply readRecord(const Term& term, const stParamProperties& row) {
+    static Reply readRecord(const Term& term, const stParamProperties& row) {
         const int record = row.id - 30000;
-        const auto size = static_cast<std::size_t>(ARR_StructSize[record]);
-        const char* const bytes = records.data() + ARR_StructOffset[record];
-        std::string text = "STRUCT:\n";
+        Reply reply{1, "STRUCT:\n"};
         const auto* member = ARR_StructMemberProperties + ARR_MemberOffset[record];
-        for (std::size_t at = 0; at < size; at += static_cast<std::size_t>(member++->iMemberBitsize) / 8) {
+        for (int at = 0; at < ARR_StructSize[record]; at += member++->iMemberBitsize / 8) {
+            const char* const place = rawRecords() + ARR_StructOffset[record] + at;
             const std::string type = member->szMemberType;
-            const std::string raw(bytes + at, static_cast<std::size_t>(member->iMemberBitsize / 8));
-            if (type == "odd") return {-1, text, {}, "type unknown"};
-            const std::string shown = type == "float"    ? print(numberIn<float>(raw.data()), 2003)
-                                      : type == "double" ? print(numberIn<double>(raw.data()), 2002)
-                                      : raw.size() == 2  ? print(numberIn<std::int16_t>(raw.data()), 2008)
-                                                         : print(numberIn<std::int32_t>(raw.data()), 2004);
+            if (type == "odd") return {-1, reply.text, {}, "type unknown"};
+            const std::string shown = type == "float"    ? print(numberIn<float>(place), 2003)
+                                      : type == "double" ? print(numberIn<double>(place), 2002)
+                                      : member->iMemberBitsize == 16
+                                          ? print(numberIn<std::int16_t>(place), 2008)
+                                          : print(numberIn<std::int32_t>(place), 2004);
             const std::string label = format("TLX_%s.%s", row.name, member->aszMemberName);
-            if (!append(text, term.option, label, shown, raw, at == 0)) return {-1, text, {}, kFull};
+            const std::string stored = bytes(place, static_cast<std::size_t>(member->iMemberBitsize / 8));
+            if (!append(reply.text, term.option, label, shown, stored, at == 0))
+                return {-1, reply.text, {}, kFull};
         }
-        return {1, text};
+        return reply;
     }
 
-    bool clockWith(const std::string& value, bool isDate, std::time_t& moment) const {
+    static bool clockWith(const std::string& value, bool isDate, std::time_t& moment) {
         const Words words = tokens(value, isDate ? "-\"" : ":\"");
-        std::tm clock = *std::localtime(&now);
+        std::tm clock = *std::localtime(&machine.now);
         int* const fields[] = {isDate ? &clock.tm_year : &clock.tm_hour,
                                isDate ? &clock.tm_mon : &clock.tm_min,
                                isDate ? &clock.tm_mday : &clock.tm_sec};
@@ -282,80 +268,77 @@ struct Model {
         return (moment = std::mktime(&clock)) != -1;
     }
 
-    Reply write(const Term& term, const stParamProperties& row) {
+    static Reply write(const Term& term, const stParamProperties& row) {
         const int id = row.id + (term.indices > 0 ? term.index[0] - 1 : 0);
         std::string value = term.value;
-        if (row.type == 2015 || row.type == 2016) {
-            std::time_t moment;
-            if (!clockWith(value, row.type == 2015, moment)) return {-1, "", {}, kSyntax};
-            blockOf(id)->putText(slotOf(*blockOf(id), row, id), value.c_str());
-            note(format("clock %lld", static_cast<long long>(moment)));
-            note("$ hwclock --systohc --utc --noadjfile");
-            return {0, "", {{0.0, row.type}}};
-        }
         if (!isText(row.type)) {
-            const auto number = makeDouble(value);
+            auto number = makeDouble(value);
             if (!number || std::isnan(*number)) return {-1, "", {}, kSyntax};
             if (*number < row.val_min) return {-1, "", {}, "<< VALUE TOO LOW >>"};
             if (*number > row.val_max) return {-1, "", {}, "<< VALUE TOO HIGH >>"};
-            put(row, id, *number);
+            return put(row, id, &*number), Reply{0, ""};
+        }
+        const bool isClock = row.type == 2015 || row.type == 2016;
+        std::time_t moment;
+        if (isClock && !clockWith(value, row.type == 2015, moment)) return {-1, "", {}, kSyntax};
+        if (!isClock && value[0] == '"') value = value.size() < 2 ? "" : value.substr(1, value.size() - 2);
+        put(row, id, value.data());
+        if (isClock) {
+            note(format("clock %lld", static_cast<long long>(moment)));
+            note("$ hwclock --systohc --utc --noadjfile");
+        } else if (row.type == 2019 && term.indices == 0) {
+            note("VarSetSystemIPs");
+        } else {
             return {0, ""};
         }
-        if (value[0] == '"') value = value.size() < 2 ? "" : value.substr(1, value.size() - 2);
-        blockOf(id)->putText(slotOf(*blockOf(id), row, id), value.c_str());
-        if (row.type != 2019 || term.indices > 0) return {0, ""};
-        note("VarSetSystemIPs");
-        return {0, "", {{0.0, 2019}}};
+        return {0, "", Value{0, row.type}};
     }
 
     // ---- Other terms ----
 
     struct FileCommand {
-        std::string word;
+        const char* word;
         int lowestUid;
-        std::string function, success, failure;
+        const char *function, *success, *failure;
     };
-    static const FileCommand* fileCommand(const std::string& term) {
-        static const FileCommand rows[] = {
-            {"load_ip", 2, "VarLoadIPConfig", "IPs successfully loaded\n", "error: can't load IPs\n"},
-            {"load_sec", 3, "VarLoadSecParams", "sec parameter successfully loaded\n",
-             "sec error: can't load parameter\n"},
-            {"load", 2, "VarLoadParams", "parameter successfully loaded\n", "error: can't load parameter\n"},
-            {"save_ip", 2, "VarSaveIPConfig", "IP config successfully saved\n",
-             "error: can't save ip parameter\n"},
-            {"save_sec", 3, "VarSaveSecParams", "sec parameter successfully saved\n",
-             "error: can't save sec parameter\n"},
-            {"save", 1, "VarSaveParams", "parameter successfully saved\n", "error: can't save parameter\n"},
-            {"update", -99, "VarUpdateGlobalSpace", "parameter successfully update\n",
-             "error: can't update parameter\n"}};
-        const auto begins = [&](const FileCommand& row) { return lower(term).starts_with(row.word); };
-        const auto* const row = std::ranges::find_if(rows, begins);
-        return row == std::end(rows) ? nullptr : row;
-    }
-    std::string carryOut(const FileCommand& command, const std::string& term) {
+    static constexpr FileCommand kFileCommands[] = {
+        {"load_ip", 2, "VarLoadIPConfig", "IPs successfully loaded", "error: can't load IPs"},
+        {"load_sec", 3, "VarLoadSecParams", "sec parameter successfully loaded",
+         "sec error: can't load parameter"},
+        {"load", 2, "VarLoadParams", "parameter successfully loaded", "error: can't load parameter"},
+        {"save_ip", 2, "VarSaveIPConfig", "IP config successfully saved", "error: can't save ip parameter"},
+        {"save_sec", 3, "VarSaveSecParams", "sec parameter successfully saved",
+         "error: can't save sec parameter"},
+        {"save", 1, "VarSaveParams", "parameter successfully saved", "error: can't save parameter"},
+        {"update", -99, "VarUpdateGlobalSpace", "parameter successfully update",
+         "error: can't update parameter"}};
+
+    std::string carryOut(const FileCommand& command, const std::string& term) const {
+        const std::string word = command.word;
         const Words words = tokens(term, " ");
-        const bool isNamed = (command.word == "load" || command.word == "load_ip") && words.size() > 1;
+        const bool isNamed = (word == "load" || word == "load_ip") && words.size() > 1;
         const std::string path = isNamed ? iniPath + "/" + words[1] : "";
         if (path.size() <= 254) note(isNamed ? "VarLoadFile 0 " + path : command.function);
-        const std::string text = storeResult == 1 && path.size() <= 254 ? command.success : command.failure;
-        if (command.word.ends_with("_sec")) note("log 6  " + term + " " + text);
+        const bool isGood = storeResult == 1 && path.size() <= 254;
+        const std::string text = std::string(isGood ? command.success : command.failure) + "\n";
+        if (word.ends_with("_sec")) note("log 6  " + term + " " + text);
         return text;
     }
 
     // False when the process ends.
-    bool runShell(const std::string& command, const std::string& terminator) {
+    bool runShell(const std::string& command, const std::string& terminator) const {
         static const Words forbidden[] = {{"talux-pondo"},
                                           {"fw_printenv", "fw_setenv", "talux-bcard31", "bck_appfs",
                                            "backup.tgz", "/sys/class/gpio/gpio105/value"}};
         for (const std::string& part : board < 0 ? Words{} : forbidden[board])
             if (command.find(part) != std::string::npos) {
-                errors += "KEPL: system '" + command + "' command, not allowed\n";
+                machine.errors += "KEPL: system '" + command + "' command, not allowed\n";
                 return note("exit 255"), false;
             }
         note("| " + command);
-        if (pipesFail) errors += "KEPL: system: " + std::string(std::strerror(EMFILE)) + "\n";
+        if (machine.pipesFail) machine.errors += "KEPL: system: " + std::string(std::strerror(EMFILE)) + "\n";
         note("out 1 > ");
-        std::string rest = pipesFail ? "" : pipe;
+        std::string rest = machine.pipesFail ? "" : *machine.pipe;
         std::erase(rest, '\0');
         while (!rest.empty()) {
             const std::size_t size = std::min<std::size_t>({rest.find('\n'), rest.size() - 1, 253}) + 1;
@@ -364,62 +347,51 @@ struct Model {
         }
         note("out 1 \n");
         note("out 0 " + terminator);
-        if (!pipesFail) note("closed");
+        if (!machine.pipesFail) note("closed");
         return true;
     }
 
-    struct Stack {
-        std::vector<std::pair<double, int>> values;
-
-        std::pair<double, int> pop() {
-            const auto top = values.back();
-            values.pop_back();
-            return top;
+    // An operator, a function or a number; an error, or empty when it has been carried out.
+    static std::string compute(const std::string& term, std::vector<Value>& stack) {
+        const std::string word = lower(term);
+        const Words names = {"+", "-", "*", "/", "sin", "cos", "tan", "deg", "rad", "sqr", "sqrt"};
+        const auto which = static_cast<std::size_t>(std::ranges::find(names, word) - names.begin());
+        if (which == names.size()) {
+            const auto number = makeDouble(term);
+            if (number) stack.push_back({*number, 2002});
+            return number ? "" : kSyntax;
         }
-        // An error, or empty when the term has been carried out.
-        std::string take(const std::string& term) {
-            const std::string word = lower(term);
-            const Words binary = {"+", "-", "*", "/"},
-                        unary = {"sin", "cos", "tan", "deg", "rad", "sqr", "sqrt"};
-            const auto operation = static_cast<std::size_t>(std::ranges::find(binary, word) - binary.begin());
-            const auto function = static_cast<std::size_t>(std::ranges::find(unary, word) - unary.begin());
-            if (operation < 4) {
-                if (values.size() < 2) return kSyntax;
-                const auto [r, rightType] = pop();
-                const auto [l, leftType] = pop();
-                if (operation == 3 && r == 0) return "Division durch 0";
-                const double results[] = {l + r, l - r, l * r, l / r};
-                values.emplace_back(results[operation], resultType(leftType, rightType));
-            } else if (function < 7) {
-                if (values.empty()) return kSyntax;
-                const double x = pop().first, pi = 3.141592653589793;
-                if (function == 6 && x < 0) return "Quadratwurzel von negativen Werten nicht erlaubt";
-                const double results[] = {std::sin(x),    std::cos(x), std::tan(x), x / pi * 180.0,
-                                          x / 180.0 * pi, x * x,       std::sqrt(x)};
-                values.emplace_back(results[function], 2002);
-            } else {
-                const auto number = makeDouble(term);
-                if (!number) return kSyntax;
-                values.emplace_back(*number, 2002);
-            }
-            return "";
-        }
-    };
+        if (stack.size() < (which < 4 ? 2 : 1)) return kSyntax;
+        const auto [x, type] = stack.back();
+        if (which == 3 && x == 0) return "Division durch 0";
+        if (which == 10 && x < 0) return "Quadratwurzel von negativen Werten nicht erlaubt";
+        if (which < 4) stack.pop_back();
+        Value& top = stack.back();
+        const double pi = 3.141592653589793, left = top.number;
+        const double results[] = {left + x,       left - x,    left * x,    left / x,
+                                  std::sin(x),    std::cos(x), std::tan(x), x / pi * 180.0,
+                                  x / 180.0 * pi, x * x,       std::sqrt(x)};
+        top = {results[which], which < 4 ? resultType(top.type, type) : 2002};
+        return "";
+    }
 
-    Outcome evaluate(const std::string& line, const std::string& terminator, int uid) {
+    Outcome evaluate(const std::string& line, const std::string& terminator, int uid) const {
         std::string answer = "(untouched)", text;
         if (line.empty()) return {0, answer, ""};
         if (line.size() > 254) return {-1, answer, kSyntax};
-        Stack stack;
+        std::vector<Value> stack;
         int output = 2;
         for (std::string term : tokens(line, ",")) {
             term = withoutBlanks(term.substr(0, 127));
+            const auto begins = [&](const std::string& word) { return lower(term).starts_with(word); };
+            const auto has = [&](const char* part) { return term.find(part) != std::string::npos; };
             const auto lacksRights = [&] {
                 note("log 3 " + term + " " + kRights);
                 return Outcome{1, kRights + terminator, ""};
             };
-            const auto has = [&](const char* part) { return term.find(part) != std::string::npos; };
-            if (lower(term).starts_with("system")) {
+            const auto* const command =
+                std::ranges::find_if(kFileCommands, [&](const FileCommand& row) { return begins(row.word); });
+            if (begins("system")) {
                 if (uid < 3 && !(has("cat") && has(".version"))) return lacksRights();
                 note("log 6 sec param: " + term);
                 const Words words = tokens(term, " ");
@@ -427,23 +399,23 @@ struct Model {
                 output = words.size() < 2 ? 1 : 3;
                 if (output == 3 && !runShell(withoutBlanks(term.substr(words[0].size())), terminator))
                     return {kProcessEnds, answer, ""};
-            } else if (const FileCommand* const command = fileCommand(term)) {
+            } else if (command != std::end(kFileCommands)) {
                 if (uid < command->lowestUid) return lacksRights();
                 text = carryOut(*command, term);
                 output = 1;
-            } else if (lower(term).starts_with("lvr_") || lower(term).starts_with("tlx_")) {
+            } else if (begins("lvr_") || begins("tlx_")) {
                 const Reply reply = this->command(term.substr(4), uid, true);
                 if (reply.result < 0) return {-1, reply.error + terminator, reply.error};
-                const bool isNumber = reply.text.empty() && reply.slot && !isText(reply.slot->second);
-                if (reply.result == 1 && isNumber) stack.values.push_back(*reply.slot);
+                const bool isNumber = reply.text.empty() && reply.slot && !isText(reply.slot->type);
+                if (reply.result == 1 && isNumber) stack.push_back(*reply.slot);
                 output = reply.result == 0 ? 0 : isNumber ? 2 : 1;
                 if (output == 1) answer = text = reply.text;
-            } else if (const std::string error = stack.take(term); !error.empty()) {
+            } else if (const std::string error = compute(term, stack); !error.empty()) {
                 return {-1, answer, error};
             }
         }
-        if (output == 2 && stack.values.empty()) return {-1, answer, kSyntax};
-        if (output == 2) text = print(stack.values.back().first, stack.values.back().second);
+        if (output == 2 && stack.empty()) return {-1, answer, kSyntax};
+        if (output == 2) text = print(stack.back().number, stack.back().type);
         return {1, output == 0 ? terminator : output == 3 ? "" : text + terminator, ""};
     }
 };

@@ -1,43 +1,32 @@
 -- The module as a script sees it: its globals, talux_command, talux_usleep.
 local check = dofile(arg[0]:match(".*/") .. "check.lua")
 local equal, case = check.equal, check.case
-local syntaxError = "<< SYNTAX ERROR >>"
 
 case("loading sets five globals in their order and no module table", function()
-  local names = {}
+  local names, members = {}, {}
   setmetatable(_G, {__newindex = function(t, name, value) names[#names + 1] = name; rawset(t, name, value) end})
   equal(require "lib_talux_lua", true, "require")
   setmetatable(_G, nil)
   equal(table.concat(names, " "),
         "talux_usleep talux_command talux_getlasterror talux_longarray talux_doublearray", "globals")
   for _, array in ipairs {talux_longarray, talux_doublearray} do
-    local members = {}
     for name in pairs(array) do members[#members + 1] = name end
-    table.sort(members)
-    equal(table.concat(members, " "), "get getitem new setitem size", "members")
   end
+  table.sort(members)
+  equal(table.concat(members, " "), "get get getitem getitem new new setitem setitem size size", "members")
   equal(talux_getlasterror(), "", "last error at start")
-  equal(select("#", talux_getlasterror()), 1, "results of talux_getlasterror")
 end)
 
 case("a line gives one string without its last newline", function()
+  local syntaxError = "<< SYNTAX ERROR >>"
   for _, row in ipairs {
-    {"1,2,+", "3.000000"},
     {42, "42.000000"},
-    {"", ""},
-    {",,", syntaxError},
     {"nonsense", syntaxError},
     {"", ""}, -- an error is forgotten once it has been told
-    {"1,0,/", "Division durch 0"},
-    {"-9,sqrt", "Quadratwurzel von negativen Werten nicht erlaubt"},
-    {"TLX_no_such_name", syntaxError},
+    {"TLX_FW_BLOCK=1", ""}, -- with full rights
+    {"TLX_Name=\"Feeder 7\",tlx_name", "\"Feeder 7\""},
     {"TLX_vBE", "<< INDEX REQUIRED >>"},
-    {"TLX_Name=\"Feeder 7\"", ""},
-    {"tlx_name", "\"Feeder 7\""},
-    {"TLX_sec_mode=1", "<< VARIABLE IS READ ONLY >>"},
-    {"TLX_vBE 5=7", ""},
-    {"TLX_vBE 5", "7\n"}, -- the line of an element has a newline of its own
-    {"LVR_vBE 4.5 -c", ";0;7"},
+    {"TLX_vBE 5=7,TLX_vBE 5", "7\n"}, -- the line of an element has a newline of its own
     {"update", "parameter successfully update\n"},
     {"system echo lost", ""},
     {"1\0,2,+", syntaxError},
@@ -51,7 +40,6 @@ case("a line gives one string without its last newline", function()
     equal(talux_command(row[1]), row[2], what)
     equal(select("#", talux_command(row[1])), 1, "results of " .. what)
   end
-  equal(talux_getlasterror(), "", "last error after lines")
 end)
 
 case("a line that is neither string nor number is an argument error", function()
@@ -66,9 +54,7 @@ case("an answer fits with newline and NUL into 1000 bytes or is refused", functi
   for i = 1, 96 do
     talux_command(("TLX_vMWR %d=%d"):format(i, i <= 25 and 100000 or i == 26 and 1000 or 0))
   end
-  local longest = talux_command("TLX_vMWR 1.96 -c")
-  equal(#longest, 998, "longest answer")
-  equal(longest:sub(1, 21), "ARRAY:\n100000.000000;", "longest answer")
+  equal(#talux_command("TLX_vMWR 1.96 -c"), 998, "longest answer")
   talux_command("TLX_vMWR 50=10")
   for _, line in ipairs {"TLX_vMWR 1.96 -c", "TLX_vMWR 1.96", "TLX_conman_status 1.247"} do
     equal(talux_command(line), "<< OUTPUT BUFFER EXCEEDED >>", line)
@@ -77,10 +63,9 @@ case("an answer fits with newline and NUL into 1000 bytes or is refused", functi
 end)
 
 case("sleeping takes anything and gives nothing back", function()
-  for _, argument in ipairs {1, "1", 0.9, -1, -1e300, 0/0, -1/0, "x", {}, false} do
-    equal(select("#", talux_usleep(argument)), 0, "results of talux_usleep")
+  for _, arguments in ipairs {{}, {1}, {"1"}, {0.9}, {-1}, {-1e300}, {0/0}, {-1/0}, {"x"}, {{}}, {false}} do
+    equal(select("#", talux_usleep(arguments[1])), 0, "results of talux_usleep")
   end
-  equal(select("#", talux_usleep()), 0, "results of talux_usleep")
 end)
 
 check.finish()
