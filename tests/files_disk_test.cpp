@@ -328,15 +328,20 @@ TEST_F(Disk, IsReadWholeWhileOthersSaveAndAreKilled) {
     for (int round = 0; round < 20; ++round) {
         pid_t savers[2];
         for (pid_t& saver : savers)
-            if ((saver = fork()) == 0)
-                for (int value = 0;; ++value)
-                    save(value);
+            if (int value = 0; (saver = fork()) == 0) {
+                while (save(value) == 1)
+                    ++value;
+                _exit(1);
+            }
         for (int k = 0; k < 100; ++k) {
             const std::string now = contents(path);
             ASSERT_TRUE(now == whole[0] || now == whole[1]) << now;
         }
-        for (const pid_t saver : savers)
-            kill(saver, SIGKILL), waitpid(saver, nullptr, 0);
+        for (const pid_t saver : savers) {
+            int status = 0;
+            kill(saver, SIGKILL), waitpid(saver, &status, 0);
+            EXPECT_TRUE(WIFSIGNALED(status)) << "a save beside another one failed";
+        }
     }
     for (const char* name : {".talux-save-0.tmp", ".talux-save-1.tmp"}) // at the latest now
         std::ofstream(directory / name) << "TLX_channel=9\n";

@@ -35,7 +35,7 @@ struct Replacement {
 //
 // Written in place, and then not as a whole, is what cannot be replaced: a device, a FIFO, a file with
 // several names, one in a directory in which nothing can be made or exchanged, one of another owner whom only
-// root could restore.
+// root could restore. Only regular files are given away.
 Replacement replaceFile(const char* path, std::string_view contents, const Rights* rights);
 
 } // namespace talux
