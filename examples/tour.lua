@@ -90,10 +90,10 @@ show "TLX_P_prim,sqr,TLX_Q_prim,sqr,+,sqrt,1000,/"
 
 headline "Read a range of an array"
 say("Twelve measured voltages in kV, one per cycle, go into the array vMWR:")
-talux.every(50, function(k)
+for k = 1, 12 do
   talux.set("vMWR", {[k] = talux.get "U1_prim"})
-  return k < 12
-end)
+  talux_usleep(50000)
+end
 show("TLX_vMWR 1.12", 4)
 show "TLX_vMWR 1.12 -c"
 say("All 96 in the plain form do not fit into the 1000 bytes of an answer; values alone do:")
