@@ -41,15 +41,14 @@ bool isAddress(const stParamProperties& row) {
 
 struct File {
     int (*save)(char* filename);
-    int lines;
     gid_t group;
     bool (*holds)(const stParamProperties& row);
 };
-const File kNormal{VarSaveParamFile, 571, 100,
+const File kNormal{VarSaveParamFile, 100,
                    [](const auto& row) { return !isAddress(row) && row.userlevel <= 2; }};
-const File kSecurity{VarSaveSecParamFile, 33, 101,
+const File kSecurity{VarSaveSecParamFile, 101,
                      [](const auto& row) { return !isAddress(row) && row.userlevel >= 3; }};
-const File kIps{VarSaveIPConfigFile, 38, 0, isAddress};
+const File kIps{VarSaveIPConfigFile, 0, isAddress};
 
 // The value of a parameter as a file shows it; empty when it has no line.
 std::string valueOf(const stParamProperties& row, int space) {
@@ -83,7 +82,6 @@ std::string expected(const File& file, int space) {
         const std::string value = row.is_volatile == 1 || !file.holds(row) ? "" : valueOf(row, space);
         if (!value.empty()) all += std::string("TLX_") + row.name + "=" + value + "\n";
     }
-    EXPECT_EQ(std::count(all.begin(), all.end(), '\n'), file.lines);
     return all;
 }
 
