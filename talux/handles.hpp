@@ -57,9 +57,15 @@ template <>
 struct RunAccessors<short> {
     static constexpr auto get = VarGetGlobalIntValueArray, set = VarSetGlobalIntValueArray;
 };
+// The store's 32-bit integer is `long` on the device, the same bytes as here.
 template <>
-struct RunAccessors<VarLong> {
-    static constexpr auto get = VarGetGlobalLongValueArray, set = VarSetGlobalLongValueArray;
+struct RunAccessors<std::int32_t> {
+    static void get(int id, std::int32_t* to, unsigned long count) {
+        VarGetGlobalLongValueArray(id, reinterpret_cast<VarLong*>(to), count);
+    }
+    static void set(int id, std::int32_t* from, unsigned long count) {
+        VarSetGlobalLongValueArray(id, reinterpret_cast<VarLong*>(from), count);
+    }
 };
 
 template <class Value>

@@ -192,7 +192,8 @@ Status run(const Options& options, const Context& context) {
         const auto microseconds = std::chrono::duration_cast<std::chrono::microseconds>(left).count();
         const bool isLast = options.count != 0 && k + 1 == options.count;
         if (microseconds > 0 && !isLast) {
-            const timespec pause{microseconds / 1000000, microseconds % 1000000 * 1000};
+            const timespec pause{static_cast<time_t>(microseconds / 1000000),
+                                 static_cast<long>(microseconds % 1000000 * 1000)};
             nanosleep(&pause, nullptr); // ends early when it is stopped
         }
     }
