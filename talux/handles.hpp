@@ -4,10 +4,12 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <span>
+#include <type_traits>
 #include <utility>
 
 #include "ParamSystem/TALUX_Var.h"
@@ -58,12 +60,12 @@ struct RunAccessors<short> {
     static constexpr auto get = VarGetGlobalIntValueArray, set = VarSetGlobalIntValueArray;
 };
 // The store's 32-bit integer is `long` on the device, the same bytes as here.
-template <>
-struct RunAccessors<std::int32_t> {
-    static void get(int id, std::int32_t* to, unsigned long count) {
+template <class Value>
+requires(std::is_same_v<Value, std::int32_t> || std::is_same_v<Value, VarLong>) struct RunAccessors<Value> {
+    static void get(int id, Value* to, unsigned long count) {
         VarGetGlobalLongValueArray(id, reinterpret_cast<VarLong*>(to), count);
     }
-    static void set(int id, std::int32_t* from, unsigned long count) {
+    static void set(int id, Value* from, unsigned long count) {
         VarSetGlobalLongValueArray(id, reinterpret_cast<VarLong*>(from), count);
     }
 };
