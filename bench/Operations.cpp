@@ -67,12 +67,12 @@ lua_State* lua() {
 }
 
 // Runs the code n times in a loop of Lua's.
-Way luaWay(std::string name, const std::string& preparation, const std::string& body) {
+Way luaWay(const std::string& name, const std::string& preparation, const std::string& body) {
     lua_State* const L = lua();
     const std::string chunk = preparation + " return function(n) for i = 1, n do " + body + " end end";
     if (luaL_dostring(L, chunk.c_str()) != 0) fail(lua_tostring(L, -1));
     const int function = luaL_ref(L, LUA_REGISTRYINDEX);
-    return {std::move(name), [L, function](int n) {
+    return {name, [L, function](int n) {
                 lua_rawgeti(L, LUA_REGISTRYINDEX, function);
                 lua_pushinteger(L, n);
                 if (lua_pcall(L, 1, 0, 0) != 0) fail(lua_tostring(L, -1));
@@ -97,7 +97,7 @@ Way cppLine(const std::string& line) {
 
 // ---- The list -----------------------------------------------------------------------------------------
 
-Operation line(const std::string& name, const std::string& text, std::vector<Way> bareWays,
+Operation line(const std::string& name, const std::string& text, const std::vector<Way>& bareWays,
                const std::string& judged = "", const std::string& against = "", double goal = 0,
                int batch = 200) {
     std::vector<Way> ways{cppLine(text), luaLine(text)};

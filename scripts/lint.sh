@@ -5,7 +5,8 @@
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 cd "$project"
 need_build_tools
-need clang-format:clang-format clang-tidy:clang-tidy shellcheck:shellcheck
+need clang-format:clang-format clang-tidy:clang-tidy shellcheck:shellcheck \
+  /usr/include/benchmark/benchmark.h:libbenchmark-dev valgrind:valgrind
 
 mapfile -t formatted < <(git ls-files '*.h' '*.hpp' '*.cpp')
 mapfile -t sources < <(if [ "$#" -gt 0 ]; then printf '%s\n' "$@"; else git ls-files '*.cpp'; fi)
@@ -20,10 +21,10 @@ calls='system|popen|exec[lv]p?e?|posix_spawnp?|v?syslog|clock_settime|settimeofd
 calls+='|socket|ioctl|openat?|readlink(at)?|access|rename(at)?|unlink(at)?|f?l?chown|f?chmod|f?sync|flock'
 ! grep -nE "(^|[^a-zA-Z_>.])(::|std::)?($calls)\(" "${inside[@]}" || status=1
 # Without the headers that g++ compiles beforehand, which clang cannot read; sources have to name what they use.
-quiet cmake --preset release -B build-lint -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON
+quiet cmake --preset release -B build-lint -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DTALUX_BUILD_BENCH=ON
 quiet cmake --build build-lint --target talux_dictionary
 printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p build-lint --quiet \
-  --extra-arg=-Wno-unknown-warning-option 2>&1 |
+  --extra-arg=-Wno-unknown-warning-option --extra-arg=-U_FORTIFY_SOURCE 2>&1 |
   { grep -v '^[0-9]* warnings generated' || true; } # those of system headers
 [ "${PIPESTATUS[1]}" = 0 ] || status=1
 exit "$status"

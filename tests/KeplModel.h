@@ -320,7 +320,7 @@ struct Model {
         const std::string path = isNamed ? iniPath + "/" + words[1] : "";
         if (path.size() <= 254) note(isNamed ? "VarLoadFile 0 " + path : command.function);
         const bool isGood = storeResult == 1 && path.size() <= 254;
-        const std::string text = std::string(isGood ? command.success : command.failure) + "\n";
+        std::string text = std::string(isGood ? command.success : command.failure) + "\n";
         if (word.ends_with("_sec")) note("log 6  " + term + " " + text);
         return text;
     }
@@ -386,7 +386,7 @@ struct Model {
             const auto begins = [&](const std::string& word) { return lower(term).starts_with(word); };
             const auto has = [&](const char* part) { return term.find(part) != std::string::npos; };
             const auto lacksRights = [&] {
-                note("log 3 " + term + " " + kRights);
+                note(("log 3 " + term).append(" ").append(kRights));
                 return Outcome{1, kRights + terminator, ""};
             };
             const auto* const command =

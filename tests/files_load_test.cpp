@@ -74,7 +74,9 @@ public:
         int number = 0;
         for (std::size_t at = 0, end = 0; at < content.size(); at = end + 1) {
             end = std::min({content.find('\n', at), at + 253, content.size() - 1});
-            takeLine(content.substr(at, end + 1 - at).c_str(), ++number, type); // up to a NUL
+            // Up to a NUL.
+            takeLine(content.substr(at, end + 1 - at).c_str(), // NOLINT(readability-redundant-string-cstr)
+                     ++number, type);
         }
     }
 

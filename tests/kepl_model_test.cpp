@@ -40,7 +40,8 @@ const stParamProperties* rowOf(std::string name) {
 template <typename Constant>
 Constant& changeable(const Constant& constant) {
     const auto page = reinterpret_cast<std::uintptr_t>(&constant) & ~std::uintptr_t{4095};
-    mprotect(reinterpret_cast<void*>(page), 8192, PROT_READ | PROT_WRITE);
+    mprotect(reinterpret_cast<void*>(page), 8192, // NOLINT(performance-no-int-to-ptr)
+             PROT_READ | PROT_WRITE);
     return const_cast<Constant&>(constant);
 }
 

@@ -156,9 +156,9 @@ TEST(SetUp, EndsTheProcessWhenACallFails) {
     for (const auto& test : cases) {
         removeSegment(test.tooSmall);
         if (test.tooSmall != 0)
-            shmget(test.tooSmall, test.tooSmall == kRecordsKey ? 587 : 19499, IPC_CREAT | 0666);
+            (void)shmget(test.tooSmall, test.tooSmall == kRecordsKey ? 587 : 19499, IPC_CREAT | 0666);
         const auto start = [&test] {
-            std::atexit([] { std::fprintf(stderr, "%d", attempts); });
+            (void)std::atexit([] { std::fprintf(stderr, "%d", attempts); });
             mutex_init = errno = 0;
             pVarGlobal = pVarTemp = nullptr, pVarStruct = nullptr;
             failing = test.call, worksBefore = test.worksBefore, attempts = 0;

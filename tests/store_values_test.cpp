@@ -266,7 +266,8 @@ public:
         std::string text = random.text(200), read;
         std::vector<std::size_t> locksTaken;
         bool isText = false;
-        for (const std::size_t kind : {3, 0, 1, 2, 4, 5, 6, 9, 10, 11, 12}) {
+        for (const std::size_t kind :
+             std::initializer_list<std::size_t>{3, 0, 1, 2, 4, 5, 6, 9, 10, 11, 12}) {
             const Block& block = kBlocks[kind];
             if (!block.holds(id) || (block.type == 2008 && !write)) continue;
             char* const slot = model[space].data() + block.slotOf(id);

@@ -182,6 +182,7 @@ void Judge::judgeSkipped(const Entry& entry, const Effect& effect, Judgement& ju
 }
 
 void Judge::judgeStored(const Entry& entry, const Effect& effect, Judgement& judgement) {
+    if (effect.row == nullptr) return; // never, of what is stored
     const int id = effect.row->id;
     const auto earlier = seen.find(id);
     judgement.from = earlier == seen.end() ? before.value(id) : std::optional(earlier->second.value);

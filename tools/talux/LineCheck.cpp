@@ -269,7 +269,7 @@ private:
             const std::size_t named =
                 parameter.name().size() + label + 10; // "TLX_", a separator, " = ", line end
             if (style == kepl::Style::hex)
-                length += 2 * (type.width == Width::f64 ? 8 : 4);
+                length += type.width == Width::f64 ? 16 : 8;
             else
                 length += style == kepl::Style::plain ? named + value - 1 : value + 1;
         };

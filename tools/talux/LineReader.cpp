@@ -132,7 +132,7 @@ private:
     // Choices with texts one below the other, names side by side.
     static void showList(const Completion& completion) {
         constexpr std::size_t kColumns = 80, kMost = 120;
-        std::size_t widest = 0;
+        std::size_t widest = 1;
         for (const Candidate& candidate : completion.candidates)
             widest = std::max(widest, width(candidate.label) + 2);
         const std::size_t perLine = std::max<std::size_t>(1, kColumns / widest);

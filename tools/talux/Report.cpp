@@ -134,7 +134,7 @@ private:
     }
 
     std::string tableOf(const stParamFamily* family, const std::string& rows) const {
-        if (rows.empty()) return {};
+        if (family == nullptr || rows.empty()) return {};
         return fill("<h2>{}</h2>\n<table>\n<thead><tr><th class=\"mark\"></th><th class=\"name\">{}</th>"
                     "<th>{}</th><th class=\"value\">{}</th><th class=\"default\">{}</th></tr></thead>\n"
                     "<tbody>\n{}</tbody>\n</table>\n",
