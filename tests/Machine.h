@@ -192,7 +192,7 @@ int uname(utsname* system) noexcept {
     return talux_test::machine.board.empty() ? -1 : 0;
 }
 
-void exit(int status) noexcept(false) {
+void exit(int status) noexcept {
     using talux_test::machine;
     if (machine.processEnd == nullptr) talux_test::real<void(int)>("exit")(status);
     {

@@ -235,7 +235,8 @@ protected:
         EXPECT_EQ(machine.openPipes, 0) << line;
         interpreter.GetError(error, sizeof error);
         EXPECT_TRUE(result.ends_with(behind)) << line;
-        return {code, result.c_str(), error};
+        result.resize(std::strlen(result.data()));
+        return {code, result, error};
     }
 };
 

@@ -172,6 +172,7 @@ Status run(const Options& options, const Context& context) {
     std::signal(SIGINT, requestStop);
     std::signal(SIGTERM, requestStop);
     std::vector<std::string> labels;
+    labels.reserve(items.size());
     for (const Item& item : items)
         labels.push_back(item.label);
     if (options.csv) printCsv(context.say("time", "Zeit"), labels);
@@ -179,6 +180,7 @@ Status run(const Options& options, const Context& context) {
     auto next = std::chrono::steady_clock::now();
     for (long k = 0; stopRequested == 0 && (options.count == 0 || k < options.count); ++k) {
         std::vector<std::string> values;
+        values.reserve(items.size());
         for (const Item& item : items)
             values.push_back(valueText(item));
         if (options.csv)

@@ -52,9 +52,7 @@ Status runChosen(const Commands& commands, const Context& context) {
     }
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
     LoadDefParamProperties();
     Context context;
     context.language = languageOfEnvironment();
@@ -76,4 +74,15 @@ int main(int argc, char** argv) {
         return endParsing(app, error);
     }
     return runChosen(commands, context);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& error) { // of memory, for instance
+        std::fprintf(stderr, "talux: %s\n", error.what());
+        return kCouldNot;
+    }
 }
