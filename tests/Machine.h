@@ -135,6 +135,7 @@ private:
 
 } // namespace talux_test
 
+// NOLINTBEGIN(misc-definitions-in-headers): included once
 extern "C" {
 
 int system(const char* command) {
@@ -220,5 +221,7 @@ void* realloc(void* memory, std::size_t size) {
 }
 #endif
 }
+
+// NOLINTEND(misc-definitions-in-headers)
 
 #endif
