@@ -158,8 +158,9 @@ TEST(SetUp, EndsTheProcessWhenACallFails) {
         if (test.tooSmall != 0)
             (void)shmget(test.tooSmall, test.tooSmall == kRecordsKey ? 587 : 19499, IPC_CREAT | 0666);
         const auto start = [&test] {
-            (void)std::atexit([] { std::fprintf(stderr, "%d", attempts); });
+            (void)std::atexit([] { std::fprintf(stderr, "%d, fSave %d", attempts, fSave); });
             mutex_init = errno = 0;
+            fSave = 1;
             pVarGlobal = pVarTemp = nullptr, pVarStruct = nullptr;
             failing = test.call, worksBefore = test.worksBefore, attempts = 0;
             VarInit(kNoDirectory);
@@ -167,7 +168,7 @@ TEST(SetUp, EndsTheProcessWhenACallFails) {
         const std::string reason = test.tooSmall == 0 ? "Cannot allocate memory" : "Invalid argument";
         EXPECT_EXIT(start(), testing::ExitedWithCode(1),
                     testing::Matcher<const std::string&>(test.message + (": " + reason) + "\n" +
-                                                         std::to_string(test.attempts)));
+                                                         std::to_string(test.attempts) + ", fSave 0"));
         removeSegment(test.tooSmall);
     }
 }
