@@ -196,8 +196,9 @@ Rights rightsOf(const struct stat& file) {
 // The old file, null when there is none.
 using Old = const struct stat*;
 
+// No name left: another save has replaced it since it was opened. Somebody may still read it.
 bool isReplaceable(const struct stat& old) {
-    return S_ISREG(old.st_mode) && old.st_nlink == 1;
+    return S_ISREG(old.st_mode) && old.st_nlink <= 1;
 }
 
 // Only root can give a file to another owner.
