@@ -51,7 +51,7 @@ protected:
             tokens("0|7|12|99999999|2147483648|4294967295|.|-|+|e|E5|e-300|0x|f|inf|nan|,|x|\t|\n| |  ", "|");
         std::string text(below(4) == 0 ? below(50) : 0, " 0"[below(2)]);
         for (unsigned k = below(4); k > 0; --k)
-            text += pieces[random() % pieces.size()];
+            text += pieces[below(static_cast<unsigned>(pieces.size()))];
         if (below(2) == 0) { // plain digits with a point somewhere
             std::string digits = std::to_string(random() >> below(64));
             if (below(3) != 0) digits.insert(below(static_cast<unsigned>(digits.size()) + 1), ".");
