@@ -20,7 +20,8 @@ set(CPACK_DEBIAN_DEB_RUNTIME_PACKAGE_CONTROL_EXTRA
   "${PROJECT_SOURCE_DIR}/packaging/shlibs;${PROJECT_SOURCE_DIR}/packaging/triggers")
 set(CPACK_COMPONENT_DEB_RUNTIME_DESCRIPTION "Relay controller parameters for Lua 5.2
 The module lib_talux_lua and the layer talux over it, with which scripts and
-programs read measured values and read and write the settings of the controller.")
+programs read measured values and read and write the settings of the
+controller.")
 
 set(CPACK_DEBIAN_DEB_DEVELOPMENT_PACKAGE_NAME talux-lua-dev)
 set(CPACK_DEBIAN_DEB_DEVELOPMENT_PACKAGE_SECTION libdevel)
