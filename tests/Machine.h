@@ -21,9 +21,11 @@
 #include <string>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
+#include <sys/syscall.h>
 #include <sys/utsname.h>
 #include <sys/wait.h>
 #include <syslog.h>
+#include <unistd.h>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -33,7 +35,7 @@ namespace talux_test {
 struct Machine {
     std::vector<std::string> events;    // in their order, as note() has them
     std::function<std::string()> stamp; // what an event is marked with; empty: with nothing
-    std::string errors;                 // what ErrorStream caught
+    std::string errors;                 // what ErrorStream caught, commands among it as "$ command"
     std::time_t now = 0;                // 0: the real time
     std::string board = "x86_64";       // empty: cannot be found out
     std::optional<std::string> pipe;    // what a command writes; none: pipes are real
@@ -50,6 +52,7 @@ inline Machine machine;
 
 // Notes what happened; the machine's own need of memory does not count.
 inline void note(const std::string& event) {
+    if (event.starts_with("$ ")) machine.errors += event + "\n";
     machine.events.push_back(event + (machine.stamp ? machine.stamp() : ""));
 }
 struct Working {
@@ -91,14 +94,16 @@ inline FILE* reader(const std::string& text) {
 // What is written to the error stream meanwhile lands in machine.errors.
 class ErrorStream {
 public:
-    ErrorStream() {
+    // With _IOFBF a line that is not flushed comes too late.
+    explicit ErrorStream(int buffering = _IONBF) {
         const auto put = [](void*, const char* from, std::size_t size) -> ssize_t {
             const Working working;
             machine.errors.append(from, size);
             return static_cast<ssize_t>(size);
         };
+        static char buffer[BUFSIZ];
         stderr = fopencookie(nullptr, "w", {nullptr, put, nullptr, nullptr});
-        std::setvbuf(stderr, nullptr, _IONBF, 0);
+        std::setvbuf(stderr, buffer, buffering, sizeof buffer);
     }
     ~ErrorStream() {
         std::fclose(stderr);
@@ -118,19 +123,24 @@ inline std::size_t openDescriptors() {
     return count;
 }
 
-// Sees that no test leaves a descriptor, a pipe or a child behind.
-class OnMachine : public testing::Test {
-protected:
-    OnMachine() { machine = {}; }
-    ~OnMachine() override {
+// A new machine, of which no descriptor, pipe or child is left at the end.
+class Watched {
+public:
+    Watched() { machine = {}; }
+    ~Watched() {
         EXPECT_EQ(machine.openPipes, 0);
         EXPECT_EQ(openDescriptors(), descriptors);
         EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is left";
         machine = {};
     }
+    Watched(const Watched&) = delete;
+    Watched& operator=(const Watched&) = delete;
 
 private:
     const std::size_t descriptors = openDescriptors();
+};
+class OnMachine : public testing::Test {
+    const Watched watched;
 };
 
 } // namespace talux_test
@@ -191,6 +201,27 @@ int uname(utsname* system) noexcept {
     *system = {};
     talux_test::machine.board.copy(system->machine, sizeof system->machine - 1);
     return talux_test::machine.board.empty() ? -1 : 0;
+}
+
+int socket(int domain, int type, int protocol) noexcept {
+    return talux_test::machine.socketsFail ? -1
+                                           : static_cast<int>(syscall(SYS_socket, domain, type, protocol));
+}
+
+int ioctl(int descriptor, unsigned long request, ...) noexcept {
+    std::va_list arguments;
+    va_start(arguments, request);
+    void* const argument = va_arg(arguments, void*);
+    va_end(arguments);
+    if (request != SIOCGIFADDR && request != SIOCGIFNETMASK)
+        return static_cast<int>(syscall(SYS_ioctl, descriptor, request, argument));
+    auto* const record = static_cast<ifreq*>(argument);
+    sockaddr_in answer{AF_INET, 0, {}, {}};
+    const std::string name = record->ifr_name + std::string(request == SIOCGIFNETMASK ? "/" : "");
+    const std::string& address = talux_test::machine.addresses[name];
+    if (record->ifr_addr.sa_family != AF_INET || inet_aton(address.c_str(), &answer.sin_addr) == 0) return -1;
+    std::memcpy(&record->ifr_addr, &answer, sizeof answer);
+    return 0;
 }
 
 void exit(int status) noexcept {

@@ -1,60 +1,14 @@
 // Every command and every line on the error stream, in their order, for every branch of the settings.
-#include <algorithm>
-#include <arpa/inet.h>
-#include <cstdarg>
-#include <cstring>
-#include <ctime>
-#include <map>
-#include <net/if.h>
-#include <sys/ioctl.h>
-#include <sys/syscall.h>
-#include <unistd.h>
-
+#include "Machine.h"
 #include "SettingsSupport.h"
 #include "src/talux_interpreter.h"
 
 using namespace settings_test;
+using talux_test::machine;
 
 namespace {
 
-using Kernel = std::map<std::string, std::string>; // "eth0:1" its address, "eth0:1/" its netmask
-
-Kernel g_kernel;
-bool g_socketsFail = false;
-
-} // namespace
-
-// These take the place of the C library's for the module, too. A command joins the transcript.
-extern "C" int system(const char* command) {
-    const std::string line = "$ " + std::string(command) + "\n";
-    return write(STDERR_FILENO, line.data(), line.size()) < 0 ? -1 : 0;
-}
-
-extern "C" int socket(int domain, int type, int protocol) noexcept {
-    return g_socketsFail ? -1 : static_cast<int>(syscall(SYS_socket, domain, type, protocol));
-}
-
-extern "C" int ioctl(int descriptor, unsigned long request, ...) noexcept {
-    std::va_list arguments;
-    va_start(arguments, request);
-    void* argument = va_arg(arguments, void*);
-    va_end(arguments);
-    if (request != SIOCGIFADDR && request != SIOCGIFNETMASK)
-        return static_cast<int>(syscall(SYS_ioctl, descriptor, request, argument));
-    auto* record = static_cast<ifreq*>(argument);
-    sockaddr_in answer{};
-    answer.sin_family = AF_INET;
-    const std::string text = g_kernel[record->ifr_name + std::string(request == SIOCGIFNETMASK ? "/" : "")];
-    if (record->ifr_addr.sa_family != AF_INET || inet_aton(text.c_str(), &answer.sin_addr) == 0) return -1;
-    std::memcpy(&record->ifr_addr, &answer, sizeof answer);
-    return 0;
-}
-
-extern "C" int clock_settime(clockid_t, const timespec*) noexcept {
-    return system("the clock is none of these functions' business");
-}
-
-namespace {
+using Kernel = std::map<std::string, std::string>; // see Machine::addresses
 
 // The base case: everything is active, and each value differs between the spaces.
 constexpr char kSettings[] =
@@ -166,11 +120,20 @@ std::string expected(const Row& row) {
     return result;
 }
 
+template <typename Action>
+std::string transcriptOf(const Action& action) {
+    machine.errors.clear();
+    const talux_test::ErrorStream stream(_IOFBF);
+    action();
+    std::fflush(stderr);
+    return machine.errors;
+}
+
 void check(const Row& row) {
     SCOPED_TRACE(testing::Message() << row.step << " " << row.settings);
     resetStore();
     put(kSettings + std::string(row.step == kAll ? "" : kLive) + row.settings);
-    g_kernel = row.kernel;
+    machine.addresses = row.kernel;
     fs::remove("/etc/localtime");
     if (row.link == "FILE") writeFile("/etc/localtime", "");
     if (row.link.starts_with('/')) fs::create_symlink(row.link, "/etc/localtime");
@@ -180,7 +143,7 @@ void check(const Row& row) {
     if (row.resolver.find(' ') != std::string::npos) writeFile("/etc/resolv.conf", row.resolver);
 
     const auto apply = row.step == kAll ? row.apply : kFunctions[row.step].apply;
-    EXPECT_EQ(errorsOf([&] { EXPECT_EQ(apply(), row.result); }), expected(row));
+    EXPECT_EQ(transcriptOf([&] { EXPECT_EQ(apply(), row.result); }), expected(row));
     // Whoever sets an interface's addresses commits and saves.
     const bool saves = row.step == kEth0 || row.step == kEth1 || row.step >= kWlan0;
     EXPECT_EQ(contents("/ip_config.ini").find("TLX_DNS=\"8.8.8.8\"\n") != std::string::npos, saves);
@@ -192,7 +155,9 @@ int line(std::string text) {
         text.data(), [](char*, int) {}, answer, terminator);
 }
 
-using SettingsCommands = SettingsTest;
+class SettingsCommands : public SettingsTest {
+    const talux_test::Watched watched;
+};
 
 TEST_F(SettingsCommands, FunctionsAndBranches) {
     if (!mayWriteSystemFiles()) GTEST_SKIP() << "the system files are another user's";
@@ -259,14 +224,10 @@ TEST_F(SettingsCommands, FunctionsAndBranches) {
         {kAll, "VarSetWLAN0TypeDev=3|1", {{"ifconfig wlan0 down*", ""}, noWlan0Address}},
     };
     // clang-format on
-    const auto openFiles = [] { return std::distance(fs::directory_iterator("/proc/self/fd"), {}); };
-    const auto before = openFiles();
     for (const Row& row : rows)
         if (row.step != kDns || talux_test::isolated()) check(row);
-    g_socketsFail = true;
+    machine.socketsFail = true;
     check({kAliases, "", {{TEAR_DOWN, ""}}});
-    g_socketsFail = false;
-    EXPECT_EQ(openFiles(), before) << "a run leaves sockets open";
     EXPECT_EQ(VarINFRASTRUCTUREWLAN0() + VarStaticIPWLAN0_INFRASTRUCTURE(), 2);
 }
 
@@ -295,7 +256,7 @@ TEST_F(SettingsCommands, Callers) {
     const auto others = [] {
         line("TLX_ETH0_MASK=1.1.1.1,TLX_ETH0_GATEWAY=1.1.1.1,TLX_DNS=1.1.1.1,TLX_key=x");
     };
-    EXPECT_EQ(errorsOf(others), "") << "all other writes wait";
+    EXPECT_EQ(transcriptOf(others), "") << "all other writes wait";
 }
 
 } // namespace

@@ -4,22 +4,21 @@
 #include <spawn.h>
 #include <sys/wait.h>
 
+#include "Machine.h"
 #include "SettingsSupport.h"
 
 using namespace settings_test;
+using talux_test::machine;
 
 namespace {
 
-std::vector<std::string> g_commands; // what the module wanted to run
-
-} // namespace
-
-extern "C" int system(const char* command) {
-    g_commands.emplace_back(command);
-    return 0;
+// What the module wanted to run.
+std::vector<std::string> commands() {
+    std::vector<std::string> all;
+    for (const std::string& event : machine.events)
+        all.push_back(event.substr(2)); // "$ command"
+    return all;
 }
-
-namespace {
 
 // clang-format off
 constexpr const char* kHostileTexts[] = {
@@ -77,7 +76,8 @@ done 3>/tmp/record 2>/dev/null </dev/null)";
 
 std::string runInShell(const char* written = "") {
     std::vector<const char*> arguments = {"sh", "-c", kShellScript, "sh", written};
-    for (const std::string& command : g_commands)
+    const std::vector<std::string> all = commands();
+    for (const std::string& command : all)
         arguments.push_back(command.c_str());
     arguments.push_back(nullptr);
     pid_t shell = 0;
@@ -90,7 +90,7 @@ class HostileSettings : public SettingsTest {
 protected:
     void SetUp() override {
         resetStore();
-        g_commands.clear();
+        machine.events.clear();
         fs::create_directories("/tmp/playground");
         fs::current_path("/tmp/playground");
         writeFile("bait", ""); // what patterns would match
@@ -111,7 +111,7 @@ protected:
 // The values are what they claim to be: without quotes many of them leave their file.
 TEST_F(HostileSettings, ValuesWouldDoHarm) {
     for (const std::string& value : kValues)
-        g_commands.push_back("iwconfig wlan0 essid " + value);
+        talux_test::note("$ iwconfig wlan0 essid " + value);
     const std::string record = runInShell();
     const std::regex harm("\nc"); // at the start of a line, see the script
     EXPECT_GE(std::distance(std::sregex_iterator(record.begin(), record.end(), harm), {}), 20);
@@ -171,21 +171,22 @@ TEST_F(HostileSettings, ZoneFile) {
 
 // Addresses become four numbers before any command sees them: the commands are those of plain addresses.
 TEST_F(HostileSettings, Addresses) {
-    const auto commands = [](const auto& addressOf) {
+    const auto commandsFor = [](const auto& addressOf) {
         put("eth1_active=1 wlan0_active=1 VarSetWLAN0TypeDev=1");
         for (int id = kFirstIp + 1; id < kFirstIp + kIpCount; ++id)
             putValue(VarSetValue, id, addressOf(static_cast<std::size_t>(id)));
-        g_commands.clear();
+        machine.events.clear();
         errorsOf(VarSetSystemIPs);
         std::string all;
-        for (const std::string& command : g_commands)
+        for (const std::string& command : commands())
             all += std::regex_replace(command, std::regex(R"(7(\.-?\d+){3})"), "ADDRESS") + "\n";
         return all;
     };
-    const std::string plain = commands([](std::size_t) { return "7.7.7.7"; });
+    const std::string plain = commandsFor([](std::size_t) { return "7.7.7.7"; });
     for (std::size_t run = 0; run < 12; ++run) // each gives each address another value
-        EXPECT_EQ(commands([&](std::size_t id) { return "7." + kValues[(run * 10 + id) % kValues.size()]; }),
-                  plain);
+        EXPECT_EQ(
+            commandsFor([&](std::size_t id) { return "7." + kValues[(run * 10 + id) % kValues.size()]; }),
+            plain);
 }
 
 } // namespace
