@@ -67,6 +67,15 @@ std::string arrayFunctions(std::string_view name) {
     return fill(kArray, {name, name, "{}", name, name, name, name, name, name, name, name, name, name, name});
 }
 
+// The layer annotates itself; with this an editor knows the names that its functions take.
+constexpr const char* kLayer = R"lua(
+---@class talux
+---@field get fun(name: talux.name|string, first?: integer, last?: integer): any
+---@field set fun(name: talux.name|string, value: any)
+---@field apply fun(settings: talux.settings|table<string, any>): talux.Change[]
+---@field parameter fun(name: talux.name|string, language?: "de"|"en"): talux.Parameter
+)lua";
+
 // What stands behind a name: title, unit, range, elements; the texts of a few choices.
 std::string remarkOn(const Parameter& parameter, const Context& context) {
     std::string text = parameter.title(context.language);
@@ -85,12 +94,29 @@ std::string remarkOn(const Parameter& parameter, const Context& context) {
     return text;
 }
 
-std::string names(const char* alias, const Context& context,
+std::string names(const char* alias, const char* prefix, const Context& context,
                   const std::function<bool(const Parameter&)>& wanted) {
     std::string text = fill("\n---@alias {}\n", {alias});
     for (const Parameter& parameter : reference::parameters())
         if (!parameter.isTemplate() && wanted(parameter))
-            text += fill("---| \"TLX_{}\" # {}\n", {parameter.name(), remarkOn(parameter, context)});
+            text += fill("---| \"{}{}\" # {}\n", {prefix, parameter.name(), remarkOn(parameter, context)});
+    return text;
+}
+
+const char* luaTypeOf(const Parameter& parameter) {
+    if (parameter.isIndexed()) return "table<integer, number>";
+    if (!parameter.hasNumber()) return "string";
+    if (parameter.type().kind == Kind::Bool) return "boolean|0|1";
+    return parameter.type().kind == Kind::Enum ? "integer|string" : "number";
+}
+
+// The table that talux.apply takes.
+std::string settings(const Context& context) {
+    std::string text = "\n---@class talux.settings\n";
+    for (const Parameter& parameter : reference::parameters())
+        if (!parameter.isTemplate() && parameter.writeLevel() > 0)
+            text += fill("---@field [\"{}\"]? {} # {}\n",
+                         {parameter.name(), luaTypeOf(parameter), remarkOn(parameter, context)});
     return text;
 }
 
@@ -100,10 +126,12 @@ Status run(const Context& context) {
             return parameter.isIndexed() && parameter.type().kind == kind;
         };
     };
-    print(kFunctions + arrayFunctions("longarray") + arrayFunctions("doublearray") +
-          names("talux.longarray.name", context, hasElements(Kind::Long)) +
-          names("talux.doublearray.name", context, hasElements(Kind::Double)) +
-          names("talux.term", context, [](const Parameter&) { return true; }));
+    const auto every = [](const Parameter&) { return true; };
+    print(kFunctions + arrayFunctions("longarray") + arrayFunctions("doublearray") + kLayer +
+          names("talux.longarray.name", "TLX_", context, hasElements(Kind::Long)) +
+          names("talux.doublearray.name", "TLX_", context, hasElements(Kind::Double)) +
+          names("talux.term", "TLX_", context, every) + names("talux.name", "", context, every) +
+          settings(context));
     return kNothing;
 }
 
