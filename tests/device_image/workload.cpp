@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstring>
 #include <ctime>
+#include <string>
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/TALUX_Var.h"
@@ -27,6 +28,10 @@ extern "C" int system(const char* command) {
     if (log == nullptr) return -1;
     std::fprintf(log, "%s\n", command);
     return std::fclose(log);
+}
+
+extern "C" int clock_settime(clockid_t /*clock*/, const timespec* moment) noexcept {
+    return system(("clock " + std::to_string(moment->tv_sec)).c_str());
 }
 
 namespace {
