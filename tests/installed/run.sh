@@ -86,7 +86,7 @@ if [ "$architecture" != amd64 ]; then
     mkdir "$work/programs"
     cp "$project"/examples/programs/* "$project"/examples/e*.c* "$work/programs"
     awk -v way="$way" '/^\*\*With / { on = index($0, way) } /^```$/ { on = block = 0 } block; on && /^```sh/ { block = 1 }' \
-      "$project/docs/linking.md" | sed "s,arm-linux-gnueabihf,$multiarch,; s,^tree=.*,tree=$work/tree/usr/local," \
+      "$project/docs/linking.md" | sed "s,arm-linux-gnueabihf,$multiarch,g; s,^tree=.*,tree=$work/tree/usr/local," \
       >"$work/block.sh"
     (cd "$work/programs" && sed -i 's,\.\./e,e,' CMakeLists.txt && sh -eu "$work/block.sh" >/dev/null)
     answer=$(inside tree '$run -E LD_LIBRARY_PATH=/usr/local/lib $programs/build/station Süd')
