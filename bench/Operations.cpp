@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <lua.hpp>
+#include <tuple>
 #include <utility>
 
 #include "ParamSystem/TALUX_Params.h"
@@ -11,12 +12,14 @@
 #include "bench/Bare.h"
 #include "src/lib_talux_lua.h"
 #include "src/talux_interpreter.h"
+#include "talux/talux.hpp"
 
 namespace bench {
 
 namespace {
 
 constexpr char kParameterFile[] = "/parameter.ini";
+constexpr talux::Measured<float> kFirst{"U1_prim"};
 
 void evaluate(const std::string& line) {
     static char answer[TALUX_ANSWER_SIZE], terminator[] = "";
@@ -126,6 +129,26 @@ Operation longArray() {
             200};
 }
 
+// A group beside its elements read one by one.
+template <class... Elements>
+Operation group(const std::string& name, Elements... elements) {
+    static const talux::Group<Elements...> whole(name, elements...);
+    static std::tuple<typename Elements::Value...> values;
+    return {
+        name,
+        {cppWay("C++",
+                [] {
+                    const auto read = [](auto&... value) { return whole.read(value...); };
+                    if (std::apply(read, values) != talux::Reading::whole) fail("no group");
+                }),
+         cppWay("bare C++",
+                [elements...] { std::apply([&](auto&... value) { (elements.get(value), ...); }, values); })},
+        "C++",
+        "bare C++",
+        1.3,
+        200};
+}
+
 Operation saveOneFile() {
     static char path[] = "/one.ini", barePath[] = "/bare.ini";
     return {"save one file of 571 lines",
@@ -176,6 +199,8 @@ std::vector<Operation> operations() {
         longArray(),
         line("commit 642 settings", "update", {cppWay("bare C++", [] { bare::commit(); })}, "C++", "bare C++",
              1.15, 5),
+        group("read a group of one float", kFirst),
+        group("read a group with a record", kFirst.run<42>(), talux::Record<talux::MessRecord01>{}),
         saveOneFile(),
         loadOneFile(),
         line("read a text TLX_Name", "TLX_Name", {}),

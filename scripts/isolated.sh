@@ -87,7 +87,7 @@ find_isolation() {
 
 # ---- without ----
 
-keys=(5675 5678 5679)
+keys=(5675 5678 5679 1414289479) # the store, and the groups of C++ programs
 settings=(/etc/localtime /etc/resolv.conf) # files that the settings of a device change
 segments() {
   local key
@@ -106,6 +106,7 @@ parameter_files() {
 remove_what_was_made() {
   local key path files
   for key in "${keys[@]}"; do ipcrm -M "$key" 2>/dev/null || true; done
+  ipcrm -S "${keys[3]}" 2>/dev/null || true # its semaphores
   mapfile -t files < <(parameter_files '')
   [ "${#files[@]}" = 0 ] || mv -f "${files[@]}" "$root"
   for path in "${settings[@]}"; do

@@ -197,9 +197,10 @@ public:
 
     [[nodiscard]] Value get() const {
         Value values;
-        detail::getRun(first, values.data(), count);
+        get(values);
         return values;
     }
+    void get(Value& values) const { detail::getRun(first, values.data(), count); }
     void set(const Value& values) const { detail::setRun(first, values.data(), count); }
 
 private:
@@ -224,6 +225,7 @@ public:
     [[nodiscard]] Value get() const {
         return detail::read<Value>(detail::AccessorsOf<Value>::getLive, first);
     }
+    void get(Value& value) const { value = get(); }
     void set(Value value) const requires(!detail::kIsText<Value>) {
         detail::write(detail::AccessorsOf<Value>::setLive, first, value);
     }
@@ -232,6 +234,11 @@ public:
         const Refusal refusal = detail::copyText(text, length, value);
         if (!refusal) detail::write(detail::AccessorsOf<Value>::setLive, first, value);
         return refusal;
+    }
+
+    void set(const Value& text) const // what the store gave, it takes
+        requires(detail::kIsText<Value>) {
+        detail::write(detail::AccessorsOf<Value>::setLive, first, text);
     }
 
     // An element of an indexed parameter, counted from 1.
@@ -325,9 +332,10 @@ public:
 
     [[nodiscard]] Value get() const {
         Value record;
-        VarGetGlobalStructValue(id(), &record, sizeof record);
+        get(record);
         return record;
     }
+    void get(Value& record) const { VarGetGlobalStructValue(id(), &record, sizeof record); }
     void set(const Value& record) const {
         VarSetGlobalStructValue(id(), const_cast<Value*>(&record), sizeof record);
     }

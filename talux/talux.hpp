@@ -13,7 +13,7 @@
 #ifndef TALUX_TALUX_HPP
 #define TALUX_TALUX_HPP
 
-#include "talux/handles.hpp"
+#include "talux/group.hpp"
 
 namespace talux {
 

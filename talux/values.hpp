@@ -15,6 +15,13 @@ public:
     static constexpr std::size_t kRoom = kind == table::Kind::text ? 127 : 19;
 
     constexpr StoredText() { characters[0] = '\0'; }
+    // Up to a NUL; of what is longer the first kRoom bytes, as the store keeps it.
+    explicit constexpr StoredText(std::string_view text) {
+        std::size_t length = 0;
+        for (; length < text.size() && length < kRoom && text[length] != '\0'; ++length)
+            characters[length] = text[length];
+        characters[length] = '\0';
+    }
 
     [[nodiscard]] std::string_view view() const { return characters; }
     [[nodiscard]] const char* c_str() const { return characters; }
