@@ -11,7 +11,8 @@
 //   I1_prim .. I3_prim, I0_prim   I1 .. I3, I0   phiUI1 .. phiUI3, phiUI0
 //   S1_prim .. Q0_prim            S_prim, P_prim, Q_prim, COSPHI         f_grid
 //   MessRecord01, but for the short-circuit currents
-// and leaves everything else at zero: harmonics, statistics, inputs and outputs, faults, the other records.
+// as the group "measurements", see docs/linking.md, and leaves everything else at zero: harmonics,
+// statistics, inputs and outputs, faults, the other records.
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -68,6 +69,9 @@ Phases behind(const std::array<Setting<float>, 4>& ratios, const Phases& primary
     return values;
 }
 
+constexpr Measured<float> kFirst{"U1_prim"}; // the others follow it
+constexpr std::size_t kCount = 42;
+
 // Where a measured value goes: among the parameters and in the record, if there.
 struct Value {
     Measured<float> parameter;
@@ -75,7 +79,7 @@ struct Value {
     double value;
 };
 
-std::array<Value, 42> measure(const Network& network) {
+std::array<Value, kCount> measure(const Network& network) {
     static constexpr std::array<Setting<float>, 4> kVoltageRatios{{{"knu0"}, {"knu1"}, {"knu2"}, {"knu3"}}};
     static constexpr std::array<Setting<float>, 4> kCurrentRatios{{{"kni0"}, {"kni1"}, {"kni2"}, {"kni3"}}};
     const auto& [u0, u1, u2, u3] = network.voltage;
@@ -147,11 +151,10 @@ void addPhasors(MessRecord01& record, const Phases& voltage) {
     put(u3 - u1, record.U31p_re, record.U31p_im, record.U31p_w);
 }
 
-void publish(double seconds, std::int32_t cycle) {
-    static constexpr Measured<float> kFirst{"U1_prim"}, kFrequency{"f_grid"};
+void publish(const auto& group, double seconds, std::int32_t cycle) {
     const Network network(seconds);
     const auto values = measure(network);
-    std::array<float, values.size()> run{}; // the parameters follow one another
+    std::array<float, kCount> run{};
     MessRecord01 record{};
     for (const Value& each : values) {
         const auto value = static_cast<float>(each.value);
@@ -162,9 +165,7 @@ void publish(double seconds, std::int32_t cycle) {
     record.Cnt = cycle;
     record.f_grid = static_cast<float>(network.frequency);
     addPhasors(record, network.voltage);
-    kFirst.set_run(run);
-    kFrequency.set(record.f_grid);
-    talux::Record<MessRecord01>().set(record);
+    if (!group.write(run, record.f_grid, record)) std::fputs("device: somebody else is writing\n", stderr);
 }
 
 // Tells the live value of the setting when it is another one than last time.
@@ -182,12 +183,14 @@ void requestStop(int) {
 }
 
 void work(std::FILE* log) {
+    const talux::Group group("measurements", kFirst.run<kCount>(), Measured<float>{"f_grid"},
+                             talux::Record<MessRecord01>{});
     const auto start = std::chrono::steady_clock::now();
     float last = std::nanf("");
     for (std::int32_t cycle = 1; stopRequested == 0; ++cycle) {
         watchThreshold(last, log);
         const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
-        publish(elapsed.count(), cycle);
+        publish(group, elapsed.count(), cycle);
         if (cycle == 1) {
             std::puts("ready");
             std::fflush(stdout);
