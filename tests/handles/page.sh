@@ -1,0 +1,33 @@
+#!/bin/bash
+# The C++ blocks of a page compile. Those with a `main` are run one after the other on one store, and print what the
+# text block behind them shows, or nothing. The others are what a C++17 program has inside a function.
+#
+#   page.sh PAGE LIBRARY EMULATOR COMPILER..
+# shellcheck disable=SC2016 # a text for the inner shell
+set -eu
+page=$1 library=$2 emulator=$3; shift 3
+project=$(cd "$(dirname "$0")/../.." && pwd)
+work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
+fail() { echo "$*"; exit 1; }
+
+awk -v work="$work" '
+  /^```cpp$/ { out = work "/" ++count ".cpp"; printf "" >(work "/" count ".text"); next }
+  /^```text$/ { out = work "/" count ".text"; next }
+  /^```/ { out = ""; next }
+  out { print >out }' "$page"
+compile=("$@" -Wall -Wextra -Werror -I"$project")
+cd "$work"
+for block in *.cpp; do
+  if grep -q 'int main()' "$block"; then
+    "${compile[@]}" -std=c++20 -O2 "$block" "$library" -Wl,-rpath,"${library%/*}" -o "${block%.cpp}.program"
+  else
+    { echo '#include <cstdio>'; grep '^#include' "$block"
+      echo 'extern struct lua_State* L; extern void (*output)(char*, int); void function() {'
+      grep -v '^#include' "$block"; echo '}'; } >inside.cc
+    "${compile[@]}" -std=c++17 -fsyntax-only inside.cc
+  fi || fail "$page, block ${block%.cpp} does not compile"
+done
+"$project/scripts/isolated.sh" --read "$work" -- sh -euc 'for program in "$1"/*.program; do
+  $0 "$program" | diff "${program%.program}.text" - || { echo "$program prints something else"; exit 1; }; done' \
+  "$emulator" "$work" || fail "$page is not true"
+[ "$(find . -name '*.program' | wc -l)" -ge 3 ] || fail "$page has no programs"
