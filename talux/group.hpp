@@ -187,9 +187,9 @@ concept GroupElement = requires(const Part& part, typename Part::Value& value) {
 template <GroupElement... Elements>
 class Group {
 public:
-    explicit Group(std::string_view name, Elements... parts)
-        : elements(parts...), place(name, detail::fingerprint({static_cast<std::size_t>(parts.id())...,
-                                                               sizeof(typename Elements::Value)...})) {}
+    explicit Group(std::string_view groupName, Elements... parts)
+        : elements(parts...), place(groupName, detail::fingerprint({static_cast<std::size_t>(parts.id())...,
+                                                                    sizeof(typename Elements::Value)...})) {}
 
     // False when another group has the name, there are 63 groups already, or the system refuses.
     [[nodiscard]] bool attached() const { return place.attached(); }

@@ -273,9 +273,9 @@ private:
     int elements;
     int length; // longest text in characters
 
-    constexpr explicit Measured(const table::Row& row)
-        : first(row.id), following(row.run), elements(row.elements),
-          length(detail::kIsText<Value> ? static_cast<int>(row.max) : 0) {}
+    constexpr explicit Measured(const table::Row& tableRow)
+        : first(tableRow.id), following(tableRow.run), elements(tableRow.elements),
+          length(detail::kIsText<Value> ? static_cast<int>(tableRow.max) : 0) {}
 };
 
 // A setting: staged in the working copy, live with the commit of the store.
@@ -317,8 +317,9 @@ private:
     bool readOnly;
     detail::Limits limits;
 
-    constexpr explicit Setting(const table::Row& row)
-        : place(row.id), readOnly(row.use == table::Use::status), limits{row.min, row.max} {}
+    constexpr explicit Setting(const table::Row& tableRow)
+        : place(tableRow.id),
+          readOnly(tableRow.use == table::Use::status), limits{tableRow.min, tableRow.max} {}
 };
 
 // One of the three records.

@@ -16,10 +16,10 @@ public:
 
     constexpr StoredText() { characters[0] = '\0'; }
     // Up to a NUL; of what is longer the first kRoom bytes, as the store keeps it.
-    explicit constexpr StoredText(std::string_view text) {
+    explicit constexpr StoredText(std::string_view givenText) {
         std::size_t length = 0;
-        for (; length < text.size() && length < kRoom && text[length] != '\0'; ++length)
-            characters[length] = text[length];
+        for (; length < givenText.size() && length < kRoom && givenText[length] != '\0'; ++length)
+            characters[length] = givenText[length];
         characters[length] = '\0';
     }
 

@@ -15,7 +15,7 @@ awk -v work="$work" '
   /^```text$/ { out = work "/" count ".text"; next }
   /^```/ { out = ""; next }
   out { print >out }' "$page"
-compile=("$@" -Wall -Wextra -Werror -I"$project")
+compile=("$@" -Wall -Wextra -Wconversion -Wshadow -Werror -I"$project")
 cd "$work"
 for block in *.cpp; do
   if grep -q 'int main()' "$block"; then

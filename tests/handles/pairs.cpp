@@ -1,6 +1,9 @@
 // Each handle beside what a program would write without it; both have to become the same instructions.
 #include <talux/talux.hpp>
 
+// What programs call their own; a parameter of the layer's constructors with such a name would be a warning.
+constexpr int name = 0, text = 1, row = 2, number = 3, first = 4, parts = 5;
+
 namespace {
 
 constexpr talux::Measured<float> u0{"U0_prim"};
@@ -8,6 +11,9 @@ constexpr talux::Measured<double> fifth{"vMWR", 5};
 constexpr talux::Setting<float> threshold{"Uearth"};
 constexpr talux::Setting<talux::choice::Language> language{"Language"};
 constexpr talux::Record<talux::MessRecord01> record;
+
+[[maybe_unused]] const talux::Group group("group", u0, fifth.run<2>(), record);
+[[maybe_unused]] const talux::Text given("text");
 
 constexpr int kU0 = 2003, kFifth = 1004, kThreshold = 2148, kLanguage = 10000;
 
