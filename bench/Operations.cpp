@@ -151,7 +151,7 @@ Operation group(const std::string& name, Elements... elements) {
 
 Operation saveOneFile() {
     static char path[] = "/one.ini", barePath[] = "/bare.ini";
-    return {"save one file of 571 lines",
+    return {"save one file",
             {cppWay("C++", [] { VarSaveParamFile(path); }), cppWay("bare C++", [] { bare::save(barePath); })},
             "C++",
             "bare C++",
@@ -161,7 +161,7 @@ Operation saveOneFile() {
 
 Operation loadOneFile() {
     static char path[] = "/one.ini";
-    return {"load one file of 571 lines",
+    return {"load one file",
             {cppWay("C++", [] { VarLoadFile(path, 0); }), cppWay("bare C++", [] { bare::load(path); })},
             "C++",
             "bare C++",
@@ -197,7 +197,7 @@ std::vector<Operation> operations() {
              "Lua", "bare Lua", 1.7),
         line("compute 1,2,+", "1,2,+", {}, "Lua", "read TLX_U1_prim", 1.0),
         longArray(),
-        line("commit 642 settings", "update", {cppWay("bare C++", [] { bare::commit(); })}, "C++", "bare C++",
+        line("commit all settings", "update", {cppWay("bare C++", [] { bare::commit(); })}, "C++", "bare C++",
              1.15, 5),
         group("read a group of one float", kFirst),
         group("read a group with a record", kFirst.run<42>(), talux::Record<talux::MessRecord01>{}),

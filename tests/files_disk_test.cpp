@@ -326,7 +326,7 @@ TEST_F(Disk, IsReadWholeWhileOthersSaveAndAreKilled) {
         whole[value] = contents(path);
     }
     for (int round = 0; round < 20; ++round) {
-        pid_t savers[2];
+        pid_t savers[6]; // more than there are names for new files
         for (pid_t& saver : savers)
             if (int value = 0; (saver = fork()) == 0) {
                 while (save(value) == 1)

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "ParamSystem/os/Files.h"
+#include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Text.h"
 
 namespace talux {
@@ -102,17 +103,18 @@ public:
     int get() const { return descriptor; }
     const struct stat& status() const { return made; }
 
-    // Takes the first name that no other save has at the moment, and clears away what was left behind.
+    // Clears away what was left behind. While other saves have all the names it waits for them.
     bool make() {
-        for (; name[kNumber] < kEnd; ++name[kNumber]) {
-            if (claim() || (errno == EEXIST && (clear(name), claim()))) {
-                clearBehind();
-                return true;
-            }
+        for (int waits = 0; !claimFirst(); ++waits) {
             if (errno != EEXIST) return false;
+            if (waits == kMostWaits) {
+                errno = EAGAIN;
+                return false;
+            }
+            os::sleepMicroseconds(kWait);
         }
-        errno = EAGAIN;
-        return false;
+        clearBehind();
+        return true;
     }
 
     bool placeAs(const char* file) {
@@ -123,13 +125,25 @@ public:
 private:
     using Name = std::array<char, 20>;
     static constexpr int kNumber = 12;
-    static constexpr char kEnd = '4'; // four saves of one directory at once
+    static constexpr char kFirst = '0';
+    static constexpr char kEnd = '4';       // four saves of one directory at once
+    static constexpr unsigned kWait = 1000; // microseconds
+    static constexpr int kMostWaits = 5000;
 
     int directory;
     int descriptor = -1;
     bool isPlaced = false;
     Name name{".talux-save-0.tmp"};
     struct stat made {};
+
+    // Takes the first name that no other save has at the moment.
+    bool claimFirst() {
+        for (name[kNumber] = kFirst; name[kNumber] < kEnd; ++name[kNumber]) {
+            if (claim() || (errno == EEXIST && (clear(name), claim()))) return true;
+            if (errno != EEXIST) return false;
+        }
+        return false;
+    }
 
     // Another save may take the file for a leftover and remove it before it is locked.
     bool claim() {
@@ -221,9 +235,10 @@ std::optional<Replacement> replaceWhole(const char* path, std::string_view conte
     if (!draft.make()) return refusedOr(Written::notOpened, "fopen");
     if (!keepsOwner(draft.status(), old)) return {};
 
-    if (!os::writeFile(draft.get(), contents)) return failure(Written::notWritten, "write");
+    // First of all, so that nobody reads meanwhile what only few may read.
     if (rights != nullptr || old != nullptr)
         setRights(draft.get(), draft.status(), rights != nullptr ? *rights : rightsOf(*old), path);
+    if (!os::writeFile(draft.get(), contents)) return failure(Written::notWritten, "write");
     if (!os::syncFile(draft.get())) return failure(Written::notKept, "fsync");
     if (!draft.placeAs(place.name())) return refusedOr(Written::notKept, "rename");
     if (!os::syncFile(directory.get())) return failure(Written::notKept, "fsync", false);

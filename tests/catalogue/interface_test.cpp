@@ -36,9 +36,9 @@ TEST(Interface, IsReadBackAsItWasWritten) {
 TEST(Interface, SaysRowByRowWhatAChangeMeans) {
     using testing::ElementsAre;
     using testing::StartsWith;
-    const Row flag{"8184", "my_flag", "bool", "parameter.ini", "rw", "1", "", "", "", "0"};
+    const Row flag{"9999", "my_flag", "bool", "parameter.ini", "rw", "1", "", "", "", "0"};
     EXPECT_THAT(after([&](Listing& all) { all.insert(all.begin() + 90, flag); }),
-                ElementsAre("my_flag (8184) is new: bool, parameter.ini, default 0"));
+                ElementsAre("my_flag (9999) is new: bool, parameter.ini, default 0"));
     EXPECT_THAT(after([](Listing& all) { all.erase(all.begin() + 90); }),
                 ElementsAre(testing::HasSubstr(" is gone: ")));
     EXPECT_THAT(afterCell("cycle_cnt_low", kName, "cycles"),

@@ -31,11 +31,21 @@ void append(std::vector<const Note*>& notes, const std::string& name) {
     if (found != allNotes().end()) notes.insert(notes.end(), found->second.begin(), found->second.end());
 }
 
+// Every name begins with the prefix of the last one, which is empty.
+const Method& methodByPrefix(std::string_view name) {
+    return *std::ranges::max_element(kMethods, {}, [name](const Method& method) {
+        return name.starts_with(method.prefix) ? static_cast<int>(method.prefix.size()) : -1;
+    });
+}
+
 std::map<std::string, const Method*, std::less<>> makeMethods() {
     std::map<std::string, const Method*, std::less<>> methods;
     for (const Method& method : kMethods)
         for (std::string& name : namesOf(settingsOf(method)))
             methods.emplace(std::move(name), &method);
+    for (const Parameter& parameter : reference::parameters())
+        if (isOfMethod(parameter))
+            methods.try_emplace(std::string(parameter.name()), &methodByPrefix(parameter.name()));
     return methods;
 }
 
@@ -82,6 +92,20 @@ const Method* methodOf(const Parameter& parameter) {
     static const auto methods = makeMethods();
     const auto found = methods.find(parameter.name());
     return found == methods.end() ? nullptr : found->second;
+}
+
+bool isOfMethod(const Parameter& parameter) {
+    return std::string_view(parameter.family().name) == kMethodFamily;
+}
+
+std::string unnamedSettingsOf(const Method& method) {
+    const auto named = namesOf(settingsOf(method));
+    std::string all;
+    for (const Parameter& parameter : reference::parameters())
+        if (isOfMethod(parameter) && methodOf(parameter) == &method &&
+            std::ranges::count(named, parameter.name()) == 0)
+            (all += ' ') += parameter.name();
+    return all;
 }
 
 std::string settingsOf(const Method& method) {

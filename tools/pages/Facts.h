@@ -55,8 +55,13 @@ const Method* methodOf(const Parameter& parameter);
 // The family whose parameters each belong to one method.
 inline constexpr std::string_view kMethodFamily = "Earth-fault detection";
 
-// Patterns of every setting of a method.
+bool isOfMethod(const Parameter& parameter);
+
+// Patterns of every setting that a method names.
 std::string settingsOf(const Method& method);
+
+// The others that belong to it by their prefix.
+std::string unnamedSettingsOf(const Method& method);
 
 // What is wrong in the data of the pages: names and choices that do not exist, members without a text.
 std::vector<std::string> faults();

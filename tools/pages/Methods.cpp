@@ -47,7 +47,8 @@ void addMethod(std::string& page, const Method& method) {
     page += "| | |\n|---|---|\n";
     addRow(page, "switch · Freigabe", parameterList(method.enable));
     addRow(page, "thresholds · Schwellen", parameterList(method.thresholds));
-    addRow(page, "settings · Einstellungen", parameterList(method.settings));
+    addRow(page, "settings · Einstellungen",
+           parameterList(std::string(method.settings) + unnamedSettingsOf(method)));
     addRow(page, "delays · Verzögerungen", parameterList(method.delays));
     addRow(page, "durations · Dauern", parameterList(method.durations));
     addRow(page, "logs · Logbücher", parameterList(method.logs));

@@ -10,7 +10,7 @@ namespace talux::pages {
 // single or "28..31", divided by blanks; they are ordered by their texts, which name the method.
 struct Method {
     std::string_view de, en;
-    std::string_view prefix;     // what most of its names begin with
+    std::string_view prefix;     // settings that no method names belong to the one whose prefix they have
     std::string_view enable;     // the switch of the method, then those of its parts
     std::string_view thresholds; // from which on it evaluates
     std::string_view settings;   // angles, cycles, choices, switches

@@ -1,6 +1,8 @@
 // Writes the pages of docs/parameters from the compiled-in dictionary.
 //
-//   parameter_pages FRAME DIR          writes the pages into DIR; FRAME is the search page without its data
+//   parameter_pages FRAME DIR          writes the pages into DIR, where nothing else stays; FRAME is the
+//   search
+//                                      page without its data
 //   parameter_pages --check FRAME DIR  names the pages of DIR that are not up to date
 #include <cstdio>
 #include <filesystem>
@@ -34,6 +36,8 @@ Pages allPages(const char* frame) {
 
 int write(const std::filesystem::path& folder, const Pages& pages) {
     std::filesystem::create_directories(folder);
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        if (!pages.contains(entry.path().filename())) std::filesystem::remove(entry);
     for (const auto& [file, content] : pages) {
         std::ofstream out(folder / file, std::ios::binary);
         if (!(out << content).flush()) {
