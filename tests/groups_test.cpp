@@ -103,7 +103,7 @@ TEST_F(Groups, AreNeverTornWhileOthersWrite) {
             }
         });
     long done = 0, torn = 0, missed = 0, seen = 0;
-    for (int last = 0; missed <= reads / 20 && done < 1000 * reads && (done < reads || seen < kWritesSeen);
+    for (int last = 0; missed <= reads / 4 && done < 1000 * reads && (done < reads || seen < kWritesSeen);
          ++done)
         if (read() != Reading::whole)
             ++missed;
@@ -114,7 +114,7 @@ TEST_F(Groups, AreNeverTornWhileOthersWrite) {
     EXPECT_EQ(torn, 0);
     EXPECT_EQ(waitpid(children.back(), nullptr, WNOHANG), 0) << "torn for the other reader";
     EXPECT_GE(seen, kWritesSeen);
-    EXPECT_LE(missed, reads / 20);
+    EXPECT_LE(missed, reads / 4);
     std::printf("%ld reads, %ld torn, %ld not whole, %ld writes seen\n", done, torn, missed, seen);
 }
 
