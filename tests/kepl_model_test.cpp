@@ -3,6 +3,7 @@
 #include "ParamSystem/KEPL_Interpreter.h"
 
 #include <map>
+#include <set>
 #include <sys/mman.h>
 
 using namespace talux_test;
@@ -268,6 +269,22 @@ TEST_F(KeplModel, AnswersLines) {
     EXPECT_EQ(counts.size(), 23u) << "a way that no line takes any more, or a new one";
     for (const auto& [way, times] : counts)
         EXPECT_GT(times, 2) << way;
+}
+
+// One more character at a time, until the answer is full.
+TEST_F(KeplModel, FillsAnswersToTheLastCharacter) {
+    KEPL_Interpreter interpreter(path);
+    char name[] = "conman_status";
+    std::vector<VarLong> values(110, 1);
+    std::set<int> results;
+    for (int k = 0; k < 330; ++k) {
+        values[static_cast<std::size_t>(k % 110)] *= 10;
+        VarSetGlobalLongValueArray(GetParamPropertiesByName(name)->id, values.data(), 110);
+        const auto expected = model.evaluate("TLX_conman_status 1.110", "", uid);
+        ASSERT_EQ(evaluate(interpreter, "TLX_conman_status 1.110", ""), expected);
+        results.insert(expected.result);
+    }
+    EXPECT_EQ(results.size(), 2u);
 }
 
 // What other programs call directly: the slot is theirs, the count stays, a full stack is no target.
