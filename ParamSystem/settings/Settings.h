@@ -9,7 +9,7 @@
 
 namespace talux::settings {
 
-enum Setting : int {
+enum SettingId : int {
     kChannel = idOf("channel"),
     kEth1Active = idOf("eth1_active"),
     kWlan0Active = idOf("wlan0_active"),

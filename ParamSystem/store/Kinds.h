@@ -89,8 +89,10 @@ static_assert([] {
     return true;
 }());
 
-constexpr bool isTextKind(Kind kind) {
-    return kind == Kind::Text || (kind >= Kind::Date && kind <= Kind::Ip);
+consteval bool isTextKind(Kind kind) {
+    for (const Type& type : kTypes)
+        if (type.kind == kind) return isText(type.nature);
+    return false;
 }
 
 // Calls action.operator()<kind>(), the kind of a value as a constant; nothing for records and None.

@@ -18,8 +18,9 @@ std::vector<std::string> after(Change change) {
     return changes(listing(), changed);
 }
 
-Row& find(Listing& listing, std::string_view name) {
-    return *std::find_if(listing.begin(), listing.end(), [&](const Row& row) { return row[kName] == name; });
+ListingRow& find(Listing& listing, std::string_view name) {
+    return *std::find_if(listing.begin(), listing.end(),
+                         [&](const ListingRow& row) { return row[kName] == name; });
 }
 
 std::vector<std::string> afterCell(std::string_view name, Column column, const std::string& cell) {
@@ -36,7 +37,7 @@ TEST(Interface, IsReadBackAsItWasWritten) {
 TEST(Interface, SaysRowByRowWhatAChangeMeans) {
     using testing::ElementsAre;
     using testing::StartsWith;
-    const Row flag{"9999", "my_flag", "bool", "parameter.ini", "rw", "1", "", "", "", "0"};
+    const ListingRow flag{"9999", "my_flag", "bool", "parameter.ini", "rw", "1", "", "", "", "0"};
     EXPECT_THAT(after([&](Listing& all) { all.insert(all.begin() + 90, flag); }),
                 ElementsAre("my_flag (9999) is new: bool, parameter.ini, default 0"));
     EXPECT_THAT(after([](Listing& all) { all.erase(all.begin() + 90); }),

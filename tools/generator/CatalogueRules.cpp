@@ -82,8 +82,6 @@ struct Rule {
     bool (*holds)(const Parameter&, const Register&);
 };
 
-using Row = stParamProperties;
-
 constexpr Rule kRules[] = {
     {"a name consists of letters, digits and underscores",
      [](const auto& p, const auto&) { return isName(p.stem()); }},
@@ -101,25 +99,25 @@ constexpr Rule kRules[] = {
      [](const auto& p, const auto&) { return p.hasValue() || p.properties().is_volatile == 0; }},
     {"a run-time value has no default",
      [](const auto& p, const auto&) {
-         const Row& row = p.properties();
+         const stParamProperties& row = p.properties();
          return row.is_volatile == 0 || (row.val_def == 0 && *row.val_def_text == '\0');
      }},
     {"the range is empty",
      [](const auto& p, const auto&) { return p.properties().val_min <= p.properties().val_max; }},
     {"a setting has at least two choices",
      [](const auto& p, const auto&) {
-         const Row& row = p.properties();
+         const stParamProperties& row = p.properties();
          return row.type != kTypeEnum || !p.hasValue() || (row.val_max >= 2 && row.val_max != kNoMax);
      }},
     {"the default lies outside the range",
      [](const auto& p, const auto&) {
-         const Row& row = p.properties();
+         const stParamProperties& row = p.properties();
          const double least = row.type == kTypeEnum ? std::max(1.0, row.val_min) : row.val_min;
          return !isNumber(p) || !p.isSetting() || (row.val_def >= least && row.val_def <= row.val_max);
      }},
     {"the default is longer than the text may be",
      [](const auto& p, const auto&) {
-         const Row& row = p.properties();
+         const stParamProperties& row = p.properties();
          return row.val_len == catalogue::kNoLength ||
                 std::string_view(row.val_def_text).size() <= static_cast<std::size_t>(row.val_len);
      }},

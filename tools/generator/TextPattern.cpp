@@ -62,11 +62,11 @@ std::vector<Element> elementsOf(std::string_view list) {
 
 } // namespace
 
-std::vector<Member> membersOf(std::string_view pattern) {
+std::vector<SeriesMember> membersOf(std::string_view pattern) {
     const CutAtList outer(pattern);
     if (outer.list.empty()) return {{std::string(pattern), "", ""}};
     const CutAtList inner(outer.after);
-    std::vector<Member> members;
+    std::vector<SeriesMember> members;
     for (const Element& first : elementsOf(outer.list)) {
         const std::string name = std::string(outer.before) + first.name + std::string(inner.before);
         if (inner.list.empty()) {
@@ -96,7 +96,7 @@ std::vector<std::string> textsOf(std::string_view list) {
     return texts;
 }
 
-std::string filledIn(std::string_view text, const Member& member) {
+std::string filledIn(std::string_view text, const SeriesMember& member) {
     std::string filled;
     for (;;) {
         const CutAtList cut(text);

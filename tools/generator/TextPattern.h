@@ -14,18 +14,18 @@ struct BrokenRule {
 };
 
 // One member of a series: its name and what its texts show as {n} and {m}.
-struct Member {
+struct SeriesMember {
     std::string name, n, m;
 };
 
 // What a name with up to two lists in braces stands for.
-std::vector<Member> membersOf(std::string_view pattern);
+std::vector<SeriesMember> membersOf(std::string_view pattern);
 
 // The texts of a list divided by "|"; places {n} and {m} stay.
 std::vector<std::string> textsOf(std::string_view list);
 
 // A text with {n} and {m} replaced by what the member shows.
-std::string filledIn(std::string_view text, const Member& member);
+std::string filledIn(std::string_view text, const SeriesMember& member);
 
 } // namespace talux::generator
 

@@ -18,7 +18,7 @@ using texts::TextEntry;
 // Writes the rows of one member of a series.
 class RowWriter {
 public:
-    RowWriter(const TextEntry& line, const Member& whose, int textId)
+    RowWriter(const TextEntry& line, const SeriesMember& whose, int textId)
         : entry(line), member(whose), id(textId) {}
 
     std::vector<Text> write() {
@@ -59,7 +59,7 @@ private:
     }
 
     const TextEntry& entry;
-    const Member& member;
+    const SeriesMember& member;
     int id;
     std::vector<Text> rows;
 };
@@ -135,7 +135,7 @@ public:
     void add(const TextEntry& entry) {
         require(!entry.title.isEmpty(), "there is no title");
         checkLanguages(entry);
-        for (const Member& member : membersOf(entry.subject))
+        for (const SeriesMember& member : membersOf(entry.subject))
             add(entry, member);
     }
 
@@ -151,7 +151,7 @@ public:
     }
 
 private:
-    void add(const TextEntry& entry, const Member& member) {
+    void add(const TextEntry& entry, const SeriesMember& member) {
         const auto place = places.find(member.name);
         require(place != places.end(), "no parameter has this name");
         const TextSubject& subject = subjects[place->second];

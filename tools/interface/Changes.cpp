@@ -7,32 +7,32 @@
 namespace talux::interface {
 namespace {
 
-using Index = std::map<std::string, const Row*, std::less<>>;
+using Index = std::map<std::string, const ListingRow*, std::less<>>;
 
 // What stays when a name changes.
-std::string slotOf(const Row& row) {
+std::string slotOf(const ListingRow& row) {
     return row[kId] + row[kKind] + row[kPlace];
 }
 
 Index bySlot(const Listing& listing) {
     Index index;
-    for (const Row& row : listing)
+    for (const ListingRow& row : listing)
         index.emplace(slotOf(row), &row);
     return index;
 }
 
 Index byName(const Listing& listing) {
     Index index;
-    for (const Row& row : listing)
+    for (const ListingRow& row : listing)
         index.emplace(row[kName], &row);
     return index;
 }
 
-std::string headOf(const Row& row) {
+std::string headOf(const ListingRow& row) {
     return row[kName] + " (" + row[kId] + ")";
 }
 
-std::string describe(const Row& row) {
+std::string describe(const ListingRow& row) {
     std::string text = row[kKind];
     if (!row[kPlace].empty()) text += ", " + row[kPlace];
     if (!row[kMin].empty() || !row[kMax].empty()) text += ", range " + row[kMin] + " to " + row[kMax];
@@ -40,13 +40,13 @@ std::string describe(const Row& row) {
     return text;
 }
 
-double limit(const Row& row, Column column) {
+double limit(const ListingRow& row, Column column) {
     constexpr double kInfinite = std::numeric_limits<double>::infinity();
     if (row[column].empty()) return column == kMin ? -kInfinite : kInfinite;
     return std::strtod(row[column].c_str(), nullptr);
 }
 
-std::string meaningOf(Column column, const Row& before, const Row& after) {
+std::string meaningOf(Column column, const ListingRow& before, const ListingRow& after) {
     if (column == kAccess) return after[kAccess] == "r" ? "writes are refused now" : "can be written now";
     if (column != kMin && column != kMax) return std::string(kColumnTexts[column].meaning);
     const bool wider = (limit(after, column) > limit(before, column)) == (column == kMax);
@@ -54,7 +54,7 @@ std::string meaningOf(Column column, const Row& before, const Row& after) {
                  : "narrower, files and scripts may hold values that are refused now";
 }
 
-void addChanges(std::vector<std::string>& lines, const Row& before, const Row& after) {
+void addChanges(std::vector<std::string>& lines, const ListingRow& before, const ListingRow& after) {
     for (std::size_t k = 0; k < kColumns; ++k) {
         const auto column = static_cast<Column>(k);
         if (before[k] == after[k]) continue;
@@ -70,7 +70,7 @@ std::vector<std::string> changes(const Listing& before, const Listing& after) {
     const Index oldNames = byName(before), newNames = byName(after);
     const Index oldSlots = bySlot(before), newSlots = bySlot(after);
     std::vector<std::string> lines;
-    for (const Row& row : before) {
+    for (const ListingRow& row : before) {
         const auto same = newNames.find(row[kName]);
         const auto heir = newSlots.find(slotOf(row));
         if (same != newNames.end())
@@ -80,7 +80,7 @@ std::vector<std::string> changes(const Listing& before, const Listing& after) {
         else
             lines.push_back(headOf(row) + " is gone: programs, scripts and files that use it find nothing");
     }
-    for (const Row& row : after)
+    for (const ListingRow& row : after)
         if (!oldNames.contains(row[kName]) && !oldSlots.contains(slotOf(row)))
             lines.push_back(headOf(row) + " is new: " + describe(row));
     return lines;

@@ -36,14 +36,14 @@ std::string nameOf(const Parameter& parameter) {
     return parameter.isIndexed() ? name + "[" + withElements("1", parameter, 1) + "]" : name;
 }
 
-void addLimits(Row& cells, const Parameter& parameter) {
+void addLimits(ListingRow& cells, const Parameter& parameter) {
     if (!parameter.hasNumber()) return;
     if (parameter.hasMinimum()) cells[kMin] = shortNumber(parameter.row().val_min);
     if (parameter.hasMaximum()) cells[kMax] = shortNumber(parameter.row().val_max);
     if (parameter.row().val_step != 1) cells[kStep] = shortNumber(parameter.row().val_step);
 }
 
-void addValues(Row& cells, const Parameter& parameter) {
+void addValues(ListingRow& cells, const Parameter& parameter) {
     const stParamProperties& row = parameter.row();
     cells[kInitial] = value(parameter, row.val_init, row.val_init_text);
     const std::string byDefault = value(parameter, row.val_def, row.val_def_text);
@@ -52,9 +52,9 @@ void addValues(Row& cells, const Parameter& parameter) {
     if (row.val_len >= 0) cells[kLength] = std::to_string(row.val_len);
 }
 
-Row rowOf(const Parameter& parameter) {
+ListingRow rowOf(const Parameter& parameter) {
     const stParamProperties& row = parameter.row();
-    Row cells;
+    ListingRow cells;
     cells[kId] = withElements(std::to_string(row.id), parameter, row.id);
     cells[kName] = nameOf(parameter);
     cells[kKind] = parameter.type().name;
@@ -68,8 +68,8 @@ Row rowOf(const Parameter& parameter) {
     return cells;
 }
 
-Row rowOf(const Parameter& record, const StructMemberProperties_t& member) {
-    Row cells;
+ListingRow rowOf(const Parameter& record, const StructMemberProperties_t& member) {
+    ListingRow cells;
     cells[kId] = std::to_string(record.row().id);
     cells[kName] = std::string(record.name()) + "." + member.aszMemberName;
     cells[kKind] = member.szMemberType;
@@ -115,13 +115,13 @@ Listing listing() {
 }
 
 std::string print(const Listing& listing) {
-    Row heads;
+    ListingRow heads;
     for (std::size_t column = 0; column < kColumns; ++column)
         heads[column] = kColumnTexts[column].head;
     Listing rows = listing;
     rows.insert(rows.begin(), heads);
     std::string file;
-    for (const Row& row : rows) {
+    for (const ListingRow& row : rows) {
         std::string line;
         for (const std::string& cell : row)
             line += cell + '\t';
@@ -136,7 +136,7 @@ Listing parse(std::string_view file) {
     for (std::string line; std::getline(lines, line);) {
         if (line.starts_with('#') || line.starts_with(kColumnTexts[kId].head)) continue;
         std::istringstream cells(line);
-        Row& row = listing.emplace_back();
+        ListingRow& row = listing.emplace_back();
         for (std::string& cell : row)
             std::getline(cells, cell, '\t');
     }

@@ -49,8 +49,8 @@ inline constexpr ColumnText kColumnTexts[kColumns] = {
     {"format", "of the display"},
 };
 
-using Row = std::array<std::string, kColumns>;
-using Listing = std::vector<Row>;
+using ListingRow = std::array<std::string, kColumns>;
+using Listing = std::vector<ListingRow>;
 
 // Of the compiled-in dictionary.
 Listing listing();

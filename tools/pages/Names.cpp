@@ -28,7 +28,7 @@ std::vector<std::string_view> words(std::string_view text) {
 std::vector<std::string> namesOf(std::string_view patterns) {
     std::vector<std::string> names;
     for (std::string_view pattern : words(patterns))
-        for (generator::Member& member : generator::membersOf(pattern))
+        for (generator::SeriesMember& member : generator::membersOf(pattern))
             names.push_back(std::move(member.name));
     return names;
 }

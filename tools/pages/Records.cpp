@@ -9,7 +9,7 @@ std::map<std::string, MemberTexts, std::less<>> memberTextsOf(const Parameter& r
     constexpr std::span<const RecordMember> kTexts[] = {kMessRecord01, kMessRecord02, kStatRecord_c0};
     std::map<std::string, MemberTexts, std::less<>> texts;
     for (const RecordMember& row : kTexts[record.row().id - kFirstStruct])
-        for (const generator::Member& member : generator::membersOf(row.members))
+        for (const generator::SeriesMember& member : generator::membersOf(row.members))
             texts.emplace(member.name, MemberTexts{filledIn(row.de, member), filledIn(row.en, member),
                                                    filledIn(row.twin, member), filledIn(row.enable, member)});
     return texts;
