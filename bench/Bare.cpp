@@ -58,7 +58,7 @@ struct Entry {
     Kind kind = Kind::None;
     int type = 0;
     std::size_t offset = 0, slot = 0; // in a value space
-    bool isSetting = false, isInFile = false;
+    bool isSetting = false, isInFile = false, isText = false;
     double least = 0, most = 0;
 
     char* temp() const { return reinterpret_cast<char*>(pVarTemp) + offset; }
@@ -183,6 +183,7 @@ void addEntry(const stParamProperties& row) {
     entry.offset = block.offset + static_cast<std::size_t>(row.id - block.first) * block.slot;
     entry.isSetting = row.is_volatile == 0;
     entry.isInFile = entry.isSetting && row.userlevel <= 2 && !talux::isAddress(row);
+    entry.isText = talux::isText(row);
     entry.least = row.val_min;
     entry.most = row.val_max;
     entries.push_back(entry);
@@ -221,7 +222,7 @@ char* appendValue(char* place, char* end, const Entry& entry) {
         const Guard guard(globalLocks, entry.kind);
         std::memcpy(slot, entry.global(), entry.slot);
     }
-    if (talux::isTextKind(entry.kind)) {
+    if (entry.isText) {
         *place++ = '"';
         place = append(place, {slot, strnlen(slot, entry.slot)});
         *place++ = '"';
