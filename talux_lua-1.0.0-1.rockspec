@@ -19,6 +19,7 @@ build = {
       talux = "lua/talux.lua",
       ["talux.checks"] = "lua/talux/checks.lua",
       ["talux.dictionary"] = "lua/talux/dictionary.lua",
+      ["talux.files"] = "lua/talux/files.lua",
       ["talux.numbers"] = "lua/talux/numbers.lua",
       ["talux.parameters"] = "lua/talux/parameters.lua",
       ["talux.parameters_de"] = "lua/talux/parameters_de.lua",

@@ -3,6 +3,7 @@
 require "lib_talux_lua"
 local checks = require "talux.checks"
 local dictionary = require "talux.dictionary"
+local files = require "talux.files"
 local numbers = require "talux.numbers"
 local protocol = require "talux.protocol"
 local stopwatch = require "talux.stopwatch"
@@ -38,9 +39,6 @@ local function valueOf(answer)
   if answer:byte() == 34 then return answer:sub(2, -2) end
   return numbers.read(answer)
 end
-
--- Date and Time are the clock's, whatever is stored.
-local function isClock(row) return find(row.kind, "of the clock", 1, true) end
 
 local arrays = {long = talux_longarray, double = talux_doublearray}
 
@@ -281,37 +279,15 @@ local function run(line, level)
   if not answer then error(("%s: %s"):format(line, refusal), level + 1) end
 end
 
--- A text as a file holds it: addresses are normalised.
-local function asInFile(text) return (text:gsub("%f[%d]0+(%d)", "%1"):gsub('^"0%.0%.0%.0"$', '""')) end
-
-local function agree(a, b)
-  local value = numbers.read(a)
-  return value and value == numbers.read(b) or asInFile(a) == asInFile(b)
-end
-
-local function linesOf(path)
-  local file, values = assert(io.open(path)), {}
-  for line in file:lines() do
-    local name, value = line:match "^TLX_([%w_]+)=(.*)$"
-    if name then values[name] = value end
-  end
-  file:close()
-  return values
-end
-
 -- A write that fails is answered as done, so this looks whether the file holds the settings as they are now.
 local function save(word, name)
   run(word, 3)
-  local held = linesOf("/" .. name)
-  for _, row in ipairs(require "talux.parameters") do
-    if row.file == name and not isClock(row) and not agree(command("TLX_" .. row.name), held[row.name] or "") then
-      error(("%s: %s does not hold %s"):format(word, name, row.name), 3)
-    end
-  end
+  local lost = files.lost(name)
+  if lost then error(("%s: %s does not hold %s"):format(word, name, lost), 3) end
 end
 
 local function loadFile(word, file)
-  if file and (file == "" or file:find "[,%s%c]" or #word + #file > 126) then
+  if file and (type(file) ~= "string" or file == "" or file:find "[,%s%c]" or #word + #file > 126) then
     error(word .. ": no file name that a line can carry", 3)
   end
   run(file and word .. " " .. file or word, 3)
@@ -373,7 +349,7 @@ end
 function talux.changed()
   local changes = {}
   for _, row in ipairs(require "talux.parameters") do
-    local now = row.default and not isClock(row) and valueOf(command("TLX_" .. row.name))
+    local now = row.default and not dictionary.isClock(row) and valueOf(command("TLX_" .. row.name))
     if now and now ~= row.default then
       changes[#changes + 1] = {name = row.name, old = row.default, new = now}
     end
@@ -392,6 +368,7 @@ function talux.protocol(changes, language) return protocol(changes, textsIn(lang
 ---@param milliseconds number
 ---@param action fun(k: integer): boolean?
 function talux.every(milliseconds, action)
+  if not (milliseconds > 0) then error("a time above 0 expected", 2) end
   local period, k, elapsed, sleep = milliseconds / 1000, 1, stopwatch()
   while action(k) ~= false do
     k = math.max(k + 1, math.ceil(elapsed() / period) + 1)

@@ -43,6 +43,11 @@ end
 ---@return integer
 function dictionary.place(row) return places[row] end
 
+---Whether a parameter is the clock's, whatever is stored: Date and Time.
+---@param row talux.Row
+---@return boolean
+function dictionary.isClock(row) return row.kind:find("of the clock", 1, true) ~= nil end
+
 ---Titles, descriptions and choices by the name of the parameter.
 ---@param language "de"|"en"
 ---@return table<string, {[1]: string, [2]: string, [3]: table<integer, string>?}>

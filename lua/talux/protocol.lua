@@ -20,6 +20,7 @@ return function(changes, texts)
   local lines, columns = {}, {0, 0}
   for k, change in ipairs(changes) do
     local row = dictionary.row(change.name)
+    if not row then error(("%s: %s"):format(tostring(change.name), dictionary.unknown(change.name)), 3) end
     local title, choices = texts[row.name][1], row.kind == "enum" and texts[row.name][3]
     local label = change.index and ("%s[%d]"):format(row.name, change.index) or row.name
     local unit = row.unit and " " .. row.unit or ""
