@@ -1,4 +1,4 @@
-// Ids of VAR_, CMD_ and TXT_ names.
+// Ids of VAR_ and CMD_ names.
 #include "ParamSystem/dictionary/Tables.h"
 
 using namespace talux;
@@ -10,16 +10,4 @@ int ResolveParamSymbol(char* name, VarLong* lvalue) {
     if (position == 0) return 0;
     *lvalue = DefParamSymbols[position].value;
     return 1;
-}
-
-int ResolveParamTextSymbol(char* name, VarLong* lvalue) {
-    if (name == nullptr) return 0;
-    const std::string_view wanted(name);
-    for (const stParamSymbol* symbol = DefParamTextSymbols + 1; symbol->name != std::string_view("***");
-         ++symbol) {
-        if (!equalIgnoringCase(symbol->name, wanted)) continue;
-        *lvalue = symbol->value;
-        return 1;
-    }
-    return 0;
 }

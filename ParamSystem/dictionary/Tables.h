@@ -2,7 +2,6 @@
 #ifndef TALUX_DICTIONARY_TABLES_H
 #define TALUX_DICTIONARY_TABLES_H
 
-#include "ParamSystem/TALUX_ParamStrings.h"
 #include "ParamSystem/TALUX_Params.h"
 #include "ParamSystem/dictionary/Ids.h"
 #include "ParamSystem/dictionary/NameIndex.h"

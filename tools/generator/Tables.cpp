@@ -171,8 +171,9 @@ std::string symbols(const std::vector<Parameter>& parameters, const std::vector<
     Pool pool;
     const std::string tables =
         symbolTable("DefParamSymbols", all, pool) + symbolTable("DefParamTextSymbols", ofTexts, pool);
-    return std::string(kHead) + "#include \"ParamSystem/dictionary/Tables.h\"\n" + pool.definition() +
-           tables + "namespace talux {\n" + nameIndex("Symbol", names) + "}\n";
+    return std::string(kHead) +
+           "#include \"ParamSystem/TALUX_ParamStrings.h\"\n#include \"ParamSystem/dictionary/Tables.h\"\n" +
+           pool.definition() + tables + "namespace talux {\n" + nameIndex("Symbol", names) + "}\n";
 }
 
 std::string textTable(const std::vector<Text>& texts) {
