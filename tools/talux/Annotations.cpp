@@ -138,8 +138,7 @@ Status run(const Context& context) {
 } // namespace
 
 void addAnnotations(CLI::App& app, Commands& commands) {
-    CLI::App* const command =
-        app.add_subcommand("annotations", "a Lua file that tells editors functions and names");
+    Subcommand command(app, "annotations", "a Lua file that tells editors functions and names");
     commands.push_back({command, [](const Context& context) { return run(context); }});
 }
 

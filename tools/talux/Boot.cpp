@@ -117,10 +117,9 @@ Status run(const Options& options, const Context& context) {
 
 void addBoot(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command =
-        app.add_subcommand("boot", "what a boot script does: defaults, then the three files");
-    command->add_flag("--apply", options->apply, "apply network and clock on any processor");
-    command->add_flag("--again", options->again, "also on a device that runs");
+    Subcommand command(app, "boot", "what a boot script does: defaults, then the three files");
+    command.flag("--apply", options->apply, "apply network and clock on any processor");
+    command.flag("--again", options->again, "also on a device that runs");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

@@ -1,6 +1,8 @@
 // talux check: what loading a file would do, line by line.
 #include <memory>
 
+#include <nlohmann/json.hpp>
+
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Show.h"
@@ -113,12 +115,12 @@ Status run(const Options& options, const Context& context) {
 
 void addCheck(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command = app.add_subcommand("check", "what loading a file would do, line by line");
-    command->add_option("FILE", options->files, "parameter files")->required();
-    command->add_option(
+    Subcommand command(app, "check", "what loading a file would do, line by line");
+    command.option("FILE", options->files, "parameter files").required();
+    command.option(
         "--against", options->against,
         "what the values are now: default, live, staged, a file or a folder; default if not given");
-    command->add_flag("--json", options->json, "print JSON");
+    command.flag("--json", options->json, "print JSON");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

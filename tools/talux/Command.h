@@ -8,9 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include <CLI/CLI.hpp>
-
 #include "ParamSystem/TALUX_ParamStrings.h"
+#include "tools/talux/Subcommand.h"
 
 namespace talux::tool {
 
@@ -35,7 +34,7 @@ struct Context {
 };
 
 struct Command {
-    CLI::App* app;
+    Subcommand given;
     std::function<Status(const Context&)> run;
 };
 using Commands = std::vector<Command>;

@@ -1,6 +1,8 @@
 // talux diff: in what two sources differ.
 #include <memory>
 
+#include <nlohmann/json.hpp>
+
 #include "tools/talux/Command.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -67,13 +69,13 @@ Status run(const Options& options, const Context& context) {
 
 void addDiff(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command = app.add_subcommand("diff", "in which settings two sources differ");
+    Subcommand command(app, "diff", "in which settings two sources differ");
     command
-        ->add_option("SOURCE", options->sources,
-                     "[A] B, each default, live, staged, a file or a folder; A is live")
-        ->required()
-        ->expected(1, 2);
-    command->add_flag("--json", options->json, "print JSON");
+        .option("SOURCE", options->sources,
+                "[A] B, each default, live, staged, a file or a folder; A is live")
+        .required()
+        .expected(1, 2);
+    command.flag("--json", options->json, "print JSON");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

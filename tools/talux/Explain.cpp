@@ -5,6 +5,8 @@
 #include <memory>
 #include <sys/stat.h>
 
+#include <nlohmann/json.hpp>
+
 #include "tools/talux/Command.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
@@ -203,10 +205,10 @@ void explain(const std::string& name, const Context& context) {
 
 void addExplain(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command = app.add_subcommand("explain", "what a parameter is and what it is set to");
-    command->add_option("NAME|WORD", options->words, "names, or words to look for in the texts")->required();
-    command->add_flag("--live", options->live, "also the values of the running device");
-    command->add_flag("--json", options->json, "print JSON");
+    Subcommand command(app, "explain", "what a parameter is and what it is set to");
+    command.option("NAME|WORD", options->words, "names, or words to look for in the texts").required();
+    command.flag("--live", options->live, "also the values of the running device");
+    command.flag("--json", options->json, "print JSON");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

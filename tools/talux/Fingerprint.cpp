@@ -68,11 +68,10 @@ std::string fingerprintOf(const Listing& listing) {
 
 void addFingerprint(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command =
-        app.add_subcommand("fingerprint", "a number that tells whether settings are the same");
-    command->add_option("SOURCE", options->source, "live if not given");
-    command->add_option("--file", options->file, "only the settings of the file whose name begins so");
-    command->add_flag("--listing", options->listing, "print what it is the SHA-256 of");
+    Subcommand command(app, "fingerprint", "a number that tells whether settings are the same");
+    command.option("SOURCE", options->source, "live if not given");
+    command.option("--file", options->file, "only the settings of the file whose name begins so");
+    command.flag("--listing", options->listing, "print what it is the SHA-256 of");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

@@ -311,12 +311,10 @@ Status run(const Options& options, const Context& context) {
 
 void addLint(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command =
-        app.add_subcommand("lint", "every line of a KEPL or Lua script, without running it");
-    command->add_option("FILE", options->files, "scripts; *.lua are Lua, all others lines of KEPL")
-        ->required();
-    command->add_option("--level", options->level, "rights that lines of KEPL have, 0 to 3; 3 if not given")
-        ->check(CLI::Range(0, 3));
+    Subcommand command(app, "lint", "every line of a KEPL or Lua script, without running it");
+    command.option("FILE", options->files, "scripts; *.lua are Lua, all others lines of KEPL").required();
+    command.option("--level", options->level, "rights that lines of KEPL have, 0 to 3; 3 if not given")
+        .inRange(0, 3);
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

@@ -1,6 +1,8 @@
 // talux list: names and values.
 #include <memory>
 
+#include <nlohmann/json.hpp>
+
 #include "tools/talux/Command.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
@@ -69,12 +71,12 @@ Status run(const Options& options, const Context& context) {
 
 void addList(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command = app.add_subcommand("list", "names and values");
-    command->add_option("FILTER", options->filter.names, "parts of names, or patterns with * and ?");
-    command->add_option("--of", options->source, "whose values: default, live, staged, a file or a folder");
-    command->add_flag("--changed", options->changed, "only what is not the factory default");
-    options->filter.addTo(*command);
-    command->add_flag("--json", options->json, "print JSON");
+    Subcommand command(app, "list", "names and values");
+    command.option("FILTER", options->filter.names, "parts of names, or patterns with * and ?");
+    command.option("--of", options->source, "whose values: default, live, staged, a file or a folder");
+    command.flag("--changed", options->changed, "only what is not the factory default");
+    options->filter.addTo(command);
+    command.flag("--json", options->json, "print JSON");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

@@ -198,11 +198,11 @@ Status run(const Options& options, const Context& context) {
 
 void addReport(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command = app.add_subcommand("report", "a settings record to print and sign, as HTML");
-    command->add_option("SOURCE", options->source, "live, staged, default, a file or a folder")->required();
-    command->add_option("-o,--output", options->output, "write it to this file");
-    command->add_option("--title", options->title, "what stands above it");
-    command->add_flag("--changed", options->changed, "only what is not the factory setting");
+    Subcommand command(app, "report", "a settings record to print and sign, as HTML");
+    command.option("SOURCE", options->source, "live, staged, default, a file or a folder").required();
+    command.option("-o,--output", options->output, "write it to this file");
+    command.option("--title", options->title, "what stands above it");
+    command.flag("--changed", options->changed, "only what is not the factory setting");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

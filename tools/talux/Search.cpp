@@ -21,11 +21,11 @@ std::vector<const Parameter*> search(const std::vector<std::string>& words) {
     return found;
 }
 
-void Filter::addTo(CLI::App& command) {
-    command.add_option("--family", family, "of families whose name holds this");
-    command.add_option("--file", file, "kept in the file whose name begins so: parameter, sec, ip");
-    command.add_option("--level", level, "that this rights level is needed to write: 1, 2 or 3");
-    command.add_option("--search", words, "whose texts hold all of these words")->delimiter(' ');
+void Filter::addTo(Subcommand& command) {
+    command.option("--family", family, "of families whose name holds this");
+    command.option("--file", file, "kept in the file whose name begins so: parameter, sec, ip");
+    command.option("--level", level, "that this rights level is needed to write: 1, 2 or 3");
+    command.option("--search", words, "whose texts hold all of these words").divided(' ');
 }
 
 bool Filter::accepts(const Parameter& parameter) const {

@@ -23,7 +23,7 @@ struct Filter {
     int level = 0;                  // rights that a write takes; 0 any
 
     // Adds --family, --file, --level and --search to a command.
-    void addTo(CLI::App& command);
+    void addTo(Subcommand& command);
     bool accepts(const Parameter& parameter) const;
 };
 

@@ -159,9 +159,8 @@ Status run(const Options& options, const Context& context) {
 
 void addShell(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command =
-        app.add_subcommand("shell", "the command language with completion, history, help");
-    command->add_option("--level", options->level, "rights, 0 to 3; 2 if not given")->check(CLI::Range(0, 3));
+    Subcommand command(app, "shell", "the command language with completion, history, help");
+    command.option("--level", options->level, "rights, 0 to 3; 2 if not given").inRange(0, 3);
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

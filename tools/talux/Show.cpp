@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include <nlohmann/json.hpp>
+
 #include "ParamSystem/support/Number.h"
 #include "tools/talux/Text.h"
 

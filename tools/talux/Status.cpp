@@ -3,6 +3,8 @@
 #include <memory>
 #include <unistd.h>
 
+#include <nlohmann/json.hpp>
+
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Network.h"
@@ -162,9 +164,8 @@ Status run(const Options& options, const Context& context) {
 
 void addStatus(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command =
-        app.add_subcommand("status", "what update and save would change on this device");
-    command->add_flag("--json", options->json, "print JSON");
+    Subcommand command(app, "status", "what update and save would change on this device");
+    command.flag("--json", options->json, "print JSON");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

@@ -206,12 +206,12 @@ Status run(const Options& options, const Context& context) {
 
 void addWatch(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    CLI::App* const command = app.add_subcommand("watch", "live values, renewed in place");
-    command->add_option("NAME", options->names, "names; 'NAME I' or 'NAME I.J' for elements")->required();
-    command->add_option("--period", options->period, "seconds between two looks; 1 if not given")
-        ->check(CLI::Range(0.01, 86400.0));
-    command->add_option("--count", options->count, "end after so many looks");
-    command->add_flag("--csv", options->csv, "one row a look, for spreadsheets");
+    Subcommand command(app, "watch", "live values, renewed in place");
+    command.option("NAME", options->names, "names; 'NAME I' or 'NAME I.J' for elements").required();
+    command.option("--period", options->period, "seconds between two looks; 1 if not given")
+        .inRange(0.01, 86400.0);
+    command.option("--count", options->count, "end after so many looks");
+    command.flag("--csv", options->csv, "one row a look, for spreadsheets");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <iostream>
 
+#include <CLI/CLI.hpp>
+
 #include "tools/talux/Command.h"
 
 namespace {
@@ -38,7 +40,7 @@ Status endParsing(const CLI::App& app, const CLI::ParseError& error) {
 
 Status runChosen(const Commands& commands, const Context& context) {
     const auto chosen =
-        std::ranges::find_if(commands, [](const Command& command) { return command.app->parsed(); });
+        std::ranges::find_if(commands, [](const Command& command) { return command.given.isChosen(); });
     try {
         const Status status = chosen->run(context);
         if (std::fflush(stdout) != 0)

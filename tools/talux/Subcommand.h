@@ -1,0 +1,51 @@
+// What a command takes. The header of CLI11, which does the work, costs seconds in each source that reads it:
+// only Subcommand.cpp and main.cpp do.
+#ifndef TALUX_TOOLS_TALUX_SUBCOMMAND_H
+#define TALUX_TOOLS_TALUX_SUBCOMMAND_H
+
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+class Option;
+} // namespace CLI
+
+namespace talux::tool {
+
+class Argument {
+public:
+    explicit Argument(CLI::Option* given) : option(given) {}
+
+    Argument& required();
+    Argument& expected(int least, int most); // how many values
+    Argument& inRange(int least, int most);
+    Argument& inRange(double least, double most);
+    Argument& divided(char delimiter); // a value is several
+
+private:
+    CLI::Option* option;
+};
+
+class Subcommand {
+public:
+    Subcommand(CLI::App& program, const char* name, const char* help);
+
+    // A name that begins with "-" is that of an option, any other stands for what is typed in its place. The
+    // variable has the value that counts if none is typed.
+    Argument option(const char* name, std::string& value, const char* help);
+    Argument option(const char* name, std::vector<std::string>& values, const char* help);
+    Argument option(const char* name, int& value, const char* help);
+    Argument option(const char* name, long& value, const char* help);
+    Argument option(const char* name, double& value, const char* help);
+    void flag(const char* name, bool& value, const char* help);
+
+    bool isChosen() const;
+
+private:
+    CLI::App* app;
+};
+
+} // namespace talux::tool
+
+#endif
