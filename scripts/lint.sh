@@ -20,6 +20,12 @@ mapfile -t inside < <(git ls-files ParamSystem MenuSystem src | grep -v '^ParamS
 calls='system|popen|exec[lv]p?e?|posix_spawnp?|v?syslog|clock_settime|settimeofday|u?sleep|nanosleep'
 calls+='|socket|ioctl|openat?|readlink(at)?|access|rename(at)?|unlink(at)?|f?l?chown|f?chmod|f?sync|flock'
 ! grep -nE "(^|[^a-zA-Z_>.])(::|std::)?($calls)\(" "${inside[@]}" || status=1
+# Includes point one way through the rooms.
+rooms=(support os dictionary store texts files settings kepl)
+for room in "${!rooms[@]}"; do
+  later=$(IFS='|'; echo "${rooms[*]:room+1}")
+  ! grep -rnE "#include \"(ParamSystem/($later)|src)/" "ParamSystem/${rooms[room]}" || status=1
+done
 # Without the headers that g++ compiles beforehand, which clang cannot read; sources have to name what they use.
 quiet cmake --preset release -B build-lint -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DTALUX_BUILD_BENCH=ON
 quiet cmake --build build-lint --target talux_dictionary
