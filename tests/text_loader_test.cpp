@@ -4,10 +4,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 #include "MenuSystem/TALUX_Data.h"
@@ -108,6 +111,26 @@ TEST_F(TextLoader, TakesLinesUpToTheLongestAndAFullTable) {
     EXPECT_STREQ(GetNextParamString(9001, kTextTitle)->txt, "***") << "the table ends with its last row";
     Data_StringReset();
     expectEnd(full + bare, "max string number exceeded");
+}
+
+// Slowly through a FIFO, while a timer interrupts.
+TEST_F(TextLoader, GoesOnAfterSignals) {
+    const std::string path = "/tmp/texts.fifo", content = kSentinel + title("VAR_Name", "slow");
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    struct sigaction action {};
+    action.sa_handler = [](int) {};
+    sigaction(SIGALRM, &action, nullptr);
+    std::thread writer([&] {
+        usleep(20000);
+        std::ofstream fifo(path);
+        for (const char c : content)
+            fifo << c << std::flush, usleep(2000);
+    });
+    ualarm(1000, 1000);
+    LoadParamStrings(std::string(path).data());
+    ualarm(0, 0);
+    writer.join();
+    EXPECT_EQ(titleOf(9000), "slow");
 }
 
 TEST_F(TextLoaderDeathTest, BadFilesEndTheProcess) {

@@ -1,5 +1,4 @@
 // Terms that run a shell command.
-#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 
@@ -19,22 +18,12 @@ enum Buffered { kLastChunk = 0, kMoreFollows = 1 };
     std::exit(-1);
 }
 
-// The next character; a signal that the host handles meanwhile does not end the output.
-int readCharacter(FILE* pipe) {
-    for (;;) {
-        errno = 0;
-        const int character = std::getc(pipe);
-        if (character != EOF || errno != EINTR) return character;
-        std::clearerr(pipe);
-    }
-}
-
 // Reads up to the end of a line or as much as fits. NUL characters cannot travel in a text and are left
 // out. False at the end of the output.
 bool readChunk(FILE* pipe, char (&chunk)[255]) {
     std::size_t length = 0;
     int character = 0;
-    while (length < sizeof chunk - 1 && character != '\n' && (character = readCharacter(pipe)) != EOF)
+    while (length < sizeof chunk - 1 && character != '\n' && (character = os::readCharacter(pipe)) != EOF)
         if (character != '\0') chunk[length++] = static_cast<char>(character);
     chunk[length] = '\0';
     return length > 0;

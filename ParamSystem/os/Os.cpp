@@ -1,6 +1,7 @@
 #include "ParamSystem/os/Os.h"
 
 #include <atomic>
+#include <cerrno>
 #include <cstdarg>
 #include <cstdlib>
 #include <sys/stat.h>
@@ -24,6 +25,23 @@ FILE* openPipe(const char* command) {
 
 void closePipe(FILE* pipe) {
     pclose(pipe);
+}
+
+FILE* openStream(const char* path) {
+    FILE* stream = nullptr;
+    do {
+        stream = std::fopen(path, "r");
+    } while (stream == nullptr && errno == EINTR);
+    return stream;
+}
+
+int readCharacter(FILE* stream) {
+    for (;;) {
+        errno = 0;
+        const int character = std::getc(stream);
+        if (character != EOF || errno != EINTR) return character;
+        std::clearerr(stream);
+    }
 }
 
 namespace {

@@ -16,6 +16,12 @@ void runShell(const char* command);
 FILE* openPipe(const char* command);
 void closePipe(FILE* pipe);
 
+// A file to read; null when it cannot be opened.
+FILE* openStream(const char* path);
+
+// The next character, or EOF. Signals that the host handles meanwhile end neither of the two.
+int readCharacter(FILE* stream);
+
 // The local time now, in the zone that TZ or /etc/localtime names at this moment. On failure `now` is all
 // zero and the result false.
 bool localTime(std::tm& now);

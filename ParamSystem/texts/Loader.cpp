@@ -7,6 +7,7 @@
 
 #include "MenuSystem/TALUX_Data.h"
 #include "ParamSystem/TALUX_ParamStrings.h"
+#include "ParamSystem/os/Os.h"
 #include "ParamSystem/texts/CurrentTexts.h"
 
 namespace talux {
@@ -26,13 +27,22 @@ constinit stParamText loadedTexts[kParamTextRows + 1] = {};
     std::exit(2);
 }
 
+// Up to and with the line feed, or as much as fits. False at the end of the file.
+bool takeLine(FILE* source, char (&line)[kMaxLine + 2]) {
+    std::size_t length = 0;
+    int character = 0;
+    while (length < sizeof line - 1 && character != '\n' && (character = os::readCharacter(source)) != EOF)
+        line[length++] = static_cast<char>(character);
+    line[length] = '\0';
+    return length > 0;
+}
+
 // Reads the next line that is not empty. False at the end of the file.
 bool readLine(FILE* source, char (&line)[kMaxLine + 2], const char* sourcefile) {
     do {
-        if (!std::fgets(line, sizeof line, source)) {
-            if (std::feof(source)) return false;
-            fail(source, "\nError (%s): Can't read source file '%s'\n", sourcefile);
-        }
+        const bool isLine = takeLine(source, line);
+        if (std::ferror(source) != 0) fail(source, "\nError (%s): Can't read source file '%s'\n", sourcefile);
+        if (!isLine) return false;
         if (std::strlen(line) > kMaxLine)
             fail(source, "\nError (%s): Line too long in source file '%s'\n", sourcefile);
     } while (std::strcmp(line, "\n") == 0);
@@ -63,7 +73,7 @@ stParamText readText(FILE* source, char* line) {
 using namespace talux;
 
 int LoadParamStrings(char* sourcefile) {
-    FILE* source = std::fopen(sourcefile, "r");
+    FILE* source = os::openStream(sourcefile);
     if (!source) fail(source, "Error (%s): Can't find source file '%s'\n", sourcefile);
     int row = 0;
     for (char line[kMaxLine + 2]; readLine(source, line, sourcefile); ++row) {
