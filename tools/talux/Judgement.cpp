@@ -97,8 +97,8 @@ Judgement Judge::judge(const Entry& entry) {
     Judgement judgement;
     judgement.line = entry.line;
     // The rest of a line that was told to be too long matters only where it is read as a parameter.
-    if (entry.form == LineForm::nothing || (entry.continues && entry.form != LineForm::entry))
-        return judgement;
+    const bool isNothing = entry.form == LineForm::nothing && !entry.hasNul;
+    if (isNothing || (entry.continues && entry.form != LineForm::entry)) return judgement;
     const Effect effect = effectOf(entry);
     if (effect.row == nullptr && ++strangers > kMostStrangers) {
         judgement.isUntold = true;

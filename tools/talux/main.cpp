@@ -13,8 +13,8 @@ namespace {
 using namespace talux::tool;
 
 constexpr const char* kAbout =
-    "Settings of the relay: what they mean, what a file would change, what is pending.\n"
-    "SOURCE: live, staged, default, a parameter file, or a folder with the three files.\n"
+    "Settings of the relay: what they mean, what a file changes, what is pending.\n"
+    "SOURCE: live, staged, default, a parameter file, or a folder with the three.\n"
     "Exit status: 0 nothing to tell, 1 findings or differences, 2 could not.";
 
 // As the usual variables of the environment say it.
@@ -43,7 +43,7 @@ Status runChosen(const Commands& commands, const Context& context) {
         std::ranges::find_if(commands, [](const Command& command) { return command.given.isChosen(); });
     try {
         const Status status = chosen->run(context);
-        if (std::fflush(stdout) != 0)
+        if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
             throw CouldNot(
                 context.say("the output cannot be written", "die Ausgabe lässt sich nicht schreiben"));
         return status;
@@ -63,8 +63,8 @@ int run(int argc, char** argv) {
     const std::map<std::string, ParamLanguage> languages{{"de", kGerman}, {"en", kEnglish}};
     app.add_option("--language", context.language, "de or en; by default that of the environment")
         ->transform(CLI::CheckedTransformer(languages, CLI::ignore_case).description(""));
-    app.add_option("--directory", context.directory,
-                   "where the device keeps its parameter files; by default /");
+    app.add_option("--directory", context.directory, "where the device keeps its files; by default /");
+    app.get_formatter()->column_width(22);
     app.require_subcommand(1);
     app.fallthrough();
 
