@@ -39,18 +39,13 @@ constexpr char kPrompt[] = "talux> ";
 
 #ifdef TALUX_HAVE_LIBEDIT
 
-volatile std::sig_atomic_t interrupted = 0;
-void interrupt(int) {
-    interrupted = 1;
-}
-
 class Edited : public LineReader {
 public:
     Edited(std::string file, const Context& person)
         : historyFile(std::move(file)), context(person), past(history_init()),
           editor(el_init("talux", stdin, stdout, stderr)) {
         std::setlocale(LC_CTYPE, "");
-        catchInterrupts();
+        std::signal(SIGINT, [](int) {}); // while a line is carried out: ends its shell command alone
         HistEvent event;
         history(past, &event, H_SETSIZE, 1000);
         history(past, &event, H_SETUNIQUE, 1);
@@ -62,6 +57,9 @@ public:
         el_set(editor, EL_HIST, history, past);
         el_set(editor, EL_ADDFN, "talux-complete", "Completes names and values", completeKey);
         el_set(editor, EL_BIND, "^I", "talux-complete", nullptr);
+        el_set(editor, EL_ADDFN, "talux-give-up", "Gives the line up", giveUpKey);
+        el_set(editor, EL_BIND, "^C", "talux-give-up", nullptr);
+        el_set(editor, EL_SETTY, "-d", "-isig", nullptr); // a key like others while a line is edited
         el_set(editor, EL_BIND, "^R", "em-inc-search-prev", nullptr);
     }
     ~Edited() override {
@@ -73,13 +71,10 @@ public:
 
     std::optional<std::string> next() override {
         int count = 0;
-        interrupted = 0;
+        isGivenUp = false;
+        el_set(editor, EL_PREP_TERM, 1); // before the prompt: what is typed behind it is for the editor
         const char* const text = el_gets(editor, &count);
-        if (text == nullptr && interrupted != 0) {
-            el_reset(editor);
-            std::fputs("\n", stdout);
-            return std::string();
-        }
+        if (isGivenUp) return std::string();
         if (text == nullptr || count <= 0) {
             std::fputs("\n", stdout);
             return {};
@@ -95,13 +90,7 @@ private:
     const Context& context;
     History* const past;
     EditLine* const editor;
-
-    // A call that waits for a key must end, so it is not begun again by itself.
-    static void catchInterrupts() {
-        struct sigaction action {};
-        action.sa_handler = interrupt;
-        sigaction(SIGINT, &action, nullptr);
-    }
+    bool isGivenUp = false;
 
     // Saved at once: the session may end any time.
     void remember(const std::string& line) {
@@ -110,12 +99,22 @@ private:
         if (!historyFile.empty()) history(past, &event, H_SAVE, historyFile.c_str());
     }
 
-    static unsigned char completeKey(EditLine* editor, int /*key*/) {
+    static Edited& of(EditLine* editor) {
         void* self = nullptr;
         el_get(editor, EL_CLIENTDATA, &self);
+        return *static_cast<Edited*>(self);
+    }
+
+    static unsigned char giveUpKey(EditLine* editor, int /*key*/) {
+        of(editor).isGivenUp = true;
+        std::fputs("^C\n", stdout);
+        return CC_NEWLINE;
+    }
+
+    static unsigned char completeKey(EditLine* editor, int /*key*/) {
         const LineInfo* const line = el_line(editor);
         const std::string_view head(line->buffer, static_cast<std::size_t>(line->cursor - line->buffer));
-        const Completion completion = complete(head, static_cast<Edited*>(self)->context);
+        const Completion completion = complete(head, of(editor).context);
         if (completion.candidates.empty()) return CC_REFRESH_BEEP;
         const std::string text = completion.common();
         const std::string_view typed = head.substr(head.size() - completion.typed);
