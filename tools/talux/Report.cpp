@@ -123,22 +123,22 @@ private:
     }
 
     std::string familyTables() {
-        std::string tables, rows;
-        const stParamFamily* family = nullptr;
+        std::string tables, rows, family;
         for (const Parameter& parameter : reference::parameters()) {
-            if (family != &parameter.family()) tables += tableOf(family, std::exchange(rows, {}));
-            family = &parameter.family();
+            const std::string_view name = familyName(parameter, context);
+            if (family != name) tables += tableOf(family, std::exchange(rows, {}));
+            family = name;
             rows += row(parameter);
         }
         return tables + tableOf(family, rows);
     }
 
-    std::string tableOf(const stParamFamily* family, const std::string& rows) const {
-        if (family == nullptr || rows.empty()) return {};
+    std::string tableOf(const std::string& family, const std::string& rows) const {
+        if (rows.empty()) return {};
         return fill("<h2>{}</h2>\n<table>\n<thead><tr><th class=\"mark\"></th><th class=\"name\">{}</th>"
                     "<th>{}</th><th class=\"value\">{}</th><th class=\"default\">{}</th></tr></thead>\n"
                     "<tbody>\n{}</tbody>\n</table>\n",
-                    {escaped(family->name), context.say("Name", "Name"), context.say("Title", "Titel"),
+                    {escaped(family), context.say("Name", "Name"), context.say("Title", "Titel"),
                      context.say("Value", "Wert"), context.say("Factory setting", "Werkseinstellung"), rows});
     }
 

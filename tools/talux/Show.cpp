@@ -1,5 +1,6 @@
 #include "tools/talux/Show.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -12,6 +13,35 @@
 namespace talux::tool {
 
 namespace {
+
+// What the families are called in German.
+constexpr struct {
+    std::string_view english, german;
+} kFamilies[] = {
+    {"State", "Zustand"},
+    {"Measurements", "Messwerte"},
+    {"Signals", "Meldungen"},
+    {"Identification", "Identifikation"},
+    {"Display", "Anzeige"},
+    {"Network", "Netzwerk"},
+    {"Firewall and services", "Firewall und Dienste"},
+    {"Time services", "Zeitdienste"},
+    {"Serial ports", "Serielle Schnittstellen"},
+    {"Modbus slave", "Modbus-Slave"},
+    {"Telecontrol", "Fernwirktechnik"},
+    {"Scripting", "Skripte"},
+    {"Process images", "Prozessabbilder"},
+    {"Analog inputs", "Analogeingänge"},
+    {"Binary inputs and outputs", "Binäre Ein- und Ausgänge"},
+    {"Earth-fault detection", "Erdschlusserfassung"},
+    {"Recorder and statistics", "Störschreiber und Statistik"},
+    {"User texts", "Benutzertexte"},
+    {"Service", "Service"},
+    {"Users and security", "Benutzer und Sicherheit"},
+    {"Run-time values", "Laufzeitwerte"},
+    {"Measurement snapshot", "Messwertabzug"},
+    {"Records", "Datensätze"},
+};
 
 // Without an exponent where people write none.
 template <typename Number>
@@ -43,6 +73,13 @@ std::string plain(const Parameter& parameter, const Value& value) {
 
 std::string shown(const Parameter& parameter, const std::optional<Value>& value, const Context& context) {
     return value ? plain(parameter, *value) + meaning(parameter, *value, context) : "-";
+}
+
+std::string_view familyName(const Parameter& parameter, const Context& context) {
+    const std::string_view name = parameter.family().name;
+    const auto* const found =
+        std::ranges::find(kFamilies, name, [](const auto& family) { return family.english; });
+    return context.language == kGerman && found != std::end(kFamilies) ? found->german : name;
 }
 
 double leastNumber(const Parameter& parameter) {
