@@ -20,7 +20,14 @@ const Parameter* parameterOf(const Decision& decision) {
     return decision.row == nullptr ? nullptr : reference::find(decision.row->name);
 }
 
+std::string unitBehind(const Parameter& parameter) {
+    const std::string unit = parameter.unit();
+    return unit.empty() ? unit : " " + unit;
+}
+
 std::string unknownName(std::string_view name, const Context& context) {
+    if (name == kepl::VariableTerm().name)
+        return context.say("there is no name behind the prefix", "hinter dem Vorsatz steht kein Name");
     std::string text =
         fill(context.say("no parameter is named {}", "kein Parameter heißt {}"), {printable(name)});
     if (const auto near = reference::nearest(name); !near.empty())
@@ -352,9 +359,10 @@ std::string reasonOf(const Decision& decision, const Context& context) {
         return context.say("the range runs backwards", "der Bereich läuft rückwärts");
     case Refusal::valueTooLow:
     case Refusal::valueTooHigh:
-        return fill(context.say("{} is out of range: {} {}", "{} liegt außerhalb: {} {}"),
-                    {reference::shortNumber(decision.value->number()), range(*parameter, context.language),
-                     parameter->unit()});
+        return fill(context.say("{} is out of range: {} to {}{}", "{} liegt außerhalb: {} bis {}{}"),
+                    {reference::shortNumber(decision.value->number()),
+                     reference::shortNumber(parameter->row().val_min),
+                     reference::shortNumber(parameter->row().val_max), unitBehind(*parameter)});
     case Refusal::readOnly:
         return fill(context.say("{} can only be read", "{} kann nur gelesen werden"), {decision.row->name});
     case Refusal::writeOnly:

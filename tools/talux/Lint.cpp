@@ -9,6 +9,7 @@
 #include <set>
 #include <system_error>
 
+#include "ParamSystem/support/Text.h"
 #include "tools/talux/Command.h"
 #include "tools/talux/LineCheck.h"
 #include "tools/talux/LuaTokens.h"
@@ -244,9 +245,16 @@ private:
         }
     }
 
+    // The layer takes "prio_list" for prio_list_1, prio_list_2, ..
+    static bool isNameOrSeries(std::string_view name) {
+        return std::ranges::any_of(reference::parameters(), [name](const Parameter& parameter) {
+            return !parameter.isTemplate() && startsIgnoringCase(parameter.name(), name);
+        });
+    }
+
     void lintLayer(std::size_t k) {
         const auto constant = argumentAt(k);
-        if (!constant || !constant->isWhole || reference::find(constant->text) != nullptr) return;
+        if (!constant || !constant->isWhole || isNameOrSeries(constant->text)) return;
         std::string text = fill(context.say("no parameter is named {}", "kein Parameter heißt {}"),
                                 {printable(constant->text)});
         if (const auto near = reference::nearest(constant->text); !near.empty())
@@ -281,6 +289,26 @@ private:
     }
 };
 
+// What stands in the Lua blocks of a page in Markdown, at its own place; the rest is blank.
+std::string luaBlocksOf(std::string_view page) {
+    std::string blocks(page);
+    bool isFenced = false, isLua = false;
+    for (std::size_t start = 0; start < page.size();) {
+        const std::size_t end = std::min(page.find('\n', start), page.size());
+        const std::string_view line = page.substr(start, end - start);
+        const std::string_view text = kepl::withoutLeading(line, ' ');
+        const bool isFence = text.starts_with("```");
+        if (isFence) {
+            isLua = !isFenced && text.substr(3, 3) == "lua";
+            isFenced = !isFenced;
+        }
+        if (isFence || !isLua)
+            std::fill_n(blocks.begin() + static_cast<std::ptrdiff_t>(start), line.size(), ' ');
+        start = end + 1;
+    }
+    return blocks;
+}
+
 // ---- Command ----------------------------------------------------------------------------------------------
 
 std::string contentsOf(const std::string& path, const Context& context) {
@@ -297,7 +325,9 @@ Status run(const Options& options, const Context& context) {
     for (const std::string& path : options.files) {
         const std::string script = contentsOf(path, context);
         Findings findings(path, script);
-        if (path.ends_with(".lua"))
+        if (path.ends_with(".md"))
+            LuaLint(luaBlocksOf(script), findings, context).run();
+        else if (path.ends_with(".lua"))
             LuaLint(script, findings, context).run();
         else
             lintKepl(script, options, findings, context);
@@ -312,7 +342,10 @@ Status run(const Options& options, const Context& context) {
 void addLint(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
     Subcommand command(app, "lint", "every line of a KEPL or Lua script, without running it");
-    command.option("FILE", options->files, "scripts; *.lua are Lua, all others lines of KEPL").required();
+    command
+        .option("FILE", options->files,
+                "scripts; *.lua are Lua, of *.md the Lua blocks are read, all others are lines of KEPL")
+        .required();
     command.option("--level", options->level, "rights that lines of KEPL have, 0 to 3; 3 if not given")
         .inRange(0, 3);
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
