@@ -1,9 +1,13 @@
-# Debian packages: talux-lua for the device, talux-lua-dev for developers.
+# Debian packages: talux-lua for the device, talux-lua-dev for developers, talux with the program.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "talux")
 set(CPACK_PACKAGE_CONTACT "talux developers <developers@talux.invalid>")
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
-set(CPACK_COMPONENTS_ALL deb_runtime deb_development)
+set(talux_packages runtime development)
+if(TALUX_BUILD_PROGRAM)
+  list(APPEND talux_packages program)
+endif()
+list(TRANSFORM talux_packages PREPEND deb_ OUTPUT_VARIABLE CPACK_COMPONENTS_ALL)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
@@ -31,11 +35,22 @@ What it takes to build C and C++ programs against lib_talux_lua: headers, and
 the files by which CMake and pkg-config find the library; pages about
 commissioning, scripts and every parameter, with one page to search them all.")
 
+# One on a machine is enough, of whatever architecture.
+set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_NAME talux)
+set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_PRIORITY "optional\nMulti-Arch: foreign")
+set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_DEPENDS "libc6 (>= 2.34)")
+set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_SUGGESTS "talux-lua")
+set(CPACK_COMPONENT_DEB_PROGRAM_DESCRIPTION "Relay controller settings: explain, check, compare, report
+The program talux for the person at the relay and at the desk: what a
+parameter means, what a file would change, what is pending, in what two relays
+differ, a record to sign, a shell for the command language.")
+
 # What every package tells of itself; the same bytes on every machine.
 find_program(GZIP_PROGRAM gzip REQUIRED)
 execute_process(COMMAND ${GZIP_PROGRAM} -9nc ${PROJECT_SOURCE_DIR}/packaging/changelog
   OUTPUT_FILE ${PROJECT_BINARY_DIR}/changelog.gz COMMAND_ERROR_IS_FATAL ANY)
-foreach(package runtime development)
+foreach(package IN LISTS talux_packages)
   string(TOUPPER ${package} upper)
   set(name ${CPACK_DEBIAN_DEB_${upper}_PACKAGE_NAME})
   install(FILES ${PROJECT_BINARY_DIR}/changelog.gz packaging/copyright

@@ -27,7 +27,9 @@ scripts/sysroot.sh "$debian" "build-sysroot/$debian"
 cmake --preset "$arch" -DTALUX_BUILD_TESTS="$tests" -DTALUX_BUILD_EXAMPLES="$tests" "$@"
 cmake --build "build-$arch"
 rm -rf "build-$arch/device"
-cmake --install "build-$arch" --prefix "build-$arch/device" --component runtime --strip
+for component in runtime program; do
+  cmake --install "build-$arch" --prefix "build-$arch/device" --component "$component" --strip
+done
 library=build-$arch/device/lib/lib_talux_lua.so.1
 "$multiarch-size" "$library"
 echo "$library: $(stat -c %s "$library") bytes"

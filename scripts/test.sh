@@ -42,7 +42,7 @@ packages() {
   mkdir -p "$folder"/root/var/lib/dpkg/{updates,info,triggers}
   touch "$folder"/root/var/lib/dpkg/{status,available}
   echo "$(dpkg --print-architecture) armhf armel" | tr ' ' '\n' >"$folder/root/var/lib/dpkg/arch"
-  quiet dpkg --root="$folder/root" --force-not-root,depends,script-chrootless -i "$folder"/*.deb || status=1
+  quiet dpkg --root="$folder/root" --force-not-root,depends,script-chrootless -i "$folder"/talux-lua*.deb || status=1
   [ "$(find "$folder/root" -name lib_talux_lua.so.1 | wc -l)" = 3 ] || status=1
   rm -rf "$folder"
   return "$status"

@@ -105,11 +105,17 @@ fresh_root package
 dpkg-deb -x "$work"/talux-lua_*_"$architecture".deb "$work/package"
 try_script package
 dpkg-deb -x "$work"/talux-lua-dev_*_"$architecture".deb "$work/package"
+dpkg-deb -x "$work"/talux_*_"$architecture".deb "$work/package"
+for name in tree package; do
+  inside "$name" '$run "$(find "$root/usr" -path "*/bin/talux")" explain Uearth' | grep -q ' 1 to 90$' ||
+    fail "$name: talux explains nothing"
+done
 (cd "$work/tree/usr/local" && find . ! -type d | LC_ALL=C sort) >"$work/tree.list"
 for package in "$work"/*.deb; do
-  [ "$(dpkg-deb -f "$package" Multi-Arch)" = same ] || fail "$package is not for several architectures"
+  [ "$package" != "${package#"$work/talux-"}" ] && multi=same || multi=foreign
+  [ "$(dpkg-deb -f "$package" Multi-Arch)" = "$multi" ] || fail "$package has a wrong Multi-Arch"
   dpkg-deb --fsys-tarfile "$package" | tar -t
 done | sed -nE "/\/$/d; s,^\./usr/lib/$multiarch/,./lib/,p
-  s,^\./usr/(include|share/lua|share/doc/talux-lua-dev/(docs|examples|README))(.*),./\1\3,p" |
+  s,^\./usr/(bin|include|share/man|share/bash-completion|share/lua|share/doc/talux-lua-dev/(docs|examples|README))(.*),./\1\3,p" |
   LC_ALL=C sort | diff "$work/tree.list" - || fail 'packages and installed tree differ'
 echo 'installed tree, programs and packages work'
