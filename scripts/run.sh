@@ -1,11 +1,12 @@
 #!/bin/bash
 # Runs a Lua script with the module on an isolated device, beside the program that plays the rest of it.
 #
-#   run.sh [--root DIR] [--boot | --alone] [SCRIPT [ARGUMENT..] | -e CODE]
+#   run.sh [--root DIR] [--boot | --alone] [SCRIPT [ARGUMENT..] | -e CODE | --shell [OPTION..]]
 #
 # SCRIPT       a Lua script, by default examples/tour.lua. Its folder can be read at its own path, not written;
 #              modules beside it are found by require
 # -e CODE      runs CODE with the module loaded
+# --shell      starts the shell of the command language instead (talux shell), with its options
 # --root DIR   the directory that becomes /, kept afterwards: parameter files and the device's log
 #              /tmp/device.log lie there; by default a temporary one
 #
@@ -17,7 +18,7 @@
 # stands beside the script (tour.setup.sh for tour.lua) it is sourced inside the root before.
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
-isolation=() session=(--device "$project/build-release/examples/device") boot=()
+isolation=() session=(--device "$project/build-release/examples/device") boot=() targets=(lib_talux_lua device)
 while [ "$#" -gt 0 ]; do
   case $1 in
     --root) isolation+=(--root "$2"); shift 2 ;;
@@ -31,11 +32,13 @@ done
 
 case ${1-} in
   -e) [ "$#" = 2 ] || fail '-e takes the code and nothing else'
-    command=(-l lib_talux_lua -e "$2") ;;
+    command=(lua5.2 -l lib_talux_lua -e "$2") ;;
+  --shell) targets+=(talux)
+    command=("$project/build-release/tools/talux/talux" shell "${@:2}") ;;
   -*) fail "unknown option '$1'" ;;
   *) script=$(realpath "${1-$project/examples/tour.lua}")
     [ -f "$script" ] || fail "no such script: $script"
-    command=("$script" "${@:2}")
+    command=(lua5.2 "$script" "${@:2}")
     folder=$(dirname "$script")
     export LUA_PATH="$folder/?.lua;;"
     case $folder in
@@ -46,6 +49,6 @@ case ${1-} in
     [ ! -f "$setup" ] || session=(--setup "$setup" "${session[@]}") ;;
 esac
 
-(cd "$project" && need_build_tools && build release lib_talux_lua device)
+(cd "$project" && need_build_tools && build release "${targets[@]}")
 exec "$project/scripts/isolated.sh" --module "$project/build-release" "${isolation[@]}" -- \
-  "$project/scripts/session.sh" "${session[@]}" "${boot[@]}" -- lua5.2 "${command[@]}"
+  "$project/scripts/session.sh" "${session[@]}" "${boot[@]}" -- "${command[@]}"
