@@ -78,22 +78,32 @@ commands() {
   expect $'30.000000\n35.000000' "$(scripts/run.sh --root "$root/device" \
     -e 'print(talux_command("TLX_Uearth")) print(talux_command("load,TLX_Uearth"))')"
   expect 35.000000 "$(scripts/run.sh --root "$root/device" --boot -e 'print(talux_command("TLX_Uearth"))' 2>/dev/null)"
+  expect 30.000000 "$(echo TLX_Uearth | scripts/run.sh --shell --level 1)"
   rm -rf "$root"
   return "$status"
 }
 
-# The page that searches the parameters, in a browser without a window.
+# The page that searches the parameters and the settings record, in a browser without a window.
 browser() {
-  local profile result
+  local page language profile result status=0
   need chromium:chromium
-  profile=$(mktemp -d)
-  result=$(timeout 600 chromium --headless --no-sandbox --disable-gpu --no-first-run --disable-background-networking \
-    --disable-component-update --disable-sync --user-data-dir="$profile" --allow-file-access-from-files \
-    --virtual-time-budget=10000 --dump-dom "file://$project/tests/pages/browser.html" 2>/dev/null |
-    sed -n 's,.*<title>\(.*\)</title>.*,\1,p')
-  rm -rf "$profile"
-  echo "${result:-the browser did not start}" | tee -a "$results/summary"
-  [[ $result = 'all right'* ]]
+  build release talux || return
+  printf 'TLX_Name="<b>&amp; ä"\nTLX_Uearth=95\nTLX_Language=2\n' >build-release/report.ini
+  for language in en de; do
+    build-release/tools/talux/talux --language "$language" report build-release/report.ini -o "build-release/report-$language.html" ||
+      return
+  done
+  for page in pages/browser talux/report; do
+    profile=$(mktemp -d)
+    result=$(timeout 600 chromium --headless --no-sandbox --disable-gpu --no-first-run --disable-background-networking \
+      --disable-component-update --disable-sync --user-data-dir="$profile" --allow-file-access-from-files \
+      --virtual-time-budget=10000 --dump-dom "file://$project/tests/$page.html" 2>/dev/null |
+      sed -n 's,.*<title>\(.*\)</title>.*,\1,p')
+    rm -rf "$profile"
+    echo "$page: ${result:-the browser did not start}" | tee -a "$results/summary"
+    [[ $result = 'all right'* ]] || status=1
+  done
+  return "$status"
 }
 
 # Without options and test packages there is the module and nothing else.

@@ -1,0 +1,32 @@
+// Running the program talux.
+#ifndef TALUX_TEST_PROGRAM_H
+#define TALUX_TEST_PROGRAM_H
+
+#include "../Store.h"
+
+#include <fstream>
+#include <sstream>
+#include <sys/wait.h>
+
+namespace talux_test {
+
+struct Ended {
+    int status; // -1: it did not end by itself
+    std::string output;
+};
+
+// `command` is a line of the shell in which talux is found; error stream included where it says so.
+inline Ended run(const std::string& command) {
+    FILE* const pipe = popen(("PATH=" TALUX_BIN ":$PATH; LANG=C; export LANG; " + command).c_str(), "r");
+    Ended result{-1, {}};
+    char block[4096];
+    for (std::size_t size; (size = std::fread(block, 1, sizeof block, pipe)) > 0;)
+        result.output.append(block, size);
+    const int status = pclose(pipe);
+    if (WIFEXITED(status) && WEXITSTATUS(status) < 126) result.status = WEXITSTATUS(status);
+    return result;
+}
+
+} // namespace talux_test
+
+#endif

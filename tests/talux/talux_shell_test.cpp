@@ -1,0 +1,141 @@
+// The shell on a terminal: keys go in, the screen comes out.
+#include "Program.h"
+
+#include <poll.h>
+#include <pty.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace talux_test;
+
+constexpr char kPrompt[] = "talux> ";
+
+class TaluxShell : public InDirectory {
+protected:
+    void SetUp() override {
+        InDirectory::SetUp();
+        VarClean();
+        VarSetDefault();
+        VarUpdateGlobalSpace();
+        setenv("XDG_STATE_HOME", directory.c_str(), 1);
+    }
+    void TearDown() override {
+        if (child > 0) end();
+        InDirectory::TearDown();
+    }
+
+    void start(const char* option = "--level=2") {
+        winsize size{40, 100, 0, 0};
+        child = forkpty(&terminal, nullptr, nullptr, &size);
+        if (child == 0) {
+            setenv("TERM", "vt100", 1);
+            setenv("LC_ALL", "C.UTF-8", 1);
+            execl(TALUX_BIN "/talux", "talux", "shell", option, nullptr);
+            _exit(127);
+        }
+        screen.clear();
+        waitFor(kPrompt);
+    }
+    // The status with which the shell ends by itself.
+    int end() {
+        type("\x04");
+        waitFor("\n");
+        pollfd gone{terminal, POLLHUP, 0};
+        EXPECT_EQ(poll(&gone, 1, 20000), 1);
+        close(terminal); // which ends it in any case
+        int status = -1;
+        waitpid(std::exchange(child, 0), &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    void type(const std::string& keys) const {
+        ASSERT_EQ(write(terminal, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
+    }
+
+    // True once the text has come since the last call.
+    bool waitFor(const std::string& text) {
+        for (;;) {
+            if (const auto at = screen.find(text); at != screen.npos) {
+                shown = screen.substr(0, at + text.size());
+                screen.erase(0, at + text.size());
+                return true;
+            }
+            pollfd ready{terminal, POLLIN, 0};
+            char block[4096];
+            const ssize_t size = poll(&ready, 1, 20000) == 1 ? read(terminal, block, sizeof block) : 0;
+            if (size <= 0)
+                return ADD_FAILURE() << "waited for '" << text << "', there is '" << screen << "'", false;
+            screen.append(block, static_cast<std::size_t>(size));
+        }
+    }
+    // Types a line and gives what stands between it and the next prompt.
+    bool answers(const std::string& keys, const std::string& text) {
+        type(keys + "\r");
+        return waitFor("\n") && waitFor(text) && waitFor(kPrompt);
+    }
+
+    int terminal = -1;
+    pid_t child = 0;
+    std::string screen, shown;
+};
+
+TEST_F(TaluxShell, CompletesNamesValuesOptionsAndWords) {
+    start();
+    EXPECT_TRUE(answers("TLX_uearth_sigdel\t", "1.000000")); // the written form of the name
+    EXPECT_TRUE(answers("uearth_sigdur_\t", "0.000000"));    // without the prefix
+    type("TLX_Language=\t");
+    EXPECT_TRUE(waitFor("1 = German") && waitFor("2 = English") && waitFor("TLX_Language="));
+    EXPECT_TRUE(answers("2,TLX_Language", "2.000000"));
+    EXPECT_TRUE(answers("upd\t", "parameter successfully update"));
+    type("TLX_MessRecord02 -\t");
+    EXPECT_TRUE(waitFor("-c") && waitFor("TLX_MessRecord02 -"));
+    EXPECT_TRUE(answers("c", "STRUCT:"));
+    type("load\t");
+    EXPECT_TRUE(waitFor("load_sec") && waitFor(kPrompt));
+    type("\x03");
+    EXPECT_TRUE(waitFor(kPrompt));
+    EXPECT_EQ(end(), 0);
+}
+
+TEST_F(TaluxShell, SaysWhyALineIsRefused) {
+    start();
+    EXPECT_TRUE(answers("TLX_Uearth=95", "95 is out of range: 1 to 90 %"));
+    EXPECT_TRUE(answers("TLX_Uerth", "the nearest name is Uearth"));
+    EXPECT_TRUE(answers("Uearth", "TLX_Uearth"));
+    EXPECT_TRUE(answers("TLX_vBE=1", "elements are 1 to 96"));
+    EXPECT_TRUE(answers("system ls", "takes rights level 3"));
+    EXPECT_TRUE(answers("TLX_FW_BLOCK=5", "takes rights level 3"));
+    EXPECT_TRUE(answers("TLX_Name=\"a,b\"", "is no number"));
+    EXPECT_TRUE(answers("help Uearth", "Threshold"));
+    EXPECT_TRUE(answers("help", "Tab completes"));
+    EXPECT_EQ(end(), 0);
+    start("--level=3");
+    EXPECT_TRUE(answers("system echo hi", "> hi"));
+}
+
+TEST_F(TaluxShell, KeepsItsHistoryAndGivesALineUp) {
+    start();
+    EXPECT_TRUE(answers("1,2,+", "3.000000"));
+    type("TLX_Uearth=77\x03");
+    EXPECT_TRUE(waitFor(kPrompt));
+    EXPECT_TRUE(answers("TLX_Uearth", "30.000000"));
+    EXPECT_EQ(end(), 0);
+    start();
+    EXPECT_TRUE(answers("\x10\x10", "3.000000")); // two lines up
+    EXPECT_EQ(end(), 0);
+    EXPECT_EQ(std::filesystem::status(directory / "talux/history").permissions(),
+              std::filesystem::perms(0600));
+}
+
+TEST_F(TaluxShell, ReadsAPipe) {
+    const Ended fine =
+        run("printf '# note\\n\\nTLX_Name=\"x\"\\r\\nTLX_Name\\nquit\\nnonsense\\n' | talux shell 2>&1");
+    EXPECT_EQ(fine.output, "\"x\"\n");
+    EXPECT_EQ(fine.status, 0);
+    const Ended refused = run("printf 'TLX_Uearth=95\\n1,1,+\\nTLX_\\0Name' | talux shell 2>/dev/null");
+    EXPECT_EQ(refused.output, "2.000000\n");
+    EXPECT_EQ(refused.status, 1);
+}
+
+} // namespace

@@ -1,0 +1,298 @@
+// talux beside the store: what it foretells comes true, and looking changes nothing.
+#include "Program.h"
+
+#include <nlohmann/json.hpp>
+
+#include "ParamSystem/KEPL_Interpreter.h"
+
+namespace {
+
+using namespace talux_test;
+using Json = nlohmann::json;
+
+class TaluxStore : public InDirectory {
+protected:
+    void SetUp() override {
+        InDirectory::SetUp();
+        VarClean();
+        VarSetDefault();
+        VarUpdateGlobalSpace();
+    }
+
+    static std::string repeated(int count, const std::string& text) {
+        std::string all;
+        while (count-- > 0)
+            all += text;
+        return all;
+    }
+
+    std::string write(const char* name, const std::string& contents) const {
+        std::ofstream(directory / name, std::ios::binary) << contents;
+        return directory / name;
+    }
+
+    static std::string image() {
+        return bytes(raw(kTemp), kSpaceSize) + bytes(raw(kGlobal), kSpaceSize) +
+               bytes(rawRecords(), kRecordsSize);
+    }
+
+    template <std::size_t N>
+    const char* one(const char* const (&texts)[N]) {
+        return texts[random.below(static_cast<int>(N))];
+    }
+
+    const stParamProperties& anyRow() {
+        for (;;)
+            if (const auto* row = GetParamPropertiesByOrder(1 + random.below(2500)); row && row->name[0])
+                return *row;
+    }
+
+    std::string anyNumber(const stParamProperties& row) {
+        static const char* const kOdd[] = {"",    "1e30", "-1",   "3,5",  "0x1F",      "inf",
+                                           "nan", "12 7", "abc",  "2.75", "0.0000001", "1e-9",
+                                           "5;c", "5#",   "5 //", "=5",   "5=6",       "\"7\""};
+        if (random.below(3) == 0) return one(kOdd);
+        const double span = random.below(2) ? row.val_max : 100;
+        return std::to_string(std::max(row.val_min, -1000.0) + span * random.below(12) / 10);
+    }
+
+    std::string anyText() {
+        static const char* const kPieces[] = {"\"",
+                                              "a",
+                                              "Feeder 7",
+                                              " ",
+                                              "=",
+                                              "#",
+                                              ";",
+                                              "//",
+                                              "192.168.1.10",
+                                              "ä",
+                                              "\t",
+                                              "300.1.1.1",
+                                              "\r",
+                                              "0123456789012345678901234567890123456789"};
+        std::string text = random.below(2) ? "\"" : "";
+        for (int k = random.below(6); k > 0; --k)
+            text += one(kPieces);
+        return text + (text.starts_with('"') && random.below(4) ? "\"" : "");
+    }
+
+    std::string anyLine() {
+        static const char* const kOther[] = {"",     "# note",         "[section]", "garbage",
+                                             "TLX_", "TLX_Nonsense=1", "=",         "\t"};
+        static const char* const kBetween[] = {"=", "=", "=", " = ", " ", "==", ""};
+        if (random.below(12) == 0) return one(kOther);
+        const stParamProperties& row = anyRow();
+        const bool isText = row.type == kTypeText || (row.type >= kTypeDate && row.type <= kTypeIpGateway);
+        std::string line = (random.below(2) ? "TLX_" : " tlx_") + std::string(row.name) + one(kBetween) +
+                           (isText ? anyText() : anyNumber(row));
+        if (random.below(30) == 0) line += std::string(static_cast<std::size_t>(random.below(300)), 'x');
+        if (random.below(60) == 0) line += std::string("\0TLX_channel=1", 14);
+        return line;
+    }
+
+    std::string anyFile() {
+        static const char* const kEnds[] = {"\n", "\n", "\r\n", "\n\n"};
+        std::string text;
+        for (int k = 300; k > 0; --k)
+            text += anyLine() + one(kEnds);
+        return text;
+    }
+
+    // For rights level 2; nothing that would reach the machine.
+    std::string anyScriptLine() {
+        static const char* const kTerms[] = {"1",    "0",   "2.5",    "x",   "+",      "-",
+                                             "*",    "/",   "sqrt",   "sin", "update", "load nothing",
+                                             "TLX_", "1,5", "Uearth", " ",   "system"};
+        static const char* const kIndices[] = {"",     "",     "",   " 1",  " 0",      " 5",  " 96",   " 97",
+                                               " 1.3", " 3.1", " x", " -p", " 1.2 -h", " -h", " 1.128"};
+        std::string line;
+        for (int terms = 1 + random.below(4); terms > 0; --terms) {
+            if (!line.empty()) line += ",";
+            if (random.below(2)) {
+                line += one(kTerms);
+                continue;
+            }
+            const stParamProperties& row = anyRow();
+            const bool changesTheMachine =
+                row.type == kTypeIpAddress || row.type == kTypeSysDate || row.type == kTypeSysTime;
+            line += std::string("TLX_") + row.name + one(kIndices);
+            if (random.below(3) == 0 && !changesTheMachine) line += "=" + anyNumber(row);
+        }
+        return line;
+    }
+
+    // Stores what talux says that a line will do.
+    static void carryOut(const Json& line) {
+        if (!line.contains("to")) return;
+        std::string name = line["name"];
+        const stParamProperties* const row = GetParamPropertiesByName(name.data());
+        const bool isText = row->type == kTypeText || (row->type >= kTypeDate && row->type <= kTypeIpGateway);
+        std::string text = line["to"].is_string() ? line["to"].get<std::string>() : "";
+        double number =
+            line["to"].is_number() ? line["to"].get<double>() : std::strtod(text.c_str(), nullptr);
+        VarSetValue(row->id, isText ? asValue(text.data()) : &number);
+    }
+
+    Random random;
+};
+
+TEST_F(TaluxStore, WhatCheckForetellsIsWhatALoadDoes) {
+    for (int round = 0; round < 25; ++round) {
+        std::string file = write("random.ini", anyFile());
+        const std::string before = image();
+        const Ended check = run("talux check --json --against staged " + file);
+        ASSERT_EQ(image(), before);
+        ASSERT_EQ(check.status, 1) << check.output;
+        const Json told = Json::parse(check.output)[0];
+        for (const Json& line : told["lines"])
+            carryOut(line);
+        const std::string foretold = bytes(raw(kTemp), kSpaceSize);
+        std::memcpy(raw(kTemp), before.data(), kSpaceSize);
+
+        const auto [result, messages, errors] = outcomeOf([&] { return VarLoadFile(file.data(), 0); });
+        ASSERT_EQ(result, 1);
+        ASSERT_EQ(bytes(raw(kTemp), kSpaceSize), foretold) << round;
+        // What the loader complains about is among the findings.
+        constexpr std::string_view kComplaint = "Error (TALUX_Var): Wrong parameter on line ";
+        std::istringstream lines(messages);
+        for (std::string text; std::getline(lines, text);) {
+            if (!text.starts_with(kComplaint)) continue;
+            const int number = std::stoi(text.substr(kComplaint.size()));
+            const bool isTold = std::ranges::any_of(told["lines"], [=](const Json& line) {
+                return line["line"] == number && line.contains("findings");
+            });
+            EXPECT_TRUE(isTold) << text;
+        }
+    }
+}
+
+TEST_F(TaluxStore, FingerprintsKnowSettingsAlone) {
+    char path[] = "/parameter.ini";
+    ASSERT_EQ(VarSaveParamFile(path), 1);
+    std::ifstream saved(path);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(saved, line);)
+        lines.push_back(line);
+    const auto digest = [&](const std::string& contents) {
+        return run("talux fingerprint " + write("any.ini", contents)).output.substr(0, 64);
+    };
+    const auto joined = [&](const char* end) {
+        std::string text;
+        for (const std::string& line : lines)
+            text += line + end;
+        return text;
+    };
+    const std::string wanted = digest(joined("\n"));
+    EXPECT_EQ(run("talux fingerprint live --file parameter").output.substr(0, 64), wanted);
+    std::shuffle(lines.begin(), lines.end(), std::mt19937(1));
+    EXPECT_EQ(digest("# other order\n[x]\n" + joined("\r\n") +
+                     "TLX_Date=\"1999-01-01\"\nTLX_Nonsense=1\nTLX_U1_prim=4\n"),
+              wanted);
+    for (const char* change : {"TLX_Uearth=30.5\n", "TLX_Name=\"x\"\n", "TLX_Language=2\n"})
+        EXPECT_NE(digest(joined("\n") + change), wanted) << change;
+    std::filesystem::remove(path);
+}
+
+TEST_F(TaluxStore, LintFindsWhatTheInterpreterRefuses) {
+    char nowhere[] = "/nowhere", terminator[] = "";
+    KEPL_Interpreter interpreter(nowhere);
+    for (int round = 0; round < 10; ++round) {
+        std::vector<std::string> lines;
+        std::string script;
+        while (lines.size() < 200) {
+            const std::string line = anyScriptLine();
+            if (line.find_first_of("#\"") != line.npos) continue;
+            lines.push_back(line);
+            script += line + "\n";
+        }
+        const Ended lint = run("talux lint --level 2 " + write("random.kepl", script));
+        ASSERT_EQ(lint.status, 1);
+        for (std::size_t k = 0; k < lines.size(); ++k) {
+            char answer[kKeplTextSize + 1] = "", error[128] = "";
+            int result = 0;
+            outcomeOf([&] {
+                return result = interpreter.ProcessLine(
+                           lines[k].data(), [](char*, int) {}, answer, terminator, 2);
+            });
+            interpreter.GetError(error, sizeof error);
+            const bool isRefused = result == kLineError || std::string_view(answer) == "<< RIGHTS TOO LOW >>";
+            const bool isTold = lint.output.find(":" + std::to_string(k + 1) + ":") != lint.output.npos;
+            const std::string_view reason = error;
+            const bool dependsOnValues = reason.starts_with("Quadratwurzel") ||
+                                         reason.starts_with("Division") || reason.starts_with("<< OUTPUT");
+            EXPECT_TRUE(isTold || dependsOnValues || !isRefused) << lines[k] << " " << error << answer;
+        }
+    }
+}
+
+// Whatever goes wrong on the way.
+TEST_F(TaluxStore, LookingChangesNothing) {
+    random.fill(raw(kTemp), kSpaceSize), random.fill(raw(kGlobal), kSpaceSize);
+    write("a.ini", anyFile()), write("b.ini", "TLX_Uearth=35\n");
+    const auto files = [this] {
+        return run("ls -l --full-time /*.* " + directory.string() + " 2>&1").output;
+    };
+    const std::string before = image(), listed = files();
+    const std::string in = "cd " + directory.string() + " && talux --directory . ";
+    std::istringstream commands(R"(check a.ini --against live
+check a.ini b.ini
+diff live staged
+diff a.ini b.ini
+diff b.ini
+status
+status --json
+report live
+report staged --changed --language de
+report a.ini
+fingerprint
+fingerprint a.ini --listing
+list --of staged --json
+explain --live Uearth MessRecord01
+watch U1_prim MessRecord01 'vBE 3.9' --count 2 --period 0.01
+watch Name vMWR --csv --count 1
+annotations
+lint a.ini
+)");
+    for (std::string command; std::getline(commands, command);)
+        for (const std::string fault : {"", ">/dev/full", ">&-", "2>&-", "<&-"}) {
+            const Ended result = run((in + command).append(" ").append(fault) + " 2>/dev/null");
+            EXPECT_TRUE(fault == ">/dev/full" ? result.status == 2 : result.status >= 0) << command << fault;
+        }
+    EXPECT_EQ(run("talux boot 2>&1").status, 2); // once is enough
+    EXPECT_EQ(image(), before);
+    EXPECT_EQ(files(), listed);
+}
+
+TEST_F(TaluxStore, HostileFilesEndInFindingsOrAnError) {
+    std::string noise(200000, ' ');
+    random.fill(noise.data(), noise.size());
+    std::string wide;
+    for (const char c : std::string("TLX_Name=\"x\"\n"))
+        wide += std::string(1, c) + '\0';
+    const std::string files[] = {repeated(10000000, std::string(1, '\0')),
+                                 repeated(10000000, "x"),
+                                 noise,
+                                 "\xFF\xFE" + wide,
+                                 "\xEF\xBB\xBFTLX_Uearth=35\n",
+                                 "TLX_Name=\"\xE4\xF6\xFC\"\n",
+                                 "TLX_Uerth=1",
+                                 std::string(300, '\n') + "TLX_Uearth",
+                                 "TLX_" + std::string(250, 'n') + "=1\n",
+                                 repeated(200000, "TLX_Nonsense=1\n"),
+                                 repeated(100000, "TLX_Uearth=99\n")};
+    for (const std::string& contents : files) {
+        write("hostile", contents), write("hostile.lua", "talux_command[[" + contents + "]]");
+        for (const char* command : {"check hostile", "lint hostile", "lint hostile.lua",
+                                    "fingerprint hostile", "diff default hostile", "report hostile"}) {
+            const Ended result =
+                run("cd " + directory.string() + " && timeout 60 talux " + command + " 2>&1");
+            EXPECT_TRUE(result.status >= 0 && result.status <= 2) << command;
+            EXPECT_LT(result.output.size(), 1000000U) << command;
+            EXPECT_TRUE(result.status == 1 || std::string(command) != "check hostile")
+                << contents.substr(0, 40);
+        }
+    }
+}
+
+} // namespace
