@@ -118,7 +118,7 @@ void explain(const Parameter& parameter, const Places& places, const Context& co
     if (parameter.type().nature == Nature::record) addMembers(table, parameter, context);
     addLine(table, context.say("rights", "Rechte"), rightsOf(parameter, context));
     addLine(table, context.say("file", "Datei"), std::string(reference::fileName(parameter.file())));
-    addLine(table, context.say("family", "Familie"), std::string(familyName(parameter, context)));
+    addLine(table, context.say("family", "Familie"), std::string(familyName(parameter, context.language)));
     addLine(table, "id", std::to_string(parameter.row().id));
     addValues(table, parameter, places, context);
     print(Paint().bold(std::string(parameter.name())) + "\n" + table.text("  "));

@@ -125,7 +125,7 @@ private:
     std::string familyTables() {
         std::string tables, rows, family;
         for (const Parameter& parameter : reference::parameters()) {
-            const std::string_view name = familyName(parameter, context);
+            const std::string_view name = familyName(parameter, context.language);
             if (family != name) tables += tableOf(family, std::exchange(rows, {}));
             family = name;
             rows += row(parameter);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
 namespace talux::tool {
@@ -22,7 +23,7 @@ std::vector<const Parameter*> search(const std::vector<std::string>& words) {
 }
 
 void Filter::addTo(Subcommand& command) {
-    command.option("--family", family, "of families whose name holds this");
+    command.option("--family", family, "of families whose name holds this, in English or German");
     command.option("--file", file, "kept in the file whose name begins so: parameter, sec, ip");
     command.option("--level", level, "that this rights level is needed to write: 1, 2 or 3");
     command.option("--search", words, "whose texts hold all of these words").divided(' ');
@@ -32,7 +33,9 @@ bool Filter::accepts(const Parameter& parameter) const {
     if (parameter.isTemplate()) return false;
     const auto fitsName = [&](const std::string& name) { return fits(parameter.name(), name); };
     if (!names.empty() && !std::ranges::any_of(names, fitsName)) return false;
-    if (!family.empty() && !containsIgnoringCase(parameter.family().name, family)) return false;
+    if (!containsIgnoringCase(familyName(parameter, kEnglish), family) &&
+        !containsIgnoringCase(familyName(parameter, kGerman), family))
+        return false;
     if (!file.empty() && !reference::fileName(parameter.file()).starts_with(file)) return false;
     if (level != 0 && parameter.writeLevel() != level) return false;
     return words.empty() || holdsWords(parameter, words);

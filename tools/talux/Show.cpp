@@ -75,11 +75,11 @@ std::string shown(const Parameter& parameter, const std::optional<Value>& value,
     return value ? plain(parameter, *value) + meaning(parameter, *value, context) : "-";
 }
 
-std::string_view familyName(const Parameter& parameter, const Context& context) {
+std::string_view familyName(const Parameter& parameter, ParamLanguage language) {
     const std::string_view name = parameter.family().name;
     const auto* const found =
         std::ranges::find(kFamilies, name, [](const auto& family) { return family.english; });
-    return context.language == kGerman && found != std::end(kFamilies) ? found->german : name;
+    return language == kGerman && found != std::end(kFamilies) ? found->german : name;
 }
 
 double leastNumber(const Parameter& parameter) {

@@ -19,8 +19,8 @@ std::string plain(const Parameter& parameter, const Value& value);
 // With its unit or the text of the choice: "30 %", "2 (English)". Nothing is "-".
 std::string shown(const Parameter& parameter, const std::optional<Value>& value, const Context& context);
 
-// The menu family in the person's language.
-std::string_view familyName(const Parameter& parameter, const Context& context);
+// The menu family.
+std::string_view familyName(const Parameter& parameter, ParamLanguage language);
 
 // Choices count from 1 where the dictionary does not say otherwise; a write does not see to that.
 double leastNumber(const Parameter& parameter);

@@ -60,9 +60,11 @@ int run(int argc, char** argv) {
     context.language = languageOfEnvironment();
 
     CLI::App app(kAbout, "talux");
-    const std::map<std::string, ParamLanguage> languages{{"de", kGerman}, {"en", kEnglish}};
-    app.add_option("--language", context.language, "de or en; by default that of the environment")
-        ->transform(CLI::CheckedTransformer(languages, CLI::ignore_case).description(""));
+    app.add_option_function<std::string>(
+           "--language",
+           [&context](const std::string& name) { context.language = name == "de" ? kGerman : kEnglish; },
+           "de or en; by default that of the environment")
+        ->check(CLI::IsMember({"de", "en"}).description(""));
     app.add_option("--directory", context.directory, "where the device keeps its files; by default /");
     app.get_formatter()->column_width(22);
     app.require_subcommand(1);
