@@ -39,7 +39,7 @@ commissioning, scripts and every parameter, with one page to search them all.")
 set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_NAME talux)
 set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_PRIORITY "optional\nMulti-Arch: foreign")
-set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_DEPENDS "libc6 (>= 2.34)")
+set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_DEPENDS "libc6 (>= 2.36)")
 set(CPACK_DEBIAN_DEB_PROGRAM_PACKAGE_SUGGESTS "talux-lua")
 set(CPACK_COMPONENT_DEB_PROGRAM_DESCRIPTION "Relay controller settings: explain, check, compare, report
 The program talux for the person at the relay and at the desk: what a
@@ -58,4 +58,6 @@ foreach(package IN LISTS talux_packages)
 endforeach()
 install(FILES packaging/lintian-overrides DESTINATION share/lintian/overrides RENAME talux-lua
   COMPONENT deb_runtime EXCLUDE_FROM_ALL)
+install(FILES packaging/talux.lintian-overrides DESTINATION share/lintian/overrides RENAME talux
+  COMPONENT deb_program EXCLUDE_FROM_ALL)
 include(CPack)

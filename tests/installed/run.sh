@@ -106,6 +106,9 @@ dpkg-deb -x "$work"/talux-lua_*_"$architecture".deb "$work/package"
 try_script package
 dpkg-deb -x "$work"/talux-lua-dev_*_"$architecture".deb "$work/package"
 dpkg-deb -x "$work"/talux_*_"$architecture".deb "$work/package"
+newest=$(grep -ao 'GLIBC_2\.[0-9]*' "$work/package/usr/bin/talux" | sort -V | tail -1)
+dpkg --compare-versions "${newest#GLIBC_}" le "$(dpkg-deb -f "$work"/talux_*.deb Depends | sed 's/.*>= //; s/)//')" ||
+  fail "talux needs $newest"
 for name in tree package; do
   inside "$name" '$run "$(find "$root/usr" -path "*/bin/talux")" explain Uearth' | grep -q ' 1 to 90$' ||
     fail "$name: talux explains nothing"
