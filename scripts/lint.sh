@@ -1,7 +1,8 @@
 #!/bin/bash
 # Checks the form of everything: clang-format, clang-tidy, shellcheck.
 #
-#   lint.sh [CPP-FILE..]    clang-tidy on these sources only
+#   lint.sh [CPP-FILE..]    clang-tidy on these sources only; by default on all
+#   lint.sh --shipped       on what the device gets
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 cd "$project"
 need_build_tools
@@ -9,7 +10,11 @@ need clang-format:clang-format clang-tidy:clang-tidy shellcheck:shellcheck \
   /usr/include/benchmark/benchmark.h:libbenchmark-dev valgrind:valgrind
 
 mapfile -t formatted < <(git ls-files '*.h' '*.hpp' '*.cpp')
-mapfile -t sources < <(if [ "$#" -gt 0 ]; then printf '%s\n' "$@"; else git ls-files '*.cpp'; fi)
+case ${1-} in
+  --shipped) set -- 'ParamSystem/*.cpp' 'MenuSystem/*.cpp' 'src/*.cpp' ;;
+  '') set -- '*.cpp' ;;
+esac
+mapfile -t sources < <(git ls-files "$@")
 mapfile -t shell < <(git ls-files '*.sh' .ci/run)
 
 status=0

@@ -156,18 +156,16 @@ private:
         return false;
     }
 
-    // Of saves that ran beside each other; the first gap ends them.
+    // What saves that ran beside each other left behind, in whatever order they were ended.
     void clearBehind() const {
-        for (Name left = name; ++left[kNumber] < kEnd && clear(left);) {
-        }
+        for (Name left = name; ++left[kNumber] < kEnd;)
+            clear(left);
     }
 
-    // False when there is no such file.
-    bool clear(const Name& left) const {
+    void clear(const Name& left) const {
         const Descriptor file(os::openIn(directory, left.data()));
-        if (!file) return false;
-        if (os::tryLockFile(file.get()) && stillNames(left, file.get())) os::removeIn(directory, left.data());
-        return true;
+        if (file && os::tryLockFile(file.get()) && stillNames(left, file.get()))
+            os::removeIn(directory, left.data());
     }
 
     // Its maker may have put it in place before it was locked here.

@@ -89,7 +89,7 @@ static_assert([] {
     return true;
 }());
 
-consteval bool isTextKind(Kind kind) {
+constexpr bool isTextKind(Kind kind) {
     for (const Type& type : kTypes)
         if (type.kind == kind) return isText(type.nature);
     return false;
