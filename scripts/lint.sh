@@ -10,11 +10,11 @@ need clang-format:clang-format clang-tidy:clang-tidy shellcheck:shellcheck \
   /usr/include/benchmark/benchmark.h:libbenchmark-dev valgrind:valgrind
 
 mapfile -t formatted < <(git ls-files '*.h' '*.hpp' '*.cpp')
-case ${1-} in
-  --shipped) set -- 'ParamSystem/*.cpp' 'MenuSystem/*.cpp' 'src/*.cpp' ;;
-  '') set -- '*.cpp' ;;
-esac
-mapfile -t sources < <(git ls-files "$@")
+mapfile -t sources < <(case ${1-} in
+  --shipped) git ls-files 'ParamSystem/*.cpp' 'MenuSystem/*.cpp' 'src/*.cpp' ;;
+  '') git ls-files '*.cpp' ;;
+  *) printf '%s\n' "$@" ;;
+esac)
 mapfile -t shell < <(git ls-files '*.sh' .ci/run)
 
 status=0

@@ -27,6 +27,17 @@ inline Ended run(const std::string& command) {
     return result;
 }
 
+// The store as a device has it after its start: factory settings, live.
+class InStartedDevice : public InDirectory {
+protected:
+    void SetUp() override {
+        InDirectory::SetUp();
+        VarClean();
+        VarSetDefault();
+        VarUpdateGlobalSpace();
+    }
+};
+
 } // namespace talux_test
 
 #endif

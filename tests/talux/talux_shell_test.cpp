@@ -11,13 +11,10 @@ using namespace talux_test;
 
 constexpr char kPrompt[] = "talux> ";
 
-class TaluxShell : public InDirectory {
+class TaluxShell : public InStartedDevice {
 protected:
     void SetUp() override {
-        InDirectory::SetUp();
-        VarClean();
-        VarSetDefault();
-        VarUpdateGlobalSpace();
+        InStartedDevice::SetUp();
         setenv("XDG_STATE_HOME", directory.c_str(), 1);
     }
     void TearDown() override {

@@ -10,15 +10,8 @@ namespace {
 using namespace talux_test;
 using Json = nlohmann::json;
 
-class TaluxStore : public InDirectory {
+class TaluxStore : public InStartedDevice {
 protected:
-    void SetUp() override {
-        InDirectory::SetUp();
-        VarClean();
-        VarSetDefault();
-        VarUpdateGlobalSpace();
-    }
-
     static std::string repeated(int count, const std::string& text) {
         std::string all;
         while (count-- > 0)
