@@ -1,8 +1,6 @@
 // talux check: what loading a file would do, line by line.
 #include <memory>
 
-#include <nlohmann/json.hpp>
-
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Show.h"
@@ -75,24 +73,26 @@ void printText(const std::string& path, const Told& told, const Context& context
 Json described(const Judgement& judgement) {
     Json object{{"line", judgement.line}, {"name", judgement.name}};
     if (judgement.to) {
-        object["from"] = json(*judgement.parameter, judgement.from);
-        object["to"] = json(*judgement.parameter, judgement.to);
+        object.set("from", json(*judgement.parameter, judgement.from));
+        object.set("to", json(*judgement.parameter, judgement.to));
     }
+    Json findings = Json::array();
     for (const Finding& finding : judgement.findings)
-        object["findings"].push_back({{"code", finding.code}, {"text", finding.text}});
+        findings.add({{"code", finding.code}, {"text", finding.text}});
+    if (!judgement.findings.empty()) object.set("findings", std::move(findings));
     return object;
 }
 
 Json described(const std::string& path, const Told& told) {
     Json lines = Json::array();
     for (const Judgement& judgement : told.judgements)
-        lines.push_back(described(judgement));
+        lines.add(described(judgement));
     return {{"file", path},
             {"settings", told.settings},
             {"changes", told.changes},
             {"findings", told.findings},
-            {"untold", told.untold},
-            {"lines", lines}};
+            {"untold", static_cast<std::int64_t>(told.untold)},
+            {"lines", std::move(lines)}};
 }
 
 Status run(const Options& options, const Context& context) {
@@ -103,11 +103,11 @@ Status run(const Options& options, const Context& context) {
         const Told told = judgeFile(path, before, context);
         if (told.changes > 0 || told.findings > 0 || told.untold > 0) status = kFound;
         if (options.json)
-            all.push_back(described(path, told));
+            all.add(described(path, told));
         else
             printText(path, told, context);
     }
-    if (options.json) printJson(all);
+    if (options.json) print(all.text());
     return status;
 }
 

@@ -1,8 +1,6 @@
 // talux diff: in what two sources differ.
 #include <memory>
 
-#include <nlohmann/json.hpp>
-
 #include "tools/talux/Command.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -46,11 +44,11 @@ void printText(const std::vector<Difference>& found, const Context& context) {
 void printDifferences(const std::vector<Difference>& found, const Source& a, const Source& b) {
     Json list = Json::array();
     for (const auto& [parameter, from, to] : found)
-        list.push_back({{"name", parameter->name()},
-                        {"from", json(*parameter, from)},
-                        {"to", json(*parameter, to)},
-                        {"unit", parameter->unit()}});
-    printJson(Json{{"from", a.name()}, {"to", b.name()}, {"differences", list}});
+        list.add({{"name", parameter->name()},
+                  {"from", json(*parameter, from)},
+                  {"to", json(*parameter, to)},
+                  {"unit", parameter->unit()}});
+    print(Json{{"from", a.name()}, {"to", b.name()}, {"differences", std::move(list)}}.text());
 }
 
 Status run(const Options& options, const Context& context) {

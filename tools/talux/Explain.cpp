@@ -5,8 +5,6 @@
 #include <memory>
 #include <sys/stat.h>
 
-#include <nlohmann/json.hpp>
-
 #include "tools/talux/Command.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
@@ -124,6 +122,32 @@ void explain(const Parameter& parameter, const Places& places, const Context& co
     print(Paint().bold(std::string(parameter.name())) + "\n" + table.text("  "));
 }
 
+Json elementsOf(const stParamProperties& row) {
+    Json ends = Json::array();
+    ends.add(row.val_min_id);
+    ends.add(row.val_max_id);
+    return ends;
+}
+
+Json choicesOf(const Parameter& parameter) {
+    Json list = Json::array();
+    for (const reference::Choice& choice : parameter.choices(kEnglish))
+        list.add({{"number", choice.number},
+                  {"en", choice.text},
+                  {"de", parameter.choiceText(choice.number, kGerman)}});
+    return list;
+}
+
+// Null when there are none.
+Json valuesOf(const Parameter& parameter, const Places& places) {
+    Json values;
+    if (parameter.isSetting()) values.set("default", json(parameter, Source::defaults().value(parameter)));
+    for (const Source& source : places.sources)
+        if (const auto value = source.value(parameter); value && !parameter.isIndexed())
+            values.set(source.name(), json(parameter, value));
+    return values;
+}
+
 Json described(const Parameter& parameter, const Places& places) {
     const auto& row = parameter.row();
     Json object{
@@ -137,18 +161,11 @@ Json described(const Parameter& parameter, const Places& places) {
         {"setting", parameter.isSetting()},
         {"file", reference::fileName(parameter.file())},
         {"write_level", parameter.writeLevel()}};
-    if (parameter.hasNumber() && parameter.hasMinimum()) object["min"] = row.val_min;
-    if (parameter.hasNumber() && parameter.hasMaximum()) object["max"] = row.val_max;
-    if (parameter.isIndexed()) object["elements"] = {row.val_min_id, row.val_max_id};
-    for (const reference::Choice& choice : parameter.choices(kEnglish))
-        object["choices"].push_back({{"number", choice.number},
-                                     {"en", choice.text},
-                                     {"de", parameter.choiceText(choice.number, kGerman)}});
-    if (parameter.isSetting())
-        object["values"]["default"] = json(parameter, Source::defaults().value(parameter));
-    for (const Source& source : places.sources)
-        if (const auto value = source.value(parameter); value && !parameter.isIndexed())
-            object["values"][source.name()] = json(parameter, value);
+    if (parameter.hasNumber() && parameter.hasMinimum()) object.set("min", row.val_min);
+    if (parameter.hasNumber() && parameter.hasMaximum()) object.set("max", row.val_max);
+    if (parameter.isIndexed()) object.set("elements", elementsOf(row));
+    if (!parameter.choices(kEnglish).empty()) object.set("choices", choicesOf(parameter));
+    if (Json values = valuesOf(parameter, places); !values.isNull()) object.set("values", std::move(values));
     return object;
 }
 
@@ -189,11 +206,11 @@ Status run(const Options& options, const Context& context) {
     Json all = Json::array();
     for (const Parameter* parameter : found) {
         if (options.json)
-            all.push_back(described(*parameter, places));
+            all.add(described(*parameter, places));
         else
             explain(*parameter, places, context);
     }
-    if (options.json) printJson(all);
+    if (options.json) print(all.text());
     return kNothing;
 }
 

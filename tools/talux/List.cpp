@@ -1,8 +1,6 @@
 // talux list: names and values.
 #include <memory>
 
-#include <nlohmann/json.hpp>
-
 #include "tools/talux/Command.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
@@ -35,7 +33,7 @@ Json jsonValue(const Parameter& parameter, const Source& source) {
     if (!parameter.isIndexed()) return json(parameter, source.value(parameter));
     Json elements = Json::array();
     for (int k = 0; k < parameter.elements(); ++k)
-        elements.push_back(json(parameter, source.value(parameter.row().id + k)));
+        elements.add(json(parameter, source.value(parameter.row().id + k)));
     return elements;
 }
 
@@ -54,14 +52,14 @@ Status run(const Options& options, const Context& context) {
         table.add({std::string(parameter.name()), differs ? paint.changed(text) : text,
                    parameter.title(context.language)});
         if (options.json)
-            all.push_back({{"name", parameter.name()},
-                           {"value", jsonValue(parameter, source)},
-                           {"unit", parameter.unit()},
-                           {"title", parameter.title(context.language)},
-                           {"changed", differs}});
+            all.add({{"name", parameter.name()},
+                     {"value", jsonValue(parameter, source)},
+                     {"unit", parameter.unit()},
+                     {"title", parameter.title(context.language)},
+                     {"changed", differs}});
     }
     if (options.json)
-        printJson(all);
+        print(all.text());
     else
         print(table.text());
     return kNothing;

@@ -5,8 +5,6 @@
 #include <cmath>
 #include <cstdio>
 
-#include <nlohmann/json.hpp>
-
 #include "ParamSystem/support/Number.h"
 #include "tools/talux/Text.h"
 
@@ -116,10 +114,6 @@ Json json(const Parameter& parameter, const std::optional<Value>& value) {
     const std::string text = plain(parameter, *value);
     std::from_chars(text.data(), text.data() + text.size(), rounded);
     return rounded;
-}
-
-void printJson(const Json& document) {
-    print(document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
 }
 
 void print(std::string_view text) {

@@ -5,13 +5,10 @@
 #include <optional>
 #include <string>
 
-#include <nlohmann/json_fwd.hpp>
-
+#include "tools/talux/Json.h"
 #include "tools/talux/Source.h"
 
 namespace talux::tool {
-
-using Json = nlohmann::ordered_json;
 
 // A number with as many digits as tell it from all others of its width; a text in double quotes.
 std::string plain(const Parameter& parameter, const Value& value);
@@ -36,9 +33,6 @@ std::string change(const Parameter& parameter, const std::optional<Value>& from,
 
 // A number or a text; null for nothing.
 Json json(const Parameter& parameter, const std::optional<Value>& value);
-
-// Prints it; texts that are no UTF-8 get replacement characters.
-void printJson(const Json& document);
 
 // Prints to standard output.
 void print(std::string_view text);

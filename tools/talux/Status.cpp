@@ -3,8 +3,6 @@
 #include <memory>
 #include <unistd.h>
 
-#include <nlohmann/json.hpp>
-
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Network.h"
@@ -135,17 +133,21 @@ void printReport(const Report& report) {
     for (const Change& change : report.changes) {
         Json list = Json::array();
         for (const auto& [parameter, from, to] : change.pending)
-            list.push_back({{"name", parameter->name()},
-                            {"from", json(*parameter, from)},
-                            {"to", json(*parameter, to)},
-                            {"network", reachesNetwork(*parameter)}});
-        all[change.command] = {{"place", change.place}, {"there", change.isThere}, {"changes", list}};
+            list.add({{"name", parameter->name()},
+                      {"from", json(*parameter, from)},
+                      {"to", json(*parameter, to)},
+                      {"network", reachesNetwork(*parameter)}});
+        all.set(change.command,
+                {{"place", change.place}, {"there", change.isThere}, {"changes", std::move(list)}});
     }
-    all["flags"] = report.flags;
-    all["not_back"] = Json::array();
+    Json flags = Json::array(), losses = Json::array();
+    for (const std::string& flag : report.flags)
+        flags.add(flag);
     for (const auto& [parameter, finding] : report.losses)
-        all["not_back"].push_back({{"name", parameter->name()}, {"text", finding.text}});
-    printJson(all);
+        losses.add({{"name", parameter->name()}, {"text", finding.text}});
+    all.set("flags", std::move(flags));
+    all.set("not_back", std::move(losses));
+    print(all.text());
 }
 
 Status run(const Options& options, const Context& context) {

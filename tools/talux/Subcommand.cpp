@@ -1,5 +1,7 @@
 #include "tools/talux/Subcommand.h"
 
+#include <iostream>
+
 #include <CLI/CLI.hpp>
 
 namespace talux::tool {
@@ -26,6 +28,11 @@ Argument& Argument::inRange(double least, double most) {
 
 Argument& Argument::divided(char delimiter) {
     option->delimiter(delimiter);
+    return *this;
+}
+
+Argument& Argument::oneOf(const std::vector<std::string>& values) {
+    option->check(CLI::IsMember(values).description(""));
     return *this;
 }
 
@@ -58,6 +65,28 @@ void Subcommand::flag(const char* name, bool& value, const char* help) {
 
 bool Subcommand::isChosen() const {
     return app->parsed();
+}
+
+CommandLine::CommandLine(const char* program, const char* about)
+    : app(std::make_unique<CLI::App>(about, program)) {
+    app->get_formatter()->column_width(22);
+    app->require_subcommand(1);
+    app->fallthrough();
+}
+
+CommandLine::~CommandLine() = default;
+
+Argument CommandLine::option(const char* name, std::string& value, const char* help) {
+    return Argument(app->add_option(name, value, help));
+}
+
+CommandLine::Outcome CommandLine::parse(int argc, char** argv) {
+    try {
+        app->parse(argc, argv);
+        return Outcome::command;
+    } catch (const CLI::ParseError& error) {
+        return app->exit(error, std::cout, std::cerr) == 0 ? Outcome::helped : Outcome::refused;
+    }
 }
 
 } // namespace talux::tool

@@ -1,8 +1,9 @@
-// What a command takes. The header of CLI11, which does the work, costs seconds in each source that reads it:
-// only Subcommand.cpp and main.cpp do.
+// What the program and its commands take. The header of CLI11, which does the work, costs seconds in each
+// source that reads it: only Subcommand.cpp does.
 #ifndef TALUX_TOOLS_TALUX_SUBCOMMAND_H
 #define TALUX_TOOLS_TALUX_SUBCOMMAND_H
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,7 @@ public:
     Argument& inRange(int least, int most);
     Argument& inRange(double least, double most);
     Argument& divided(char delimiter); // a value is several
+    Argument& oneOf(const std::vector<std::string>& values);
 
 private:
     CLI::Option* option;
@@ -44,6 +46,23 @@ public:
 
 private:
     CLI::App* app;
+};
+
+// What is typed behind the program's name.
+class CommandLine {
+public:
+    CommandLine(const char* program, const char* about);
+    ~CommandLine();
+
+    CLI::App& program() { return *app; }
+    Argument option(const char* name, std::string& value, const char* help);
+
+    // Help goes to standard output, what is wrong to the error stream.
+    enum class Outcome { command, helped, refused };
+    Outcome parse(int argc, char** argv);
+
+private:
+    std::unique_ptr<CLI::App> app;
 };
 
 } // namespace talux::tool

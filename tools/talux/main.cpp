@@ -2,9 +2,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <iostream>
-
-#include <CLI/CLI.hpp>
 
 #include "tools/talux/Command.h"
 
@@ -33,11 +30,6 @@ void addCommands(CLI::App& app, Commands& commands) {
         add(app, commands);
 }
 
-// Help goes to standard output, what is wrong to the error stream, each with the status that belongs to it.
-Status endParsing(const CLI::App& app, const CLI::ParseError& error) {
-    return app.exit(error, std::cout, std::cerr) == 0 ? kNothing : kCouldNot;
-}
-
 Status runChosen(const Commands& commands, const Context& context) {
     const auto chosen =
         std::ranges::find_if(commands, [](const Command& command) { return command.given.isChosen(); });
@@ -59,24 +51,17 @@ int run(int argc, char** argv) {
     Context context;
     context.language = languageOfEnvironment();
 
-    CLI::App app(kAbout, "talux");
-    app.add_option_function<std::string>(
-           "--language",
-           [&context](const std::string& name) { context.language = name == "de" ? kGerman : kEnglish; },
-           "de or en; by default that of the environment")
-        ->check(CLI::IsMember({"de", "en"}).description(""));
-    app.add_option("--directory", context.directory, "where the device keeps its files; by default /");
-    app.get_formatter()->column_width(22);
-    app.require_subcommand(1);
-    app.fallthrough();
-
+    CommandLine line("talux", kAbout);
+    std::string language;
+    line.option("--language", language, "de or en; by default that of the environment").oneOf({"de", "en"});
+    line.option("--directory", context.directory, "where the device keeps its files; by default /");
     Commands commands;
-    addCommands(app, commands);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return endParsing(app, error);
-    }
+    addCommands(line.program(), commands);
+
+    const auto outcome = line.parse(argc, argv);
+    if (outcome != CommandLine::Outcome::command)
+        return outcome == CommandLine::Outcome::helped ? kNothing : kCouldNot;
+    if (!language.empty()) context.language = language == "de" ? kGerman : kEnglish;
     return runChosen(commands, context);
 }
 

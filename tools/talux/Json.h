@@ -1,0 +1,57 @@
+// JSON documents as the commands build them. The header of nlohmann's library, which does the work, costs
+// seconds in each source that reads it: only Json.cpp does.
+#ifndef TALUX_TOOLS_TALUX_JSON_H
+#define TALUX_TOOLS_TALUX_JSON_H
+
+#include <cstdint>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <nlohmann/json_fwd.hpp>
+
+namespace talux::tool {
+
+class Json {
+public:
+    struct Member;
+
+    Json() : Json(nullptr) {}
+    Json(std::nullptr_t);
+    Json(bool truth);
+    Json(int number) : Json(std::int64_t{number}) {}
+    Json(std::int64_t number);
+    Json(double number);
+    Json(std::string_view text);
+    Json(const std::string& text) : Json(std::string_view(text)) {}
+    Json(const char* text) : Json(std::string_view(text)) {}
+    Json(std::initializer_list<Member> members); // in this order
+
+    static Json array();
+
+    Json(Json&&) noexcept;
+    Json& operator=(Json&&) noexcept;
+    ~Json();
+
+    bool isNull() const;
+
+    // Make an array and an object of null.
+    void add(Json element);
+    void set(std::string_view key, Json value);
+
+    // Over several lines; texts that are no UTF-8 get replacement characters.
+    std::string text() const;
+
+private:
+    std::unique_ptr<nlohmann::ordered_json> value;
+};
+
+struct Json::Member {
+    std::string_view key;
+    mutable Json value; // the object takes it out of its initialiser
+};
+
+} // namespace talux::tool
+
+#endif
