@@ -162,23 +162,32 @@ std::string_view textArgument(lua_State* L, int argument) {
     return {text != nullptr ? text : "", length};
 }
 
+constexpr std::size_t kPrefixLength = 4; // "TLX_" or "LVR_", which are not looked at
+
+// A text with a NUL inside names nothing.
+const stParamProperties* findBehindPrefix(std::string_view text) {
+    if (text.size() < kPrefixLength) return nullptr;
+    for (const char c : text.substr(0, kPrefixLength))
+        if (c == '\0') return nullptr;
+    return findParameter(text.substr(kPrefixLength));
+}
+
+int refuseName(std::string_view text) {
+    const std::string_view shown = text.substr(0, text.find('\0'));
+    const std::string_view name = shown.substr(std::min(shown.size(), kPrefixLength));
+    formatText(szError, sizeof szError, "<< SYNTAX ERROR ('%.*s') >>", static_cast<int>(name.size()),
+               name.data());
+    return 0;
+}
+
 // The parameter decides which kind of array it fills.
 int getArray(lua_State* L) {
-    constexpr std::size_t kPrefixLength = 4; // "TLX_" or "LVR_", which are not looked at
     const std::string_view text = textArgument(L, 2);
     const int first = saturated32(lua_tonumberx(L, 3, nullptr));
     const int last = saturated32(lua_tonumberx(L, 4, nullptr));
 
-    // A text with a NUL inside is no name: what stands in front of it might be one.
-    const std::string_view shown = text.substr(0, text.find('\0'));
-    const std::string_view name = shown.substr(std::min(shown.size(), kPrefixLength));
-    const bool isName = shown.size() == text.size() && text.size() >= kPrefixLength;
-    const stParamProperties* const row = isName ? findParameter(name) : nullptr;
-    if (row == nullptr) {
-        formatText(szError, sizeof szError, "<< SYNTAX ERROR ('%.*s') >>", static_cast<int>(name.size()),
-                   name.data());
-        return 0;
-    }
+    const stParamProperties* const row = findBehindPrefix(text);
+    if (row == nullptr) return refuseName(text);
     if (const char* const error = rangeError(*row, first, last)) return refuse(error);
 
     const int id = row->id + first - 1;
