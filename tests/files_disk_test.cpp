@@ -7,6 +7,7 @@
 #include <cstdarg>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <functional>
 #include <map>
 #include <span>
 #include <sys/file.h>
@@ -30,6 +31,7 @@ struct Step {
     std::string name = {}, newName = {}, data = {};
 };
 std::vector<Step> steps;
+std::function<void()> onSleep; // what the others do meanwhile
 
 // Whether this call is the one that is hit; `moved` is then halved or the call fails.
 bool fails(const char* call, std::size_t* moved = nullptr) {
@@ -102,6 +104,10 @@ ssize_t write(int file, const void* block, size_t size) {
     return next(&write, "write")(file, block, size);
 }
 int system(const char* /*command*/) {
+    return 0;
+}
+int usleep(useconds_t /*microseconds*/) {
+    if (onSleep) onSleep();
     return 0;
 }
 }
@@ -350,6 +356,31 @@ TEST_F(Disk, IsReadWholeWhileOthersSaveAndAreKilled) {
     for (const auto& [name, content] : old)
         fs::remove(directory / name);
     EXPECT_EQ(namesIn(directory), std::vector<std::string>{"file"});
+}
+
+TEST_F(Disk, WaitsForTheSavesOfOthersButNotForEver) {
+    std::vector<int> others;
+    for (const char number : {'0', '1', '2', '3'}) {
+        const fs::path name = directory / (std::string(".talux-save-") + number + ".tmp");
+        others.push_back(open(name.c_str(), O_CREAT | O_RDWR, 0600));
+        EXPECT_EQ(flock(others.back(), LOCK_EX), 0);
+    }
+    int sleeps = 0;
+    onSleep = [&sleeps] { ++sleeps; };
+    const auto [result, output, errors] = perform(kOperations[3]);
+    EXPECT_EQ(result, 0);
+    EXPECT_TRUE(holds(errors, "fopen: Resource temporarily unavailable")) << errors;
+    EXPECT_EQ(sleeps, 5000) << "milliseconds";
+    EXPECT_EQ(contents(directory / "ip_config.ini"), old["ip_config.ini"]);
+
+    onSleep = [&] {
+        if (++sleeps == 5003) close(others[2]);
+    };
+    EXPECT_EQ(std::get<0>(outcomeOf(kOperations[3].run)), 1);
+    EXPECT_EQ(sleeps, 5003);
+    onSleep = nullptr;
+    for (const int other : {others[0], others[1], others[3]})
+        close(other);
 }
 
 // ---- What cannot be replaced, and links ----

@@ -1,0 +1,92 @@
+// Values of every kind in both spaces against a small model of the slots, and the bytes of every type.
+#include "ParamSystem/kepl/ValueType.h"
+#include "ParamSystem/store/Values.h"
+#include "tests/Store.h"
+
+#include <cmath>
+
+namespace {
+
+using namespace talux;
+using talux_test::Random;
+
+// "-" for nothing, "=..." for a text, the bits of a number.
+std::string shown(const std::optional<Value>& value) {
+    if (!value) return "-";
+    return value->isText() ? std::string("=") + value->text()
+                           : std::to_string(std::bit_cast<std::uint64_t>(value->number()));
+}
+
+// The slot that answers for an id: of two the one of the longs.
+const talux_test::Block* slotOf(int id) {
+    for (const talux_test::Block& block : talux_test::kBlocks)
+        if (block.holds(id) && block.type != kTypeInt) return &block;
+    return nullptr;
+}
+
+template <typename Integer>
+double lowBits(double number) {
+    const bool isSigned = sizeof(Integer) > 1;
+    const double least = isSigned ? -2147483648.0 : 0, most = isSigned ? 2147483647.0 : 4294967295.0;
+    const auto whole = std::isnan(number) ? 0 : static_cast<std::int64_t>(std::clamp(number, least, most));
+    return static_cast<Integer>(whole);
+}
+
+std::string kept(const talux_test::Block& slot, const Value& value) {
+    if (value.isText()) return "=" + std::string(value.text()).substr(0, slot.size - 1);
+    const double number = value.number();
+    return shown(Value(slot.type == kTypeDouble  ? number
+                       : slot.type == kTypeFloat ? static_cast<double>(static_cast<float>(number))
+                       : slot.type == kTypeBool  ? lowBits<std::uint8_t>(number)
+                       : slot.type == kTypeLong  ? lowBits<std::int32_t>(number)
+                                                 : lowBits<std::int16_t>(number)));
+}
+
+Value anyValue(Random& random) {
+    static constexpr double kNumbers[] = {0,          -0.0,       1,           -1,         0.1,   -3.7,
+                                          255,        256,        32767,       32768,      65535, -32769,
+                                          2147483647, 2147483648, -2147483649, 4294967295, 1e10,  1e38,
+                                          -1e38,      5e-324,     INFINITY,    -INFINITY};
+    if (random.below(2) == 0) return Value(random.text(140));
+    return Value(kNumbers[random.below(std::size(kNumbers))]);
+}
+
+// Ids of every block and around them, and of no block.
+int anyId(Random& random) {
+    const auto& block = talux_test::kBlocks[random.below(std::size(talux_test::kBlocks))];
+    return random.below(8) == 0 ? random.below(25000) : block.first - 1 + random.below(block.count + 2);
+}
+
+TEST(Inside, AValueReadsAsItsSlotKeepsIt) {
+    VarInit(talux_test::kNoDirectory);
+    Random random;
+    for (int round = 0; round < 20000; ++round) {
+        const int id = anyId(random);
+        const Value value = anyValue(random);
+        const Space space = random.below(2) == 0 ? Space::temp : Space::global;
+        const Space other = space == Space::temp ? Space::global : Space::temp;
+        const std::string before = shown(readValue(space, id)), otherBefore = shown(readValue(other, id));
+        writeValue(space, id, value);
+
+        const talux_test::Block* const slot = slotOf(id);
+        const bool fits = slot != nullptr && value.isText() == (slot->number == nullptr);
+        SCOPED_TRACE(testing::Message() << id << ": " << shown(value));
+        ASSERT_EQ(shown(storedAs(id, value)), fits ? kept(*slot, value) : "-");
+        ASSERT_EQ(shown(readValue(space, id)), fits ? kept(*slot, value) : before);
+        ASSERT_EQ(shown(readValue(other, id)), otherBefore);
+        ASSERT_EQ(before == "-", slot == nullptr);
+    }
+}
+
+TEST(Inside, NumbersKeepTheWidthOfTheirType) {
+    for (int type = 0; type < 3000; ++type) {
+        const kepl::NumberBytes bytes = kepl::encode(100, type);
+        EXPECT_EQ(kepl::decode(bytes.data, type), bytes.size == 0 ? 0 : 100) << type;
+    }
+    constexpr std::pair<int, std::size_t> kWidths[] = {{2002, 8}, {2003, 4}, {2004, 4}, {2005, 4}, {2006, 8},
+                                                       {2007, 8}, {2008, 2}, {2009, 1}, {2010, 1}, {2011, 0}};
+    for (const auto& [type, width] : kWidths)
+        EXPECT_EQ(kepl::encode(1, type).size, width) << type;
+}
+
+} // namespace
