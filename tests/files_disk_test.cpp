@@ -226,7 +226,7 @@ TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
     for (const Operation& operation : kOperations) {
         const bool loads = operation.run == VarLoadIPConfig; // and saves what it loaded, the old file
         learn(loads ? kOperations[3] : operation);
-        for (const int error : {EINTR, kShort, ENOSPC, EACCES}) {
+        for (const int error : {EINTR, kShort, ENOSPC, EACCES, EROFS, EBUSY}) {
             for (int after = 0;; ++after, ++faults) {
                 begin();
                 const Outcome outcome = perform(operation, error, after);
@@ -237,10 +237,10 @@ TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
                 const auto& [result, output, errors] = outcome;
                 const char raised = raw(kGlobal)[kBlocks[4].slotOf(operation.flag)];
                 EXPECT_TRUE(loads || (result == 1 ? raised == 1 : raised == 0 || fresh.size() == 2));
+                const bool isRefusal = error == EACCES || error == EROFS || error == EBUSY;
                 // A directory that lets nothing be made or exchanged has its files written in place.
                 const bool passes = error == EINTR || error == kShort || call == "close" || call == "flock" ||
-                                    call == "openat" ||
-                                    (error == EACCES && (call == "renameat" || call == "open"));
+                                    call == "openat" || (isRefusal && (call == "renameat" || call == "open"));
                 if (!holds(output + errors, "Error (TALUX_Var): "))
                     EXPECT_TRUE(passes && (all || loads) && result == 1);
                 else if (!loads)
@@ -405,6 +405,20 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
     EXPECT_EQ(outcome, Outcome(1, "Error (TALUX_Var): Can't write to file '" + path + "' \n",
                                "write: File too large\n"));
     EXPECT_EQ(contents(other), whole.substr(0, 100));
+
+    // Whatever fails then is told, or the file is whole.
+    const Operation inPlace{VarSaveParams, 8000, {"parameter.ini"}, ""};
+    for (const int error : {EINTR, kShort, ENOSPC})
+        for (int after = 0;; ++after) {
+            std::ofstream(file) << "old";
+            const auto [result, output, errors] = perform(inPlace, error, after);
+            if (*failedCall == '\0') break;
+            EXPECT_EQ(fs::hard_link_count(file), 2);
+            EXPECT_TRUE(holds(output + errors, "Error (TALUX_Var): ") || contents(file) == whole)
+                << failedCall << after << output << errors;
+            EXPECT_TRUE(contents(file) == whole || contents(file) == "old" || contents(file).empty() ||
+                        std::string_view(failedCall) == "write");
+        }
 
     fs::remove(file);
     ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
