@@ -25,6 +25,11 @@ target_link_options(talux_module INTERFACE
   -static-libgcc -Wl,--as-needed -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map
   -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack -Wl,-z,nodelete -Wl,--build-id=none)
 
+# The compiler's remarks on how ARM once passed arguments are about no object that is linked here.
+if(CMAKE_SYSTEM_PROCESSOR MATCHES arm)
+  target_compile_options(talux_compile INTERFACE -Wno-psabi)
+endif()
+
 # Dates behind 2038-01-19 need a time of 64 bits, which glibc has for 32-bit processors from 2.34 on.
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   include(CheckCXXSourceCompiles)
