@@ -8,8 +8,8 @@ namespace {
 
 constinit bool isLoaded = false;
 
-bool checkedId(int id, const char* function) {
-    return asserted(id >= 0, "id>=0", "ParamSystem/TALUX_Params", function);
+void checkId(int id, const char* function) {
+    assertThat(id >= 0, "id>=0", "ParamSystem/TALUX_Params", function);
 }
 
 const stParamProperties* parameterAt(std::size_t position) {
@@ -45,13 +45,15 @@ int LoadParamProperties(char*) {
 }
 
 const stParamProperties* GetParamProperties(int id) {
-    if (!checkedId(id, __PRETTY_FUNCTION__) || !isLoaded) return nullptr;
+    checkId(id, __PRETTY_FUNCTION__);
+    if (!isLoaded) return nullptr;
     const int place = placeOf(id);
     return place == kNoPlace ? nullptr : parameterAt(kIdPositions[place]);
 }
 
 const stParamProperties* GetParamPropertiesByOrder(int id) {
-    if (!checkedId(id, __PRETTY_FUNCTION__) || !isLoaded || id > kParameters) return nullptr;
+    checkId(id, __PRETTY_FUNCTION__);
+    if (!isLoaded || id > kParameters) return nullptr;
     return &DefParamProperties[id];
 }
 

@@ -87,27 +87,28 @@ private:
 
     const stParamProperties& row() const { return *decision.row; }
 
-    bool refuse(Refusal refusal) {
-        decision.refusal = refusal;
-        return false;
+    // Whether it holds; if not, that is what stands against the term.
+    bool demand(bool holds, Refusal refusal) {
+        if (!holds) decision.refusal = refusal;
+        return holds;
     }
 
-    bool indicesAreNumbers() { return parts.indicesAreNumbers || refuse(Refusal::indexNotANumber); }
+    bool indicesAreNumbers() { return demand(parts.indicesAreNumbers, Refusal::indexNotANumber); }
 
-    bool mayRead() { return uid >= kReadLevel || refuse(Refusal::rightsTooLow); }
+    bool mayRead() { return demand(uid >= kReadLevel, Refusal::rightsTooLow); }
 
     bool mayWrite() {
-        return uid >= kWriteLevel || equalIgnoringCase(parts.name, kOpenToReaders) ||
-               refuse(Refusal::rightsTooLow);
+        return demand(uid >= kWriteLevel || equalIgnoringCase(parts.name, kOpenToReaders),
+                      Refusal::rightsTooLow);
     }
 
-    bool hasValue() { return !parts.value->empty() || refuse(Refusal::syntaxError); }
+    bool hasValue() { return demand(!parts.value->empty(), Refusal::syntaxError); }
 
-    bool isKnown() { return decision.row != nullptr || refuse(Refusal::syntaxError); }
+    bool isKnown() { return demand(decision.row != nullptr, Refusal::syntaxError); }
 
-    bool isReadable() { return row().val_access != kWriteOnly || refuse(Refusal::writeOnly); }
+    bool isReadable() { return demand(row().val_access != kWriteOnly, Refusal::writeOnly); }
 
-    bool isWritable() { return row().val_access != kReadOnly || refuse(Refusal::readOnly); }
+    bool isWritable() { return demand(row().val_access != kReadOnly, Refusal::readOnly); }
 
     // Attempts on security parameters are noted even if they are refused from here on.
     bool note() {
@@ -115,18 +116,17 @@ private:
         return true;
     }
 
-    bool hasLevel() { return uid >= row().userlevel || refuse(Refusal::rightsTooLow); }
+    bool hasLevel() { return demand(uid >= row().userlevel, Refusal::rightsTooLow); }
 
     // An index is given where one is needed, and none where none is.
     bool indexIsWanted() {
         if (parts.indices == 0)
-            return row().val_min_id <= 0 || row().val_max_id <= 0 || refuse(Refusal::indexRequired);
-        return row().val_min_id != 0 || row().val_max_id != 0 || refuse(Refusal::noIndexAllowed);
+            return demand(row().val_min_id <= 0 || row().val_max_id <= 0, Refusal::indexRequired);
+        return demand(row().val_min_id != 0 || row().val_max_id != 0, Refusal::noIndexAllowed);
     }
 
     bool fits(VarLong index, Refusal tooLow, Refusal tooHigh) {
-        if (index < row().val_min_id) return refuse(tooLow);
-        return index <= row().val_max_id || refuse(tooHigh);
+        return demand(index >= row().val_min_id, tooLow) && demand(index <= row().val_max_id, tooHigh);
     }
 
     // Of a write, the second index does not count.
@@ -137,7 +137,7 @@ private:
     bool rangeFits() {
         return fits(parts.first, Refusal::index1TooLow, Refusal::index1TooHigh) &&
                fits(parts.last, Refusal::index2TooLow, Refusal::index2TooHigh) &&
-               (parts.first <= parts.last || refuse(Refusal::index1GreaterThanIndex2));
+               demand(parts.first <= parts.last, Refusal::index1GreaterThanIndex2);
     }
 
     bool valueFits() {
@@ -165,16 +165,17 @@ private:
             const auto ends = [=](char c) { return c == separator || c == '"'; };
             return parseLong(takeWordOf(rest, ends), &number) == kParsed;
         };
-        return std::ranges::all_of(decision.clock, takeNumber) || refuse(Refusal::syntaxError);
+        return demand(std::ranges::all_of(decision.clock, takeNumber), Refusal::syntaxError);
     }
 
     bool numberFits() {
         double number = 0;
-        if (parseDouble(*parts.value, &number) != kParsed || std::isnan(number))
-            return refuse(Refusal::syntaxError);
+        if (!demand(parseDouble(*parts.value, &number) == kParsed && !std::isnan(number),
+                    Refusal::syntaxError))
+            return false;
         decision.value.emplace(number);
-        if (number < row().val_min) return refuse(Refusal::valueTooLow);
-        return number <= row().val_max || refuse(Refusal::valueTooHigh);
+        return demand(number >= row().val_min, Refusal::valueTooLow) &&
+               demand(number <= row().val_max, Refusal::valueTooHigh);
     }
 
     // A text that begins with a double quote loses its first and its last character.

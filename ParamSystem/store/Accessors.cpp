@@ -14,30 +14,34 @@ using enum talux::Space;
 
 // Aborts in the name of the accessor when the id is of another kind.
 template <Kind kind>
-bool checked(int id, const char* accessor) {
-    return talux::asserted(talux::holds(kind, id), talux::blockOf(kind).assertion, TALUX_UNIT, accessor);
+void check(int id, const char* accessor) {
+    talux::assertThat(talux::holds(kind, id), talux::blockOf(kind).assertion, TALUX_UNIT, accessor);
 }
 
 // What the accessors of every kind do. Single values insist on the kind; so do readers of runs, except those
 // of long, which ignore foreign ids as writers of runs do. By itself `accessor` is the function that calls.
 template <Kind kind, Space space>
 void set(int id, Number<kind> value, const char* accessor = __builtin_FUNCTION()) {
-    if (checked<kind>(id, accessor)) talux::putNumber<kind, space>(id, value);
+    check<kind>(id, accessor);
+    talux::putNumber<kind, space>(id, value);
 }
 
 template <Kind kind, Space space>
 void get(int id, Number<kind>* value, const char* accessor = __builtin_FUNCTION()) {
-    if (checked<kind>(id, accessor)) *value = talux::getNumber<kind, space>(id);
+    check<kind>(id, accessor);
+    *value = talux::getNumber<kind, space>(id);
 }
 
 template <Kind kind, Space space>
 void setText(int id, const char* text, const char* accessor = __builtin_FUNCTION()) {
-    if (checked<kind>(id, accessor)) talux::putText<kind, space>(id, text);
+    check<kind>(id, accessor);
+    talux::putText<kind, space>(id, text);
 }
 
 template <Kind kind, Space space>
 void getText(int id, char* text, const char* accessor = __builtin_FUNCTION()) {
-    if (checked<kind>(id, accessor)) talux::getText<kind, space>(id, text);
+    check<kind>(id, accessor);
+    talux::getText<kind, space>(id, text);
 }
 
 template <Kind kind, Space space>
@@ -47,8 +51,9 @@ void setRun(int id, const Number<kind>* source, unsigned long count) {
 
 template <Kind kind, Space space>
 void getRun(int id, Number<kind>* dest, unsigned long count, const char* accessor = __builtin_FUNCTION()) {
-    if (kind == Long ? talux::holds(kind, id) : checked<kind>(id, accessor))
-        talux::getRun<kind, space>(id, dest, count);
+    if (kind == Long && !talux::holds(kind, id)) return;
+    check<kind>(id, accessor);
+    talux::getRun<kind, space>(id, dest, count);
 }
 
 } // namespace
@@ -153,11 +158,10 @@ namespace {
 
 // Where a record's first `size` bytes may be copied, or null when there is nothing to copy.
 char* recordBytes(int id, VarLong size, const char* accessor) {
-    if (!checked<Kind::Struct>(id, accessor)) return nullptr;
+    check<Kind::Struct>(id, accessor);
     const int struct_index = id - kFirstStruct;
-    if (!talux::asserted(size <= ARR_StructSize[struct_index], "size <= ARR_StructSize[struct_index]",
-                         TALUX_UNIT, accessor))
-        return nullptr;
+    talux::assertThat(size <= ARR_StructSize[struct_index], "size <= ARR_StructSize[struct_index]",
+                      TALUX_UNIT, accessor);
     return size > 0 ? static_cast<char*>(pVarStruct) + ARR_StructOffset[struct_index] : nullptr;
 }
 

@@ -9,7 +9,7 @@
 
 // The message names the exported function, so each of them holds its own.
 #define TALUX_ASSERT_ID(id)                                                                                  \
-    talux::asserted((id) > 0, "id>0", "ParamSystem/TALUX_ParamStrings", __PRETTY_FUNCTION__)
+    talux::assertThat((id) > 0, "id>0", "ParamSystem/TALUX_ParamStrings", __PRETTY_FUNCTION__)
 
 int iLastEntry = 0;
 
@@ -63,31 +63,31 @@ const stParamText* rowAndCursor(int row) {
 using namespace talux;
 
 const stParamText* GetParamString(int id, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
+    TALUX_ASSERT_ID(id);
     return &currentTexts.rows[findWithFallback({id, type})];
 }
 
 const stParamText* GetFirstParamString(int id, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
+    TALUX_ASSERT_ID(id);
     return rowAndCursor(findWithFallback({id, type}));
 }
 
 const stParamText* GetNextParamString(int id, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
+    TALUX_ASSERT_ID(id);
     return rowAndCursor(findBehindCursor({id, type}));
 }
 
 const stParamText* GetParamStringInGroup(int id, int group, int item, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
+    TALUX_ASSERT_ID(id);
     return &currentTexts.rows[findWithFallback({id, type, group, item})];
 }
 
 const stParamText* GetFirstParamStringInGroup(int id, int group, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
+    TALUX_ASSERT_ID(id);
     return rowAndCursor(findWithFallback({id, type, group}));
 }
 
 const stParamText* GetNextParamStringInGroup(int id, int group, int type) {
-    if (!TALUX_ASSERT_ID(id)) return &currentTexts.rows[kNotFound];
+    TALUX_ASSERT_ID(id);
     return rowAndCursor(findBehindCursor({id, type, group}));
 }
