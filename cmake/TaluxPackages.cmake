@@ -56,15 +56,6 @@ foreach(package IN LISTS talux_packages)
   install(FILES ${PROJECT_BINARY_DIR}/changelog.gz packaging/copyright
     DESTINATION share/doc/${name} COMPONENT deb_${package} EXCLUDE_FROM_ALL)
 endforeach()
-
-# The program holds code of these libraries; their notices go with it.
-foreach(library libcli11 nlohmann-json3 libmd libedit libbsd libncurses)
-  if(TALUX_BUILD_PROGRAM AND EXISTS /usr/share/doc/${library}-dev/copyright)
-    install(FILES /usr/share/doc/${library}-dev/copyright RENAME ${library}.copyright
-      DESTINATION share/doc/talux COMPONENT deb_program EXCLUDE_FROM_ALL)
-  endif()
-endforeach()
-
 install(FILES packaging/lintian-overrides DESTINATION share/lintian/overrides RENAME talux-lua
   COMPONENT deb_runtime EXCLUDE_FROM_ALL)
 install(FILES packaging/talux.lintian-overrides DESTINATION share/lintian/overrides RENAME talux

@@ -408,8 +408,9 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
 
     // Whatever fails then is told, or the file is whole.
     const Operation inPlace{VarSaveParams, 8000, {"parameter.ini"}, ""};
+    int faults = 0;
     for (const int error : {EINTR, kShort, ENOSPC})
-        for (int after = 0;; ++after) {
+        for (int after = 0;; ++after, ++faults) {
             std::ofstream(file) << "old";
             const auto [result, output, errors] = perform(inPlace, error, after);
             if (*failedCall == '\0') break;
@@ -419,6 +420,7 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
             EXPECT_TRUE(contents(file) == whole || contents(file) == "old" || contents(file).empty() ||
                         std::string_view(failedCall) == "write");
         }
+    EXPECT_GT(faults, 30);
 
     fs::remove(file);
     ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
