@@ -46,7 +46,7 @@ need() {
 
 need_build_tools() {
   need cmake:cmake ninja:ninja-build g++:g++ lua5.2:lua5.2 /usr/include/lua5.2/lua.h:liblua5.2-dev \
-    /usr/src/googletest/CMakeLists.txt:googletest bwrap:bubblewrap \
+    /usr/include/gtest/gtest.h:libgtest-dev bwrap:bubblewrap \
     /usr/include/CLI/CLI.hpp:libcli11-dev /usr/include/nlohmann/json.hpp:nlohmann-json3-dev \
     /usr/include/sha2.h:libmd-dev /usr/include/histedit.h:libedit-dev /usr/include/bsd/bsd.h:libbsd-dev
 }

@@ -6,7 +6,6 @@
 
 #include <ctime>
 #include <fstream>
-#include <gmock/gmock.h>
 #include <sstream>
 #include <sys/stat.h>
 #include <vector>

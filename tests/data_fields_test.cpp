@@ -1,7 +1,6 @@
 // Fields of tab-separated records, and how a broken record ends the process.
 #include "MenuSystem/TALUX_Data.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -51,7 +50,7 @@ void expectEnd(const std::string& line, SetField<Field> set, const char* what,
         record.take(set);
     };
     EXPECT_EXIT(take(), testing::ExitedWithCode(2),
-                testing::StrEq(std::string("\nError (M): no ") + what + " for field 'f'\nclosed"));
+                testing::Eq(std::string("\nError (M): no ") + what + " for field 'f'\nclosed"));
 }
 
 // Asked before the first test, so that nobody has reset the space yet.

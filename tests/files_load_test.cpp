@@ -204,9 +204,8 @@ TEST_F(Load, OfADirectoryEndsTheProcess) {
         dup2(STDERR_FILENO, STDOUT_FILENO);
         VarLoadFile(path.data(), 0);
     };
-    EXPECT_EXIT(
-        load(), testing::ExitedWithCode(2),
-        testing::Matcher<const std::string&>("\nError (TALUX_Var): Can't read source file '" + path + "'\n"));
+    EXPECT_EXIT(load(), testing::ExitedWithCode(2),
+                testing::Eq("\nError (TALUX_Var): Can't read source file '" + path + "'\n"));
 }
 
 // Each raises its flag also when there is no file; only the addresses are applied.

@@ -5,7 +5,7 @@
 #include <csignal>
 #include <cstring>
 #include <functional>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <sched.h>
 #include <string>
 #include <sys/wait.h>

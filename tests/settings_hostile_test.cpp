@@ -1,6 +1,6 @@
 // Whatever a stored text holds, the shell runs the intended command alone and hands the text over whole.
 #include <initializer_list>
-#include <regex>
+#include <regex.h>
 #include <spawn.h>
 #include <sys/wait.h>
 
@@ -45,6 +45,19 @@ std::vector<std::string> hostileValues() {
 }
 
 const std::vector<std::string> kValues = hostileValues();
+
+// Addresses of this test, which begin with 7, told by one word.
+std::string withoutAddresses(std::string command) {
+    static const regex_t address = [] {
+        regex_t compiled;
+        if (regcomp(&compiled, "7(\\.-?[0-9]+){3}", REG_EXTENDED) != 0) std::abort();
+        return compiled;
+    }();
+    for (regmatch_t found; regexec(&address, command.c_str(), 1, &found, 0) == 0;)
+        command.replace(static_cast<std::size_t>(found.rm_so),
+                        static_cast<std::size_t>(found.rm_eo - found.rm_so), "ADDRESS");
+    return command;
+}
 
 // The one of 127 quotes, written with four characters each, makes a command too long.
 bool fits(const std::string& value) {
@@ -113,8 +126,10 @@ TEST_F(HostileSettings, ValuesWouldDoHarm) {
     for (const std::string& value : kValues)
         talux_test::note("$ iwconfig wlan0 essid " + value);
     const std::string record = runInShell();
-    const std::regex harm("\nc"); // at the start of a line, see the script
-    EXPECT_GE(std::distance(std::sregex_iterator(record.begin(), record.end(), harm), {}), 20);
+    int harmed = 0; // lines that begin so, see the script
+    for (std::size_t at = 0; (at = record.find("\nc", at)) != std::string::npos; ++at)
+        ++harmed;
+    EXPECT_GE(harmed, 20);
     EXPECT_GE(kValues.size(), 50U);
 }
 
@@ -179,7 +194,7 @@ TEST_F(HostileSettings, Addresses) {
         errorsOf(VarSetSystemIPs);
         std::string all;
         for (const std::string& command : commands())
-            all += std::regex_replace(command, std::regex(R"(7(\.-?\d+){3})"), "ADDRESS") + "\n";
+            all += withoutAddresses(command) + "\n";
         return all;
     };
     const std::string plain = commandsFor([](std::size_t) { return "7.7.7.7"; });

@@ -166,9 +166,9 @@ TEST(SetUp, EndsTheProcessWhenACallFails) {
             VarInit(kNoDirectory);
         };
         const std::string reason = test.tooSmall == 0 ? "Cannot allocate memory" : "Invalid argument";
-        EXPECT_EXIT(start(), testing::ExitedWithCode(1),
-                    testing::Matcher<const std::string&>(test.message + (": " + reason) + "\n" +
-                                                         std::to_string(test.attempts) + ", fSave 0"));
+        EXPECT_EXIT(
+            start(), testing::ExitedWithCode(1),
+            testing::Eq(test.message + (": " + reason) + "\n" + std::to_string(test.attempts) + ", fSave 0"));
         removeSegment(test.tooSmall);
     }
 }

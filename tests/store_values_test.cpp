@@ -1,12 +1,12 @@
 // Every function of the store that moves values, against the bytes of the three segments: what it copies,
 // which locks it takes for it, and that it takes no memory.
+#include "Messages.h"
 #include "Store.h"
 
 #include <atomic>
 #include <climits>
 #include <cmath>
 #include <dlfcn.h>
-#include <gmock/gmock.h>
 #include <limits>
 #include <pthread.h>
 
@@ -328,7 +328,8 @@ TEST_F(Values, GoWhereTheirIdSaysUnderTheirLock) {
 
 // The start only: an emulator that runs the device's programs adds a line of its own.
 auto failed(const std::string& function, const std::string& text) {
-    return testing::StartsWith("ParamSystem/TALUX_Var: " + function + ": Assertion `" + text + "' failed.\n");
+    return talux_test::startingWith("ParamSystem/TALUX_Var: " + function + ": Assertion `" + text +
+                                    "' failed.\n");
 }
 
 // Single values, records and the readers of runs but long insist on their kind, each with its own name and

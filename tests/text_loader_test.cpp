@@ -1,7 +1,6 @@
 // Text files: what a good one leaves in the working table, and how a bad one ends the process.
 #include "ParamSystem/TALUX_ParamStrings.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -56,7 +55,7 @@ void expectEndOf(std::string path, const std::string& message) {
         dup2(STDERR_FILENO, STDOUT_FILENO);
         LoadParamStrings(path.data());
     };
-    EXPECT_EXIT(loadPath(), testing::ExitedWithCode(2), testing::StrEq(message));
+    EXPECT_EXIT(loadPath(), testing::ExitedWithCode(2), testing::Eq(message));
 }
 void expectEnd(const std::string& content, const std::string& what) {
     SCOPED_TRACE(content.substr(0, 60));

@@ -1,7 +1,6 @@
 // The compiled-in texts, their look-ups in two languages and the TXT_ names.
 #include "ParamSystem/TALUX_ParamStrings.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -13,6 +12,7 @@
 #include <string_view>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "tests/Messages.h"
 
 namespace {
 
@@ -212,6 +212,6 @@ TEST_F(TextsDeathTest, AnIdBelowOneAborts) {
     for (int which = 0; which < 6; ++which)
         for (int id : {0, INT_MIN})
             EXPECT_DEATH(lookUp(which, id, kTextTitle, 0, 0),
-                         testing::HasSubstr("ParamSystem/TALUX_ParamStrings: const stParamText* " +
-                                            names[which] + ": Assertion `id>0' failed."));
+                         talux_test::startingWith("ParamSystem/TALUX_ParamStrings: const stParamText* " +
+                                                  names[which] + ": Assertion `id>0' failed."));
 }

@@ -1,7 +1,6 @@
 // What the generator refuses: for every rule rows that break it, and the one line that the builder reads.
 #include "tools/generator/Generator.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -144,7 +143,7 @@ void expectRefusal(const Wrong& wrong, const std::string& messages, const Source
     const std::string file = where.file;
     const std::string head = file.substr(file.rfind("ParamSystem/")) + ":" + std::to_string(where.number) +
                              ": error: " + wrong.subject + ": ";
-    EXPECT_THAT(messages, testing::AllOf(testing::StartsWith(head), testing::HasSubstr(wrong.words)));
+    EXPECT_TRUE(messages.starts_with(head) && messages.find(wrong.words) != std::string::npos) << messages;
     EXPECT_EQ(messages.find('\n'), messages.size() - 1) << messages;
 }
 
@@ -167,9 +166,9 @@ TEST(Generator, NamesTheRowThatBreaksARule) {
 TEST(Generator, SaysWhatCanBeDoneWhenTheTableOfTextsIsFull) {
     Data data;
     data.text("TPL_DLG_Test").items[texts::kGroupMessages] = {"x*2000", "x*2000"};
-    EXPECT_THAT(
-        data.messages(),
-        testing::MatchesRegex("error: ParamSystem/texts: [0-9]+ texts, the table takes 4740: share.*\n"));
+    const std::string message = data.messages();
+    EXPECT_NE(message.find(" texts, the table takes 4740: share"), std::string::npos) << message;
+    EXPECT_EQ(message.find('\n'), message.size() - 1) << message;
 }
 
 TEST(Generator, WritesFiveLinesAtMost) {
@@ -178,5 +177,5 @@ TEST(Generator, WritesFiveLinesAtMost) {
         row.properties.name = "";
     const std::string messages = data.messages();
     EXPECT_EQ(std::count(messages.begin(), messages.end(), '\n'), 5);
-    EXPECT_THAT(messages, testing::HasSubstr("\nand "));
+    EXPECT_NE(messages.find("\nand "), std::string::npos) << messages;
 }

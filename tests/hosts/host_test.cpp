@@ -1,5 +1,5 @@
 // The module in hosts that embed Lua themselves. Built twice: with Lua's shared and with its static library.
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <lua.hpp>
 
 #include <memory>

@@ -1,14 +1,12 @@
 // talux beside the store: what it foretells comes true, and looking changes nothing.
+#include "Checked.h"
 #include "Program.h"
-
-#include <nlohmann/json.hpp>
 
 #include "ParamSystem/KEPL_Interpreter.h"
 
 namespace {
 
 using namespace talux_test;
-using Json = nlohmann::json;
 
 class TaluxStore : public InStartedDevice {
 protected:
@@ -116,15 +114,12 @@ protected:
     }
 
     // Stores what talux says that a line will do.
-    static void carryOut(const Json& line) {
-        if (!line.contains("to")) return;
-        std::string name = line["name"];
-        const stParamProperties* const row = GetParamPropertiesByName(name.data());
+    static void carryOut(CheckedLine line) {
+        if (!line.changes) return;
+        const stParamProperties* const row = GetParamPropertiesByName(line.name.data());
         const bool isText = row->type == kTypeText || (row->type >= kTypeDate && row->type <= kTypeIpGateway);
-        std::string text = line["to"].is_string() ? line["to"].get<std::string>() : "";
-        double number =
-            line["to"].is_number() ? line["to"].get<double>() : std::strtod(text.c_str(), nullptr);
-        VarSetValue(row->id, isText ? asValue(text.data()) : &number);
+        double number = line.isNumber ? line.number : std::strtod(line.text.c_str(), nullptr);
+        VarSetValue(row->id, isText ? asValue(line.text.data()) : &number);
     }
 
     Random random;
@@ -137,8 +132,8 @@ TEST_F(TaluxStore, WhatCheckForetellsIsWhatALoadDoes) {
         const Ended check = run("talux check --json --against staged " + file);
         ASSERT_EQ(image(), before);
         ASSERT_EQ(check.status, 1) << check.output;
-        const Json told = Json::parse(check.output)[0];
-        for (const Json& line : told["lines"])
+        const std::vector<CheckedLine> told = checkedLines(check.output);
+        for (const CheckedLine& line : told)
             carryOut(line);
         const std::string foretold = bytes(raw(kTemp), kSpaceSize);
         std::memcpy(raw(kTemp), before.data(), kSpaceSize);
@@ -152,10 +147,9 @@ TEST_F(TaluxStore, WhatCheckForetellsIsWhatALoadDoes) {
         for (std::string text; std::getline(lines, text);) {
             if (!text.starts_with(kComplaint)) continue;
             const int number = std::stoi(text.substr(kComplaint.size()));
-            const bool isTold = std::ranges::any_of(told["lines"], [=](const Json& line) {
-                return line["line"] == number && line.contains("findings");
-            });
-            EXPECT_TRUE(isTold) << text;
+            EXPECT_TRUE(std::ranges::any_of(told, [=](const CheckedLine& line) {
+                return line.line == number && line.hasFindings;
+            })) << text;
         }
     }
 }
