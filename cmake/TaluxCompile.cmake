@@ -16,7 +16,7 @@ if(TALUX_SANITIZE)
 endif()
 
 # For sources that would take more than 250 MB: the compiler collects its garbage more often, which takes longer.
-set(talux_thrifty --param=ggc-min-expand=12)
+set(talux_thrifty --param=ggc-min-expand=10)
 
 # What only the module itself gets: nothing exported but what is marked, no exceptions, no RTTI. It stays
 # in the process once loaded (nodelete), since segments and locks are never torn down. Of the libraries only

@@ -19,7 +19,7 @@ shift
 need "$multiarch-g++:g++-$multiarch" cmake:cmake ninja:ninja-build
 tests=OFF
 if [ "${1-}" = --tests ]; then
-  need qemu-arm:qemu-user /usr/src/googletest/CMakeLists.txt:googletest
+  need qemu-arm:qemu-user
   tests=ON
   shift
 fi

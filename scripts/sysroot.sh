@@ -1,7 +1,7 @@
 #!/bin/sh
-# Unpacks what a program of ours needs to be built and to run (Lua 5.2, the C and C++ libraries, what talux links)
-# into a folder of its own. Nothing is installed, the packages and architectures of this machine stay as they are;
-# no rights needed.
+# Unpacks what a program of ours needs to be built and to run (Lua 5.2, the C and C++ libraries, what talux and the
+# tests link) into a folder of its own. Nothing is installed, the packages and architectures of this machine stay as
+# they are; no rights needed.
 #
 #   sysroot.sh armhf|armel|amd64 DIR
 set -eu
@@ -9,7 +9,7 @@ set -eu
 [ "$#" = 2 ] || { echo "usage: sysroot.sh armhf|armel|amd64 DIR" >&2; exit 2; }
 architecture=$1
 packages='libc6 libgcc-s1 libstdc++6 liblua5.2-0 liblua5.2-dev libreadline8 libtinfo6 lua5.2
-libcli11-dev nlohmann-json3-dev libmd-dev libedit-dev libbsd-dev libncurses-dev'
+libcli11-dev nlohmann-json3-dev libmd-dev libedit-dev libbsd-dev libncurses-dev libgtest-dev'
 
 mkdir -p "$2"
 sysroot=$(cd "$2" && pwd)

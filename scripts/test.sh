@@ -4,7 +4,7 @@
 #   test.sh           release, sanitize (addresses and undefined behaviour) and armv7
 #   test.sh --all     also armv5te, packages, threads, commands, browser, bench, lint, plain, rock,
 #                     reproducible, and the release tests once more as an ordinary user and in a container without privileges
-#   test.sh STAGE..   only these; debug is one more
+#   test.sh STAGE..   only these; debug and costs are two more
 #
 # What is missing is installed (as root). Every stage runs whatever became of the others. The summary repeats
 # the closing line of ctest for each and names the skipped tests with their reasons.
@@ -21,6 +21,7 @@ armv7() { on_device armv7 arm-linux-gnueabihf; }
 armv5te() { on_device armv5te arm-linux-gnueabi; }
 lint() { scripts/lint.sh --shipped; } # tools and tests take four times as long
 bench() { scripts/bench.sh --check; }
+costs() { scripts/costs.sh | tee -a "$results/summary"; }
 reproducible() { scripts/reproducible.sh | tee -a "$results/summary"; }
 
 on_device() {
@@ -220,7 +221,7 @@ need ip:iproute2 ifconfig:net-tools killall:psmisc /usr/share/i18n/locales/de_DE
 failed=()
 as=()
 for stage in "${stages[@]}"; do
-  [[ " ${all[*]} debug " = *" $stage "* ]] || fail "unknown stage '$stage'"
+  [[ " ${all[*]} debug costs " = *" $stage "* ]] || fail "unknown stage '$stage'"
   SECONDS=0
   echo "==== $stage"
   echo "$stage:" >>"$results/summary"
