@@ -37,9 +37,9 @@ TEST(Interface, IsReadBackAsItWasWritten) {
 }
 
 TEST(Interface, SaysRowByRowWhatAChangeMeans) {
-    const ListingRow flag{"9999", "my_flag", "bool", "parameter.ini", "rw", "1", "", "", "", "0"};
+    const ListingRow flag{"9999", "flag_of_this_test", "bool", "parameter.ini", "rw", "1", "", "", "", "0"};
     EXPECT_EQ(after([&](Listing& all) { all.insert(all.begin() + 90, flag); }),
-              Lines{"my_flag (9999) is new: bool, parameter.ini, default 0"});
+              Lines{"flag_of_this_test (9999) is new: bool, parameter.ini, default 0"});
     EXPECT_EQ(after([](Listing& all) { std::erase(all, ListingRow(find(all, "Uearth"))); }),
               Lines{"Uearth (2148) is gone: programs, scripts and files that use it find nothing"});
     EXPECT_EQ(afterCell("cycle_cnt_low", kName, "cycles"),
