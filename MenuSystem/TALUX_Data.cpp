@@ -4,42 +4,17 @@
 #include <cstring>
 #include <string_view>
 
+#include "MenuSystem/Fields.h"
 #include "ParamSystem/TALUX_Funcs.h"
-#include "ParamSystem/TALUX_ParamStrings.h"
-#include "ParamSystem/TALUX_Params.h"
 #include "ParamSystem/support/Text.h"
+
+using namespace talux::fields;
 
 namespace {
 
 // Texts read, each with its NUL, one after the other.
 constinit char acDataStringSpace[kDataStringSpaceSize];
 constinit char* pSpacePtr = nullptr; // first free byte; null until the first reset
-
-// One field: who reads it, and where it comes from.
-struct FieldSource {
-    const char* modulename;
-    const char* fieldname;
-    StringTokenizer* tokenizer;
-    FILE* file;
-};
-
-[[noreturn]] void endWithError(const FieldSource& source, const char* what) {
-    std::printf("\nError (%s): no %s for field '%s'\n", source.modulename, what, source.fieldname);
-    std::fclose(source.file); // NOLINT(cert-err33-c): the process ends
-    std::exit(2);             // NOLINT(concurrency-mt-unsafe)
-}
-
-[[noreturn]] void endWithInvalidValue(const FieldSource& source) {
-    endWithError(source, "valid value");
-}
-
-// From here on the record splits at tab and newline, so that fields may hold blanks.
-char* takeField(const FieldSource& source) {
-    if (!source.tokenizer->hasMoreTokens()) endWithError(source, "value");
-    char* const token = source.tokenizer->nextToken("\t\n");
-    if (token == nullptr) endWithInvalidValue(source);
-    return token;
-}
 
 template <typename Number>
 Number takeNumber(const FieldSource& source, int (*parse)(const char*, Number*)) {
@@ -49,6 +24,23 @@ Number takeNumber(const FieldSource& source, int (*parse)(const char*, Number*))
 }
 
 } // namespace
+
+void talux::fields::endWithError(const FieldSource& source, const char* what) {
+    std::printf("\nError (%s): no %s for field '%s'\n", source.modulename, what, source.fieldname);
+    std::fclose(source.file); // NOLINT(cert-err33-c): the process ends
+    std::exit(2);             // NOLINT(concurrency-mt-unsafe)
+}
+
+void talux::fields::endWithInvalidValue(const FieldSource& source) {
+    endWithError(source, "valid value");
+}
+
+char* talux::fields::takeField(const FieldSource& source) {
+    if (!source.tokenizer->hasMoreTokens()) endWithError(source, "value");
+    char* const token = source.tokenizer->nextToken("\t\n");
+    if (token == nullptr) endWithInvalidValue(source);
+    return token;
+}
 
 void Data_StringReset() {
     pSpacePtr = acDataStringSpace;
@@ -63,16 +55,6 @@ char* Data_StringSave(const char* txt) {
     std::memcpy(copy, txt, size);
     pSpacePtr += size;
     return copy;
-}
-
-void Data_SetSymbol(const char* modulename, int* field, const char* fieldname, StringTokenizer* pTokenizer,
-                    FILE* fd_src) {
-    const FieldSource source{modulename, fieldname, pTokenizer, fd_src};
-    char* const name = takeField(source);
-    VarLong id = 0;
-    if (ResolveParamSymbol(name, &id) != 1 && ResolveParamTextSymbol(name, &id) != 1)
-        endWithInvalidValue(source);
-    *field = static_cast<int>(id);
 }
 
 void Data_SetInt(const char* modulename, int* field, const char* fieldname, StringTokenizer* pTokenizer,

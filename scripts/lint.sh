@@ -23,14 +23,17 @@ shellcheck -x -P SCRIPTDIR "${shell[@]}" || status=1
 # Only ParamSystem/os reaches the operating system beyond shared memory and locks.
 mapfile -t inside < <(git ls-files ParamSystem MenuSystem src | grep -v '^ParamSystem/os/')
 calls='system|popen|exec[lv]p?e?|posix_spawnp?|v?syslog|clock_settime|settimeofday|u?sleep|nanosleep'
-calls+='|socket|ioctl|openat?|readlink(at)?|access|rename(at)?|unlink(at)?|f?l?chown|f?chmod|f?sync|flock'
+calls+='|socket|ioctl|fopen|remove|openat?|readlink(at)?|access|rename(at)?|unlink(at)?|f?l?chown|f?chmod|f?sync|flock'
 ! grep -nE "(^|[^a-zA-Z_>.])(::|std::)?($calls)\(" "${inside[@]}" || status=1
-# Includes point one way through the rooms.
-rooms=(support os dictionary store texts files settings kepl)
+# Nothing points back through the rooms: neither an include nor, since public headers stand for several rooms, a call.
+rooms=(ParamSystem/{support,os,dictionary,store} MenuSystem ParamSystem/{texts,files,settings,kepl} src)
 for room in "${!rooms[@]}"; do
   later=$(IFS='|'; echo "${rooms[*]:room+1}")
-  ! grep -rnE "#include \"(ParamSystem/($later)|src)/" "ParamSystem/${rooms[room]}" || status=1
+  [ -z "$later" ] || ! grep -rnE "#include \"($later)/" "${rooms[room]}" || status=1
 done
+build release talux_objects
+(cd build-release/CMakeFiles/talux_objects.dir && find . -name '*.o' -print0 | xargs -0 nm -AC) |
+  awk -v rooms="${rooms[*]}" -f scripts/rooms.awk || status=1
 # Without the headers that g++ compiles beforehand, which clang cannot read; sources have to name what they use.
 quiet cmake --preset release -B build-lint -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DTALUX_BUILD_BENCH=ON
 quiet cmake --build build-lint --target talux_dictionary

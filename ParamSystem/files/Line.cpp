@@ -43,7 +43,8 @@ char* appendValue(char* place, const Type& type, const Value& value) {
                                           : appendText(place, value.text());
 }
 
-// Date or time of the system clock.
+} // namespace
+
 Value clockValue(Nature nature, const std::tm& now) {
     char text[48]; // a clock that was never set may show any number
     if (nature == Nature::date)
@@ -52,8 +53,6 @@ Value clockValue(Nature nature, const std::tm& now) {
         formatText(text, sizeof text, "%02d:%02d:%02d", now.tm_hour, now.tm_min, now.tm_sec);
     return Value(std::string_view(text));
 }
-
-} // namespace
 
 std::size_t formatLine(char* line, const stParamProperties& row, const Value& value) {
     const Type& type = typeOf(row);

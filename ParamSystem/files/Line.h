@@ -8,8 +8,10 @@
 //             | '"' n "." n "." n "." n '"'  addresses, without leading zeros
 //             | '"' date '"' | '"' time '"'  of the system clock: YYYY-MM-DD, hh:mm:ss
 //
-// What a reader takes beyond that (comments, blanks, values without quotes) is told in docs/files.md. These
-// do not come back as they were: digits behind the sixth decimal, a text behind a double quote or "=",
+// Addresses lie in ip_config.ini, other settings with userlevel 3 in sec_parameter.ini, the rest in
+// parameter.ini. What a reader takes beyond that is told in docs/files.md: comments (lines without the
+// prefix, and the rest of a value without quotes from "#", ";" or "//" on), blanks, values without quotes.
+// These do not come back as they were: digits behind the sixth decimal, a text behind a double quote or "=",
 // not-a-number in an integer, date and time.
 #ifndef TALUX_FILES_LINE_H
 #define TALUX_FILES_LINE_H
@@ -27,6 +29,12 @@ inline constexpr std::string_view kKeyPrefix = "TLX_";
 
 enum class ParameterFile { none, normal, security, address };
 
+// In the directory of VarInit; empty for none.
+constexpr std::string_view fileName(ParameterFile file) {
+    constexpr std::string_view kNames[] = {"", "parameter.ini", "sec_parameter.ini", "ip_config.ini"};
+    return kNames[static_cast<std::size_t>(file)];
+}
+
 // The file that keeps a parameter: none for run-time values and for what has no value.
 constexpr ParameterFile fileOf(const stParamProperties& row) {
     if (row.is_volatile == 1 || kindOf(row.id) == Kind::None) return ParameterFile::none;
@@ -41,6 +49,9 @@ inline constexpr std::size_t kLineSize = 512;
 // kLineSize characters, and returns its length. 0 when the parameter has no line or the value is not of its
 // nature.
 std::size_t formatLine(char* line, const stParamProperties& row, const Value& value);
+
+// The date or the time that the system clock shows.
+Value clockValue(Nature nature, const std::tm& now);
 
 // What a save writes for a parameter: the value in the global space, and for the two that show the system
 // clock its date and time, which `now` is. Nothing for a parameter without a line.

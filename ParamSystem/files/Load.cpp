@@ -6,12 +6,12 @@
 #include "ParamSystem/dictionary/IdOf.h"
 #include "ParamSystem/files/Effect.h"
 #include "ParamSystem/files/Path.h"
-#include "ParamSystem/os/Os.h"
 #include "ParamSystem/store/ChangeFlags.h"
 
 namespace {
 
 using talux::ChangeFlag;
+using talux::ParameterFile;
 using talux::Path;
 
 void load(const talux::Entry& entry, int type) {
@@ -35,13 +35,8 @@ void reportMissing(const char* filename) {
     std::exit(2); // NOLINT(concurrency-mt-unsafe): a broken file ends the program
 }
 
-int loadWhole(const char* name) {
-    return VarLoadFile(Path(name).get(), 0);
-}
-
-void applyAddresses() {
-    VarSetSystemIPs();
-    talux::raise(ChangeFlag::ip);
+int loadWhole(ParameterFile file) {
+    return VarLoadFile(Path(file).get(), 0);
 }
 
 } // namespace
@@ -58,7 +53,7 @@ int VarLoadFile(char* filename, int type) {
 }
 
 int VarLoadParams(void) {
-    const int result = loadWhole("/parameter.ini");
+    const int result = loadWhole(ParameterFile::normal);
     talux::raise(ChangeFlag::param);
     return result;
 }
@@ -66,27 +61,9 @@ int VarLoadParams(void) {
 int VarLoadSecParams(void) {
     constexpr int kSecMode =
         talux::idOf("sec_mode"); // encryption of the command port; no file may switch it off
-    const int result = loadWhole("/sec_parameter.ini");
+    const int result = loadWhole(ParameterFile::security);
     VarSetBoolValue(kSecMode, 1);
     VarSetGlobalBoolValue(kSecMode, 1);
     talux::raise(ChangeFlag::secParam);
-    return result;
-}
-
-int VarLoadIPConfig(void) {
-    const int result = loadWhole("/ip_config.ini");
-    applyAddresses();
-    return result;
-}
-
-int VarResetIPConfig(int type) {
-    Path path("/def_ip_config.ini");
-    int result = 1;
-    for (const int part : {static_cast<int>(kTypeIpGateway), static_cast<int>(kTypeIpMask), type})
-        if (VarLoadFile(path.get(), part) != 1) result = 0;
-    VarUpdateGlobalSpace();
-    applyAddresses();
-    talux::os::runShell("rm -f /var/resolv.conf");
-    talux::os::runShell("touch /var/resolv.conf");
     return result;
 }

@@ -1,9 +1,10 @@
-// Names of the parameter files: the directory of VarInit, then the file's name, together at most 255
+// Paths of the parameter files: the directory of VarInit, then the file's name, together at most 255
 // characters.
 #ifndef TALUX_FILES_PATH_H
 #define TALUX_FILES_PATH_H
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/files/Line.h"
 #include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Text.h"
 
@@ -11,8 +12,8 @@ namespace talux {
 
 class Path {
 public:
-    // `name` begins with a slash.
-    explicit Path(const char* name) { formatText(text, sizeof text, "%s%s", szParameterPath, name); }
+    explicit Path(const char* name) { formatText(text, sizeof text, "%s/%s", szParameterPath, name); }
+    explicit Path(ParameterFile file) : Path(fileName(file).data()) {}
 
     // A copy named after this moment; `stem` has no slash.
     static Path dated(const char* stem) {

@@ -20,17 +20,14 @@ using talux::Written;
 
 // The two that are given to a group and kept in dated copies; the address file keeps the owner that it has.
 struct GivenFile {
-    const char* name;
-    const char* stem; // of the dated copies
     ParameterFile contents;
+    const char* stem; // of the dated copies
     Rights rights;
     ChangeFlag flag;
 };
 
-constexpr GivenFile kNormalFile{
-    "/parameter.ini", "param", ParameterFile::normal, {0, 100, 0775}, ChangeFlag::param};
-constexpr GivenFile kSecurityFile{
-    "/sec_parameter.ini", "sec_param", ParameterFile::security, {0, 101, 0775}, ChangeFlag::secParam};
+constexpr GivenFile kNormalFile{ParameterFile::normal, "param", {0, 100, 0775}, ChangeFlag::param};
+constexpr GivenFile kSecurityFile{ParameterFile::security, "sec_param", {0, 101, 0775}, ChangeFlag::secParam};
 
 void printSystemError(const Replacement& replacement) {
     errno = replacement.error;
@@ -55,7 +52,7 @@ std::optional<std::size_t> compose(Contents& contents, ParameterFile which) {
     std::tm now;
     talux::os::localTime(now);
     std::size_t length = 0;
-    for (const talux::Setting& setting : talux::settings()) {
+    for (const talux::SettingPlace& setting : talux::settings()) {
         const stParamProperties& row = *GetParamPropertiesByOrder(setting.position);
         if (talux::fileOf(row) != which) continue;
         if (sizeof contents - length < talux::kLineSize) return {};
@@ -89,7 +86,7 @@ int saveFile(const char* filename, const GivenFile& file) {
 }
 
 int saveMain(const GivenFile& file) {
-    return saveFile(Path(file.name).get(), file);
+    return saveFile(Path(file.contents).get(), file);
 }
 
 int saveDated(const GivenFile& file) {
@@ -131,7 +128,7 @@ int VarSaveSecParams(void) {
 }
 
 int VarSaveIPConfig(void) {
-    return VarSaveIPConfigFile(Path("/ip_config.ini").get());
+    return VarSaveIPConfigFile(Path(ParameterFile::address).get());
 }
 
 int VarSaveAll(void) {

@@ -64,6 +64,10 @@ void removeIn(int directory, const char* name) {
     unlinkat(directory, name, 0);
 }
 
+void removeFile(const char* path) {
+    unlink(path);
+}
+
 bool statusOf(int descriptor, struct stat& status) {
     return fstat(descriptor, &status) == 0;
 }

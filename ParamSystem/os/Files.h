@@ -25,6 +25,8 @@ bool statusIn(int directory, const char* name, struct stat& status);
 bool renameIn(int directory, const char* from, const char* to);
 void removeIn(int directory, const char* name);
 
+void removeFile(const char* path);
+
 bool statusOf(int descriptor, struct stat& status);
 ssize_t readFile(int descriptor, char* block, std::size_t size); // the bytes read, 0 at the end
 bool writeFile(int descriptor, std::string_view contents);       // all of it

@@ -3,6 +3,8 @@
 #include <cstring>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/os/Os.h"
+#include "ParamSystem/settings/SettingIds.h"
 #include "ParamSystem/settings/Settings.h"
 #include "ParamSystem/settings/ShellCommand.h"
 
@@ -22,7 +24,7 @@ bool isListed(std::FILE* file, const char* server) {
 }
 
 bool isListed(const char* server) {
-    std::FILE* file = std::fopen(kResolverFile, "r");
+    std::FILE* file = talux::os::openStream(kResolverFile);
     if (file == nullptr) return false;
     const bool listed = isListed(file, server);
     std::fclose(file);

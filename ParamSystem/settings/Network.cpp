@@ -1,6 +1,7 @@
 // Everything that is applied to the operating system, in its fixed order, and the wired interfaces' and
 // wlan0's own addresses.
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/settings/SettingIds.h"
 #include "ParamSystem/settings/Settings.h"
 #include "ParamSystem/settings/ShellCommand.h"
 

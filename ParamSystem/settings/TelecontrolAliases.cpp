@@ -4,6 +4,7 @@
 
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/os/Interfaces.h"
+#include "ParamSystem/settings/SettingIds.h"
 #include "ParamSystem/settings/Settings.h"
 #include "ParamSystem/settings/ShellCommand.h"
 #include "ParamSystem/support/Text.h"

@@ -3,6 +3,7 @@
 
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/os/Files.h"
+#include "ParamSystem/settings/SettingIds.h"
 #include "ParamSystem/settings/Settings.h"
 #include "ParamSystem/settings/ShellCommand.h"
 

@@ -1,5 +1,6 @@
 // The radio of wlan0.
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/settings/SettingIds.h"
 #include "ParamSystem/settings/Settings.h"
 #include "ParamSystem/settings/ShellCommand.h"
 

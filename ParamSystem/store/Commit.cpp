@@ -5,21 +5,12 @@
 #include "ParamSystem/dictionary/Tables.h"
 #include "ParamSystem/store/ChangeFlags.h"
 #include "ParamSystem/store/Slots.h"
+#include "ParamSystem/store/Values.h"
 
 namespace {
 
 using talux::Kind;
 using talux::Space;
-
-void setDefault(const stParamProperties& row) {
-    if (talux::isText(row)) {
-        // The store only reads through the pointer.
-        VarSetValue(row.id, reinterpret_cast<double*>(const_cast<char*>(row.val_def_text)));
-    } else {
-        double value = row.val_def;
-        VarSetValue(row.id, &value);
-    }
-}
 
 void commit(int id) {
     withKind(talux::kindOf(id), [id]<Kind kind>() {
@@ -61,14 +52,15 @@ private:
 
 void VarSetDefault(void) {
     for (int position = 1; position <= talux::kParameters; ++position)
-        if (const stParamProperties* row = GetParamPropertiesByOrder(position)) setDefault(*row);
+        if (const stParamProperties* row = GetParamPropertiesByOrder(position))
+            if (const auto value = talux::defaultOf(*row)) talux::writeValue(Space::temp, row->id, *value);
 }
 
 int VarUpdateGlobalSpace(void) {
     const KeptFlags flags;
     const auto settings = talux::settings();
     if (settings.empty()) reportMissingRows();
-    for (const talux::Setting& setting : settings)
+    for (const talux::SettingPlace& setting : settings)
         commit(setting.id);
     return 1;
 }

@@ -11,6 +11,7 @@
 #include <sys/shm.h>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/os/Files.h"
 #include "ParamSystem/store/Locks.h"
 #include "ParamSystem/support/Text.h"
 
@@ -130,6 +131,6 @@ void VarClean(void) {
 }
 
 int VarResetLCDLogbook(void) {
-    std::remove("TALUX-LCD.log");
+    talux::os::removeFile("TALUX-LCD.log");
     return 1;
 }

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "ParamSystem/settings/Settings.h"
+#include "ParamSystem/settings/SettingIds.h"
 #include "tools/reference/Reference.h"
 
 namespace talux::tool {
