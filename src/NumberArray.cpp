@@ -9,6 +9,7 @@
 #include "ParamSystem/TALUX_Params.h"
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/dictionary/Lookup.h"
+#include "ParamSystem/kepl/Decision.h"
 #include "ParamSystem/support/Number.h"
 #include "ParamSystem/support/Text.h"
 
@@ -162,19 +163,17 @@ std::string_view textArgument(lua_State* L, int argument) {
     return {text != nullptr ? text : "", length};
 }
 
-constexpr std::size_t kPrefixLength = 4; // "TLX_" or "LVR_", which are not looked at
-
-// A text with a NUL inside names nothing.
+// What stands in the place of the prefix is not looked at. A text with a NUL inside names nothing.
 const stParamProperties* findBehindPrefix(std::string_view text) {
-    if (text.size() < kPrefixLength) return nullptr;
-    for (const char c : text.substr(0, kPrefixLength))
+    if (text.size() < kepl::kPrefixLength) return nullptr;
+    for (const char c : text.substr(0, kepl::kPrefixLength))
         if (c == '\0') return nullptr;
-    return findParameter(text.substr(kPrefixLength));
+    return findParameter(text.substr(kepl::kPrefixLength));
 }
 
 int refuseName(std::string_view text) {
     const std::string_view shown = text.substr(0, text.find('\0'));
-    const std::string_view name = shown.substr(std::min(shown.size(), kPrefixLength));
+    const std::string_view name = shown.substr(std::min(shown.size(), kepl::kPrefixLength));
     formatText(szError, sizeof szError, "<< SYNTAX ERROR ('%.*s') >>", static_cast<int>(name.size()),
                name.data());
     return 0;

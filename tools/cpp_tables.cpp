@@ -261,7 +261,7 @@ std::string printRecord(const Parameter& record) {
     std::string fields, checks;
     long size = 0;
     for (const StructMemberProperties_t& member : reference::members(record)) {
-        const bool isLong = member.szMemberType == std::string_view("long");
+        const bool isLong = memberType(member.szMemberType) == kTypeLong;
         const std::string offset = std::to_string(member.lMemberOffset);
         fields += join({"    ", isLong ? "std::int32_t " : "float ", member.aszMemberName, ";\n"});
         checks +=

@@ -7,7 +7,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kAnalogInputs[] = {
+inline constexpr ParameterRow kAnalogInputs[] = {
     choice(10043, "frequency", {.choices = 2, .min = 1}),
     flag(8066, "freq_U0_active"),
     flag(8067, "freq_U1_active", kOn),

@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kBinaryIO[] = {
+inline constexpr ParameterRow kBinaryIO[] = {
     choice(10060, "BEpol1", {.like = kInputPolarity}),
     decimal(2134, "BE_knuV_1", {.def = 0.1618}),
     decimal(2135, "BE_Offset_1"), // V

@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kDisplay[] = {
+inline constexpr ParameterRow kDisplay[] = {
     choice(10001, "meas_disp1", {.like = kDisplayMeasure, .def = 1}),
     choice(10002, "meas_disp2", {.like = kDisplayMeasure, .def = 2}),
     choice(10003, "meas_disp3", {.like = kDisplayMeasure, .def = 3}),

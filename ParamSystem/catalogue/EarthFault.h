@@ -7,11 +7,11 @@
 
 namespace talux::catalogue {
 
-constexpr Row duration(int id, const char* name, double def = 0) {
+constexpr ParameterRow duration(int id, const char* name, double def = 0) {
     return decimal(id, name, {.def = def, .min = 0, .max = 86400});
 }
 
-inline constexpr Row kEarthFault[] = {
+inline constexpr ParameterRow kEarthFault[] = {
     // general thresholds in percent
     decimal(2146, "U123ok", {.def = 80, .min = 1, .max = 90}),
     decimal(2147, "U123erd", {.def = 20, .min = 1, .max = 90}),

@@ -13,7 +13,7 @@ enum FamilyKind { kPlainFamily, kSecurityFamily };
 
 struct Family {
     const char* name;
-    std::span<const Row> rows;
+    std::span<const ParameterRow> rows;
     FamilyKind kind = kPlainFamily;
 };
 

@@ -7,7 +7,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kFirewall[] = {
+inline constexpr ParameterRow kFirewall[] = {
     security(flag(8010, "Firewall_dis", kOn)),
     security(flag(8011, "FW_ETH0_com", kOn)),
     security(flag(8012, "FW_ETH0_ssh", kOn)),

@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kIdentification[] = {
+inline constexpr ParameterRow kIdentification[] = {
     command(19001, "VarSaveParams", 2),
     text(9000, "Name", 40, "DEF-NAME"),
     text(9001, "Abg", 40, "DEF-ABG"),

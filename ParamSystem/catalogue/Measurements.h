@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kMeasurements[] = {
+inline constexpr ParameterRow kMeasurements[] = {
     measured(2000, "U1_prim", kPrimaryVoltage),
     measured(2001, "U2_prim", kPrimaryVoltage),
     measured(2002, "U3_prim", kPrimaryVoltage),

@@ -6,11 +6,11 @@
 
 namespace talux::catalogue {
 
-constexpr Row mapOffset(int id, const char* name, double def) {
+constexpr ParameterRow mapOffset(int id, const char* name, double def) {
     return number(id, name, {.def = def, .min = 0, .max = 65536});
 }
 
-inline constexpr Row kModbusSlave[] = {
+inline constexpr ParameterRow kModbusSlave[] = {
     flag(8042, "modbus_active"),
     choice(10034, "mod_prot", {.choices = 4, .min = 1, .def = 3}),
     number(6034, "Modbus_Port", {.def = 502}),

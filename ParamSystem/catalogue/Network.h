@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kNetwork[] = {
+inline constexpr ParameterRow kNetwork[] = {
     interfaceAddress(16029, "ETH0_IP", "192.168.55.127"),
     interfaceMask(16032, "ETH0_MASK", "255.255.0.0"),
     interfaceGateway(16035, "ETH0_GATEWAY", "0.0.0.0"),

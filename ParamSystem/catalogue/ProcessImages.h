@@ -8,7 +8,7 @@ namespace talux::catalogue {
 
 // One line per parameter.
 // clang-format off
-inline constexpr Row kProcessImages[] = {
+inline constexpr ParameterRow kProcessImages[] = {
     indexed(96, runtime(number(6588, "vBA"))),
     indexed(96, runtime(number(6684, "vBE"))),
     indexed(96, runtime(doubleNumber(1000, "vMWR"))),

@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kRecorder[] = {
+inline constexpr ParameterRow kRecorder[] = {
     number(6986, "rec_pretrig_per", {.def = 5, .min = 1, .max = 11}), // periods
     number(6987, "rec_posttrig_t", {.def = 2000}),                    // ms
     number(6988, "rec_retrig_t", {.def = -1, .min = -1, .max = 999000}),

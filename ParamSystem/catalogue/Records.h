@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kRecords[] = {
+inline constexpr ParameterRow kRecords[] = {
     record(30000, "MessRecord01"),
     record(30001, "MessRecord02"),
     record(30002, "StatRecord_c0"),

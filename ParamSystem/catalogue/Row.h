@@ -12,7 +12,7 @@ using Where = SourceLine;
 
 inline constexpr int kNoLength = -1;
 
-struct Row {
+struct ParameterRow {
     enum Series { kSingle, kNumbered, kIndexed };
 
     stParamProperties properties{}; // of the first parameter of a series
@@ -25,8 +25,8 @@ struct Row {
     constexpr int count() const { return series == kSingle ? 1 : last - first + 1; }
 };
 
-constexpr Row plainRow(int id, const char* name, int type, Where where) {
-    Row row;
+constexpr ParameterRow plainRow(int id, const char* name, int type, Where where) {
+    ParameterRow row;
     row.where = where;
     row.properties = {.id = id,
                       .name = name,
@@ -81,8 +81,8 @@ struct Number {
     double step = 1;
 };
 
-constexpr Row numeric(int id, const char* name, int type, const Number& number, Where where) {
-    Row row = plainRow(id, name, type, where);
+constexpr ParameterRow numeric(int id, const char* name, int type, const Number& number, Where where) {
+    ParameterRow row = plainRow(id, name, type, where);
     row.properties.id_template = number.like.id;
     row.properties.val_init = number.def;
     row.properties.val_def = number.def;
@@ -93,29 +93,31 @@ constexpr Row numeric(int id, const char* name, int type, const Number& number, 
 }
 
 // A 32-bit integer.
-constexpr Row number(int id, const char* name, const Number& value = {}, Where where = Where::current()) {
+constexpr ParameterRow number(int id, const char* name, const Number& value = {},
+                              Where where = Where::current()) {
     return numeric(id, name, kTypeLong, value, where);
 }
 
 // A 16-bit integer.
-constexpr Row shortNumber(int id, const char* name, const Number& value = {},
-                          Where where = Where::current()) {
+constexpr ParameterRow shortNumber(int id, const char* name, const Number& value = {},
+                                   Where where = Where::current()) {
     return numeric(id, name, kTypeInt, value, where);
 }
 
 // A 32-bit float.
-constexpr Row decimal(int id, const char* name, const Number& value = {}, Where where = Where::current()) {
+constexpr ParameterRow decimal(int id, const char* name, const Number& value = {},
+                               Where where = Where::current()) {
     return numeric(id, name, kTypeFloat, value, where);
 }
 
-constexpr Row doubleNumber(int id, const char* name, const Number& value = {},
-                           Where where = Where::current()) {
+constexpr ParameterRow doubleNumber(int id, const char* name, const Number& value = {},
+                                    Where where = Where::current()) {
     return numeric(id, name, kTypeDouble, value, where);
 }
 
 enum Switch { kOff, kOn };
 
-constexpr Row flag(int id, const char* name, Switch def = kOff, Where where = Where::current()) {
+constexpr ParameterRow flag(int id, const char* name, Switch def = kOff, Where where = Where::current()) {
     return numeric(id, name, kTypeBool, {.def = def == kOn ? 1.0 : 0.0, .min = 0, .max = 1}, where);
 }
 
@@ -126,60 +128,64 @@ struct Choice {
     double def = 1;
 };
 
-constexpr Row choice(int id, const char* name, const Choice& choice, Where where = Where::current()) {
+constexpr ParameterRow choice(int id, const char* name, const Choice& choice,
+                              Where where = Where::current()) {
     const int choices = choice.like.id != 0 ? choice.like.choices : choice.choices;
     return numeric(id, name, kTypeEnum,
                    {.like = choice.like, .def = choice.def, .min = choice.min, .max = double(choices)},
                    where);
 }
 
-constexpr Row textual(int id, const char* name, int type, int length, const char* def, const char* init,
-                      Where where) {
-    Row row = plainRow(id, name, type, where);
+constexpr ParameterRow textual(int id, const char* name, int type, int length, const char* def,
+                               const char* init, Where where) {
+    ParameterRow row = plainRow(id, name, type, where);
     row.properties.val_len = length;
     row.properties.val_def_text = def;
     row.properties.val_init_text = init != nullptr ? init : def;
     return row;
 }
 
-constexpr Row text(int id, const char* name, int length, const char* def = "", const char* init = nullptr,
-                   Where where = Where::current()) {
+constexpr ParameterRow text(int id, const char* name, int length, const char* def = "",
+                            const char* init = nullptr, Where where = Where::current()) {
     return textual(id, name, kTypeText, length, def, init, where);
 }
 
-constexpr Row identifier(int id, const char* name, int length, const char* def,
-                         Where where = Where::current()) {
+constexpr ParameterRow identifier(int id, const char* name, int length, const char* def,
+                                  Where where = Where::current()) {
     return textual(id, name, kTypeId, length, def, nullptr, where);
 }
 
-constexpr Row address(int id, const char* name, const char* def, const char* init = nullptr,
-                      Where where = Where::current()) {
+constexpr ParameterRow address(int id, const char* name, const char* def, const char* init = nullptr,
+                               Where where = Where::current()) {
     return textual(id, name, kTypeIp, kNoLength, def, init, where);
 }
 
-constexpr Row interfaceAddress(int id, const char* name, const char* def, Where where = Where::current()) {
+constexpr ParameterRow interfaceAddress(int id, const char* name, const char* def,
+                                        Where where = Where::current()) {
     return textual(id, name, kTypeIpAddress, kNoLength, def, nullptr, where);
 }
 
-constexpr Row interfaceMask(int id, const char* name, const char* def, Where where = Where::current()) {
+constexpr ParameterRow interfaceMask(int id, const char* name, const char* def,
+                                     Where where = Where::current()) {
     return textual(id, name, kTypeIpMask, kNoLength, def, nullptr, where);
 }
 
-constexpr Row interfaceGateway(int id, const char* name, const char* def, Where where = Where::current()) {
+constexpr ParameterRow interfaceGateway(int id, const char* name, const char* def,
+                                        Where where = Where::current()) {
     return textual(id, name, kTypeIpGateway, kNoLength, def, nullptr, where);
 }
 
-constexpr Row clockDate(int id, const char* name, Where where = Where::current()) {
+constexpr ParameterRow clockDate(int id, const char* name, Where where = Where::current()) {
     return textual(id, name, kTypeSysDate, kNoLength, "0", nullptr, where);
 }
 
-constexpr Row clockTime(int id, const char* name, Where where = Where::current()) {
+constexpr ParameterRow clockTime(int id, const char* name, Where where = Where::current()) {
     return textual(id, name, kTypeSysTime, kNoLength, "0", nullptr, where);
 }
 
 // Rights.
 
-constexpr Row readOnly(Row row) {
+constexpr ParameterRow readOnly(ParameterRow row) {
     row.properties.val_access = kReadOnly;
     if (row.properties.type == kTypeBool) { // nobody edits it
         row.properties.val_min = kNoMin;
@@ -188,14 +194,14 @@ constexpr Row readOnly(Row row) {
     return row;
 }
 
-constexpr Row security(Row row) {
+constexpr ParameterRow security(ParameterRow row) {
     row.properties.userlevel = 3;
     return row;
 }
 
 // Run-time values: in the global space only, no default.
 
-constexpr Row runtime(Row row) {
+constexpr ParameterRow runtime(ParameterRow row) {
     row.properties.is_volatile = 1;
     if (row.properties.type == kTypeBool) {
         row.properties.val_min = kNoMin;
@@ -217,40 +223,42 @@ inline constexpr const char* kHarmonic = "%9.3f";
 inline constexpr const char* kAngle = "%5.1f";
 inline constexpr const char* kInputVoltage = "%4.1f";
 
-constexpr Row measured(int id, const char* name, const char* format, Where where = Where::current()) {
-    Row row = runtime(decimal(id, name, {}, where));
+constexpr ParameterRow measured(int id, const char* name, const char* format,
+                                Where where = Where::current()) {
+    ParameterRow row = runtime(decimal(id, name, {}, where));
     row.properties.format = format;
     return row;
 }
 
 // A binary record of the struct segment.
-constexpr Row record(int id, const char* name, Where where = Where::current()) {
+constexpr ParameterRow record(int id, const char* name, Where where = Where::current()) {
     return runtime(plainRow(id, name, kTypeStruct, where));
 }
 
 // Rows without a stored value.
 
 // A trigger that the other programs of the device react to.
-constexpr Row command(int id, const char* name, int userlevel = 1, Where where = Where::current()) {
-    Row row = plainRow(id, name, kTypeCommand, where);
+constexpr ParameterRow command(int id, const char* name, int userlevel = 1, Where where = Where::current()) {
+    ParameterRow row = plainRow(id, name, kTypeCommand, where);
     row.properties.userlevel = userlevel;
     return row;
 }
 
-constexpr Row dialog(int id, const char* templateName, Where where = Where::current()) {
-    Row row = plainRow(id, "", kTypeNone, where);
+constexpr ParameterRow dialog(int id, const char* templateName, Where where = Where::current()) {
+    ParameterRow row = plainRow(id, "", kTypeNone, where);
     row.templateName = templateName;
     return row;
 }
 
-constexpr Row choiceTemplate(const Template& shared, Where where = Where::current()) {
-    Row row = choice(shared.id, "", {.choices = shared.choices, .def = 0}, where);
+constexpr ParameterRow choiceTemplate(const Template& shared, Where where = Where::current()) {
+    ParameterRow row = choice(shared.id, "", {.choices = shared.choices, .def = 0}, where);
     row.templateName = shared.name;
     return row;
 }
 
-constexpr Row decimalTemplate(const Template& shared, const Number& value, Where where = Where::current()) {
-    Row row = decimal(shared.id, "", value, where);
+constexpr ParameterRow decimalTemplate(const Template& shared, const Number& value,
+                                       Where where = Where::current()) {
+    ParameterRow row = decimal(shared.id, "", value, where);
     row.templateName = shared.name;
     return row;
 }
@@ -258,16 +266,16 @@ constexpr Row decimalTemplate(const Template& shared, const Number& value, Where
 // Series.
 
 // Parameters of their own with consecutive ids and running numbers behind the name: REL1, REL2, ...
-constexpr Row numbered(int first, int last, Row row) {
-    row.series = Row::kNumbered;
+constexpr ParameterRow numbered(int first, int last, ParameterRow row) {
+    row.series = ParameterRow::kNumbered;
     row.first = first;
     row.last = last;
     return row;
 }
 
 // One parameter with the elements 1..last, one row and one id each.
-constexpr Row indexed(int last, Row row) {
-    row.series = Row::kIndexed;
+constexpr ParameterRow indexed(int last, ParameterRow row) {
+    row.series = ParameterRow::kIndexed;
     row.first = row.properties.val_min_id = 1;
     row.last = row.properties.val_max_id = last;
     return row;

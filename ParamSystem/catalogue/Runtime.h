@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kRuntime[] = {
+inline constexpr ParameterRow kRuntime[] = {
     number(6994, "max_ini_files", {.def = 15}),
     number(6995, "BA_red_cnt", {.def = 1}),
     runtime(number(6996, "rec_start")),

@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kScripting[] = {
+inline constexpr ParameterRow kScripting[] = {
     flag(8056, "debug_slaves"),
     flag(8057, "debug_slaves_file"),
     flag(8058, "SCRIPTSERVER_active"),

@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kSecurity[] = {
+inline constexpr ParameterRow kSecurity[] = {
     security(flag(8172, "panel_users_active")),
     security(flag(8173, "tcp_users_active")),
     security(flag(8174, "ro_pin_active")),

@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kSerialPorts[] = {
+inline constexpr ParameterRow kSerialPorts[] = {
     choice(10017, "Baudrate1", {.like = kBaudRate, .def = 5}),
     choice(10018, "DataBits1", {.like = kDataBits, .def = 2}),
     choice(10019, "Parity1", {.like = kParity}),

@@ -8,7 +8,7 @@ namespace talux::catalogue {
 
 // One line per parameter.
 // clang-format off
-inline constexpr Row kService[] = {
+inline constexpr ParameterRow kService[] = {
     command(19007, "USB_SaveAll"),
     command(19008, "USB_SaveLog"),
     command(19009, "USB_SaveRec"),

@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kSignals[] = {
+inline constexpr ParameterRow kSignals[] = {
     numbered(0, 4, runtime(shortNumber(7000, "EvCnt_qu2_c", {.min = 0, .max = 65535}))),
     runtime(shortNumber(7005, "EvCnt_qu2", {.min = 0, .max = 65535})),
     numbered(1, 8, runtime(number(6002, "REL"))),

@@ -8,7 +8,7 @@ namespace talux::catalogue {
 
 // One line per parameter.
 // clang-format off
-inline constexpr Row kSnapshot[] = {
+inline constexpr ParameterRow kSnapshot[] = {
     measured(2280, "mw_U0p", kPrimaryVoltage),
     measured(2281, "mw_U1p", kPrimaryVoltage),
     measured(2282, "mw_U2p", kPrimaryVoltage),

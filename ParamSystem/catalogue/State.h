@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kState[] = {
+inline constexpr ParameterRow kState[] = {
     command(19000, "MainScreenText"),
     runtime(number(6000, "ParamMagic", {.min = 0, .max = 1999999999})),
     runtime(flag(8000, "ParamChanged")),

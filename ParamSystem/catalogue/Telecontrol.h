@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kTelecontrol[] = {
+inline constexpr ParameterRow kTelecontrol[] = {
     flag(8043, "T101_active"),
     choice(10035, "T101_port", {.choices = 3, .def = 2}),
     number(6064, "T101_cotfl", {.def = 1, .min = 1, .max = 2}), // octets

@@ -7,7 +7,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kTemplates[] = {
+inline constexpr ParameterRow kTemplates[] = {
     dialog(18000, "DLG_Test"),
     dialog(18001, "DLG_Information"),
     dialog(18002, "DLG_Progress"),

@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kTimeServices[] = {
+inline constexpr ParameterRow kTimeServices[] = {
     text(9024, "TIMEZONE", 80, "/usr/share/zoneinfo/UTC", "0"),
     address(16007, "NTP1", "0.0.0.0"),
     address(16008, "NTP2", "0.0.0.0"),

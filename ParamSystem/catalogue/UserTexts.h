@@ -6,7 +6,7 @@
 
 namespace talux::catalogue {
 
-inline constexpr Row kUserTexts[] = {
+inline constexpr ParameterRow kUserTexts[] = {
     numbered(1, 16, text(9041, "UserText", kNoLength, " ")),
 };
 

@@ -22,7 +22,7 @@ std::string_view nameAt(std::size_t position) {
 
 } // namespace
 
-std::span<const Setting> settings() {
+std::span<const SettingPlace> settings() {
     if (!isLoaded) return {};
     return kSettings;
 }

@@ -10,12 +10,12 @@ namespace {
 
 enum MemberType { kLong, kFloat };
 
-struct Member {
+struct RecordMember {
     MemberType type;
     const char* name;
 };
 
-constexpr Member kMessRecord01[] = {
+constexpr RecordMember kMessRecord01[] = {
     {kLong, "TimeStamp"}, {kLong, "Cnt"},      {kFloat, "U0p"},     {kFloat, "U1p"},     {kFloat, "U2p"},
     {kFloat, "U3p"},      {kFloat, "wU0"},     {kFloat, "wU1"},     {kFloat, "wU2"},     {kFloat, "wU3"},
     {kFloat, "I0p"},      {kFloat, "I1p"},     {kFloat, "I2p"},     {kFloat, "I3p"},     {kFloat, "U0s"},
@@ -30,7 +30,7 @@ constexpr Member kMessRecord01[] = {
     {kFloat, "Isc1"},     {kFloat, "Isc2"},    {kFloat, "Isc3"},    {kFloat, "IscE"},
 };
 
-constexpr Member kMessRecord02[] = {
+constexpr RecordMember kMessRecord02[] = {
     {kLong, "TimeStamp"},  {kLong, "Cnt"},          {kFloat, "U0p_250"},  {kFloat, "I0p_250"},
     {kFloat, "wUI0_250"},  {kFloat, "Y0_abs_250"},  {kFloat, "U0p_fx1"},  {kFloat, "I0p_fx1"},
     {kFloat, "wUI0_fx1"},  {kFloat, "Y0_abs_fx1"},  {kFloat, "U0p_fx2m"}, {kFloat, "I0p_fx2m"},
@@ -41,7 +41,7 @@ constexpr Member kMessRecord02[] = {
     {kLong, "y_BAF_04"},
 };
 
-constexpr Member kStatRecord[] = {
+constexpr RecordMember kStatRecord[] = {
     {kLong, "SysTime"},  {kLong, "dT"},       {kLong, "M3TimeStamp"}, {kFloat, "U0_max"},
     {kFloat, "U1_max"},  {kFloat, "U2_max"},  {kFloat, "U3_max"},     {kFloat, "U0_min"},
     {kFloat, "U1_min"},  {kFloat, "U2_min"},  {kFloat, "U3_min"},     {kFloat, "U0_av"},
@@ -62,12 +62,12 @@ constexpr Member kStatRecord[] = {
 constexpr VarLong kMemberSize = 4; // a long and a float alike
 
 template <std::size_t N>
-constexpr VarLong memberCount(const Member (&)[N]) {
+constexpr VarLong memberCount(const RecordMember (&)[N]) {
     return static_cast<VarLong>(N);
 }
 
 template <std::size_t N>
-constexpr VarLong byteSize(const Member (&members)[N]) {
+constexpr VarLong byteSize(const RecordMember (&members)[N]) {
     return memberCount(members) * kMemberSize;
 }
 
@@ -85,7 +85,7 @@ consteval MemberTable memberTable() {
     std::size_t position = 0;
     const auto append = [&](const auto& members) {
         VarLong offset = 0;
-        for (const Member& member : members) {
+        for (const RecordMember& member : members) {
             table.rows[position++] = {offset, kMemberSize * 8, member.type == kLong ? "long" : "float",
                                       member.name};
             offset += kMemberSize;

@@ -7,13 +7,13 @@
 
 namespace talux {
 
-struct Setting {
+struct SettingPlace {
     std::uint16_t position; // in the table of properties
     std::uint16_t id;
 };
 
 // In table order; none before the properties are loaded.
-std::span<const Setting> settings();
+std::span<const SettingPlace> settings();
 
 } // namespace talux
 

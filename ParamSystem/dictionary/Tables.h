@@ -11,7 +11,7 @@ namespace talux {
 
 extern const int kParameters; // rows between the sentinels
 extern const std::span<const stParamFamily> kFamilies;
-extern const std::span<const Setting> kSettings;
+extern const std::span<const SettingPlace> kSettings;
 extern const NameIndex kNameIndex;
 extern const NameIndex kSymbolIndex;
 extern const std::uint16_t kIdPositions[kIdPlaces]; // of the first row with the id; 0 where there is none

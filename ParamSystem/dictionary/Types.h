@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <string_view>
 
 #include "ParamSystem/TALUX_Params.h"
 
@@ -109,6 +110,18 @@ constexpr const Type& typeOf(int code) {
 
 constexpr const Type& typeOf(const stParamProperties& row) {
     return typeOf(row.type);
+}
+
+// Type code of a record's member by the name that the layout gives it; kTypeNone for an unknown one.
+constexpr int memberType(std::string_view name) {
+    constexpr struct {
+        std::string_view name;
+        int type;
+    } kMemberTypes[] = {{"long", kTypeLong},     {"float", kTypeFloat}, {"int", kTypeLong},
+                        {"short int", kTypeInt}, {"short", kTypeInt},   {"double", kTypeDouble}};
+    for (const auto& known : kMemberTypes)
+        if (known.name == name) return known.type;
+    return kTypeNone;
 }
 
 // Whether values of this nature travel as text rather than as a double.

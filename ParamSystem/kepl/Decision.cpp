@@ -29,9 +29,6 @@ constexpr OperationWord kOperations[] = {
     {"sqr", Operation::square},  {"sqrt", Operation::squareRoot},
 };
 
-constexpr std::size_t kPrefixLength = 4;
-static_assert(kPrefixes[0].size() == kPrefixLength && kPrefixes[1].size() == kPrefixLength);
-
 // Fragments that a board does not let through: tools of its boot environment, backups, a test output.
 constexpr std::string_view kForbiddenArm5[] = {"talux-pondo"};
 constexpr std::string_view kForbiddenArm7[] = {
@@ -46,6 +43,13 @@ bool contains(std::string_view text, std::string_view part) {
 // command with both words in it passes.
 bool mayRun(std::string_view term, int uid) {
     return uid >= kShellLevel || (contains(term, "cat") && contains(term, ".version"));
+}
+
+// What a shell command must not contain on a board.
+std::span<const std::string_view> forbiddenOn(int board) {
+    if (board == kArm5Board) return kForbiddenArm5;
+    if (board == kArm7Board) return kForbiddenArm7;
+    return {};
 }
 
 void decideShell(Decision& decision, std::string_view term, int uid, int board) {
@@ -93,10 +97,6 @@ bool beginsWithDigit(std::string_view term) {
     return !term.empty() && term.front() >= '0' && term.front() <= '9';
 }
 
-bool isVariable(std::string_view term) {
-    return startsIgnoringCase(term, kPrefixes[0]) || startsIgnoringCase(term, kPrefixes[1]);
-}
-
 const CommandWord* commandOf(std::string_view term) {
     const auto begins = [=](const CommandWord& known) { return startsIgnoringCase(term, known.word); };
     const auto* const found = std::ranges::find_if(kCommands, begins);
@@ -135,22 +135,15 @@ Decision decideOther(std::string_view term, int uid, int board) {
 } // namespace
 
 Decision decide(std::string_view term, int uid, int board) {
-    return isVariable(term) ? decideVariable(behind(term, kPrefixLength), uid)
-                            : decideOther(term, uid, board);
+    return hasPrefix(term) ? decideVariable(behind(term, kPrefixLength), uid) : decideOther(term, uid, board);
+}
+
+bool hasPrefix(std::string_view term) {
+    return startsIgnoringCase(term, kPrefixes[0]) || startsIgnoringCase(term, kPrefixes[1]);
 }
 
 std::span<const CommandWord> commandWords() {
     return kCommands;
-}
-
-std::span<const OperationWord> operationWords() {
-    return kOperations;
-}
-
-std::span<const std::string_view> forbiddenOn(int board) {
-    if (board == kArm5Board) return kForbiddenArm5;
-    if (board == kArm7Board) return kForbiddenArm7;
-    return {};
 }
 
 } // namespace talux::kepl

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "ParamSystem/KEPL_Interpreter.h"
+#include "ParamSystem/files/Line.h"
 #include "ParamSystem/kepl/Refusal.h"
 #include "ParamSystem/kepl/Words.h"
 #include "ParamSystem/store/Values.h"
@@ -146,16 +147,19 @@ struct OperationWord {
     std::string_view word;
     Operation operation;
 };
-std::span<const OperationWord> operationWords();
 
-inline constexpr std::string_view kPrefixes[] = {"TLX_", "LVR_"};
+inline constexpr std::string_view kPrefixes[] = {kKeyPrefix, "LVR_"};
+inline constexpr std::size_t kPrefixLength = 4;
+static_assert(kPrefixes[0].size() == kPrefixLength && kPrefixes[1].size() == kPrefixLength);
+bool hasPrefix(std::string_view term); // letter case does not count
+
 inline constexpr std::string_view kOptions[] = {"-p", "-c", "-h"};
+
+// The one parameter that those may write who may read it: it asks for the snapshot of the measured values.
+inline constexpr std::string_view kOpenToReaders = "mw_req";
 
 // Rights that reading any parameter takes, writing one (or more, see userlevel), running any shell command.
 inline constexpr int kReadLevel = 1, kWriteLevel = 2, kShellLevel = 3;
-
-// What a shell command must not contain on a board.
-std::span<const std::string_view> forbiddenOn(int board);
 
 } // namespace talux::kepl
 

@@ -23,7 +23,7 @@ bool dumpHex(Answer& answer, std::string_view bytes) {
 bool dump(Answer& answer, Style style, std::string_view name, const DumpItem& item) {
     switch (style) {
     case Style::plain:
-        return answer.append({"TLX_", name, item.separator, item.label, " = ", item.text, "\n"});
+        return answer.append({kKeyPrefix, name, item.separator, item.label, " = ", item.text, "\n"});
     case Style::lines:
         return answer.append({item.text, "\n"});
     case Style::columns:

@@ -2,6 +2,7 @@
 #include <cstring>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/files/Line.h"
 #include "ParamSystem/kepl/Clock.h"
 #include "ParamSystem/kepl/Dump.h"
 #include "ParamSystem/kepl/Execution.h"
@@ -29,34 +30,19 @@ using QuotedText = char[kTextSize + 2];
 // Date and time are those of the system clock, whatever the store holds.
 std::string_view quote(QuotedText& quoted, const stParamProperties& row, int id) {
     const Nature nature = typeOf(row).nature;
+    std::optional<Value> value;
     if (nature == Nature::date || nature == Nature::time) {
         std::tm now{};
         os::localTime(now);
-        if (nature == Nature::date)
-            formatText(quoted, sizeof quoted, "\"%04d-%02d-%02d\"", now.tm_year + 1900, now.tm_mon + 1,
-                       now.tm_mday);
-        else
-            formatText(quoted, sizeof quoted, "\"%02d:%02d:%02d\"", now.tm_hour, now.tm_min, now.tm_sec);
-        return quoted;
+        value = clockValue(nature, now);
+    } else {
+        value = readValue(spaceOf(row), id);
     }
-    const std::optional<Value> value = readValue(spaceOf(row), id);
     const std::string_view text = value ? value->text() : "";
     quoted[0] = '"';
     std::memcpy(quoted + 1, text.data(), text.size());
     quoted[text.size() + 1] = '"';
     return {quoted, text.size() + 2};
-}
-
-// Type code that a record's member is printed with; kTypeNone for an unknown type name.
-int memberType(std::string_view name) {
-    constexpr struct {
-        std::string_view name;
-        int type;
-    } kMemberTypes[] = {{"long", kTypeLong},     {"float", kTypeFloat}, {"int", kTypeLong},
-                        {"short int", kTypeInt}, {"short", kTypeInt},   {"double", kTypeDouble}};
-    for (const auto& known : kMemberTypes)
-        if (known.name == name) return known.type;
-    return kTypeNone;
 }
 
 // One variable term; its text grows in `answer`.

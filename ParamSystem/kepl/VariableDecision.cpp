@@ -14,9 +14,6 @@ namespace {
 
 constexpr int kSecurityLevel = 3;
 
-// The measurement snapshot may be requested by everybody who may read it.
-constexpr std::string_view kOpenToReaders = "mw_req";
-
 // ---- Parts --------------------------------------------------------------------------------------------
 
 // Leaves the style alone when the word is no option.

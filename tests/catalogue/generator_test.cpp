@@ -9,7 +9,7 @@
 #include "ParamSystem/texts/Words.h"
 
 using namespace talux;
-using catalogue::Row;
+using catalogue::ParameterRow;
 using texts::TextEntry;
 
 namespace {
@@ -24,9 +24,9 @@ public:
             entries.insert(entries.end(), family.begin(), family.end());
     }
 
-    Row& row(std::string_view name) {
-        for (std::vector<Row>& family : rows)
-            for (Row& row : family)
+    ParameterRow& row(std::string_view name) {
+        for (std::vector<ParameterRow>& family : rows)
+            for (ParameterRow& row : family)
                 if (row.properties.name == name || row.templateName == name) return row;
         throw std::out_of_range(std::string(name));
     }
@@ -59,7 +59,7 @@ public:
         return printed.substr(0, printed.find('\0'));
     }
 
-    std::vector<std::vector<Row>> rows; // by family
+    std::vector<std::vector<ParameterRow>> rows; // by family
     std::vector<TextEntry> entries;
 };
 
@@ -167,13 +167,15 @@ TEST(Generator, SaysWhatCanBeDoneWhenTheTableOfTextsIsFull) {
     Data data;
     data.text("TPL_DLG_Test").items[texts::kGroupMessages] = {"x*2000", "x*2000"};
     const std::string message = data.messages();
-    EXPECT_NE(message.find(" texts, the table takes 4740: share"), std::string::npos) << message;
+    EXPECT_NE(message.find(" texts, the table takes " + std::to_string(generator::kMostTexts) + ": share"),
+              std::string::npos)
+        << message;
     EXPECT_EQ(message.find('\n'), message.size() - 1) << message;
 }
 
 TEST(Generator, WritesFiveLinesAtMost) {
     Data data;
-    for (Row& row : data.rows[6])
+    for (ParameterRow& row : data.rows[6])
         row.properties.name = "";
     const std::string messages = data.messages();
     EXPECT_EQ(std::count(messages.begin(), messages.end(), '\n'), 5);

@@ -138,11 +138,11 @@ constexpr Rule kRules[] = {
 void checkCatalogue(std::span<const catalogue::Family> families, const std::vector<Parameter>& parameters,
                     Faults& faults) {
     for (const catalogue::Family& family : families)
-        for (const catalogue::Row& row : family.rows)
-            if (row.series != catalogue::Row::kSingle && row.count() < 2)
+        for (const catalogue::ParameterRow& row : family.rows)
+            if (row.series != catalogue::ParameterRow::kSingle && row.count() < 2)
                 faults.push_back({row.where, row.properties.name, "a series has at least two members"});
     const Register all(parameters);
-    const catalogue::Row* reported = nullptr; // one fault is enough for a series
+    const catalogue::ParameterRow* reported = nullptr; // one fault is enough for a series
     for (const Parameter& p : parameters) {
         const auto broken = std::find_if(std::begin(kRules), std::end(kRules),
                                          [&](const Rule& rule) { return !rule.holds(p, all); });

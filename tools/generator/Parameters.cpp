@@ -7,18 +7,18 @@
 
 namespace talux::generator {
 
-using catalogue::Row;
+using catalogue::ParameterRow;
 
 std::string Parameter::name() const {
     std::string name = row->properties.name;
-    if (row->series == Row::kNumbered) name += std::to_string(number);
+    if (row->series == ParameterRow::kNumbered) name += std::to_string(number);
     return name;
 }
 
 std::vector<Parameter> spellOut(std::span<const catalogue::Family> families) {
     std::vector<Parameter> parameters;
     for (const catalogue::Family& family : families)
-        for (const Row& row : family.rows)
+        for (const ParameterRow& row : family.rows)
             for (int number = row.first; number < row.first + row.count(); ++number)
                 parameters.push_back({&family, &row, number});
     return parameters;

@@ -15,13 +15,13 @@ namespace talux::generator {
 // A row of the table: a parameter, an element of an indexed one, or a template.
 struct Parameter {
     const catalogue::Family* family;
-    const catalogue::Row* row;
+    const catalogue::ParameterRow* row;
     int number; // in the series of the row
 
     const stParamProperties& properties() const { return row->properties; }
     int id() const { return row->properties.id + number - row->first; }
-    bool isTemplate() const { return row->series == catalogue::Row::kSingle && name().empty(); }
-    bool isIndexed() const { return row->series == catalogue::Row::kIndexed; }
+    bool isTemplate() const { return row->series == catalogue::ParameterRow::kSingle && name().empty(); }
+    bool isIndexed() const { return row->series == catalogue::ParameterRow::kIndexed; }
     bool isLaterElement() const { return isIndexed() && number > row->first; }
     bool hasValue() const { return !isTemplate() && properties().type != kTypeCommand; }
     bool isSetting() const { return hasValue() && properties().is_volatile == 0; } // persistent

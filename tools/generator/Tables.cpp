@@ -117,8 +117,8 @@ std::string settingTable(const std::vector<Parameter>& parameters) {
         ++position;
         if (parameter.isSetting()) rows += row(number(position), number(parameter.id()));
     }
-    return "static const Setting settingRows[] = {\n" + rows +
-           "};\nconstinit const std::span<const Setting> kSettings = settingRows;\n";
+    return "static const SettingPlace settingRows[] = {\n" + rows +
+           "};\nconstinit const std::span<const SettingPlace> kSettings = settingRows;\n";
 }
 
 std::string familyTable(std::span<const catalogue::Family> families, Pool& pool) {
@@ -126,7 +126,7 @@ std::string familyTable(std::span<const catalogue::Family> families, Pool& pool)
     int position = 1;
     for (const catalogue::Family& family : families) {
         const int first = position;
-        for (const catalogue::Row& line : family.rows)
+        for (const catalogue::ParameterRow& line : family.rows)
             position += line.count();
         rows += row(pool.place(family.name), number(first), number(position - 1));
     }
@@ -207,10 +207,9 @@ std::string counts(std::size_t parameters, std::size_t families) {
 
 #include "ParamSystem/TALUX_Params.h"
 
-// Parameter rows between the two sentinels, and rows of the working table.
+// Parameter rows between the two sentinels.
 inline constexpr int kParamCount = )" +
            std::to_string(parameters) + R"(;
-inline constexpr int kParamTableRows = kParamCount + 2 + 98;
 extern TALUX_API const stParamProperties DefParamProperties[kParamCount + 2];
 
 inline constexpr int kParamFamilyCount = )" +

@@ -168,9 +168,6 @@ private:
     std::vector<std::vector<Text>> rows;            // by place
 };
 
-// Rows between the sentinels; 200 of the working table stay free.
-constexpr std::size_t kMostTexts = kParamTextRows - 200 - 2;
-
 } // namespace
 
 std::vector<Text> spellOut(std::span<const TextFamily> families, const std::vector<TextSubject>& subjects,

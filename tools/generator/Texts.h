@@ -6,11 +6,15 @@
 #include <string>
 #include <vector>
 
+#include "ParamSystem/TALUX_ParamStrings.h"
 #include "tools/generator/Data.h"
 #include "tools/generator/Faults.h"
 #include "tools/generator/Parameters.h"
 
 namespace talux::generator {
+
+// Rows between the sentinels; 200 of the working table stay free.
+inline constexpr std::size_t kMostTexts = kParamTextRows - 200 - 2;
 
 struct Text {
     int id, language, type, group, item;

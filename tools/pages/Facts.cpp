@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "ParamSystem/kepl/Decision.h"
 #include "tools/pages/Names.h"
 
 namespace talux::pages {
@@ -51,17 +52,13 @@ std::map<std::string, const Method*, std::less<>> makeMethods() {
 
 } // namespace
 
-double leastNumber(const Parameter& parameter) {
-    return isChoice(parameter) && !parameter.hasMinimum() ? 1 : parameter.row().val_min;
-}
-
 bool hasLimits(const Parameter& parameter) {
     return parameter.hasNumber() && (parameter.hasMinimum() || parameter.hasMaximum());
 }
 
 int lineRoom(const Parameter& parameter) {
-    constexpr int kTerm = 127, kPrefix = 4, kAround = 3;
-    const int room = kTerm - kPrefix - static_cast<int>(parameter.name().size()) - kAround;
+    constexpr int kAround = 3;
+    const int room = static_cast<int>(kKeplMaxTerm - kepl::kPrefixLength - parameter.name().size()) - kAround;
     return std::min(room, parameter.textRoom());
 }
 

@@ -32,8 +32,6 @@ inline bool isChoice(const Parameter& parameter) {
     return parameter.type().kind == Kind::Enum;
 }
 
-// The least number that stands for something: choices count from 1 where nothing else is told.
-double leastNumber(const Parameter& parameter);
 bool hasLimits(const Parameter& parameter);
 
 // Longest text, in bytes, that a line of the language can write: a term has 127 characters, of which

@@ -59,7 +59,7 @@ std::string limitsLine(const Parameter& parameter) {
         return hasLimits(parameter)    ? reference::rangeText(parameter, kEnglish)
                : parameter.isSetting() ? "no limits told"
                                        : "";
-    return joined({"choice ", reference::shortNumber(leastNumber(parameter)), " to ",
+    return joined({"choice ", reference::shortNumber(parameter.leastNumber()), " to ",
                    reference::shortNumber(parameter.row().val_max)});
 }
 

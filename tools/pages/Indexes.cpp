@@ -107,8 +107,9 @@ std::string byId() {
                       joined({"| ", ids, " | ", linkTo(parameter), " | ", parameter.type().name, " | [",
                               parameter.family().name, "](", fileOf(parameter.family()), ") |\n"}));
     }
-    std::string page = joined({kGenerated, "# Parameters by id\n\n[All families](README.md)\n\n",
-                               "The ids 7000 to 7006 have two parameters each, a long and an int.\n\n",
+    std::string page = joined({kGenerated, "# Parameters by id\n\n[All families](README.md)\n\n", "The ids ",
+                               std::to_string(kFirstInt), " to ", std::to_string(kFirstInt + kIntCount - 1),
+                               " have two parameters each, a long and an int.\n\n",
                                "| Id | Name | Kind | Family |\n|---|---|---|---|\n"});
     for (const auto& [id, line] : lines)
         page += line;

@@ -105,7 +105,7 @@ int placeOf(const Range& range, const Item* item) {
 
 void addLimits(Object& object, const Parameter& parameter) {
     if (!parameter.hasNumber()) return;
-    if (leastNumber(parameter) != kNoMin) object.add("min", reference::shortNumber(leastNumber(parameter)));
+    if (parameter.leastNumber() != kNoMin) object.add("min", reference::shortNumber(parameter.leastNumber()));
     if (parameter.hasMaximum()) object.add("max", reference::shortNumber(parameter.row().val_max));
 }
 

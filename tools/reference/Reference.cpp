@@ -7,6 +7,7 @@
 
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/dictionary/Tables.h"
+#include "ParamSystem/kepl/Decision.h"
 #include "ParamSystem/store/Kinds.h"
 #include "ParamSystem/support/Text.h"
 
@@ -60,7 +61,7 @@ const std::map<std::string, std::size_t>& nameIndex() {
 }
 
 std::string withoutPrefix(std::string_view name) {
-    if (startsIgnoringCase(name, "TLX_") || startsIgnoringCase(name, "LVR_")) name.remove_prefix(4);
+    if (kepl::hasPrefix(name)) name.remove_prefix(kepl::kPrefixLength);
     std::string small(name);
     std::transform(small.begin(), small.end(), small.begin(), lowerAscii);
     return small;
@@ -102,20 +103,6 @@ int textIdOf(const Parameter& parameter) {
 
 } // namespace
 
-std::string_view fileName(File file) {
-    switch (file) {
-    case File::normal:
-        return "parameter.ini";
-    case File::security:
-        return "sec_parameter.ini";
-    case File::address:
-        return "ip_config.ini";
-    case File::none:
-        break;
-    }
-    return {};
-}
-
 std::string_view Parameter::name() const {
     return isTemplate() ? templateName(row().id) : std::string_view(row().name);
 }
@@ -130,16 +117,18 @@ bool Parameter::isSetting() const {
 }
 
 File Parameter::file() const {
-    if (!isSetting()) return File::none;
-    if (isAddress(row())) return File::address;
-    return row().userlevel >= 3 ? File::security : File::normal;
+    return fileOf(row());
+}
+
+double Parameter::leastNumber() const {
+    return type().kind == Kind::Enum && !hasMinimum() ? 1 : row().val_min;
 }
 
 int Parameter::writeLevel() const {
     if (!holds(type().kind, row().id) || row().val_access == kReadOnly) return 0;
     if (type().nature == Nature::record) return 0;
-    if (name() == "mw_req") return row().userlevel; // the one that readers may write
-    return std::max(2, row().userlevel);
+    if (name() == kepl::kOpenToReaders) return row().userlevel;
+    return std::max(kepl::kWriteLevel, row().userlevel);
 }
 
 int Parameter::textRoom() const {

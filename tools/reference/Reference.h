@@ -12,12 +12,12 @@
 #include "ParamSystem/TALUX_ParamStrings.h"
 #include "ParamSystem/TALUX_Params.h"
 #include "ParamSystem/dictionary/Types.h"
+#include "ParamSystem/files/Line.h"
 
 namespace talux::reference {
 
-// The parameter file that keeps a setting.
-enum class File { none, normal, security, address };
-std::string_view fileName(File file); // "parameter.ini" ..; empty for none
+using File = ParameterFile; // that keeps a setting
+using talux::fileName;
 
 struct Choice {
     int number;
@@ -45,6 +45,9 @@ public:
     bool hasNumber() const { return type().nature == Nature::number; }
     bool hasMinimum() const { return row().val_min != kNoMin; }
     bool hasMaximum() const { return row().val_max != kNoMax; }
+    // The least number that stands for something: choices count from 1 where nothing else is told. A write
+    // does not see to that.
+    double leastNumber() const;
     File file() const;
     // Rights level that a write takes; 0 where nothing can be written.
     int writeLevel() const;

@@ -47,8 +47,7 @@ private:
     // With the prefix or without; it is put in front.
     void names(std::string_view typed, bool withPrefix) {
         std::string wanted(typed);
-        const bool isPrefixed =
-            startsIgnoringCase(typed, kepl::kPrefixes[0]) || startsIgnoringCase(typed, kepl::kPrefixes[1]);
+        const bool isPrefixed = kepl::hasPrefix(typed);
         if (isPrefixed) wanted.erase(0, kPrefix.size());
         for (const Parameter& parameter : reference::parameters()) {
             if (parameter.isTemplate() || !startsIgnoringCase(parameter.name(), wanted)) continue;

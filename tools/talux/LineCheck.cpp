@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/kepl/Words.h"
 #include "ParamSystem/support/Text.h"
 #include "tools/talux/Judgement.h"
@@ -276,13 +277,13 @@ private:
             const std::size_t named =
                 parameter.name().size() + label + 10; // "TLX_", a separator, " = ", line end
             if (style == kepl::Style::hex)
-                length += type.width == Width::f64 ? 16 : 8;
+                length += 2 * kepl::encode(0, type.code).size;
             else
                 length += style == kepl::Style::plain ? named + value - 1 : value + 1;
         };
         if (isRecord) {
             for (const auto& member : reference::members(parameter))
-                addOne(typeOf(std::string_view(member.szMemberType) == "float" ? kTypeFloat : kTypeLong),
+                addOne(typeOf(memberType(member.szMemberType)),
                        std::string_view(member.aszMemberName).size());
         } else {
             for (VarLong k = decision.variable.first; k <= decision.variable.last; ++k)
@@ -324,7 +325,7 @@ private:
         const Nature nature = parameter.type().nature;
         term += nature == Nature::date   ? "=2024-01-01"
                 : nature == Nature::time ? "=00:00:00"
-                                         : fill("={}", {reference::shortNumber(leastNumber(parameter))});
+                                         : fill("={}", {reference::shortNumber(parameter.leastNumber())});
         const Decision decision = kepl::decide(term, asked.uid);
         if (!decision.isRefused()) return true;
         add(placeOf(piece), reasonOf(decision, context), true);

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ParamSystem/kepl/Answer.h"
 #include "ParamSystem/kepl/Decision.h"
 #include "tools/talux/Command.h"
 
@@ -21,8 +22,8 @@ struct LineFinding {
 
 struct LineAsked {
     int uid = 3;
-    std::size_t answerRoom = 2998; // characters that an answer may have
-    bool isWhole = true;           // false: only the head of the line is known, the rest is not
+    std::size_t answerRoom = kepl::Answer::kMaxLength; // characters that an answer may have
+    bool isWhole = true; // false: only the head of the line is known, the rest is not
 };
 
 std::vector<LineFinding> checkLine(std::string_view line, const LineAsked& asked, const Context& context);

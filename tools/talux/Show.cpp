@@ -80,18 +80,13 @@ std::string_view familyName(const Parameter& parameter, ParamLanguage language) 
     return language == kGerman && found != std::end(kFamilies) ? found->german : name;
 }
 
-double leastNumber(const Parameter& parameter) {
-    const bool isChoice = parameter.type().kind == Kind::Enum && !parameter.hasMinimum();
-    return isChoice ? 1 : parameter.row().val_min;
-}
-
 bool isInRange(const Parameter& parameter, double number) {
-    return number >= leastNumber(parameter) && number <= parameter.row().val_max; // false for not-a-number
+    return number >= parameter.leastNumber() && number <= parameter.row().val_max; // false for not-a-number
 }
 
 std::string range(const Parameter& parameter, ParamLanguage language) {
     if (!parameter.hasNumber()) return {};
-    if (leastNumber(parameter) == parameter.row().val_min) return reference::rangeText(parameter, language);
+    if (parameter.leastNumber() == parameter.row().val_min) return reference::rangeText(parameter, language);
     return fill(language == kGerman ? "1 bis {}" : "1 to {}",
                 {reference::shortNumber(parameter.row().val_max)});
 }

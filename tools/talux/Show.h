@@ -19,9 +19,6 @@ std::string shown(const Parameter& parameter, const std::optional<Value>& value,
 // The menu family.
 std::string_view familyName(const Parameter& parameter, ParamLanguage language);
 
-// Choices count from 1 where the dictionary does not say otherwise; a write does not see to that.
-double leastNumber(const Parameter& parameter);
-
 bool isInRange(const Parameter& parameter, double number);
 
 // "1 to 90"; empty for texts and without limits.

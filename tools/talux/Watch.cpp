@@ -41,7 +41,7 @@ std::string memberText(const Item& item) {
     char record[kLargestRecord];
     VarGetGlobalStructValue(item.id, record, ARR_StructSize[item.id - kFirstStruct]);
     const char* const bytes = record + item.member->lMemberOffset;
-    if (std::string_view(item.member->szMemberType) == "float") {
+    if (memberType(item.member->szMemberType) == kTypeFloat) {
         float number;
         std::memcpy(&number, bytes, sizeof number);
         return reference::shortNumber(static_cast<double>(number));
