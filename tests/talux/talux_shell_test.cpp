@@ -117,7 +117,8 @@ TEST_F(TaluxShell, KeepsItsHistoryAndGivesALineUp) {
     EXPECT_TRUE(answers("1,2,+", "3.000000"));
     type("TLX_Uearth=77\x03");
     EXPECT_TRUE(waitFor(kPrompt));
-    EXPECT_TRUE(answers("TLX_Uearth", "30.000000"));
+    char name[] = "Uearth";
+    EXPECT_TRUE(answers("TLX_Uearth", std::to_string(GetParamPropertiesByName(name)->val_def)));
     EXPECT_EQ(end(), 0);
     start();
     EXPECT_TRUE(answers("\x10\x10", "3.000000")); // two lines up
