@@ -55,7 +55,7 @@ talux_install_library(deb_ lib/${CMAKE_LIBRARY_ARCHITECTURE} EXCLUDE_FROM_ALL)
 # The layer for scripts, where require looks for Lua.
 talux_install(runtime DIRECTORY lua/ DESTINATION ${CMAKE_INSTALL_DATADIR}/lua/5.2)
 
-foreach(headers ParamSystem/*.h MenuSystem/*.h talux/*.hpp)
+foreach(headers ParamSystem/*.h MenuSystem/TALUX_*.h talux/*.hpp)
   file(GLOB files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${headers})
   get_filename_component(folder ${headers} DIRECTORY)
   talux_install(development FILES ${files} DESTINATION ${talux_include_dir}/${folder})
