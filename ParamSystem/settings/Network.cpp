@@ -18,11 +18,6 @@ struct Interface {
     bool typesCount; // a parameter is used only if the dictionary gives it the type of its role
 };
 
-constexpr Interface kEth0{"VarStaticIP", "eth0", kEth0Address, kEth0Netmask, kEth0Gateway, true};
-constexpr Interface kEth1{"VarStaticIPETH1", "eth1", kEth1Address, kEth1Netmask, kEth1Gateway, false};
-constexpr Interface kWlan0{
-    "VarStaticIPWLAN0_ADHOC", "wlan0", kWlan0Address, kWlan0Netmask, kWlan0Gateway, false};
-
 AddressText readAddress(const Interface& interface, int id, int type) {
     const stParamProperties* row = GetParamProperties(id);
     if (row == nullptr || (interface.typesCount && row->type != type)) return {};
@@ -66,15 +61,16 @@ void applyWireless() {
 } // namespace
 
 int VarStaticIP() {
-    return applyAddresses(kEth0);
+    return applyAddresses({"VarStaticIP", "eth0", kEth0Address, kEth0Netmask, kEth0Gateway, true});
 }
 
 int VarStaticIPETH1() {
-    return applyAddresses(kEth1);
+    return applyAddresses({"VarStaticIPETH1", "eth1", kEth1Address, kEth1Netmask, kEth1Gateway, false});
 }
 
 int VarStaticIPWLAN0_ADHOC() {
-    return applyAddresses(kWlan0);
+    return applyAddresses(
+        {"VarStaticIPWLAN0_ADHOC", "wlan0", kWlan0Address, kWlan0Netmask, kWlan0Gateway, false});
 }
 
 int VarSetSystemIPs() {

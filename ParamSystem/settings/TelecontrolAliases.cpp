@@ -15,10 +15,6 @@ namespace {
 
 constexpr Shell kShell("VarT104");
 
-constexpr int kAliasCount = 4;
-constexpr int kIdsPerAlias = talux::idOf("T104_ETH_IP_2") - kT104Address1;
-static_assert(talux::idOf("T104_ETH_GW_4") == kT104Gateway1 + 3 * kIdsPerAlias);
-
 // Texts of normalised addresses.
 struct Alias {
     AddressText szIPAddress_t104{"0.0.0.0"};

@@ -24,17 +24,14 @@ bool linkZone(const char* zone) {
                                   ShellWord(zone).text());
 }
 
-struct TimeServer {
-    int id;
-    const char* option;
-};
-
-constexpr TimeServer kTimeServers[] = {{kNtp1, " true"}, {kNtp2, ""}};
-
 // Puts the configured servers into the configuration; the first one, empty when there is none.
 AddressText addServers() {
+    const struct {
+        int id;
+        const char* option;
+    } timeServers[] = {{kNtp1, " true"}, {kNtp2, ""}};
     AddressText first;
-    for (const auto& [id, option] : kTimeServers) {
+    for (const auto& [id, option] : timeServers) {
         const AddressText stored = addressSetting(id);
         if (isUnset(stored)) continue;
         const AddressText server = normalised(stored);

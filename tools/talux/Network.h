@@ -12,17 +12,16 @@ namespace talux::tool {
 
 inline bool reachesNetwork(const reference::Parameter& parameter) {
     using namespace settings;
-    constexpr int kApplied[] = {kChannel,      kEth1Active,   kWlan0Active, kNtpRtc,      kDcf77Active,
-                                kEssid,        kKey,          kTimeZone,    kWlan0Type,   kRate,
-                                kT104Ethernet, kDns,          kNtp1,        kNtp2,        kEth0Address,
-                                kEth1Address,  kWlan0Address, kEth0Netmask, kEth1Netmask, kWlan0Netmask,
-                                kEth0Gateway,  kEth1Gateway,  kWlan0Gateway};
-    constexpr int kAliasIds =
-        4 * 4; // of four aliases: address, netmask, gateway and one more that is not applied
+    const int applied[] = {kChannel,      kEth1Active,   kWlan0Active, kNtpRtc,      kDcf77Active,
+                           kEssid,        kKey,          kTimeZone,    kWlan0Type,   kRate,
+                           kT104Ethernet, kDns,          kNtp1,        kNtp2,        kEth0Address,
+                           kEth1Address,  kWlan0Address, kEth0Netmask, kEth1Netmask, kWlan0Netmask,
+                           kEth0Gateway,  kEth1Gateway,  kWlan0Gateway};
     const int id = parameter.row().id;
-    const int alias = id - kT104Address1;
-    if (alias >= 0 && alias < kAliasIds) return alias % 4 != 3;
-    return std::find(std::begin(kApplied), std::end(kApplied), id) != std::end(kApplied);
+    for (const int first : {kT104Address1, kT104Netmask1, kT104Gateway1})
+        for (int alias = 0; alias < kAliasCount; ++alias)
+            if (id == first + alias * kIdsPerAlias) return true;
+    return std::find(std::begin(applied), std::end(applied), id) != std::end(applied);
 }
 
 } // namespace talux::tool
