@@ -2,7 +2,7 @@
 #include <talux/talux.hpp>
 
 // What programs call their own; a parameter of the layer's constructors with such a name would be a warning.
-constexpr int name = 0, text = 1, row = 2, number = 3, first = 4, parts = 5;
+[[maybe_unused]] constexpr int name = 0, text = 1, row = 2, number = 3, first = 4, parts = 5;
 
 namespace {
 

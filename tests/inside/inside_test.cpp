@@ -46,7 +46,7 @@ Value anyValue(Random& random) {
     static constexpr double kNumbers[] = {0,          -0.0,       1,           -1,         0.1,   -3.7,
                                           255,        256,        32767,       32768,      65535, -32769,
                                           2147483647, 2147483648, -2147483649, 4294967295, 1e10,  1e38,
-                                          -1e38,      5e-324,     INFINITY,    -INFINITY};
+                                          -1e38,      5e-324,     HUGE_VAL,    -HUGE_VAL};
     if (random.below(2) == 0) return Value(random.text(140));
     return Value(kNumbers[random.below(std::size(kNumbers))]);
 }
