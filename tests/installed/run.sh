@@ -90,7 +90,7 @@ for way in CMake pkg-config; do
   cp "$project/examples/programs/station.cpp" "$work/programs"
   page_block "$way" cmake >"$work/programs/CMakeLists.txt"
   page_block "$way" sh | sed "s,arm-linux-gnueabihf,$multiarch,g; s,^tree=.*,tree=$work/tree/usr/local," >"$work/block.sh"
-  (cd "$work/programs" && sh -eu "$work/block.sh" >/dev/null)
+  (cd "$work/programs" && CMAKE_GENERATOR=Ninja sh -eu "$work/block.sh" >/dev/null)
   answer=$(inside tree '$run -E LD_LIBRARY_PATH=/usr/local/lib $programs/build/station Süd')
   [ "$answer" = 'Name was ""
 Name is "Süd"' ] || fail "station by $way as docs/linking.md tells: $answer"
