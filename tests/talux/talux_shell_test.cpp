@@ -3,6 +3,7 @@
 
 #include <poll.h>
 #include <pty.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace {
@@ -25,6 +26,7 @@ protected:
     void start(const char* option = "--level=2") {
         winsize size{40, 100, 0, 0};
         child = forkpty(&terminal, nullptr, nullptr, &size);
+        if (child < 0) throw std::system_error(errno, std::generic_category(), "no terminal to play");
         if (child == 0) {
             setenv("TERM", "vt100", 1);
             setenv("LC_ALL", "C.UTF-8", 1);
