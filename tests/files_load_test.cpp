@@ -233,6 +233,10 @@ TEST_F(Load, RaisesItsFlag) {
                 EXPECT_EQ(number(8176, space), test.flag == 8002 ? 1 : 0) << test.file;
         }
     }
+    begin(); // applying the addresses fails to keep them
+    std::filesystem::remove_all(directory);
+    outcomeOf(VarLoadIPConfig);
+    EXPECT_EQ(number(8001, kGlobal), 1);
 }
 
 TEST_F(Load, ResetsTheAddressesOfOneKind) {

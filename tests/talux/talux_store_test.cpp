@@ -154,6 +154,22 @@ TEST_F(TaluxStore, WhatCheckForetellsIsWhatALoadDoes) {
     }
 }
 
+TEST_F(TaluxStore, StatusKnowsWhatReachesTheNetwork) {
+    double number = 7;
+    char text[] = "7.7.7.7";
+    for (int order = 1; const stParamProperties* row = GetParamPropertiesByOrder(order); ++order)
+        VarSetValue(row->id, row->type == kTypeText || VarIsIp(row->id) ? asValue(text) : &number);
+    const Ended status =
+        run("talux status | sed -n '/^save /q; s/^  \\([^ ]*\\) .* network$/\\1/p' | sort | tr '\\n' ' '");
+    EXPECT_EQ(
+        status.output,
+        "DCF77_activ DNS ETH0_GATEWAY ETH0_IP ETH0_MASK ETH1_GATEWAY ETH1_IP ETH1_MASK NTP1 NTP2 NTP_RTC "
+        "T104_ETH_GW_1 T104_ETH_GW_2 T104_ETH_GW_3 T104_ETH_GW_4 T104_ETH_IP_1 T104_ETH_IP_2 "
+        "T104_ETH_IP_3 T104_ETH_IP_4 T104_ETH_MA_1 T104_ETH_MA_2 T104_ETH_MA_3 T104_ETH_MA_4 "
+        "T104_ethernet TIMEZONE VarSetWLAN0TypeDev WLAN0_GATEWAY WLAN0_IP WLAN0_MASK channel essid "
+        "eth1_active key rate wlan0_active ");
+}
+
 TEST_F(TaluxStore, FingerprintsKnowSettingsAlone) {
     std::string path = directory / "parameter.ini";
     ASSERT_EQ(VarSaveParamFile(path.data()), 1);
