@@ -25,10 +25,6 @@ ListingRow& find(Listing& listing, std::string_view name) {
                          [&](const ListingRow& row) { return row[kName] == name; });
 }
 
-Lines afterCell(std::string_view name, Column column, const std::string& cell) {
-    return after([&](Listing& listing) { find(listing, name)[column] = cell; });
-}
-
 } // namespace
 
 TEST(Interface, IsReadBackAsItWasWritten) {
@@ -42,18 +38,23 @@ TEST(Interface, SaysRowByRowWhatAChangeMeans) {
               Lines{"flag_of_this_test (9999) is new: bool, parameter.ini, default 0"});
     EXPECT_EQ(after([](Listing& all) { std::erase(all, ListingRow(find(all, "Uearth"))); }),
               Lines{"Uearth (2148) is gone: programs, scripts and files that use it find nothing"});
-    EXPECT_EQ(afterCell("cycle_cnt_low", kName, "cycles"),
-              Lines{"cycle_cnt_low (7000): name cycle_cnt_low -> cycles: "
-                    "scripts and lines of parameter files with the old one find nothing"});
-    EXPECT_EQ(afterCell("MessRecord01.Cnt", kKind, "float"),
-              Lines{"MessRecord01.Cnt (30000): kind long -> float: programs read and write other bytes"});
-    EXPECT_EQ(afterCell("Uearth", kMax, ""),
-              Lines{"Uearth (2148): maximum 90 -> none: wider, what is stored stays valid"});
-    EXPECT_EQ(afterCell("Uearth", kMin, "0.5"),
-              Lines{"Uearth (2148): minimum 1 -> 0.5: wider, what is stored stays valid"});
-    EXPECT_EQ(afterCell("Uearth", kMin, "2"),
-              Lines{"Uearth (2148): minimum 1 -> 2: narrower, "
-                    "files and scripts may hold values that are refused now"});
-    EXPECT_EQ(afterCell("Uearth", kAccess, "r"),
-              Lines{"Uearth (2148): access rw -> r: writes are refused now"});
+    const struct {
+        const char* parameter;
+        Column column;
+        const char *cell, *line;
+    } cells[] = {
+        {"cycle_cnt_low", kName, "cycles",
+         "cycle_cnt_low (7000): name cycle_cnt_low -> cycles: "
+         "scripts and lines of parameter files with the old one find nothing"},
+        {"MessRecord01.Cnt", kKind, "float",
+         "MessRecord01.Cnt (30000): kind long -> float: programs read and write other bytes"},
+        {"Uearth", kMax, "", "Uearth (2148): maximum 90 -> none: wider, what is stored stays valid"},
+        {"Uearth", kMin, "0.5", "Uearth (2148): minimum 1 -> 0.5: wider, what is stored stays valid"},
+        {"Uearth", kMin, "2",
+         "Uearth (2148): minimum 1 -> 2: narrower, files and scripts may hold values that are refused now"},
+        {"Uearth", kAccess, "r", "Uearth (2148): access rw -> r: writes are refused now"},
+    };
+    for (const auto& change : cells)
+        EXPECT_EQ(after([&](Listing& all) { find(all, change.parameter)[change.column] = change.cell; }),
+                  Lines{change.line});
 }
