@@ -167,8 +167,9 @@ TEST(Generator, SaysWhatCanBeDoneWhenTheTableOfTextsIsFull) {
     Data data;
     data.text("TPL_DLG_Test").items[texts::kGroupMessages] = {"x*2000", "x*2000"};
     const std::string message = data.messages();
-    EXPECT_NE(message.find(" texts, the table takes " + std::to_string(generator::kMostTexts) + ": share"),
-              std::string::npos)
+    EXPECT_TRUE(message.starts_with("error: ParamSystem/texts: ") &&
+                message.find(" texts, the table takes " + std::to_string(generator::kMostTexts) +
+                             ": share") != std::string::npos)
         << message;
     EXPECT_EQ(message.find('\n'), message.size() - 1) << message;
 }
