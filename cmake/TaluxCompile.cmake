@@ -15,7 +15,8 @@ if(TALUX_SANITIZE)
   target_link_options(talux_compile INTERFACE -fsanitize=${TALUX_SANITIZE})
 endif()
 
-# For sources that would take more than 250 MB: the compiler collects its garbage more often, which takes longer.
+# For tests and sources with large headers, which would take more than 250 MB: the compiler collects its garbage more
+# often, which takes longer.
 set(talux_thrifty --param=ggc-min-expand=10)
 
 # What only the module itself gets: nothing exported but what is marked, no exceptions, no RTTI. It stays

@@ -1,6 +1,6 @@
 #!/bin/bash
 # What compiling everything costs: CPU seconds in all, and the units that take most memory. Ends with 1 if one takes
-# more than 250 MB; small build machines have no more, and such a unit is slow, too.
+# more than 250 MB: several of that size at once are too much for a small machine.
 #
 #   costs.sh [PRESET]    release by default
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"

@@ -29,7 +29,7 @@ inline constexpr std::string_view kKeyPrefix = "TLX_";
 
 enum class ParameterFile { none, normal, security, address };
 
-// In the directory of VarInit; empty for none.
+// In the directory of VarInit; empty for none. A NUL stands behind it.
 constexpr std::string_view fileName(ParameterFile file) {
     constexpr std::string_view kNames[] = {"", "parameter.ini", "sec_parameter.ini", "ip_config.ini"};
     return kNames[static_cast<std::size_t>(file)];

@@ -19,7 +19,7 @@ public:
     static Path dated(const char* stem) {
         std::tm now;
         os::localTime(now);
-        Path path("");
+        Path path;
         formatText(path.text, sizeof path.text, "%s/%s_%04d_%02d_%02d_%02d%02d%02d.ini", szParameterPath,
                    stem, now.tm_year + 1900, now.tm_mon + 1, now.tm_mday, now.tm_hour, now.tm_min,
                    now.tm_sec);
@@ -29,6 +29,8 @@ public:
     char* get() { return text; }
 
 private:
+    Path() = default;
+
     char text[256];
 };
 

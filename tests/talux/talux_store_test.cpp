@@ -32,6 +32,10 @@ protected:
         return texts[random.below(static_cast<int>(N))];
     }
 
+    static bool isText(const stParamProperties& row) {
+        return row.type == kTypeText || (row.type >= kTypeDate && row.type <= kTypeIpGateway);
+    }
+
     const stParamProperties& anyRow() {
         for (;;)
             if (const auto* row = GetParamPropertiesByOrder(1 + random.below(2500)); row && row->name[0])
@@ -74,9 +78,8 @@ protected:
         static const char* const kBetween[] = {"=", "=", "=", " = ", " ", "==", ""};
         if (random.below(12) == 0) return one(kOther);
         const stParamProperties& row = anyRow();
-        const bool isText = row.type == kTypeText || (row.type >= kTypeDate && row.type <= kTypeIpGateway);
         std::string line = (random.below(2) ? "TLX_" : " tlx_") + std::string(row.name) + one(kBetween) +
-                           (isText ? anyText() : anyNumber(row));
+                           (isText(row) ? anyText() : anyNumber(row));
         if (random.below(30) == 0) line += std::string(static_cast<std::size_t>(random.below(300)), 'x');
         if (random.below(60) == 0) line += std::string("\0TLX_channel=1", 14);
         return line;
@@ -117,9 +120,8 @@ protected:
     static void carryOut(CheckedLine line) {
         if (!line.changes) return;
         const stParamProperties* const row = GetParamPropertiesByName(line.name.data());
-        const bool isText = row->type == kTypeText || (row->type >= kTypeDate && row->type <= kTypeIpGateway);
         double number = line.isNumber ? line.number : std::strtod(line.text.c_str(), nullptr);
-        VarSetValue(row->id, isText ? asValue(line.text.data()) : &number);
+        VarSetValue(row->id, isText(*row) ? asValue(line.text.data()) : &number);
     }
 
     Random random;
@@ -158,7 +160,7 @@ TEST_F(TaluxStore, StatusKnowsWhatReachesTheNetwork) {
     double number = 7;
     char text[] = "7.7.7.7";
     for (int order = 1; const stParamProperties* row = GetParamPropertiesByOrder(order); ++order)
-        VarSetValue(row->id, row->type == kTypeText || VarIsIp(row->id) ? asValue(text) : &number);
+        VarSetValue(row->id, isText(*row) ? asValue(text) : &number);
     const Ended status =
         run("talux status | sed -n '/^save /q; s/^  \\([^ ]*\\) .* network$/\\1/p' | sort | tr '\\n' ' '");
     EXPECT_EQ(
