@@ -2,9 +2,9 @@
 #include <chrono>
 #include <thread>
 
-#include "SettingsSupport.h"
+#include "NetworkSupport.h"
 
-using namespace settings_test;
+using namespace network_test;
 
 namespace {
 

@@ -22,7 +22,7 @@ std::string_view nameAt(std::size_t position) {
 
 } // namespace
 
-std::span<const SettingPlace> settings() {
+std::span<const SettingPlace> allSettings() {
     if (!isLoaded) return {};
     return kSettings;
 }

@@ -3,9 +3,9 @@
 #define TALUX_DICTIONARY_TABLES_H
 
 #include "ParamSystem/TALUX_Params.h"
+#include "ParamSystem/dictionary/AllSettings.h"
 #include "ParamSystem/dictionary/Ids.h"
 #include "ParamSystem/dictionary/NameIndex.h"
-#include "ParamSystem/dictionary/Settings.h"
 
 namespace talux {
 

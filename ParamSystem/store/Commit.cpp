@@ -1,7 +1,7 @@
 // The two operations over all parameters: factory defaults and the commit.
 #include <cstdio>
 
-#include "ParamSystem/dictionary/Settings.h"
+#include "ParamSystem/dictionary/AllSettings.h"
 #include "ParamSystem/dictionary/Tables.h"
 #include "ParamSystem/store/ChangeFlags.h"
 #include "ParamSystem/store/Slots.h"
@@ -58,7 +58,7 @@ void VarSetDefault(void) {
 
 int VarUpdateGlobalSpace(void) {
     const KeptFlags flags;
-    const auto settings = talux::settings();
+    const auto settings = talux::allSettings();
     if (settings.empty()) reportMissingRows();
     for (const talux::SettingPlace& setting : settings)
         commit(setting.id);

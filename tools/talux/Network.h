@@ -5,13 +5,13 @@
 #include <algorithm>
 #include <iterator>
 
-#include "ParamSystem/settings/SettingIds.h"
+#include "ParamSystem/network/SettingIds.h"
 #include "tools/reference/Reference.h"
 
 namespace talux::tool {
 
 inline bool reachesNetwork(const reference::Parameter& parameter) {
-    using namespace settings;
+    using namespace network;
     const int applied[] = {kChannel,      kEth1Active,   kWlan0Active, kNtpRtc,      kDcf77Active,
                            kEssid,        kKey,          kTimeZone,    kWlan0Type,   kRate,
                            kT104Ethernet, kDns,          kNtp1,        kNtp2,        kEth0Address,

@@ -3,12 +3,12 @@
 #include <cstring>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/network/SettingIds.h"
+#include "ParamSystem/network/ShellCommand.h"
+#include "ParamSystem/network/StagedValues.h"
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/settings/SettingIds.h"
-#include "ParamSystem/settings/Settings.h"
-#include "ParamSystem/settings/ShellCommand.h"
 
-using namespace talux::settings;
+using namespace talux::network;
 
 namespace {
 

@@ -1,12 +1,12 @@
 // How the settings that reach the operating system are read from the temporary space.
-#ifndef TALUX_SETTINGS_SETTINGS_H
-#define TALUX_SETTINGS_SETTINGS_H
+#ifndef TALUX_NETWORK_STAGEDVALUES_H
+#define TALUX_NETWORK_STAGEDVALUES_H
 
 #include <string_view>
 
 #include "ParamSystem/TALUX_Var.h"
 
-namespace talux::settings {
+namespace talux::network {
 
 inline constexpr std::string_view kNoAddress = "0.0.0.0";
 
@@ -25,6 +25,6 @@ AddressText normalised(const AddressText& address);
 // True for a stored address that stands for "none": empty or all zero in one of its two usual forms.
 bool isUnset(const AddressText& address);
 
-} // namespace talux::settings
+} // namespace talux::network
 
 #endif

@@ -1,9 +1,9 @@
 // Ids of the settings that reach the operating system. Looked up in one source, the only one of this room
 // that a new parameter compiles again.
-#ifndef TALUX_SETTINGS_SETTINGIDS_H
-#define TALUX_SETTINGS_SETTINGIDS_H
+#ifndef TALUX_NETWORK_SETTINGIDS_H
+#define TALUX_NETWORK_SETTINGIDS_H
 
-namespace talux::settings {
+namespace talux::network {
 
 extern const int kChannel, kEssid, kKey, kRate, kWlan0Type;
 extern const int kEth1Active, kWlan0Active;
@@ -18,6 +18,6 @@ extern const int kT104Ethernet;
 extern const int kT104Address1, kT104Netmask1, kT104Gateway1;
 inline constexpr int kAliasCount = 4, kIdsPerAlias = 4;
 
-} // namespace talux::settings
+} // namespace talux::network
 
 #endif

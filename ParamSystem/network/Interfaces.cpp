@@ -1,11 +1,11 @@
 // Everything that is applied to the operating system, in its fixed order, and the wired interfaces' and
 // wlan0's own addresses.
 #include "ParamSystem/TALUX_Var.h"
-#include "ParamSystem/settings/SettingIds.h"
-#include "ParamSystem/settings/Settings.h"
-#include "ParamSystem/settings/ShellCommand.h"
+#include "ParamSystem/network/SettingIds.h"
+#include "ParamSystem/network/ShellCommand.h"
+#include "ParamSystem/network/StagedValues.h"
 
-using namespace talux::settings;
+using namespace talux::network;
 
 namespace {
 

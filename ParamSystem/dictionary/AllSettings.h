@@ -1,6 +1,6 @@
 // The settings: the persistent parameters, which the commit makes live and the files keep.
-#ifndef TALUX_DICTIONARY_SETTINGS_H
-#define TALUX_DICTIONARY_SETTINGS_H
+#ifndef TALUX_DICTIONARY_ALLSETTINGS_H
+#define TALUX_DICTIONARY_ALLSETTINGS_H
 
 #include <cstdint>
 #include <span>
@@ -13,7 +13,7 @@ struct SettingPlace {
 };
 
 // In table order; none before the properties are loaded.
-std::span<const SettingPlace> settings();
+std::span<const SettingPlace> allSettings();
 
 } // namespace talux
 

@@ -1,10 +1,10 @@
 // The radio of wlan0.
 #include "ParamSystem/TALUX_Var.h"
-#include "ParamSystem/settings/SettingIds.h"
-#include "ParamSystem/settings/Settings.h"
-#include "ParamSystem/settings/ShellCommand.h"
+#include "ParamSystem/network/SettingIds.h"
+#include "ParamSystem/network/ShellCommand.h"
+#include "ParamSystem/network/StagedValues.h"
 
-using namespace talux::settings;
+using namespace talux::network;
 
 namespace {
 

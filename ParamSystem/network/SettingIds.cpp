@@ -1,8 +1,8 @@
-#include "ParamSystem/settings/SettingIds.h"
+#include "ParamSystem/network/SettingIds.h"
 
 #include "ParamSystem/dictionary/IdOf.h"
 
-namespace talux::settings {
+namespace talux::network {
 
 const int kChannel = idOf("channel");
 const int kEssid = idOf("essid");
@@ -39,4 +39,4 @@ static_assert(idOf("T104_ETH_IP_4") == idOf("T104_ETH_IP_1") + (kAliasCount - 1)
 static_assert(idOf("T104_ETH_MA_4") == idOf("T104_ETH_MA_1") + (kAliasCount - 1) * kIdsPerAlias);
 static_assert(idOf("T104_ETH_GW_4") == idOf("T104_ETH_GW_1") + (kAliasCount - 1) * kIdsPerAlias);
 
-} // namespace talux::settings
+} // namespace talux::network

@@ -1,6 +1,6 @@
 // The shell commands that the settings consist of: quoting, announcing and running one.
-#ifndef TALUX_SETTINGS_SHELL_COMMAND_H
-#define TALUX_SETTINGS_SHELL_COMMAND_H
+#ifndef TALUX_NETWORK_SHELL_COMMAND_H
+#define TALUX_NETWORK_SHELL_COMMAND_H
 
 #include <cstdarg>
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 #include "ParamSystem/TALUX_Var.h"
 
-namespace talux::settings {
+namespace talux::network {
 
 // A stored text as the shell takes it for exactly one word, whatever it holds. A text of nothing but
 // letters, digits and @%_+=:,./- stands as it is, any other in single quotes.
@@ -47,6 +47,6 @@ private:
     const char* function_;
 };
 
-} // namespace talux::settings
+} // namespace talux::network
 
 #endif

@@ -1,4 +1,4 @@
-#include "ParamSystem/settings/ShellCommand.h"
+#include "ParamSystem/network/ShellCommand.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -8,7 +8,7 @@
 #include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Text.h"
 
-namespace talux::settings {
+namespace talux::network {
 
 namespace {
 
@@ -80,4 +80,4 @@ bool Shell::runCommand(Announce announce, const char* format, std::va_list argum
     return true;
 }
 
-} // namespace talux::settings
+} // namespace talux::network

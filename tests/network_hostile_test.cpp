@@ -5,9 +5,9 @@
 #include <sys/wait.h>
 
 #include "Machine.h"
-#include "SettingsSupport.h"
+#include "NetworkSupport.h"
 
-using namespace settings_test;
+using namespace network_test;
 using talux_test::machine;
 
 namespace {

@@ -1,9 +1,9 @@
 // Every command and every line on the error stream, in their order, for every branch of the settings.
 #include "Machine.h"
-#include "SettingsSupport.h"
+#include "NetworkSupport.h"
 #include "src/talux_interpreter.h"
 
-using namespace settings_test;
+using namespace network_test;
 using talux_test::machine;
 
 namespace {

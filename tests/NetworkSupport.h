@@ -15,7 +15,7 @@
 #include "Isolation.h"
 #include "ParamSystem/TALUX_Var.h"
 
-namespace settings_test {
+namespace network_test {
 
 namespace fs = std::filesystem;
 
@@ -84,6 +84,6 @@ protected:
     static void TearDownTestSuite() { fs::remove("/tmp/zone"); }
 };
 
-} // namespace settings_test
+} // namespace network_test
 
 #endif

@@ -3,13 +3,13 @@
 #include <cstdlib>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/network/SettingIds.h"
+#include "ParamSystem/network/ShellCommand.h"
+#include "ParamSystem/network/StagedValues.h"
 #include "ParamSystem/os/Interfaces.h"
-#include "ParamSystem/settings/SettingIds.h"
-#include "ParamSystem/settings/Settings.h"
-#include "ParamSystem/settings/ShellCommand.h"
 #include "ParamSystem/support/Text.h"
 
-using namespace talux::settings;
+using namespace talux::network;
 
 namespace {
 

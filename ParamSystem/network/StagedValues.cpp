@@ -1,10 +1,10 @@
-#include "ParamSystem/settings/Settings.h"
+#include "ParamSystem/network/StagedValues.h"
 
 #include <cstddef>
 
 #include "ParamSystem/support/Address.h"
 
-namespace talux::settings {
+namespace talux::network {
 
 int flagSetting(int id) {
     char value = 0;
@@ -36,4 +36,4 @@ bool isUnset(const AddressText& address) {
     return text.empty() || text == kNoAddress || text == "000.000.000.000";
 }
 
-} // namespace talux::settings
+} // namespace talux::network
