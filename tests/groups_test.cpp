@@ -6,8 +6,10 @@
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
+#include <memory>
 #include <sched.h>
 #include <string>
+#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
@@ -99,13 +101,13 @@ TEST_F(Groups, AreNeverTornWhileOthersWrite) {
         });
     if (restless)
         start([this] {
-            while (read() != Reading::whole || values.hangTogether()) {
+            while (!read() || values.hangTogether()) {
             }
         });
     long done = 0, torn = 0, missed = 0, seen = 0;
     for (int last = 0; missed <= reads / 4 && done < 1000 * reads && (done < reads || seen < kWritesSeen);
          ++done)
-        if (read() != Reading::whole)
+        if (!read())
             ++missed;
         else {
             torn += values.hangTogether() ? 0 : 1;
@@ -146,20 +148,105 @@ TEST_F(Groups, TellOfAWriterThatStaysInside) {
     EXPECT_EQ(values.record.Cnt, 1);
 }
 
+// Writers under a timer of 1 ms wait for each other all the same, and nobody longer than a tenth of a second.
+TEST_F(Groups, WaitTheirTimeWhateverSignalsArrive) {
+    std::signal(SIGALRM, [](int) {});
+    const itimerval everyMillisecond{{0, 1000}, {0, 1000}}, never{};
+    start([this] {
+        while (write(1))
+            pause();
+    });
+    setitimer(ITIMER_REAL, &everyMillisecond, nullptr);
+    int refused = 0;
+    for (int number = 0; number < 60; ++number)
+        refused += write(number) ? 0 : 1;
+    EXPECT_EQ(refused, 0);
+    start([this] {
+        blow = SIGSTOP;
+        write(1);
+    });
+    waitpid(children.back(), nullptr, WUNTRACED);
+    const std::int64_t before = detail::monotonic();
+    EXPECT_FALSE(write(2));
+    const auto waited = detail::monotonic() - before;
+    EXPECT_GE(waited, 100000000);
+    EXPECT_LT(waited, 400000000);
+    setitimer(ITIMER_REAL, &never, nullptr);
+}
+
+TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {
+    const Group fresh("fresh", kFirst);
+    float value = 7;
+    const Reading none = fresh.read(value);
+    EXPECT_EQ(none, Reading::unwritten);
+    EXPECT_EQ(value, 7);
+    EXPECT_FALSE(fresh.wait(none, 20));
+    start([&] {
+        const Group same("fresh", kFirst);
+        for (float each = 1;; ++each) {
+            usleep(20000);
+            std::ignore = same.write(each);
+        }
+    });
+    Reading last = none;
+    for (int k = 0; k < 9; ++k) {
+        ASSERT_TRUE(fresh.wait(last, 5000));
+        const Reading reading = fresh.read(value);
+        ASSERT_EQ(reading, Reading::whole);
+        EXPECT_GT(reading.number(), last.number());
+        EXPECT_EQ(static_cast<float>(reading.number()), 2 * value) << "the counter moves by 2 a write";
+        EXPECT_LT(reading.age(), 5);
+        last = reading;
+    }
+    kill(children.back(), SIGKILL);
+    waitpid(children.back(), nullptr, 0);
+    EXPECT_FALSE(fresh.wait(fresh.read(value), 50));
+    EXPECT_GE(fresh.read(value).age(), 0.05);
+}
+
 TEST_F(Groups, HaveOneMeaningPerName) {
-    Measured<float>::Value value = 0;
-    EXPECT_TRUE(Group("other", kFirst).attached());
-    EXPECT_FALSE(Group("group", kFirst).attached());
-    EXPECT_FALSE(Group("other", kFirst.run<1>(), kFirst).attached());
+    float value = 0;
+    const auto attachment = [](const char* name, auto... parts) {
+        return Group(name, parts...).attachment();
+    };
+    EXPECT_EQ(attachment("other", kFirst), Attachment::attached);
+    EXPECT_EQ(attachment("group", kFirst), Attachment::otherElements);
     EXPECT_EQ(Group("group", kFirst).read(value), Reading::detached);
     EXPECT_FALSE(Group("group", kFirst).write(1));
-    int made = 0; // besides those of these tests
-    while (Group(std::to_string(made), kFirst).attached())
-        ++made;
-    EXPECT_GE(made, 60);
-    EXPECT_LE(made, 63);
-    EXPECT_TRUE(Group("other", kFirst).attached());
-    EXPECT_DEATH(Group(std::string(56, 'x'), kFirst), "55 characters");
+    EXPECT_EQ(attachment(std::string(56, 'x').c_str(), kFirst), Attachment::wrongName);
+    EXPECT_EQ(attachment("", kFirst), Attachment::wrongName);
+    const Group two("runs", kFirst.run<2>());
+    EXPECT_EQ(attachment("runs", kFirst.run<3>()), Attachment::otherElements);
+}
+
+// A name may mean something else, and a slot another group, when no program uses it any more.
+TEST_F(Groups, AreTakenAgainWhenNobodyUsesThem) {
+    float value = 0;
+    {
+        const Group before("release", kFirst);
+        std::ignore = before.write(1);
+        EXPECT_EQ(Group("release", kFirst.run<2>()).attachment(), Attachment::otherElements);
+        EXPECT_EQ(before.read(value), Reading::whole);
+    }
+    EXPECT_EQ(Group("release", kFirst).read(value), Reading::whole)
+        << "the same elements find their slot again";
+    const Group after("release", kFirst.run<2>());
+    std::array<float, 2> values_after{};
+    EXPECT_EQ(after.read(values_after), Reading::unwritten);
+
+    start([] {
+        std::vector<std::unique_ptr<Group<Measured<float>>>> all;
+        while (all.empty() || all.back()->attached())
+            all.push_back(std::make_unique<Group<Measured<float>>>(std::to_string(all.size()), kFirst));
+        const bool isFull = all.size() > 60 && all.back()->attachment() == Attachment::noSlot;
+        std::raise(isFull ? SIGKILL : SIGABRT);
+    });
+    int status = 0;
+    waitpid(children.back(), &status, 0);
+    EXPECT_EQ(WTERMSIG(status), SIGKILL);
+    for (int number = 100; number < 200; ++number)
+        ASSERT_TRUE(Group(std::to_string(number), kFirst).attached()) << number;
+    EXPECT_TRUE(read());
 }
 
 } // namespace
