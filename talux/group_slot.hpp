@@ -11,7 +11,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <ctime>
 #include <initializer_list>
 #include <linux/futex.h>
 #include <string_view>
@@ -20,6 +19,8 @@
 #include <sys/shm.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+
+#include "talux/clock.hpp"
 
 namespace talux {
 
@@ -64,17 +65,6 @@ private:
 };
 
 namespace detail {
-
-inline std::int64_t monotonic() { // in nanoseconds
-    timespec time;
-    clock_gettime(CLOCK_MONOTONIC, &time);
-    return std::int64_t{time.tv_sec} * 1000000000 + time.tv_nsec;
-}
-
-inline void sleepFor(long nanoseconds) {
-    const timespec time{0, nanoseconds};
-    nanosleep(&time, nullptr);
-}
 
 // Shared by all programs with groups, old and new ones: another layout takes another key. A new segment is
 // zero-filled, and its semaphores are 0.

@@ -1,0 +1,124 @@
+// Following settings: every follower ends with the same values and hands out no half commit.
+#include "talux/follower.hpp"
+#include "talux/talux.hpp"
+
+#include <csignal>
+#include <functional>
+#include <gtest/gtest.h>
+#include <random>
+#include <string>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+using namespace talux;
+
+namespace {
+
+// First and last of the table, so that a half commit has one of them only.
+constexpr Setting<float> kThreshold{"Uearth"}, kDelay{"Uearth_SigDel"};
+constexpr Setting<Text> kName{"Name"};
+constexpr Setting<choice::Language> kLanguage{"Language"};
+constexpr Setting<Address> kAddress{"ETH0_IP"};
+constexpr Setting<bool> kActive{"qu2_active"};
+constexpr Setting<std::int32_t> kChannel{"channel"};
+
+// Settings that belong together all say the same number.
+void stage(int number) {
+    ASSERT_FALSE(kThreshold.stage(1 + number % 80));
+    ASSERT_FALSE(kDelay.stage(number));
+    ASSERT_FALSE(kName.stage(std::to_string(number)));
+}
+bool hangTogether(const Settings& settings) {
+    const auto number = static_cast<int>(settings[kDelay]);
+    return settings[kThreshold] == static_cast<float>(1 + number % 80) &&
+           settings[kName] == std::to_string(number);
+}
+
+class Followers : public testing::Test {
+protected:
+    Store store;
+
+    void SetUp() override {
+        store.stage_defaults();
+        stage(0);
+        store.commit();
+    }
+};
+
+TEST_F(Followers, SeeWhatChangedAndOnlyThat) {
+    Follower follower;
+    EXPECT_TRUE(follower.changes().empty());
+    EXPECT_FALSE(follower.wait(5));
+    Measured<float>{"U0_prim"}.set(12.5f); // no setting
+    ASSERT_FALSE(kThreshold.stage(42));
+    EXPECT_FALSE(follower.wait(5)) << "pending is not live";
+    ASSERT_FALSE(kLanguage.stage(choice::Language::kEnglish));
+    ASSERT_FALSE(kAddress.stage("10.1.2.3"));
+    ASSERT_FALSE(kActive.stage(false));
+    ASSERT_FALSE(kChannel.stage(7));
+    store.commit();
+    ASSERT_TRUE(follower.wait(2000));
+    std::string changed;
+    for (const Difference each : follower.changes())
+        changed += std::string(each.name()) + (each == kThreshold ? "! " : " ");
+    EXPECT_EQ(changed, "Uearth! channel qu2_active Language ETH0_IP ");
+    const Settings& now = follower.settings();
+    EXPECT_EQ(now[kThreshold], 42);
+    EXPECT_EQ(follower.before()[kThreshold], 1);
+    EXPECT_EQ(now[kLanguage], choice::Language::kEnglish);
+    EXPECT_EQ(now[kAddress], "10.1.2.3");
+    EXPECT_EQ(now[kActive], false);
+    EXPECT_EQ(now[kChannel], 7);
+    EXPECT_FALSE(follower.wait(5));
+}
+
+// With something else pending, the snapshot is settled after a while without changes.
+TEST_F(Followers, DoNotWaitForWhatStaysPending) {
+    Follower follower;
+    stage(5);
+    store.commit();
+    ASSERT_FALSE(kChannel.stage(3)); // pending for ever
+    ASSERT_TRUE(follower.wait(2000));
+    EXPECT_TRUE(hangTogether(follower.settings()));
+}
+
+TEST_F(Followers, EndWithTheSameAndNeverHandOutAHalfCommit) {
+    constexpr int kCommits = 1000, kFollowers = 3;
+    struct Result {
+        int last, torn, seen;
+    };
+    auto* const results = static_cast<Result*>(mmap(
+        nullptr, sizeof(Result) * kFollowers, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    std::vector<pid_t> children;
+    for (int k = 0; k < kFollowers; ++k) {
+        children.push_back(fork());
+        if (children.back() != 0) continue;
+        Follower follower(1 + 4 * k);
+        Result& result = results[k];
+        while (result.last != kCommits && follower.wait(10000)) {
+            result.last = static_cast<int>(follower.settings()[kDelay]);
+            result.torn += hangTogether(follower.settings()) ? 0 : 1;
+            ++result.seen;
+        }
+        _exit(0);
+    }
+    std::minstd_rand random(1);
+    for (int number = 1; number <= kCommits; ++number) {
+        stage(number);
+        store.commit();
+        usleep(static_cast<useconds_t>(random() % 4000));
+    }
+    for (const pid_t child : children)
+        waitpid(child, nullptr, 0);
+    for (int k = 0; k < kFollowers; ++k) {
+        EXPECT_EQ(results[k].last, kCommits) << k;
+        EXPECT_EQ(results[k].torn, 0) << k;
+        EXPECT_GT(results[k].seen, kCommits / 100) << k;
+        std::printf("follower %d: %d snapshots of %d commits\n", k, results[k].seen, kCommits);
+    }
+    munmap(results, sizeof(Result) * kFollowers);
+}
+
+} // namespace
