@@ -7,8 +7,12 @@ set(talux_tables
   ${talux_generated}/ParamSystem/texts/TextTable.cpp)
 set(talux_generated_headers
   ${talux_generated}/ParamSystem/TALUX_ParamCounts.h
-  ${talux_generated}/ParamSystem/dictionary/NamedIds.inc)
-file(MAKE_DIRECTORY ${talux_generated}/ParamSystem/dictionary ${talux_generated}/ParamSystem/texts)
+  ${talux_generated}/ParamSystem/dictionary/NamedIds.inc
+  ${talux_generated}/talux/parameters.hpp
+  ${talux_generated}/talux/records.hpp)
+set(talux_lua_tables parameters parameters_de parameters_en records)
+list(TRANSFORM talux_lua_tables REPLACE "(.+)" "${talux_generated}/lua/talux/\\1.lua")
+set(talux_model_table ${talux_generated}/tools/reference/ModelTable.cpp) # of the program talux
 
 if(CMAKE_CROSSCOMPILING)
   find_program(TALUX_HOST_CXX NAMES c++ g++ clang++ DOC "The compiler for programs of this machine" REQUIRED)
@@ -30,7 +34,7 @@ add_custom_command(OUTPUT ${talux_generated}/stamp
   COMMAND ${talux_generator} ${talux_generated}
   COMMAND ${CMAKE_COMMAND} -E touch ${talux_generated}/stamp
   DEPENDS ${talux_generator}
-  BYPRODUCTS ${talux_tables} ${talux_generated_headers}
+  BYPRODUCTS ${talux_tables} ${talux_generated_headers} ${talux_lua_tables} ${talux_model_table}
   COMMENT "Making the tables of the dictionary"
   VERBATIM)
 add_custom_target(talux_dictionary DEPENDS ${talux_generated}/stamp)

@@ -54,6 +54,7 @@ talux_install_library(deb_ lib/${CMAKE_LIBRARY_ARCHITECTURE} EXCLUDE_FROM_ALL)
 
 # The layer for scripts, where require looks for Lua.
 talux_install(runtime DIRECTORY lua/ DESTINATION ${CMAKE_INSTALL_DATADIR}/lua/5.2)
+talux_install(runtime FILES ${talux_lua_tables} DESTINATION ${CMAKE_INSTALL_DATADIR}/lua/5.2/talux)
 
 foreach(headers ParamSystem/*.h MenuSystem/TALUX_*.h talux/*.hpp)
   file(GLOB files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${headers})
@@ -62,6 +63,8 @@ foreach(headers ParamSystem/*.h MenuSystem/TALUX_*.h talux/*.hpp)
 endforeach()
 talux_install(development FILES ${talux_generated}/ParamSystem/TALUX_ParamCounts.h
   DESTINATION ${talux_include_dir}/ParamSystem)
+talux_install(development FILES ${talux_generated}/talux/parameters.hpp ${talux_generated}/talux/records.hpp
+  DESTINATION ${talux_include_dir}/talux)
 talux_install(development FILES src/talux_interpreter.h src/lib_talux_lua.h DESTINATION ${talux_include_dir}/src)
 
 # Pages and examples, beside each other as in the project so that their links hold.

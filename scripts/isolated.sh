@@ -5,7 +5,8 @@
 #   isolated.sh [--root DIR] [--module DIR] [--read PATH].. -- COMMAND [ARGUMENT..]
 #
 # --root DIR    the directory that becomes /, made when absent and kept afterwards; else a temporary one
-# --module DIR  where Lua finds the module, and the project's lua/ beside it, before it looks in its own places
+# --module DIR  the build folder in which Lua finds the module and the tables of the project's lua/, before it looks in
+#               its own places
 # --read PATH   also readable inside, at its own path; /usr and the project always are
 #
 # The command finds in TALUX_ISOLATION how far it is from the machine:
@@ -156,7 +157,7 @@ cleanup() {
 }
 trap cleanup EXIT
 lay_root
-[ -z "$module" ] || export LUA_PATH="$project/lua/?.lua;${LUA_PATH-;}" LUA_CPATH="$module/?.so;${LUA_CPATH-;}"
+[ -z "$module" ] || export LUA_PATH="$project/lua/?.lua;$module/generated/lua/?.lua;${LUA_PATH-;}" LUA_CPATH="$module/?.so;${LUA_CPATH-;}"
 export TALUX_ISOLATION PATH=/usr/sbin:/usr/bin:/sbin:/bin
 TALUX_ISOLATION=$(find_isolation)
 status=0

@@ -124,7 +124,8 @@ rock() {
   need luarocks:luarocks
   tree=$(mktemp -d)
   HOME=$tree quiet luarocks --lua-version 5.2 --tree "$tree" make || status=$?
-  diff -r lua "$tree/share/lua/5.2" || status=1
+  cp -r lua build-rock/generated/lua "$tree"
+  diff -r "$tree/lua" "$tree/share/lua/5.2" || status=1
   [ 35 = "$(scripts/isolated.sh --read "$tree" -- env LUA_PATH="$tree/share/lua/5.2/?.lua" \
     LUA_CPATH="$tree/lib/lua/5.2/?.so" lua5.2 -e 'local talux = require "talux" talux.set("Uearth", 35)
       print(talux.get "Uearth")')" ] || status=1

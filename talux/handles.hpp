@@ -12,6 +12,11 @@
 #include <type_traits>
 #include <utility>
 
+#if !__has_include("talux/parameters.hpp")
+#error "no talux/parameters.hpp: build the target talux_dictionary, add -I build-release/generated"
+#endif
+#include "talux/records.hpp" // first: the compiler stops here then, before it complains of every handle
+
 #include "ParamSystem/TALUX_Var.h"
 #include "talux/lookup.hpp"
 

@@ -1,4 +1,4 @@
--- What is known of parameters: the generated tables beside this file, each read when it is first asked for.
+-- What is known of parameters: the tables that the build adds, each read when it is first asked for.
 local dictionary = {}
 
 ---@class talux.Row

@@ -21,6 +21,12 @@ while IFS=: read -r line text; do
   fi
 done < <(grep -n '^constexpr' "$here/wrong.hpp")
 
+# Without the generated headers one line says what to build, and nothing else is complained of.
+printf '#include <talux/talux.hpp>\nconstexpr talux::Setting<float> threshold{"Uearth"};\n' >"$work/alone.cpp"
+"${compile[@]/#-I$generated/-I$work}" -fsyntax-only "$work/alone.cpp" >"$work/messages" 2>&1 && fail 'it compiles alone'
+[ "$(grep -o 'error: .*' "$work/messages" | cut -d: -f2)" = ' #error "no talux/parameters.hpp
+ talux/records.hpp' ] || fail 'alone:' "$(cat "$work/messages")"
+
 # A run that does not fit is seen while compiling, or where the optimiser sees it.
 for run in 'auto f() { return last.run<3>().get(); }' 'void f(std::span<float, 3> to) { last.get_run(to); }'; do
   echo "#include <talux/talux.hpp>

@@ -1,19 +1,20 @@
-// Makes the tables of the dictionary from its data.
+// Makes the model of the dictionary from its data, and the tables from the model.
 #ifndef TALUX_GENERATOR_GENERATOR_H
 #define TALUX_GENERATOR_GENERATOR_H
 
+#include <optional>
+
 #include "tools/generator/Faults.h"
+#include "tools/generator/OwnedModel.h"
 #include "tools/generator/Tables.h"
 
 namespace talux::generator {
 
-// No sources and the faults where a rule is broken.
-struct Result {
-    Sources sources;
-    Faults faults;
-};
+// No model where a rule is broken.
+std::optional<OwnedModel> makeModel(std::span<const catalogue::Family> families,
+                                    std::span<const TextFamily> texts, Faults& faults);
 
-Result generate(std::span<const catalogue::Family> families, std::span<const TextFamily> texts);
+Sources tables(const model::Model& model);
 
 } // namespace talux::generator
 

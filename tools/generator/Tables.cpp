@@ -1,65 +1,17 @@
 #include "tools/generator/Tables.h"
 
-#include <algorithm>
-#include <charconv>
 #include <cstdint>
+#include <vector>
 
-#include "ParamSystem/catalogue/Family.h"
 #include "ParamSystem/dictionary/Ids.h"
 #include "ParamSystem/dictionary/NameIndex.h"
+#include "tools/Strings.h"
+#include "tools/generator/Sources.h"
 
 namespace talux::generator {
 namespace {
 
-constexpr std::string_view kHead =
-    "// Made by tools/generator from ParamSystem/catalogue and ParamSystem/texts.\n";
-
-// The texts of a source, each once, one behind the other with its NUL. A row tells the place: p + 17.
-class Pool {
-public:
-    std::string place(std::string_view text) {
-        const auto [met, isNew] = places.emplace(text, size);
-        if (isNew) {
-            size += text.size() + 1;
-            append(text);
-        }
-        return "p+" + std::to_string(met->second);
-    }
-
-    std::string definition() const { return "static const char p[] =\n" + literals + ";\n"; }
-
-private:
-    void append(std::string_view text) {
-        literals += '"';
-        for (const char c : text) {
-            if (c == '"' || c == '\\') literals += '\\';
-            literals += c == '\n' ? std::string("\\n") : std::string(1, c);
-        }
-        literals += "\\0\"\n";
-    }
-
-    std::map<std::string, std::size_t, std::less<>> places;
-    std::size_t size = 0;
-    std::string literals;
-};
-
-// The shortest text that gives the same number again.
-std::string number(double value) {
-    char text[32];
-    return {text, std::to_chars(std::begin(text), std::end(text), value).ptr};
-}
-
-std::string number(int value) {
-    return std::to_string(value);
-}
-
-template <class... Fields>
-std::string row(const Fields&... fields) {
-    std::string text = "{";
-    ((text += fields, text += ','), ...);
-    text.back() = '}';
-    return text + ",\n";
-}
+using model::Model, model::Row;
 
 std::string numbers(std::string_view definition, const std::vector<std::uint16_t>& values) {
     std::string text = std::string(definition) + " = {";
@@ -82,17 +34,19 @@ std::string nameIndex(const std::string& name, const std::vector<std::string>& n
 }
 
 // Position of the first row with the id of each place.
-std::string idIndex(const std::vector<Parameter>& parameters) {
+std::string idIndex(const Model& model) {
     std::vector<std::uint16_t> positions(kIdPlaces);
-    for (std::size_t position = parameters.size(); position > 0; --position)
-        positions[static_cast<std::size_t>(placeOf(parameters[position - 1].id()))] =
-            static_cast<std::uint16_t>(position);
+    for (const Row& row : model.rows)
+        for (int k = 0; k < row.elements(); ++k)
+            if (std::uint16_t& position =
+                    positions[static_cast<std::size_t>(placeOf(row.properties->id + k))];
+                position == 0)
+                position = static_cast<std::uint16_t>(row.position + k);
     return numbers("const std::uint16_t kIdPositions[kIdPlaces]", positions);
 }
 
-std::string propertyRow(const Parameter& parameter, Pool& pool) {
-    const stParamProperties& row = parameter.properties();
-    return generator::row(number(parameter.id()), pool.place(parameter.name()), number(row.id_template),
+std::string propertyRow(const stParamProperties& row, int element, Pool& pool) {
+    return generator::row(number(row.id + element), pool.place(row.name), number(row.id_template),
                           number(row.type), number(row.val_access), number(row.is_volatile),
                           pool.place(row.format), pool.place(row.val_init_text), number(row.val_init),
                           pool.place(row.val_def_text), number(row.val_def), number(row.val_len),
@@ -101,73 +55,85 @@ std::string propertyRow(const Parameter& parameter, Pool& pool) {
 }
 
 // Sentinels have the text "***" and nothing else.
-std::string propertyTable(const std::vector<Parameter>& parameters, Pool& pool) {
+std::string propertyTable(const Model& model, Pool& pool) {
     const std::string stars = pool.place("***");
     const std::string sentinel = row("0", stars, "0,0,0,0", stars, stars, "0", stars, "0,0,0,0,0,0,0,0");
     std::string rows = "const stParamProperties DefParamProperties[] = {\n" + sentinel;
-    for (const Parameter& parameter : parameters)
-        rows += propertyRow(parameter, pool);
+    for (const Row& parameter : model.rows)
+        for (int k = 0; k < parameter.elements(); ++k)
+            rows += propertyRow(*parameter.properties, k, pool);
     return rows + sentinel + "};\n";
 }
 
-std::string settingTable(const std::vector<Parameter>& parameters) {
+// A template has the type of a value and stores none.
+bool isSetting(const Row& row) {
+    return !row.isTemplate() && row.properties->type != kTypeCommand && row.properties->is_volatile == 0;
+}
+
+std::string settingTable(const Model& model) {
     std::string rows;
-    int position = 0;
-    for (const Parameter& parameter : parameters) {
-        ++position;
-        if (parameter.isSetting()) rows += row(number(position), number(parameter.id()));
-    }
+    for (const Row& parameter : model.rows)
+        if (isSetting(parameter)) rows += row(number(parameter.position), number(parameter.properties->id));
     return "static const SettingPlace settingRows[] = {\n" + rows +
            "};\nconstinit const std::span<const SettingPlace> kSettings = settingRows;\n";
 }
 
-std::string familyTable(std::span<const catalogue::Family> families, Pool& pool) {
+std::string familyTable(const Model& model, Pool& pool) {
     std::string rows = "const stParamFamily DefParamFamilies[] = {\n";
-    int position = 1;
-    for (const catalogue::Family& family : families) {
-        const int first = position;
-        for (const catalogue::ParameterRow& line : family.rows)
-            position += line.count();
-        rows += row(pool.place(family.name), number(first), number(position - 1));
-    }
+    for (const stParamFamily& family : model.families)
+        rows += row(pool.place(family.name), number(family.first), number(family.last));
     return rows + "};\n";
 }
 
-std::string properties(std::span<const catalogue::Family> families,
-                       const std::vector<Parameter>& parameters) {
+std::string properties(const Model& model) {
     Pool pool;
-    const std::string tables = propertyTable(parameters, pool) + familyTable(families, pool);
+    const std::string tables = propertyTable(model, pool) + familyTable(model, pool);
     std::vector<std::string> names{"***"};
-    for (const Parameter& parameter : parameters)
-        names.push_back(parameter.name());
+    for (const Row& row : model.rows)
+        names.insert(names.end(), static_cast<std::size_t>(row.elements()), row.properties->name);
     return std::string(kHead) + "#include \"ParamSystem/dictionary/Tables.h\"\n" + pool.definition() +
-           tables + "namespace talux {\nconst int kParameters = " + std::to_string(parameters.size()) +
-           ";\n" + "constinit const std::span<const stParamFamily> kFamilies = DefParamFamilies;\n" +
-           settingTable(parameters) + nameIndex("Name", names) + idIndex(parameters) + "}\n";
+           tables + "namespace talux {\nconst int kParameters = " + std::to_string(names.size() - 1) + ";\n" +
+           "constinit const std::span<const stParamFamily> kFamilies = DefParamFamilies;\n" +
+           settingTable(model) + nameIndex("Name", names) + idIndex(model) + "}\n";
 }
+
+struct Symbol {
+    int value;
+    std::string name;
+};
 
 std::string symbolTable(std::string_view name, const std::vector<Symbol>& symbols, Pool& pool) {
     std::string rows = "const stParamSymbol " + std::string(name) + "[] = {\n";
     for (const Symbol& symbol : symbols)
         rows += row(number(symbol.value), pool.place(symbol.name));
-    return rows + "};\n";
+    return rows + row("0", pool.place("***")) + "};\n";
 }
 
-std::string symbols(const std::vector<Parameter>& parameters, const std::vector<TextSubject>& subjects) {
-    std::vector<Symbol> all{{0, "***"}, {0, "VAR_NULL"}, {0, "VAR_TPL_NULL"}};
-    std::vector<std::string> names{"***", "VAR_NULL", "VAR_TPL_NULL"};
-    for (const Parameter& parameter : parameters) {
-        for (const Symbol& symbol : symbolsOf(parameter)) {
-            all.push_back(symbol);
-            names.push_back(symbol.name);
-        }
-    }
-    all.push_back({0, "***"});
-    std::vector<Symbol> ofTexts{{0, "***"}, {0, "TXT_NULL"}, {0, "TXT_TPL_NULL"}};
-    for (const TextSubject& subject : subjects)
-        ofTexts.push_back({subject.textId, subject.symbol});
-    ofTexts.push_back({0, "***"});
+std::string symbolOf(const Row& row) {
+    const bool isCommand = row.properties->type == kTypeCommand;
+    return joined({row.isTemplate() ? "VAR_TPL_" : isCommand ? "CMD_" : "VAR_", row.name});
+}
 
+// The first element of an indexed parameter has two: the plain one and the one with its index.
+void addSymbols(std::vector<Symbol>& symbols, const Row& row) {
+    const std::string name = symbolOf(row);
+    symbols.push_back({row.properties->id, name});
+    for (int k = 0; k < row.elements() && row.isIndexed(); ++k)
+        symbols.push_back(
+            {row.properties->id + k, name + '_' + std::to_string(row.properties->val_min_id + k)});
+}
+
+std::string symbols(const Model& model) {
+    std::vector<Symbol> all{{0, "***"}, {0, "VAR_NULL"}, {0, "VAR_TPL_NULL"}};
+    std::vector<Symbol> ofTexts{{0, "***"}, {0, "TXT_NULL"}, {0, "TXT_TPL_NULL"}};
+    for (const Row& row : model.rows) {
+        addSymbols(all, row);
+        if (row.textId != 0)
+            ofTexts.push_back({row.textId, (row.isTemplate() ? "TXT_TPL_" : "TXT_") + std::string(row.name)});
+    }
+    std::vector<std::string> names;
+    for (const Symbol& symbol : all)
+        names.push_back(symbol.name);
     Pool pool;
     const std::string tables =
         symbolTable("DefParamSymbols", all, pool) + symbolTable("DefParamTextSymbols", ofTexts, pool);
@@ -176,26 +142,58 @@ std::string symbols(const std::vector<Parameter>& parameters, const std::vector<
            pool.definition() + tables + "namespace talux {\n" + nameIndex("Symbol", names) + "}\n";
 }
 
-std::string textTable(const std::vector<Text>& texts) {
+// The rows of the text table with the texts of one parameter.
+class TextRows {
+public:
+    TextRows(const Row& whose, Pool& texts) : id(whose.textId), pool(texts) {
+        addBoth(kTextTitle, whose.title);
+        addBoth(kTextDescription, whose.description);
+        add(kEnglish, kTextUnit, 0, 0, whose.unit);
+        for (int k = 0; k < model::kGroups; ++k) {
+            addBoth(kTextGroup, whose.groups[k].heading, k);
+            for (const ParamLanguage language : {kGerman, kEnglish})
+                for (const model::Item& item : whose.groups[k].items)
+                    add(language, kTextItem, k, item.number, item.text.in(language));
+        }
+    }
+
+    std::string rows;
+
+private:
+    void addBoth(int type, const model::Both& text, int item = 0) {
+        add(kGerman, type, 0, item, text.de);
+        add(kEnglish, type, 0, item, text.en);
+    }
+
+    void add(int language, int type, int group, int item, std::string_view text) {
+        if (text.empty()) return;
+        rows += row(number(id), number(language), number(type), "{}", number(group), number(item),
+                    pool.place(text));
+    }
+
+    int id;
+    Pool& pool;
+};
+
+std::string textTable(const Model& model) {
     Pool pool;
     const std::string sentinel = "{0,0,0,{},0,0," + pool.place("***") + "},\n";
     std::string rows = sentinel;
-    for (const Text& text : texts)
-        rows += row(number(text.id), number(text.language), number(text.type), "{}", number(text.group),
-                    number(text.item), pool.place(text.text));
+    for (const Row& row : model.rows)
+        rows += TextRows(row, pool).rows;
     return std::string(kHead) + "#include \"ParamSystem/TALUX_ParamStrings.h\"\n" + pool.definition() +
            "const stParamText DefParamText[] = {\n" + rows + sentinel +
            "};\nconst int DefParamTextCount = sizeof DefParamText / sizeof *DefParamText;\n";
 }
 
 // Sorted, for idOf.
-std::string namedIds(const std::vector<Parameter>& parameters) {
-    std::map<std::string, int> ids;
-    for (const Parameter& parameter : parameters)
-        if (!parameter.isTemplate()) ids.emplace(parameter.name(), parameter.id());
+std::string namedIds(const Model& model) {
+    std::map<std::string_view, int> ids;
+    for (const Row& row : model.rows)
+        if (!row.isTemplate()) ids.emplace(row.name, row.properties->id);
     std::string rows = "inline constexpr NamedId kNamedIds[] = {\n";
     for (const auto& [name, id] : ids)
-        rows += row('"' + name + '"', number(id));
+        rows += row(quoted(name), number(id));
     return std::string(kHead) + rows + "};\n";
 }
 
@@ -222,13 +220,13 @@ extern TALUX_API const stParamFamily DefParamFamilies[kParamFamilyCount];
 
 } // namespace
 
-Sources writeTables(std::span<const catalogue::Family> families, const std::vector<Parameter>& parameters,
-                    const std::vector<TextSubject>& subjects, const std::vector<Text>& texts) {
-    return {{"ParamSystem/dictionary/PropertyTable.cpp", properties(families, parameters)},
-            {"ParamSystem/dictionary/SymbolTable.cpp", symbols(parameters, subjects)},
-            {"ParamSystem/dictionary/NamedIds.inc", namedIds(parameters)},
-            {"ParamSystem/texts/TextTable.cpp", textTable(texts)},
-            {"ParamSystem/TALUX_ParamCounts.h", counts(parameters.size(), families.size())}};
+void addModuleTables(Sources& sources, const Model& model) {
+    sources["ParamSystem/dictionary/PropertyTable.cpp"] = properties(model);
+    sources["ParamSystem/dictionary/SymbolTable.cpp"] = symbols(model);
+    sources["ParamSystem/dictionary/NamedIds.inc"] = namedIds(model);
+    sources["ParamSystem/texts/TextTable.cpp"] = textTable(model);
+    sources["ParamSystem/TALUX_ParamCounts.h"] =
+        counts(static_cast<std::size_t>(model.families.back().last), model.families.size());
 }
 
 } // namespace talux::generator

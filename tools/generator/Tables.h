@@ -1,22 +1,21 @@
-// Writes the tables as sources.
+// What is printed from the model while the module is built.
 #ifndef TALUX_GENERATOR_TABLES_H
 #define TALUX_GENERATOR_TABLES_H
 
 #include <map>
-#include <span>
 #include <string>
-#include <vector>
 
-#include "tools/generator/Parameters.h"
-#include "tools/generator/Texts.h"
+#include "tools/generator/Model.h"
 
 namespace talux::generator {
 
 // Content by the name of the file below the folder of generated sources.
 using Sources = std::map<std::string, std::string>;
 
-Sources writeTables(std::span<const catalogue::Family> families, const std::vector<Parameter>& parameters,
-                    const std::vector<TextSubject>& subjects, const std::vector<Text>& texts);
+void addModuleTables(Sources& sources, const model::Model& model);
+void addModelTable(Sources& sources, const model::Model& model); // of the program talux
+void addLuaTables(Sources& sources, const model::Model& model);
+void addHeaders(Sources& sources, const model::Model& model); // of C++ programs
 
 } // namespace talux::generator
 

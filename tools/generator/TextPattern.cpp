@@ -79,6 +79,14 @@ std::vector<SeriesMember> membersOf(std::string_view pattern) {
     return members;
 }
 
+std::vector<std::string> namesOf(std::string_view patterns) {
+    std::vector<std::string> names;
+    for (const std::string_view pattern : split(patterns, ' '))
+        for (SeriesMember& member : membersOf(pattern))
+            if (!member.name.empty()) names.push_back(std::move(member.name));
+    return names;
+}
+
 std::vector<std::string> textsOf(std::string_view list) {
     std::vector<std::string> texts;
     if (list.empty()) return texts;

@@ -21,6 +21,9 @@ struct SeriesMember {
 // What a name with up to two lists in braces stands for.
 std::vector<SeriesMember> membersOf(std::string_view pattern);
 
+// Every name that the patterns, divided by blanks, stand for: "cos_SigDel U{1..3}_prim".
+std::vector<std::string> namesOf(std::string_view patterns);
+
 // The texts of a list divided by "|"; places {n} and {m} stay.
 std::vector<std::string> textsOf(std::string_view list);
 

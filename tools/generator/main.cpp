@@ -2,6 +2,7 @@
 // compiled into it, checks their rules and writes sources.
 //
 //   dictionary_generator FOLDER
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -15,6 +16,7 @@ using namespace talux::generator;
 bool write(const std::string& path, const std::string& content) {
     std::ifstream before(path, std::ios::binary);
     if (before && std::string(std::istreambuf_iterator<char>(before), {}) == content) return true;
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
     std::ofstream file(path, std::ios::binary);
     if ((file << content).flush()) return true;
     std::perror(path.c_str());
@@ -28,10 +30,12 @@ int main(int argc, char** argv) {
         std::fputs("dictionary_generator FOLDER\n", stderr);
         return 2;
     }
-    const Result result = generate(catalogueData(), textData());
-    print(result.faults, stderr);
-    bool written = result.faults.empty();
-    for (const auto& [file, content] : result.sources)
+    Faults faults;
+    const auto model = makeModel(catalogueData(), textData(), faults);
+    print(faults, stderr);
+    if (!model) return 1;
+    bool written = true;
+    for (const auto& [file, content] : tables(model->view()))
         written = write(argv[1] + ('/' + file), content) && written;
     return written ? 0 : 1;
 }

@@ -63,7 +63,7 @@ ListingRow rowOf(const Parameter& parameter) {
     cells[kLevel] = std::to_string(row.userlevel);
     addLimits(cells, parameter);
     if (parameter.hasNumber() || isText(row)) addValues(cells, parameter);
-    if (row.id_template != 0) cells[kTemplate] = reference::templateName(row.id_template);
+    cells[kTemplate] = parameter.templateName();
     cells[kFormat] = row.format;
     return cells;
 }

@@ -1,56 +1,11 @@
 #include "tools/pages/Facts.h"
 
 #include <algorithm>
-#include <map>
 
 #include "ParamSystem/kepl/Decision.h"
 #include "tools/pages/Names.h"
 
 namespace talux::pages {
-
-namespace {
-
-constexpr std::string_view kTemplatePrefix = "TPL_";
-
-using Notes = std::map<std::string, std::vector<const Note*>, std::less<>>;
-
-Notes makeNotes() {
-    Notes notes;
-    for (const Note& note : kNotes)
-        for (std::string& name : namesOf(note.names))
-            notes[std::move(name)].push_back(&note);
-    return notes;
-}
-
-const Notes& allNotes() {
-    static const Notes notes = makeNotes();
-    return notes;
-}
-
-void append(std::vector<const Note*>& notes, const std::string& name) {
-    const auto found = allNotes().find(name);
-    if (found != allNotes().end()) notes.insert(notes.end(), found->second.begin(), found->second.end());
-}
-
-// Every name begins with the prefix of the last one, which is empty.
-const Method& methodByPrefix(std::string_view name) {
-    return *std::ranges::max_element(kMethods, {}, [name](const Method& method) {
-        return name.starts_with(method.prefix) ? static_cast<int>(method.prefix.size()) : -1;
-    });
-}
-
-std::map<std::string, const Method*, std::less<>> makeMethods() {
-    std::map<std::string, const Method*, std::less<>> methods;
-    for (const Method& method : kMethods)
-        for (std::string& name : namesOf(settingsOf(method)))
-            methods.emplace(std::move(name), &method);
-    for (const Parameter& parameter : reference::parameters())
-        if (isOfMethod(parameter))
-            methods.try_emplace(std::string(parameter.name()), &methodByPrefix(parameter.name()));
-    return methods;
-}
-
-} // namespace
 
 bool hasLimits(const Parameter& parameter) {
     return parameter.hasNumber() && (parameter.hasMinimum() || parameter.hasMaximum());
@@ -68,27 +23,20 @@ std::string defaultValue(const Parameter& parameter) {
                                  : parameter.row().val_def_text;
 }
 
-std::string_view templateOf(const Parameter& parameter) {
-    const int id = parameter.row().id_template;
-    return id == 0 ? std::string_view() : reference::templateName(id);
+std::vector<int> notesOf(const Parameter& parameter) {
+    const model::Row& row = parameter.model();
+    std::vector<int> notes(row.notes.begin(), row.notes.end());
+    if (row.shared != nullptr) notes.insert(notes.end(), row.shared->notes.begin(), row.shared->notes.end());
+    return notes;
 }
 
-const std::vector<const Note*>& notesOf(const Parameter& parameter) {
-    static std::map<int, std::vector<const Note*>> byPosition;
-    const auto [place, isNew] = byPosition.try_emplace(parameter.position());
-    if (isNew) {
-        std::string shared(kTemplatePrefix);
-        shared += parameter.isTemplate() ? parameter.name() : templateOf(parameter);
-        if (!parameter.isTemplate()) append(place->second, std::string(parameter.name()));
-        append(place->second, shared);
-    }
-    return place->second;
+std::string_view noteText(int note, ParamLanguage language) {
+    return reference::model().notes[static_cast<std::size_t>(note)].in(language);
 }
 
 const Method* methodOf(const Parameter& parameter) {
-    static const auto methods = makeMethods();
-    const auto found = methods.find(parameter.name());
-    return found == methods.end() ? nullptr : found->second;
+    const int method = parameter.model().method;
+    return method < 0 ? nullptr : &kMethods[method];
 }
 
 bool isOfMethod(const Parameter& parameter) {
@@ -102,14 +50,6 @@ std::string unnamedSettingsOf(const Method& method) {
         if (isOfMethod(parameter) && methodOf(parameter) == &method &&
             std::ranges::count(named, parameter.name()) == 0)
             (all += ' ') += parameter.name();
-    return all;
-}
-
-std::string settingsOf(const Method& method) {
-    std::string all;
-    for (std::string_view names :
-         {method.enable, method.thresholds, method.settings, method.delays, method.durations, method.logs})
-        (all += names) += ' ';
     return all;
 }
 

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "tools/pages/Methods.h"
-#include "tools/pages/Notes.h"
 #include "tools/reference/Reference.h"
 
 namespace talux::pages {
@@ -41,22 +40,15 @@ int lineRoom(const Parameter& parameter);
 // Factory default as a number or a text; empty where there is none.
 std::string defaultValue(const Parameter& parameter);
 
-// Name of the template whose choices the parameter shares; empty where it has its own.
-std::string_view templateOf(const Parameter& parameter);
+// Its own notes and those of its template, as places in those of the model.
+std::vector<int> notesOf(const Parameter& parameter);
 
-// Notes that name the parameter or its template.
-const std::vector<const Note*>& notesOf(const Parameter& parameter);
+std::string_view noteText(int note, ParamLanguage language);
 
 // The detection method to which a setting belongs, or null.
 const Method* methodOf(const Parameter& parameter);
 
-// The family whose parameters each belong to one method.
-inline constexpr std::string_view kMethodFamily = "Earth-fault detection";
-
 bool isOfMethod(const Parameter& parameter);
-
-// Patterns of every setting that a method names.
-std::string settingsOf(const Method& method);
 
 // The others that belong to it by their prefix.
 std::string unnamedSettingsOf(const Method& method);

@@ -101,7 +101,7 @@ void addItems(std::string& cell, const Parameter& parameter, ParamLanguage langu
         const std::string list = listOf(parameter.items(group, language));
         if (!list.empty()) addLine(cell, joined({parameter.heading(group, language), ": ", list}));
     }
-    const std::string_view name = templateOf(parameter);
+    const std::string_view name = parameter.templateName();
     if (name.empty()) return;
     addLine(cell, joined({language == kGerman ? "wie" : "as", " [", name, "](templates.md#", name, ")"}));
 }
@@ -116,10 +116,8 @@ std::string textCell(const Entry& entry, ParamLanguage language) {
         addLine(cell, joined({"**", escaped(entry.withNumbers(title)), "**"}));
     addLine(cell, escaped(entry.withNumbers(parameter.description(language))));
     addItems(cell, parameter, language);
-    // What is said of a template stands there.
-    for (const Note* note : notesOf(parameter))
-        if (parameter.isTemplate() || !note->names.starts_with("TPL_"))
-            addLine(cell, joined({"*", escaped(language == kGerman ? note->de : note->en), "*"}));
+    for (const int note : parameter.model().notes)
+        addLine(cell, joined({"*", escaped(noteText(note, language)), "*"}));
     return cell;
 }
 

@@ -2,6 +2,7 @@
 
 #include "tools/pages/Facts.h"
 #include "tools/pages/Names.h"
+#include "tools/pages/Notes.h"
 #include "tools/pages/Records.h"
 
 namespace talux::pages {

@@ -20,20 +20,8 @@ bool continues(std::string_view text, std::string_view next) {
 
 } // namespace
 
-std::string joined(std::initializer_list<std::string_view> pieces) {
-    std::string text;
-    for (std::string_view piece : pieces)
-        text += piece;
-    return text;
-}
-
 std::string escaped(std::string_view text) {
-    std::string plain;
-    for (char c : text) {
-        if (std::string_view("|<>*_`\\").find(c) != std::string_view::npos) plain += '\\';
-        plain += c;
-    }
-    return plain;
+    return talux::escaped(text, "|<>*_`\\");
 }
 
 void addLine(std::string& cell, std::string_view line) {

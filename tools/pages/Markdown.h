@@ -2,18 +2,16 @@
 #ifndef TALUX_PAGES_MARKDOWN_H
 #define TALUX_PAGES_MARKDOWN_H
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
 
+#include "tools/Strings.h"
 #include "tools/pages/Facts.h"
 
 namespace talux::pages {
 
 inline constexpr std::string_view kGenerated =
     "<!-- Made by tools/pages from the data; change the data and build the target parameter_pages_update. -->\n";
-
-std::string joined(std::initializer_list<std::string_view> pieces);
 
 // A text with the characters that mean something in Markdown made plain.
 std::string escaped(std::string_view text);

@@ -2,6 +2,7 @@
 #ifndef TALUX_PAGES_METHODS_H
 #define TALUX_PAGES_METHODS_H
 
+#include <string>
 #include <string_view>
 
 namespace talux::pages {
@@ -22,6 +23,18 @@ struct Method {
     std::string_view priorities; // choices of prio_list_.. (template PRIORITY)
     std::string_view deRemark = {}, enRemark = {};
 };
+
+// The family whose parameters each belong to one method.
+inline constexpr std::string_view kMethodFamily = "Earth-fault detection";
+
+// Patterns of every setting that a method names.
+inline std::string settingsOf(const Method& method) {
+    std::string all;
+    for (const std::string_view names :
+         {method.enable, method.thresholds, method.settings, method.delays, method.durations, method.logs})
+        (all += names) += ' ';
+    return all;
+}
 
 inline constexpr Method kMethods[] = {
     {.de = "Erdschluss aus der Spannung",

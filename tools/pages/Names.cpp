@@ -13,8 +13,6 @@ int numberIn(std::string_view text) {
     return number;
 }
 
-} // namespace
-
 std::vector<std::string_view> words(std::string_view text) {
     std::vector<std::string_view> found;
     for (std::size_t start = 0; (start = text.find_first_not_of(' ', start)) != text.npos;) {
@@ -25,13 +23,7 @@ std::vector<std::string_view> words(std::string_view text) {
     return found;
 }
 
-std::vector<std::string> namesOf(std::string_view patterns) {
-    std::vector<std::string> names;
-    for (std::string_view pattern : words(patterns))
-        for (generator::SeriesMember& member : generator::membersOf(pattern))
-            names.push_back(std::move(member.name));
-    return names;
-}
+} // namespace
 
 std::vector<int> numbersOf(std::string_view ranges) {
     std::vector<int> numbers;

@@ -10,10 +10,7 @@
 
 namespace talux::pages {
 
-std::vector<std::string_view> words(std::string_view text);
-
-// Every name that the patterns, divided by blanks, stand for: "cos_SigDel U{1..3}_prim".
-std::vector<std::string> namesOf(std::string_view patterns);
+using generator::namesOf;
 
 // Every number of "5..7 16".
 std::vector<int> numbersOf(std::string_view ranges);

@@ -124,18 +124,17 @@ std::string objectOf(const Parameter& parameter) {
     object.add("name", quoted(parameter.name())).add("id", firstId(parameter));
     if (parameter.isIndexed())
         object.add("first", parameter.row().val_min_id).add("last", parameter.row().val_max_id);
-    object.add("family", placeOf(kFamilies, &parameter.family()));
+    object.add("family", placeOf(reference::model().families, &parameter.family()));
     if (const Method* method = methodOf(parameter)) object.add("method", placeOf(kMethods, method));
     object.add("kind", quoted(parameter.type().name)).add("unit", quoted(parameter.unit()));
     addValue(object, parameter);
     object.add("de", texts(parameter, kGerman)).add("en", texts(parameter, kEnglish));
-    const std::string_view shared = templateOf(parameter);
+    const std::string_view shared = parameter.templateName();
     Object own;
     if (shared.empty()) addChoices(own, parameter);
     object.add("shared", quoted(shared));
     if (own.json() != "{}") object.add("choices", own.json());
-    object.add("notes", array(notesOf(parameter),
-                              [](const Note* note) { return std::to_string(placeOf(kNotes, note)); }));
+    object.add("notes", array(notesOf(parameter), [](int note) { return std::to_string(note); }));
     return object.json();
 }
 
@@ -146,8 +145,8 @@ std::string data() {
     const auto both = [](const auto& item) { return bothTexts(item.de, item.en); };
     return Object()
         .add("families", array(kFamilies, [](const stParamFamily& f) { return quoted(f.name); }))
-        .add("methods", array(kMethods, both, ",\n"))
-        .add("notes", array(kNotes, both, ",\n"))
+        .add("methods", array(reference::model().methods, both, ",\n"))
+        .add("notes", array(reference::model().notes, both, ",\n"))
         .add("words", glossary())
         .add("shared", sharedChoices())
         .add("parameters", array(all, objectOf, ",\n"))

@@ -78,8 +78,8 @@ std::string shapeOf(const Parameter& parameter, const Run& run) {
             (shape += '|') += text;
     }
     shape += parameter.unit();
-    for (const Note* note : notesOf(parameter))
-        (shape += '|') += note->en;
+    for (const int note : notesOf(parameter))
+        (shape += '|') += noteText(note, kEnglish);
     return shape;
 }
 

@@ -40,10 +40,10 @@ std::string choiceList(const Parameter& parameter, ParamLanguage language) {
     return list;
 }
 
-std::string noteText(const Parameter& parameter, ParamLanguage language) {
+std::string notes(const Parameter& parameter, ParamLanguage language) {
     std::string all;
-    for (const Note* note : notesOf(parameter))
-        (all += all.empty() ? "" : " ") += language == kGerman ? note->de : note->en;
+    for (const int note : notesOf(parameter))
+        (all += all.empty() ? "" : " ") += noteText(note, language);
     return all;
 }
 
@@ -66,11 +66,11 @@ std::string lineOf(const Parameter& parameter) {
     record.add(reference::fileName(parameter.file()));
     record.add(parameter.writeLevel());
     record.addIf(lineRoom(parameter) > 0, lineRoom(parameter));
-    record.add(templateOf(parameter));
+    record.add(parameter.templateName());
     for (auto text : {&Parameter::title, &Parameter::description})
         for (ParamLanguage language : {kEnglish, kGerman})
             record.add((parameter.*text)(language));
-    for (auto text : {choiceList, noteText})
+    for (auto text : {choiceList, notes})
         for (ParamLanguage language : {kEnglish, kGerman})
             record.add(text(parameter, language));
     return record.text() + "\r\n";

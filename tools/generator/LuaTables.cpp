@@ -1,0 +1,116 @@
+// What talux.lua knows of the dictionary.
+#include <algorithm>
+#include <vector>
+
+#include "tools/Strings.h"
+#include "tools/generator/Tables.h"
+#include "tools/reference/Reference.h"
+
+namespace talux::generator {
+namespace {
+
+using model::Model;
+using reference::Parameter;
+
+constexpr std::string_view kHead = "-- Made by tools/generator from the dictionary.\n";
+
+std::string braced(const std::vector<std::string>& items) {
+    return joined({"{", list(items), "}"});
+}
+
+template <class Visit>
+void forEachNamed(const Model& model, Visit visit) {
+    for (const Parameter parameter : model.rows)
+        if (!parameter.isTemplate()) visit(parameter);
+}
+
+// ---- What holds in every language ---------------------------------------------------------------------
+
+// The longest text in bytes that the parameter is meant for and its slot keeps.
+int longest(const Parameter& parameter) {
+    const int meant = parameter.row().val_len;
+    return meant > 0 ? std::min(meant, parameter.textRoom()) : parameter.textRoom();
+}
+
+std::string factsOf(const Parameter& parameter) {
+    const stParamProperties& row = parameter.row();
+    std::string facts = joined({"{name = ", quoted(parameter.name()), ", id = ", std::to_string(row.id),
+                                ", kind = ", quoted(parameter.type().name)});
+    const auto add = [&facts](bool there, std::string_view key, const std::string& value) {
+        if (there) facts += joined({", ", key, " = ", value});
+    };
+    const std::string unit = parameter.unit();
+    add(!unit.empty(), "unit", quoted(unit));
+    add(parameter.hasNumber() && parameter.hasMinimum(), "min", reference::shortNumber(row.val_min));
+    add(parameter.hasNumber() && parameter.hasMaximum(), "max", reference::shortNumber(row.val_max));
+    add(parameter.textRoom() > 0, "length", std::to_string(longest(parameter)));
+    add(parameter.isIndexed(), "first", std::to_string(row.val_min_id));
+    add(parameter.isIndexed(), "last", std::to_string(row.val_max_id));
+    add(parameter.isSetting(), "default",
+        parameter.hasNumber() ? reference::shortNumber(row.val_def) : quoted(row.val_def_text));
+    add(parameter.isSetting(), "file", quoted(reference::fileName(parameter.file())));
+    add(parameter.writeLevel() > 0, "level", std::to_string(parameter.writeLevel()));
+    return facts + "}";
+}
+
+std::string parameters(const Model& model) {
+    std::string text = joined({kHead, "return {\n"});
+    forEachNamed(model, [&text](const Parameter& parameter) { text += factsOf(parameter) + ",\n"; });
+    return text + "}\n";
+}
+
+// ---- Texts --------------------------------------------------------------------------------------------
+
+std::string choicesOf(const Parameter& parameter, ParamLanguage language) {
+    std::vector<std::string> items;
+    for (const reference::Choice& choice : parameter.choices(language))
+        items.push_back(joined({"[", std::to_string(choice.number), "] = ", quoted(choice.text)}));
+    return items.empty() ? std::string() : braced(items);
+}
+
+// Each list of choices is there once, before the parameters.
+std::string texts(const Model& model, ParamLanguage language) {
+    std::vector<std::string> lists;
+    std::string rows;
+    forEachNamed(model, [&](const Parameter& parameter) {
+        std::vector<std::string> row{quoted(parameter.title(language)),
+                                     quoted(parameter.description(language))};
+        if (const std::string choices = choicesOf(parameter, language); !choices.empty()) {
+            auto known = std::ranges::find(lists, choices);
+            if (known == lists.end()) known = lists.insert(known, choices);
+            row.push_back(joined({"choices[", std::to_string(known - lists.begin() + 1), "]"}));
+        }
+        rows += joined({"[", quoted(parameter.name()), "] = ", braced(row), ",\n"});
+    });
+    std::string text = joined({kHead, "local choices = {\n"});
+    for (const std::string& choices : lists)
+        text += choices + ",\n";
+    return joined({text, "}\nreturn {\n", rows, "}\n"});
+}
+
+// ---- Records ------------------------------------------------------------------------------------------
+
+// The members in their order.
+std::string records(const Model& model) {
+    std::string text = joined({kHead, "return {\n"});
+    forEachNamed(model, [&text](const Parameter& parameter) {
+        if (parameter.type().nature != Nature::record) return;
+        std::vector<std::string> members;
+        for (const StructMemberProperties_t& member : reference::members(parameter))
+            members.push_back(joined(
+                {"{name = ", quoted(member.aszMemberName), ", kind = ", quoted(member.szMemberType), "}"}));
+        text += joined({parameter.name(), " = ", braced(members), ",\n"});
+    });
+    return text + "}\n";
+}
+
+} // namespace
+
+void addLuaTables(Sources& sources, const Model& model) {
+    sources["lua/talux/parameters.lua"] = parameters(model);
+    sources["lua/talux/parameters_de.lua"] = texts(model, kGerman);
+    sources["lua/talux/parameters_en.lua"] = texts(model, kEnglish);
+    sources["lua/talux/records.lua"] = records(model);
+}
+
+} // namespace talux::generator
