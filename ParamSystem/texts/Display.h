@@ -10,7 +10,7 @@ inline constexpr TextEntry kDisplay[] = {
     value("meas_disp{1..10}", {"Anzeigeposition {n}", "Display position {n}"},
           {"Messgröße, die Position {n} der Messwertanzeige zeigt",
            "Measured quantity shown at position {n} of the measurement display"}),
-    value("LED{1..4}_txt", {"Beschriftung LED {n}", "Label of LED {n}"},
+    value("LED{1..4}_txt", {"Beschriftung LED {n}", "LED {n} label"},
           {"Text neben LED {n} auf der Anzeige, höchstens fünf Zeichen",
            "Text beside LED {n} on the display, at most five characters"}),
 };

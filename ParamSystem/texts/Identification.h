@@ -1,4 +1,4 @@
-// Station, feeder, language, clock, and what the device tells about itself.
+// Station, feeder, language, clock, and what the device reports about itself.
 #ifndef TALUX_TEXTS_IDENTIFICATION_H
 #define TALUX_TEXTS_IDENTIFICATION_H
 
@@ -9,7 +9,7 @@ namespace talux::texts {
 inline constexpr TextEntry kIdentification[] = {
     command(
         "VarSaveParams", {"Parameter übernehmen", "Apply new parameters"},
-        {"Neue Einstellungen übernehmen und speichern", "Put new settings in force and save them"},
+        {"Neue Einstellungen übernehmen und speichern", "Make new settings live and save them"},
         {"Bitte warten...", "Please wait..."},
         {"Fehler bei der\nÜbertragung|Erfolgreich\ngespeichert", "Error during\ntransfer|Successful\nsaved"},
         0),
@@ -21,9 +21,10 @@ inline constexpr TextEntry kIdentification[] = {
     value("Kenn", {"Kennung", "Identifier"},
           {"Kurzzeichen des Geräts, höchstens drei Zeichen",
            "Short code of the device, at most three characters"}),
-    choice("Language", {"Sprache", "Language"},
-           {"Sprache der Anzeige und aller Texte", "Language of the display and of all texts"},
-           {"Deutsch|Englisch", "German|English"}),
+    choice(
+        "Language", {"Sprache", "Language"},
+        {"Sprache der Anzeige und der Parametertexte", "Language of the display and of the parameter texts"},
+        {"Deutsch|Englisch", "German|English"}),
     value("Date", {"Datum", "Date"},
           {"Datum der Systemuhr; Schreiben stellt die Uhr",
            "Date of the system clock; writing sets the clock"}),
@@ -43,9 +44,9 @@ inline constexpr TextEntry kIdentification[] = {
     value("Algo_version", {"Algorithmen-Version", "Algorithm version"},
           {"Version der Auswerteverfahren", "Version of the evaluation methods"}),
     value("Cortex_version", {"Cortex-Version", "Cortex version"},
-          {"Softwareversion des Prozessors Cortex", "Software version of the processor Cortex"}),
+          {"Softwareversion von Cortex", "Software version of Cortex"}),
     value("XML_version", {"XML-Version", "XML version"},
-          {"Version der Beschreibung des Geräts in XML", "Version of the device's description in XML"}),
+          {"Version der XML-Beschreibung des Geräts", "Version of the device's XML description"}),
     label("Status_art_no", {"Artikelnummer", "Article number"}),
     label("Status_ser_no", {"Seriennummer", "Serial number"}),
     label("Status_ord_no", {"Auftragsnummer", "Order number"}),

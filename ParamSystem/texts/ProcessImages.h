@@ -7,9 +7,9 @@
 namespace talux::texts {
 
 inline constexpr TextEntry kProcessImages[] = {
-    value("vBA", {"Prozessabbild Ausgänge", "Process image outputs"},
+    value("vBA", {"Prozessabbild Ausgänge", "Process image: outputs"},
           {"Virtuelle Ausgänge 1 bis 96 im Prozessabbild", "Virtual outputs 1 to 96 in the process image"}),
-    value("vBE", {"Prozessabbild Eingänge", "Process image inputs"},
+    value("vBE", {"Prozessabbild Eingänge", "Process image: inputs"},
           {"Virtuelle Eingänge 1 bis 96 im Prozessabbild", "Virtual inputs 1 to 96 in the process image"}),
     value("vMWR", {"Messwerte gelesen", "Measured values read"},
           {"Gelesene Messwerte 1 bis 96 im Prozessabbild",
@@ -29,7 +29,7 @@ inline constexpr TextEntry kProcessImages[] = {
     value("SLvMWW", {"Slave: Werte geschrieben", "Slave: values written"},
           {"Geschriebene Messwerte 1 bis 96 im Prozessabbild des Slaves",
            "Measured values 1 to 96 written, in the process image of the slave"}),
-    label("lua_modbus", {"Text Lua-Modbus", "Text Lua Modbus"}),
+    label("lua_modbus", {"Text Lua-Modbus", "Lua Modbus text"}),
 };
 
 } // namespace talux::texts

@@ -7,8 +7,8 @@
 namespace talux::texts {
 
 inline constexpr TextEntry kSignals[] = {
-    label("REL{1..8}", {"Zustand Relais {n}", "State of relay {n}"}),
-    label("BE{1..6}", {"Zustand Binäreingang {n}", "State of binary input {n}"}),
+    label("REL{1..8}", {"Zustand Relais {n}", "Relay {n} state"}),
+    label("BE{1..6}", {"Zustand Binäreingang {n}", "Binary input {n} state"}),
     label("MW_meas_disp{1..13}", {"Anzeigewert {n}", "Display value {n}"}),
 };
 

@@ -1,4 +1,4 @@
-// Main screen, change flags and states that the programs of the device tell each other.
+// Main screen, change flags and states that the programs of the device share.
 #ifndef TALUX_TEXTS_STATE_H
 #define TALUX_TEXTS_STATE_H
 
@@ -19,8 +19,7 @@ inline constexpr TextEntry kState[] = {
           {"Die Sicherheitsdatei wurde gespeichert oder geladen", "The security file was saved or loaded"}),
     label("ParamInit", {"Parameter initialisiert", "Parameters initialised"}),
     value("StmParamChanged", {"STM-Parameter geändert", "STM settings changed"},
-          {"Einstellungen für den Prozessor STM wurden geändert",
-           "Settings for the processor STM were changed"}),
+          {"Einstellungen für STM wurden geändert", "Settings for STM were changed"}),
     label("MainScreen", {"Hauptbild aktiv", "Main screen active"}),
     label("LedTest", {"LED-Test", "LED test"}),
     label("LedSimulation", {"LED-Simulation", "LED simulation"}),

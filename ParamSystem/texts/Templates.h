@@ -67,7 +67,7 @@ inline constexpr TextEntry kTemplates[] = {
     // German v and r: forward and backward, A and SS: feeder and busbar.
     shared("TPL_BA_FUNCTION", {"Ausgangsfunktion", "Output function"},
            {"AUS|PROG|Status|Fehler|U1_ok|U2_ok|U3_ok|user_BAF{1..8}|"
-            ">Uerd|>Uerd_verz|Uerd_L1|Uerd_L2|Uerd_L3|Uerd_L1_v|Uerd_L2_v|Uerd_L3_v|"
+            ">Uerd|>Uerd_verz|Uerd_L1|Uerd_L2|Uerd_L3|Uerd_L1_verz|Uerd_L2_verz|Uerd_L3_verz|"
             "Sum_Uerd ->v|Sum_Uerd ->r|Prio_Uerd ->v|Prio_Uerd ->r|"
             "qu2 ->A|qu2 ->SS|qu2_CE ->A|qu2_CE ->SS|qui ->A|qui ->SS|"
             "cos -> A|cos -> SS|sin -> A|sin -> SS|c_s -> A|c_s -> SS|"

@@ -107,7 +107,7 @@ TEST_F(TaluxShell, SaysWhyALineIsRefused) {
     EXPECT_TRUE(answers("system ls", "takes rights level 3"));
     EXPECT_TRUE(answers("TLX_FW_BLOCK=5", "takes rights level 3"));
     EXPECT_TRUE(answers("TLX_Name=\"a,b\"", "is no number"));
-    EXPECT_TRUE(answers("help Uearth", "Threshold"));
+    EXPECT_TRUE(answers("help Uearth", "threshold"));
     EXPECT_TRUE(answers("help", "Tab completes"));
     EXPECT_EQ(end(), 0);
     start("--level=3");

@@ -2,10 +2,45 @@
 
 #include <algorithm>
 
+#include "ParamSystem/dictionary/Tables.h"
 #include "ParamSystem/kepl/Decision.h"
 #include "tools/pages/Names.h"
 
 namespace talux::pages {
+
+namespace {
+
+// In the order of the families.
+constexpr std::string_view kGermanFamilies[] = {"Vorlagen",
+                                                "Zustand",
+                                                "Messwerte",
+                                                "Meldungen",
+                                                "Kennzeichnung",
+                                                "Anzeige",
+                                                "Netzwerk",
+                                                "Firewall und Dienste",
+                                                "Zeitdienste",
+                                                "Serielle Schnittstellen",
+                                                "Modbus-Slave",
+                                                "Fernwirken",
+                                                "Skripte",
+                                                "Prozessabbilder",
+                                                "Analogeingänge",
+                                                "Binäre Ein- und Ausgänge",
+                                                "Erdschlusserfassung",
+                                                "Recorder und Statistik",
+                                                "Benutzertexte",
+                                                "Service",
+                                                "Benutzer und Sicherheit",
+                                                "Laufzeitwerte",
+                                                "Momentaufnahme der Messwerte",
+                                                "Datensätze"};
+
+} // namespace
+
+std::string_view germanName(const stParamFamily& family) {
+    return kGermanFamilies[static_cast<std::size_t>(&family - kFamilies.data())];
+}
 
 bool hasLimits(const Parameter& parameter) {
     return parameter.hasNumber() && (parameter.hasMinimum() || parameter.hasMaximum());

@@ -33,6 +33,14 @@ inline bool isChoice(const Parameter& parameter) {
 
 bool hasLimits(const Parameter& parameter);
 
+// Choices count from 1; whether one below is refused depends on the row.
+inline bool refusesBelowOne(const Parameter& parameter) {
+    return parameter.hasMinimum() && parameter.row().val_min >= 1;
+}
+
+// The family's name in German.
+std::string_view germanName(const stParamFamily& family);
+
 // Longest text, in bytes, that a line of the language can write: a term has 127 characters, of which
 // prefix, name, "=" and two quotes take some.
 int lineRoom(const Parameter& parameter);

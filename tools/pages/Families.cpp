@@ -1,10 +1,12 @@
 // One page per menu family: a table with a row for each parameter or series.
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <sstream>
 
 #include "ParamSystem/dictionary/Tables.h"
 #include "tools/pages/Markdown.h"
+#include "tools/pages/Notes.h"
 #include "tools/pages/Pages.h"
 #include "tools/pages/Records.h"
 #include "tools/pages/Series.h"
@@ -57,10 +59,11 @@ std::string limitsLine(const Parameter& parameter) {
     if (!parameter.hasNumber() || parameter.type().kind == Kind::Bool) return {};
     if (!isChoice(parameter))
         return hasLimits(parameter)    ? reference::rangeText(parameter, kEnglish)
-               : parameter.isSetting() ? "no limits told"
+               : parameter.isSetting() ? "no limits specified"
                                        : "";
     return joined({"choice ", reference::shortNumber(parameter.leastNumber()), " to ",
-                   reference::shortNumber(parameter.row().val_max)});
+                   reference::shortNumber(parameter.row().val_max),
+                   refusesBelowOne(parameter) ? "" : "; 0 and below are **not refused**"});
 }
 
 std::string kindLine(const Parameter& parameter) {
@@ -106,7 +109,26 @@ void addItems(std::string& cell, const Parameter& parameter, ParamLanguage langu
     addLine(cell, joined({language == kGerman ? "wie" : "as", " [", name, "](templates.md#", name, ")"}));
 }
 
-std::string textCell(const Entry& entry, ParamLanguage language) {
+// The row of a page that has a note in full; the others point to it.
+using NotePlaces = std::map<int, std::string_view>;
+
+void addNotes(std::string& cell, const Parameter& parameter, ParamLanguage language, NotePlaces& places) {
+    const bool isGerman = language == kGerman;
+    for (const int note : notesOf(parameter)) {
+        const std::string_view place = places.try_emplace(note, parameter.name()).first->second;
+        if (place != parameter.name()) {
+            addLine(cell, joined({isGerman ? "*Hinweis wie bei [" : "*Remark as for [", place, "](#", place,
+                                  ")*"}));
+            continue;
+        }
+        const std::string_view sign = kNotes[note].kind != kWarning ? ""
+                                      : isGerman                    ? "Achtung: "
+                                                                    : "Warning: ";
+        addLine(cell, joined({"*", sign, escaped(noteText(note, language)), "*"}));
+    }
+}
+
+std::string textCell(const Entry& entry, ParamLanguage language, NotePlaces& places) {
     const Parameter& parameter = entry.first();
     const std::string title = parameter.title(language);
     std::string cell;
@@ -116,20 +138,19 @@ std::string textCell(const Entry& entry, ParamLanguage language) {
         addLine(cell, joined({"**", escaped(entry.withNumbers(title)), "**"}));
     addLine(cell, escaped(entry.withNumbers(parameter.description(language))));
     addItems(cell, parameter, language);
-    for (const int note : parameter.model().notes)
-        addLine(cell, joined({"*", escaped(noteText(note, language)), "*"}));
+    addNotes(cell, parameter, language, places);
     return cell;
 }
 
-void addTable(std::ostringstream& page, const std::vector<Parameter>& parameters) {
+void addTable(std::ostringstream& page, const std::vector<Parameter>& parameters, NotePlaces& places) {
     page << "| Name, id | Value | English | Deutsch |\n|---|---|---|---|\n";
     for (const Entry& entry : entriesOf(parameters))
-        page << "| " << nameCell(entry) << " | " << valueCell(entry) << " | " << textCell(entry, kEnglish)
-             << " | " << textCell(entry, kGerman) << " |\n";
+        page << "| " << nameCell(entry) << " | " << valueCell(entry) << " | "
+             << textCell(entry, kEnglish, places) << " | " << textCell(entry, kGerman, places) << " |\n";
 }
 
 // One heading per method, in their order.
-void addMethodTables(std::ostringstream& page, const std::vector<Parameter>& parameters) {
+void addMethodTables(std::ostringstream& page, const std::vector<Parameter>& parameters, NotePlaces& places) {
     for (const Method& method : kMethods) {
         std::vector<Parameter> own;
         std::ranges::copy_if(parameters, std::back_inserter(own), [&method](const Parameter& parameter) {
@@ -137,7 +158,7 @@ void addMethodTables(std::ostringstream& page, const std::vector<Parameter>& par
         });
         if (own.empty()) continue;
         page << "\n## " << method.en << " · " << method.de << "\n\n";
-        addTable(page, own);
+        addTable(page, own, places);
     }
 }
 
@@ -161,15 +182,17 @@ std::string pageOf(const stParamFamily& family) {
     for (const Parameter& parameter : reference::parameters())
         if (&parameter.family() == &family) parameters.push_back(parameter);
     std::ostringstream page;
-    page << kGenerated << "# " << family.name << "\n\n[How to read a row, all families](README.md)\n";
+    NotePlaces places;
+    page << kGenerated << "# " << family.name << " · " << germanName(family)
+         << "\n\n[How to read a row, all families · Wie eine Zeile zu lesen ist, alle Familien](README.md)\n";
     if (family.name == kMethodFamily) {
         page
-            << "\nWhat belongs to a method beside its settings, its outputs for instance, stands on the page "
-               "[Detection methods](detection-methods.md).\n";
-        addMethodTables(page, parameters);
+            << "\nThe page [Detection methods](detection-methods.md) shows what else belongs to a method, for "
+               "instance its output functions.\n";
+        addMethodTables(page, parameters, places);
     } else {
         page << '\n';
-        addTable(page, parameters);
+        addTable(page, parameters, places);
     }
     for (const Parameter& parameter : parameters)
         if (parameter.type().nature == Nature::record) addMembers(page, parameter);

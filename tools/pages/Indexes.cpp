@@ -12,7 +12,7 @@ namespace talux::pages {
 
 namespace {
 
-constexpr std::string_view kEntry = R"(# Parameters
+constexpr std::string_view kEntry = R"(# Parameters · Parameter
 
 Every parameter of the device, in English and German.
 
@@ -20,43 +20,59 @@ Every parameter of the device, in English and German.
 |---|---|
 | [parameters.html](parameters.html) | **all parameters on one page, to search as you type**, German or English. One file that needs no server and no network: copy it to a phone or a laptop, print from it |
 | [parameters.csv](parameters.csv) | the same as a table, for other programs (RFC 4180, UTF-8) |
-| [Detection methods](detection-methods.md) | what belongs together: switch, thresholds, times, logs, outputs of each method |
+| [Detection methods](detection-methods.md) | which method for which neutral earthing; switch, thresholds, times, logs, outputs of each method |
 | [Records](records.md) | the members of the three records |
 | [Glossary](glossary.md) | words of the trade and of the device in both languages |
 | [By name](by-name.md), [by id](by-id.md) | every parameter |
 | the pages of the families, below | every parameter in the order of the menus |
 
-At the relay `talux explain NAME` tells the same and the values. How settings are changed, made live and kept stands in
-[Commissioning](../commissioning.md), the language of the lines in [KEPL](../kepl.md).
+At the relay `talux explain NAME` shows titles, range, file and, with `--live`, the value; the remarks in italics are
+only here and in `parameters.html`. [Commissioning](../commissioning.md) shows how settings are changed, made live and
+saved, [KEPL](../kepl.md) is the language of the lines.
 
 ## How to read a row
 
-**Name, id.** In a line the name has `TLX_` in front; letter case does not count. `U{1..3}_prim` are `U1_prim`,
+**Name, id.** In a line, write `TLX_` before the name; letter case does not matter. `U{1..3}_prim` are `U1_prim`,
 `U2_prim`, `U3_prim`; their texts show the numbers the same way. `vBE[1..96]` is one parameter with elements, each
-with an id of its own: `TLX_vBE 5`.
+with its own id: `TLX_vBE 5`.
 
 **Value.**
 
 | | |
 |---|---|
-| kind, unit | `long`, `int`, `bool`, `enum` hold whole numbers: a fraction is cut off, 5.9 becomes 5, without a word. Numbers have a decimal **point**; a comma ends the term and writes a wrong value |
-| default | the factory setting; of a series one, where all have the same, or each |
-| 1 to 90 | a write outside is refused. "no limits told": anything from -999999999 to 999999999 is taken. Run-time values are checked only where a range stands |
-| choice 1 to 5 | choices **count from 1**. More is refused; where there is no least number told, 0, negative numbers and fractions are taken all the same |
-| bytes in a line | what a line of the language can write: of 127 characters, prefix, name, `=` and quotes take theirs. An umlaut has two bytes. A longer text is **cut without a word** (the store itself keeps 127 bytes of a text, 19 of an address and an identifier). "meant for" is the length that the device expects; nothing checks it |
-| `parameter.ini`, `sec_parameter.ini`, `ip_config.ini` | the [file](../files.md) that keeps the setting |
+| kind, unit | `long`, `int`, `bool`, `enum` hold whole numbers: a fraction is cut off silently, 5.9 becomes 5. Numbers have a decimal **point**; a comma ends the term and writes a wrong value |
+| default | the factory setting; one value if all of a series have the same, otherwise each |
+| 1 to 90 | a write outside the range is refused. "no limits specified": anything from -999999999 to 999999999 is accepted. Run-time values are checked only if a range is shown |
+| choice 1 to 5 | choices **count from 1**. More is refused. "0 and below are **not refused**": such a number is stored all the same. A fraction is cut off in every choice |
+| bytes in a line | what a line of the language can write: of its 127 characters, prefix, name, `=` and quotes take some. An umlaut has two bytes. A longer text is **cut silently** (the store itself has room for 127 bytes of a text, 19 of an address and an identifier). "meant for" is the length that the device expects; nothing checks it |
+| `parameter.ini`, `sec_parameter.ini`, `ip_config.ini` | the [file](../files.md) in which the setting is saved |
 | run-time value | measured value, state, process image: live at once, in no file, zero after power-up |
-| write: level 2 | the rights that a write takes. Scripts and the entry functions have level 3 |
+| write: level 2 | the rights level that a write needs. Scripts and the entry functions have level 3 |
 | read only, a write does nothing | the language refuses a write; a write to a command or a record is accepted and has no effect |
 
-**Texts.** Title, description, choices; in *italics* what else must be known, also what is *not* known here: where a
-number is only passed on to another program, ask for its meaning before setting it. "as X" points to choices that
-several parameters share.
+**Texts.** Title, description, choices; in *italics* what else you must know, also what is *not documented*: if a
+number is only passed on to another program, find out its meaning before you set it. "as X" points to choices that
+several parameters share; "Remark as for X" to a remark that is shown only once on a page.
 
-## Families
+## Wie eine Zeile zu lesen ist
 
-| Family | Parameters | Ids |
-|---|---|---|
+**Name, Id.** In einer Zeile steht `TLX_` vor dem Namen; Groß- und Kleinschreibung ist gleich. `U{1..3}_prim` sind
+`U1_prim`, `U2_prim`, `U3_prim`. `vBE[1..96]` ist ein Parameter mit Elementen: `TLX_vBE 5`.
+
+**Wert.** `default` ist die Werkseinstellung, `1 to 90` der zulässige Bereich, `no limits specified` heißt, dass alles
+angenommen wird. Auswahlen (`choice`) zählen **ab 1**; bei `0 and below are not refused` werden auch 0 und negative
+Zahlen gespeichert. Ganze Zahlen verlieren Nachkommastellen ohne Meldung; Dezimalzahlen haben einen **Punkt**, ein Komma
+beendet den Term und schreibt einen falschen Wert. Längere Texte als angegeben (`bytes in a line`) werden ohne Meldung
+gekürzt. Die genannte [Datei](../files.md) speichert die Einstellung; ein `run-time value` ist ein Laufzeitwert, gilt
+sofort und steht in keiner Datei. `write: level` ist die nötige Rechtestufe.
+
+**Texte.** Titel, Beschreibung, Auswahlen; *kursiv*, was sonst zu wissen ist, auch was *nicht dokumentiert* ist: Wird
+eine Zahl nur an ein anderes Programm weitergegeben, klären Sie ihre Bedeutung vor dem Einstellen.
+
+## Families · Familien
+
+| Family | Familie | Parameters | Ids |
+|---|---|---|---|
 )";
 
 std::string inSmallLetters(std::string_view text) {
@@ -78,8 +94,8 @@ std::string entryPage() {
             for (int id = firstId(parameter); id <= lastId(parameter); ++id)
                 ids.push_back(id);
         }
-        page << "| [" << family.name << "](" << fileOf(family) << ") | " << count << " | " << asRanges(ids)
-             << " |\n";
+        page << "| [" << family.name << "](" << fileOf(family) << ") | " << germanName(family) << " | "
+             << count << " | " << asRanges(ids) << " |\n";
     }
     return page.str();
 }

@@ -57,15 +57,34 @@ void addMethod(std::string& page, const Method& method) {
     addRow(page, "priorities · Prioritäten", choiceList(method.priorities, "prio_list_1"));
 }
 
+// Which method for which neutral earthing, and what works with the factory settings.
+void addEarthings(std::string& page) {
+    page +=
+        "\n## Which method for which neutral earthing · Welches Verfahren für welche Sternpunktbehandlung\n\n"
+        "As usual in the trade; what this device does in detail is not documented. *on*: the method works with "
+        "the factory settings. · *Wie im Fach üblich; was dieses Gerät im Einzelnen tut, ist nicht "
+        "dokumentiert.*\n\n"
+        "| Method · Verfahren | Neutral earthing | Sternpunkt | Factory |\n|---|---|---|---|\n";
+    for (const Method& method : kMethods) {
+        if (method.enEarthing.empty()) continue;
+        const auto switches = namesOf(method.enable);
+        const bool isOn = switches.empty() || reference::find(switches.front())->row().val_def != 0;
+        page += joined({"| ", method.en, " · ", method.de, " | ", method.enEarthing, " | ", method.deEarthing,
+                        " | ", isOn ? "on" : "off", " |\n"});
+    }
+}
+
 } // namespace
 
 void addMethods(Pages& pages) {
     std::string page = joined(
         {kGenerated, "# Detection methods\n\n[All parameters](README.md)\n\n",
-         "What belongs together, with the factory defaults. A method works when its switch is 1 and signals on the "
-         "outputs to which one of its *output functions* is assigned: their numbers go into `BAassign{1..8}` for "
-         "relays and `LEDassign{1..10}` for LEDs ([BA_FUNCTION](templates.md#BA_FUNCTION) has the whole list), "
-         "those of its *priorities* into `prio_list_{1..10}`.\n"});
+         "What belongs together, with the factory defaults. A method works when its first switch is 1; further "
+         "switches enable parts of it. It signals on the outputs to which one of its *output functions* is "
+         "assigned: write their numbers to `BAassign{1..8}` for relays and to `LEDassign{1..10}` for LEDs "
+         "([BA_FUNCTION](templates.md#BA_FUNCTION) is the whole list), those of its *priorities* to "
+         "`prio_list_{1..10}`.\n"});
+    addEarthings(page);
     for (const Method& method : kMethods)
         addMethod(page, method);
     pages["detection-methods.md"] = page;

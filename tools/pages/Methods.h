@@ -22,6 +22,7 @@ struct Method {
     std::string_view functions;  // choices of BAassign.. and LEDassign.. (template BA_FUNCTION)
     std::string_view priorities; // choices of prio_list_.. (template PRIORITY)
     std::string_view deRemark = {}, enRemark = {};
+    std::string_view deEarthing = {}, enEarthing = {}; // neutral earthing that the method suits
 };
 
 // The family whose parameters each belong to one method.
@@ -50,11 +51,13 @@ inline constexpr Method kMethods[] = {
      .functions = "5..7 16..23",
      .priorities = "",
      .deRemark =
-         "Immer aktiv, ohne Richtung. 16 >Uerd meldet sofort, 17 >Uerd_verz nach Uearth_SigDel; 5..7 der "
+         "Ohne Schalter, ohne Richtung. 16 >Uerd meldet sofort, 17 >Uerd_verz nach Uearth_SigDel; 5..7 der "
          "gesunde, 18..20 der fehlerhafte Leiter, 21..23 dieser verzögert.",
      .enRemark =
          "Has no switch and no direction. 16 >Uearth signals at once, 17 >Uearth_delay after Uearth_SigDel; "
-         "5..7 the healthy phase, 18..20 the faulty phase, 21..23 the latter delayed."},
+         "5..7 the healthy phase, 18..20 the faulty phase, 21..23 the latter delayed.",
+     .deEarthing = "jede nicht starre; ohne Richtung",
+     .enEarthing = "every non-solid earthing; no direction"},
     {.de = "Richtung aus allen Verfahren",
      .en = "Direction from all methods",
      .prefix = "prio_list_",
@@ -67,9 +70,13 @@ inline constexpr Method kMethods[] = {
      .measured = "",
      .functions = "24..27",
      .priorities = "",
-     .deRemark = "24 und 25 (Sum) fassen die Richtungsmeldungen zusammen, 26 und 27 (Prio) folgen der "
-                 "Prioritätenliste.",
-     .enRemark = "24 and 25 (Sum) combine the direction signals, 26 and 27 (Prio) follow the priority list."},
+     .deRemark =
+         "24 und 25 (Sum) fassen die Richtungsmeldungen zusammen, 26 und 27 (Prio) folgen der "
+         "Prioritätenliste. Ab Werk ist sie leer (AUS auf allen Plätzen); die Relais 3 und 4 folgen ihr und "
+         "melden deshalb nichts.",
+     .enRemark =
+         "24 and 25 (Sum) combine the direction signals, 26 and 27 (Prio) follow the priority list. The "
+         "factory list is empty (AUS in all places); relays 3 and 4 follow it, so they signal nothing."},
     {.de = "Wischer (qu2)",
      .en = "Transient (qu2)",
      .prefix = "qu2_",
@@ -83,7 +90,9 @@ inline constexpr Method kMethods[] = {
      .functions = "28..31",
      .priorities = "2 3",
      .deRemark = "30, 31 und Priorität 3 (CE) gelten dem Dauererdschluss (qu2_DE_active, DE_t).",
-     .enRemark = "30, 31 and priority 3 (CE) are those of the sustained earth fault (qu2_DE_active, DE_t)."},
+     .enRemark = "30, 31 and priority 3 (CE) are those of the sustained earth fault (qu2_DE_active, DE_t).",
+     .deEarthing = "isoliert, gelöscht",
+     .enEarthing = "isolated, resonant-earthed"},
     {.de = "Intermittierend und wiederzündend (qui)",
      .en = "Intermittent and restriking (qui)",
      .prefix = "qui_",
@@ -95,7 +104,9 @@ inline constexpr Method kMethods[] = {
      .logs = "LCD_log_active_qui qui_log_cycle qui_dT_log",
      .measured = "",
      .functions = "32 33",
-     .priorities = "4"},
+     .priorities = "4",
+     .deEarthing = "gelöscht, isoliert; wiederzündende Fehler, oft in Kabeln",
+     .enEarthing = "resonant-earthed, isolated; restriking faults, often in cables"},
     {.de = "Oberschwingung 250 Hz (H250)",
      .en = "Harmonic 250 Hz (H250)",
      .prefix = "harm1_",
@@ -107,7 +118,9 @@ inline constexpr Method kMethods[] = {
      .logs = "LCD_log_active_ov5 harm1_log_cycle harm1_dT_log",
      .measured = "U0_250_abs I0_250_abs Y0_250_abs Y0_250_phi",
      .functions = "40 41",
-     .priorities = "5"},
+     .priorities = "5",
+     .deEarthing = "gelöscht",
+     .enEarthing = "resonant-earthed"},
     {.de = "Oberschwingung einstellbarer Frequenz (H fx1)",
      .en = "Harmonic of settable frequency (H fx1)",
      .prefix = "harm2_",
@@ -120,8 +133,10 @@ inline constexpr Method kMethods[] = {
      .measured = "U0_f1_abs I0_f1_abs Y0_f1_abs Y0_f1_phi",
      .functions = "42 43",
      .priorities = "6",
-     .deRemark = "Wofür Priorität 7 (ovx1) steht, ist hier nicht festgehalten.",
-     .enRemark = "What priority 7 (ovx1) stands for is not kept here."},
+     .deRemark = "Wofür Priorität 7 (ovx1) steht, ist nicht dokumentiert.",
+     .enRemark = "What priority 7 (ovx1) stands for is not documented.",
+     .deEarthing = "gelöscht, mit Rundsteuerung",
+     .enEarthing = "resonant-earthed, with ripple control"},
     {.de = "Admittanz (fx2)",
      .en = "Admittance (fx2)",
      .prefix = "adm_",
@@ -138,10 +153,12 @@ inline constexpr Method kMethods[] = {
      .priorities = "",
      .deRemark =
          "85 und 86 (DynAdm) sind die Meldungen des Verfahrens; 44..47 (H_fx2+, H_fx2-) tragen seine Frequenz "
-         "im Namen, wer sie bildet, ist hier nicht festgehalten. In der Prioritätenliste kommt es nicht vor.",
+         "im Namen; welches Verfahren sie bildet, ist nicht dokumentiert. In der Prioritätenliste kommt es nicht vor.",
      .enRemark =
          "85 and 86 (DynAdm) are the signals of the method; 44..47 (H_fx2+, H_fx2-) have its frequency in "
-         "their names, what forms them is not kept here. The priority list does not have it."},
+         "their names, but which method forms them is not documented. The method is not in the priority list.",
+     .deEarthing = "gelöscht",
+     .enEarthing = "resonant-earthed"},
     {.de = "Wattmetrisch (Cos(phi))",
      .en = "Wattmetric (Cos(phi))",
      .prefix = "cos_",
@@ -153,7 +170,9 @@ inline constexpr Method kMethods[] = {
      .logs = "LCD_log_active_cos cos_log_cycle cos_dT_log",
      .measured = "U0_prim I0_prim phiUI0 P0_prim",
      .functions = "34 35",
-     .priorities = "8"},
+     .priorities = "8",
+     .deEarthing = "gelöscht",
+     .enEarthing = "resonant-earthed"},
     {.de = "Isolierter Sternpunkt (Sin(phi))",
      .en = "Isolated neutral (Sin(phi))",
      .prefix = "sin_",
@@ -165,7 +184,9 @@ inline constexpr Method kMethods[] = {
      .logs = "LCD_log_active_sin sin_log_cycle sin_dT_log",
      .measured = "U0_prim I0_prim phiUI0 Q0_prim",
      .functions = "36 37",
-     .priorities = "9"},
+     .priorities = "9",
+     .deEarthing = "isoliert",
+     .enEarthing = "isolated"},
     {.de = "Einstellbare Winkel (CosSin)",
      .en = "Settable angles (CosSin)",
      .prefix = "cos_sin_",
@@ -179,7 +200,9 @@ inline constexpr Method kMethods[] = {
      .functions = "38 39",
      .priorities = "",
      .deRemark = "In der Prioritätenliste kommt das Verfahren nicht vor.",
-     .enRemark = "The priority list does not have it."},
+     .enRemark = "The method is not in the priority list.",
+     .deEarthing = "je nach Winkel; auch niederohmig geerdet",
+     .enEarthing = "depends on the angles; also low-impedance earthed"},
     {.de = "Pulsortung 50 Hz (p50)",
      .en = "Pulse locating 50 Hz (p50)",
      .prefix = "p50_",
@@ -191,7 +214,9 @@ inline constexpr Method kMethods[] = {
      .logs = "LCD_log_active_puls50 p50_log_cycle p50_dT_log",
      .measured = "I0_prim",
      .functions = "48..52",
-     .priorities = "10"},
+     .priorities = "10",
+     .deEarthing = "gelöscht, mit Taktgerät an der Löschspule",
+     .enEarthing = "resonant-earthed, with a pulsing device at the coil"},
     {.de = "Pulsortung HPCI",
      .en = "Pulse locating HPCI",
      .prefix = "pHPCI_",
@@ -205,7 +230,9 @@ inline constexpr Method kMethods[] = {
      .functions = "53..56",
      .priorities = "",
      .deRemark = "In der Prioritätenliste kommt das Verfahren nicht vor.",
-     .enRemark = "The priority list does not have it."},
+     .enRemark = "The method is not in the priority list.",
+     .deEarthing = "gelöscht, mit Stromeinspeisung",
+     .enEarthing = "resonant-earthed, with current injection"},
     {.de = "Kurzschluss",
      .en = "Short circuit",
      .prefix = "sc_",
@@ -222,7 +249,7 @@ inline constexpr Method kMethods[] = {
          "57..64 ohne Richtung, 65..72 vorwärts, 73..80 rückwärts, 87..89 der Erdstrom. Dass >I die Klasse 1 "
          "und >>I die Klasse 2 meldet, ist aus den Namen gelesen.",
      .enRemark =
-         "57..64 undirected, 65..72 forward, 73..80 backward, 87..89 the earth current. That >I signals class "
+         "57..64 without direction, 65..72 forward, 73..80 backward, 87..89 the earth current. That >I signals class "
          "1 and >>I class 2 is read from the names."},
     {.de = "Frequenzabweichung (df)",
      .en = "Frequency deviation (df)",

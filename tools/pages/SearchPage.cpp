@@ -5,6 +5,7 @@
 #include "ParamSystem/dictionary/Tables.h"
 #include "tools/pages/Facts.h"
 #include "tools/pages/Glossary.h"
+#include "tools/pages/Notes.h"
 #include "tools/pages/Pages.h"
 
 namespace talux::pages {
@@ -18,7 +19,7 @@ std::string quoted(std::string_view text) {
     for (char c : text) {
         if (c == '"' || c == '\\') json += '\\';
         if (c == '<')
-            json += "\\u003c"; // the data stand inside an HTML element
+            json += "\\u003c"; // the data is inside an HTML element
         else
             json += c;
     }
@@ -106,6 +107,7 @@ int placeOf(const Range& range, const Item* item) {
 void addLimits(Object& object, const Parameter& parameter) {
     if (!parameter.hasNumber()) return;
     if (parameter.leastNumber() != kNoMin) object.add("min", reference::shortNumber(parameter.leastNumber()));
+    if (isChoice(parameter) && !refusesBelowOne(parameter)) object.add("lax", 1);
     if (parameter.hasMaximum()) object.add("max", reference::shortNumber(parameter.row().val_max));
 }
 
@@ -143,10 +145,19 @@ std::string data() {
     std::ranges::copy_if(reference::parameters(), std::back_inserter(all),
                          [](const Parameter& parameter) { return !parameter.isTemplate(); });
     const auto both = [](const auto& item) { return bothTexts(item.de, item.en); };
+    const auto noteJson = [](const Note& note) {
+        constexpr std::string_view kKinds[] = {"warning", "unknown", "advice"};
+        return Object()
+            .add("kind", quoted(kKinds[note.kind]))
+            .add("de", quoted(note.de))
+            .add("en", quoted(note.en))
+            .json();
+    };
     return Object()
-        .add("families", array(kFamilies, [](const stParamFamily& f) { return quoted(f.name); }))
+        .add("families",
+             array(kFamilies, [](const stParamFamily& f) { return bothTexts(germanName(f), f.name); }))
         .add("methods", array(reference::model().methods, both, ",\n"))
-        .add("notes", array(reference::model().notes, both, ",\n"))
+        .add("notes", array(kNotes, noteJson, ",\n"))
         .add("words", glossary())
         .add("shared", sharedChoices())
         .add("parameters", array(all, objectOf, ",\n"))

@@ -61,7 +61,7 @@ std::string lineOf(const Parameter& parameter) {
     record.add(parameter.type().name);
     record.add(parameter.unit());
     record.add(defaultValue(parameter));
-    record.addIf(parameter.hasNumber() && parameter.leastNumber() != kNoMin, parameter.leastNumber());
+    record.addIf(parameter.hasNumber() && parameter.hasMinimum(), parameter.row().val_min);
     record.addIf(parameter.hasNumber() && parameter.hasMaximum(), row.val_max);
     record.add(reference::fileName(parameter.file()));
     record.add(parameter.writeLevel());
