@@ -25,13 +25,22 @@ struct stParamText {
     const char* txt; // UTF-8, may hold line breaks
 };
 
-// Rows of the working table; 200 of them stay free behind the compiled-in texts.
+// Rows of the working table, and of the compiled-in one. Both are fixed within one SONAME.
 inline constexpr int kParamTextRows = 4942;
+inline constexpr int kDefParamTextRows = kParamTextRows - 200;
 
-// The compiled-in texts: sentinels first and last, grouped by id in catalogue order between them, and
-// their number of rows.
-extern TALUX_API const stParamText DefParamText[];
-extern TALUX_API const int DefParamTextCount;
+// The compiled-in texts: sentinels with id 0 and the text "***" first and last, the texts between them
+// grouped by id in catalogue order. More sentinels fill places for which there is no text yet.
+extern TALUX_API const stParamText DefParamText[kDefParamTextRows];
+extern TALUX_API const int DefParamTextCount; // kDefParamTextRows
+
+/*
+ * The working table, which every look-up reads. Row 0 stands for "not found"; after it the first row with id
+ * 0 ends the table. A program may change rows and add some at the end, before it starts a second thread.
+ * Texts of an id that has compiled-in ones are looked for beside those and in the rows from kDefParamTextRows
+ * - 1 on.
+ */
+extern TALUX_API stParamText ParamText[kParamTextRows];
 
 // "TXT_" names; the first and the last row are named "***".
 extern TALUX_API const stParamSymbol DefParamTextSymbols[];
@@ -39,7 +48,8 @@ extern TALUX_API const stParamSymbol DefParamTextSymbols[];
 // Row found by the last First or Next look-up: the one cursor of the process.
 extern TALUX_API int iLastEntry;
 
-// Fills the working table from DefParamText. Returns 1. Called at start-up before any look-up.
+// Copies DefParamText into the working table, again at every call; what a program wrote into the rows after
+// them stays. Returns 1. Called at start-up before any look-up.
 TALUX_API int LoadDefParamStrings();
 
 /*

@@ -61,9 +61,29 @@ struct stParamSymbol {
     const char* name;
 };
 
-// The compiled-in table: sentinels with id 0 and name "***" first and last, the parameters between them
-// in menu order. kParamCount, their number, is told at the end of this header.
+/*
+ * The tables. A program that names a table is linked with a place for it, as large as the table was then.
+ * When the library is newer and has more parameters,
+ * - the place of a constant table holds its first rows, and the closing sentinel is cut off: walk positions
+ * with GetParamPropertiesByOrder and resolve names with the look-ups, which read the library's own tables;
+ * - the place of a working table is the one that the library uses, too: ParamText keeps its size,
+ * ParamProperties takes up to kSpareParamRows - 1 more parameters, less the rows that the program adds.
+ */
+
+// The compiled-in table: sentinels with id 0 and name "***" first and last, the parameters between them in
+// menu order.
 extern TALUX_API const stParamProperties DefParamProperties[];
+
+// Rows of the working table behind the compiled-in ones, zero-filled.
+inline constexpr int kSpareParamRows = 98;
+
+/*
+ * The working table, which every look-up, the store and the command language read: kSpareParamRows rows more
+ * than DefParamProperties. After row 0 the first row with id 0 ends it. Before it starts a second thread, a
+ * program may change rows (access, range, type, level) and fill the first spare one. The texts of a row are
+ * never null, and its name has at most 127 characters.
+ */
+extern TALUX_API stParamProperties ParamProperties[];
 
 // A family of the menus: the parameters from table position `first` to `last`.
 struct stParamFamily {
@@ -72,27 +92,28 @@ struct stParamFamily {
     int last;
 };
 
-// The families in table order, kParamFamilyCount of them; together they hold every parameter.
+// The families in table order, which together hold every compiled-in parameter; one named "***" ends them.
 extern TALUX_API const stParamFamily DefParamFamilies[];
 
 // "VAR_" and "CMD_" names; the first and the last row are named "***".
 extern TALUX_API const stParamSymbol DefParamSymbols[];
 
 /*
- * Fills the working table from DefParamProperties: before, the look-ups find nothing. Returns 1. Called once
- * at start-up, before any look-up and any second thread; the look-ups are then thread-safe, and the rows that
- * they hand out stay valid for the life of the process.
+ * Copies DefParamProperties into the working table, again at every call; spare rows stay as they are. Before,
+ * the look-ups find nothing. Returns 1. Called at start-up, before any look-up and any second thread; the
+ * look-ups are then thread-safe, and the rows that they hand out stay valid for the life of the process.
  */
 TALUX_API int LoadDefParamProperties();
 
 // Reserved for loading properties from a file: does nothing, returns 1.
 TALUX_API int LoadParamProperties(char* sourcefile);
 
-// The first row in table order with this id, or null. Aborts on a negative id.
+// The first row in table order with this id, or null. Aborts on a negative id. A row whose id or name the
+// program gave to a second row, too, is found at the place where it was compiled in.
 TALUX_API const stParamProperties* GetParamProperties(int id);
 
-// The row at a table position: 0 the opening sentinel, 1..kParamCount the parameters, null behind them and
-// before the table is filled. Aborts on a negative position.
+// The row at a table position: 0 the opening sentinel, the parameters from 1 on. Null after the last of them,
+// at a row with id 0 and before the table is filled. Aborts on a negative position.
 TALUX_API const stParamProperties* GetParamPropertiesByOrder(int id);
 
 // The first row in table order with this name, letter case ignored, or null (a null name gives null). For
@@ -140,11 +161,5 @@ inline constexpr int kFirstSysTime = 14000, kSysTimeCount = 1;
 inline constexpr int kFirstId = 15000, kIdCount = 1;
 inline constexpr int kFirstIp = 16000, kIpCount = 38;
 inline constexpr int kFirstStruct = 30000, kStructCount = kRecordCount;
-
-// How many parameters and families there are. The project's own sources include it where they need it, so
-// that a new parameter does not compile all of them.
-#ifndef TALUX_PARAMCOUNTS_ASIDE
-#include "ParamSystem/TALUX_ParamCounts.h"
-#endif
 
 #endif

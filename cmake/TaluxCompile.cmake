@@ -4,8 +4,7 @@ target_compile_options(talux_compile INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
   -fstack-protector-strong
   -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
-target_compile_definitions(talux_compile INTERFACE
-  TALUX_PARAMCOUNTS_ASIDE $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
+target_compile_definitions(talux_compile INTERFACE $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
 target_include_directories(talux_compile INTERFACE ${talux_generated})
 add_dependencies(talux_compile talux_dictionary)
 if(TALUX_SANITIZE)

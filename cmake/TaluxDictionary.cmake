@@ -6,7 +6,6 @@ set(talux_tables
   ${talux_generated}/ParamSystem/dictionary/SymbolTable.cpp
   ${talux_generated}/ParamSystem/texts/TextTable.cpp)
 set(talux_generated_headers
-  ${talux_generated}/ParamSystem/TALUX_ParamCounts.h
   ${talux_generated}/ParamSystem/dictionary/NamedIds.inc
   ${talux_generated}/talux/parameters.hpp
   ${talux_generated}/talux/records.hpp)

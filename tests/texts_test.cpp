@@ -34,7 +34,9 @@ protected:
 using TextsDeathTest = Texts;
 
 std::span<const stParamText> texts() {
-    return {DefParamText + 1, static_cast<std::size_t>(DefParamTextCount - 2)};
+    const auto isSentinel = [](const stParamText& text) { return text.id == 0; };
+    static const stParamText* const end = std::find_if(DefParamText + 1, std::end(DefParamText), isSentinel);
+    return {DefParamText + 1, end};
 }
 
 // The row of a text in the compiled-in table, found the plain way; kNotFound is the sentinel.

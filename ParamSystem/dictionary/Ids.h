@@ -34,6 +34,10 @@ inline constexpr IdBlock kIdBlocks[] = {
     kTemplateIds,
     kCommandIds,
     {kFirstStruct, kStructCount},
+    // under which the texts of the interfaces lie: addresses, masks, gateways
+    {20000, 3},
+    {21000, 3},
+    {22000, 3},
 };
 
 inline constexpr int kNoPlace = -1;

@@ -1,34 +1,58 @@
-// The look-ups of properties. The working table is the compiled-in one, once it counts as loaded.
+// The working table of properties and its look-ups. What the generator knows of the compiled-in rows is where
+// a look-up begins: a row that a program has changed since, or added, is found by walking the table.
+#include <algorithm>
+
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/dictionary/Tables.h"
 #include "ParamSystem/support/Assertion.h"
+#include "ParamSystem/support/Text.h"
 
 namespace talux {
 namespace {
-
-constinit bool isLoaded = false;
 
 void checkId(int id, const char* function) {
     assertThat(id >= 0, "id>=0", "ParamSystem/TALUX_Params", function);
 }
 
-const stParamProperties* parameterAt(std::size_t position) {
-    return position != 0 ? &DefParamProperties[position] : nullptr;
+// A program may have left the name of its row out.
+std::string_view nameOf(const stParamProperties& row) {
+    return row.name != nullptr ? row.name : "";
 }
 
-std::string_view nameAt(std::size_t position) {
-    return DefParamProperties[position].name;
+// The last row of the table stays free.
+int lastPosition() {
+    int position = kParameters;
+    while (position < kParameters + kSpareParamRows && ParamProperties[position + 1].id != 0)
+        ++position;
+    return position;
+}
+
+// The first row that fits, before the first with id 0.
+template <class Fits>
+const stParamProperties* scan(Fits fits) {
+    for (const stParamProperties& row : parameterRows()) {
+        if (row.id == 0) break;
+        if (fits(row)) return &row;
+    }
+    return nullptr;
 }
 
 } // namespace
 
-std::span<const SettingPlace> allSettings() {
-    if (!isLoaded) return {};
-    return kSettings;
+bool areParametersLoaded() {
+    return ParamProperties[1].id != 0;
+}
+
+std::span<const stParamProperties> parameterRows() {
+    return {ParamProperties + 1, static_cast<std::size_t>(lastPosition())};
 }
 
 const stParamProperties* findParameter(std::string_view name) {
-    return isLoaded ? parameterAt(kNameIndex.find(name, nameAt)) : nullptr;
+    if (!areParametersLoaded()) return nullptr;
+    const auto nameAt = [](std::size_t position) { return nameOf(ParamProperties[position]); };
+    const std::size_t position = kNameIndex.find(name, nameAt);
+    if (position != 0 && ParamProperties[position].id != 0) return &ParamProperties[position];
+    return scan([name](const auto& row) { return equalIgnoringCase(nameOf(row), name); });
 }
 
 } // namespace talux
@@ -36,7 +60,7 @@ const stParamProperties* findParameter(std::string_view name) {
 using namespace talux;
 
 int LoadDefParamProperties() {
-    isLoaded = true;
+    std::copy_n(DefParamProperties, kParameters + 1, ParamProperties);
     return 1;
 }
 
@@ -46,15 +70,18 @@ int LoadParamProperties(char*) {
 
 const stParamProperties* GetParamProperties(int id) {
     checkId(id, __PRETTY_FUNCTION__);
-    if (!isLoaded) return nullptr;
+    if (id == 0 || !areParametersLoaded()) return nullptr;
     const int place = placeOf(id);
-    return place == kNoPlace ? nullptr : parameterAt(kIdPositions[place]);
+    const int position = place == kNoPlace ? 0 : kIdPositions[place];
+    if (ParamProperties[position].id == id) return &ParamProperties[position];
+    return scan([id](const auto& row) { return row.id == id; });
 }
 
 const stParamProperties* GetParamPropertiesByOrder(int id) {
     checkId(id, __PRETTY_FUNCTION__);
-    if (!isLoaded || id > kParameters) return nullptr;
-    return &DefParamProperties[id];
+    if (!areParametersLoaded() || id > lastPosition()) return nullptr;
+    const stParamProperties& row = ParamProperties[id];
+    return id == 0 || row.id != 0 ? &row : nullptr;
 }
 
 const stParamProperties* GetParamPropertiesByName(char* name) {

@@ -1,13 +1,25 @@
-// Ids of VAR_ and CMD_ names.
+// Ids of VAR_, CMD_ and TXT_ names.
+#include "ParamSystem/TALUX_ParamStrings.h"
 #include "ParamSystem/dictionary/Tables.h"
 
 using namespace talux;
 
-int ResolveParamSymbol(char* name, VarLong* lvalue) {
+namespace {
+
+int resolve(const stParamSymbol* symbols, const NameIndex& index, const char* name, VarLong* id) {
     if (name == nullptr) return 0;
-    const auto nameAt = [](std::size_t position) { return DefParamSymbols[position].name; };
-    const std::size_t position = kSymbolIndex.find(name, nameAt);
+    const std::size_t position = index.find(name, [symbols](std::size_t k) { return symbols[k].name; });
     if (position == 0) return 0;
-    *lvalue = DefParamSymbols[position].value;
+    *id = symbols[position].value;
     return 1;
+}
+
+} // namespace
+
+int ResolveParamSymbol(char* name, VarLong* lvalue) {
+    return resolve(DefParamSymbols, kSymbolIndex, name, lvalue);
+}
+
+int ResolveParamTextSymbol(char* name, VarLong* lvalue) {
+    return resolve(DefParamTextSymbols, kTextSymbolIndex, name, lvalue);
 }

@@ -2,8 +2,9 @@
 #ifndef TALUX_DICTIONARY_TABLES_H
 #define TALUX_DICTIONARY_TABLES_H
 
+#include <span>
+
 #include "ParamSystem/TALUX_Params.h"
-#include "ParamSystem/dictionary/AllSettings.h"
 #include "ParamSystem/dictionary/Ids.h"
 #include "ParamSystem/dictionary/NameIndex.h"
 
@@ -11,9 +12,9 @@ namespace talux {
 
 extern const int kParameters; // rows between the sentinels
 extern const std::span<const stParamFamily> kFamilies;
-extern const std::span<const SettingPlace> kSettings;
 extern const NameIndex kNameIndex;
 extern const NameIndex kSymbolIndex;
+extern const NameIndex kTextSymbolIndex;
 extern const std::uint16_t kIdPositions[kIdPlaces]; // of the first row with the id; 0 where there is none
 
 } // namespace talux

@@ -56,10 +56,13 @@ Value clockValue(Nature nature, const std::tm& now) {
 
 std::size_t formatLine(char* line, const stParamProperties& row, const Value& value) {
     const Type& type = typeOf(row);
-    // Templates have the type of a value and no slot for one.
-    if (!holds(type.kind, row.id) || value.isText() != isText(type.nature)) return 0;
+    // Templates have the type of a value and no slot for one. A name that no term can hold comes from a
+    // program.
+    const std::string_view name(row.name);
+    if (!holds(type.kind, row.id) || name.size() >= kTextSize || value.isText() != isText(type.nature))
+        return 0;
     char* end = append(line, kKeyPrefix);
-    end = append(end, row.name);
+    end = append(end, name);
     *end++ = '=';
     end = appendValue(end, type, value);
     *end++ = '\n';

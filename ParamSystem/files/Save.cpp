@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <optional>
 
-#include "ParamSystem/dictionary/AllSettings.h"
+#include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/files/Line.h"
 #include "ParamSystem/files/Path.h"
 #include "ParamSystem/files/Replace.h"
@@ -52,8 +52,7 @@ std::optional<std::size_t> compose(Contents& contents, ParameterFile which) {
     std::tm now;
     talux::os::localTime(now);
     std::size_t length = 0;
-    for (const talux::SettingPlace& setting : talux::allSettings()) {
-        const stParamProperties& row = *GetParamPropertiesByOrder(setting.position);
+    for (const stParamProperties& row : talux::parameterRows()) {
         if (talux::fileOf(row) != which) continue;
         if (sizeof contents - length < talux::kLineSize) return {};
         if (const auto value = talux::savedValue(row, now))
@@ -72,7 +71,7 @@ Replacement writeContents(const char* filename, ParameterFile which, const Right
 // 0 when the file cannot be created or is not surely kept. A failed write counts as done, with a message; the
 // old file stays.
 int writeFile(const char* filename, ParameterFile which, const Rights* rights) {
-    if (talux::allSettings().empty()) {
+    if (!talux::areParametersLoaded()) {
         std::fprintf(stderr, "Error (TALUX_Var): no parameters loaded, '%s' stays as it is \n", filename);
         return 0;
     }

@@ -185,7 +185,9 @@ private:
 
 Action readOf(const Decision& decision) {
     if (decision.variable.indices > 0) return Action::readElements;
-    return typeOf(*decision.row).nature == Nature::record ? Action::readRecord : Action::readScalar;
+    const bool isRecord =
+        typeOf(*decision.row).nature == Nature::record && holds(Kind::Struct, decision.row->id);
+    return isRecord ? Action::readRecord : Action::readScalar;
 }
 
 Action writeOf(const Decision& decision) {

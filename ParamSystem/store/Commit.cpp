@@ -1,8 +1,7 @@
 // The two operations over all parameters: factory defaults and the commit.
 #include <cstdio>
 
-#include "ParamSystem/dictionary/AllSettings.h"
-#include "ParamSystem/dictionary/Tables.h"
+#include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/store/ChangeFlags.h"
 #include "ParamSystem/store/Slots.h"
 #include "ParamSystem/store/Values.h"
@@ -22,12 +21,6 @@ void commit(int id) {
             talux::putNumber<kind, Space::global>(id, talux::getNumber<kind, Space::temp>(id));
         }
     });
-}
-
-// Nobody has loaded the properties: no position has a row.
-void reportMissingRows() {
-    for (int position = 1; position <= talux::kParameters; ++position)
-        std::fputs("Error (TALUX_Var): Error during copy temp->global\n", stderr);
 }
 
 // Keeps the change flags for the life of the object and puts them back at its end.
@@ -51,16 +44,15 @@ private:
 } // namespace
 
 void VarSetDefault(void) {
-    for (int position = 1; position <= talux::kParameters; ++position)
-        if (const stParamProperties* row = GetParamPropertiesByOrder(position))
-            if (const auto value = talux::defaultOf(*row)) talux::writeValue(Space::temp, row->id, *value);
+    for (const stParamProperties& row : talux::parameterRows())
+        if (const auto value = talux::defaultOf(row)) talux::writeValue(Space::temp, row.id, *value);
 }
 
 int VarUpdateGlobalSpace(void) {
     const KeptFlags flags;
-    const auto settings = talux::allSettings();
-    if (settings.empty()) reportMissingRows();
-    for (const talux::SettingPlace& setting : settings)
-        commit(setting.id);
+    for (const stParamProperties& row : talux::parameterRows()) {
+        if (row.id == 0) std::fputs("Error (TALUX_Var): Error during copy temp->global\n", stderr);
+        if (row.is_volatile != 1) commit(row.id);
+    }
     return 1;
 }

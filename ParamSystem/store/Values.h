@@ -17,8 +17,10 @@ public:
     explicit Value(std::string_view characters) : text_(true) { copyText(characters_, characters); }
 
     bool isText() const { return text_; }
-    double number() const { return number_; }        // only of a number
-    const char* text() const { return characters_; } // only of a text
+    // A program may have given a parameter a type that is not that of its id: the number of a text is 0, the
+    // text of a number is empty.
+    double number() const { return text_ ? 0 : number_; }
+    const char* text() const { return text_ ? characters_ : ""; }
 
 private:
     bool text_;

@@ -1,4 +1,4 @@
-// Replaces the texts by those of a file.
+// Fills the working table: with the compiled-in texts or with those of a file.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -8,17 +8,22 @@
 #include "MenuSystem/TALUX_Data.h"
 #include "ParamSystem/TALUX_ParamStrings.h"
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/texts/CurrentTexts.h"
+#include "ParamSystem/texts/Tables.h"
+
+constinit stParamText ParamText[kParamTextRows] = {};
 
 namespace talux {
+
+constinit bool areTextsOfFile = false;
 
 namespace {
 
 constexpr char kModule[] = "TALUX_ParamStrings";
 constexpr std::size_t kMaxLine = 253; // characters, line feed included
 
-// One row more, so that a full table ends too. No memory is used before a file is loaded.
-constinit stParamText loadedTexts[kParamTextRows + 1] = {};
+void clearFrom(int row) {
+    std::fill(ParamText + row, std::end(ParamText), stParamText{});
+}
 
 // `format` takes the module's name and then `name`.
 [[noreturn]] void fail(FILE* source, const char* format, const char* name = "") {
@@ -72,17 +77,24 @@ stParamText readText(FILE* source, char* line) {
 
 using namespace talux;
 
+int LoadDefParamStrings() {
+    if (areTextsOfFile) clearFrom(kTexts + 1);
+    areTextsOfFile = false;
+    std::copy_n(DefParamText, kTexts + 1, ParamText);
+    return 1;
+}
+
 int LoadParamStrings(char* sourcefile) {
     FILE* source = os::openStream(sourcefile);
     if (!source) fail(source, "Error (%s): Can't find source file '%s'\n", sourcefile);
     int row = 0;
     for (char line[kMaxLine + 2]; readLine(source, line, sourcefile); ++row) {
         if (row == kParamTextRows) fail(source, "\nError (%s): max string number exceeded\n");
-        loadedTexts[row] = readText(source, line);
+        ParamText[row] = readText(source, line);
     }
     std::fclose(source);
-    std::fill(loadedTexts + row, std::end(loadedTexts), stParamText{});
-    if (row == 0) loadedTexts[0].txt = "***";
-    currentTexts = {loadedTexts, kParamTextRows + 1};
+    clearFrom(row);
+    if (row == 0) ParamText[0].txt = "***";
+    areTextsOfFile = true;
     return 1;
 }

@@ -1,11 +1,12 @@
 // Looks texts up in the language that is set, with English to fall back on.
+#include <algorithm>
 #include <optional>
 
 #include "ParamSystem/TALUX_ParamStrings.h"
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/dictionary/IdOf.h"
 #include "ParamSystem/support/Assertion.h"
-#include "ParamSystem/texts/CurrentTexts.h"
+#include "ParamSystem/texts/Tables.h"
 
 // The message names the exported function, so each of them holds its own.
 #define TALUX_ASSERT_ID(id)                                                                                  \
@@ -35,26 +36,52 @@ int currentLanguage() {
     return language == kGerman ? kGerman : kEnglish;
 }
 
+bool isInUse(int row) {
+    return row < kParamTextRows && ParamText[row].id != 0;
+}
+
 int findFrom(int row, const Wanted& wanted, int language) {
-    for (; row < currentTexts.count && currentTexts.rows[row].id != 0; ++row)
-        if (wanted.matches(currentTexts.rows[row], language)) return row;
+    for (; isInUse(row); ++row)
+        if (wanted.matches(ParamText[row], language)) return row;
     return kNotFound;
 }
 
+// Among the rows with one id from `row` on, and in those behind the compiled-in texts.
+int findNear(int row, const Wanted& wanted, int language) {
+    for (; isInUse(row) && ParamText[row].id == wanted.id; ++row)
+        if (wanted.matches(ParamText[row], language)) return row;
+    return findFrom(std::max(row, kTexts + 1), wanted, language);
+}
+
+// The first of the compiled-in rows with an id, if that is still its place; else kNotFound.
+int firstRowOf(int id) {
+    const int place = placeOf(id);
+    const int row = place == kNoPlace || areTextsOfFile ? kNotFound : kTextRows[place];
+    return ParamText[row].id == id ? row : kNotFound;
+}
+
 int findWithFallback(const Wanted& wanted) {
-    const int row = findFrom(1, wanted, currentLanguage());
-    return row != kNotFound ? row : findFrom(1, wanted, kEnglish);
+    const int languages[] = {currentLanguage(), kEnglish};
+    if (const int first = firstRowOf(wanted.id); first != kNotFound && isInUse(1))
+        for (const int language : languages)
+            if (const int row = findNear(first, wanted, language); row != kNotFound) return row;
+    for (const int language : languages)
+        if (const int row = findFrom(1, wanted, language); row != kNotFound) return row;
+    return kNotFound;
 }
 
 // The cursor may have been set by anybody.
-int findBehindCursor(const Wanted& wanted) {
-    if (iLastEntry < 0 || iLastEntry >= currentTexts.count) return kNotFound;
-    return findFrom(iLastEntry + 1, wanted, currentLanguage());
+int findAfterCursor(const Wanted& wanted) {
+    if (iLastEntry < 0 || iLastEntry >= kParamTextRows) return kNotFound;
+    const bool isNear =
+        iLastEntry <= kTexts && firstRowOf(wanted.id) != kNotFound && ParamText[iLastEntry].id == wanted.id;
+    const auto find = isNear ? findNear : findFrom;
+    return find(iLastEntry + 1, wanted, currentLanguage());
 }
 
 const stParamText* rowAndCursor(int row) {
     if (row != kNotFound) iLastEntry = row;
-    return &currentTexts.rows[row];
+    return &ParamText[row];
 }
 
 } // namespace
@@ -64,7 +91,7 @@ using namespace talux;
 
 const stParamText* GetParamString(int id, int type) {
     TALUX_ASSERT_ID(id);
-    return &currentTexts.rows[findWithFallback({id, type})];
+    return &ParamText[findWithFallback({id, type})];
 }
 
 const stParamText* GetFirstParamString(int id, int type) {
@@ -74,12 +101,12 @@ const stParamText* GetFirstParamString(int id, int type) {
 
 const stParamText* GetNextParamString(int id, int type) {
     TALUX_ASSERT_ID(id);
-    return rowAndCursor(findBehindCursor({id, type}));
+    return rowAndCursor(findAfterCursor({id, type}));
 }
 
 const stParamText* GetParamStringInGroup(int id, int group, int item, int type) {
     TALUX_ASSERT_ID(id);
-    return &currentTexts.rows[findWithFallback({id, type, group, item})];
+    return &ParamText[findWithFallback({id, type, group, item})];
 }
 
 const stParamText* GetFirstParamStringInGroup(int id, int group, int type) {
@@ -89,5 +116,5 @@ const stParamText* GetFirstParamStringInGroup(int id, int group, int type) {
 
 const stParamText* GetNextParamStringInGroup(int id, int group, int type) {
     TALUX_ASSERT_ID(id);
-    return rowAndCursor(findBehindCursor({id, type, group}));
+    return rowAndCursor(findAfterCursor({id, type, group}));
 }

@@ -33,15 +33,18 @@ std::string nameIndex(const std::string& name, const std::vector<std::string>& n
            "Index = {slotsOf" + name + ", " + std::to_string(slots.size() - 1) + "};\n";
 }
 
+// Sets the position of an id that has none yet.
+void place(std::vector<std::uint16_t>& positions, int id, int position) {
+    std::uint16_t& known = positions[static_cast<std::size_t>(placeOf(id))];
+    if (known == 0) known = static_cast<std::uint16_t>(position);
+}
+
 // Position of the first row with the id of each place.
 std::string idIndex(const Model& model) {
     std::vector<std::uint16_t> positions(kIdPlaces);
     for (const Row& row : model.rows)
         for (int k = 0; k < row.elements(); ++k)
-            if (std::uint16_t& position =
-                    positions[static_cast<std::size_t>(placeOf(row.properties->id + k))];
-                position == 0)
-                position = static_cast<std::uint16_t>(row.position + k);
+            place(positions, row.properties->id + k, row.position + k);
     return numbers("const std::uint16_t kIdPositions[kIdPlaces]", positions);
 }
 
@@ -62,27 +65,15 @@ std::string propertyTable(const Model& model, Pool& pool) {
     for (const Row& parameter : model.rows)
         for (int k = 0; k < parameter.elements(); ++k)
             rows += propertyRow(*parameter.properties, k, pool);
-    return rows + sentinel + "};\n";
-}
-
-// A template has the type of a value and stores none.
-bool isSetting(const Row& row) {
-    return !row.isTemplate() && row.properties->type != kTypeCommand && row.properties->is_volatile == 0;
-}
-
-std::string settingTable(const Model& model) {
-    std::string rows;
-    for (const Row& parameter : model.rows)
-        if (isSetting(parameter)) rows += row(number(parameter.position), number(parameter.properties->id));
-    return "static const SettingPlace settingRows[] = {\n" + rows +
-           "};\nconstinit const std::span<const SettingPlace> kSettings = settingRows;\n";
+    return rows + sentinel + "};\nstParamProperties ParamProperties[" +
+           number(model.families.back().last + 2 + kSpareParamRows) + "];\n";
 }
 
 std::string familyTable(const Model& model, Pool& pool) {
     std::string rows = "const stParamFamily DefParamFamilies[] = {\n";
     for (const stParamFamily& family : model.families)
         rows += row(pool.place(family.name), number(family.first), number(family.last));
-    return rows + "};\n";
+    return rows + row(pool.place("***"), "0,0") + "};\n";
 }
 
 std::string properties(const Model& model) {
@@ -93,8 +84,8 @@ std::string properties(const Model& model) {
         names.insert(names.end(), static_cast<std::size_t>(row.elements()), row.properties->name);
     return std::string(kHead) + "#include \"ParamSystem/dictionary/Tables.h\"\n" + pool.definition() +
            tables + "namespace talux {\nconst int kParameters = " + std::to_string(names.size() - 1) + ";\n" +
-           "constinit const std::span<const stParamFamily> kFamilies = DefParamFamilies;\n" +
-           settingTable(model) + nameIndex("Name", names) + idIndex(model) + "}\n";
+           "constinit const std::span<const stParamFamily> kFamilies(DefParamFamilies, " +
+           std::to_string(model.families.size()) + ");\n" + nameIndex("Name", names) + idIndex(model) + "}\n";
 }
 
 struct Symbol {
@@ -107,6 +98,13 @@ std::string symbolTable(std::string_view name, const std::vector<Symbol>& symbol
     for (const Symbol& symbol : symbols)
         rows += row(number(symbol.value), pool.place(symbol.name));
     return rows + row("0", pool.place("***")) + "};\n";
+}
+
+std::vector<std::string> namesOf(const std::vector<Symbol>& symbols) {
+    std::vector<std::string> names;
+    for (const Symbol& symbol : symbols)
+        names.push_back(symbol.name);
+    return names;
 }
 
 std::string symbolOf(const Row& row) {
@@ -131,15 +129,13 @@ std::string symbols(const Model& model) {
         if (row.textId != 0)
             ofTexts.push_back({row.textId, (row.isTemplate() ? "TXT_TPL_" : "TXT_") + std::string(row.name)});
     }
-    std::vector<std::string> names;
-    for (const Symbol& symbol : all)
-        names.push_back(symbol.name);
     Pool pool;
     const std::string tables =
         symbolTable("DefParamSymbols", all, pool) + symbolTable("DefParamTextSymbols", ofTexts, pool);
     return std::string(kHead) +
            "#include \"ParamSystem/TALUX_ParamStrings.h\"\n#include \"ParamSystem/dictionary/Tables.h\"\n" +
-           pool.definition() + tables + "namespace talux {\n" + nameIndex("Symbol", names) + "}\n";
+           pool.definition() + tables + "namespace talux {\n" + nameIndex("Symbol", namesOf(all)) +
+           nameIndex("TextSymbol", namesOf(ofTexts)) + "}\n";
 }
 
 // The rows of the text table with the texts of one parameter.
@@ -158,6 +154,7 @@ public:
     }
 
     std::string rows;
+    int count = 0;
 
 private:
     void addBoth(int type, const model::Both& text, int item = 0) {
@@ -169,6 +166,7 @@ private:
         if (text.empty()) return;
         rows += row(number(id), number(language), number(type), "{}", number(group), number(item),
                     pool.place(text));
+        ++count;
     }
 
     int id;
@@ -179,11 +177,20 @@ std::string textTable(const Model& model) {
     Pool pool;
     const std::string sentinel = "{0,0,0,{},0,0," + pool.place("***") + "},\n";
     std::string rows = sentinel;
-    for (const Row& row : model.rows)
-        rows += TextRows(row, pool).rows;
-    return std::string(kHead) + "#include \"ParamSystem/TALUX_ParamStrings.h\"\n" + pool.definition() +
-           "const stParamText DefParamText[] = {\n" + rows + sentinel +
-           "};\nconst int DefParamTextCount = sizeof DefParamText / sizeof *DefParamText;\n";
+    std::vector<std::uint16_t> firstRows(kIdPlaces);
+    int count = 0;
+    for (const Row& row : model.rows) {
+        const TextRows texts(row, pool);
+        if (texts.count != 0) place(firstRows, row.textId, count + 1);
+        rows += texts.rows;
+        count += texts.count;
+    }
+    for (int free = kDefParamTextRows - 1 - count; free > 0; --free)
+        rows += sentinel;
+    return std::string(kHead) + "#include \"ParamSystem/texts/Tables.h\"\n" + pool.definition() +
+           "const stParamText DefParamText[kDefParamTextRows] = {\n" + rows +
+           "};\nconst int DefParamTextCount = kDefParamTextRows;\nnamespace talux {\nconst int kTexts = " +
+           number(count) + ";\n" + numbers("const std::uint16_t kTextRows[kIdPlaces]", firstRows) + "}\n";
 }
 
 // Sorted, for idOf.
@@ -197,27 +204,6 @@ std::string namedIds(const Model& model) {
     return std::string(kHead) + rows + "};\n";
 }
 
-std::string counts(std::size_t parameters, std::size_t families) {
-    return std::string(kHead) +
-           R"(// How many parameters and families this version has. TALUX_Params.h includes it.
-#ifndef TALUX_PARAMCOUNTS_H
-#define TALUX_PARAMCOUNTS_H
-
-#include "ParamSystem/TALUX_Params.h"
-
-// Parameter rows between the two sentinels.
-inline constexpr int kParamCount = )" +
-           std::to_string(parameters) + R"(;
-extern TALUX_API const stParamProperties DefParamProperties[kParamCount + 2];
-
-inline constexpr int kParamFamilyCount = )" +
-           std::to_string(families) + R"(;
-extern TALUX_API const stParamFamily DefParamFamilies[kParamFamilyCount];
-
-#endif
-)";
-}
-
 } // namespace
 
 void addModuleTables(Sources& sources, const Model& model) {
@@ -225,8 +211,6 @@ void addModuleTables(Sources& sources, const Model& model) {
     sources["ParamSystem/dictionary/SymbolTable.cpp"] = symbols(model);
     sources["ParamSystem/dictionary/NamedIds.inc"] = namedIds(model);
     sources["ParamSystem/texts/TextTable.cpp"] = textTable(model);
-    sources["ParamSystem/TALUX_ParamCounts.h"] =
-        counts(static_cast<std::size_t>(model.families.back().last), model.families.size());
 }
 
 } // namespace talux::generator

@@ -190,7 +190,7 @@ std::vector<Text> spellOut(std::span<const TextFamily> families, const std::vect
              "ParamSystem/texts",
              std::to_string(texts.size()) + " texts, the table takes " + std::to_string(kMostTexts) +
                  ": share choices through a template, drop descriptions of what nobody sees, or let "
-                 "the table grow (kParamTextRows, which other programs have compiled in)"});
+                 "the table grow (kDefParamTextRows, which other programs have compiled in)"});
     return texts;
 }
 

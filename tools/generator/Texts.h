@@ -13,8 +13,8 @@
 
 namespace talux::generator {
 
-// Rows between the sentinels; 200 of the working table stay free.
-inline constexpr std::size_t kMostTexts = kParamTextRows - 200 - 2;
+// Rows between the sentinels.
+inline constexpr std::size_t kMostTexts = kDefParamTextRows - 2;
 
 struct Text {
     int id, language, type, group, item;

@@ -1,0 +1,22 @@
+// Where the texts of an id are looked for first.
+#ifndef TALUX_TEXTS_TABLES_H
+#define TALUX_TEXTS_TABLES_H
+
+#include <cstdint>
+
+#include "ParamSystem/TALUX_ParamStrings.h"
+#include "ParamSystem/dictionary/Ids.h"
+
+namespace talux {
+
+// Made by tools/generator.
+extern const int kTexts; // compiled-in ones, from row 1 on
+extern const std::uint16_t
+    kTextRows[kIdPlaces]; // the first row with the id of each place; 0 where there is none
+
+// Whether the working table has texts of a file in place of the compiled-in ones.
+extern constinit bool areTextsOfFile;
+
+} // namespace talux
+
+#endif
