@@ -11,6 +11,7 @@ set(talux_generated_headers
   ${talux_generated}/talux/records.hpp)
 set(talux_lua_tables parameters parameters_de parameters_en records)
 list(TRANSFORM talux_lua_tables REPLACE "(.+)" "${talux_generated}/lua/talux/\\1.lua")
+set(talux_csv ${talux_generated}/docs/parameters/parameters.csv)
 set(talux_model_table ${talux_generated}/tools/reference/ModelTable.cpp) # of the program talux
 
 if(CMAKE_CROSSCOMPILING)
@@ -33,7 +34,7 @@ add_custom_command(OUTPUT ${talux_generated}/stamp
   COMMAND ${talux_generator} ${talux_generated}
   COMMAND ${CMAKE_COMMAND} -E touch ${talux_generated}/stamp
   DEPENDS ${talux_generator}
-  BYPRODUCTS ${talux_tables} ${talux_generated_headers} ${talux_lua_tables} ${talux_model_table}
+  BYPRODUCTS ${talux_csv} ${talux_tables} ${talux_generated_headers} ${talux_lua_tables} ${talux_model_table}
   COMMENT "Making the tables of the dictionary"
   VERBATIM)
 add_custom_target(talux_dictionary DEPENDS ${talux_generated}/stamp)

@@ -69,5 +69,6 @@ talux_install(development FILES src/talux_interpreter.h src/lib_talux_lua.h DEST
 set(talux_doc_dir ${CMAKE_INSTALL_DATADIR}/doc/talux-lua-dev)
 talux_install(development FILES README.md DESTINATION ${talux_doc_dir})
 talux_install(development DIRECTORY docs examples DESTINATION ${talux_doc_dir})
+talux_install(development FILES ${talux_csv} DESTINATION ${talux_doc_dir}/docs/parameters)
 
 include(TaluxPackages)

@@ -21,6 +21,7 @@ Sources tables(const model::Model& model) {
     addModelTable(sources, model);
     addLuaTables(sources, model);
     addHeaders(sources, model);
+    addCsvTable(sources, model);
     return sources;
 }
 

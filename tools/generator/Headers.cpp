@@ -30,7 +30,7 @@ class ChoiceLists {
 public:
     explicit ChoiceLists(const Model& model) {
         for (const Parameter parameter : model.rows)
-            if (!parameter.isTemplate() && parameter.type().kind == Kind::Enum) add(parameter);
+            if (!parameter.isTemplate() && parameter.hasAllChoices()) add(parameter);
     }
 
     // Number of the parameter's list, counted from 1; 0 when it has none.
@@ -75,8 +75,6 @@ private:
 
     void add(const Parameter& parameter) {
         const Items choices = parameter.choiceItems();
-        const double first = std::max(1.0, parameter.row().val_min);
-        if (static_cast<double>(choices.size()) != parameter.row().val_max - first + 1) return;
         auto list = std::ranges::find_if(
             lists, [&](const List& known) { return isSameList(known.choices, choices); });
         if (list == lists.end()) list = lists.insert(list, {choices, {}});

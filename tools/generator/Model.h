@@ -52,10 +52,21 @@ struct Row {
     int elements() const { return isIndexed() ? properties->val_max_id - properties->val_min_id + 1 : 1; }
 };
 
+enum NoteKind {
+    kWarning, // a wrong value or a careless write does harm, or does not do what one expects
+    kUnknown, // the meaning is not documented, or only read from the name
+    kAdvice   // good to know
+};
+
+struct Note {
+    Both text;
+    NoteKind kind;
+};
+
 struct Model {
     std::span<const Row> rows; // in menu order
     std::span<const stParamFamily> families;
-    std::span<const Both> notes;
+    std::span<const Note> notes;
     std::span<const Both> methods; // their names
 };
 

@@ -45,13 +45,20 @@ public:
         std::string rows;
         for (const Row& row : model.rows)
             rows += line(row);
-        const std::string lists = array("notes", model.notes) + array("methods", model.methods);
+        std::string notes, methods;
+        for (const model::Note& note : model.notes)
+            notes += row(both(note.text), "NoteKind(" + number(note.kind) + ")");
+        for (const Both& method : model.methods)
+            methods += both(method) + ",\n";
         return joined(
             {kHead,
              "#include \"ParamSystem/dictionary/Tables.h\"\n#include \"tools/reference/Reference.h\"\n"
              "namespace talux::reference {\nnamespace {\nusing namespace model;\n",
-             pool.definition(), items.definition(), noteRuns.definition(), lists,
-             "extern const Row rows[];\nconst Row rows[] = {\n", rows,
+             pool.definition(), items.definition(), noteRuns.definition(), "constexpr Note notes[] = {\n",
+             notes, "};\nconstexpr Both methods[] = {\n", methods,
+             "};\n"
+             "extern const Row rows[];\nconst Row rows[] = {\n",
+             rows,
              "};\n}\nconst Model& model() {\nstatic const Model all{rows, kFamilies, notes, methods};\n"
              "return all;\n}\n}\n"});
     }
@@ -63,13 +70,6 @@ private:
 
     std::string both(const Both& text) {
         return joined({"{", pool.view(text.de), ",", pool.view(text.en), "}"});
-    }
-
-    std::string array(std::string_view name, std::span<const Both> texts) {
-        std::string rows;
-        for (const Both& text : texts)
-            rows += both(text) + ",\n";
-        return joined({"constexpr Both ", name, "[] = {\n", rows, "};\n"});
     }
 
     std::string group(const model::Group& group) {

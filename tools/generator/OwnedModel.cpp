@@ -123,7 +123,7 @@ void OwnedModel::addNotes() {
     for (const pages::Note& note : pages::kNotes) {
         for (const std::string& name : namesOf(note.names))
             byName[name].push_back(static_cast<int>(notes.size()));
-        notes.push_back({note.de, note.en});
+        notes.push_back({{note.de, note.en}, note.kind});
     }
     for (Row& row : rows) {
         const auto found = byName.find((row.isTemplate() ? "TPL_" : "") + std::string(row.name));

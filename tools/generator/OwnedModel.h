@@ -27,7 +27,8 @@ private:
     std::deque<std::vector<int>> noteLists;
     std::vector<model::Row> rows;
     std::vector<stParamFamily> families;
-    std::vector<model::Both> notes, methods;
+    std::vector<model::Note> notes;
+    std::vector<model::Both> methods;
 
     std::string_view keep(std::string_view text);
     void addFamilies(std::span<const catalogue::Family> all);

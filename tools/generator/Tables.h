@@ -16,6 +16,7 @@ void addModuleTables(Sources& sources, const model::Model& model);
 void addModelTable(Sources& sources, const model::Model& model); // of the program talux
 void addLuaTables(Sources& sources, const model::Model& model);
 void addHeaders(Sources& sources, const model::Model& model); // of C++ programs
+void addCsvTable(Sources& sources, const model::Model& model);
 
 } // namespace talux::generator
 

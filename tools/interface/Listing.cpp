@@ -3,6 +3,7 @@
 #include <map>
 #include <sstream>
 
+#include "tools/Strings.h"
 #include "tools/reference/Reference.h"
 
 namespace talux::interface {
@@ -12,12 +13,8 @@ using reference::File;
 using reference::Parameter;
 using reference::shortNumber;
 
-std::string quoted(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
-
 std::string value(const Parameter& parameter, double number, const char* text) {
-    return isText(parameter.row()) ? quoted(text) : shortNumber(number);
+    return isText(parameter.row()) ? '"' + std::string(text) + '"' : shortNumber(number);
 }
 
 std::string placeOf(const Parameter& parameter) {
@@ -52,6 +49,15 @@ void addValues(ListingRow& cells, const Parameter& parameter) {
     if (row.val_len >= 0) cells[kLength] = std::to_string(row.val_len);
 }
 
+// What C++ programs call the choices, where the list is its own.
+std::string choicesOf(const Parameter& parameter) {
+    if (!parameter.hasAllChoices() || !parameter.templateName().empty()) return {};
+    std::vector<std::string> names;
+    for (const model::Item& choice : parameter.choiceItems())
+        names.push_back(joined({choice.api, "=", std::to_string(choice.number)}));
+    return list(names, " ");
+}
+
 ListingRow rowOf(const Parameter& parameter) {
     const stParamProperties& row = parameter.row();
     ListingRow cells;
@@ -65,6 +71,7 @@ ListingRow rowOf(const Parameter& parameter) {
     if (parameter.hasNumber() || isText(row)) addValues(cells, parameter);
     cells[kTemplate] = parameter.templateName();
     cells[kFormat] = row.format;
+    cells[kChoiceNames] = choicesOf(parameter);
     return cells;
 }
 
@@ -79,11 +86,11 @@ ListingRow rowOf(const Parameter& record, const StructMemberProperties_t& member
     return cells;
 }
 
-std::string joined(const std::map<std::string, int>& counts) {
-    std::string text;
+std::string inWords(const std::map<std::string, int>& counts) {
+    std::vector<std::string> words;
     for (const auto& [what, count] : counts)
-        text += (text.empty() ? " " : ", ") + std::to_string(count) + ' ' + what;
-    return text;
+        words.push_back(std::to_string(count) + ' ' + what);
+    return list(words);
 }
 
 std::string summary() {
@@ -97,8 +104,8 @@ std::string summary() {
         ++settings[kind];
         ++files[std::string(fileName(parameter.file()))];
     }
-    return "# " + std::to_string(rows) + " rows:" + joined(kinds) +
-           "\n# A commit copies:" + joined(settings) + "\n# Files hold:" + joined(files) + "\n";
+    return joined({"# ", std::to_string(rows), " rows: ", inWords(kinds),
+                   "\n# A commit copies: ", inWords(settings), "\n# Files hold: ", inWords(files), "\n"});
 }
 
 } // namespace

@@ -25,6 +25,7 @@ enum Column {
     kLength,
     kTemplate,
     kFormat,
+    kChoiceNames,
     kColumns
 };
 
@@ -47,6 +48,7 @@ inline constexpr ColumnText kColumnTexts[kColumns] = {
     {"length", "longest text"},
     {"template", "the display offers other choices"},
     {"format", "of the display"},
+    {"choices", "C++ programs with the old names do not compile"},
 };
 
 using ListingRow = std::array<std::string, kColumns>;

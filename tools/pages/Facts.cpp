@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "ParamSystem/dictionary/Tables.h"
-#include "ParamSystem/kepl/Decision.h"
 #include "tools/pages/Names.h"
 
 namespace talux::pages {
@@ -39,34 +37,15 @@ constexpr std::string_view kGermanFamilies[] = {"Vorlagen",
 } // namespace
 
 std::string_view germanName(const stParamFamily& family) {
-    return kGermanFamilies[static_cast<std::size_t>(&family - kFamilies.data())];
+    return kGermanFamilies[static_cast<std::size_t>(&family - reference::model().families.data())];
 }
 
 bool hasLimits(const Parameter& parameter) {
     return parameter.hasNumber() && (parameter.hasMinimum() || parameter.hasMaximum());
 }
 
-int lineRoom(const Parameter& parameter) {
-    constexpr int kAround = 3;
-    const int room = static_cast<int>(kKeplMaxTerm - kepl::kPrefixLength - parameter.name().size()) - kAround;
-    return std::min(room, parameter.textRoom());
-}
-
-std::string defaultValue(const Parameter& parameter) {
-    if (!parameter.isSetting()) return {};
-    return parameter.hasNumber() ? reference::shortNumber(parameter.row().val_def)
-                                 : parameter.row().val_def_text;
-}
-
-std::vector<int> notesOf(const Parameter& parameter) {
-    const model::Row& row = parameter.model();
-    std::vector<int> notes(row.notes.begin(), row.notes.end());
-    if (row.shared != nullptr) notes.insert(notes.end(), row.shared->notes.begin(), row.shared->notes.end());
-    return notes;
-}
-
-std::string_view noteText(int note, ParamLanguage language) {
-    return reference::model().notes[static_cast<std::size_t>(note)].in(language);
+const model::Note& noteAt(int place) {
+    return reference::model().notes[static_cast<std::size_t>(place)];
 }
 
 const Method* methodOf(const Parameter& parameter) {

@@ -41,17 +41,7 @@ inline bool refusesBelowOne(const Parameter& parameter) {
 // The family's name in German.
 std::string_view germanName(const stParamFamily& family);
 
-// Longest text, in bytes, that a line of the language can write: a term has 127 characters, of which
-// prefix, name, "=" and two quotes take some.
-int lineRoom(const Parameter& parameter);
-
-// Factory default as a number or a text; empty where there is none.
-std::string defaultValue(const Parameter& parameter);
-
-// Its own notes and those of its template, as places in those of the model.
-std::vector<int> notesOf(const Parameter& parameter);
-
-std::string_view noteText(int note, ParamLanguage language);
+const model::Note& noteAt(int place);
 
 // The detection method to which a setting belongs, or null.
 const Method* methodOf(const Parameter& parameter);

@@ -4,9 +4,7 @@
 #include <map>
 #include <sstream>
 
-#include "ParamSystem/dictionary/Tables.h"
 #include "tools/pages/Markdown.h"
-#include "tools/pages/Notes.h"
 #include "tools/pages/Pages.h"
 #include "tools/pages/Records.h"
 #include "tools/pages/Series.h"
@@ -41,10 +39,10 @@ std::string nameCell(const Entry& entry) {
 std::string defaultLine(const Entry& entry) {
     std::string list;
     for (const Parameter& member : entry.members)
-        (list += list.empty() ? "" : ", ") += defaultValue(member);
+        (list += list.empty() ? "" : ", ") += member.defaultValue();
     const Parameter& first = entry.first();
-    std::string value = defaultValue(first);
-    const auto likeFirst = [&value](const Parameter& member) { return defaultValue(member) == value; };
+    std::string value = first.defaultValue();
+    const auto likeFirst = [&value](const Parameter& member) { return member.defaultValue() == value; };
     if (!std::ranges::all_of(entry.members, likeFirst)) return "default " + list;
     if (value.empty()) return "default empty";
     if (!first.hasNumber()) return joined({"default `", value, "`"});
@@ -71,9 +69,10 @@ std::string kindLine(const Parameter& parameter) {
     const std::string unit = parameter.unit();
     if (!unit.empty()) (line += " in ") += unit;
     if (parameter.textRoom() > 0 && parameter.writeLevel() > 0) {
-        line += joined({", ", std::to_string(lineRoom(parameter)), " bytes in a line"});
+        line += joined({", ", std::to_string(parameter.lineRoom()), " bytes in a line"});
         const int meant = parameter.row().val_len;
-        if (meant > 0 && meant < lineRoom(parameter)) line += joined({", meant for ", std::to_string(meant)});
+        if (meant > 0 && meant < parameter.lineRoom())
+            line += joined({", meant for ", std::to_string(meant)});
     }
     return line;
 }
@@ -114,17 +113,17 @@ using NotePlaces = std::map<int, std::string_view>;
 
 void addNotes(std::string& cell, const Parameter& parameter, ParamLanguage language, NotePlaces& places) {
     const bool isGerman = language == kGerman;
-    for (const int note : notesOf(parameter)) {
+    for (const int note : parameter.notes()) {
         const std::string_view place = places.try_emplace(note, parameter.name()).first->second;
         if (place != parameter.name()) {
             addLine(cell, joined({isGerman ? "*Hinweis wie bei [" : "*Remark as for [", place, "](#", place,
                                   ")*"}));
             continue;
         }
-        const std::string_view sign = kNotes[note].kind != kWarning ? ""
-                                      : isGerman                    ? "Achtung: "
-                                                                    : "Warning: ";
-        addLine(cell, joined({"*", sign, escaped(noteText(note, language)), "*"}));
+        const std::string_view sign = noteAt(note).kind != model::kWarning ? ""
+                                      : isGerman                           ? "Achtung: "
+                                                                           : "Warning: ";
+        addLine(cell, joined({"*", sign, escaped(noteAt(note).text.in(language)), "*"}));
     }
 }
 
@@ -202,7 +201,7 @@ std::string pageOf(const stParamFamily& family) {
 } // namespace
 
 void addFamilies(Pages& pages) {
-    for (const stParamFamily& family : kFamilies)
+    for (const stParamFamily& family : reference::model().families)
         pages[fileOf(family)] = pageOf(family);
 }
 

@@ -1,9 +1,9 @@
-// The entry page of the reference, and every parameter by name and by id.
+// The entry page of the reference.
+#include <algorithm>
 #include <set>
 #include <sstream>
 
-#include "ParamSystem/dictionary/Tables.h"
-#include "ParamSystem/support/Text.h"
+#include "ParamSystem/store/Kinds.h"
 #include "tools/pages/Markdown.h"
 #include "tools/pages/Names.h"
 #include "tools/pages/Pages.h"
@@ -19,11 +19,10 @@ Every parameter of the device, in English and German.
 | | |
 |---|---|
 | [parameters.html](parameters.html) | **all parameters on one page, to search as you type**, German or English. One file that needs no server and no network: copy it to a phone or a laptop, print from it |
-| [parameters.csv](parameters.csv) | the same as a table, for other programs (RFC 4180, UTF-8) |
+| `parameters.csv` | the same as a table, for other programs (RFC 4180, UTF-8): beside this page in the package `talux-lua-dev`, in `generated/docs/parameters/` of a build folder |
 | [Detection methods](detection-methods.md) | which method for which neutral earthing; switch, thresholds, times, logs, outputs of each method |
 | [Records](records.md) | the members of the three records |
 | [Glossary](glossary.md) | words of the trade and of the device in both languages |
-| [By name](by-name.md), [by id](by-id.md) | every parameter |
 | the pages of the families, below | every parameter in the order of the menus |
 
 At the relay `talux explain NAME` shows titles, range, file and, with `--live`, the value; the remarks in italics are
@@ -75,17 +74,27 @@ eine Zahl nur an ein anderes Programm weitergegeben, klären Sie ihre Bedeutung 
 |---|---|---|---|
 )";
 
-std::string inSmallLetters(std::string_view text) {
-    std::string small(text);
-    for (char& c : small)
-        c = lowerAscii(c);
-    return small;
+// What a new parameter can take.
+std::string freeIds() {
+    std::set<std::pair<Kind, int>> taken;
+    for (const Parameter& parameter : reference::parameters())
+        for (int id = firstId(parameter); id <= lastId(parameter); ++id)
+            taken.emplace(parameter.type().kind, id);
+    std::string rows;
+    for (const Block& block : kBlocks) {
+        std::vector<int> free;
+        for (int id = block.first; id < block.first + block.count; ++id)
+            if (!taken.contains({block.kind, id}) && block.kind != Kind::Int) free.push_back(id);
+        const auto* const type = std::ranges::find(kTypes, block.kind, &Type::kind);
+        if (!free.empty()) rows += joined({"| ", type->name, " | ", asRanges(free), " |\n"});
+    }
+    return rows;
 }
 
 std::string entryPage() {
     std::ostringstream page;
     page << kGenerated << kEntry;
-    for (const stParamFamily& family : kFamilies) {
+    for (const stParamFamily& family : reference::model().families) {
         int count = 0;
         std::vector<int> ids;
         for (const Parameter& parameter : reference::parameters()) {
@@ -97,47 +106,17 @@ std::string entryPage() {
         page << "| [" << family.name << "](" << fileOf(family) << ") | " << germanName(family) << " | "
              << count << " | " << asRanges(ids) << " |\n";
     }
+    page << "\n## Free ids\n\nFor new parameters; the ids " << kFirstInt << " to "
+         << kFirstInt + kIntCount - 1
+         << " can have two each, a long and an int.\n\n| Kind | Ids |\n|---|---|\n"
+         << freeIds();
     return page.str();
-}
-
-std::string byName() {
-    std::set<std::pair<std::string, std::string>> lines;
-    for (const Parameter& parameter : reference::parameters())
-        if (!parameter.isTemplate())
-            lines.emplace(inSmallLetters(parameter.name()),
-                          joined({"| ", linkTo(parameter), " | ", escaped(parameter.title(kEnglish)), " | ",
-                                  escaped(parameter.title(kGerman)), " |\n"}));
-    std::string page = joined({kGenerated, "# Parameters by name\n\n[All families](README.md)\n\n",
-                               "| Name | English | Deutsch |\n|---|---|---|\n"});
-    for (const auto& [name, line] : lines)
-        page += line;
-    return page;
-}
-
-std::string byId() {
-    std::set<std::pair<int, std::string>> lines;
-    for (const Parameter& parameter : reference::parameters()) {
-        std::string ids = std::to_string(firstId(parameter));
-        if (parameter.isIndexed()) ids += ".." + std::to_string(lastId(parameter));
-        lines.emplace(firstId(parameter),
-                      joined({"| ", ids, " | ", linkTo(parameter), " | ", parameter.type().name, " | [",
-                              parameter.family().name, "](", fileOf(parameter.family()), ") |\n"}));
-    }
-    std::string page = joined({kGenerated, "# Parameters by id\n\n[All families](README.md)\n\n", "The ids ",
-                               std::to_string(kFirstInt), " to ", std::to_string(kFirstInt + kIntCount - 1),
-                               " have two parameters each, a long and an int.\n\n",
-                               "| Id | Name | Kind | Family |\n|---|---|---|---|\n"});
-    for (const auto& [id, line] : lines)
-        page += line;
-    return page;
 }
 
 } // namespace
 
 void addIndexes(Pages& pages) {
     pages["README.md"] = entryPage();
-    pages["by-name.md"] = byName();
-    pages["by-id.md"] = byId();
 }
 
 } // namespace talux::pages

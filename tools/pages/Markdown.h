@@ -11,7 +11,7 @@
 namespace talux::pages {
 
 inline constexpr std::string_view kGenerated =
-    "<!-- Made by tools/pages from the data; change the data and build the target parameter_pages_update. -->\n";
+    "<!-- Made by scripts/dictionary.sh from the rows of the parameters; change those. -->\n";
 
 // A text with the characters that mean something in Markdown made plain.
 std::string escaped(std::string_view text);

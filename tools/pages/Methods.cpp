@@ -15,7 +15,7 @@ std::string parameterList(std::string_view patterns) {
     for (const std::string& name : namesOf(patterns)) {
         const Parameter& parameter = *reference::find(name);
         (list += list.empty() ? "" : ", ") += linkTo(parameter);
-        if (parameter.isSetting()) (list += ' ') += defaultValue(parameter);
+        if (parameter.isSetting()) (list += ' ') += parameter.defaultValue();
         if (parameter.isSetting() && !parameter.unit().empty()) (list += ' ') += parameter.unit();
     }
     return list;

@@ -5,13 +5,11 @@
 
 #include <string_view>
 
+#include "tools/generator/Model.h"
+
 namespace talux::pages {
 
-enum NoteKind {
-    kWarning, // a wrong value or a careless write does harm, or does not do what one expects
-    kUnknown, // the meaning is not documented, or only read from the name
-    kAdvice   // good to know
-};
+using model::kAdvice, model::kUnknown, model::kWarning, model::NoteKind;
 
 // `names` are parameters or patterns of series as in the text data, divided by blanks. A parameter has every
 // note that names it, in this order. A template's note holds for all parameters that share the template.

@@ -10,13 +10,12 @@ namespace talux::pages {
 using Pages = std::map<std::string, std::string>;
 
 void addFamilies(Pages& pages); // one page per menu family
-void addIndexes(Pages& pages);  // entry page, by name, by id
+void addIndexes(Pages& pages);  // entry page
 void addMethods(Pages& pages);
 void addGlossary(Pages& pages);
-void addTable(Pages& pages); // all parameters as CSV
 
-// All parameters on one page to search, made from its frame: HTML with a place for the data.
-void addSearchPage(Pages& pages, std::string frame);
+// All parameters on one page to search: `page` with new data.
+void addSearchPage(Pages& pages, std::string page);
 
 } // namespace talux::pages
 

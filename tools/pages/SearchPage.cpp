@@ -1,175 +1,175 @@
-// All parameters as data for the page that searches them.
-#include <algorithm>
-#include <iterator>
+// All parameters as data of the page that searches them.
+#include <vector>
 
-#include "ParamSystem/dictionary/Tables.h"
+#include "tools/Json.h"
+#include "tools/Strings.h"
 #include "tools/pages/Facts.h"
 #include "tools/pages/Glossary.h"
-#include "tools/pages/Notes.h"
 #include "tools/pages/Pages.h"
 
 namespace talux::pages {
 
 namespace {
 
-constexpr std::string_view kPlace = "@DATA@";
+using tool::Json;
 
-std::string quoted(std::string_view text) {
-    std::string json = "\"";
-    for (char c : text) {
-        if (c == '"' || c == '\\') json += '\\';
-        if (c == '<')
-            json += "\\u003c"; // the data is inside an HTML element
-        else
-            json += c;
+constexpr std::string_view kBegin = "<script id=\"data\" type=\"application/json\">", kEnd = "</script>";
+
+// What is empty is left out.
+void addText(Json& object, std::string_view key, std::string_view text) {
+    if (!text.empty()) object.set(key, text);
+}
+
+void addList(Json& object, std::string_view key, Json value) {
+    if (!value.isNull()) object.set(key, std::move(value));
+}
+
+// As shortNumber prints it.
+Json number(double value) {
+    const auto whole = static_cast<std::int64_t>(value);
+    return static_cast<double>(whole) == value ? Json(whole) : Json(value);
+}
+
+template <class Range, class Item>
+int placeOf(const Range& range, const Item* item) {
+    return static_cast<int>(item - &*std::begin(range));
+}
+
+Json texts(const Parameter& parameter, ParamLanguage language) {
+    Json both;
+    both.add(parameter.title(language));
+    both.add(parameter.description(language));
+    return both;
+}
+
+Json choices(const std::vector<reference::Choice>& choices) {
+    Json all;
+    for (const reference::Choice& choice : choices) {
+        Json pair;
+        pair.add(choice.number);
+        pair.add(choice.text);
+        all.add(std::move(pair));
     }
-    return json += '"';
+    return all;
 }
 
-template <typename Items, typename Print>
-std::string array(const Items& items, Print print, std::string_view between = ",") {
-    std::string json = "[";
-    for (const auto& item : items) {
-        if (json.size() > 1) json += between;
-        json += print(item);
-    }
-    return json += ']';
-}
-
-// An object to which fields are added; what is empty is left out.
-class Object {
-public:
-    Object& add(std::string_view key, const std::string& json) {
-        if (json.empty() || json == "\"\"" || json == "[]") return *this;
-        text += (text.size() > 1 ? ",\"" : "\"") + std::string(key) + "\":" + json;
-        return *this;
-    }
-    Object& add(std::string_view key, int number) { return add(key, std::to_string(number)); }
-    std::string json() const { return text + '}'; }
-
-private:
-    std::string text = "{";
-};
-
-std::string bothTexts(std::string_view de, std::string_view en) {
-    return Object().add("de", quoted(de)).add("en", quoted(en)).json();
-}
-
-std::string texts(const Parameter& parameter, ParamLanguage language) {
-    return "[" + quoted(parameter.title(language)) + "," + quoted(parameter.description(language)) + "]";
-}
-
-std::string choices(const std::vector<reference::Choice>& list) {
-    return array(list, [](const reference::Choice& choice) {
-        return "[" + std::to_string(choice.number) + "," + quoted(choice.text) + "]";
-    });
-}
-
-void addChoices(Object& object, const Parameter& parameter) {
-    object.add("de", choices(parameter.choices(kGerman)));
-    object.add("en", choices(parameter.choices(kEnglish)));
+Json ownChoices(const Parameter& parameter) {
+    Json lists(std::initializer_list<Json::Member>{});
+    addList(lists, "de", choices(parameter.items(reference::kChoices, kGerman)));
+    addList(lists, "en", choices(parameter.items(reference::kChoices, kEnglish)));
+    return lists;
 }
 
 // Lists of choices that several parameters share, by the name of their template.
-std::string sharedChoices() {
-    Object lists;
-    for (const Parameter& parameter : reference::parameters()) {
-        if (!parameter.isTemplate() || parameter.type().nature != Nature::number) continue;
-        Object list;
-        list.add("de", choices(parameter.items(reference::kChoices, kGerman)));
-        list.add("en", choices(parameter.items(reference::kChoices, kEnglish)));
-        lists.add(parameter.name(), list.json());
+Json sharedChoices() {
+    Json lists;
+    for (const Parameter& parameter : reference::parameters())
+        if (parameter.isTemplate() && parameter.hasNumber())
+            lists.set(parameter.name(), ownChoices(parameter));
+    return lists;
+}
+
+void addLimits(Json& object, const Parameter& parameter) {
+    if (!parameter.hasNumber()) return;
+    if (parameter.leastNumber() != kNoMin) object.set("min", number(parameter.leastNumber()));
+    if (isChoice(parameter) && !refusesBelowOne(parameter)) object.set("lax", 1);
+    if (parameter.hasMaximum()) object.set("max", number(parameter.row().val_max));
+}
+
+void addValue(Json& object, const Parameter& parameter) {
+    if (parameter.isSetting() && parameter.hasNumber())
+        object.set("factory", number(parameter.row().val_def));
+    if (parameter.isSetting() && !parameter.hasNumber())
+        object.set("factory", parameter.defaultValue() + " ");
+    addLimits(object, parameter);
+    object.set("file", static_cast<int>(parameter.file()));
+    object.set("level", parameter.writeLevel());
+    if (ignoresWrites(parameter)) object.set("idle", 1);
+    if (parameter.lineRoom() > 0) object.set("room", parameter.lineRoom());
+    if (parameter.row().val_len > 0) object.set("meant", parameter.row().val_len);
+}
+
+Json objectOf(const Parameter& parameter) {
+    Json object, notes;
+    object.set("name", parameter.name());
+    object.set("id", firstId(parameter));
+    if (parameter.isIndexed()) {
+        object.set("first", parameter.row().val_min_id);
+        object.set("last", parameter.row().val_max_id);
     }
-    return lists.json();
+    object.set("family", placeOf(reference::model().families, &parameter.family()));
+    if (const Method* method = methodOf(parameter)) object.set("method", placeOf(kMethods, method));
+    object.set("kind", parameter.type().name);
+    addText(object, "unit", parameter.unit());
+    addValue(object, parameter);
+    object.set("de", texts(parameter, kGerman));
+    object.set("en", texts(parameter, kEnglish));
+    addText(object, "shared", parameter.templateName());
+    if (parameter.templateName().empty() && !parameter.choiceItems().empty())
+        object.set("choices", ownChoices(parameter));
+    for (const int note : parameter.notes())
+        notes.add(note);
+    addList(object, "notes", std::move(notes));
+    return object;
+}
+
+template <class Items, class Make>
+std::string lines(const Items& items, Make make) {
+    std::vector<std::string> all;
+    for (const auto& item : items)
+        all.push_back(make(item).line());
+    return "[" + list(all, ",\n") + "]";
+}
+
+Json noteOf(const model::Note& note) {
+    constexpr std::string_view kKinds[] = {"warning", "unknown", "advice"};
+    return {{"kind", kKinds[note.kind]}, {"de", note.text.de}, {"en", note.text.en}};
+}
+
+Json bothTexts(const model::Both& text) {
+    return {{"de", text.de}, {"en", text.en}};
 }
 
 std::string glossary() {
     std::vector<Word> words(std::begin(kTradeWords), std::end(kTradeWords));
     words.insert(words.end(), std::begin(kDeviceWords), std::end(kDeviceWords));
-    return array(
-        words,
-        [](const Word& word) {
-            return Object()
-                .add("de", quoted(word.de))
-                .add("en", quoted(word.en))
-                .add("deMeaning", quoted(word.deMeaning))
-                .add("enMeaning", quoted(word.enMeaning))
-                .json();
-        },
-        ",\n");
-}
-
-template <typename Range, typename Item>
-int placeOf(const Range& range, const Item* item) {
-    return static_cast<int>(item - &*std::begin(range));
-}
-
-void addLimits(Object& object, const Parameter& parameter) {
-    if (!parameter.hasNumber()) return;
-    if (parameter.leastNumber() != kNoMin) object.add("min", reference::shortNumber(parameter.leastNumber()));
-    if (isChoice(parameter) && !refusesBelowOne(parameter)) object.add("lax", 1);
-    if (parameter.hasMaximum()) object.add("max", reference::shortNumber(parameter.row().val_max));
-}
-
-void addValue(Object& object, const Parameter& parameter) {
-    const std::string factory = defaultValue(parameter);
-    if (parameter.isSetting()) object.add("factory", parameter.hasNumber() ? factory : quoted(factory + " "));
-    addLimits(object, parameter);
-    object.add("file", static_cast<int>(parameter.file())).add("level", parameter.writeLevel());
-    if (ignoresWrites(parameter)) object.add("idle", 1);
-    if (lineRoom(parameter) > 0) object.add("room", lineRoom(parameter));
-    if (parameter.row().val_len > 0) object.add("meant", parameter.row().val_len);
-}
-
-std::string objectOf(const Parameter& parameter) {
-    Object object;
-    object.add("name", quoted(parameter.name())).add("id", firstId(parameter));
-    if (parameter.isIndexed())
-        object.add("first", parameter.row().val_min_id).add("last", parameter.row().val_max_id);
-    object.add("family", placeOf(reference::model().families, &parameter.family()));
-    if (const Method* method = methodOf(parameter)) object.add("method", placeOf(kMethods, method));
-    object.add("kind", quoted(parameter.type().name)).add("unit", quoted(parameter.unit()));
-    addValue(object, parameter);
-    object.add("de", texts(parameter, kGerman)).add("en", texts(parameter, kEnglish));
-    const std::string_view shared = parameter.templateName();
-    Object own;
-    if (shared.empty()) addChoices(own, parameter);
-    object.add("shared", quoted(shared));
-    if (own.json() != "{}") object.add("choices", own.json());
-    object.add("notes", array(notesOf(parameter), [](int note) { return std::to_string(note); }));
-    return object.json();
+    return lines(words, [](const Word& word) {
+        Json object;
+        object.set("de", word.de);
+        object.set("en", word.en);
+        addText(object, "deMeaning", word.deMeaning);
+        addText(object, "enMeaning", word.enMeaning);
+        return object;
+    });
 }
 
 std::string data() {
-    std::vector<Parameter> all;
-    std::ranges::copy_if(reference::parameters(), std::back_inserter(all),
-                         [](const Parameter& parameter) { return !parameter.isTemplate(); });
-    const auto both = [](const auto& item) { return bothTexts(item.de, item.en); };
-    const auto noteJson = [](const Note& note) {
-        constexpr std::string_view kKinds[] = {"warning", "unknown", "advice"};
-        return Object()
-            .add("kind", quoted(kKinds[note.kind]))
-            .add("de", quoted(note.de))
-            .add("en", quoted(note.en))
-            .json();
-    };
-    return Object()
-        .add("families",
-             array(kFamilies, [](const stParamFamily& f) { return bothTexts(germanName(f), f.name); }))
-        .add("methods", array(reference::model().methods, both, ",\n"))
-        .add("notes", array(kNotes, noteJson, ",\n"))
-        .add("words", glossary())
-        .add("shared", sharedChoices())
-        .add("parameters", array(all, objectOf, ",\n"))
-        .json();
+    std::vector<std::string> families;
+    std::vector<Parameter> named;
+    for (const stParamFamily& family : reference::model().families)
+        families.push_back(bothTexts({germanName(family), family.name}).line());
+    for (const Parameter& parameter : reference::parameters())
+        if (!parameter.isTemplate()) named.push_back(parameter);
+    return joined({"{\"families\":[", list(families, ","), "]",
+                   ",\"methods\":", lines(reference::model().methods, bothTexts),
+                   ",\"notes\":", lines(reference::model().notes, noteOf), ",\"words\":", glossary(),
+                   ",\"shared\":", sharedChoices().line(), ",\"parameters\":", lines(named, objectOf), "}"});
+}
+
+// Nothing in the data ends the element around them.
+std::string inHtml(const std::string& json) {
+    std::string text;
+    for (const char c : json)
+        text += c == '<' ? std::string("\\u003c") : std::string(1, c);
+    return text;
 }
 
 } // namespace
 
-void addSearchPage(Pages& pages, std::string frame) {
-    const std::size_t place = frame.find(kPlace);
-    if (place != frame.npos) frame.replace(place, kPlace.size(), data());
-    pages["parameters.html"] = std::move(frame);
+void addSearchPage(Pages& pages, std::string page) {
+    const std::size_t begin = page.find(kBegin) + kBegin.size(), end = page.find(kEnd, begin);
+    if (begin < end && end != page.npos) page.replace(begin, end - begin, inHtml(data()));
+    pages["parameters.html"] = std::move(page);
 }
 
 } // namespace talux::pages

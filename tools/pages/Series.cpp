@@ -78,8 +78,8 @@ std::string shapeOf(const Parameter& parameter, const Run& run) {
             (shape += '|') += text;
     }
     shape += parameter.unit();
-    for (const int note : notesOf(parameter))
-        (shape += '|') += noteText(note, kEnglish);
+    for (const int note : parameter.notes())
+        (shape += '|') += noteAt(note).text.en;
     return shape;
 }
 

@@ -1,9 +1,7 @@
-// Writes the pages of docs/parameters from the compiled-in dictionary.
+// Keeps what is printed from the dictionary and committed: docs/interface.tsv and docs/parameters.
 //
-//   parameter_pages FRAME DIR          writes the pages into DIR, where nothing else stays; FRAME is the
-//   search
-//                                      page without its data
-//   parameter_pages --check FRAME DIR  names the pages of DIR that are not up to date
+//   dictionary --check PROJECT   names what is not up to date, and says what a change of the interface means
+//   dictionary --accept PROJECT  writes it
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -11,74 +9,98 @@
 #include <string_view>
 
 #include "tools/generator/TextPattern.h"
+#include "tools/interface/Listing.h"
 #include "tools/pages/Facts.h"
 #include "tools/pages/Pages.h"
 
 namespace {
 
-using talux::pages::Pages;
+using namespace talux;
+using std::filesystem::path;
 
-std::string contentOf(const std::filesystem::path& file) {
+std::string contentOf(const path& file) {
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
-Pages allPages(const char* frame) {
-    Pages pages;
-    talux::pages::addFamilies(pages);
-    talux::pages::addIndexes(pages);
-    talux::pages::addMethods(pages);
-    talux::pages::addGlossary(pages);
-    talux::pages::addTable(pages);
-    talux::pages::addSearchPage(pages, contentOf(frame));
+pages::Pages allPages(const path& folder) {
+    pages::Pages pages;
+    pages::addFamilies(pages);
+    pages::addIndexes(pages);
+    pages::addMethods(pages);
+    pages::addGlossary(pages);
+    pages::addSearchPage(pages, contentOf(folder / "parameters.html"));
     return pages;
 }
 
-int write(const std::filesystem::path& folder, const Pages& pages) {
-    std::filesystem::create_directories(folder);
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        if (!pages.contains(entry.path().filename())) std::filesystem::remove(entry);
-    for (const auto& [file, content] : pages) {
-        std::ofstream out(folder / file, std::ios::binary);
-        if (!(out << content).flush()) {
-            std::perror((folder / file).c_str());
-            return 1;
-        }
-    }
-    return 0;
+void explain(const std::string& before) {
+    const auto lines = interface::changes(interface::parse(before), interface::listing());
+    for (const std::string& line : lines)
+        std::puts(line.c_str());
+    if (lines.empty()) std::puts("The rows of the interface are in another order.");
+    std::puts("The device's other programs rely on that: do they agree?");
 }
 
-int check(const std::filesystem::path& folder, const Pages& pages) {
-    int stale = 0;
-    const auto report = [&](const std::string& file, const char* what) {
-        std::printf("%s %s\n", (folder / file).c_str(), what);
-        ++stale;
-    };
+// What is on disk and differs; with `isAccepted` it is written or removed.
+class Kept {
+public:
+    explicit Kept(bool accepted) : isAccepted(accepted) {}
+
+    void keep(const path& file, const std::string& content) {
+        const std::string before = contentOf(file);
+        if (before == content) return;
+        ++differing;
+        std::printf("%s %s\n", file.c_str(), isAccepted ? "is written" : "is out of date");
+        if (file.filename() == "interface.tsv") explain(before);
+        std::ofstream out;
+        if (!isAccepted) return;
+        out.open(file, std::ios::binary);
+        if ((out << content).flush()) return;
+        std::perror(file.c_str());
+        hasFailed = true;
+    }
+
+    void drop(const path& file) {
+        ++differing;
+        std::printf("%s %s\n", file.c_str(), isAccepted ? "is removed" : "is no page");
+        if (isAccepted) std::filesystem::remove(file);
+    }
+
+    int status() const { return hasFailed || (differing > 0 && !isAccepted) ? 1 : 0; }
+
+private:
+    bool isAccepted, hasFailed = false;
+    int differing = 0;
+};
+
+int keepAll(const path& project, bool isAccepted) {
+    const path folder = project / "docs/parameters";
+    const pages::Pages pages = allPages(folder);
+    Kept kept(isAccepted);
+    kept.keep(project / "docs/interface.tsv", interface::print(interface::listing()));
     for (const auto& [file, content] : pages)
-        if (contentOf(folder / file) != content) report(file, "is out of date");
+        kept.keep(folder / file, content);
     for (const auto& entry : std::filesystem::directory_iterator(folder))
-        if (const std::string file = entry.path().filename(); !pages.contains(file))
-            report(file, "is no page");
-    if (stale > 0) std::puts("Build the target parameter_pages_update and commit what it writes.");
-    return stale > 0 ? 1 : 0;
+        if (!pages.contains(entry.path().filename())) kept.drop(entry.path());
+    if (kept.status() != 0)
+        std::puts("scripts/dictionary.sh --accept renews what is kept; look at it and commit it.");
+    return kept.status();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const bool checks = argc == 4 && std::string_view(argv[1]) == "--check";
-    if (argc != 3 && !checks) {
-        std::fputs("parameter_pages [--check] FRAME DIR\n", stderr);
+    const std::string_view what = argc == 3 ? argv[1] : "";
+    if (what != "--check" && what != "--accept") {
+        std::fputs("dictionary --check|--accept PROJECT\n", stderr);
         return 2;
     }
     try {
-        const auto faults = talux::pages::faults();
+        const auto faults = pages::faults();
         for (const std::string& fault : faults)
-            std::printf("%s\n", fault.c_str());
-        if (!faults.empty()) return 1;
-        const Pages pages = allPages(argv[argc - 2]);
-        return checks ? check(argv[3], pages) : write(argv[2], pages);
-    } catch (const talux::generator::BrokenRule& rule) {
+            std::puts(fault.c_str());
+        return faults.empty() ? keepAll(argv[2], what == "--accept") : 1;
+    } catch (const generator::BrokenRule& rule) {
         std::printf("tools/pages: %s\n", rule.text);
         return 1;
     }

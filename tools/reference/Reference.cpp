@@ -46,6 +46,23 @@ int Parameter::textRoom() const {
     return static_cast<int>(blockOf(type().kind).slot) - 1;
 }
 
+int Parameter::lineRoom() const {
+    constexpr int kAround = 3;
+    return std::min(static_cast<int>(kKeplMaxTerm - kepl::kPrefixLength - name().size()) - kAround,
+                    textRoom());
+}
+
+std::string Parameter::defaultValue() const {
+    if (!isSetting()) return {};
+    return hasNumber() ? shortNumber(row().val_def) : row().val_def_text;
+}
+
+std::vector<int> Parameter::notes() const {
+    std::vector<int> all(of->notes.begin(), of->notes.end());
+    if (of->shared != nullptr) all.insert(all.end(), of->shared->notes.begin(), of->shared->notes.end());
+    return all;
+}
+
 std::string Parameter::title(ParamLanguage language) const {
     return onOneLine(of->title.in(language));
 }
@@ -61,6 +78,12 @@ std::vector<Choice> Parameter::items(model::GroupNumber group, ParamLanguage lan
 std::span<const model::Item> Parameter::choiceItems() const {
     if (type().code == kTypeCommand) return {};
     return (of->shared == nullptr ? of : of->shared)->groups[kChoices].items;
+}
+
+bool Parameter::hasAllChoices() const {
+    const double first = std::max(1.0, row().val_min);
+    return type().kind == Kind::Enum &&
+           static_cast<double>(choiceItems().size()) == row().val_max - first + 1;
 }
 
 std::vector<Choice> Parameter::choices(ParamLanguage language) const {

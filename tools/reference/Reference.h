@@ -51,6 +51,14 @@ public:
     int writeLevel() const;
     // Longest text that the store keeps, in bytes; 0 for numbers.
     int textRoom() const;
+    // Longest text, in bytes, that a line of the language can write: a term has 127 characters, of which
+    // prefix, name,
+    // "=" and two quotes take some.
+    int lineRoom() const;
+    // Factory default as a number or a text; empty where there is none.
+    std::string defaultValue() const;
+    // Its own notes and those of its template, as places in those of the model.
+    std::vector<int> notes() const;
 
     // Texts; empty where there is none. A setting with a template has the template's choices.
     std::string title(ParamLanguage language) const;
@@ -61,6 +69,7 @@ public:
                               ParamLanguage language) const; // its own, no template's
     std::string choiceText(int number, ParamLanguage language) const;
     std::span<const model::Item> choiceItems() const; // what choices() shows
+    bool hasAllChoices() const;                       // every number of its range has one, and a name
     std::string_view heading(model::GroupNumber group, ParamLanguage language) const {
         return of->groups[group].heading.in(language);
     }

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "tools/talux/Json.h"
+#include "tools/Json.h"
 #include "tools/talux/Source.h"
 
 namespace talux::tool {

@@ -1,7 +1,7 @@
-// JSON documents as the commands build them. The header of nlohmann's library, which does the work, costs
+// JSON documents. The header of nlohmann's library, which does the work, costs
 // seconds in each source that reads it: only Json.cpp does.
-#ifndef TALUX_TOOLS_TALUX_JSON_H
-#define TALUX_TOOLS_TALUX_JSON_H
+#ifndef TALUX_TOOLS_JSON_H
+#define TALUX_TOOLS_JSON_H
 
 #include <cstdint>
 #include <initializer_list>
@@ -42,6 +42,7 @@ public:
 
     // Over several lines; texts that are no UTF-8 get replacement characters.
     std::string text() const;
+    std::string line() const; // without any blank
 
 private:
     std::unique_ptr<nlohmann::ordered_json> value;

@@ -1,4 +1,4 @@
-#include "tools/talux/Json.h"
+#include "tools/Json.h"
 
 #include <nlohmann/json.hpp>
 
@@ -41,6 +41,10 @@ void Json::set(std::string_view key, Json member) {
 
 std::string Json::text() const {
     return value->dump(2, ' ', false, Value::error_handler_t::replace) + "\n";
+}
+
+std::string Json::line() const {
+    return value->dump();
 }
 
 } // namespace talux::tool

@@ -1,10 +1,12 @@
 // All parameters as CSV: one header, one record per parameter, lines ended by CR LF.
-#include "tools/pages/Facts.h"
-#include "tools/pages/Pages.h"
+#include "tools/generator/Tables.h"
+#include "tools/reference/Reference.h"
 
-namespace talux::pages {
+namespace talux::generator {
 
 namespace {
+
+using reference::Parameter;
 
 constexpr std::string_view kHeader =
     "name,id,last_id,first_index,last_index,family,method,kind,unit,default,minimum,maximum,file,write_level,"
@@ -40,48 +42,49 @@ std::string choiceList(const Parameter& parameter, ParamLanguage language) {
     return list;
 }
 
-std::string notes(const Parameter& parameter, ParamLanguage language) {
-    std::string all;
-    for (const int note : notesOf(parameter))
-        (all += all.empty() ? "" : " ") += noteText(note, language);
-    return all;
+std::string notes(const Parameter& parameter, std::span<const model::Note> all, ParamLanguage language) {
+    std::string text;
+    for (const int note : parameter.notes())
+        (text += text.empty() ? "" : " ") += all[static_cast<std::size_t>(note)].text.in(language);
+    return text;
 }
 
-std::string lineOf(const Parameter& parameter) {
+std::string lineOf(const Parameter& parameter, const model::Model& model) {
     const stParamProperties& row = parameter.row();
-    const Method* method = methodOf(parameter);
+    const int method = parameter.model().method;
     Record record;
     record.add(parameter.name());
-    record.add(firstId(parameter));
-    record.add(lastId(parameter));
+    record.add(row.id);
+    record.add(row.id + parameter.elements() - 1);
     record.add(row.val_min_id);
     record.add(row.val_max_id);
     record.add(parameter.family().name);
-    record.add(method == nullptr ? "" : method->en);
+    record.add(method < 0 ? "" : model.methods[static_cast<std::size_t>(method)].en);
     record.add(parameter.type().name);
     record.add(parameter.unit());
-    record.add(defaultValue(parameter));
-    record.addIf(parameter.hasNumber() && parameter.hasMinimum(), parameter.row().val_min);
+    record.add(parameter.defaultValue());
+    record.addIf(parameter.hasNumber() && parameter.hasMinimum(), row.val_min);
     record.addIf(parameter.hasNumber() && parameter.hasMaximum(), row.val_max);
     record.add(reference::fileName(parameter.file()));
     record.add(parameter.writeLevel());
-    record.addIf(lineRoom(parameter) > 0, lineRoom(parameter));
+    record.addIf(parameter.lineRoom() > 0, parameter.lineRoom());
     record.add(parameter.templateName());
     for (auto text : {&Parameter::title, &Parameter::description})
         for (ParamLanguage language : {kEnglish, kGerman})
             record.add((parameter.*text)(language));
-    for (auto text : {choiceList, notes})
-        for (ParamLanguage language : {kEnglish, kGerman})
-            record.add(text(parameter, language));
+    for (ParamLanguage language : {kEnglish, kGerman})
+        record.add(choiceList(parameter, language));
+    for (ParamLanguage language : {kEnglish, kGerman})
+        record.add(notes(parameter, model.notes, language));
     return record.text() + "\r\n";
 }
 
 } // namespace
 
-void addTable(Pages& pages) {
-    std::string& table = pages["parameters.csv"] = kHeader;
-    for (const Parameter& parameter : reference::parameters())
-        if (!parameter.isTemplate()) table += lineOf(parameter);
+void addCsvTable(Sources& sources, const model::Model& model) {
+    std::string& table = sources["docs/parameters/parameters.csv"] = kHeader;
+    for (const Parameter parameter : model.rows)
+        if (!parameter.isTemplate()) table += lineOf(parameter, model);
 }
 
-} // namespace talux::pages
+} // namespace talux::generator
