@@ -1,11 +1,10 @@
-#!/bin/sh
+#!/bin/bash
 # Segments, parameter files, answers and shell commands must be the same bytes on every platform. Compares
 # what the test device_image left in the given build folders; the first one is the measure.
 #
 #   compare-images.sh BUILD BUILD..
-set -eu
-cd "$(dirname "$0")/.."
-[ "$#" -ge 2 ] || { echo "usage: compare-images.sh BUILD BUILD.." >&2; exit 2; }
+. "$(dirname "$(readlink -f "$0")")/common.sh"
+[ "$#" -ge 2 ] || fail 'usage: compare-images.sh BUILD BUILD..'
 
 images() { (cd "$1/tests/device_image/root" && find defaults writes -type f | LC_ALL=C sort); }
 measure=$1

@@ -3,13 +3,11 @@
 # more than 250 MB: several of that size at once are too much for a small machine.
 #
 #   costs.sh [PRESET]    release by default
-. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+. "$(dirname "$(readlink -f "$0")")/common.sh"
 cd "$project"
-need_build_tools
-need /usr/bin/time:time
+need build time
 
-folder=$(mktemp -d)
-trap 'rm -rf "$folder"' EXIT
+folder=$scratch
 export CCACHE_DISABLE=1 TALUX_UNITS=$folder/units
 cat >"$folder/launch" <<'END'
 #!/bin/bash

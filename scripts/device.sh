@@ -5,7 +5,7 @@
 #   device.sh armv7|armv5te [--tests] [CMAKE-OPTION..]
 #
 # --tests   also builds examples and tests
-. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+. "$(dirname "$(readlink -f "$0")")/common.sh"
 cd "$project"
 
 arch=${1-}
@@ -16,20 +16,22 @@ case $arch in
 esac
 shift
 
-need "$multiarch-g++:g++-$multiarch" cmake:cmake ninja:ninja-build
+need device "$arch"
 tests=OFF
 if [ "${1-}" = --tests ]; then
-  need qemu-arm:qemu-user
+  need emulator
   tests=ON
   shift
 fi
-scripts/sysroot.sh "$debian" "build-sysroot/$debian"
-cmake --preset "$arch" -DTALUX_BUILD_TESTS="$tests" -DTALUX_BUILD_EXAMPLES="$tests" "$@"
-cmake --build "build-$arch"
-rm -rf "build-$arch/device"
+scripts/sysroot.sh "$debian" "$builds/build-sysroot/$debian"
+claim "$builds/build-$arch"
+cmake --preset "$arch" -B "$builds/build-$arch" -DTALUX_BUILD_TESTS="$tests" -DTALUX_BUILD_EXAMPLES="$tests" "$@"
+cmake --build "$builds/build-$arch"
+rm -rf "$builds/build-$arch/device"
 for component in runtime program; do
-  cmake --install "build-$arch" --prefix "build-$arch/device" --component "$component" --strip
+  cmake --install "$builds/build-$arch" --prefix "$builds/build-$arch/device" --component "$component" --strip
 done
-library=build-$arch/device/lib/lib_talux_lua.so.1
+give_back "$builds/build-$arch"
+library=$builds/build-$arch/device/lib/lib_talux_lua.so.1
 "$multiarch-size" "$library"
 echo "$library: $(stat -c %s "$library") bytes"

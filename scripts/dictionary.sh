@@ -4,14 +4,14 @@
 #
 #   dictionary.sh --check    names what is out of date, and says what a change means for the other programs
 #   dictionary.sh --accept   writes it; look at it with git diff and commit it
-. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+. "$(dirname "$(readlink -f "$0")")/common.sh"
 cd "$project"
-[[ $# = 1 && $1 =~ ^--(check|accept)$ ]] || { sed -n '2,/^[^#]/s/^# \?//p' "$0"; exit 2; }
+[[ $# = 1 && $1 =~ ^--(check|accept)$ ]] || fail 'usage: dictionary.sh --check|--accept'
 
-need_build_tools
+need build run
 build release
 status=0
-build-release/tools/dictionary "$1" . || status=1
+"$builds/build-release/tools/dictionary" "$1" . || status=1
 [ "$1" = --check ] || export TALUX_ACCEPT=1
-ctest --test-dir build-release -L documents --output-on-failure -j "$(nproc)" || status=1
+ctest --test-dir "$builds/build-release" -L documents --output-on-failure -j "$(nproc)" || status=1
 exit "$status"

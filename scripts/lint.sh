@@ -3,11 +3,10 @@
 #
 #   lint.sh [CPP-FILE..]    clang-tidy on these sources only; by default on all
 #   lint.sh --shipped       on what the device gets
-. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+. "$(dirname "$(readlink -f "$0")")/common.sh"
 cd "$project"
-need_build_tools
-need clang-format:clang-format clang-tidy:clang-tidy shellcheck:shellcheck \
-  /usr/include/benchmark/benchmark.h:libbenchmark-dev valgrind:valgrind
+need build bench lint
+has_history || fail "no git checkout, which says what belongs to the project"
 
 mapfile -t formatted < <(git ls-files '*.h' '*.hpp' '*.cpp')
 mapfile -t sources < <(case ${1-} in
@@ -32,12 +31,13 @@ for room in "${!rooms[@]}"; do
   [ -z "$later" ] || ! grep -rnE "#include \"($later)/" "${rooms[room]}" || status=1
 done
 build release talux_objects
-(cd build-release/CMakeFiles/talux_objects.dir && find . -name '*.o' -print0 | xargs -0 nm -AC) |
+(cd "$builds/build-release/CMakeFiles/talux_objects.dir" && find . -name '*.o' -print0 | xargs -0 nm -AC) |
   awk -v rooms="${rooms[*]}" -f scripts/rooms.awk || status=1
 # Without the headers that g++ compiles beforehand, which clang cannot read; sources have to name what they use.
-quiet cmake --preset release -B build-lint -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DTALUX_BUILD_BENCH=ON
-quiet cmake --build build-lint --target talux_dictionary
-printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p build-lint --quiet \
+claim "$builds/build-lint"
+quiet cmake --preset release -B "$builds/build-lint" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DTALUX_BUILD_BENCH=ON
+quiet cmake --build "$builds/build-lint" --target talux_dictionary
+printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p "$builds/build-lint" --quiet \
   --extra-arg=-Wno-unknown-warning-option --extra-arg=-Wno-unused-command-line-argument \
   --extra-arg=-U_FORTIFY_SOURCE 2>&1 |
   { grep -v '^[0-9]* warnings generated' || true; } # those of system headers

@@ -2,12 +2,12 @@
 # The shared object has the same bytes whatever folder it is built in.
 #
 #   reproducible.sh [CMAKE-OPTION..]
-. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+. "$(dirname "$(readlink -f "$0")")/common.sh"
 cd "$project"
-need_build_tools
+need build git
+has_history || fail "no git checkout, which says what belongs to the project"
 
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+work=$scratch
 export CCACHE_DISABLE=1 # it would hand the second build what the first one made
 
 build_in() { # SOURCES BUILD

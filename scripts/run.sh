@@ -1,30 +1,36 @@
 #!/bin/bash
-# Runs a Lua script with the module on an isolated device, beside the program that plays the rest of it.
+# Runs a Lua script or another command with the module on an isolated device, beside the program that plays the rest
+# of it.
 #
-#   run.sh [--root DIR] [--boot | --alone] [SCRIPT [ARGUMENT..] | -e CODE | --shell [OPTION..]]
+#   run.sh [OPTION..] [SCRIPT [ARGUMENT..] | -e CODE | --shell [OPTION..] | -- COMMAND [ARGUMENT..]]
 #
 # SCRIPT       a Lua script, by default examples/tour.lua. Its folder can be read at its own path, not written;
 #              modules beside it are found by require
 # -e CODE      runs CODE with the module loaded
 # --shell      starts the shell of the command language instead (talux shell), with its options
-# --root DIR   the directory that becomes /, kept afterwards: parameter files and the device's log
-#              /tmp/device.log lie there; by default a temporary one
+# -- COMMAND   runs any command, with the program talux in its PATH: `-- talux status`, or `-- bash` for several that
+#              work on the same values and files
 #
-# A run starts from the factory defaults, whatever files lie in the root: a save replaces them.
-# --boot       starts as a device does: the defaults, then the parameter files of the root. The network stays as it is
+# --root DIR   the directory that becomes /, kept afterwards: parameter files and the device's log
+#              /tmp/device.log lie there. A new or empty one, or that of an earlier run; by default a temporary one
+# --boot       starts as a device does: the defaults, then the parameter files of the root. The network stays as it is.
+#              Without it a run starts from the factory defaults, whatever files lie in the root: a save replaces them
 # --alone      without the device program: all values are zero at first, and a save writes the zeros
 #
-# The exit status is the script's. What is missing is installed (as root) and built first. Where SCRIPT.setup.sh
-# stands beside the script (tour.setup.sh for tour.lua) it is sourced inside the root before.
-. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+# The exit status is the script's. What is missing is installed (as root) and built first; TALUX_BUILD_DIR=DIR puts
+# builds elsewhere. Where SCRIPT.setup.sh is beside the script (tour.setup.sh for tour.lua) it is sourced inside the
+# root before.
+. "$(dirname "$(readlink -f "$0")")/common.sh"
 
-isolation=() session=(--device "$project/build-release/examples/device") boot=() targets=(lib_talux_lua device)
+build=$builds/build-release
+isolation=() session=(--device "$build/examples/device") boot=() targets=(lib_talux_lua device)
 while [ "$#" -gt 0 ]; do
   case $1 in
-    --root) isolation+=(--root "$2"); shift 2 ;;
+    --root) [ "$#" -ge 2 ] || fail '--root takes a directory'
+      isolation+=(--root "$2"); shift 2 ;;
     --alone) session=(); shift ;;
     --boot) boot=(--boot); shift ;;
-    -h | --help) sed -n '2,/^[^#]/s/^# \?//p' "$0"; exit ;;
+    -h | --help) help ;;
     *) break ;;
   esac
 done
@@ -34,7 +40,10 @@ case ${1-} in
   -e) [ "$#" = 2 ] || fail '-e takes the code and nothing else'
     command=(lua5.2 -l lib_talux_lua -e "$2") ;;
   --shell) targets+=(talux)
-    command=("$project/build-release/tools/talux/talux" shell "${@:2}") ;;
+    command=("$build/tools/talux/talux" shell "${@:2}") ;;
+  --) [ "$#" -ge 2 ] || fail 'no command after --'
+    targets+=(talux)
+    command=(env "PATH=$build/tools/talux:/usr/sbin:/usr/bin:/sbin:/bin" "${@:2}") ;;
   -*) fail "unknown option '$1'" ;;
   *) script=$(realpath "${1-$project/examples/tour.lua}")
     [ -f "$script" ] || fail "no such script: $script"
@@ -49,6 +58,8 @@ case ${1-} in
     [ ! -f "$setup" ] || session=(--setup "$setup" "${session[@]}") ;;
 esac
 
-(cd "$project" && need_build_tools && build release "${targets[@]}")
-exec "$project/scripts/isolated.sh" --module "$project/build-release" "${isolation[@]}" -- \
+need build run
+(build release "${targets[@]}")
+rm -rf "$scratch"
+exec "$project/scripts/isolated.sh" --module "$build" "${isolation[@]}" -- \
   "$project/scripts/session.sh" "${session[@]}" "${boot[@]}" -- "${command[@]}"

@@ -12,6 +12,7 @@ set -eu
 device='' boot='' emulator=() log=/tmp/device.log
 while [ "$#" -gt 0 ]; do
   case $1 in
+    -h | --help) sed -n '2,/^[^#]/s/^# \?//p' "$0"; exit ;;
     --setup)
       [ "$TALUX_ISOLATION" != none ] || { echo "skipped: $2 needs namespaces" >&2; exit 2; }
       # shellcheck source=/dev/null
@@ -26,7 +27,7 @@ while [ "$#" -gt 0 ]; do
 done
 
 if [ -n "$device" ]; then
-  exec 3< <(exec "${emulator[@]}" "$device" "$log")
+  exec 3< <(exec setpriv --pdeathsig KILL "${emulator[@]}" "$device" "$log")
   pid=$!
   read -r _ <&3 || { echo 'session.sh: the device program did not start' >&2; exit 2; }
 fi
@@ -36,10 +37,9 @@ for file, line in ("parameter=load;sec_parameter=load_sec;ip_config=load_ip ip_c
 end
 EOF
 status=0
-"$@" || status=$?
+setpriv --pdeathsig KILL "$@" || status=$?
 if [ -n "$device" ]; then
   kill "$pid" 2>/dev/null || true
   wait "$pid" || { echo 'session.sh: the device program failed' >&2; exit 2; }
-  [ "$TALUX_ISOLATION" != none ] || rm -f "$log"
 fi
 exit "$status"

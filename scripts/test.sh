@@ -2,41 +2,78 @@
 # Builds and passes the tests.
 #
 #   test.sh           release, sanitize (addresses and undefined behaviour) and armv7
-#   test.sh --all     also armv5te, packages, threads, commands, browser, bench, lint, plain, rock,
-#                     reproducible, and the release tests once more as an ordinary user and in a container without privileges
-#   test.sh STAGE..   only these; debug and costs are two more
+#   test.sh --all     every stage but those that are only run when asked for
+#   test.sh STAGE..   only these; --list shows all
 #
-# What is missing is installed (as root). Every stage runs whatever became of the others. The summary repeats
-# the closing line of ctest for each and names the skipped tests with their reasons.
-. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+# Packages that the stages need are installed first (as root) or named. Every stage runs whatever became of the
+# others; one that cannot run says why. The summary counts tests and cases, names the skipped ones with their
+# reasons, and ends with one line for all.
+. "$(dirname "$(readlink -f "$0")")/common.sh"
 cd "$project"
+set -o pipefail
 
-usual=(release sanitize armv7)
-all=("${usual[@]}" armv5te packages threads commands browser bench lint plain rock reproducible user container)
+# Minutes are those of a machine with two cores and nothing built yet. Needs are groups of packages, and `history`: a
+# checkout, whose files git can name.
+table='
+stage         run     minutes  needs
+release       usual   2        build run tests
+sanitize      usual   4        build run tests
+armv7         usual   4        build run tests armv7
+armv5te       all     3        build run tests armv5te
+packages      all     1        build armv7 armv5te lintian
+threads       all     1        build run tests
+commands      all     1        build run
+browser       all     1        build browser
+bench         all     1        build run bench
+lint          all     2        build bench lint history
+plain         all     1        build make
+rock          all     1        build run rock
+reproducible  all     1        build history
+user          all     1        build run tests
+container     all     1        build run tests
+debug         asked   2        build run tests
+costs         asked   6        build time
+'
+stages_run() { awk -v run="$1" 'NR > 2 && NF && $2 ~ run { print $1 }' <<<"$table"; }
+minutes_of() { awk -v stage="$1" '$1 == stage { print $3 }' <<<"$table"; }
+needs_of() { awk -v stage="$1" '$1 == stage { for (i = 4; i <= NF; i++) print $i }' <<<"$table"; }
 
-release() { build release && run_tests build-release; }
-debug() { build debug && run_tests build-debug; }
-sanitize() { build sanitize && run_tests build-sanitize; }
-armv7() { on_device armv7 arm-linux-gnueabihf; }
-armv5te() { on_device armv5te arm-linux-gnueabi; }
+# note TEXT..: a line of the summary.
+note() { echo "$*" | tee -a "$results/notes"; }
+
+# skip TEXT..: ends the stage, which cannot be run here.
+skip() { note "skipped: $*"; exit 77; }
+
+release() { build release && run_tests release; }
+debug() { build debug && run_tests debug; }
+armv7() { on_device armv7; }
+armv5te() { on_device armv5te; }
 lint() { scripts/lint.sh --shipped; } # tools and tests take four times as long
 bench() { scripts/bench.sh --check; }
-costs() { scripts/costs.sh | tee -a "$results/summary"; }
-reproducible() { scripts/reproducible.sh | tee -a "$results/summary"; }
+costs() { scripts/costs.sh | tee -a "$results/notes"; }
+reproducible() { scripts/reproducible.sh | tee -a "$results/notes"; }
 
+sanitize() {
+  note 'without the tests of what is shipped: shared object, installed tree, programs of the pages'
+  build sanitize && run_tests sanitize
+}
+
+# The release comes first in every stage that needs several builds: two runs never wait for each other.
 on_device() {
-  need "$2-g++:g++-$2" qemu-arm:qemu-user
-  quiet scripts/device.sh "$1" --tests && run_tests "build-$1" && same_image "$1"
+  build release || return
+  claim "$builds/build-$1"
+  doing="building build-$1" quiet scripts/device.sh "$1" --tests && run_tests "$1" && same_image "$1"
 }
 
 # Debian has no complaint about any package, and those of the PC and the devices go together.
 packages() {
-  local folder build complaints status=0
-  need lintian:lintian
-  folder=$(mktemp -d)
-  build release && quiet scripts/device.sh armv7 && quiet scripts/device.sh armv5te || return
+  local folder=$scratch/packages build complaints status=0
+  build release || return
+  claim "$builds/build-armv7"
+  claim "$builds/build-armv5te"
+  quiet scripts/device.sh armv7 && quiet scripts/device.sh armv5te || return
   for build in release armv7 armv5te; do
-    quiet cpack --config "build-$build/CPackConfig.cmake" -B "$folder" || status=1
+    quiet cpack --config "$builds/build-$build/CPackConfig.cmake" -B "$folder" || status=1
   done
   complaints=$(lintian --allow-root "$folder"/*.deb 2>&1) || status=1
   [ -z "$complaints" ] || { echo "$complaints"; status=1; }
@@ -45,63 +82,44 @@ packages() {
   echo "$(dpkg --print-architecture) armhf armel" | tr ' ' '\n' >"$folder/root/var/lib/dpkg/arch"
   quiet dpkg --root="$folder/root" --force-not-root,depends,script-chrootless -i "$folder"/talux-lua*.deb || status=1
   [ "$(find "$folder/root" -name lib_talux_lua.so.1 | wc -l)" = 3 ] || status=1
-  rm -rf "$folder"
   return "$status"
 }
 
 # The device leaves the same bytes behind as this machine.
 same_image() {
-  build release && quiet ctest --test-dir build-release -R '^device_image$' &&
-    scripts/compare-images.sh build-release "build-$1" | tee -a "$results/summary"
+  quiet ctest --test-dir "$builds/build-release" -R '^device_image$' &&
+    scripts/compare-images.sh "$builds/build-release" "$builds/build-$1" | tee -a "$results/notes"
 }
 
 # The tests that start threads, under the thread sanitizer.
 threads() {
   local tests
+  note 'only the tests that start threads'
   mapfile -t tests < <(grep -l 'std::j\?thread' tests/*_test.cpp | sed 's,.*/\(.*\)\.cpp,\1,')
-  build threads "${tests[@]}" && run_tests build-threads -R "^($(IFS='|'; echo "${tests[*]}"))\$"
+  build threads "${tests[@]}" && run_tests threads -R "^($(IFS='|'; echo "${tests[*]}"))\$"
 }
 
-# run.sh as its user meets it: answers, exit status, arguments, what stays in a root and what does not.
+# The scripts as their user meets them.
 commands() {
-  local root status=0
-  root=$(mktemp -d)
-  expect() { [ "$1" = "$2" ] || { printf 'expected: %s\nfound:    %s\n' "$1" "$2"; status=1; }; }
-  expect 3.000000 "$(scripts/run.sh -e 'print(talux_command("1,2,+"))')"
-  scripts/run.sh -e 'os.exit(7)' || expect 7 "$?"
-  mkdir "$root/scripts"
-  echo 'return "beside"' >"$root/scripts/other.lua"
-  echo 'print(..., require "other", io.open("/staged") ~= nil)' >"$root/scripts/my.lua"
-  echo 'touch /staged' >"$root/scripts/my.setup.sh"
-  expect $'word\tbeside\ttrue' "$(scripts/run.sh "$root/scripts/my.lua" word)"
-  scripts/run.sh --root "$root/device" -e 'talux_command("TLX_Uearth=35,save")'
-  expect TLX_Uearth=35.000000 "$(grep Uearth= "$root/device/parameter.ini")"
-  expect $'30.000000\n35.000000' "$(scripts/run.sh --root "$root/device" \
-    -e 'print(talux_command("TLX_Uearth")) print(talux_command("load,TLX_Uearth"))')"
-  expect 35.000000 "$(scripts/run.sh --root "$root/device" --boot -e 'print(talux_command("TLX_Uearth"))' 2>/dev/null)"
-  expect 30.000000 "$(echo TLX_Uearth | scripts/run.sh --shell --level 1)"
-  rm -rf "$root"
-  return "$status"
+  (build release talux device) && tests/scripts/commands.sh
 }
 
 # The page that searches the parameters and the settings record, in a browser without a window.
 browser() {
-  local page language profile result status=0
-  need chromium:chromium
+  local page language result release=$builds/build-release status=0
   build release talux || return
-  printf 'TLX_Name="<b>&amp; ä"\nTLX_Uearth=95\nTLX_Language=2\n' >build-release/report.ini
+  printf 'TLX_Name="<b>&amp; ä"\nTLX_Uearth=95\nTLX_Language=2\n' >"$release/report.ini"
   for language in en de; do
-    build-release/tools/talux/talux --language "$language" report build-release/report.ini -o "build-release/report-$language.html" ||
-      return
+    "$release/tools/talux/talux" --language "$language" report "$release/report.ini" -o "$release/report-$language.html" || return
   done
-  for page in pages/browser talux/report; do
-    profile=$(mktemp -d)
+  cp tests/talux/report.html "$release"
+  for page in tests/pages/browser.html "$release/report.html"; do
     result=$(timeout 600 chromium --headless --no-sandbox --disable-gpu --no-first-run --disable-background-networking \
-      --disable-component-update --disable-sync --user-data-dir="$profile" --allow-file-access-from-files \
-      --virtual-time-budget=10000 --dump-dom "file://$project/tests/$page.html" 2>/dev/null |
+      --disable-component-update --disable-sync --user-data-dir="$scratch/chromium" --allow-file-access-from-files \
+      --virtual-time-budget=10000 --dump-dom "file://$(realpath "$page")" 2>/dev/null |
       sed -n 's,.*<title>\(.*\)</title>.*,\1,p')
-    rm -rf "$profile"
-    echo "$page: ${result:-the browser did not start}" | tee -a "$results/summary"
+    rm -rf "$scratch/chromium"
+    note "${page##*/}: ${result:-the browser did not start}"
     [[ $result = 'all right'* ]] || status=1
   done
   return "$status"
@@ -109,91 +127,109 @@ browser() {
 
 # Without options and test packages there is the module and nothing else.
 plain() {
-  local targets status=0
-  need make:make
-  quiet cmake -S . -B build-plain -DCMAKE_BUILD_TYPE=Release || return
-  targets=$(cmake --build build-plain --target help)
-  grep -q 'lib_talux_lua' <<<"$targets" && ! grep -q '_test' <<<"$targets" || status=1
-  rm -rf build-plain
-  return "$status"
+  local targets
+  quiet cmake -S . -B "$scratch/plain" -DCMAKE_BUILD_TYPE=Release || return
+  targets=$(cmake --build "$scratch/plain" --target help)
+  grep -q 'lib_talux_lua' <<<"$targets" && ! grep -q '_test' <<<"$targets"
 }
 
 # luarocks builds and installs module and layer, without a network of its own.
 rock() {
-  local tree status=0
-  need luarocks:luarocks
-  tree=$(mktemp -d)
+  local tree=$scratch/tree status=0
+  claim "$project/build-rock"
   HOME=$tree quiet luarocks --lua-version 5.2 --tree "$tree" make || status=$?
   cp -r lua build-rock/generated/lua "$tree"
   diff -r "$tree/lua" "$tree/share/lua/5.2" || status=1
   [ 35 = "$(scripts/isolated.sh --read "$tree" -- env LUA_PATH="$tree/share/lua/5.2/?.lua" \
     LUA_CPATH="$tree/lib/lua/5.2/?.so" lua5.2 -e 'local talux = require "talux" talux.set("Uearth", 35)
       print(talux.get "Uearth")')" ] || status=1
-  rm -rf build-rock "$tree"
+  rm -rf "$project/build-rock"
   return "$status"
 }
 
 user() {
-  [ "$(id -u)" = 0 ] || { echo 'all stages run as an ordinary user here'; return; }
-  local as=(setpriv --reuid=65534 --regid=65534 --clear-groups --inh-caps=-all --bounding-set=-all)
+  [ "$(id -u)" = 0 ] || skip 'all stages run as an ordinary user here'
+  [ "$(isolation)" = full ] || skip 'there are no namespaces to show the project to another user'
+  as=(setpriv --reuid=65534 --regid=65534 --clear-groups --inh-caps=-all --bounding-set=-all)
   build release || return
-  "${as[@]}" test -x "$project/scripts/isolated.sh" || open_the_way
+  "${as[@]}" test -x "$project/scripts/isolated.sh" -a -x "$builds" || open_the_way
   release_tests_again
 }
 
 # Lets other users in where the project or a folder above it is closed to them: in a view of the file system in
-# which the topmost closed folder holds nothing but the project's files.
+# which the topmost closed folder holds nothing but the files of project and builds.
 open_the_way() {
-  local entry closed=$project below=()
-  while ! "${as[@]}" test -x "$(dirname "$closed")"; do
-    below=(--perms 0755 --dir "$closed" "${below[@]}")
-    closed=$(dirname "$closed")
+  local entry place closed view=(--dev-bind / /)
+  for place in "$project" "$builds"; do
+    closed=$place
+    local below=()
+    while ! "${as[@]}" test -x "$(dirname "$closed")"; do
+      below=(--perms 0755 --dir "$closed" "${below[@]}")
+      closed=$(dirname "$closed")
+    done
+    [[ " ${view[*]} " = *" --tmpfs $closed "* ]] || view+=(--perms 0755 --tmpfs "$closed")
+    view+=("${below[@]}")
+    for entry in "$place"/*; do view+=(--ro-bind "$entry" "$entry"); done
   done
-  local view=(--dev-bind / / --perms 0755 --tmpfs "$closed" "${below[@]}")
-  for entry in "$project"/*; do view+=(--ro-bind "$entry" "$entry"); done
   as=(env bwrap "${view[@]}" -- "${as[@]}")
 }
 
 container() {
-  local link root status=0
-  root=$(mktemp -d)
+  local link root=$scratch/container found
   mkdir -p "$root"/{etc,tmp,var,proc,dev,usr}
   for link in bin sbin lib lib64; do ln -s "usr/$link" "$root/$link"; done
-  local as=(bwrap --bind "$root" / --ro-bind /usr /usr --ro-bind /etc/alternatives /etc/alternatives
-    --ro-bind "$project" "$project" --proc /proc --dev /dev
+  as=(bwrap --bind "$root" / --ro-bind /usr /usr --ro-bind /etc/alternatives /etc/alternatives
+    --ro-bind "$project" "$project" --ro-bind "$builds" "$builds" --proc /proc --dev /dev
     --unshare-all --unshare-user --disable-userns --uid 0 --gid 0 --cap-drop ALL)
-  "${as[@]}" true || { echo 'skipped: there are no namespaces to make a container with'; return 0; }
-  release_tests_again || status=$?
-  rm -rf "$root"
-  return "$status"
+  "${as[@]}" true 2>/dev/null || skip 'there are no namespaces to make a container with'
+  release_tests_again || return
+  found=$(find "$root/tmp" "$root/var" -mindepth 1 -maxdepth 1 ! -path "*/tmp/tmp.*"; ls "$root"/*.ini 2>/dev/null)
+  [ -z "$found" ] || { echo "left in the container: $found"; return 1; }
 }
 
-# The release tests under other rights; ctest writes into a folder outside the project.
+# shellcheck disable=SC2016 # expanded inside
+isolation() { scripts/isolated.sh -- sh -c 'echo "$TALUX_ISOLATION"' 2>/dev/null; }
+
+# The release tests under other rights; ctest writes into a folder outside the builds.
 release_tests_again() {
-  local folder status=0
+  local folder=$scratch/again
   build release || return
-  folder=$(mktemp -d)
+  mkdir "$folder"
+  chmod 755 "$scratch"
   chmod 777 "$folder"
-  echo "subdirs(\"$project/build-release\")" >"$folder/CTestTestfile.cmake"
+  echo "subdirs(\"$builds/build-release\")" >"$folder/CTestTestfile.cmake"
   [ "${as[0]}" != bwrap ] || as+=(--bind "$folder" "$folder")
-  run_tests "$folder" || status=$?
-  rm -rf "$folder"
-  return "$status"
+  run_tests "$folder"
 }
 
-# run_tests FOLDER [CTEST-OPTION..]: runs the tests of a build folder, with the rights that `as` gives.
+# run_tests BUILD [CTEST-OPTION..]: runs the tests of a build, or of a folder, with the rights that `as` gives.
 run_tests() {
-  local folder=$1 status=0
+  local folder=$builds/build-$1 status=0 ticker
+  case $1 in /*) folder=$1 ;; esac
   shift
+  : >"$results/ctest"
+  doing='still at its tests:' tick "$BASHPID" "$results/ctest" streamed &
+  ticker=$!
   "${as[@]}" ctest --test-dir "$folder" --output-on-failure --no-tests=error --timeout 600 \
     -j "$(nproc)" "$@" </dev/null | tee "$results/ctest" || status=$?
-  summarise "$results/ctest" "$folder/Testing/Temporary/LastTest.log" >>"$results/summary"
+  kill "$ticker" 2>/dev/null || true
+  wait "$ticker" 2>/dev/null || true
+  summarise "$results/ctest" "$folder/Testing/Temporary/LastTest.log" >>"$results/notes"
+  give_back "$folder"
   return "$status"
 }
 
-# The closing line of ctest, the number of cases and the skipped ones with their reasons.
+# Adds the tests to the counts; prints the closing line of ctest, the number of cases and the skipped ones with their
+# reasons.
 summarise() {
-  grep 'tests passed' "$1"
+  awk -v counts="$results/counts" '
+    /tests? failed out of/ {
+      print
+      for (i = 1; i < NF; i++) if ($i == "failed") failed = $(i - 2)
+      print $NF - failed - skipped, failed, skipped >>counts
+    }
+    /\*\*\*Skipped/ { skipped++ }' "$1"
+  [ -f "$2" ] || return 0
   awk '
     /^[0-9]+\/[0-9]+ Test: / { test = $3 }
     /^\[ RUN / { reason = "" }
@@ -208,28 +244,76 @@ summarise() {
     }' "$2"
 }
 
+# why_not STAGE: why it cannot run here, if so.
+why_not() {
+  local needs names
+  mapfile -t needs < <(needs_of "$1" | grep -vx history)
+  names=$(missing "${needs[@]}" | tr '\n' ' ')
+  [ -z "$names" ] || echo "packages are missing: $names"
+}
+
+# run_stage STAGE: runs it, with its output in a file too, and notes how it ended.
+run_stage() {
+  local status=0 start=$SECONDS reason tests
+  tests=$(wc -l <"$results/counts")
+  reason=$(why_not "$1")
+  : >"$results/notes"
+  if [ -n "$reason" ]; then
+    note "$reason"
+    status=2
+  elif [[ $(needs_of "$1") = *history* ]] && ! has_history; then
+    note 'skipped: no git checkout, which says what belongs to the project'
+    status=77
+  else
+    (trap 'exit 130' INT && "$1") 2>&1 | tee "$results/$1.log" || status=${PIPESTATUS[0]}
+  fi
+  [ "$tests" != "$(wc -l <"$results/counts")" ] || # a stage without tests of its own is one
+    echo "$((status == 0)) $((status != 0 && status != 77)) $((status == 77))" >>"$results/counts"
+  case $status in
+    0) passed=$((passed + 1)) ;;
+    77) skipped+=("$1") ;;
+    *) failed+=("$1") ;;
+  esac
+  { echo "$1: $((SECONDS - start)) s$([ "$status" = 0 ] || [ "$status" = 77 ] || echo ', failed')"
+    sed 's/^/  /' "$results/notes"; } >>"$results/summary"
+}
+
 case ${1-} in
-  --all) stages=("${all[@]}") ;;
-  '') stages=("${usual[@]}") ;;
+  --list) echo "$table" | sed '/^$/d'; exit ;;
+  --all) mapfile -t stages < <(stages_run 'usual|all') ;;
+  '') mapfile -t stages < <(stages_run usual) ;;
   *) stages=("$@") ;;
 esac
-
-set -o pipefail
-results=$(mktemp -d)
-trap 'rm -rf "$results"' EXIT
-need_build_tools
-need ip:iproute2 ifconfig:net-tools killall:psmisc /usr/share/i18n/locales/de_DE:locales qemu-arm:qemu-user pkg-config:pkg-config
-failed=()
-as=()
 for stage in "${stages[@]}"; do
-  [[ " ${all[*]} debug costs " = *" $stage "* ]] || fail "unknown stage '$stage'"
-  SECONDS=0
-  echo "==== $stage"
-  echo "$stage:" >>"$results/summary"
-  "$stage" || { failed+=("$stage"); echo failed >>"$results/summary"; }
-  echo "$SECONDS seconds" >>"$results/summary"
+  [ -n "$(minutes_of "$stage")" ] || fail "there is no stage '$stage', only: $(stages_run . | tr '\n' ' ')"
+done
+
+results=$scratch/results
+mkdir "$results"
+: >"$results/counts"
+exec {terminal}>&2
+mapfile -t groups < <(for stage in "${stages[@]}"; do needs_of "$stage"; done | grep -vx history | sort -u)
+mapfile -t names < <(missing "${groups[@]}")
+[ "${#names[@]}" = 0 ] || install "${names[@]}" || echo 'stages that need them fail' >&2
+
+failed=() skipped=() passed=0 as=() number=0 started=$SECONDS
+for stage in "${stages[@]}"; do
+  number=$((number + 1))
+  echo "==== $stage ($number of ${#stages[@]}, about $(minutes_of "$stage") min)"
+  run_stage "$stage"
 done
 
 echo '==== summary'
-sed '/:$/!s/^/  /' "$results/summary"
-[ "${#failed[@]}" = 0 ] || { echo "failed: ${failed[*]}"; exit 1; }
+cat "$results/summary"
+verdict="$passed stages"
+[ "$passed" != 1 ] || verdict='1 stage'
+verdict="passed $verdict in $(((SECONDS - started) / 60)) min $(((SECONDS - started) % 60)) s"
+[ "${#skipped[@]}" = 0 ] || verdict+=", skipped ${skipped[*]}"
+if [ "${#failed[@]}" != 0 ]; then
+  logs=$(mktemp -d)
+  mv "$results"/*.log "$logs" 2>/dev/null || true
+  verdict+=", failed ${failed[*]} (output in $logs)"
+fi
+awk -v verdict="$verdict" '{ passed += $1; failed += $2; skipped += $3 }
+  END { printf "%s: %d passed, %d failed, %d skipped\n", verdict, passed, failed, skipped }' "$results/counts"
+[ "${#failed[@]}" = 0 ]

@@ -6,7 +6,11 @@ set(CMAKE_C_COMPILER ${device_multiarch}-gcc)
 set(CMAKE_CXX_COMPILER ${device_multiarch}-g++)
 set(CMAKE_LIBRARY_ARCHITECTURE ${device_multiarch})
 
-get_filename_component(device_sysroot ${CMAKE_CURRENT_LIST_DIR}/../../build-sysroot/${device_debian} ABSOLUTE)
+set(device_builds ${CMAKE_CURRENT_LIST_DIR}/../..)
+if(DEFINED ENV{TALUX_BUILD_DIR})
+  set(device_builds $ENV{TALUX_BUILD_DIR})
+endif()
+get_filename_component(device_sysroot ${device_builds}/build-sysroot/${device_debian} ABSOLUTE)
 foreach(language C CXX)
   set(CMAKE_${language}_FLAGS_INIT
     "${device_flags} -isystem ${device_sysroot}/usr/include/${device_multiarch}")

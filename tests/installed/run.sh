@@ -8,7 +8,7 @@ set -eu
 build=$1 architecture=$2 compiler=$3 cmake=$4
 shift 4
 project=$(cd "$(dirname "$0")/../.." && pwd)
-work=$build/tests/installed
+work=$build/tests/installed sysroot=${TALUX_BUILD_DIR:-$project}/build-sysroot/$architecture
 [ -w "$build" ] || { echo 'skipped: the build folder is closed to this user'; exit 77; }
 for command in qemu-arm:qemu-user pkg-config:pkg-config dpkg-deb:dpkg apt-get:apt; do
   command -v "${command%:*}" >/dev/null || { echo "skipped: needs the package ${command#*:}"; exit 77; }
@@ -21,10 +21,14 @@ esac
 
 fail() { echo "FAILED: $*" >&2; exit 1; }
 fresh_root() { # NAME: a scratch root
-  "$project/scripts/sysroot.sh" "$architecture" "$project/build-sysroot/$architecture"
+  "$project/scripts/sysroot.sh" "$architecture" "$sysroot" || {
+    [ "$?" = 75 ] || exit 1
+    echo 'skipped: the package servers cannot be reached'
+    exit 77
+  }
   rm -rf "${work:?}/$1"
   mkdir -p "$work"
-  cp -al "$project/build-sysroot/$architecture" "$work/$1"
+  cp -al "$sysroot" "$work/$1"
 }
 inside() { # NAME TEXT: a shell text in which $run PROGRAM runs with the scratch root as its /usr
   "$project/scripts/isolated.sh" --read "$work" -- \
