@@ -112,7 +112,7 @@ print("     " .. record:gsub("\n", " "):sub(1, 90) .. "...")
 say("%d characters; the device is in its cycle %d", #record, device_cycle())
 
 headline "Change a setting: it waits in the working copy until update"
-device_reaches "Uearth is 30 now"
+say("the device program: %s", wait_for("its setting", device_says))
 show "TLX_Uearth=35"
 show "TLX_Uearth"
 pass_two_cycles()

@@ -68,6 +68,9 @@ for path in "$project" "${reads[@]}"; do
   arguments+=(--ro-bind "$path" "$path")
 done
 
+# What the documents show is renewed inside.
+[ -z "${TALUX_ACCEPT-}" ] || arguments+=(--bind "$project" "$project")
+
 lay_root() {
   chmod "$mode" "$root"
   touch "$root/$mark"

@@ -34,18 +34,32 @@ void resetStore() {
     VarUpdateGlobalSpace();
 }
 
-// Carries out the blocks of one page; gives the number of examples.
-int follow(KEPL_Interpreter& interpreter, std::istream& page) {
+const bool kAccepts = std::getenv("TALUX_ACCEPT") != nullptr;
+
+// What the page shows as the answer.
+std::string answerOf(KEPL_Interpreter& interpreter, const std::string& line, int uid,
+                     const std::string& expected) {
+    const std::string answer = show(interpreter, line, uid);
+    if (answer == withoutLineEnds(expected)) return expected;
+    EXPECT_TRUE(kAccepts) << line << "\n" << answer << "\ninstead of\n" << expected;
+    return answer.empty() ? "" : answer + "\n";
+}
+
+// Carries out the blocks of one page, which becomes what it should show; gives the number of examples.
+int follow(KEPL_Interpreter& interpreter, std::string& page) {
     const std::string prompt = "kepl> ";
+    std::istringstream lines(page);
     std::string text, input, expected;
     int uid = -1, examples = 0; // uid -1: outside a block
-    while (std::getline(page, text)) {
+    page.clear();
+    while (std::getline(lines, text)) {
         const bool isFence = text.starts_with("```"), isInput = uid >= 0 && text.starts_with(prompt);
         if (!input.empty() && (isFence || isInput)) {
-            EXPECT_EQ(show(interpreter, input, uid), withoutLineEnds(expected)) << input;
+            page += answerOf(interpreter, input, uid, expected);
             ++examples;
             input.clear();
         }
+        if (isFence || isInput || input.empty()) page += text + "\n";
         if (isFence) {
             uid = !text.starts_with("```kepl") ? -1 : text == "```kepl" ? 3 : text.back() - '0';
             resetStore();
@@ -70,8 +84,12 @@ TEST_F(KeplDocumentation, ShowsWhatLinesAnswer) {
     KEPL_Interpreter interpreter(path);
     int examples = 0;
     for (const auto& page : std::filesystem::directory_iterator(TALUX_DOCUMENTATION)) {
-        std::ifstream text(page.path());
+        if (page.path().extension() != ".md") continue;
+        std::ifstream file(page.path());
+        const std::string before{std::istreambuf_iterator<char>(file), {}};
+        std::string text = before;
         examples += follow(interpreter, text);
+        if (text != before && kAccepts) std::ofstream(page.path()) << text;
     }
     EXPECT_GT(examples, 70);
     std::filesystem::remove_all(path);

@@ -1,8 +1,8 @@
 -- Runs what is typed in a document's ```console blocks and compares what comes back, error stream included.
 -- "$ " stands in front of a command, "> " in front of its further lines. "..." stands for anything, alone on a line
 -- for any number of lines; how many settings a save would write is left to the catalogue. All commands share one device
--- root; what they leave in its / is removed at the end.
-local text, project = assert(io.open(arg[1])):read "*a", arg[2]
+-- root; what they leave in its / is removed at the end. With TALUX_ACCEPT set, the document gets what comes back.
+local text, project, accepts = assert(io.open(arg[1])):read "*a", arg[2], os.getenv "TALUX_ACCEPT"
 local scratch = os.tmpname()
 
 local function run(command)
@@ -26,34 +26,62 @@ local function pattern(expected)
   return "^" .. escaped:gsub("\n%%%.%%%.%%%.%f[\n]", "\n.-"):gsub("%%%.%%%.%%%.", "[^\n]-") .. "$"
 end
 
+local function linesOf(answer)
+  local lines = {}
+  for line in answer:gmatch "[^\n]*\n" do lines[#lines + 1] = line end
+  return lines
+end
+
+-- What a document shows instead of `expected`: the lines that fit it stay, and "..." for some of them.
+local function renewed(expected, output)
+  local old, new, left = linesOf(expected), linesOf(output), nil
+  for k, line in ipairs(old) do left = left or line == "...\n" and k end
+  local kept = {}
+  for k = 1, left and left - 1 or #new do kept[k] = ("\n" .. new[k]):find(pattern(old[k] or "")) and old[k] or new[k] end
+  for k = left or #old + 1, #old do
+    local line = new[#new - #old + k]
+    kept[#kept + 1] = k > left and not ("\n" .. line):find(pattern(old[k])) and line or old[k]
+  end
+  return table.concat(kept)
+end
+
 local count, wrong, before = 0, 0, files()
 local function try(command, expected)
   local output = run(command)
   count = count + 1
-  if ("\n" .. output):find(pattern(expected)) then return end
+  if ("\n" .. output):find(pattern(expected)) then return expected end
   wrong = wrong + 1
   print(("$ %s\n---- expected\n%s---- found\n%s----"):format(command, expected, output))
+  return renewed(expected, output)
 end
 
-for block in text:gmatch "\n```console\n(.-)```" do
-  local command, expected
+local function follow(block)
+  local shown, command, expected = {}
+  local function finish()
+    if command then shown[#shown + 1] = try(command, expected) end
+  end
   for line in block:gmatch "([^\n]*)\n" do
     local mark, rest = line:match "^([$>]) (.*)$"
     if mark == "$" then
-      if command then try(command, expected) end
+      finish()
       command, expected = rest, ""
     elseif mark == ">" and expected == "" then
       command = command .. "\n" .. rest
     else
       expected = expected .. line .. "\n"
     end
+    if mark == "$" or mark == ">" and expected == "" then shown[#shown + 1] = line .. "\n" end
   end
-  try(command, expected)
+  finish()
+  return table.concat(shown)
 end
+
+local accepted = text:gsub("(\n```console\n)(.-)(```)", function(open, block, close) return open .. follow(block) .. close end)
 os.remove(scratch)
 for name in pairs(files()) do
   if not before[name] then os.remove(name) end
 end
 assert(count > 0, "nothing is typed in " .. arg[1])
+if accepts and accepted ~= text then assert(io.open(arg[1], "w")):write(accepted) end
 if wrong == 0 then print(("ok: %d commands of %s"):format(count, arg[1])) end
-os.exit(wrong == 0)
+os.exit(wrong == 0 or accepts ~= nil)
