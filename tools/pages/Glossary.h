@@ -156,7 +156,7 @@ inline constexpr Word kDeviceWords[] = {
      "Pulsortung mit 50 Hz. Die Ausgangsfunktionen mit c (Pulse_50c) stehen in der Liste getrennt; was c bedeutet, "
      "ist nicht dokumentiert.",
      "Pulse locating at 50 Hz. The output functions with c (Pulse_50c) are separate in the list; what c means is "
-     "not kept here."},
+     "not documented."},
     {"HPCI, pHPCI", "HPCI, pHPCI",
      "Pulsortung mit eingespeistem Strom hoher Leistung (high power current injection).",
      "Pulse locating with high power current injection."},
@@ -166,7 +166,7 @@ inline constexpr Word kDeviceWords[] = {
      "Ausgangsfunktionen des Kurzschlusses: >I und >>I in zwei Klassen, dahinter der Leiter, dahinter die Richtung.",
      "Output functions of the short circuit: >I and >>I in two classes, then the phase, then the direction."},
     {"df", "df", "Abweichung der Netzfrequenz von ihrem Bezugswert.",
-     "Deviation of the grid frequency from its reference."},
+     "Deviation of the system frequency from its reference."},
     {"Ice", "Ice",
      "Kapazitiver Erdschlussstrom, bei den Oberschwingungen der Summenstrom ihrer Frequenz; primär.",
      "Capacitive earth-fault current, for the harmonics the residual current of their frequency; primary."},
@@ -204,8 +204,8 @@ inline constexpr Word kDeviceWords[] = {
     {"PROG, NC, n.n., frei", "PROG, NC, n.n.",
      "Wahlen in der Liste der Ausgangsfunktionen. NC, deutsch frei: ohne Funktion. Was PROG und 50Hz n.n. melden, "
      "ist nicht dokumentiert.",
-     "Choices in the list of output functions. NC: without a function. What PROG and 50Hz n.n. signal is not kept "
-     "here."},
+     "Choices in the list of output functions. NC: without a function. What PROG and 50Hz n.n. signal is not "
+     "documented."},
     {"LT", "LT", "Leittechnik: y_BE_LT und OVR_BE_LT_... sind Eingänge, die von dort kommen.",
      "Telecontrol (German Leittechnik): y_BE_LT and OVR_BE_LT_... are inputs that come from there."},
     {"vBE, vBA, virt_BE", "vBE, vBA, virt_BI", "Virtuelle Ein- und Ausgänge 1 bis 96 im Prozessabbild.",
