@@ -1,4 +1,4 @@
-# The tables of the dictionary, made from catalogue and texts by a program that this machine runs. A row that breaks
+# The tables of the dictionary, made from the rows of parameters by a program that this machine runs. A row that breaks
 # a rule ends the build. Sets talux_tables, the sources, below talux_generated.
 set(talux_generated ${PROJECT_BINARY_DIR}/generated)
 set(talux_tables

@@ -1,4 +1,4 @@
-// The tables that tools/generator makes of the catalogue, besides those of the public headers.
+// The tables that tools/generator makes of the rows of parameters, besides those of the public headers.
 #ifndef TALUX_DICTIONARY_TABLES_H
 #define TALUX_DICTIONARY_TABLES_H
 

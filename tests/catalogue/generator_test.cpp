@@ -5,12 +5,10 @@
 
 #include <algorithm>
 
-#include "ParamSystem/catalogue/Family.h"
-#include "ParamSystem/texts/Words.h"
+#include "tools/generator/Data.h"
 
 using namespace talux;
-using catalogue::ParameterRow;
-using texts::TextEntry;
+using parameters::Note, parameters::Row, parameters::Texts;
 
 namespace {
 
@@ -18,40 +16,31 @@ namespace {
 class Data {
 public:
     Data() {
-        for (const catalogue::Family& family : generator::catalogueData())
+        for (const parameters::Family& family : generator::familyData()) {
             rows.emplace_back(family.rows.begin(), family.rows.end());
-        for (const generator::TextFamily family : generator::textData())
-            entries.insert(entries.end(), family.begin(), family.end());
+            notes.emplace_back(family.notes.begin(), family.notes.end());
+        }
     }
 
-    ParameterRow& row(std::string_view name) {
-        for (std::vector<ParameterRow>& family : rows)
-            for (ParameterRow& row : family)
+    Row& row(std::string_view name) {
+        for (std::vector<Row>& family : rows)
+            for (Row& row : family)
                 if (row.properties.name == name || row.templateName == name) return row;
         throw std::out_of_range(std::string(name));
     }
     stParamProperties& operator[](std::string_view name) { return row(name).properties; }
-
-    TextEntry& text(std::string_view subject) {
-        return *std::find_if(entries.begin(), entries.end(),
-                             [&](const TextEntry& entry) { return entry.subject == subject; });
-    }
-    void repeat(std::string_view subject, const char* as) {
-        entries.push_back(text(subject));
-        entries.back().subject = as;
-    }
-    void drop(std::string_view subject) {
-        std::erase_if(entries, [&](const TextEntry& entry) { return entry.subject == subject; });
-    }
+    Texts& text(std::string_view name) { return row(name).texts; }
+    parameters::Both& choices(std::string_view name) { return text(name).items[parameters::kGroupArgs]; }
 
     std::string messages() const {
-        const auto data = generator::catalogueData();
-        std::vector<catalogue::Family> families(data.begin(), data.end());
-        for (std::size_t k = 0; k < families.size(); ++k)
+        const auto data = generator::familyData();
+        std::vector<parameters::Family> families(data.begin(), data.end());
+        for (std::size_t k = 0; k < families.size(); ++k) {
             families[k].rows = rows[k];
-        const generator::TextFamily texts(entries);
+            families[k].notes = notes[k];
+        }
         generator::Faults faults;
-        const bool isMade = generator::makeModel(families, {&texts, 1}, faults).has_value();
+        const bool isMade = generator::makeModel(families, faults).has_value();
         EXPECT_EQ(isMade, faults.empty());
         std::string printed(10'000, '\0');
         std::FILE* const out = fmemopen(printed.data(), printed.size(), "w");
@@ -60,34 +49,35 @@ public:
         return printed.substr(0, printed.find('\0'));
     }
 
-    std::vector<std::vector<ParameterRow>> rows; // by family
-    std::vector<TextEntry> entries;
+    std::vector<std::vector<Row>> rows; // by family
+    std::vector<std::vector<Note>> notes;
 };
 
 struct Wrong {
-    const char* subject;
-    const char* words; // of the rule
+    const char* subject; // as the message calls it
+    const char* words;   // of the rule
     void (*spoil)(Data&);
+    const char* row = subject; // that is named
 };
 
-constexpr char kOutside[] = "outside the block of its type", kSameId[] = "another row has the same id";
 constexpr char kRange[] = "default lies outside", kLevel[] = "takes user level 3, any other setting 1";
 constexpr char kTemplate[] = "template is of another kind or range",
                kUntidy[] = "blanks at an end or two in a";
-constexpr char kChoices[] = "more or fewer choices", kNumbers[] = "from a number to a number";
+constexpr char kNumbers[] = "from a number to a number", kSeries[] = "REL{1..8}";
 
 // clang-format off
-const Wrong kRows[] = {
+const Wrong kWrong[] = {
     {"es sid", "letters, digits and underscores", [](Data& d) { d["essid"].name = "es sid"; }},
     {"", "letters, digits and underscores", [](Data& d) { d.row("DLG_Test").templateName = ""; }},
-    {"ESSID", "another row has the same name", [](Data& d) { d["DNS"].name = "ESSID"; }},
-    {"vBA", "another row has the same symbol", [](Data& d) { d["DNS"].name = "vba_7"; }},
-    {"channel", kOutside, [](Data& d) { d["channel"].id = 9999; }},
-    {"StatRecord_c0", kOutside, [](Data& d) { d["StatRecord_c0"].id = 30003; }},
-    {"VarSaveParams", kOutside, [](Data& d) { d["VarSaveParams"].id = 18040; }},
-    {"DLG_Test", kOutside, [](Data& d) { d["DLG_Test"].id = 10131; }},
-    {"FW_ETH0_com", kSameId, [](Data& d) { d["FW_ETH0_com"].id = 8010; }},
-    {"conman_error", kSameId, [](Data& d) { d["conman_error"].id = 6340; }},
+    {"ESSID", "the same name: essid in ParamSystem/parameters/Network.h:", [](Data& d) { d["DNS"].name = "ESSID"; }},
+    {"vba_7", "the same symbol: vBA in ParamSystem/parameters/Pro", [](Data& d) { d["debug_tv"].name = "vba_7"; }},
+    {"channel", "the id 9999 lies outside the block of its type, long 6000..7268; free: 6029, 7214..7245", [](Data& d) { d["channel"].id = 9999; }},
+    {"StatRecord_c0", "outside the block of its type, record 30000..30002", [](Data& d) { d["StatRecord_c0"].id = 30003; }},
+    {"VarSaveParams", "outside the block of its type, command 19000..19099", [](Data& d) { d["VarSaveParams"].id = 18040; }},
+    {"DLG_Test", "outside the block of its type, template 18000..18099", [](Data& d) { d["DLG_Test"].id = 10131; }},
+    {"log_LED", "the same id: DEBUG in ParamSystem/parameters/Runtime.h:", [](Data& d) { d["log_LED"].id = 8183; }},
+    {"DEBUG", "the same id: log_LED in ParamSystem/parameters/BinaryIO.h:", [](Data& d) { d["DEBUG"].id = 8073; }},
+    {"conman_error", "another row has the same id: conman_status", [](Data& d) { d["conman_error"].id = 6340; }},
     {"cycle_cnt_low", "stands for an int too", [](Data& d) { d["cycle_cnt_low"].is_volatile = 0; }},
     {"conman_status", "at least two members", [](Data& d) { d.row("conman_status").last = 1; }},
     {"conman_status", "only run-time values have indexes", [](Data& d) { d["conman_status"].is_volatile = 0; }},
@@ -100,6 +90,7 @@ const Wrong kRows[] = {
     {"rate", kRange, [](Data& d) { d["rate"].val_def = 0; }},
     {"Modbustime_reg", kRange, [](Data& d) { d["Modbustime_reg"].val_def = 28000; }},
     {"Uearth", kRange, [](Data& d) { d["Uearth"].val_def = 0.5; }},
+    {"Uearth", "names its method", [](Data& d) { d.row("Uearth").of = {}; }},
     {"Kenn", "longer than the text may be", [](Data& d) { d["Kenn"].val_def_text = "ABCD"; }},
     {"ro_pin_active", kLevel, [](Data& d) { d["ro_pin_active"].userlevel = 1; }},
     {"Name", kLevel, [](Data& d) { d["Name"].userlevel = 2; }},
@@ -107,43 +98,39 @@ const Wrong kRows[] = {
     {"kni1", kTemplate, [](Data& d) { d["kni1"].id_template = 18023; }},
     {"kni1", kTemplate, [](Data& d) { d["kni1"].id_template = 18099; }},
     {"kni1", kTemplate, [](Data& d) { d["kni1"].val_max = 500; }},
-    {"essid", "it has no texts", [](Data& d) { d.drop("essid"); }},
-};
 
-const Wrong kTexts[] = {
-    {"ESSID", "no parameter has this name", [](Data& d) { d.repeat("essid", "ESSID"); }},
-    {"essid", "its texts stand twice", [](Data& d) { d.repeat("essid", "essid"); }},
-    {"essid", "there is no title", [](Data& d) { d.text("essid").title = {}; }},
-    {"essid", "missing in one language", [](Data& d) { d.text("essid").title = {"Netzname"}; }},
-    {"Language", "one language has fewer", [](Data& d) { d.text("Language").items[0].en = "German"; }},
+    {"essid", "it has no texts", [](Data& d) { d.text("essid") = {}; }},
+    {"essid", "missing in English", [](Data& d) { d.text("essid").title = {"Netzname"}; }},
+    {"Language", "fewer texts: 2 German, 1 English", [](Data& d) { d.choices("Language").en = "German"; }},
     {"essid", "not in UTF-8", [](Data& d) { d.text("essid").title = {"gr\xFC\xDF", "x"}; }},
     {"essid", "not in UTF-8", [](Data& d) { d.text("essid").title = {"gr\xC3", "x"}; }},
-    {"essid", "at most 24", [](Data& d) { d.text("essid").title.de = "äöüäöüäöüäöüäöüäöüäöüäöüä"; }},
-    {"essid", kUntidy, [](Data& d) { d.text("essid").unit = "s "; }},
+    {"essid", "the German text \"äöüäöüäöüäöüäöüäöüäöüäöüä\" has 25 characters, a title at most 24",
+        [](Data& d) { d.text("essid").title.de = "äöüäöüäöüäöüäöüäöüäöüäöüä"; }},
+    {"essid", kUntidy, [](Data& d) { d.row("essid").unit = "s "; }},
     {"essid", kUntidy, [](Data& d) { d.text("essid").title.de = "\ta"; }},
     {"essid", kUntidy, [](Data& d) { d.text("essid").title.de = "a  b"; }},
     {"essid", kUntidy, [](Data& d) { d.text("essid").title.de = "a}"; }},
-    {"Language", kUntidy, [](Data& d) { d.text("Language").items[0] = {"a||b", "a||b"}; }},
+    {"Language", kUntidy, [](Data& d) { d.choices("Language") = {"a||b", "a||b"}; }},
     {"ftp_log", "the title is only the name", [](Data& d) { d.text("ftp_log").title.en = "ftp_log"; }},
     {"essid", "says the title", [](Data& d) { d.text("essid").description = d.text("essid").title; }},
-    {"Language", kChoices, [](Data& d) { d.text("Language").items[0] = {"a|b|c", "a|b|c"}; }},
-    {"Language", kChoices, [](Data& d) { d.text("Language").items[0] = {"a", "a"}; }},
-    {"TPL_PRIORITY", kChoices, [](Data& d) { d.text("TPL_PRIORITY").items[0] = {"a*21", "a*21"}; }},
-    {"essid", kChoices, [](Data& d) { d.text("essid").items[0] = {"a", "a"}; }},
-    {"REL{1..8", "a brace is not closed", [](Data& d) { d.text("REL{1..8}").subject = "REL{1..8"; }},
-    {"REL{}", "or holds nothing", [](Data& d) { d.text("REL{1..8}").subject = "REL{}"; }},
-    {"REL{1..n}", kNumbers, [](Data& d) { d.text("REL{1..8}").subject = "REL{1..n}"; }},
-    {"REL{..8}", kNumbers, [](Data& d) { d.text("REL{1..8}").subject = "REL{..8}"; }},
-    {"Language", kNumbers, [](Data& d) { d.text("Language").items[0] = {"a*b", "a*b"}; }},
+    {"Language", "3 texts of choices for 2 choices", [](Data& d) { d.choices("Language") = {"a|b|c", "a|b|c"}; }},
+    {"Language", "1 texts of choices for 2 choices", [](Data& d) { d.choices("Language") = {"a", "a"}; }},
+    {"PRIORITY", "21 texts of choices for 20", [](Data& d) { d.choices("PRIORITY") = {"a*21", "a*21"}; }},
+    {"essid", "1 texts of choices for 0", [](Data& d) { d.choices("essid") = {"a", "a"}; }},
+    {"Language", "2 texts and 1 names", [](Data& d) { d.text("Language").choiceNames = "German"; }},
+    {"Language", "two of its choices have one name", [](Data& d) { d.text("Language").choiceNames = "A|A"; }},
+    {"REL{1..8", "a brace is not closed", [](Data& d) { d[kSeries].name = "REL{1..8"; }},
+    {"REL{}", "or holds nothing", [](Data& d) { d[kSeries].name = "REL{}"; }},
+    {"REL{1..n}", kNumbers, [](Data& d) { d[kSeries].name = "REL{1..n}"; }},
+    {"REL{..8}", kNumbers, [](Data& d) { d[kSeries].name = "REL{..8}"; }},
+    {"Language", kNumbers, [](Data& d) { d.choices("Language") = {"a*b", "a*b"}; }},
     {"essid", "the places {n} and {m} only", [](Data& d) { d.text("essid").title.en = "{k}"; }},
     {"essid", "has no list for", [](Data& d) { d.text("essid").title.en = "{n}"; }},
 };
 // clang-format on
 
-void expectRefusal(const Wrong& wrong, const std::string& messages, const SourceLine& where) {
-    const std::string file = where.file;
-    const std::string head = file.substr(file.rfind("ParamSystem/")) + ":" + std::to_string(where.number) +
-                             ": error: " + wrong.subject + ": ";
+void expectOneLine(const std::string& messages, const SourceLine& where, const Wrong& wrong) {
+    const std::string head = generator::fileAndLine(where) + ": error: " + wrong.subject + ": ";
     EXPECT_TRUE(messages.starts_with(head) && messages.find(wrong.words) != std::string::npos) << messages;
     EXPECT_EQ(messages.find('\n'), messages.size() - 1) << messages;
 }
@@ -152,23 +139,25 @@ void expectRefusal(const Wrong& wrong, const std::string& messages, const Source
 
 TEST(Generator, NamesTheRowThatBreaksARule) {
     EXPECT_EQ(Data().messages(), "");
-    for (const Wrong& wrong : kRows) {
+    for (const Wrong& wrong : kWrong) {
         Data data;
         wrong.spoil(data);
-        expectRefusal(wrong, data.messages(), data.row(wrong.subject).where);
+        expectOneLine(data.messages(), data.row(wrong.row).where, wrong);
     }
-    for (const Wrong& wrong : kTexts) {
-        Data data;
-        wrong.spoil(data);
-        expectRefusal(wrong, data.messages(), data.text(wrong.subject).where);
-    }
+}
+
+TEST(Generator, NamesTheNoteThatIsWrong) {
+    Data data;
+    Note& note = data.notes[6].front();
+    note.names = "ETH9_IP";
+    expectOneLine(data.messages(), note.where, {"a note", "no parameter is called ETH9_IP", nullptr});
 }
 
 TEST(Generator, SaysWhatCanBeDoneWhenTheTableOfTextsIsFull) {
     Data data;
-    data.text("TPL_DLG_Test").items[texts::kGroupMessages] = {"x*2000", "x*2000"};
+    data.text("DLG_Test").items[parameters::kGroupMessages] = {"x*2000", "x*2000"};
     const std::string message = data.messages();
-    EXPECT_TRUE(message.starts_with("error: ParamSystem/texts: ") &&
+    EXPECT_TRUE(message.starts_with("error: ParamSystem/parameters: ") &&
                 message.find(" texts, the table takes " + std::to_string(generator::kMostTexts) +
                              ": share") != std::string::npos)
         << message;
@@ -177,7 +166,7 @@ TEST(Generator, SaysWhatCanBeDoneWhenTheTableOfTextsIsFull) {
 
 TEST(Generator, WritesFiveLinesAtMost) {
     Data data;
-    for (ParameterRow& row : data.rows[6])
+    for (Row& row : data.rows[6])
         row.properties.name = "";
     const std::string messages = data.messages();
     EXPECT_EQ(std::count(messages.begin(), messages.end(), '\n'), 5);

@@ -1,22 +1,16 @@
-// The data that the tables are made of.
+// The data that everything is made of.
 #ifndef TALUX_GENERATOR_DATA_H
 #define TALUX_GENERATOR_DATA_H
 
 #include <span>
 
-namespace talux::catalogue {
+namespace talux::parameters {
 struct Family;
-}
-namespace talux::texts {
-struct TextEntry;
 }
 
 namespace talux::generator {
 
-using TextFamily = std::span<const texts::TextEntry>;
-
-std::span<const catalogue::Family> catalogueData();
-std::span<const TextFamily> textData();
+std::span<const parameters::Family> familyData();
 
 } // namespace talux::generator
 

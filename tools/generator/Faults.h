@@ -18,6 +18,9 @@ struct Fault {
 
 using Faults = std::vector<Fault>;
 
+// "ParamSystem/parameters/Network.h:17", as seen from the root of the project.
+std::string fileAndLine(const SourceLine& where);
+
 // One line per fault, five lines at most.
 void print(const Faults& faults, std::FILE* out);
 

@@ -1,16 +1,17 @@
 #include "tools/generator/Generator.h"
 
-#include "tools/generator/CatalogueRules.h"
+#include "tools/generator/RowRules.h"
 
 namespace talux::generator {
 
-std::optional<OwnedModel> makeModel(std::span<const catalogue::Family> families,
-                                    std::span<const TextFamily> textFamilies, Faults& faults) {
-    const std::vector<Parameter> parameters = spellOut(families);
-    checkCatalogue(families, parameters, faults);
+std::optional<OwnedModel> makeModel(std::span<const parameters::Family> families, Faults& faults) {
+    const std::vector<Parameter> parameters = expand(families, faults);
+    if (!faults.empty()) return std::nullopt;
+    checkRows(parameters, faults);
+    if (faults.empty()) checkNotes(families, parameters, faults);
     if (!faults.empty()) return std::nullopt;
     const std::vector<TextSubject> subjects = textSubjects(parameters);
-    const std::vector<Text> texts = spellOut(textFamilies, subjects, faults);
+    const std::vector<Text> texts = expand(subjects, faults);
     if (!faults.empty()) return std::nullopt;
     return std::make_optional<OwnedModel>(families, parameters, subjects, texts);
 }

@@ -11,8 +11,7 @@
 namespace talux::generator {
 
 // No model where a rule is broken.
-std::optional<OwnedModel> makeModel(std::span<const catalogue::Family> families,
-                                    std::span<const TextFamily> texts, Faults& faults);
+std::optional<OwnedModel> makeModel(std::span<const parameters::Family> families, Faults& faults);
 
 Sources tables(const model::Model& model);
 

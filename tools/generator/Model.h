@@ -9,6 +9,7 @@
 
 #include "ParamSystem/TALUX_ParamStrings.h"
 #include "ParamSystem/TALUX_Params.h"
+#include "ParamSystem/parameters/Traits.h"
 
 namespace talux::model {
 
@@ -44,28 +45,27 @@ struct Row {
     Both title, description;
     std::string_view unit;
     Group groups[kGroups];
-    std::span<const int> notes; // places in the model's; its own, besides those of the template
-    int method;                 // place in the model's, or -1
+    std::span<const int> notes;  // places in the model's; its own, besides those of the template
+    parameters::MethodId method; // place in the model's, or -1
+    parameters::Role role;       // of a setting of a method
+    unsigned is;                 // traits
+    parameters::Effect effect;   // of a write
 
+    bool has(parameters::Trait trait) const { return (is & trait) != 0; }
     bool isTemplate() const { return properties->name[0] == '\0'; }
     bool isIndexed() const { return properties->val_max_id > 0; }
     int elements() const { return isIndexed() ? properties->val_max_id - properties->val_min_id + 1 : 1; }
 };
 
-enum NoteKind {
-    kWarning, // a wrong value or a careless write does harm, or does not do what one expects
-    kUnknown, // the meaning is not documented, or only read from the name
-    kAdvice   // good to know
-};
-
 struct Note {
     Both text;
-    NoteKind kind;
+    parameters::NoteKind kind;
 };
 
 struct Model {
     std::span<const Row> rows; // in menu order
     std::span<const stParamFamily> families;
+    std::span<const Both> familyNames;
     std::span<const Note> notes;
     std::span<const Both> methods; // their names
 };

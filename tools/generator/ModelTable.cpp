@@ -45,21 +45,16 @@ public:
         std::string rows;
         for (const Row& row : model.rows)
             rows += line(row);
-        std::string notes, methods;
-        for (const model::Note& note : model.notes)
-            notes += row(both(note.text), "NoteKind(" + number(note.kind) + ")");
-        for (const Both& method : model.methods)
-            methods += both(method) + ",\n";
+        const std::string lists =
+            noteArray() + array("methods", model.methods) + array("familyNames", model.familyNames);
         return joined(
             {kHead,
              "#include \"ParamSystem/dictionary/Tables.h\"\n#include \"tools/reference/Reference.h\"\n"
              "namespace talux::reference {\nnamespace {\nusing namespace model;\n",
-             pool.definition(), items.definition(), noteRuns.definition(), "constexpr Note notes[] = {\n",
-             notes, "};\nconstexpr Both methods[] = {\n", methods,
-             "};\n"
-             "extern const Row rows[];\nconst Row rows[] = {\n",
-             rows,
-             "};\n}\nconst Model& model() {\nstatic const Model all{rows, kFamilies, notes, methods};\n"
+             pool.definition(), items.definition(), noteRuns.definition(), lists,
+             "extern const Row rows[];\nconst Row rows[] = {\n", rows,
+             "};\n}\nconst Model& model() {\nstatic const Model all{rows, kFamilies, familyNames, notes, "
+             "methods};\n"
              "return all;\n}\n}\n"});
     }
 
@@ -70,6 +65,24 @@ private:
 
     std::string both(const Both& text) {
         return joined({"{", pool.view(text.de), ",", pool.view(text.en), "}"});
+    }
+
+    std::string array(std::string_view name, std::span<const Both> texts) {
+        std::string rows;
+        for (const Both& text : texts)
+            rows += both(text) + ",\n";
+        return joined({"constexpr Both ", name, "[] = {\n", rows, "};\n"});
+    }
+
+    std::string noteArray() {
+        std::string rows;
+        for (const model::Note& note : model.notes)
+            rows += row(both(note.text), coded("NoteKind", note.kind));
+        return joined({"constexpr Note notes[] = {\n", rows, "};\n"});
+    }
+
+    static std::string coded(std::string_view type, int value) {
+        return joined({"parameters::", type, "{", number(value), "}"});
     }
 
     std::string group(const model::Group& group) {
@@ -93,7 +106,8 @@ private:
             number(row.textId), place("DefParamFamilies", row.family - model.families.data()),
             row.shared == nullptr ? "nullptr" : place("rows", row.shared - model.rows.data()),
             both(row.title), both(row.description), pool.view(row.unit),
-            joined({"{", list(groups, ","), "}"}), noteRuns.add(notes), number(row.method));
+            joined({"{", list(groups, ","), "}"}), noteRuns.add(notes), coded("MethodId", row.method),
+            coded("Role", row.role), number(static_cast<int>(row.is)), coded("Effect", row.effect));
     }
 };
 

@@ -3,11 +3,8 @@
 #include <algorithm>
 #include <map>
 
-#include "ParamSystem/catalogue/Family.h"
-#include "tools/generator/ApiNames.h"
+#include "ParamSystem/parameters/Methods.h"
 #include "tools/generator/TextPattern.h"
-#include "tools/pages/Methods.h"
-#include "tools/pages/Notes.h"
 
 namespace talux::generator {
 namespace {
@@ -18,20 +15,12 @@ std::string_view& in(Both& both, int language) {
     return language == kGerman ? both.de : both.en;
 }
 
-// Every name begins with the prefix of the last one, which is empty.
-std::size_t methodByPrefix(std::string_view name) {
-    const auto length = [name](const pages::Method& method) {
-        return name.starts_with(method.prefix) ? static_cast<int>(method.prefix.size()) : -1;
-    };
-    return static_cast<std::size_t>(std::ranges::max_element(pages::kMethods, {}, length) - pages::kMethods);
-}
-
 } // namespace
 
-OwnedModel::OwnedModel(std::span<const catalogue::Family> allFamilies,
+OwnedModel::OwnedModel(std::span<const parameters::Family> allFamilies,
                        const std::vector<Parameter>& parameters, const std::vector<TextSubject>& subjects,
                        std::span<const Text> texts) {
-    addFamilies(allFamilies);
+    addFamilies(allFamilies, parameters);
     std::map<const Parameter*, int> textIds;
     for (const TextSubject& subject : subjects)
         textIds.emplace(subject.parameter, subject.textId);
@@ -46,11 +35,11 @@ OwnedModel::OwnedModel(std::span<const catalogue::Family> allFamilies,
         Row& row = rows.back();
         row.textId = subject->second;
         const auto end = std::ranges::find_if(texts, [&](const Text& text) { return text.id != row.textId; });
-        addTexts(row, {texts.begin(), end});
+        addTexts(row, *parameter.row, {texts.begin(), end});
         texts = {end, texts.end()};
     }
     share();
-    addNotes();
+    addNotes(allFamilies);
     addMethods();
 }
 
@@ -58,32 +47,36 @@ std::string_view OwnedModel::keep(std::string_view text) {
     return *strings.emplace(text).first;
 }
 
-void OwnedModel::addFamilies(std::span<const catalogue::Family> all) {
-    int position = 1;
-    for (const catalogue::Family& family : all) {
-        const int first = position;
-        for (const catalogue::ParameterRow& row : family.rows)
-            position += row.count();
-        families.push_back({family.name, first, position - 1});
+void OwnedModel::addFamilies(std::span<const parameters::Family> all,
+                             const std::vector<Parameter>& parameters) {
+    int last = 0;
+    for (const parameters::Family& family : all) {
+        const int first = last + 1;
+        last += static_cast<int>(std::ranges::count(parameters, &family, &Parameter::family));
+        families.push_back({family.en, first, last});
+        familyNames.push_back({family.de, family.en});
     }
 }
 
 void OwnedModel::addRow(const Parameter& parameter, const stParamFamily& family, int position) {
     stParamProperties& copy = properties.emplace_back(parameter.properties());
     copy.id = parameter.id();
-    copy.name = keep(parameter.name()).data();
+    copy.name = keep(parameter.name).data();
     Row& row = rows.emplace_back();
     row.properties = &copy;
     row.position = position;
     row.name = keep(parameter.stem());
     row.family = &family;
-    row.method = -1;
+    row.method = parameter.row->of.method;
+    row.role = parameter.row->of.role;
+    row.is = parameter.row->is;
+    row.effect = parameter.row->effect;
 }
 
-void OwnedModel::addTexts(Row& row, std::span<const Text> texts) {
+void OwnedModel::addTexts(Row& row, const parameters::Row& data, std::span<const Text> texts) {
     for (const Text& text : texts)
         addText(row, text);
-    nameChoices(row);
+    nameChoices(data);
 }
 
 void OwnedModel::addText(Row& row, const Text& text) {
@@ -102,12 +95,10 @@ void OwnedModel::addText(Row& row, const Text& text) {
     group.items = list;
 }
 
-void OwnedModel::nameChoices(Row& row) {
-    if (row.properties->type != kTypeEnum || row.groups[model::kChoices].items.empty()) return;
-    std::vector<Item>& choices = items.back(); // an enum has no other group
-    const std::vector<std::string> names = apiNames(choices);
-    for (std::size_t k = 0; k < choices.size(); ++k)
-        choices[k].api = keep(names[k]);
+void OwnedModel::nameChoices(const parameters::Row& data) {
+    const std::vector<std::string> names = choiceNames(data);
+    for (std::size_t k = 0; k < names.size(); ++k)
+        items.back()[k].api = keep(names[k]); // an enum has no other group
 }
 
 void OwnedModel::share() {
@@ -118,12 +109,14 @@ void OwnedModel::share() {
         if (row.properties->id_template != 0) row.shared = templates.at(row.properties->id_template);
 }
 
-void OwnedModel::addNotes() {
+void OwnedModel::addNotes(std::span<const parameters::Family> all) {
     std::map<std::string, std::vector<int>, std::less<>> byName;
-    for (const pages::Note& note : pages::kNotes) {
-        for (const std::string& name : namesOf(note.names))
-            byName[name].push_back(static_cast<int>(notes.size()));
-        notes.push_back({{note.de, note.en}, note.kind});
+    for (const parameters::Family& family : all) {
+        for (const parameters::Note& note : family.notes) {
+            for (const std::string& name : namesOf(note.names))
+                byName[name].push_back(static_cast<int>(notes.size()));
+            notes.push_back({{note.de, note.en}, note.kind});
+        }
     }
     for (Row& row : rows) {
         const auto found = byName.find((row.isTemplate() ? "TPL_" : "") + std::string(row.name));
@@ -132,19 +125,8 @@ void OwnedModel::addNotes() {
 }
 
 void OwnedModel::addMethods() {
-    std::map<std::string, int, std::less<>> byName;
-    for (const pages::Method& method : pages::kMethods) {
-        for (const std::string& name : namesOf(pages::settingsOf(method)))
-            byName.emplace(name, static_cast<int>(methods.size()));
+    for (const parameters::Method& method : parameters::kMethods)
         methods.push_back({method.de, method.en});
-    }
-    for (Row& row : rows) {
-        const auto found = byName.find(row.name);
-        if (found != byName.end())
-            row.method = found->second;
-        else if (row.family->name == pages::kMethodFamily)
-            row.method = static_cast<int>(methodByPrefix(row.name));
-    }
 }
 
 } // namespace talux::generator

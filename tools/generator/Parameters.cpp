@@ -3,24 +3,44 @@
 #include <map>
 #include <set>
 
-#include "ParamSystem/catalogue/Family.h"
+#include "tools/generator/TextPattern.h"
 
 namespace talux::generator {
 
-using catalogue::ParameterRow;
+using parameters::Row;
 
-std::string Parameter::name() const {
-    std::string name = row->properties.name;
-    if (row->series == ParameterRow::kNumbered) name += std::to_string(number);
-    return name;
+namespace {
+
+std::vector<SeriesMember> membersOf(const Row& row) {
+    if (row.series == Row::kNamed) return generator::membersOf(row.properties.name);
+    return std::vector<SeriesMember>(static_cast<std::size_t>(row.last), {row.properties.name, "", ""});
 }
 
-std::vector<Parameter> spellOut(std::span<const catalogue::Family> families) {
+// The words of the row come first, then the member of its series.
+void show(Parameter& parameter, const SeriesMember& member) {
+    std::size_t place = 0;
+    for (const std::string_view word :
+         {std::string_view(parameter.row->texts.shown[0]), std::string_view(parameter.row->texts.shown[1]),
+          std::string_view(member.n)})
+        if (!word.empty() && place < std::size(parameter.shown)) parameter.shown[place++] = word;
+}
+
+} // namespace
+
+std::vector<Parameter> expand(std::span<const parameters::Family> families, Faults& faults) {
     std::vector<Parameter> parameters;
-    for (const catalogue::Family& family : families)
-        for (const ParameterRow& row : family.rows)
-            for (int number = row.first; number < row.first + row.count(); ++number)
-                parameters.push_back({&family, &row, number});
+    for (const parameters::Family& family : families) {
+        for (const Row& row : family.rows) {
+            try {
+                int number = 0;
+                for (const SeriesMember& member : membersOf(row))
+                    show(parameters.emplace_back(Parameter{&family, &row, number++, member.name, {}}),
+                         member);
+            } catch (const BrokenRule& rule) {
+                faults.push_back({row.where, row.properties.name, rule.text});
+            }
+        }
+    }
     return parameters;
 }
 
@@ -32,7 +52,7 @@ std::vector<Symbol> symbolsOf(const Parameter& parameter) {
     std::vector<Symbol> symbols;
     if (!parameter.isLaterElement()) symbols.push_back({parameter.id(), name});
     if (parameter.isIndexed())
-        symbols.push_back({parameter.id(), name + '_' + std::to_string(parameter.number)});
+        symbols.push_back({parameter.id(), name + '_' + std::to_string(parameter.number + 1)});
     return symbols;
 }
 
@@ -63,8 +83,7 @@ std::vector<TextSubject> textSubjects(const std::vector<Parameter>& parameters) 
     std::vector<TextSubject> subjects;
     for (const Parameter& parameter : parameters) {
         if (parameter.isLaterElement() || left.contains(&parameter)) continue;
-        subjects.push_back({&parameter, textIdOf(parameter, interfaces),
-                            (parameter.isTemplate() ? "TXT_TPL_" : "TXT_") + parameter.stem()});
+        subjects.push_back({&parameter, textIdOf(parameter, interfaces)});
     }
     return subjects;
 }

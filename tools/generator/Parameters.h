@@ -1,4 +1,4 @@
-// The catalogue spelled out: every parameter with its symbols.
+// The rows expanded: every parameter with its symbols.
 #ifndef TALUX_GENERATOR_PARAMETERS_H
 #define TALUX_GENERATOR_PARAMETERS_H
 
@@ -7,30 +7,31 @@
 #include <string_view>
 #include <vector>
 
-#include "ParamSystem/catalogue/Row.h"
-#include "tools/generator/Data.h"
+#include "ParamSystem/parameters/Family.h"
+#include "tools/generator/Faults.h"
 
 namespace talux::generator {
 
 // A row of the table: a parameter, an element of an indexed one, or a template.
 struct Parameter {
-    const catalogue::Family* family;
-    const catalogue::ParameterRow* row;
-    int number; // in the series of the row
+    const parameters::Family* family;
+    const parameters::Row* row;
+    int number;           // in the series of the row, from 0
+    std::string name;     // of a template empty
+    std::string shown[2]; // what its texts show as {n} and {m}
 
     const stParamProperties& properties() const { return row->properties; }
-    int id() const { return row->properties.id + number - row->first; }
-    bool isTemplate() const { return row->series == catalogue::ParameterRow::kSingle && name().empty(); }
-    bool isIndexed() const { return row->series == catalogue::ParameterRow::kIndexed; }
-    bool isLaterElement() const { return isIndexed() && number > row->first; }
+    int id() const { return row->properties.id + number; }
+    bool isTemplate() const { return name.empty(); }
+    bool isIndexed() const { return row->series == parameters::Row::kIndexed; }
+    bool isLaterElement() const { return isIndexed() && number > 0; }
     bool hasValue() const { return !isTemplate() && properties().type != kTypeCommand; }
     bool isSetting() const { return hasValue() && properties().is_volatile == 0; } // persistent
-    std::string name() const;
-    std::string stem() const { return isTemplate() ? row->templateName : name(); } // of symbols
+    std::string stem() const { return isTemplate() ? row->templateName : name; }   // of symbols
 };
 
-// In table order.
-std::vector<Parameter> spellOut(std::span<const catalogue::Family> families);
+// In table order. A row whose name is no pattern is reported.
+std::vector<Parameter> expand(std::span<const parameters::Family> families, Faults& faults);
 
 struct Symbol {
     int value;
@@ -41,13 +42,10 @@ struct Symbol {
 // index.
 std::vector<Symbol> symbolsOf(const Parameter& parameter);
 
-// What texts hang on, in table order: an indexed parameter once, and of two parameters with one id the later.
+// What has texts, in table order: an indexed parameter once, and of two parameters with one id the later.
 struct TextSubject {
     const Parameter* parameter;
-    int textId;         // under which its texts lie
-    std::string symbol; // TXT_..
-
-    std::string_view name() const { return std::string_view(symbol).substr(4); } // templates: TPL_..
+    int textId; // under which its texts lie
 };
 
 std::vector<TextSubject> textSubjects(const std::vector<Parameter>& parameters);

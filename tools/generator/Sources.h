@@ -9,8 +9,7 @@
 
 namespace talux::generator {
 
-inline constexpr std::string_view kHead =
-    "// Made by tools/generator from ParamSystem/catalogue and ParamSystem/texts.\n";
+inline constexpr std::string_view kHead = "// Made by tools/generator from ParamSystem/parameters.\n";
 
 // The texts of a source, each once, one after the other with its NUL. A row refers to the place: p + 17.
 class Pool {

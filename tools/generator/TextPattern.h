@@ -1,4 +1,4 @@
-// Spells out the patterns of the text data, see texts/Words.h.
+// Expands the patterns of names and texts, see parameters/Row.h.
 #ifndef TALUX_GENERATOR_TEXTPATTERN_H
 #define TALUX_GENERATOR_TEXTPATTERN_H
 
@@ -8,9 +8,9 @@
 
 namespace talux::generator {
 
-// Thrown where a text breaks a rule.
+// Thrown where a row breaks a rule.
 struct BrokenRule {
-    const char* text;
+    std::string text;
 };
 
 // One member of a series: its name and what its texts show as {n} and {m}.

@@ -1,31 +1,30 @@
 #include "tools/generator/Texts.h"
 
 #include <algorithm>
-#include <map>
+#include <set>
 
-#include "ParamSystem/TALUX_ParamStrings.h"
-#include "ParamSystem/texts/Words.h"
 #include "tools/generator/TextPattern.h"
 
 namespace talux::generator {
 namespace {
 
-using texts::Both;
-using texts::TextEntry;
+using parameters::Both;
 
-// ---- Rows of one member --------------------------------------------------------------------------------
+// ---- Rows of one parameter -----------------------------------------------------------------------------
 
-// Writes the rows of one member of a series.
-class RowWriter {
+class TextWriter {
 public:
-    RowWriter(const TextEntry& line, const SeriesMember& whose, int textId)
-        : entry(line), member(whose), id(textId) {}
+    explicit TextWriter(const TextSubject& subject)
+        : texts(subject.parameter->row->texts),
+          unit(subject.parameter->row->unit), member{subject.parameter->name, subject.parameter->shown[0],
+                                                     subject.parameter->shown[1]},
+          id(subject.textId) {}
 
     std::vector<Text> write() {
-        add(kTextTitle, entry.title);
-        add(kTextDescription, entry.description);
-        if (*entry.unit != '\0') add(kEnglish, kTextUnit, 0, 0, entry.unit);
-        for (int group : {texts::kGroupArgs, texts::kGroupMessages, texts::kGroupErrors})
+        add(kTextTitle, texts.title);
+        add(kTextDescription, texts.description);
+        if (*unit != '\0') add(kEnglish, kTextUnit, 0, 0, unit);
+        for (int group : {parameters::kGroupArgs, parameters::kGroupMessages, parameters::kGroupErrors})
             addGroup(group);
         return std::move(rows);
     }
@@ -33,12 +32,12 @@ public:
 private:
     void addGroup(int group) {
         const auto index = static_cast<std::size_t>(group);
-        const Both& items = entry.items[index];
-        const bool ownName = group == texts::kGroupArgs && entry.ownNameAsArg;
+        const Both& items = texts.items[index];
+        const bool ownName = group == parameters::kGroupArgs && texts.ownNameAsArg;
         if (!ownName && items.isEmpty()) return;
-        add(kTextGroup, entry.headings[index], 0, group);
-        if (ownName) add(kEnglish, kTextItem, texts::kGroupArgs, 1, entry.subject);
-        const int first = group == texts::kGroupErrors ? entry.firstError : 1;
+        add(kTextGroup, texts.headings[index], 0, group);
+        if (ownName) add(kEnglish, kTextItem, parameters::kGroupArgs, 1, member.name);
+        const int first = group == parameters::kGroupErrors ? texts.firstError : 1;
         addItems(kGerman, group, first, items.de);
         addItems(kEnglish, group, first, items.en);
     }
@@ -58,15 +57,18 @@ private:
         rows.push_back({id, language, type, group, item, filledIn(text, member)});
     }
 
-    const TextEntry& entry;
-    const SeriesMember& member;
+    const parameters::Texts& texts;
+    const char* unit;
+    SeriesMember member;
     int id;
     std::vector<Text> rows;
 };
 
 // ---- Rules ---------------------------------------------------------------------------------------------
 
-void require(bool holds, const char* rule) {
+constexpr int kLongestTitle = 24;
+
+void require(bool holds, const std::string& rule) {
     if (!holds) throw BrokenRule{rule};
 }
 
@@ -90,21 +92,28 @@ bool isTidy(std::string_view text) {
            text.find_first_of("\t\r{}|") == std::string_view::npos;
 }
 
-void checkLanguages(const TextEntry& entry) {
-    std::vector<Both> texts{entry.title, entry.description};
-    texts.insert(texts.end(), std::begin(entry.items), std::end(entry.items));
-    for (const Both& text : texts) {
-        require((*text.de == '\0') == (*text.en == '\0'), "a text is missing in one language");
-        require(textsOf(text.de).size() == textsOf(text.en).size(), "one language has fewer texts");
+void checkLanguages(const parameters::Texts& texts) {
+    std::vector<Both> all{texts.title, texts.description};
+    all.insert(all.end(), texts.items.begin(), texts.items.end());
+    for (const Both& text : all) {
+        const std::string language = *text.de == '\0' ? "German" : "English";
+        require((*text.de == '\0') == (*text.en == '\0'), "a text is missing in " + language);
+        const std::size_t german = textsOf(text.de).size(), english = textsOf(text.en).size();
+        require(german == english, "one language has fewer texts: " + std::to_string(german) + " German, " +
+                                       std::to_string(english) + " English");
     }
 }
 
 void checkText(const Text& row) {
+    const std::string which =
+        (row.language == kGerman ? "the German text \"" : "the English text \"") + row.text + '"';
     const int characters = countCharacters(row.text);
-    require(characters >= 0, "a text is not in UTF-8");
+    require(characters >= 0, which + " is not in UTF-8");
     require(isTidy(row.text),
-            "a text is empty, has blanks at an end or two in a row, or a sign of a pattern");
-    require(row.type != kTextTitle || characters <= 24, "a title has at most 24 characters");
+            which + " is empty, has blanks at an end or two in a row, or a sign of a pattern");
+    require(row.type != kTextTitle || characters <= kLongestTitle,
+            which + " has " + std::to_string(characters) + " characters, a title at most " +
+                std::to_string(kLongestTitle));
 }
 
 void checkTitles(const std::vector<Text>& rows, const std::string& name) {
@@ -116,78 +125,61 @@ void checkTitles(const std::vector<Text>& rows, const std::string& name) {
     }
 }
 
-void checkChoices(const TextEntry& entry, const stParamProperties& row) {
-    const auto choices = static_cast<double>(textsOf(entry.items[texts::kGroupArgs].de).size());
-    if (choices == 0 || row.type == kTypeNone) return;
-    require(row.type == kTypeEnum && (choices == row.val_max || (choices < row.val_max && !entry.allChoices)),
-            "there are more or fewer choices than the range has");
+// A template may have texts for the first of its choices only; names go with a text for each.
+void checkChoices(const parameters::Row& row) {
+    const std::size_t texts = textsOf(row.texts.items[parameters::kGroupArgs].en).size();
+    const std::vector<std::string> names = choiceNames(row);
+    const stParamProperties& properties = row.properties;
+    const double choices = properties.type == kTypeEnum ? properties.val_max : 0;
+    if (properties.type == kTypeNone || (texts == 0 && names.empty())) return;
+    const auto count = static_cast<double>(texts);
+    require(count == choices || (count < choices && *row.templateName != '\0'),
+            "there are " + std::to_string(texts) + " texts of choices for " +
+                std::to_string(static_cast<int>(choices)) + " choices");
+    require(names.size() == (count == choices ? texts : 0), "its choices have " + std::to_string(texts) +
+                                                                " texts and " + std::to_string(names.size()) +
+                                                                " names");
+    require(std::set<std::string>(names.begin(), names.end()).size() == names.size(),
+            "two of its choices have one name");
 }
 
-// ---- All -----------------------------------------------------------------------------------------------
-
-class Table {
-public:
-    explicit Table(const std::vector<TextSubject>& all) : subjects(all), rows(all.size()) {
-        for (std::size_t k = 0; k < all.size(); ++k)
-            places.emplace(all[k].name(), k);
-    }
-
-    void add(const TextEntry& entry) {
-        require(!entry.title.isEmpty(), "there is no title");
-        checkLanguages(entry);
-        for (const SeriesMember& member : membersOf(entry.subject))
-            add(entry, member);
-    }
-
-    std::vector<Text> inOrder(Faults& faults) const {
-        std::vector<Text> texts;
-        for (std::size_t k = 0; k < rows.size(); ++k) {
-            const Parameter& parameter = *subjects[k].parameter;
-            if (rows[k].empty())
-                faults.push_back({parameter.row->where, parameter.stem(), "it has no texts"});
-            texts.insert(texts.end(), rows[k].begin(), rows[k].end());
-        }
-        return texts;
-    }
-
-private:
-    void add(const TextEntry& entry, const SeriesMember& member) {
-        const auto place = places.find(member.name);
-        require(place != places.end(), "no parameter has this name");
-        const TextSubject& subject = subjects[place->second];
-        std::vector<Text>& texts = rows[place->second];
-        require(texts.empty(), "its texts stand twice");
-        texts = RowWriter(entry, member, subject.textId).write();
-        std::for_each(texts.begin(), texts.end(), checkText);
-        checkTitles(texts, member.name);
-        checkChoices(entry, subject.parameter->properties());
-    }
-
-    const std::vector<TextSubject>& subjects;
-    std::map<std::string_view, std::size_t> places; // of the subjects, by name
-    std::vector<std::vector<Text>> rows;            // by place
-};
+void checkTexts(const TextSubject& subject, const std::vector<Text>& rows) {
+    const parameters::Row& row = *subject.parameter->row;
+    require(!row.texts.title.isEmpty(), "it has no texts");
+    checkLanguages(row.texts);
+    std::for_each(rows.begin(), rows.end(), checkText);
+    checkTitles(rows, subject.parameter->name);
+    checkChoices(row);
+}
 
 } // namespace
 
-std::vector<Text> spellOut(std::span<const TextFamily> families, const std::vector<TextSubject>& subjects,
-                           Faults& faults) {
-    Table table(subjects);
-    for (const TextFamily family : families) {
-        for (const TextEntry& entry : family) {
-            try {
-                table.add(entry);
-            } catch (const BrokenRule& rule) {
-                faults.push_back({entry.where, entry.subject, rule.text});
-            }
+std::vector<std::string> choiceNames(const parameters::Row& row) {
+    std::vector<std::string> names = textsOf(row.texts.choiceNames);
+    for (std::string& name : names)
+        name.insert(0, 1, 'k');
+    return names;
+}
+
+std::vector<Text> expand(const std::vector<TextSubject>& subjects, Faults& faults) {
+    std::vector<Text> texts;
+    const parameters::Row* reported = nullptr;
+    for (const TextSubject& subject : subjects) {
+        const parameters::Row* const row = subject.parameter->row;
+        if (row == reported) continue;
+        try {
+            const std::vector<Text> rows = TextWriter(subject).write();
+            checkTexts(subject, rows);
+            texts.insert(texts.end(), rows.begin(), rows.end());
+        } catch (const BrokenRule& rule) {
+            faults.push_back({row->where, subject.parameter->stem(), rule.text});
+            reported = row;
         }
     }
-    if (!faults.empty()) return {};
-    std::vector<Text> texts = table.inOrder(faults);
     if (texts.size() > kMostTexts)
         faults.push_back(
             {{},
-             "ParamSystem/texts",
+             "ParamSystem/parameters",
              std::to_string(texts.size()) + " texts, the table takes " + std::to_string(kMostTexts) +
                  ": share choices through a template, drop descriptions of what nobody sees, or let "
                  "the table grow (kDefParamTextRows, which other programs have compiled in)"});

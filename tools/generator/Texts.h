@@ -1,13 +1,11 @@
-// The text data spelled out: the rows of the table of texts.
+// The texts of the rows expanded: the rows of the table of texts.
 #ifndef TALUX_GENERATOR_TEXTS_H
 #define TALUX_GENERATOR_TEXTS_H
 
-#include <span>
 #include <string>
 #include <vector>
 
 #include "ParamSystem/TALUX_ParamStrings.h"
-#include "tools/generator/Data.h"
 #include "tools/generator/Faults.h"
 #include "tools/generator/Parameters.h"
 
@@ -21,9 +19,12 @@ struct Text {
     std::string text;
 };
 
-// In the order of the subjects. What breaks a rule is reported.
-std::vector<Text> spellOut(std::span<const TextFamily> families, const std::vector<TextSubject>& subjects,
-                           Faults& faults);
+// In the order of the subjects. What breaks a rule is reported, once a row.
+std::vector<Text> expand(const std::vector<TextSubject>& subjects, Faults& faults);
+
+// What C++ programs call the choices of a row: "kAutomatic"; empty where it has none of its own with a text
+// each.
+std::vector<std::string> choiceNames(const parameters::Row& row);
 
 } // namespace talux::generator
 

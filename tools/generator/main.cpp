@@ -1,4 +1,4 @@
-// Makes the tables of the dictionary while the module is built: reads the catalogue and the texts, which are
+// Makes the tables of the dictionary while the module is built: reads the rows of parameters, which are
 // compiled into it, checks their rules and writes sources.
 //
 //   dictionary_generator FOLDER
@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "tools/generator/Data.h"
 #include "tools/generator/Generator.h"
 
 namespace {
@@ -31,7 +32,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     Faults faults;
-    const auto model = makeModel(catalogueData(), textData(), faults);
+    const auto model = makeModel(familyData(), faults);
     print(faults, stderr);
     if (!model) return 1;
     bool written = true;

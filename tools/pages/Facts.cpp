@@ -6,38 +6,8 @@
 
 namespace talux::pages {
 
-namespace {
-
-// In the order of the families.
-constexpr std::string_view kGermanFamilies[] = {"Vorlagen",
-                                                "Zustand",
-                                                "Messwerte",
-                                                "Meldungen",
-                                                "Kennzeichnung",
-                                                "Anzeige",
-                                                "Netzwerk",
-                                                "Firewall und Dienste",
-                                                "Zeitdienste",
-                                                "Serielle Schnittstellen",
-                                                "Modbus-Slave",
-                                                "Fernwirken",
-                                                "Skripte",
-                                                "Prozessabbilder",
-                                                "Analogeingänge",
-                                                "Binäre Ein- und Ausgänge",
-                                                "Erdschlusserfassung",
-                                                "Recorder und Statistik",
-                                                "Benutzertexte",
-                                                "Service",
-                                                "Benutzer und Sicherheit",
-                                                "Laufzeitwerte",
-                                                "Momentaufnahme der Messwerte",
-                                                "Datensätze"};
-
-} // namespace
-
 std::string_view germanName(const stParamFamily& family) {
-    return kGermanFamilies[static_cast<std::size_t>(&family - reference::model().families.data())];
+    return reference::model().familyNames[static_cast<std::size_t>(&family - reference::model().families.data())].de;
 }
 
 bool hasLimits(const Parameter& parameter) {
@@ -49,22 +19,16 @@ const model::Note& noteAt(int place) {
 }
 
 const Method* methodOf(const Parameter& parameter) {
-    const int method = parameter.model().method;
+    const parameters::MethodId method = parameter.model().method;
     return method < 0 ? nullptr : &kMethods[method];
 }
 
-bool isOfMethod(const Parameter& parameter) {
-    return std::string_view(parameter.family().name) == kMethodFamily;
-}
-
-std::string unnamedSettingsOf(const Method& method) {
-    const auto named = namesOf(settingsOf(method));
-    std::string all;
+std::vector<Parameter> settingsOf(const Method& method, parameters::Role role) {
+    std::vector<Parameter> settings;
     for (const Parameter& parameter : reference::parameters())
-        if (isOfMethod(parameter) && methodOf(parameter) == &method &&
-            std::ranges::count(named, parameter.name()) == 0)
-            (all += ' ') += parameter.name();
-    return all;
+        if (parameter.model().method == method.id && parameter.model().role == role)
+            settings.push_back(parameter);
+    return settings;
 }
 
 } // namespace talux::pages

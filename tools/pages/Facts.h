@@ -5,11 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "tools/pages/Methods.h"
+#include "ParamSystem/parameters/Methods.h"
 #include "tools/reference/Reference.h"
 
 namespace talux::pages {
 
+using parameters::kMethods, parameters::Method;
 using reference::Parameter;
 
 inline int firstId(const Parameter& parameter) {
@@ -46,10 +47,8 @@ const model::Note& noteAt(int place);
 // The detection method to which a setting belongs, or null.
 const Method* methodOf(const Parameter& parameter);
 
-bool isOfMethod(const Parameter& parameter);
-
-// The others that belong to it by their prefix.
-std::string unnamedSettingsOf(const Method& method);
+// The settings of a method that play a role in it, in menu order.
+std::vector<Parameter> settingsOf(const Method& method, parameters::Role role);
 
 // What is wrong in the data of the pages: names and choices that do not exist, members without a text.
 std::vector<std::string> faults();

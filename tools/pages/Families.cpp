@@ -120,7 +120,7 @@ void addNotes(std::string& cell, const Parameter& parameter, ParamLanguage langu
                                   ")*"}));
             continue;
         }
-        const std::string_view sign = noteAt(note).kind != model::kWarning ? ""
+        const std::string_view sign = noteAt(note).kind != parameters::kWarning ? ""
                                       : isGerman                           ? "Achtung: "
                                                                            : "Warning: ";
         addLine(cell, joined({"*", sign, escaped(noteAt(note).text.in(language)), "*"}));
@@ -184,7 +184,7 @@ std::string pageOf(const stParamFamily& family) {
     NotePlaces places;
     page << kGenerated << "# " << family.name << " · " << germanName(family)
          << "\n\n[How to read a row, all families · Wie eine Zeile zu lesen ist, alle Familien](README.md)\n";
-    if (family.name == kMethodFamily) {
+    if (std::ranges::all_of(parameters, methodOf)) {
         page
             << "\nThe page [Detection methods](detection-methods.md) shows what else belongs to a method, for "
                "instance its output functions.\n";

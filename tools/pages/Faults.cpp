@@ -2,7 +2,6 @@
 
 #include "tools/pages/Facts.h"
 #include "tools/pages/Names.h"
-#include "tools/pages/Notes.h"
 #include "tools/pages/Records.h"
 
 namespace talux::pages {
@@ -33,22 +32,9 @@ void expectChoices(Faults& faults, std::string_view numbers, const char* paramet
 
 void checkMethods(Faults& faults) {
     for (const Method& method : kMethods) {
-        expectNames(faults, settingsOf(method));
         expectNames(faults, method.measured);
         expectChoices(faults, method.functions, "BAassign1");
         expectChoices(faults, method.priorities, "prio_list_1");
-    }
-    for (const Parameter& parameter : reference::parameters()) {
-        if (!isOfMethod(parameter)) continue;
-        const auto names = [&parameter](const Method& method) {
-            return std::ranges::count(namesOf(settingsOf(method)), parameter.name());
-        };
-        std::ptrdiff_t count = 0;
-        for (const Method& method : kMethods)
-            count += names(method);
-        if (count > 1)
-            faults.push_back(std::string(parameter.name()) + " belongs to " + std::to_string(count) +
-                             " methods");
     }
 }
 
@@ -70,8 +56,6 @@ void checkMembers(Faults& faults) {
 
 std::vector<std::string> faults() {
     Faults faults;
-    for (const Note& note : kNotes)
-        expectNames(faults, note.names);
     checkMethods(faults);
     checkMembers(faults);
     return faults;

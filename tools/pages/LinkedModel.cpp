@@ -2,13 +2,14 @@
 // before.
 #include <cstdlib>
 
+#include "tools/generator/Data.h"
 #include "tools/generator/Generator.h"
 #include "tools/reference/Reference.h"
 
 const talux::model::Model& talux::reference::model() {
     static const auto owned = [] {
         generator::Faults faults;
-        auto made = generator::makeModel(generator::catalogueData(), generator::textData(), faults);
+        auto made = generator::makeModel(generator::familyData(), faults);
         print(faults, stderr);
         if (!made) std::exit(1);
         return std::move(*made);

@@ -1,6 +1,4 @@
 // The page of the detection methods: what belongs together.
-#include "tools/pages/Methods.h"
-
 #include "tools/pages/Markdown.h"
 #include "tools/pages/Names.h"
 #include "tools/pages/Pages.h"
@@ -10,10 +8,9 @@ namespace talux::pages {
 namespace {
 
 // "`Uearth` 30 %": with the factory default where there is one.
-std::string parameterList(std::string_view patterns) {
+std::string parameterList(const std::vector<Parameter>& parameters) {
     std::string list;
-    for (const std::string& name : namesOf(patterns)) {
-        const Parameter& parameter = *reference::find(name);
+    for (const Parameter& parameter : parameters) {
         (list += list.empty() ? "" : ", ") += linkTo(parameter);
         if (parameter.isSetting()) (list += ' ') += parameter.defaultValue();
         if (parameter.isSetting() && !parameter.unit().empty()) (list += ' ') += parameter.unit();
@@ -45,14 +42,15 @@ void addMethod(std::string& page, const Method& method) {
     if (!method.enRemark.empty())
         page += joined({escaped(method.enRemark), "\n\n*", escaped(method.deRemark), "*\n\n"});
     page += "| | |\n|---|---|\n";
-    addRow(page, "switch · Freigabe", parameterList(method.enable));
-    addRow(page, "thresholds · Schwellen", parameterList(method.thresholds));
-    addRow(page, "settings · Einstellungen",
-           parameterList(std::string(method.settings) + unnamedSettingsOf(method)));
-    addRow(page, "delays · Verzögerungen", parameterList(method.delays));
-    addRow(page, "durations · Dauern", parameterList(method.durations));
-    addRow(page, "logs · Logbücher", parameterList(method.logs));
-    addRow(page, "measured · Messwerte", parameterList(method.measured));
+    constexpr std::string_view kRoles[] = {"switch · Freigabe",        "thresholds · Schwellen",
+                                           "settings · Einstellungen", "delays · Verzögerungen",
+                                           "durations · Dauern",       "logs · Logbücher"};
+    for (int role = 0; const std::string_view label : kRoles)
+        addRow(page, label, parameterList(settingsOf(method, parameters::Role{role++})));
+    std::vector<Parameter> measured;
+    for (const std::string& name : namesOf(method.measured))
+        measured.push_back(*reference::find(name));
+    addRow(page, "measured · Messwerte", parameterList(measured));
     addRow(page, "output functions · Ausgangsfunktionen", choiceList(method.functions, "BAassign1"));
     addRow(page, "priorities · Prioritäten", choiceList(method.priorities, "prio_list_1"));
 }
@@ -67,8 +65,8 @@ void addEarthings(std::string& page) {
         "| Method · Verfahren | Neutral earthing | Sternpunkt | Factory |\n|---|---|---|---|\n";
     for (const Method& method : kMethods) {
         if (method.enEarthing.empty()) continue;
-        const auto switches = namesOf(method.enable);
-        const bool isOn = switches.empty() || reference::find(switches.front())->row().val_def != 0;
+        const std::vector<Parameter> switches = settingsOf(method, parameters::kEnable);
+        const bool isOn = switches.empty() || switches.front().row().val_def != 0;
         page += joined({"| ", method.en, " · ", method.de, " | ", method.enEarthing, " | ", method.deEarthing,
                         " | ", isOn ? "on" : "off", " |\n"});
     }

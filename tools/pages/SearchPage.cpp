@@ -30,11 +30,6 @@ Json number(double value) {
     return static_cast<double>(whole) == value ? Json(whole) : Json(value);
 }
 
-template <class Range, class Item>
-int placeOf(const Range& range, const Item* item) {
-    return static_cast<int>(item - &*std::begin(range));
-}
-
 Json texts(const Parameter& parameter, ParamLanguage language) {
     Json both;
     both.add(parameter.title(language));
@@ -97,8 +92,8 @@ Json objectOf(const Parameter& parameter) {
         object.set("first", parameter.row().val_min_id);
         object.set("last", parameter.row().val_max_id);
     }
-    object.set("family", placeOf(reference::model().families, &parameter.family()));
-    if (const Method* method = methodOf(parameter)) object.set("method", placeOf(kMethods, method));
+    object.set("family", static_cast<int>(&parameter.family() - reference::model().families.data()));
+    if (const Method* method = methodOf(parameter)) object.set("method", static_cast<int>(method->id));
     object.set("kind", parameter.type().name);
     addText(object, "unit", parameter.unit());
     addValue(object, parameter);

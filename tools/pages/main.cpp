@@ -101,7 +101,7 @@ int main(int argc, char** argv) {
             std::puts(fault.c_str());
         return faults.empty() ? keepAll(argv[2], what == "--accept") : 1;
     } catch (const generator::BrokenRule& rule) {
-        std::printf("tools/pages: %s\n", rule.text);
+        std::printf("tools/pages: %s\n", rule.text.c_str());
         return 1;
     }
 }

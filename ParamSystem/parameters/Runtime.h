@@ -1,0 +1,178 @@
+// Run-time values: counters, override values for simulation, output words, calibration results.
+#ifndef TALUX_PARAMETERS_RUNTIME_H
+#define TALUX_PARAMETERS_RUNTIME_H
+
+#include "ParamSystem/parameters/Row.h"
+
+namespace talux::parameters {
+
+// What several rows say alike.
+inline constexpr Words kCalibrationResult{{"Abgleichergebnis {n}"}, {"Calibration result {n}"}};
+
+inline constexpr Row kRuntimeRows[] = {
+    number(6994, "max_ini_files", {.def = 15},
+           {{"Höchstzahl INI-Dateien", "Größte Zahl von Parameterdateien (.ini)"},
+            {"Maximum INI files", "Largest number of parameter files (.ini)"}}),
+    number(6995, "BA_red_cnt", {.def = 1},
+           {{"Relaiszahl BA_red_cnt", "Zahl BA_red_cnt der Relais"},
+            {"Relay number BA_red_cnt", "Number BA_red_cnt of the relays"}}),
+    number(6996, "rec_start", {.is = kRuntime}, {{"Aufzeichnung starten"}, {"Start recording"}}),
+    number(6997, "MW_start", {.is = kRuntime}, {{"Messung starten"}, {"Start measurement"}}),
+    number(6998, "BAF_LED_log", {.is = kRuntime}, {{"Protokoll BAF und LED"}, {"Log BOF and LED"}}),
+    number(6999, "stat_clear", {.is = kRuntime}, {{"Statistik löschen"}, {"Clear statistics"}}),
+    choice(10130, "skew_type", {.choices = 4, .def = 4},
+           {{"Skew-Ausgleich", "Art des Ausgleichs (skew), Zahl 1 bis 4"},
+            {"Skew compensation", "Kind of compensation (skew), number 1 to 4"}}),
+    flag(8179, "filt_active", {.def = kOn},
+         {{"Filter aktiv", "Filterung der Messung einschalten"},
+          {"Filter active", "Switch on the filtering of the measurement"}}),
+    // 7000..7006 lie in the int block too
+    number(7000, "cycle_cnt_low", {.is = kRuntime}, {{"Zykluszähler unten"}, {"Cycle counter low"}}),
+    number(7001, "cycle_cnt_high", {.is = kRuntime}, {{"Zykluszähler oben"}, {"Cycle counter high"}}),
+    number(7002, "BE_Reset_Button", {.is = kRuntime}, {{"Reset-Taste"}, {"Reset button"}}),
+    number(7003, "OVR_new", {.is = kRuntime}, {{"Neue Simulationswerte"}, {"New override values"}}),
+    number(7004, "OVR_BEF_enable", {.is = kRuntime},
+           {{"Freigabe Simulation BEF", "Freigabe der Simulation der Eingangsfunktionen"},
+            {"Enable override BIF", "Enables the override of the input functions"}}),
+    number(7005, "OVR_BE_enable", {.is = kRuntime},
+           {{"Freigabe Simulation BE", "Freigabe der Simulation der Binäreingänge"},
+            {"Enable override BI", "Enables the override of the binary inputs"}}),
+    number(7006, "OVR_BE_LT_enable", {.is = kRuntime}, {}),
+    number(7007, "OVR_BAF_enable", {.is = kRuntime},
+           {{"Freigabe Simulation BAF", "Freigabe der Simulation der Ausgangsfunktionen"},
+            {"Enable override BOF", "Enables the override of the output functions"}}),
+    number(7008, "OVR_BA_enable", {.is = kRuntime},
+           {{"Freigabe Simulation BA", "Freigabe der Simulation der Relais"},
+            {"Enable override BO", "Enables the override of the relays"}}),
+    number(7009, "OVR_time", {.is = kRuntime}, {{"Simulationszeit"}, {"Override time"}}),
+    number(7010, "OVR_MW_enable", {.is = kRuntime},
+           {{"Freigabe Simulation MW", "Freigabe der Simulation der Messwerte"},
+            {"Enable override meas.", "Enables the override of the measured values"}}),
+    number(7011, "OVR_MW_time", {.is = kRuntime}, {{"Simulationszeit MW"}, {"Override time meas."}}),
+    number(
+        7012, "OVR_MW_BE_enable", {.is = kRuntime},
+        {{"Freigabe Sim. MW BE", "Freigabe der Simulation der Messwerte der Binäreingänge"},
+         {"Enable override BI meas.", "Enables the override of the measured values of the binary inputs"}}),
+    number(7013, "OVR_MW_BE_time", {.is = kRuntime}, {{"Simulationszeit MW BE"}, {"Override time BI meas."}}),
+    indexed(8, number(7014, "OVR_BE_val", {.is = kRuntime},
+                      {{"Simulationswert BE", "Simulierter Zustand der Binäreingänge 1 bis 8"},
+                       {"Override value BI", "State given to binary inputs 1 to 8 by the override"}})),
+    indexed(32, number(7022, "OVR_BE_LT_val", {.is = kRuntime},
+                       {{"Simulationswert BE LT",
+                         "Simulierter Zustand der Binäreingänge 1 bis 32 der Leittechnik"},
+                        {"Override value BI LT",
+                         "State given to binary inputs 1 to 32 of telecontrol by the override"}})),
+    indexed(16, number(7054, "OVR_BEF_val", {.is = kRuntime},
+                       {{"Simulationswert BEF", "Simulierter Zustand der Eingangsfunktionen 1 bis 16"},
+                        {"Override value BIF", "State given to input functions 1 to 16 by the override"}})),
+    indexed(128,
+            number(7070, "OVR_BAF_val", {.is = kRuntime},
+                   {{"Simulationswert BAF", "Simulierter Zustand der Ausgangsfunktionen 1 bis 128"},
+                    {"Override value BOF", "State given to output functions 1 to 128 by the override"}})),
+    indexed(8, number(7198, "OVR_BA_val", {.is = kRuntime},
+                      {{"Simulationswert BA", "Simulierter Zustand der Relais 1 bis 8"},
+                       {"Override value BO", "State given to relays 1 to 8 by the override"}})),
+    indexed(32, decimal(2248, "OVR_MW_val", {.is = kRuntime},
+                        {{"Simulationswert MW", "Simulierte Messwerte 1 bis 32"},
+                         {"Override measured val.", "Measured values 1 to 32 given by the override"}})),
+    number(7206, "BAF_cnt_val_dT{1..2}", {.min = -1, .max = 100000},
+           {{"Zählwert dT{n} BAF", "Wert dT{n} der Zählung der Ausgangsfunktionen"},
+            {"BOF count value dT{n}", "Value dT{n} for the counting of output functions"}}),
+    flag(8180, "SIGNAL_BAFs_enable", {.def = kOn},
+         {{"Meldungen BAF", "Meldungen der Ausgangsfunktionen einschalten"},
+          {"BOF signals", "Switch on the signals of the output functions"}}),
+    flag(8181, "SIGNAL_BAs_enable", {.def = kOn},
+         {{"Meldungen BA", "Meldungen der Relais einschalten"},
+          {"BO signals", "Switch on the signals of the relays"}}),
+    number(7208, "LOG_BAFs_enable", {.min = 0, .max = 3},
+           {{"Logbuch BAF", "Umfang, in dem Ausgangsfunktionen protokolliert werden, Zahl 0 bis 3"},
+            {"BOF logbook", "Extent to which output functions are logged, number 0 to 3"}}),
+    flag(8182, "LOG_BA_enable", {.def = kOn},
+         {{"Logbuch BA", "Änderungen der Relais in das Logbuch schreiben"},
+          {"BO logbook", "Write changes of the relays to the logbook"}}),
+    number(7209, "par_list", {.is = kRuntime}, {{"Parameterliste"}, {"Parameter list"}}),
+    flag(8183, "DEBUG", {},
+         {{"Fehlersuche", "Zusätzliche Ausgaben für die Fehlersuche"},
+          {"Debugging", "Additional output for debugging"}}),
+    number(7210, "debug_tv", {.is = kRuntime}, {{"Diagnose tv"}, {"Debug tv"}}),
+    number(7211, "debug_tv_samp", {.is = kRuntime}, {{"Diagnose tv samp"}, {"Debug tv samp"}}),
+    number(7212, "SOURCE_SAMPLES", {.is = kRuntime}, {{"Quelle Abtastwerte"}, {"Sample source"}}),
+    number(7213, "SOURCE_SAMPLES_OLD", {.is = kUnwritable | kRuntime},
+           {{"Quelle Abtastwerte zuvor"}, {"Previous sample source"}}),
+    text(9061, "SampleFile", {.length = 255, .is = kRuntime}, {{"Datei Abtastwerte"}, {"Sample file"}}),
+
+    number(
+        7246, "y_BE", {.is = kRuntime},
+        {{"Zustandswort BE", "Zustand der Binäreingänge"}, {"BI state word", "State of the binary inputs"}}),
+    number(7247, "y_BE_LT", {.is = kRuntime},
+           {{"Zustandswort BE LT", "Zustand der Binäreingänge der Leittechnik"},
+            {"BI LT state word", "State of the binary inputs of telecontrol"}}),
+    number(7248, "y_BEF", {.is = kRuntime},
+           {{"Zustandswort BEF", "Zustand der Eingangsfunktionen"},
+            {"BIF state word", "State of the input functions"}}),
+    number(7249, "y_BAF{1..4}", {.is = kRuntime},
+           {{"Zustandswort {n} BAF", "Wort {n} des Zustands der Ausgangsfunktionen"},
+            {"BOF state word {n}", "Word {n} of the state of the output functions"}}),
+    number(7253, "y_BA", {.is = kRuntime},
+           {{"Zustandswort BA", "Zustand der Relais"}, {"BO state word", "State of the relays"}}),
+    number(7254, "y_LED", {.is = kRuntime}, {{"Zustandswort LED"}, {"LED state word"}}),
+    number(7255, "y_EarthFaultState", {.is = kRuntime}, {{"Erdschlusszustand"}, {"Earth-fault state"}}),
+    number(7256, "y_ShortCircuitState", {.is = kRuntime}, {{"Kurzschlusszustand"}, {"Short-circuit state"}}),
+    number(7257, "calib_U", {.is = kRuntime}, kCalibrationResult("U")),
+    number(7258, "calib_U{0..3}", {.is = kRuntime}, {{"Abgleichergebnis U{n}"}, {"Calibration result U{n}"}}),
+    number(7262, "calib_I", {.is = kRuntime}, kCalibrationResult("I")),
+    number(7263, "calib_I{0..3}", {.is = kRuntime}, {{"Abgleichergebnis I{n}"}, {"Calibration result I{n}"}}),
+    // request of a measurement snapshot
+    number(
+        7267, "mw_req", {.is = kRuntime},
+        {{"Momentaufnahme anfordern", "Fordert eine Momentaufnahme der Messwerte an (mw_...); 1 = anfordern"},
+         {"Request snapshot", "Requests a snapshot of the measured values (mw_...); 1 = request"}}),
+};
+
+inline constexpr Note kRuntimeNotes[] = {
+    unknown("OVR_BE_LT_enable",
+            "Freigabe der Simulation der Binäreingänge der Leittechnik, aus dem Namen gelesen.",
+            "Enables the override of the binary inputs of telecontrol, read from the name."),
+    unknown("BE_Reset_Button", "Was zum Quittieren zu schreiben ist, ist nicht dokumentiert.",
+            "What must be written to acknowledge signals is not documented."),
+    unknown("skew_type filt_active",
+            "Wird an die Messung weitergegeben; die Bedeutung ist nicht dokumentiert. Den Werkswert nicht "
+            "ohne Anlass ändern.",
+            "Passed on to the measurement; the meaning is not documented. Do not change the factory value "
+            "without good reason."),
+    unknown("LOG_BAFs_enable", "Was die Zahlen 1 bis 3 bedeuten, ist nicht dokumentiert.",
+            "What the numbers 1 to 3 mean is not documented."),
+    unknown("calib_{U,I} calib_{U,I}{0..3} calib_confirm", "Die Bedeutung der Zahlen ist nicht dokumentiert.",
+            "The meaning of the numbers is not documented."),
+    unknown("BAF_cnt_val_dT{1..2} OVR_time OVR_MW_time OVR_MW_BE_time", "Einheit nicht dokumentiert.",
+            "The unit is not documented."),
+    unknown("max_ini_files",
+            "Laden und Speichern über diese Bibliothek löschen keine datierte Kopie; welches Programm die "
+            "Zahl auswertet, ist nicht dokumentiert.",
+            "Loading and saving through this library delete no dated copy; which program uses the number is "
+            "not documented."),
+    unknown("BA_red_cnt", "Bedeutung und Einheit sind nicht dokumentiert.",
+            "Meaning and unit are not documented."),
+    unknown(
+        "OVR_new OVR_{BEF,BE,BE_LT,BAF,BA,MW,MW_BE}_enable",
+        "Ob die Zahl ein Schalter ist oder ein Bit je Eingang, Funktion oder Relais hat, ist nicht "
+        "dokumentiert.",
+        "Whether the number is a switch or has one bit for each input, function or relay is not documented."),
+    warning("OVR_{BEF,BE,BE_LT,BAF,BA,MW,MW_BE}_enable",
+            "Simulierte Werte gelten statt der echten, bis die Freigabe zurückgenommen wird; diese "
+            "Bibliothek nimmt sie nie zurück. Nach einer Prüfung zurücksetzen.",
+            "Override values replace the real ones until the enable is withdrawn; this library never "
+            "withdraws it. Reset it after a test."),
+    unknown("OVR_MW_val", "Welches der 32 Elemente für welche Größe steht, ist nicht dokumentiert.",
+            "Which of the 32 elements stands for which quantity is not documented."),
+    unknown("y_BE y_BE_LT y_BEF y_BAF{1..4} y_BA y_LED", "Welches Bit wofür steht, ist nicht dokumentiert.",
+            "Which bit stands for what is not documented."),
+    unknown("y_EarthFaultState y_ShortCircuitState BA_RelayBack",
+            "Die Bedeutung der Zahl ist nicht dokumentiert.", "The meaning of the number is not documented."),
+    advice("mw_req", "Der einzige Parameter, der schon mit Rechtestufe 1 schreibbar ist.",
+           "The only parameter that may be written with rights level 1."),
+};
+
+} // namespace talux::parameters
+
+#endif
