@@ -57,6 +57,10 @@ char* Data_StringSave(const char* txt) {
     return copy;
 }
 
+char* Data_StringSave(char* txt) {
+    return Data_StringSave(static_cast<const char*>(txt));
+}
+
 void Data_SetInt(const char* modulename, int* field, const char* fieldname, StringTokenizer* pTokenizer,
                  FILE* fd_src) {
     *field = static_cast<int>(takeNumber({modulename, fieldname, pTokenizer, fd_src}, MakeLong));

@@ -18,6 +18,7 @@ TALUX_API void Data_StringReset();
 // Copies `txt` into the string space. Returns the copy, valid until the next reset, or null when it does
 // not fit or the space was never reset. Not thread-safe.
 TALUX_API char* Data_StringSave(const char* txt);
+TALUX_API char* Data_StringSave(char* txt); // for programs that declare it so
 
 /*
  * Take the next field of a record from `pTokenizer`, which has been set up on the record's line, and store

@@ -1,6 +1,5 @@
 #include "MenuSystem/TALUX_StringTokenizer.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -8,15 +7,6 @@
 namespace {
 
 constexpr unsigned short kSizeUntold = 65535;
-
-// Texts of one character each, for delimiters that are tokens: ending them in place would destroy the
-// character behind them.
-constinit auto oneCharacterTexts = [] {
-    std::array<std::array<char, 2>, 256> texts{};
-    for (std::size_t c = 0; c < texts.size(); ++c)
-        texts[c][0] = static_cast<char>(c);
-    return texts;
-}();
 
 // A set of delimiters with one bit for each character. NUL is in every set.
 class DelimiterSet {
@@ -81,15 +71,17 @@ BOOL StringTokenizer::hasMoreTokens() {
 
 char* StringTokenizer::nextToken() {
     const DelimiterSet set(delimiters);
+    if (endedBy != '\0') buffer[currentPosition] = endedBy;
+    endedBy = '\0';
     if (!retTokens) currentPosition = set.find(buffer, currentPosition, maxPosition, false);
     if (currentPosition >= maxPosition) return nullptr;
-    if (retTokens && isDelimiter(buffer[currentPosition])) return takeDelimiter();
 
-    char* const token = buffer + currentPosition;
-    currentPosition = set.find(buffer, currentPosition, maxPosition, true);
-    endedBy = buffer[currentPosition];
+    const UINT start = currentPosition;
+    currentPosition = set.find(buffer, start, maxPosition, true);
+    if (currentPosition == start) ++currentPosition; // a delimiter
+    if (retTokens) endedBy = buffer[currentPosition];
     buffer[currentPosition] = '\0';
-    return token;
+    return buffer + start;
 }
 
 char* StringTokenizer::nextToken(const char* delim) {
@@ -102,6 +94,7 @@ char* StringTokenizer::nextToken(const char* delim) {
 UINT StringTokenizer::countTokens() {
     const DelimiterSet set(delimiters);
     UINT count = 0;
+    if (endedBy != '\0') buffer[currentPosition] = endedBy;
     for (UINT position = currentPosition; position < maxPosition; ++count) {
         if (!retTokens) position = set.find(buffer, position, maxPosition, false);
         if (position >= maxPosition) break;
@@ -109,20 +102,11 @@ UINT StringTokenizer::countTokens() {
         position = set.find(buffer, position, maxPosition, true);
         if (retTokens && position == start) ++position;
     }
+    if (endedBy != '\0') buffer[currentPosition] = '\0';
     return count;
-}
-
-bool StringTokenizer::isDelimiter(char c) const {
-    return DelimiterSet(delimiters).holds(c);
 }
 
 void StringTokenizer::skipDelimiters() {
     if (!retTokens)
         currentPosition = DelimiterSet(delimiters).find(buffer, currentPosition, maxPosition, false);
-}
-
-char* StringTokenizer::takeDelimiter() {
-    const char delimiter = buffer[currentPosition] == '\0' ? endedBy : buffer[currentPosition];
-    ++currentPosition;
-    return oneCharacterTexts[static_cast<unsigned char>(delimiter)].data();
 }

@@ -26,9 +26,9 @@ public:
 
     /*
      * Starts on a copy of `str`, split at any character of `delim`. With `returnTokens` each delimiter is
-     * a token of its own, which lies outside the buffer and must not be written to. Refused, leaving the old
-     * string, position and set in force: no buffer, `str` null or empty, `str` longer than the told buffer
-     * holds, `delim` longer than kMaxDelimiters.
+     * a token of its own, and a token ends before the next one is asked for: the character under its NUL
+     * comes back then. Refused, leaving the old string, position and set in force: no buffer, `str` null or
+     * empty, `str` longer than the told buffer holds, `delim` longer than kMaxDelimiters.
      */
     void SetString(char* str, const char* delim, BOOL returnTokens);
 
@@ -54,12 +54,10 @@ protected:
 
 private:
     // These lie in the padding behind retTokens.
-    char endedBy; // with retTokens: the delimiter under the NUL that ended the last token
+    char endedBy; // with retTokens: the character under the NUL that ended the last token
     unsigned short bufferSize;
 
-    bool isDelimiter(char c) const;
     void skipDelimiters();
-    char* takeDelimiter();
 };
 
 #endif

@@ -24,9 +24,11 @@
 inline constexpr int kTextSize = 128, kDateSize = 15, kTimeSize = 10, kIdSize = 20, kIpSize = 20;
 
 // One value space. The layout is shared with the device's other programs: packed, little-endian, the
-// 16-bit enums at odd offsets. Use the accessors; a member's address may not be aligned. The empty date and
-// time blocks have no member; they would stand before SysDateData.
+// 16-bit enums at odd offsets. Use the accessors; a member's address may not be aligned. The blocks of dates
+// and times are empty.
 #pragma pack(push, 1)
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wpedantic" // arrays of no length
 struct stVarSpace {
     float FloatData[kFloatCount];
     double DoubleData[kDoubleCount];
@@ -35,18 +37,22 @@ struct stVarSpace {
     std::uint8_t BoolData[kBoolCount];
     char TextData[kTextCount][kTextSize];
     std::int16_t EnumData[kEnumCount];
+    char DateData[kDateCount][kDateSize];
+    char TimeData[kTimeCount][kTimeSize];
     char SysDateData[kSysDateCount][kDateSize];
     char SysTimeData[kSysTimeCount][kTimeSize];
     char IdData[kIdCount][kIdSize];
     char IpData[kIpCount][kIpSize];
 };
+#pragma GCC diagnostic pop
 #pragma pack(pop)
 
 static_assert(std::is_standard_layout_v<stVarSpace> && sizeof(stVarSpace) == 19500);
 static_assert(offsetof(stVarSpace, FloatData) == 0 && offsetof(stVarSpace, DoubleData) == 1248);
 static_assert(offsetof(stVarSpace, LongData) == 4320 && offsetof(stVarSpace, IntData) == 9396);
 static_assert(offsetof(stVarSpace, BoolData) == 9410 && offsetof(stVarSpace, TextData) == 9601);
-static_assert(offsetof(stVarSpace, EnumData) == 18433 && offsetof(stVarSpace, SysDateData) == 18695);
+static_assert(offsetof(stVarSpace, EnumData) == 18433 && offsetof(stVarSpace, DateData) == 18695);
+static_assert(offsetof(stVarSpace, TimeData) == 18695 && offsetof(stVarSpace, SysDateData) == 18695);
 static_assert(offsetof(stVarSpace, SysTimeData) == 18710 && offsetof(stVarSpace, IdData) == 18720);
 static_assert(offsetof(stVarSpace, IpData) == 18740);
 
@@ -72,8 +78,9 @@ extern TALUX_API int mutex_init;
 // Sets the directory of the parameter files (its first 255 characters count), creates the locks once and
 // attaches the segments, creating them zero-filled when no program has yet. Call before anything else
 // here and before a second thread. A failure prints the system error and ends the process with status 1.
-// A later call sets the directory anew; segments that are attached stay where they are, so that other threads
-// may be inside an accessor, and one that was removed and made anew meanwhile is attached in its place.
+// A later call, from any thread, sets the directory anew, and the three pointers to the attached segments.
+// Segments that are attached stay where they are, so that other threads may be inside an accessor; one that
+// was removed and made anew meanwhile is attached in its place.
 TALUX_API void VarInit(char* inipath);
 
 // What VarInit does besides the path.

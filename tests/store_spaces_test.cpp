@@ -80,8 +80,11 @@ TEST(Spaces, StayAttachedThroughLaterInits) {
     VarInit(kNoDirectory);
     const auto place = std::tuple(pVarGlobal, pVarTemp, pVarStruct);
     const auto count = statusOf(kGlobalKey).shm_nattch;
-    for (int k = 0; k < 70000; ++k)
-        VarInit(directory.data());
+    for (int k = 0; k < 70000; ++k) {
+        stVarSpace elsewhere;
+        if (k % 3 == 0) pVarGlobal = nullptr, pVarTemp = &elsewhere, pVarStruct = &elsewhere;
+        k % 2 == 0 ? VarInit(directory.data()) : VarAlloc();
+    }
     EXPECT_EQ(place, std::tuple(pVarGlobal, pVarTemp, pVarStruct));
     EXPECT_EQ(statusOf(kGlobalKey).shm_nattch, count);
     EXPECT_EQ(std::string(szParameterPath), directory.substr(0, 255));
@@ -154,14 +157,14 @@ TEST(SetUp, EndsTheProcessWhenACallFails) {
         {"", 0, 0, "shmget (tempspace)", kTempKey},
     };
     for (const auto& test : cases) {
-        removeSegment(test.tooSmall);
+        for (const key_t key : {kRecordsKey, kGlobalKey, kTempKey})
+            removeSegment(key);
         if (test.tooSmall != 0)
             (void)shmget(test.tooSmall, test.tooSmall == kRecordsKey ? 587 : 19499, IPC_CREAT | 0666);
         const auto start = [&test] {
             (void)std::atexit([] { std::fprintf(stderr, "%d, fSave %d", attempts, fSave); });
             mutex_init = errno = 0;
             fSave = 1;
-            pVarGlobal = pVarTemp = nullptr, pVarStruct = nullptr;
             failing = test.call, worksBefore = test.worksBefore, attempts = 0;
             VarInit(kNoDirectory);
         };

@@ -2,6 +2,8 @@
 // that the thread sanitizer can watch.
 #include "Store.h"
 
+#include "ParamSystem/KEPL_Interpreter.h"
+
 #include <atomic>
 #include <sys/wait.h>
 #include <thread>
@@ -41,6 +43,7 @@ TEST(SeveralAtOnce, ThreadsNeverTearWhatOneLockHolds) {
             VarSetGlobalTextValue(9068, text.data()); // as long as its letter's code
             VarSetGlobalStructValue(30000, record.data(), 236);
             VarUpdateGlobalSpace();
+            const KEPL_Interpreter another(kNoDirectory);
         } while (!stop);
     };
     const auto uniform = [](const auto* values, std::ptrdiff_t count) {
@@ -55,7 +58,6 @@ TEST(SeveralAtOnce, ThreadsNeverTearWhatOneLockHolds) {
     char text[128], record[236];
     for (int k = 0; k < 2000; ++k) {
         torn += k % 50 == 0 && useStoreInChild() != W_EXITCODE(1, 0);
-        if (k % 10 == 0) VarInit(kNoDirectory);
         VarGetDoubleValueArray(1000, run, 384);
         VarGetGlobalDoubleValue(1383, &number);
         VarGetGlobalTextValue(9068, text);

@@ -47,7 +47,7 @@ int KEPL_Interpreter::GetResult(char* expression, fnDataOut DataOut, char* resul
     if (length > kKeplMaxLine) return fail(szError, Refusal::syntaxError);
 
     // A copy: the answer or an output function may write where the line stands.
-    std::memcpy(strTokenBuffer, expression, length);
+    std::memcpy(strTokenBuffer, expression, length + 1);
     std::string_view rest(strTokenBuffer, length);
     kepl::Evaluation evaluation({DataOut != nullptr ? DataOut : discard, result, terminator}, szIniPath);
     for (std::string_view term; kepl::takeTerm(rest, term);) {

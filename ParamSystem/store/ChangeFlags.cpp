@@ -6,7 +6,7 @@
 namespace talux {
 
 const int kChangeFlagIds[kChangeFlagCount] = {idOf("ParamChanged"), idOf("IpParamChanged"),
-                                              idOf("SecParamChanged"), idOf("StmParamChanged")};
+                                              idOf("StmParamChanged"), idOf("SecParamChanged")};
 
 void raise(ChangeFlag flag) {
     VarSetGlobalBoolValue(kChangeFlagIds[static_cast<int>(flag)], 1);

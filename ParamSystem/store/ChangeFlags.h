@@ -5,7 +5,7 @@
 
 namespace talux {
 
-enum class ChangeFlag { param, ip, secParam, stm };
+enum class ChangeFlag { param, ip, stm, secParam };
 inline constexpr int kChangeFlagCount = 4;
 
 // The parameters, in this order.

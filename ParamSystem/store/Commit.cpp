@@ -12,6 +12,11 @@ using talux::Kind;
 using talux::Space;
 
 void commit(int id) {
+    if (holds(Kind::Int, id)) { // and a long
+        double value = 0;
+        VarGetValue(id, &value);
+        return VarSetGlobalValue(id, &value);
+    }
     withKind(talux::kindOf(id), [id]<Kind kind>() {
         if constexpr (talux::isTextKind(kind)) {
             char text[talux::blockOf(kind).slot];

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <pthread.h>
 #include <string_view>
 #include <sys/ipc.h>
 #include <sys/shm.h>
@@ -35,44 +36,33 @@ struct Segment {
     const char* sizeLabel; // what a failure calls the size; null: says nothing
     const char* getFailure;
     const char* attachFailure;
-    int attachedId; // -1 before the first attachment
+    int attachedId = -1;
+    void* attached = nullptr; // before the first attachment
 };
 
-constinit Segment structSegment{kStructSpaceKey,
-                                kStructSpaceSize,
-                                "record space",
-                                "StructSpace",
-                                "shmget (structspace)",
-                                "shmat (structspace)",
-                                -1};
-constinit Segment globalSegment{kGlobalSpaceKey,
-                                sizeof(stVarSpace),
-                                "global space",
-                                "GlobalSpace",
-                                "shmget (globalspace)",
-                                "shmat (globalspace)",
-                                -1};
-constinit Segment tempSegment{kTempSpaceKey,
-                              sizeof(stVarSpace),
-                              "temporary space",
-                              nullptr,
-                              "shmget (tempspace)",
-                              "shmat (tempspace)",
-                              -1};
+constinit Segment structSegment{kStructSpaceKey, kStructSpaceSize,       "record space",
+                                "StructSpace",   "shmget (structspace)", "shmat (structspace)"};
+constinit Segment globalSegment{kGlobalSpaceKey, sizeof(stVarSpace),     "global space",
+                                "GlobalSpace",   "shmget (globalspace)", "shmat (globalspace)"};
+constinit Segment tempSegment{kTempSpaceKey, sizeof(stVarSpace),   "temporary space",
+                              nullptr,       "shmget (tempspace)", "shmat (tempspace)"};
 
 enum class Failed { nothing, get, attach }; // the reason is in errno
 
 // A segment that is attached already stays where it is, since other threads may be in it. One that was
-// removed and made anew is attached beside it, and the pointer goes from the one to the other.
+// removed and made anew is attached beside it, and the pointer goes from the one to the other. The host may
+// have turned the pointer elsewhere.
 template <typename Memory>
 Failed attachOnce(Segment& segment, Memory*& pointer, int getFlags, int attachFlags) {
     const int id = shmget(segment.key, segment.size, getFlags);
     if (id == -1) return Failed::get;
-    if (pointer != nullptr && id == segment.attachedId) return Failed::nothing;
-    void* const memory = shmat(id, nullptr, attachFlags);
-    if (reinterpret_cast<std::intptr_t>(memory) == -1) return Failed::attach;
-    std::atomic_ref(pointer).store(static_cast<Memory*>(memory), std::memory_order_relaxed);
-    segment.attachedId = id;
+    if (segment.attached == nullptr || id != segment.attachedId) {
+        void* const memory = shmat(id, nullptr, attachFlags);
+        if (reinterpret_cast<std::intptr_t>(memory) == -1) return Failed::attach;
+        segment.attached = memory;
+        segment.attachedId = id;
+    }
+    std::atomic_ref(pointer).store(static_cast<Memory*>(segment.attached), std::memory_order_relaxed);
     return Failed::nothing;
 }
 
@@ -91,9 +81,28 @@ void attachOrMake(Segment& segment, Memory*& pointer) {
     if (failed == Failed::attach) talux::setUpFailed(segment.attachFailure);
 }
 
+// Only one thread at a time makes locks and attaches.
+class SettingUp {
+public:
+    SettingUp() { pthread_mutex_lock(&mutex); }
+    ~SettingUp() { pthread_mutex_unlock(&mutex); }
+    SettingUp(const SettingUp&) = delete;
+    SettingUp& operator=(const SettingUp&) = delete;
+
+private:
+    static inline pthread_mutex_t mutex = PTHREAD_MUTEX_INITIALIZER;
+};
+
 void createLocksOnce() {
     if (mutex_init == 0) talux::createLocks();
     mutex_init = 1;
+}
+
+void setUp() {
+    createLocksOnce();
+    attachOrMake(structSegment, pVarStruct);
+    attachOrMake(globalSegment, pVarGlobal);
+    attachOrMake(tempSegment, pVarTemp);
 }
 
 void clear(stVarSpace* space) {
@@ -103,21 +112,21 @@ void clear(stVarSpace* space) {
 } // namespace
 
 void VarInit(char* inipath) {
+    const SettingUp alone;
     if (szParameterPath != std::string_view(inipath)) talux::copyText(szParameterPath, inipath);
     fSave = 0;
-    VarAlloc();
+    setUp();
     fSave = 1;
 }
 
 void VarAlloc(void) {
-    createLocksOnce();
-    attachOrMake(structSegment, pVarStruct);
-    attachOrMake(globalSegment, pVarGlobal);
-    attachOrMake(tempSegment, pVarTemp);
+    const SettingUp alone;
+    setUp();
 }
 
 const char* talux::attachExisting(Attachment attachment) {
     const int flags = attachment == Attachment::readOnly ? SHM_RDONLY : 0;
+    const SettingUp alone;
     createLocksOnce();
     if (attachOnce(structSegment, pVarStruct, 0, flags) != Failed::nothing) return structSegment.name;
     if (attachOnce(globalSegment, pVarGlobal, 0, flags) != Failed::nothing) return globalSegment.name;

@@ -35,12 +35,14 @@ Number<kind> fromDouble(double value) {
 }
 static_assert(std::numeric_limits<float>::is_iec559 && std::numeric_limits<double>::is_iec559);
 
+// The ids that are both int and long are read as both, and the long counts.
 template <Kind kind, Space space>
 double read(int id) {
+    if (kind == Kind::Long && holds(Kind::Int, id)) getNumber<Kind::Int, space>(id);
     return toDouble<kind>(getNumber<kind, space>(id));
 }
 
-// The ids that are both int and long are written as both and read as long.
+// They are written as both.
 template <Kind kind, Space space>
 void write(int id, double number) {
     if (kind == Kind::Long && holds(Kind::Int, id)) write<Kind::Int, space>(id, number);
