@@ -11,11 +11,11 @@ constexpr int kFullRights = 3;
 // Parameter files lie in the root folder.
 constinit char inipath[] = "";
 
-// Constructed when the library is loaded, which attaches the shared memory. The only object of the library
-// that is initialised at run time: everything that its constructor reaches is ready before.
-KEPL_Interpreter clInterpreter(inipath);
-
 } // namespace
+
+// The only object of the library that is initialised at run time: everything that its constructor reaches is
+// ready before.
+KEPL_Interpreter clInterpreter(inipath);
 
 void talux_interpreter_Init() {
     LoadDefParamProperties();

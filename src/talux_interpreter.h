@@ -37,6 +37,9 @@ TALUX_API int talux_interpreter_GetError(char* buffer, int len);
 
 #ifdef __cplusplus
 }
+
+/* The interpreter that the three functions and the Lua module use, made when the library is loaded. */
+extern TALUX_API class KEPL_Interpreter clInterpreter;
 #endif
 
 #endif

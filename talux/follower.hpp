@@ -177,7 +177,7 @@ public:
     template <class Value>
     [[nodiscard]] Value operator[](const Setting<Value>& setting) const {
         const auto bytes = detail::bytesOf(table::kindOf<Value>(), setting.id());
-        const char* const from = reinterpret_cast<const char*>(&space) + bytes.offset;
+        const char* const from = reinterpret_cast<const char*>(space.data()) + bytes.offset;
         if constexpr (detail::kIsText<Value>) {
             return Value(std::string_view(from, strnlen(from, bytes.size)));
         } else if constexpr (std::is_same_v<Value, bool>) {
@@ -191,19 +191,21 @@ public:
         }
     }
 
-    [[nodiscard]] Differences changes(const Settings& other) const { return {space, other.space}; }
+    [[nodiscard]] Differences changes(const Settings& other) const { return {space[0], other.space[0]}; }
 
     // Whether all settings agree, in about a microsecond.
-    friend bool operator==(const Settings& a, const Settings& b) { return detail::agree(a.space, b.space); }
+    friend bool operator==(const Settings& a, const Settings& b) {
+        return detail::agree(a.space[0], b.space[0]);
+    }
 
 private:
     friend class Follower;
 
-    stVarSpace space;
+    std::array<stVarSpace, 1> space; // compilers dislike one alone, which has members of no length
 
-    explicit Settings(const stVarSpace& from) { std::memcpy(&space, &from, sizeof space); }
-    [[nodiscard]] bool isLive() const { return detail::agree(space, *pVarGlobal); }
-    [[nodiscard]] bool isStaged() const { return detail::agree(space, *pVarTemp); }
+    explicit Settings(const stVarSpace& from) { std::memcpy(space.data(), &from, sizeof from); }
+    [[nodiscard]] bool isLive() const { return detail::agree(space[0], *pVarGlobal); }
+    [[nodiscard]] bool isStaged() const { return detail::agree(space[0], *pVarTemp); }
 };
 
 // Gives one settled snapshot of the live settings after another. For one thread; three snapshots of memory.

@@ -265,7 +265,8 @@ struct Model {
             *fields[k] = static_cast<int>(std::max<std::int64_t>(*makeLong(words[k]) - start, INT32_MIN));
         }
         clock.tm_isdst = -1;
-        return (moment = std::mktime(&clock)) != -1;
+        moment = std::mktime(&clock);
+        return true;
     }
 
     static Reply write(const Term& term, const stParamProperties& row) {
@@ -283,6 +284,7 @@ struct Model {
         if (isClock && !clockWith(value, row.type == 2015, moment)) return {-1, "", {}, kSyntax};
         if (!isClock && value[0] == '"') value = value.size() < 2 ? "" : value.substr(1, value.size() - 2);
         put(row, id, value.data());
+        if (isClock && moment == -1) return {-1, "", {}, kSyntax};
         if (isClock) {
             note(format("clock %lld", static_cast<long long>(moment)));
             note("$ hwclock --systohc --utc --noadjfile");

@@ -102,6 +102,8 @@ TEST_F(Dictionary, FindsNamesLikeAScan) {
     EXPECT_EQ(byName(""), GetParamPropertiesByOrder(1));
     EXPECT_EQ(GetParamPropertiesByName(nullptr), nullptr);
     EXPECT_EQ(byName("cycle_cnt_low")->id, 7000);
+    for (const char* name : {"gui_enabled", "key_enabled", "pub_key", "date_info", "TIMEZONE", "Date"})
+        EXPECT_STREQ(byName(name)->val_init_text, "0") << name;
 }
 
 // What a symbol stands for, -1 where it is unknown.

@@ -204,6 +204,7 @@ TEST_F(SettingsCommands, FunctionsAndBranches) {
         {kZone, "TIMEZONE=" + longName, {{"*", ": used " + longName}}, 1, {}, longName}, // there is no such file
         {kZone, "TIMEZONE=/tmp/zone|/tmp/none", {toUtc}}, {kZone, "TIMEZONE=/tmp/zone|", {toUtc}, 1, {}, "/tmp/zone"},
         {kZone, "TIMEZONE=", {{"*", ": used "}}, 1, {}, "FILE"},
+        {kZone, "TIMEZONE=", {toUtc}, 1, {}, "/" + std::string(1023, 'z')},
         {kTime, "DCF77_activ=1|0", {{"echo*", ": DCF77 is enabled, not start NTP!"}}, 0},
         {kTime, "NTP2=000.000.000.000|10.0.0.2 NTP_RTC=0|1", {noServer2, noRtc}},
         {kTime, "NTP1=|10.0.0.1 DCF77_activ=2", {noServer1, {"-b 10.0.0.1", "-b 10.0.0.2"}}},
@@ -216,6 +217,12 @@ TEST_F(SettingsCommands, FunctionsAndBranches) {
         {kRadio, "essid=" + quotes + "123456", {{"iwconfig wlan0 essid Net_1", quoted + "123456'"}}},
         {kRadio, "essid=" + quotes + "1234567",
          {{"iwconfig wlan0 essid Net_1", ": not run, 254 characters where 253 are allowed: iwconfig wlan0 essid %s"}}},
+        // What the shell takes as it is stands as it is; nothing stands for nothing.
+        {kRadio, "essid=", {{"essid Net_1", "essid "}}},
+        {kRadio, "essid=Zür!c^h~1#", {{"essid Net_1", "essid Zür!c^h~1#"}}},
+        {kRadio, "essid=~root", {{"essid Net_1", "essid '~root'"}}},
+        {kRadio, "essid=#1", {{"essid Net_1", "essid '#1'"}}},
+        {kRadio, "essid=a=~b", {{"essid Net_1", "essid 'a=~b'"}}},
         {kAll, ""},
         {kAll, "eth1_active=0|1", {{"ifconfig eth1 10.1.1.1*", "$ ifconfig eth1 down" QUIET}}},
         {kAll, "wlan0_active=0|1", {{"ifconfig wlan0 down*", "$ ifconfig wlan0 down" QUIET}, noWlan0Address}},

@@ -1,5 +1,6 @@
 #include "ParamSystem/files/Replace.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -22,6 +23,11 @@ Replacement failure(Written written, const char* call, bool isAsBefore = true) {
 // Nothing can be made or exchanged there.
 bool isRefused(int error) {
     return error == EACCES || error == EPERM || error == EROFS || error == EBUSY;
+}
+
+// No second file: no inode is left, or no more of the user's share.
+bool isUsedUp(int error) {
+    return error == ENOSPC || error == EDQUOT;
 }
 
 class Descriptor {
@@ -230,7 +236,8 @@ std::optional<Replacement> replaceWhole(const char* path, std::string_view conte
     const Descriptor directory(os::openDirectory(place.directory()));
     if (!directory) return refusedOr(Written::notOpened, "fopen");
     Draft draft(directory.get());
-    if (!draft.make()) return refusedOr(Written::notOpened, "fopen");
+    if (!draft.make() && isUsedUp(errno)) return {};
+    if (draft.get() < 0) return refusedOr(Written::notOpened, "fopen");
     if (!keepsOwner(draft.status(), old)) return {};
 
     // First of all, so that nobody reads meanwhile what only few may read.
@@ -243,14 +250,30 @@ std::optional<Replacement> replaceWhole(const char* path, std::string_view conte
     return Replacement{};
 }
 
+// Over the old contents. What goes beyond them comes first, so that a full disk takes nothing of them.
+Replacement writeOver(int file, std::string_view contents, off_t oldSize) {
+    const std::size_t shared = std::min(contents.size(), static_cast<std::size_t>(oldSize));
+    if (!os::writeFile(file, behind(contents, shared), oldSize)) {
+        const Replacement failed = failure(Written::notWritten, "write");
+        os::cutFile(file, oldSize);
+        return failed;
+    }
+    if (!os::writeFile(file, contents.substr(0, shared), 0) ||
+        !os::cutFile(file, static_cast<off_t>(contents.size())))
+        return failure(Written::notWritten, "write", false);
+    return {};
+}
+
 Replacement writeInPlace(const char* path, std::string_view contents, const Rights* rights,
                          Descriptor& file) {
     struct stat status {};
     if (!file || !os::statusOf(file.get(), status)) return failure(Written::notOpened, "fopen");
     const bool isRegular = S_ISREG(status.st_mode);
-    if (isRegular && !os::emptyFile(file.get())) return failure(Written::notOpened, "fopen");
     Replacement result;
-    if (!os::writeFile(file.get(), contents)) result = failure(Written::notWritten, "write", false);
+    if (isRegular)
+        result = writeOver(file.get(), contents, status.st_size);
+    else if (!os::writeFile(file.get(), contents))
+        result = failure(Written::notWritten, "write", false);
     if (rights != nullptr && isRegular)
         setRights(file.get(), status, *rights, path); // no device is given away
     if (result.written != Written::done) return result;
@@ -269,7 +292,7 @@ Replacement replaceFile(const char* path, std::string_view contents, const Right
         if (const auto replaced = replaceWhole(path, contents, rights, existing ? &old : nullptr))
             return *replaced;
     if (existing) return writeInPlace(path, contents, rights, existing);
-    Descriptor made(os::openEmptied(path));
+    Descriptor made(os::openOrMake(path));
     return writeInPlace(path, contents, rights, made);
 }
 

@@ -100,9 +100,9 @@ public:
     }
 
     TermResult setClock() {
+        writeValue(spaceOf(row), decision.id, Value(*decision.variable.value));
         std::time_t seconds = 0;
         if (!clockSetTo(decision.clock, typeOf(row).nature, seconds)) return refused(Refusal::syntaxError);
-        writeValue(spaceOf(row), decision.id, Value(*decision.variable.value));
         os::setClock(seconds);
         os::runShell("hwclock --systohc --utc --noadjfile");
         slot.put(0.0, row.type);

@@ -1,6 +1,5 @@
 #include "ParamSystem/network/ShellCommand.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <string_view>
@@ -14,25 +13,32 @@ namespace {
 
 constexpr int kLongestCommand = 253;
 
-constexpr bool isPlain(char c) {
-    constexpr std::string_view kHarmless = "@%_+=:,./-";
-    const char lower = lowerAscii(c);
-    return (lower >= 'a' && lower <= 'z') || (c >= '0' && c <= '9') ||
-           kHarmless.find(c) != std::string_view::npos;
+// Whether the shell takes the character at this place of a word as it is.
+constexpr bool isPlain(std::string_view text, std::size_t place) {
+    constexpr std::string_view kHarmless = "@%_+=:,./-!^";
+    const char c = text[place], lower = lowerAscii(c);
+    if ((lower >= 'a' && lower <= 'z') || (c >= '0' && c <= '9') || static_cast<unsigned char>(c) >= 0x80)
+        return true;
+    if (kHarmless.find(c) != std::string_view::npos) return true;
+    // At the beginning a home directory and a comment; a home directory after these, too, in some shells.
+    return place > 0 && (c == '#' || (c == '~' && text[place - 1] != '=' && text[place - 1] != ':'));
+}
+
+constexpr bool isPlain(std::string_view text) {
+    for (std::size_t place = 0; place < text.size(); ++place)
+        if (!isPlain(text, place)) return false;
+    return true;
 }
 
 } // namespace
 
 ShellWord::ShellWord(const char* value) {
     const std::string_view text(value, strnlen(value, kTextSize - 1));
-    if (!text.empty() && std::all_of(text.begin(), text.end(), isPlain)) {
-        append(text);
-        return;
-    }
-    append("'");
+    const char* const quote = isPlain(text) ? "" : "'";
+    append(quote);
     for (const char& c : text)
         append(c == '\'' ? "'\\''" : std::string_view(&c, 1));
-    append("'");
+    append(quote);
 }
 
 void ShellWord::append(std::string_view piece) {

@@ -10,8 +10,9 @@
 
 namespace talux::network {
 
-// A stored text as the shell takes it for exactly one word, whatever it holds. A text of nothing but
-// letters, digits and @%_+=:,./- stands as it is, any other in single quotes.
+// A stored text as the shell takes it for one word, whatever it holds; an empty one is none. A text of
+// nothing but letters, umlauts too, digits and @%_+=:,./-!^, with # and ~ after its beginning, stands as it
+// is, any other in single quotes.
 class ShellWord {
 public:
     explicit ShellWord(const char* value);

@@ -61,7 +61,7 @@ void startTimeService() {
 
 int VarTIMEZONE() {
     char linked[1024];
-    if (!talux::os::readLink("/etc/localtime", linked, sizeof linked)) linked[0] = '\0';
+    talux::os::readLink("/etc/localtime", linked, sizeof linked);
     char zone[kTextSize] = "";
     VarGetGlobalTextValue(kTimeZone, zone);
 

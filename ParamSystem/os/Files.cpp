@@ -1,5 +1,6 @@
 #include "ParamSystem/os/Files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -31,8 +32,8 @@ int openToWrite(const char* path) {
     return untilDone([=] { return open(path, O_RDWR | O_CLOEXEC); });
 }
 
-int openEmptied(const char* path) {
-    return untilDone([=] { return open(path, O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, kAsMaskLeaves); });
+int openOrMake(const char* path) {
+    return untilDone([=] { return open(path, O_RDWR | O_CREAT | O_CLOEXEC, kAsMaskLeaves); });
 }
 
 int openDirectory(const char* path) {
@@ -87,8 +88,12 @@ bool writeFile(int descriptor, std::string_view contents) {
     return true;
 }
 
-bool emptyFile(int descriptor) {
-    return untilDone([=] { return ftruncate(descriptor, 0); }) == 0;
+bool writeFile(int descriptor, std::string_view contents, off_t place) {
+    return lseek(descriptor, place, SEEK_SET) == place && writeFile(descriptor, contents);
+}
+
+bool cutFile(int descriptor, off_t size) {
+    return untilDone([=] { return ftruncate(descriptor, size); }) == 0;
 }
 
 bool syncFile(int descriptor) {
@@ -109,9 +114,9 @@ bool tryLockFile(int descriptor) {
 
 bool readLink(const char* path, char* target, std::size_t size) {
     const ssize_t length = readlink(path, target, size);
-    if (length < 0 || static_cast<std::size_t>(length) == size) return false;
-    target[length] = '\0';
-    return true;
+    const std::size_t kept = std::min(static_cast<std::size_t>(std::max<ssize_t>(length, 0)), size - 1);
+    target[kept] = '\0';
+    return length >= 0 && static_cast<std::size_t>(length) == kept;
 }
 
 bool exists(const char* path) {

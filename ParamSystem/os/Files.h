@@ -13,8 +13,7 @@ namespace talux::os {
 
 int openToRead(const char* path);
 int openToWrite(const char* path); // for reading as well; the file must be there
-int openEmptied(
-    const char* path); // the same, made when it is not there, with the rights that the mask leaves
+int openOrMake(const char* path); // the same, made when it is not there, with the rights that the mask leaves
 int openDirectory(const char* path);
 bool closeFile(int descriptor);
 
@@ -28,9 +27,10 @@ void removeIn(int directory, const char* name);
 void removeFile(const char* path);
 
 bool statusOf(int descriptor, struct stat& status);
-ssize_t readFile(int descriptor, char* block, std::size_t size); // the bytes read, 0 at the end
-bool writeFile(int descriptor, std::string_view contents);       // all of it
-bool emptyFile(int descriptor);
+ssize_t readFile(int descriptor, char* block, std::size_t size);        // the bytes read, 0 at the end
+bool writeFile(int descriptor, std::string_view contents);              // all of it
+bool writeFile(int descriptor, std::string_view contents, off_t place); // from there on
+bool cutFile(int descriptor, off_t size);
 bool syncFile(int descriptor); // also of a directory; what cannot be synced counts as synced
 bool giveFile(int descriptor, uid_t owner, gid_t group);
 bool allowFile(int descriptor, mode_t mode);
@@ -38,7 +38,8 @@ bool allowFile(int descriptor, mode_t mode);
 // A lock between processes that goes with the descriptor. Where there are no locks all succeed.
 bool tryLockFile(int descriptor);
 
-// The target of a link, with a NUL; false when it is none or does not fit.
+// The target of a link, cut to fit with a NUL; false when it was cut or there is no link, whose target is
+// empty.
 bool readLink(const char* path, char* target, std::size_t size);
 
 bool exists(const char* path);

@@ -205,6 +205,7 @@ enum Switch { kOff, kOn };
 
 struct Flag {
     Switch def = kOff;
+    const char* init = ""; // initial value as text
     Place of{};
     unsigned is = 0;
 };
@@ -212,13 +213,15 @@ struct Flag {
 constexpr Row flag(int id, const char* name, const Flag& facts, const Words& words,
                    Where where = Where::current()) {
     const bool isEdited = (facts.is & (kUnwritable | kRuntime)) == 0;
-    return numeric(id, name, kTypeBool,
-                   {.def = facts.def == kOn ? 1.0 : 0.0,
-                    .min = isEdited ? 0 : kNoMin,
-                    .max = isEdited ? 1 : kNoMax,
-                    .of = facts.of,
-                    .is = facts.is},
-                   words, where);
+    Row row = numeric(id, name, kTypeBool,
+                      {.def = facts.def == kOn ? 1.0 : 0.0,
+                       .min = isEdited ? 0 : kNoMin,
+                       .max = isEdited ? 1 : kNoMax,
+                       .of = facts.of,
+                       .is = facts.is},
+                      words, where);
+    row.properties.val_init_text = facts.init;
+    return row;
 }
 
 // Choices count from 1. A row that has their texts has their names too, for C++ programs; they stay as they
