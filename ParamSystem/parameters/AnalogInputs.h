@@ -7,7 +7,7 @@
 
 namespace talux::parameters {
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kUAssignment{{"Zuordnung U{n}", "Kanalzuordnung von U{n}, Zahl 1 bis 5"},
                                     {"U{n} assignment", "Channel assignment of U{n}, number 1 to 5"}};
 inline constexpr Words kVTRatioU{

@@ -6,7 +6,7 @@
 
 namespace talux::parameters {
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kBIPolarity{
     {"Polarität BE{n}", "+ meldet bei anliegender Spannung, - bei fehlender Spannung am Binäreingang {n}"},
     {"BI{n} polarity", "+ signals if there is voltage at binary input {n}, - if there is none"}};

@@ -6,7 +6,7 @@
 
 namespace talux::parameters {
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kDisplayPosition{
     {"Anzeigeposition {n}", "Messgröße, die Position {n} der Messwertanzeige zeigt"},
     {"Display position {n}", "Measured quantity shown at position {n} of the measurement display"}};

@@ -1,5 +1,4 @@
-// Earth-fault and short-circuit detection: thresholds and methods. Currents are primary (A), angles in
-// degrees, times in seconds where nothing else is said.
+// Earth-fault and short-circuit detection: thresholds and methods. Currents are primary.
 #ifndef TALUX_PARAMETERS_EARTH_FAULT_H
 #define TALUX_PARAMETERS_EARTH_FAULT_H
 
@@ -12,7 +11,7 @@ constexpr Row duration(int id, const char* name, double def, Place of, const Wor
     return decimal(id, name, {.def = def, .min = 0, .max = 86400, .unit = "s", .of = of}, words, where);
 }
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kSignalDuration{
     {"Meldedauer {n}", "Meldedauer nach einem Richtungsentscheid von {n}"},
     {"{n} signal duration", "Time for which a direction decision of {n} is signalled"}};

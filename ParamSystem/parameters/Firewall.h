@@ -7,7 +7,7 @@
 
 namespace talux::parameters {
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kDeviceAccess{
     {"Gerätezugriff über {n}", "Gerätekommunikation (Ports 3002, 3005, 45454, FTP) über {n} erlauben"},
     {"Device access via {n}", "Allow device communication (ports 3002, 3005, 45454, FTP) via {n}"}};

@@ -6,7 +6,7 @@
 
 namespace talux::parameters {
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kU0{{"U0 bei {n}", "Anteil der Verlagerungsspannung bei {n}, primär"},
                            {"U0 at {n}", "Component of the neutral displacement voltage at {n}, primary"}};
 inline constexpr Words kI0{{"I0 bei {n}", "Anteil des Summenstroms bei {n}, primär"},
@@ -20,8 +20,8 @@ inline constexpr Words kMaximumI0Class{
     {"Maximum I0 Klasse c{n}", "Größter Summenstrom der Statistikklasse c{n}, primär"},
     {"Maximum I0 class c{n}", "Largest residual current of statistics class c{n}, primary"}};
 inline constexpr Words kMaximumIClass{
-    {"Maximum I{n} Klasse c{m}", "Größter Leiterstrom I{n} der Statistikklasse c{m}, primär"},
-    {"Maximum I{n} class c{m}", "Largest phase current I{n} of statistics class c{m}, primary"}};
+    {"Maximum I{m} Klasse c{n}", "Größter Leiterstrom I{m} der Statistikklasse c{n}, primär"},
+    {"Maximum I{m} class c{n}", "Largest phase current I{m} of statistics class c{n}, primary"}};
 
 inline constexpr Row kMeasurementsRows[] = {
     measured(2000, "U{1..3}_prim", kPrimaryVoltage, "kV",
@@ -131,25 +131,15 @@ inline constexpr Row kMeasurementsRows[] = {
              {{"Maximum I{n}", "Größter Leiterstrom I{n} der Statistik, primär"},
               {"Maximum I{n}", "Largest phase current I{n} of the statistics, primary"}}),
     measured(2072, "I0_max_stat_c0", kPrimaryCurrent, "A", kMaximumI0Class("0")),
-    measured(2073, "I1_max_stat_c0", kPrimaryCurrent, "A", kMaximumIClass("1", "0")),
-    measured(2074, "I2_max_stat_c0", kPrimaryCurrent, "A", kMaximumIClass("2", "0")),
-    measured(2075, "I3_max_stat_c0", kPrimaryCurrent, "A", kMaximumIClass("3", "0")),
+    measured(2073, "I{1..3}_max_stat_c0", kPrimaryCurrent, "A", kMaximumIClass("0")),
     measured(2076, "I0_max_stat_c1", kPrimaryCurrent, "A", kMaximumI0Class("1")),
-    measured(2077, "I1_max_stat_c1", kPrimaryCurrent, "A", kMaximumIClass("1", "1")),
-    measured(2078, "I2_max_stat_c1", kPrimaryCurrent, "A", kMaximumIClass("2", "1")),
-    measured(2079, "I3_max_stat_c1", kPrimaryCurrent, "A", kMaximumIClass("3", "1")),
+    measured(2077, "I{1..3}_max_stat_c1", kPrimaryCurrent, "A", kMaximumIClass("1")),
     measured(2080, "I0_max_stat_c2", kPrimaryCurrent, "A", kMaximumI0Class("2")),
-    measured(2081, "I1_max_stat_c2", kPrimaryCurrent, "A", kMaximumIClass("1", "2")),
-    measured(2082, "I2_max_stat_c2", kPrimaryCurrent, "A", kMaximumIClass("2", "2")),
-    measured(2083, "I3_max_stat_c2", kPrimaryCurrent, "A", kMaximumIClass("3", "2")),
+    measured(2081, "I{1..3}_max_stat_c2", kPrimaryCurrent, "A", kMaximumIClass("2")),
     measured(2084, "I0_max_stat_c3", kPrimaryCurrent, "A", kMaximumI0Class("3")),
-    measured(2085, "I1_max_stat_c3", kPrimaryCurrent, "A", kMaximumIClass("1", "3")),
-    measured(2086, "I2_max_stat_c3", kPrimaryCurrent, "A", kMaximumIClass("2", "3")),
-    measured(2087, "I3_max_stat_c3", kPrimaryCurrent, "A", kMaximumIClass("3", "3")),
+    measured(2085, "I{1..3}_max_stat_c3", kPrimaryCurrent, "A", kMaximumIClass("3")),
     measured(2088, "I0_max_stat_c4", kPrimaryCurrent, "A", kMaximumI0Class("4")),
-    measured(2089, "I1_max_stat_c4", kPrimaryCurrent, "A", kMaximumIClass("1", "4")),
-    measured(2090, "I2_max_stat_c4", kPrimaryCurrent, "A", kMaximumIClass("2", "4")),
-    measured(2091, "I3_max_stat_c4", kPrimaryCurrent, "A", kMaximumIClass("3", "4")),
+    measured(2089, "I{1..3}_max_stat_c4", kPrimaryCurrent, "A", kMaximumIClass("4")),
 };
 
 inline constexpr Note kMeasurementsNotes[] = {

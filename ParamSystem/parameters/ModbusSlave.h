@@ -11,7 +11,7 @@ constexpr Row mapOffset(int id, const char* name, double def, const Words& words
     return number(id, name, {.def = def, .min = 0, .max = 65536}, words, where);
 }
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kModbusOffset{{"Modbus-Offset {n}", "Erstes Register des Bereichs {n}"},
                                      {"Modbus offset {n}", "First register of the block {n}"}};
 

@@ -6,25 +6,13 @@
 
 namespace talux::parameters {
 
-// What several rows say alike.
-inline constexpr Words kStatMaxActive{
-    {"Stat. {n}{m} Max. aktiv", "Maximum von {n}{m} in der Statistik speichern"},
-    {"Stat. {n}{m} max. active", "Store the maximum of {n}{m} in the statistics"}};
-inline constexpr Words kStatAvgActive{
-    {"Stat. {n}{m} Mittel aktiv", "Mittelwert von {n}{m} in der Statistik speichern"},
-    {"Stat. {n}{m} avg. active", "Store the average of {n}{m} in the statistics"}};
-inline constexpr Words kStatMinActive{
-    {"Stat. {n}{m} Min. aktiv", "Minimum von {n}{m} in der Statistik speichern"},
-    {"Stat. {n}{m} min. active", "Store the minimum of {n}{m} in the statistics"}};
-inline constexpr Words kStatTotMaxActive{
-    {"Stat. {n} ges. Max. aktiv", "Maximum von {n} gesamt in der Statistik speichern"},
-    {"Stat. {n} tot. max. active", "Store the maximum of the total {n} in the statistics"}};
-inline constexpr Words kStatTotMinActive{
-    {"Stat. {n} ges. Min. aktiv", "Minimum von {n} gesamt in der Statistik speichern"},
-    {"Stat. {n} tot. min. active", "Store the minimum of the total {n} in the statistics"}};
-inline constexpr Words kStatTotAvgActive{
-    {"Stat. {n} ges. Mit. aktiv", "Mittelwert von {n} gesamt in der Statistik speichern"},
-    {"Stat. {n} tot. avg. active", "Store the average of the total {n} in the statistics"}};
+// Texts that several rows share.
+inline constexpr Words kStatMaxActive{{"Stat. {n}{m} Max. aktiv"}, {"Stat. {n}{m} max. active"}};
+inline constexpr Words kStatAvgActive{{"Stat. {n}{m} Mittel aktiv"}, {"Stat. {n}{m} avg. active"}};
+inline constexpr Words kStatMinActive{{"Stat. {n}{m} Min. aktiv"}, {"Stat. {n}{m} min. active"}};
+inline constexpr Words kStatTotMaxActive{{"Stat. {n} ges. Max. aktiv"}, {"Stat. {n} tot. max. active"}};
+inline constexpr Words kStatTotMinActive{{"Stat. {n} ges. Min. aktiv"}, {"Stat. {n} tot. min. active"}};
+inline constexpr Words kStatTotAvgActive{{"Stat. {n} ges. Mit. aktiv"}, {"Stat. {n} tot. avg. active"}};
 
 inline constexpr Row kRecorderRows[] = {
     number(6986, "rec_pretrig_per", {.def = 5, .min = 1, .max = 11},
@@ -52,52 +40,18 @@ inline constexpr Row kRecorderRows[] = {
     number(6993, "stat_intervall", {.def = 10, .min = 1, .max = 60, .unit = "min"},
            {{"Statistikintervall", "Dauer eines Intervalls, über das ausgewertet wird"},
             {"Statistics interval", "Length of an interval that is evaluated"}}),
-    flag(8117, "stat_I0_max_enabled", {}, kStatMaxActive("I", "0")),
-    flag(8118, "stat_I1_max_enabled", {}, kStatMaxActive("I", "1")),
-    flag(8119, "stat_I2_max_enabled", {}, kStatMaxActive("I", "2")),
-    flag(8120, "stat_I3_max_enabled", {}, kStatMaxActive("I", "3")),
-    flag(8121, "stat_I0_av_enabled", {}, kStatAvgActive("I", "0")),
-    flag(8122, "stat_I1_av_enabled", {}, kStatAvgActive("I", "1")),
-    flag(8123, "stat_I2_av_enabled", {}, kStatAvgActive("I", "2")),
-    flag(8124, "stat_I3_av_enabled", {}, kStatAvgActive("I", "3")),
-    flag(8125, "stat_U0_max_enabled", {}, kStatMaxActive("U", "0")),
-    flag(8126, "stat_U1_max_enabled", {}, kStatMaxActive("U", "1")),
-    flag(8127, "stat_U2_max_enabled", {}, kStatMaxActive("U", "2")),
-    flag(8128, "stat_U3_max_enabled", {}, kStatMaxActive("U", "3")),
-    flag(8129, "stat_U{0..3}_min_enabled", {},
-         {{"Stat. U{n} Min. aktiv", "Minimum von U{n} in der Statistik speichern"},
-          {"Stat. U{n} min. active", "Store the minimum of U{n} in the statistics"}}),
-    flag(8133, "stat_U0_av_enabled", {}, kStatAvgActive("U", "0")),
-    flag(8134, "stat_U1_av_enabled", {}, kStatAvgActive("U", "1")),
-    flag(8135, "stat_U2_av_enabled", {}, kStatAvgActive("U", "2")),
-    flag(8136, "stat_U3_av_enabled", {}, kStatAvgActive("U", "3")),
-    flag(8137, "stat_U{12,23,31}_max_enabled", {},
-         {{"Stat. U{n} Max. aktiv", "Maximum von U{n} in der Statistik speichern"},
-          {"Stat. U{n} max. active", "Store the maximum of U{n} in the statistics"}}),
-    flag(8140, "stat_P0_max_enabled", {}, kStatMaxActive("P", "0")),
-    flag(8141, "stat_P1_max_enabled", {}, kStatMaxActive("P", "1")),
-    flag(8142, "stat_P2_max_enabled", {}, kStatMaxActive("P", "2")),
-    flag(8143, "stat_P3_max_enabled", {}, kStatMaxActive("P", "3")),
-    flag(8144, "stat_P0_min_enabled", {}, kStatMinActive("P", "0")),
-    flag(8145, "stat_P1_min_enabled", {}, kStatMinActive("P", "1")),
-    flag(8146, "stat_P2_min_enabled", {}, kStatMinActive("P", "2")),
-    flag(8147, "stat_P3_min_enabled", {}, kStatMinActive("P", "3")),
-    flag(8148, "stat_P0_av_enabled", {}, kStatAvgActive("P", "0")),
-    flag(8149, "stat_P1_av_enabled", {}, kStatAvgActive("P", "1")),
-    flag(8150, "stat_P2_av_enabled", {}, kStatAvgActive("P", "2")),
-    flag(8151, "stat_P3_av_enabled", {}, kStatAvgActive("P", "3")),
-    flag(8152, "stat_Q0_max_enabled", {}, kStatMaxActive("Q", "0")),
-    flag(8153, "stat_Q1_max_enabled", {}, kStatMaxActive("Q", "1")),
-    flag(8154, "stat_Q2_max_enabled", {}, kStatMaxActive("Q", "2")),
-    flag(8155, "stat_Q3_max_enabled", {}, kStatMaxActive("Q", "3")),
-    flag(8156, "stat_Q0_min_enabled", {}, kStatMinActive("Q", "0")),
-    flag(8157, "stat_Q1_min_enabled", {}, kStatMinActive("Q", "1")),
-    flag(8158, "stat_Q2_min_enabled", {}, kStatMinActive("Q", "2")),
-    flag(8159, "stat_Q3_min_enabled", {}, kStatMinActive("Q", "3")),
-    flag(8160, "stat_Q0_av_enabled", {}, kStatAvgActive("Q", "0")),
-    flag(8161, "stat_Q1_av_enabled", {}, kStatAvgActive("Q", "1")),
-    flag(8162, "stat_Q2_av_enabled", {}, kStatAvgActive("Q", "2")),
-    flag(8163, "stat_Q3_av_enabled", {}, kStatAvgActive("Q", "3")),
+    flag(8117, "stat_I{0..3}_max_enabled", {}, kStatMaxActive("I")),
+    flag(8121, "stat_I{0..3}_av_enabled", {}, kStatAvgActive("I")),
+    flag(8125, "stat_U{0..3}_max_enabled", {}, kStatMaxActive("U")),
+    flag(8129, "stat_U{0..3}_min_enabled", {}, {{"Stat. U{n} Min. aktiv"}, {"Stat. U{n} min. active"}}),
+    flag(8133, "stat_U{0..3}_av_enabled", {}, kStatAvgActive("U")),
+    flag(8137, "stat_U{12,23,31}_max_enabled", {}, {{"Stat. U{n} Max. aktiv"}, {"Stat. U{n} max. active"}}),
+    flag(8140, "stat_P{0..3}_max_enabled", {}, kStatMaxActive("P")),
+    flag(8144, "stat_P{0..3}_min_enabled", {}, kStatMinActive("P")),
+    flag(8148, "stat_P{0..3}_av_enabled", {}, kStatAvgActive("P")),
+    flag(8152, "stat_Q{0..3}_max_enabled", {}, kStatMaxActive("Q")),
+    flag(8156, "stat_Q{0..3}_min_enabled", {}, kStatMinActive("Q")),
+    flag(8160, "stat_Q{0..3}_av_enabled", {}, kStatAvgActive("Q")),
     flag(8164, "stat_P_all_max_enabled", {}, kStatTotMaxActive("P")),
     flag(8165, "stat_P_all_min_enabled", {}, kStatTotMinActive("P")),
     flag(8166, "stat_P_all_av_enabled", {}, kStatTotAvgActive("P")),

@@ -6,7 +6,7 @@
 
 namespace talux::parameters {
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kCalibrationResult{{"Abgleichergebnis {n}"}, {"Calibration result {n}"}};
 
 inline constexpr Row kRuntimeRows[] = {

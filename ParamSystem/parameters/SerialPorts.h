@@ -6,7 +6,7 @@
 
 namespace talux::parameters {
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kPortBaudRate{
     {"Baudrate Port {n}", "Übertragungsrate der seriellen Schnittstelle {n}"},
     {"Port {n} baud rate", "Transmission rate of serial port {n}"}};

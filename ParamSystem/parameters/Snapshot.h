@@ -6,7 +6,7 @@
 
 namespace talux::parameters {
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kSnapshotAngle{{"Momentaufn. Winkel {n}{m}"}, {"Snapshot angle {n}{m}"}};
 inline constexpr Words kSnapshotBIAC{
     {"Momentaufn. BE{n} AC", "Wechselspannung am Binäreingang {n}, Momentaufnahme"},

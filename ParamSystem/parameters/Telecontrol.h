@@ -6,7 +6,7 @@
 
 namespace talux::parameters {
 
-// What several rows say alike.
+// Texts that several rows share.
 inline constexpr Words kActive{{"{n} aktiv", "Protokoll {n} zur Leittechnik einschalten"},
                                {"{n} active", "Switch on the {n} protocol to the control system"}};
 inline constexpr Words kPort{
