@@ -1,5 +1,5 @@
 -- A tour of the module: measured values, arithmetic, ranges and records, settings, files, refusals.
--- Run it with scripts/run.sh; the device program (examples/device.cpp) runs beside it.
+-- Run it with scripts/run.sh; the device program (talux-desk) runs beside it.
 local talux = require "talux"
 
 local step = 0

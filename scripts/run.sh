@@ -15,6 +15,9 @@
 #              /tmp/device.log lie there. A new or empty one, or that of an earlier run; by default a temporary one
 # --boot       starts as a device does: the defaults, then the parameter files of the root. The network stays as it is.
 #              Without it a run starts from the factory defaults, whatever files lie in the root: a save replaces them
+# --scenario NAME
+#              what happens in the network: earth faults and others, docs/desk.md; a name of examples/scenarios or a file.
+#              Without it the network is quiet
 # --alone      without the device program: all values are zero at first, and a save writes the zeros
 #
 # The exit status is the script's. What is missing is installed (as root) and built first; TALUX_BUILD_DIR=DIR puts
@@ -23,12 +26,18 @@
 . "$(dirname "$(readlink -f "$0")")/common.sh"
 
 build=$builds/build-release
-isolation=() session=(--device "$build/examples/device") boot=() targets=(lib_talux_lua device)
+isolation=() session=(--device "$build/tools/desk/talux-desk") boot=() targets=(lib_talux_lua talux-desk)
 while [ "$#" -gt 0 ]; do
   case $1 in
     --root) [ "$#" -ge 2 ] || fail '--root takes a directory'
       isolation+=(--root "$2"); shift 2 ;;
     --alone) session=(); shift ;;
+    --scenario) [ "$#" -ge 2 ] || fail '--scenario takes a name or a file'
+      scenario=$project/examples/scenarios/$2.scenario
+      [ -f "$scenario" ] || scenario=$(realpath -m "$2")
+      [ -f "$scenario" ] || fail "no such scenario: $2; there are $(cd "$project/examples/scenarios" && echo *.scenario | sed 's/\.scenario//g')"
+      isolation+=(--read "$(dirname "$scenario")")
+      session+=(--scenario "$scenario"); shift 2 ;;
     --boot) boot=(--boot); shift ;;
     -h | --help) help ;;
     *) break ;;

@@ -1,15 +1,15 @@
 #!/bin/bash
 # What happens inside the isolated root when a script runs: stage, device program, script.
 #
-#   session.sh [--setup FILE] [--device PROGRAM] [--boot] [--emulator "WORD;WORD"] -- COMMAND [ARGUMENT..]
+#   session.sh [--setup FILE] [--device PROGRAM [--scenario FILE]] [--boot] [--emulator "WORD;WORD"] -- COMMAND [ARGUMENT..]
 #
 # FILE is sourced: what it exports, another PATH for instance, holds for the rest. The device program is there,
 # with values in the store, before the command starts, and ends with it. It keeps its log in /tmp/device.log.
-# With --boot the parameter files that lie in the root are loaded over its defaults, without applying addresses.
+# FILE of --scenario says what happens in its network. With --boot the parameter files that lie in the root are loaded over its defaults, without applying addresses.
 # The words stand before the device program when it is not for this processor.
 set -eu
 
-device='' boot='' emulator=() log=/tmp/device.log
+device='' scenario=() boot='' emulator=() log=/tmp/device.log
 while [ "$#" -gt 0 ]; do
   case $1 in
     -h | --help) sed -n '2,/^[^#]/s/^# \?//p' "$0"; exit ;;
@@ -19,6 +19,7 @@ while [ "$#" -gt 0 ]; do
       . "$2"
       shift 2 ;;
     --device) device=$2; shift 2 ;;
+    --scenario) scenario=(--scenario "$2"); shift 2 ;;
     --boot) boot=1; shift ;;
     --emulator) IFS=";" read -ra emulator <<<"$2"; shift 2 ;;
     --) shift; break ;;
@@ -27,7 +28,7 @@ while [ "$#" -gt 0 ]; do
 done
 
 if [ -n "$device" ]; then
-  exec 3< <(exec setpriv --pdeathsig KILL "${emulator[@]}" "$device" "$log")
+  exec 3< <(exec setpriv --pdeathsig KILL "${emulator[@]}" "$device" "${scenario[@]}" "$log")
   pid=$!
   read -r _ <&3 || { echo 'session.sh: the device program did not start' >&2; exit 2; }
 fi

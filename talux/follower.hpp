@@ -173,6 +173,9 @@ public:
     // What is live now. A commit that is just running can be seen half; a Follower never hands that out.
     Settings() : Settings(*pVarGlobal) {}
 
+    // Those of a space that lies elsewhere.
+    explicit Settings(const stVarSpace& from) { std::memcpy(space.data(), &from, sizeof from); }
+
     // The value that a setting had.
     template <class Value>
     [[nodiscard]] Value operator[](const Setting<Value>& setting) const {
@@ -203,7 +206,6 @@ private:
 
     std::array<stVarSpace, 1> space; // compilers dislike one alone, which has members of no length
 
-    explicit Settings(const stVarSpace& from) { std::memcpy(space.data(), &from, sizeof from); }
     [[nodiscard]] bool isLive() const { return detail::agree(space[0], *pVarGlobal); }
     [[nodiscard]] bool isStaged() const { return detail::agree(space[0], *pVarTemp); }
 };

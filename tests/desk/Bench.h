@@ -1,0 +1,72 @@
+// A relay on the bench: a scenario in words, settings, and what came of it cycle by cycle, without a store.
+#ifndef TALUX_TEST_DESK_BENCH_H
+#define TALUX_TEST_DESK_BENCH_H
+
+#include <cstring>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "tools/desk/Desk.h"
+#include "tools/desk/Factory.h"
+#include "tools/desk/Replay.h"
+
+namespace desk_test {
+
+using namespace desk;
+
+inline constexpr char kResonant[] =
+    "network resonant-earthed 20 kV capacitive 80 A own 6 A detuning -5 % damping 3 %\n"
+    "load 0 A drift 0 %\n";
+inline constexpr char kIsolated[] = "network isolated 20 kV capacitive 80 A own 6 A\nload 0 A drift 0 %\n";
+
+class Bench {
+public:
+    template <class Value>
+    void set(talux::Setting<Value> setting, Value value) {
+        const auto bytes = talux::detail::bytesOf(talux::table::kindOf<Value>(), setting.id());
+        std::memcpy(reinterpret_cast<char*>(space.data()) + bytes.offset, &value, bytes.size);
+    }
+
+    // All cycles of the scenario; its faults fail the test.
+    const std::vector<Cycle>& run(const std::string& scenario, const Overrides& overrides = {}) {
+        std::istringstream text(scenario);
+        const ReadScenario read = readScenario(text);
+        for (const ScenarioFault& fault : read.faults)
+            ADD_FAILURE() << fault.line << ": " << fault.text;
+        cycles.clear();
+        Desk device(read.scenario, openRecording);
+        const talux::Settings settings(space[0]);
+        for (Cycle cycle; cycles.size() < 100000 && device.step(settings, overrides, cycle);)
+            cycles.push_back(cycle);
+        return cycles;
+    }
+
+    static bool signals(const Cycle& cycle, std::size_t function) {
+        const auto word =
+            static_cast<std::uint32_t>(cycle.outputs.words[Word::functions1 + (function - 1) / 32]);
+        return (word >> (function - 1) % 32 & 1U) != 0;
+    }
+    // When the function came first, in seconds; -1: never.
+    [[nodiscard]] double begins(std::size_t function) const {
+        for (const Cycle& cycle : cycles)
+            if (signals(cycle, function)) return cycle.second;
+        return -1;
+    }
+    // For how long it was there.
+    [[nodiscard]] double lasts(std::size_t function) const {
+        double seconds = 0;
+        for (const Cycle& cycle : cycles)
+            seconds += signals(cycle, function) ? kCycle : 0;
+        return seconds;
+    }
+
+private:
+    std::array<stVarSpace, 1> space{factorySpace()};
+    std::vector<Cycle> cycles;
+};
+
+} // namespace desk_test
+
+#endif

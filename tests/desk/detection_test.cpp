@@ -1,0 +1,281 @@
+// Each method signals in the direction of the scenario after its delay, and not when its threshold is just
+// above.
+#include "Bench.h"
+
+#include <cmath>
+
+using namespace desk_test;
+using talux::Setting;
+
+namespace {
+
+double value(const Cycle& cycle, talux::Measured<float> which) {
+    return cycle.values[static_cast<std::size_t>(which.id() - kFirstValue.id())];
+}
+double ampere(const Cycle& cycle) {
+    return value(cycle, {"I0_prim"});
+}
+
+// A long feeder, whose own current is enough for the harmonics of a backward fault.
+constexpr char kLong[] = "network resonant-earthed 20 kV capacitive 80 A own 20 A damping 3 %\nload 0 A drift 0 %\n";
+
+struct Method {
+    const char* name;
+    const char* network;
+    Setting<bool> active;
+    Setting<float> threshold;
+    double (*measured)(const Cycle& cycle); // what is compared with the threshold
+    std::size_t forward;                    // the next function is backward
+    Setting<float> duration;
+    double delay; // of the factory settings, cycles included
+};
+constexpr Method kMethods[] = {
+    {"transient",
+     kResonant,
+     {"qu2_active"},
+     {"qu2_Ice"},
+     [](const Cycle&) { return 0.0; },
+     28,
+     {"qu2_SigDur"},
+     0},
+    {"sustained",
+     kResonant,
+     {"qu2_DE_active"},
+     {"qu2_Ice"},
+     [](const Cycle&) { return 0.0; },
+     30,
+     {"qu2_SigDur"},
+     1},
+    {"cos(phi)",
+     kResonant,
+     {"cos_active"},
+     {"cos_Iw_min"},
+     [](const Cycle& c) { return -value(c, {"P0_prim"}) / value(c, {"U0_prim"}); },
+     34,
+     {"cos_SigDur"},
+     0.1},
+    {"sin(phi)",
+     kIsolated,
+     {"sin_active"},
+     {"sin_I_min"},
+     [](const Cycle& c) { return std::fabs(value(c, {"Q0_prim"})) / value(c, {"U0_prim"}); },
+     36,
+     {"sin_SigDur"},
+     0.1},
+    {"cos and sin", kIsolated, {"cos_sin_active"}, {"CosSin_I_min"}, ampere, 38, {"cos_sin_SigDur"}, 0.06},
+    {"fifth harmonic",
+     kLong,
+     {"harm1_active"},
+     {"harm1_Ice"},
+     [](const Cycle& c) { return value(c, {"I0_250_abs"}); },
+     40,
+     {"harm1_SigDur"},
+     0.1},
+    {"settable harmonic",
+     kLong,
+     {"harm2_active"},
+     {"harm2_Ice"},
+     [](const Cycle& c) { return value(c, {"I0_f1_abs"}); },
+     42,
+     {"harm2_SigDur"},
+     0.1},
+    {"admittance",
+     kLong,
+     {"adm_active"},
+     {"adm_I_min_1"},
+     [](const Cycle& c) { return value(c, {"I0_f3_abs"}); },
+     85,
+     {"adm_T_hold"},
+     0.06},
+};
+
+std::string faultAt2(const char* network, const char* direction) {
+    return std::string(network) + "at 2 s earth fault L1 10 ohm " + direction +
+           "\nat 6 s fault cleared\nat 12 s end\n";
+}
+
+TEST(DeskDetection, SignalsInTheDirectionOfTheFaultAfterItsDelay) {
+    for (const Method& method : kMethods)
+        for (const bool forward : {true, false}) {
+            SCOPED_TRACE(std::string(method.name) + (forward ? " forward" : " backward"));
+            const bool onlyForward =
+                !forward && method.forward == 34; // a healthy feeder has no active current
+            Bench bench;
+            bench.set(method.active, true);
+            const auto& cycles = bench.run(faultAt2(method.network, forward ? "forward" : "backward"));
+            const std::size_t right = method.forward + (forward ? 0 : 1),
+                              wrong = method.forward + (forward ? 1 : 0);
+            EXPECT_EQ(bench.begins(wrong), -1);
+            if (onlyForward) {
+                EXPECT_EQ(bench.begins(right), -1);
+                continue;
+            }
+            EXPECT_NEAR(bench.begins(right), 2 + method.delay, 0.05);
+
+            const double measured = method.measured(cycles[5 * 50]);
+            if (measured == 0) continue;
+            bench.set(method.threshold, static_cast<float>(measured * 0.999));
+            bench.run(faultAt2(method.network, forward ? "forward" : "backward"));
+            EXPECT_GT(bench.begins(right), 0) << "threshold just below " << measured;
+            bench.set(method.threshold, static_cast<float>(measured * 1.01));
+            bench.run(faultAt2(method.network, forward ? "forward" : "backward"));
+            EXPECT_EQ(bench.begins(right), -1) << "threshold just above " << measured;
+        }
+}
+
+TEST(DeskDetection, ComparesTheChargeWithTheThresholdsOfTransientAndRestriking) {
+    for (const bool forward : {true, false}) {
+        const double charge = forward ? 74 : 6;
+        const std::string fault = std::string("L1 solid ") + (forward ? "forward" : "backward");
+        for (const double factor : {0.99, 1.01}) {
+            Bench bench;
+            bench.set(Setting<float>{"qu2_Ice"}, static_cast<float>(charge * factor));
+            bench.set(Setting<float>{"qui_Ice"}, static_cast<float>(charge * factor));
+            bench.run(std::string(kResonant) + "at 1 s restriking earth fault " + fault +
+                      " every 0.3 s for 0.06 s\nat 3 s fault cleared\nat 5 s end\n");
+            EXPECT_EQ(bench.begins(forward ? 28 : 29) > 0, factor < 1);
+            EXPECT_EQ(bench.begins(forward ? 32 : 33) > 0, factor < 1);
+        }
+    }
+    Bench once; // one ignition is not enough
+    once.run(faultAt2(kResonant, "forward"));
+    EXPECT_EQ(once.begins(32), -1);
+}
+
+TEST(DeskDetection, KeepsDurationsOfRelaysAndLeds) {
+    Bench bench;
+    bench.set(Setting<float>{"qu2_SigDur"}, 7.0F);
+    bench.run(faultAt2(kResonant, "forward"));
+    EXPECT_NEAR(bench.lasts(28), 7, 0.05) << "longer than the fault";
+    bench.set(Setting<float>{"qu2_SigDur"}, 1.0F);
+    bench.run(faultAt2(kResonant, "forward"));
+    EXPECT_NEAR(bench.lasts(28), 4.25, 0.15) << "at least as long as the fault";
+
+    // An LED has a duration of its own.
+    bench.set(Setting<float>{"qu2_SigDur"}, 0.0F);
+    bench.set(Setting<float>{"qu2_SigDur_LED"}, 8.0F);
+    bench.set(Setting<talux::choice::BAassign>{"LEDassign10"}, static_cast<talux::choice::BAassign>(28));
+    double led = 0, relay = 0;
+    for (const Cycle& cycle : bench.run(faultAt2(kResonant, "forward"))) {
+        led += cycle.outputs.leds[9] ? kCycle : 0;
+        relay += Bench::signals(cycle, 28) ? kCycle : 0;
+    }
+    EXPECT_NEAR(led, 8, 0.05);
+    EXPECT_LT(relay, 5);
+}
+
+TEST(DeskDetection, SeesTheFaultyPhaseAndItsDelay) {
+    Bench bench;
+    bench.run(faultAt2(kIsolated, "forward"));
+    EXPECT_NEAR(bench.begins(16), 2, 0.05);
+    EXPECT_NEAR(bench.begins(17), 3, 0.05);
+    EXPECT_NEAR(bench.begins(18), 2, 0.08);
+    EXPECT_NEAR(bench.begins(21), 3, 0.08);
+    for (const std::size_t other : {19U, 20U, 22U, 23U})
+        EXPECT_EQ(bench.begins(other), -1) << other;
+    bench.run(std::string(kIsolated) + "at 2 s earth fault L2 3000 ohm forward\nat 5 s end\n");
+    EXPECT_EQ(bench.begins(16), -1) << "too small a U0";
+}
+
+TEST(DeskDetection, FollowsThePriorityList) {
+    Bench bench;
+    bench.set(Setting<bool>{"cos_active"}, true);
+    bench.run(faultAt2(kResonant, "forward"));
+    EXPECT_EQ(bench.begins(26), -1) << "the factory list is off in all places";
+    EXPECT_NEAR(bench.begins(24), 2, 0.05) << "the sum needs no list";
+    bench.set(Setting<talux::Choice>{"prio_list_3"}, static_cast<talux::Choice>(8)); // cos
+    bench.run(faultAt2(kResonant, "forward"));
+    EXPECT_NEAR(bench.begins(26), 2.1, 0.05);
+    EXPECT_EQ(bench.begins(27), -1);
+}
+
+TEST(DeskDetection, SeesShortCircuitsByClassPhaseAndDirection) {
+    const std::string scenario =
+        "network isolated 20 kV capacitive 30 A own 3 A\nload 100 A drift 0 %\n"
+        "at 1 s short circuit L2 L3 550 A forward\nat 3 s fault cleared\nat 4 s end\n";
+    Bench bench;
+    bench.run(scenario);
+    EXPECT_EQ(bench.begins(57), -1) << "switched off";
+    bench.set(Setting<bool>{"sc_active"}, true);
+    bench.set(Setting<bool>{"sc_dir_active"}, true);
+    bench.run(scenario);
+    EXPECT_NEAR(bench.begins(57), 1.5, 0.05);
+    EXPECT_EQ(bench.begins(58), -1) << "L1 is healthy";
+    EXPECT_NEAR(bench.begins(59), 1.5, 0.05);
+    EXPECT_NEAR(bench.begins(60), 1.5, 0.05);
+    EXPECT_NEAR(bench.begins(65), 1.5, 0.05) << "forward";
+    EXPECT_EQ(bench.begins(73), -1) << "not backward";
+    EXPECT_EQ(bench.begins(61), -1) << "class 2 is at 700 A";
+}
+
+TEST(DeskDetection, SeesTheDeviationOfTheFrequency) {
+    Bench bench;
+    bench.set(Setting<bool>{"freq_active"}, true);
+    bench.run("network isolated 20 kV\nat 2 s frequency 49.8 Hz\nat 10 s end\n");
+    EXPECT_NEAR(bench.begins(82), 5.06, 0.05);
+    EXPECT_EQ(bench.begins(83), -1);
+}
+
+TEST(DeskOutputs, FollowAssignmentPolarityAndOverrides) {
+    using talux::choice::BAassign, talux::choice::BApol;
+    Bench bench;
+    bench.set(Setting<BAassign>{"BAassign5"}, static_cast<BAassign>(28));
+    bench.set(Setting<BAassign>{"BAassign6"}, static_cast<BAassign>(28));
+    bench.set(Setting<BApol>{"BApol6"}, static_cast<BApol>(2));
+    for (const Cycle& cycle : bench.run(faultAt2(kResonant, "forward"))) {
+        const int signal = Bench::signals(cycle, 28) ? 1 : 0;
+        ASSERT_EQ(cycle.outputs.states[4], signal) << cycle.second;
+        ASSERT_EQ(cycle.outputs.states[5], 1 - signal) << cycle.second;
+        ASSERT_EQ(cycle.outputs.states[0], 1) << "relay 1 has Status";
+        ASSERT_EQ(cycle.outputs.words[Word::relayStates] >> 4 & 1, signal);
+    }
+    Overrides overrides;
+    overrides.functions = overrides.values = overrides.inputs = true;
+    overrides.functionValues[27] = 1; // function 28
+    overrides.measuredValues[0] = 7;
+    overrides.inputValues[2] = 1;
+    const auto& cycles = bench.run(std::string(kResonant) + "at 1 s input BE1 on\nat 2 s end\n", overrides);
+    EXPECT_EQ(cycles.back().outputs.states[4], 1);
+    EXPECT_EQ(cycles.back().values[0], 7);
+    EXPECT_EQ(cycles.back().outputs.states[kRelays + 2], 1);
+    EXPECT_EQ(cycles.back().outputs.states[kRelays + 0], 0) << "the override replaces the input";
+    EXPECT_EQ(bench.run(std::string(kResonant) + "at 1 s input BE1 on\nat 2 s end\n")
+                  .back()
+                  .outputs.states[kRelays],
+              1);
+}
+
+// What a technician looks for: a reversed transformer shows in the power of its phase, and Ipol2 puts it
+// right.
+TEST(DeskMeter, ShowsWrongWiringAndItsCorrection) {
+    const std::string wrong =
+        "network isolated 20 kV\nload 100 A drift 0 %\nat 0 s transformer I2 reversed\nat 1 s end\n";
+    Bench bench;
+    const Cycle before = bench.run("network isolated 20 kV\nload 100 A drift 0 %\nat 1 s end\n").back();
+    const Cycle reversed = bench.run(wrong).back();
+    EXPECT_NEAR(reversed.record.P2, -before.record.P2, 1e-2);
+    EXPECT_NEAR(reversed.record.P1, before.record.P1, 1e-2);
+    EXPECT_GT(reversed.record.I0p, 190);
+    bench.set(Setting<talux::choice::Upol>{"Ipol2"}, static_cast<talux::choice::Upol>(2));
+    EXPECT_NEAR(bench.run(wrong).back().record.P2, before.record.P2, 1e-2);
+    bench.set(Setting<float>{"knu1"}, 400.0F);
+    EXPECT_NEAR(bench.run(wrong).back().record.U1p, 2 * before.record.U1p, 1e-3);
+}
+
+TEST(DeskMeter, HasPowersAndVoltagesBetweenPhasesOfItsPhasors) {
+    Bench bench;
+    for (const Cycle& cycle :
+         bench.run("network isolated 20 kV capacitive 80 A own 6 A\nload 150 A angle 25 deg noise 1 %\n"
+                   "at 1 s earth fault L2 400 ohm forward\nat 3 s end\n")) {
+        const auto& u = cycle.phasors.primaryVoltage;
+        const auto& i = cycle.phasors.primaryCurrent;
+        const Phasor s2 = u[2] * std::conj(i[2]);
+        ASSERT_NEAR(cycle.record.P2 / s2.real(), 1, 1e-6);
+        ASSERT_NEAR(cycle.record.Q2 / s2.imag(), 1, 1e-6);
+        ASSERT_NEAR(cycle.record.U23p_a / std::abs(u[2] - u[3]), 1, 1e-6);
+        ASSERT_NEAR(cycle.record.Pg, cycle.record.P1 + cycle.record.P2 + cycle.record.P3,
+                    1e-3 * std::fabs(cycle.record.Pg));
+    }
+}
+
+} // namespace

@@ -1,0 +1,95 @@
+// A detection of earth faults and short circuits that follows the live settings: for learning and for trying
+// scripts, no protection. docs/desk.md says what it chooses where the meaning of a setting is not known.
+//
+// Each method decides in every cycle from the phasors, a decision becomes a signal after its delay, and a
+// signal lasts as long as the decision, at least for its duration: one for relays, one for LEDs.
+#ifndef TALUX_DESK_DETECTION_H
+#define TALUX_DESK_DETECTION_H
+
+#include <bitset>
+#include <deque>
+
+#include "tools/desk/Meter.h"
+
+namespace desk {
+
+enum class Direction : unsigned char { none, forward, backward };
+
+// Output functions by their numbers, those of BAassign.. and LEDassign..
+inline constexpr std::size_t kFunctions = 128;
+using Functions = std::bitset<kFunctions + 1>;
+
+// What the methods decide from.
+struct View {
+    const Phasors& phasors;
+    const Harmonics& harmonics;
+    const talux::Settings& settings;
+    double nominal;       // phase voltage, kV
+    bool isEarthFault;    // U0 above Uearth
+    Direction transient;  // of the first charge of this earth fault
+    Direction restriking; // of the ignitions, when there are enough of them
+};
+
+// A decision that has to persist, and a signal that lasts.
+class Signal {
+public:
+    // One cycle; the signal after it.
+    bool step(bool decided, double cycle, double delay, double duration);
+
+    // Ends it unless it is still decided.
+    void release() { lastsFor = 0; }
+
+private:
+    double decidedFor = 0, lastsFor = 0;
+};
+
+inline constexpr std::size_t kMethods = 9;
+
+class Detection {
+public:
+    void step(const Phasors& phasors, const Harmonics& harmonics, const std::vector<Onset>& onsets,
+              const talux::Settings& settings, double cycle);
+
+    // Ends all signals that last only for their duration.
+    void acknowledge();
+
+    [[nodiscard]] const Functions& relays() const { return forRelays; }
+    [[nodiscard]] const Functions& leds() const { return forLeds; }
+    [[nodiscard]] bool isEarthFault() const { return earthFault; }
+    [[nodiscard]] bool isShortCircuit() const;
+    [[nodiscard]] int transients() const { return transientCount; } // since the start
+
+private:
+    struct MethodState {
+        Direction decided = Direction::none;
+        Direction kept = Direction::none; // what it has signalled in this earth fault
+        Signal relay, led;
+        Direction relayDirection = Direction::none, ledDirection = Direction::none;
+    };
+
+    Functions forRelays, forLeds;
+    double time = 0;
+    bool earthFault = false;
+    Direction transient = Direction::none;
+    double transientSince = 0;
+    std::deque<std::pair<double, Direction>> ignitions; // when, and where
+    int transientCount = 0;
+    std::array<MethodState, kMethods> methods;
+    std::array<Signal, 2> voltageDelayed; // for relays, for LEDs
+    std::array<std::array<Signal, kPhases>, 2> phaseDelayed;
+    std::array<std::array<Signal, 4>, 3> overcurrent; // classes 1, 2, E; any phase, L1 to L3
+    std::array<Signal, 3> frequency;
+
+    void set(std::size_t function, bool relay, bool led);
+    void observe(const std::vector<Onset>& onsets, const View& view);
+    Direction restriking(const talux::Settings& settings);
+    void voltages(const View& view, double cycle);
+    void directions(const View& view, double cycle);
+    void combine(const talux::Settings& settings);
+    void shortCircuits(const View& view, double cycle);
+    void frequencies(const View& view, double cycle);
+};
+
+} // namespace desk
+
+#endif

@@ -1,0 +1,169 @@
+#include "tools/desk/Network.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+namespace desk {
+
+namespace {
+
+constexpr Phasor kJ{0, 1};
+
+Phasor turn(double degrees) {
+    return std::polar(1.0, degrees * std::numbers::pi / 180.0);
+}
+
+} // namespace
+
+Network::Network(const Grid& grid, const Load& connected) : constants(grid), feederLoad(connected) {}
+
+double Network::phaseVoltage() const {
+    return constants.kilovolt / std::numbers::sqrt3;
+}
+
+Phasor Network::source(int phase) const {
+    return phaseVoltage() * turn(-120.0 * phase);
+}
+
+// In ampere per kilovolt, so that a product with an ohm takes a thousandth.
+Phasor Network::earthAdmittance() const {
+    const double perKilovolt = constants.capacitive / phaseVoltage();
+    switch (constants.neutral) {
+    case Neutral::isolated:
+        return perKilovolt * Phasor(constants.damping, 1);
+    case Neutral::resonant:
+        return perKilovolt * Phasor(constants.damping, constants.detuning);
+    case Neutral::lowResistance:
+        return perKilovolt * Phasor(constants.damping, 1) + constants.neutralAmpere / phaseVoltage();
+    }
+    return 0;
+}
+
+double Network::faultOhm(const EarthFault& fault) const {
+    constexpr double kLineAndEarth = 2;
+    return earthFaults.size() > 1 ? fault.ohm + kLineAndEarth : fault.ohm;
+}
+
+Phasor Network::settledResidual() const {
+    constexpr double kOhmPerKilovoltAmpere = 1000;
+    if (earthFaults.empty()) return 0;
+    if (earthFaults.size() == 1) {
+        const double ohm = earthFaults[0].ohm / kOhmPerKilovoltAmpere;
+        return -source(earthFaults[0].phase) / (1.0 + ohm * earthAdmittance());
+    }
+    Phasor drive = 0, admittance = earthAdmittance();
+    for (const EarthFault& fault : earthFaults) {
+        const double conductance = kOhmPerKilovoltAmpere / faultOhm(fault);
+        drive += conductance * source(fault.phase);
+        admittance += conductance;
+    }
+    return -drive / admittance;
+}
+
+double Network::timeConstant() const {
+    const double omega = 2 * std::numbers::pi * constants.frequency;
+    if (earthFaults.empty()) return 2 / (omega * std::max(constants.damping, 0.01));
+    const double ohm = faultOhm(earthFaults[0]) / 1000;
+    return std::max(0.005, ohm * constants.capacitive / phaseVoltage() / omega);
+}
+
+void Network::strike(const EarthFault& fault) {
+    earthFaults.push_back(fault);
+    const double share = std::min(1.0, std::abs(settledResidual()) / phaseVoltage());
+    const double capacitive = fault.forward ? constants.capacitive - constants.own : constants.own;
+    onsets.push_back({fault.forward, capacitive * share});
+}
+
+void Network::strike(const ShortCircuit& fault) {
+    shortCircuits.push_back(fault);
+}
+
+void Network::clear() {
+    earthFaults.clear();
+    shortCircuits.clear();
+}
+
+void Network::advance(double seconds) {
+    time += seconds;
+    const Phasor settled = settledResidual();
+    residual = settled + (residual - settled) * std::exp(-seconds / timeConstant());
+}
+
+std::vector<Onset> Network::takeOnsets() {
+    return std::exchange(onsets, {});
+}
+
+// Between -1 and 1, the same in every run and on every machine.
+double Network::random() {
+    randomState = static_cast<std::uint32_t>(std::uint64_t{randomState} * 48271 % 2147483647);
+    return randomState / 1073741823.5 - 1;
+}
+
+std::array<Phasor, kPhases> Network::voltages() const {
+    std::array<Phasor, kPhases> voltage{};
+    for (int k = 0; k < kPhases; ++k)
+        voltage[static_cast<std::size_t>(k)] =
+            source(k) * (1 + 0.04 * feederLoad.drift * std::sin(time / 7 + k)) + residual;
+    for (const ShortCircuit& fault : shortCircuits) {
+        Phasor &from = voltage[static_cast<std::size_t>(fault.from)],
+               &to = voltage[static_cast<std::size_t>(fault.to)];
+        const Phasor drop = 0.2 * (from - to); // on either side
+        from -= drop;
+        to += drop;
+    }
+    return voltage;
+}
+
+std::array<Phasor, kPhases> Network::currents(const std::array<Phasor, kPhases>& voltage) {
+    const double drift = feederLoad.drift, lag = feederLoad.degrees * (1 + drift * std::sin(time / 13));
+    const Phasor own = kJ * constants.own / phaseVoltage() / 3.0;
+    std::array<Phasor, kPhases> current{};
+    for (int k = 0; k < kPhases; ++k) {
+        const double unbalance = 0.02 * drift * std::sin(time / 5 + 2 * k);
+        const double ampere = feederLoad.ampere * (1 + drift * std::sin(time / 11) + unbalance) *
+                              (1 + feederLoad.noise * random());
+        const auto phase = static_cast<std::size_t>(k);
+        current[phase] = ampere * turn(-120.0 * k - lag) + own * voltage[phase];
+    }
+    for (const ShortCircuit& fault : shortCircuits) {
+        if (!fault.forward) continue;
+        const Phasor drive = source(fault.from) - source(fault.to);
+        const Phasor ampere = fault.ampere * drive / std::abs(drive) * turn(-60);
+        current[static_cast<std::size_t>(fault.from)] += ampere;
+        current[static_cast<std::size_t>(fault.to)] -= ampere;
+    }
+    for (const EarthFault& fault : earthFaults) {
+        if (!fault.forward) continue;
+        // A solid fault has no voltage left: its current is what the earth admittance takes.
+        const Phasor ampere = earthFaults.size() == 1
+                                  ? -earthAdmittance() * residual
+                                  : (source(fault.phase) + residual) * 1000.0 / faultOhm(fault);
+        current[static_cast<std::size_t>(fault.phase)] += ampere;
+    }
+    return current;
+}
+
+Sample Network::look() {
+    const auto voltage = voltages();
+    const auto current = currents(voltage);
+    Sample sample;
+    for (std::size_t k = 0; k < kPhases; ++k) {
+        const auto from = static_cast<std::size_t>(connections.currentFrom[k]);
+        const Phasor ampere = connections.conductorOpen[from] ? Phasor{} : current[from];
+        sample.current[k + 1] = connections.currentReversed[k] ? -ampere : ampere;
+        const Phasor kilovolt = connections.fuseMissing[k] ? Phasor{} : voltage[k];
+        sample.voltage[k + 1] = connections.voltageReversed[k] ? -kilovolt : kilovolt;
+    }
+    if (connections.rotationReversed) {
+        std::swap(sample.voltage[2], sample.voltage[3]);
+        std::swap(sample.current[2], sample.current[3]);
+    }
+    sample.voltage[0] = (sample.voltage[1] + sample.voltage[2] + sample.voltage[3]) / 3.0;
+    sample.current[0] = sample.current[1] + sample.current[2] + sample.current[3];
+    sample.frequency = constants.frequency + 0.005 * std::sin(time / 9);
+    return sample;
+}
+
+} // namespace desk

@@ -1,0 +1,141 @@
+// A medium-voltage network in phasors, its faults, and the transformers through which a feeder's relay sees
+// it.
+//
+// Kilovolt and ampere, effective values; angles against the healthy voltage of L1. Currents count from the
+// busbar into the feeder, the residual voltage is (U1 + U2 + U3) / 3 and the residual current I1 + I2 + I3.
+//
+// Steady state, the zero-sequence circuit of symmetrical components (for instance Willheim and Waters,
+// Neutral Grounding in High-Voltage Transmission, chapters 2 and 4). E is the phase voltage, p the faulty
+// phase:
+//
+//   Y0 = (Ice / E) (d + j v)          of the whole network to earth, all three phases together.
+//        isolated:         v = 1      Ice is its capacitive current of a solid earth fault,
+//        resonant-earthed: v = detuning = (Ice - Il) / Ice with the coil's current Il, d = damping
+//        low-resistance:   v = 1      and the neutral's In / E in addition
+//   U0 = -Ep / (1 + Rf Y0)            with the fault resistance Rf
+//   If = -Y0 U0                       in the fault
+//   I0 = j (Iown / E) U0 + If         in the feeder; If only with the fault in this feeder (forward)
+//
+// So a backward fault gives the feeder's own capacitive current, a forward one what the rest of the network
+// sends back: -(Y0 - Yown) U0. Several faults at once (cross-country) share one U0; each then has 2 ohm more,
+// for its line and its earth.
+//
+// After a change U0 goes exponentially to its new steady state: at the onset with the time constant of the
+// fault resistance and the earth capacitance, 5 ms at least, after clearing with 2 / (omega d).
+#ifndef TALUX_DESK_NETWORK_H
+#define TALUX_DESK_NETWORK_H
+
+#include <array>
+#include <complex>
+#include <cstdint>
+#include <vector>
+
+namespace desk {
+
+using Phasor = std::complex<double>;
+
+// Phases are counted from 0.
+inline constexpr int kPhases = 3;
+
+enum class Neutral : unsigned char { isolated, resonant, lowResistance };
+
+struct Grid {
+    Neutral neutral = Neutral::isolated;
+    double kilovolt = 20;     // phase to phase
+    double capacitive = 80;   // Ice, A
+    double own = 6;           // Iown, A
+    double detuning = 0;      // v, a fraction; more than 0: the coil is too small
+    double damping = 0;       // d, a fraction of Ice
+    double neutralAmpere = 0; // In, of the resistor at full phase voltage
+    double frequency = 50;
+};
+
+struct Load {
+    double ampere = 180;
+    double degrees = 18; // current lags
+    double drift = 0.1;  // fraction, within minutes; voltages and balance drift by a small part of it
+    double noise = 0;    // fraction, from one look to the next
+};
+
+struct EarthFault {
+    int phase = 0;
+    double ohm = 0;
+    bool forward = true; // in this feeder
+};
+
+// Between two phases; the voltage between them falls to 60 %.
+struct ShortCircuit {
+    int from = 0, to = 1;
+    double ampere = 0;
+    bool forward = true;
+};
+
+// What is wrong between the network and the relay.
+struct Wiring {
+    std::array<bool, kPhases> currentReversed{}, voltageReversed{};
+    std::array<bool, kPhases> fuseMissing{};
+    std::array<bool, kPhases> conductorOpen{};
+    std::array<int, kPhases> currentFrom{0, 1, 2}; // which phase each current transformer is in
+    bool rotationReversed = false;                 // L2 and L3 exchanged, voltages and currents
+};
+
+// What arrives at the relay, in primary values; the residual quantities first, as in the records.
+struct Sample {
+    std::array<Phasor, 4> voltage{}, current{};
+    double frequency = 50;
+};
+
+// The first half wave after the onset of an earth fault, for methods that look at the charging.
+struct Onset {
+    bool forward = false; // the charge flows out of the feeder
+    double ampere = 0;    // capacitive current that recharges: of the network without this feeder, or its own
+};
+
+class Network {
+public:
+    explicit Network(const Grid& grid = {}, const Load& connected = {});
+
+    void strike(const EarthFault& fault);
+    void strike(const ShortCircuit& fault);
+    void clear(); // all faults
+
+    // Time goes on; `seconds` are those since the last call.
+    void advance(double seconds);
+
+    [[nodiscard]] Sample look();
+
+    // Since the last call; nothing when there was no onset.
+    [[nodiscard]] std::vector<Onset> takeOnsets();
+
+    [[nodiscard]] const Grid& grid() const { return constants; }
+    [[nodiscard]] Load& load() { return feederLoad; }
+    [[nodiscard]] Wiring& wiring() { return connections; }
+    void setFrequency(double hertz) { constants.frequency = hertz; }
+
+    // The steady state that U0 goes to.
+    [[nodiscard]] Phasor settledResidual() const;
+
+private:
+    Grid constants;
+    Load feederLoad;
+    Wiring connections;
+    std::vector<EarthFault> earthFaults;
+    std::vector<ShortCircuit> shortCircuits;
+    std::vector<Onset> onsets;
+    Phasor residual = 0;
+    double time = 0;
+    std::uint32_t randomState = 1;
+
+    [[nodiscard]] double phaseVoltage() const;
+    [[nodiscard]] Phasor source(int phase) const;
+    [[nodiscard]] Phasor earthAdmittance() const;
+    [[nodiscard]] double faultOhm(const EarthFault& fault) const;
+    [[nodiscard]] double timeConstant() const;
+    [[nodiscard]] std::array<Phasor, kPhases> voltages() const;
+    [[nodiscard]] std::array<Phasor, kPhases> currents(const std::array<Phasor, kPhases>& voltage);
+    double random();
+};
+
+} // namespace desk
+
+#endif

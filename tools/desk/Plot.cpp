@@ -1,0 +1,116 @@
+#include "tools/desk/Plot.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdarg>
+#include <cstdio>
+
+#include "ParamSystem/TALUX_ParamStrings.h"
+
+namespace desk {
+
+namespace {
+
+constexpr double kLeft = 110, kWidth = 820, kCurveHeight = 110, kRowHeight = 18, kGap = 34;
+constexpr std::size_t kFirstSignal = 16; // the functions before it are states that are nearly always on
+
+constexpr char kStyle[] =
+    R"(<style>
+ text { font: 12px "DejaVu Sans", system-ui, sans-serif; fill: #1b1f24; }
+ .axis { stroke: #8c959f; fill: none; } .voltage { stroke: #0969da; } .current { stroke: #bc4c00; }
+ .voltage, .current { fill: none; stroke-width: 1.5; } .signal { fill: #2da44e; }
+ @media (prefers-color-scheme: dark) { text { fill: #e6edf3; } .axis { stroke: #656c76; }
+  .voltage { stroke: #58a6ff; } .current { stroke: #f0883e; } .signal { fill: #3fb950; } }
+</style>
+)";
+
+[[gnu::format(printf, 2, 3)]] void append(std::string& to, const char* format, ...) {
+    char text[512];
+    va_list values;
+    va_start(values, format);
+    std::vsnprintf(text, sizeof text, format, values);
+    va_end(values);
+    to += text;
+}
+
+std::string escaped(const std::string& text) {
+    std::string result;
+    for (const char c : text)
+        result += c == '<' ? "&lt;" : c == '>' ? "&gt;" : c == '&' ? "&amp;" : std::string(1, c);
+    return result;
+}
+
+// The English text of an output function.
+std::string nameOf(std::size_t function) {
+    for (const stParamText* row = DefParamText + 1; row->id != 0; ++row)
+        if (row->id == 18030 && row->language == kEnglish && row->type == kTextItem &&
+            row->id_item == static_cast<int>(function))
+            return row->txt;
+    return std::to_string(function);
+}
+
+} // namespace
+
+void Plot::add(const Cycle& cycle) {
+    points.push_back({cycle.second, cycle.record.U0p, cycle.record.I0p});
+    for (std::size_t number = kFirstSignal; number <= kFunctions; ++number) {
+        const auto word =
+            static_cast<std::uint32_t>(cycle.outputs.words[Word::functions1 + (number - 1) / 32]);
+        if ((word >> (number - 1) % 32 & 1U) == 0) continue;
+        auto& spans = signals[number];
+        const bool goesOn = !spans.empty() && spans.back().to > cycle.second - kCycle / 2;
+        if (!goesOn) spans.push_back({cycle.second, cycle.second});
+        spans.back().to = cycle.second + kCycle;
+    }
+}
+
+std::string Plot::svg(const std::string& title) const {
+    const double end = points.empty() ? 1 : points.back().second + kCycle;
+    const double height =
+        40 + 2 * (kCurveHeight + kGap) + kRowHeight * static_cast<double>(signals.size()) + 30;
+    const auto x = [end](double second) { return kLeft + kWidth * second / end; };
+    std::string svg;
+    append(svg, "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 960 %.0f\" role=\"img\">\n<title>",
+           height);
+    svg += escaped(title) + "</title>\n" + kStyle;
+    double top = 30;
+    const struct {
+        const char *name, *unit, *style;
+        double Point::*value;
+    } curves[] = {{"U0", "kV", "voltage", &Point::voltage}, {"I0", "A", "current", &Point::current}};
+    for (const auto& curve : curves) {
+        double max = 1e-3;
+        for (const Point& point : points)
+            max = std::max(max, point.*curve.value);
+        append(svg, "<text x=\"10\" y=\"%.0f\">%s %.3g %s</text>\n", top + 12, curve.name, max, curve.unit);
+        append(svg, "<path class=\"axis\" d=\"M%.1f,%.1f v%.1f h%.1f\"/>\n<path class=\"%s\" d=\"", kLeft,
+               top, kCurveHeight, kWidth, curve.style);
+        double last = -1, lastX = -1;
+        for (const Point& point : points) {
+            const double y = top + kCurveHeight * (1 - point.*curve.value / max);
+            const bool isNear =
+                std::fabs(y - last) < 0.5 || (std::fabs(y - last) < 4 && x(point.second) - lastX < 2);
+            if (last >= 0 && isNear && &point != &points.back()) continue;
+            if (last >= 0) append(svg, "L%.1f,%.1f", x(point.second), last);
+            lastX = x(point.second);
+            append(svg, "%s%.1f,%.1f", last < 0 ? "M" : "L", lastX, y);
+            last = y;
+        }
+        svg += "\"/>\n";
+        top += kCurveHeight + kGap;
+    }
+    for (const auto& [function, spans] : signals) {
+        append(svg, "<text x=\"10\" y=\"%.1f\">", top + 12);
+        svg += escaped(nameOf(function)) + "</text>\n";
+        for (const Span& span : spans)
+            append(svg, "<rect class=\"signal\" x=\"%.1f\" y=\"%.1f\" width=\"%.1f\" height=\"12\"/>\n",
+                   x(span.from), top + 2, std::max(x(span.to) - x(span.from), 1.0));
+        top += kRowHeight;
+    }
+    const double step = end > 30 ? 10 : end > 10 ? 2 : 1;
+    for (double second = 0; second <= end; second += step)
+        append(svg, "<text x=\"%.1f\" y=\"%.1f\">%g s</text>\n", x(second), top + 18, second);
+    return svg + "</svg>\n";
+}
+
+} // namespace desk

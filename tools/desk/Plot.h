@@ -1,0 +1,33 @@
+// A scenario as a picture: U0, I0 and the output functions that signal, over time.
+#ifndef TALUX_DESK_PLOT_H
+#define TALUX_DESK_PLOT_H
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tools/desk/Desk.h"
+
+namespace desk {
+
+class Plot {
+public:
+    void add(const Cycle& cycle);
+
+    // An SVG that can be read in light and dark, with text that can be searched.
+    [[nodiscard]] std::string svg(const std::string& title) const;
+
+private:
+    struct Point {
+        double second, voltage, current;
+    };
+    struct Span {
+        double from, to;
+    };
+    std::vector<Point> points;
+    std::map<std::size_t, std::vector<Span>> signals; // by output function
+};
+
+} // namespace desk
+
+#endif
