@@ -53,7 +53,9 @@ execute_process(COMMAND ${GZIP_PROGRAM} -9nc ${PROJECT_SOURCE_DIR}/packaging/cha
 foreach(package IN LISTS talux_packages)
   string(TOUPPER ${package} upper)
   set(name ${CPACK_DEBIAN_DEB_${upper}_PACKAGE_NAME})
-  install(FILES ${PROJECT_BINARY_DIR}/changelog.gz packaging/copyright
+  install(FILES ${PROJECT_BINARY_DIR}/changelog.gz DESTINATION share/doc/${name}
+    COMPONENT deb_${package} EXCLUDE_FROM_ALL)
+  install(FILES LICENSE RENAME copyright
     DESTINATION share/doc/${name} COMPONENT deb_${package} EXCLUDE_FROM_ALL)
 endforeach()
 install(FILES packaging/lintian-overrides DESTINATION share/lintian/overrides RENAME talux-lua

@@ -158,7 +158,7 @@ install() {
     # In a session of its own: what apt-get has begun it finishes, whoever is interrupted.
     leaving="apt-get finishes what it has begun; its output is in $log"
     doing='installing packages:'
-    if patient_apt "$log" setsid --wait "${get[@]}" --no-download "$@"; then
+    if patient_apt "$log" setsid --fork --wait "${get[@]}" --no-download "$@"; then
       leaving='' && rm -f "$log"
       return 0
     fi
@@ -183,10 +183,11 @@ need() {
 claim() {
   local owner held waited=0
   case :${TALUX_CLAIMED-}: in *:"$1":*) return ;; esac
-  mkdir -p "$1" 2>/dev/null || fail "$1 cannot be made: TALUX_BUILD_DIR=DIR puts builds elsewhere"
+  mkdir -p "$1" 2>/dev/null || fail "$1 cannot be made: let TALUX_BUILD_DIR=DIR put builds elsewhere"
   owner=$(find "$1" -maxdepth 1 ! -user "$(id -u)" -printf '%u\n' -quit 2>/dev/null) || true
   [ "$(id -u)" = 0 ] || [ -z "$owner" ] ||
     fail "$1 belongs to $owner: remove it, or let TALUX_BUILD_DIR=DIR put builds elsewhere"
+  [ -w "$1" ] || fail "$1 cannot be written: let TALUX_BUILD_DIR=DIR put builds elsewhere"
   exec {held}<"$1"
   until flock -w 0.2 "$held"; do
     [ $((waited % 15)) != 0 ] || echo "waiting for another run that works in $1, $waited s" >&"$terminal"

@@ -125,13 +125,13 @@ remove_what_was_made() {
   for key in "${keys[@]}"; do ipcrm -M "$key" 2>/dev/null || true; done
   ipcrm -S "${keys[3]}" 2>/dev/null || true # its semaphores
   mapfile -t files < <(parameter_files '')
-  [ "${#files[@]}" = 0 ] || mv -f "${files[@]}" "$(cat "$kept/root")" 2>/dev/null || rm -f "${files[@]}"
+  [ "${#files[@]}" = 0 ] || mv -f "${files[@]}" -t "$(cat "$kept/root")" 2>/dev/null || rm -f "${files[@]}"
   for path in "${settings[@]}"; do
     if [ ! -e "$kept$path" ] && [ ! -L "$kept$path" ]; then rm -f "$path"
     elif ! cmp -s "$kept$path" "$path"; then cp -aT --remove-destination "$kept$path" "$path" || true
     fi
   done
-  rm -rf "$(cat "$kept/temporary")" "$kept"
+  rm -rf "$kept"
 }
 
 # A run that was killed did not remove what it made.
@@ -140,6 +140,7 @@ end_killed_run() {
   ! segments | grep -qv ' 0$' || sleep 1 # its processes end with it
   ! segments | grep -qv ' 0$' || fail "a run was killed, and its programs still work on the device's memory:" \
     "end them first (lsof | grep SYSV)"
+  [ ! -s "$kept/temporary" ] || rm -rf "$(cat "$kept/temporary")"
   [ ! -f "$kept/complete" ] || remove_what_was_made
   rm -rf "$kept"
 }

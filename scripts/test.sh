@@ -33,6 +33,7 @@ user          all     1        build run tests
 container     all     1        build run tests
 debug         asked   2        build run tests
 costs         asked   6        build time
+newcomer      asked   15       debootstrap git history
 '
 stages_run() { awk -v run="$1" 'NR > 2 && NF && $2 ~ run { print $1 }' <<<"$table"; }
 minutes_of() { awk -v stage="$1" '$1 == stage { print $3 }' <<<"$table"; }
@@ -101,7 +102,12 @@ threads() {
 
 # The scripts as their user meets them.
 commands() {
-  (build release talux device) && tests/scripts/commands.sh
+  (build release talux talux-desk) && tests/scripts/commands.sh
+}
+
+newcomer() {
+  [ "$(id -u)" = 0 ] || skip 'root makes the fresh machine'
+  tests/scripts/newcomer.sh
 }
 
 # The page that searches the parameters and the settings record, in a browser without a window.

@@ -10,7 +10,7 @@ namespace {
 
 using namespace talux_test;
 
-constexpr char kPrompt[] = "talux> ";
+constexpr char kPrompt[] = "kepl> ";
 
 class TaluxShell : public InStartedDevice {
 protected:
@@ -104,11 +104,11 @@ TEST_F(TaluxShell, SaysWhyALineIsRefused) {
     EXPECT_TRUE(answers("TLX_Uerth", "the nearest name is Uearth"));
     EXPECT_TRUE(answers("Uearth", "TLX_Uearth"));
     EXPECT_TRUE(answers("TLX_vBE=1", "elements are 1 to 96"));
-    EXPECT_TRUE(answers("system ls", "takes rights level 3"));
+    EXPECT_TRUE(answers("system ls", "talux shell --level 3"));
     EXPECT_TRUE(answers("TLX_FW_BLOCK=5", "takes rights level 3"));
     EXPECT_TRUE(answers("TLX_Name=\"a,b\"", "is no number"));
     EXPECT_TRUE(answers("help Uearth", "threshold"));
-    EXPECT_TRUE(answers("help", "Tab completes"));
+    EXPECT_TRUE(answers("?", "Tab completes"));
     EXPECT_EQ(end(), 0);
     start("--level=3");
     EXPECT_TRUE(answers("system echo hi", "> hi"));

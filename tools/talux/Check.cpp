@@ -64,10 +64,16 @@ void printText(const std::string& path, const Told& told, const Context& context
         print(fill(
             context.say("{}: {} more lines are not told\n", "{}: {} weitere Zeilen sind nicht genannt\n"),
             {path, std::to_string(told.untold)}));
+    const auto counted = [&](auto count, const char* one, const char* several) {
+        return std::to_string(count) + (count == 1 ? one : several);
+    };
     print(fill(
-        context.say("{}: {} settings, {} changes, {} findings\n",
-                    "{}: {} Einstellungen, {} Änderungen, {} Befunde\n"),
-        {path, std::to_string(told.settings), std::to_string(told.changes), std::to_string(told.findings)}));
+        "{}: {}, {}, {}\n",
+        {path,
+         counted(told.settings, context.say(" setting", " Einstellung"),
+                 context.say(" settings", " Einstellungen")),
+         counted(told.changes, context.say(" change", " Änderung"), context.say(" changes", " Änderungen")),
+         counted(told.findings, context.say(" finding", " Befund"), context.say(" findings", " Befunde"))}));
 }
 
 Json described(const Judgement& judgement) {

@@ -35,7 +35,7 @@ private:
     const char* prompt;
 };
 
-constexpr char kPrompt[] = "talux> ";
+constexpr char kPrompt[] = "kepl> ";
 
 #ifdef TALUX_HAVE_LIBEDIT
 

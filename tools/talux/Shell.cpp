@@ -84,8 +84,14 @@ public:
         const bool isPerson = isatty(STDIN_FILENO) == 1;
         const auto reader = isPerson ? terminalReader(historyFile(), context) : pipeReader();
         bool refused = false;
-        while (const auto line = reader->next()) {
-            if (*line == kQuitWord) break;
+        if (isPerson)
+            print(context.say("The command language of the device: help shows it, help NAME a parameter.\n"
+                              "quit ends.\n",
+                              "Die Befehlssprache des Geräts: help zeigt sie, help NAME einen Parameter.\n"
+                              "quit beendet.\n"));
+        while (auto line = reader->next()) {
+            if (isPerson && *line == "?") line = kHelpWord;
+            if (*line == kQuitWord || (isPerson && *line == "exit")) break;
             refused |= !take(*line);
             std::fflush(stdout);
         }
@@ -139,6 +145,10 @@ private:
         std::fprintf(stderr, "%s\n", text);
         for (const LineFinding& finding : checkLine(line, {.uid = level}, context))
             if (finding.isRefusal) std::fprintf(stderr, "  %s\n", finding.text.c_str());
+        if (std::string_view(text) == kepl::textOf(kepl::Refusal::rightsTooLow))
+            std::fputs(context.say("  talux shell --level 3 has all rights\n",
+                                   "  talux shell --level 3 hat alle Rechte\n"),
+                       stderr);
         return false;
     }
 

@@ -111,9 +111,9 @@ void attachDevice(Attachment attachment, const Context& context) {
     if (missing == nullptr) return;
     const int error = errno;
     throw CouldNot(fill(context.say("no device here: the {} cannot be attached: {}; on a device `talux boot` "
-                                    "makes it, on a desk scripts/run.sh",
+                                    "makes it, on a desk scripts/run.sh -- talux ..",
                                     "hier ist kein Gerät: {} nicht erreichbar: {}; auf einem Gerät legt ihn "
-                                    "`talux boot` an, am Schreibtisch scripts/run.sh"),
+                                    "`talux boot` an, am Schreibtisch scripts/run.sh -- talux .."),
                         {missing, reason(error)}));
 }
 

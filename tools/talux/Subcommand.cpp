@@ -69,6 +69,7 @@ bool Subcommand::isChosen() const {
 
 CommandLine::CommandLine(const char* program, const char* about)
     : app(std::make_unique<CLI::App>(about, program)) {
+    app->set_version_flag("--version", std::string(program) + " " TALUX_VERSION);
     app->get_formatter()->column_width(22);
     app->require_subcommand(1);
     app->fallthrough();
