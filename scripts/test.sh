@@ -122,7 +122,7 @@ browser() {
   for page in tests/pages/browser.html "$release/report.html"; do
     result=$(timeout 600 chromium --headless --no-sandbox --disable-gpu --no-first-run --disable-background-networking \
       --disable-component-update --disable-sync --user-data-dir="$scratch/chromium" --allow-file-access-from-files \
-      --virtual-time-budget=10000 --dump-dom "file://$(realpath "$page")" 2>/dev/null |
+      --virtual-time-budget=10000 --dump-dom "file://$(realpath "$page")?table=$release/generated/docs/parameters/parameters.csv" 2>/dev/null |
       sed -n 's,.*<title>\(.*\)</title>.*,\1,p')
     rm -rf "$scratch/chromium"
     note "${page##*/}: ${result:-the browser did not start}"
