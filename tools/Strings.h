@@ -2,6 +2,7 @@
 #ifndef TALUX_TOOLS_STRINGS_H
 #define TALUX_TOOLS_STRINGS_H
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -15,17 +16,29 @@ inline std::string joined(std::initializer_list<std::string_view> pieces) {
     return text;
 }
 
-// `between` stands between the items.
-template <class Items>
-std::string list(const Items& items, std::string_view between = ", ") {
+// What `print` makes of the items, with `between` between them.
+template <class Items, class Print = std::identity>
+std::string list(const Items& items, std::string_view between = ", ", Print print = {}) {
     std::string text;
     bool isFirst = true;
     for (const auto& item : items) {
         if (!isFirst) text += between;
-        text += item;
+        text += print(item);
         isFirst = false;
     }
     return text;
+}
+
+// Puts the pieces into the gaps "{}" of the pattern, one after the other.
+inline std::string fill(std::string_view pattern, std::initializer_list<std::string_view> pieces) {
+    std::string text;
+    const auto* piece = pieces.begin();
+    for (std::size_t gap = pattern.find("{}"); gap != pattern.npos && piece != pieces.end();
+         gap = pattern.find("{}")) {
+        text.append(pattern.substr(0, gap)).append(*piece++);
+        pattern.remove_prefix(gap + 2);
+    }
+    return text.append(pattern);
 }
 
 // The characters of `special` with a backslash in front.

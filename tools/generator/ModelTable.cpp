@@ -26,9 +26,7 @@ public:
         return joined({"{", name, "+", std::to_string(met->second), ",", std::to_string(run.size()), "}"});
     }
 
-    std::string definition() const {
-        return joined({"constexpr ", type, " ", name, "[] = {\n", items, "};\n"});
-    }
+    std::string definition() const { return fill("constexpr {} {}[] = {\n{}};\n", {type, name, items}); }
 
 private:
     std::string_view name, type;
@@ -42,20 +40,26 @@ public:
     explicit Table(const Model& all) : model(all) {}
 
     std::string print() {
-        std::string rows;
-        for (const Row& row : model.rows)
-            rows += line(row);
+        const std::string rows = list(model.rows, "", [this](const Row& row) { return line(row); });
         const std::string lists =
             noteArray() + array("methods", model.methods) + array("familyNames", model.familyNames);
-        return joined(
-            {kHead,
-             "#include \"ParamSystem/dictionary/Tables.h\"\n#include \"tools/reference/Reference.h\"\n"
-             "namespace talux::reference {\nnamespace {\nusing namespace model;\n",
-             pool.definition(), items.definition(), noteRuns.definition(), lists,
-             "extern const Row rows[];\nconst Row rows[] = {\n", rows,
-             "};\n}\nconst Model& model() {\nstatic const Model all{rows, kFamilies, familyNames, notes, "
-             "methods};\n"
-             "return all;\n}\n}\n"});
+        return std::string(kHead) +
+               fill(R"(#include "ParamSystem/dictionary/Tables.h"
+#include "tools/reference/Reference.h"
+namespace talux::reference {
+namespace {
+using namespace model;
+{}{}{}{}extern const Row rows[];
+const Row rows[] = {
+{}};
+}
+const Model& model() {
+static const Model all{rows, kFamilies, familyNames, notes, methods};
+return all;
+}
+}
+)",
+                    {pool.definition(), items.definition(), noteRuns.definition(), lists, rows});
     }
 
 private:
@@ -68,17 +72,15 @@ private:
     }
 
     std::string array(std::string_view name, std::span<const Both> texts) {
-        std::string rows;
-        for (const Both& text : texts)
-            rows += both(text) + ",\n";
-        return joined({"constexpr Both ", name, "[] = {\n", rows, "};\n"});
+        const std::string rows = list(texts, "", [this](const Both& text) { return both(text) + ",\n"; });
+        return fill("constexpr Both {}[] = {\n{}};\n", {name, rows});
     }
 
     std::string noteArray() {
-        std::string rows;
-        for (const model::Note& note : model.notes)
-            rows += row(both(note.text), coded("NoteKind", note.kind));
-        return joined({"constexpr Note notes[] = {\n", rows, "};\n"});
+        return fill("constexpr Note notes[] = {\n{}};\n",
+                    {list(model.notes, "", [this](const model::Note& note) {
+                        return row(both(note.text), coded("NoteKind", note.kind));
+                    })});
     }
 
     static std::string coded(std::string_view type, int value) {

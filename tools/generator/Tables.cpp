@@ -1,5 +1,6 @@
 #include "tools/generator/Tables.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -101,9 +102,8 @@ std::string symbolTable(std::string_view name, const std::vector<Symbol>& symbol
 }
 
 std::vector<std::string> namesOf(const std::vector<Symbol>& symbols) {
-    std::vector<std::string> names;
-    for (const Symbol& symbol : symbols)
-        names.push_back(symbol.name);
+    std::vector<std::string> names(symbols.size());
+    std::ranges::transform(symbols, names.begin(), &Symbol::name);
     return names;
 }
 

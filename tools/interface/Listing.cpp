@@ -52,10 +52,9 @@ void addValues(ListingRow& cells, const Parameter& parameter) {
 // What C++ programs call the choices, where the list is its own.
 std::string choicesOf(const Parameter& parameter) {
     if (!parameter.hasAllChoices() || !parameter.templateName().empty()) return {};
-    std::vector<std::string> names;
-    for (const model::Item& choice : parameter.choiceItems())
-        names.push_back(joined({choice.api, "=", std::to_string(choice.number)}));
-    return list(names, " ");
+    return list(parameter.choiceItems(), " ", [](const model::Item& choice) {
+        return joined({choice.api, "=", std::to_string(choice.number)});
+    });
 }
 
 ListingRow rowOf(const Parameter& parameter) {
@@ -87,10 +86,8 @@ ListingRow rowOf(const Parameter& record, const StructMemberProperties_t& member
 }
 
 std::string inWords(const std::map<std::string, int>& counts) {
-    std::vector<std::string> words;
-    for (const auto& [what, count] : counts)
-        words.push_back(std::to_string(count) + ' ' + what);
-    return list(words);
+    return list(counts, ", ",
+                [](const auto& entry) { return std::to_string(entry.second) + ' ' + entry.first; });
 }
 
 std::string summary() {

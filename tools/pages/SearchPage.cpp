@@ -109,11 +109,8 @@ Json objectOf(const Parameter& parameter) {
 }
 
 template <class Items, class Make>
-std::string lines(const Items& items, Make make) {
-    std::vector<std::string> all;
-    for (const auto& item : items)
-        all.push_back(make(item).line());
-    return "[" + list(all, ",\n") + "]";
+std::string array(const Items& items, Make make, std::string_view between = ",\n") {
+    return "[" + list(items, between, [&make](const auto& item) { return make(item).line(); }) + "]";
 }
 
 Json noteOf(const model::Note& note) {
@@ -125,10 +122,14 @@ Json bothTexts(const model::Both& text) {
     return {{"de", text.de}, {"en", text.en}};
 }
 
+Json familyOf(const stParamFamily& family) {
+    return bothTexts({germanName(family), family.name});
+}
+
 std::string glossary() {
     std::vector<Word> words(std::begin(kTradeWords), std::end(kTradeWords));
     words.insert(words.end(), std::begin(kDeviceWords), std::end(kDeviceWords));
-    return lines(words, [](const Word& word) {
+    return array(words, [](const Word& word) {
         Json object;
         object.set("de", word.de);
         object.set("en", word.en);
@@ -139,16 +140,13 @@ std::string glossary() {
 }
 
 std::string data() {
-    std::vector<std::string> families;
     std::vector<Parameter> named;
-    for (const stParamFamily& family : reference::model().families)
-        families.push_back(bothTexts({germanName(family), family.name}).line());
     for (const Parameter& parameter : reference::parameters())
         if (!parameter.isTemplate()) named.push_back(parameter);
-    return joined({"{\"families\":[", list(families, ","), "]",
-                   ",\"methods\":", lines(reference::model().methods, bothTexts),
-                   ",\"notes\":", lines(reference::model().notes, noteOf), ",\"words\":", glossary(),
-                   ",\"shared\":", sharedChoices().line(), ",\"parameters\":", lines(named, objectOf), "}"});
+    return joined({"{\"families\":", array(reference::model().families, familyOf, ","),
+                   ",\"methods\":", array(reference::model().methods, bothTexts),
+                   ",\"notes\":", array(reference::model().notes, noteOf), ",\"words\":", glossary(),
+                   ",\"shared\":", sharedChoices().line(), ",\"parameters\":", array(named, objectOf), "}"});
 }
 
 // Nothing in the data ends the element around them.

@@ -48,18 +48,6 @@ bool fitsPattern(std::string_view name, std::string_view pattern) {
 
 } // namespace
 
-std::string fill(std::string_view pattern, std::initializer_list<std::string_view> pieces) {
-    std::string text;
-    const auto* piece = pieces.begin();
-    for (std::size_t gap = pattern.find("{}"); gap != pattern.npos && piece != pieces.end();
-         gap = pattern.find("{}")) {
-        text.append(pattern.substr(0, gap)).append(*piece++);
-        pattern.remove_prefix(gap + 2);
-    }
-    return text.append(pattern);
-}
-
-// Colours take no room.
 std::size_t width(std::string_view text) {
     std::size_t columns = 0;
     for (std::size_t k = 0; k < text.size(); ++k) {

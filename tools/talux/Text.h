@@ -2,15 +2,13 @@
 #ifndef TALUX_TOOLS_TALUX_TEXT_H
 #define TALUX_TOOLS_TALUX_TEXT_H
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace talux::tool {
+#include "tools/Strings.h"
 
-// Puts the pieces into the gaps "{}" of the pattern, one after the other.
-std::string fill(std::string_view pattern, std::initializer_list<std::string_view> pieces);
+namespace talux::tool {
 
 // Characters that a UTF-8 text takes on a terminal.
 std::size_t width(std::string_view text);
