@@ -26,6 +26,7 @@ target_compile_options(talux_module INTERFACE
   -fvisibility=hidden -fvisibility-inlines-hidden -fno-exceptions -fno-rtti)
 target_link_options(talux_module INTERFACE
   -static-libgcc -Wl,--as-needed -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map
+  -Wl,--dynamic-list=${PROJECT_SOURCE_DIR}/cmake/shared.list
   -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack -Wl,-z,nodelete -Wl,--build-id=none)
 
 # The compiler's remarks on how ARM once passed arguments are about no object that is linked here.

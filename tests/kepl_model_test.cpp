@@ -2,6 +2,7 @@
 #include "KeplModel.h"
 #include "ParamSystem/KEPL_Interpreter.h"
 
+#include <dlfcn.h>
 #include <map>
 #include <set>
 #include <sys/mman.h>
@@ -46,6 +47,12 @@ Constant& changeable(const Constant& constant) {
     return const_cast<Constant&>(constant);
 }
 
+// The table that the library reads; this program may have a copy of its own.
+const StructMemberProperties_t* libraryMembers() {
+    void* const library = dlopen("lib_talux_lua.so.1", RTLD_NOLOAD | RTLD_NOW);
+    return static_cast<const StructMemberProperties_t*>(dlsym(library, "ARR_StructMemberProperties"));
+}
+
 // Rows and members such as no table of today has.
 void bendTables() {
     for (const auto& [name, last] : {std::pair{"Status_art_no", 3}, {"ETH1_IP", 2}}) {
@@ -54,8 +61,10 @@ void bendTables() {
     }
     changeable(*rowOf("SampleFile")).val_access = kWriteOnly;
     const auto bend = [](int record, int k, int bits, const char* type) {
-        auto& member = changeable(ARR_StructMemberProperties[ARR_MemberOffset[record] + k]);
-        member.iMemberBitsize = bits, member.szMemberType = type;
+        for (const StructMemberProperties_t* const table : {ARR_StructMemberProperties, libraryMembers()}) {
+            auto& member = changeable(table[ARR_MemberOffset[record] + k]);
+            member.iMemberBitsize = bits, member.szMemberType = type;
+        }
     };
     bend(2, 0, 16, "short int"), bend(2, 1, 16, "short"), bend(2, 2, 64, "double"), bend(2, 3, 32, "int");
     bend(1, 7, 32, "odd");

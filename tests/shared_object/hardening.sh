@@ -1,6 +1,6 @@
 #!/bin/sh
 # What the built object must be like: linked against the C library alone, nothing writable that is executable,
-# everything resolved and made read-only at load, calls checked.
+# everything resolved and made read-only at load, calls checked; data that changes, and no other, looked for by name.
 #
 #   hardening.sh READELF LIBRARY
 set -eu
@@ -32,4 +32,20 @@ refuse 'built-in library paths' "$dynamic" 'R(UN)?PATH'
 refuse 'writable and executable' "$segments" '(LOAD|GNU_STACK).* RWE '
 refuse 'needs more than the C library' \
   "$(echo "$dynamic" | grep NEEDED | grep -Ev '\[(libc|libm)\.so\.6\]|\[ld-linux[^]]*\]' || true)" .
+
+# cmake/shared.list names what changes: a program may have it in a place of its own.
+sections=$("$readelf" -SW "$library" | sed -n 's/^ *\[ *\([0-9]*\)\] \([^ ]*\).*/\1 \2/p')
+objects() { # SECTION-PATTERN: exported ones
+  { echo "$sections"; echo "$symbols"; } |
+    awk -v pattern="$1" 'NF == 2 { section[$1] = $2 } $4 == "OBJECT" && section[$7] ~ pattern { print $8 }' | sort
+}
+by_name=$("$readelf" -rW "$library" | awk 'NF >= 5 && $3 ~ /^R_/ { print $5 }' | sort -u)
+refuse 'shared data that is not in the list' "$(objects '^[.](data|bss)$' | comm -23 - /dev/fd/3 3<<END
+$by_name
+END
+)" .
+refuse 'constant data that the library looks for by name' "$(objects '^[.](rodata|data[.]rel[.]ro)' | comm -12 - /dev/fd/3 3<<END
+$by_name
+END
+)" .
 exit "$wrong"
