@@ -1,10 +1,12 @@
-// Number parsing, bit counters and two text helpers, exported under their plain C names.
+// Number parsing, bit counters and two text helpers, exported under their plain C names. Usable from C and C++.
 #ifndef TALUX_FUNCS_H
 #define TALUX_FUNCS_H
 
 #include "ParamSystem/TALUX_Types.h"
 
+#ifdef __cplusplus
 extern "C" {
+#endif
 
 /*
  * The four parsers read the first blank-separated word of `pValStr` (at most 49 characters in all) with
@@ -33,6 +35,8 @@ TALUX_API int strrep(char* pString, char find, char rep);
 // Directory part of a program path, without its last separator ('/', '\' or ':') and without a leading
 // double quote; empty when there is none. `pfad` must hold `exedatei` with its NUL. Returns 1.
 TALUX_API int CalcExePath(const char* exedatei, char* pfad);
+#ifdef __cplusplus
 }
+#endif
 
 #endif

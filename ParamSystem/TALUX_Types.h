@@ -30,6 +30,19 @@ using BOOL = bool;
 static_assert(sizeof(VarLong) == 4 && sizeof(VarULong) == 4 && sizeof(BOOL) == 1);
 static_assert(sizeof(float) == 4 && sizeof(double) == 8 && sizeof(short) == 2);
 
+#else
+
+#include <limits.h>
+#include <stdint.h>
+
+#if LONG_MAX == INT32_MAX
+typedef long VarLong;
+typedef unsigned long VarULong;
+#else
+typedef int32_t VarLong;
+typedef uint32_t VarULong;
+#endif
+
 #endif
 
 #endif

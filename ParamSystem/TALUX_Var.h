@@ -266,10 +266,10 @@ TALUX_API int VarUpdateGlobalSpace(void);
  * stack and no heap.
  */
 
-// Write one file, under the name as it is given: relative names start from the current directory, not from the
-// directory of the parameter files. 1 done; 0 the file cannot be created, is not surely kept, has an empty name (the address
-// file) or nobody has called LoadDefParamProperties. A write that fails is reported, the old file stays, and
-// the result is 1. The address file is committed first.
+// Write one file, under the name as it is given: not in the directory of the parameter files, unless the name
+// says so. 1 done; 0 the file cannot be created, is not surely kept, has an empty name (the address file) or
+// nobody has called LoadDefParamProperties. A write that fails is reported, the old file stays, and the
+// result is 1. The address file is committed first.
 TALUX_API int VarSaveParamFile(char* filename);
 TALUX_API int VarSaveSecParamFile(char* filename);
 TALUX_API int VarSaveIPConfigFile(char* filename);
@@ -282,9 +282,9 @@ TALUX_API int VarSaveIPConfig(void);
 // Both parameter files with their dated copies as they are in the global space, then the address file.
 TALUX_API int VarSaveAll(void);
 
-// Loads a file, under the name as it is given, too, and commits. `type` 0 loads everything; a text-like type code loads, among the text-like
-// parameters, only those of that type. 1 done, 0 the file cannot be opened (nothing is committed). A read
-// error ends the process with status 2.
+// Loads a file, under the name as it is given, too, and commits. `type` 0 loads everything; a text-like type
+// code loads, among the text-like parameters, only those of that type. 1 done, 0 the file cannot be opened
+// (nothing is committed). A read error ends the process with status 2.
 TALUX_API int VarLoadFile(char* filename, int type);
 
 // Load parameter.ini, sec_parameter.ini or ip_config.ini and raise the change flag whatever the result;

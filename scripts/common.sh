@@ -97,6 +97,7 @@ declare -A packages=(
   [device]='cmake:cmake ninja:ninja-build'
   [armv7]='arm-linux-gnueabihf-g++:g++-arm-linux-gnueabihf'
   [armv5te]='arm-linux-gnueabi-g++:g++-arm-linux-gnueabi'
+  [clang]='clang++:clang'
   [emulator]='qemu-arm:qemu-user'
   [bench]='/usr/include/benchmark/benchmark.h:libbenchmark-dev valgrind:valgrind'
   [lint]='clang-format:clang-format clang-tidy:clang-tidy shellcheck:shellcheck git:git'

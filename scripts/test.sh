@@ -21,6 +21,7 @@ sanitize      usual   4        build run tests
 armv7         usual   4        build run tests armv7
 armv5te       all     3        build run tests armv5te
 packages      all     1        build armv7 armv5te lintian
+clang         all     3        build run tests clang
 threads       all     1        build run tests
 commands      all     1        build run
 browser       all     1        build browser
@@ -47,6 +48,7 @@ skip() { note "skipped: $*"; exit 77; }
 
 release() { build release && run_tests release; }
 debug() { build debug && run_tests debug; }
+clang() { build clang && run_tests clang; }
 armv7() { on_device armv7; }
 armv5te() { on_device armv5te; }
 lint() { scripts/lint.sh --shipped; } # tools and tests take four times as long

@@ -142,7 +142,7 @@ public:
             toNext();
             return *this;
         }
-        friend bool operator==(const iterator& a, const iterator& b) { return a.at == b.at; }
+        friend bool operator==(const iterator& left, const iterator& right) { return left.at == right.at; }
 
     private:
         const Differences& both;

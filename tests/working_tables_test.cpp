@@ -19,13 +19,14 @@ protected:
     void SetUp() override {
         InDirectory::SetUp();
         LoadDefParamStrings();
-        while (DefParamProperties[spare].id != 0)
-            ++spare;
+        while (DefParamProperties[firstSpare].id != 0)
+            ++firstSpare;
+        spare = firstSpare;
         channel = row("channel");
     }
     // Other tests find the tables as they are after loading.
     void TearDown() override {
-        std::fill_n(ParamProperties + spare, kSpareParamRows, stParamProperties{});
+        std::fill(ParamProperties + firstSpare, ParamProperties + spare, stParamProperties{});
         std::fill(ParamText + 1, std::end(ParamText), stParamText{});
         InDirectory::TearDown();
     }
@@ -52,7 +53,7 @@ protected:
         return {std::istreambuf_iterator<char>(std::ifstream(file).rdbuf()), {}};
     }
 
-    int spare = 1;
+    int firstSpare = 1, spare = 1;
     stParamProperties channel{};
     KEPL_Interpreter interpreter{kNoDirectory};
 };
@@ -89,16 +90,15 @@ TEST_F(WorkingTables, LookUpsFindWhatWasChanged) {
 }
 
 TEST_F(WorkingTables, EndAtTheFirstRowWithoutId) {
-    const int first = spare;
     for (int k = 0; k < kSpareParamRows; ++k)
         append(50000 + k, "spare");
     EXPECT_EQ(GetParamPropertiesByOrder(spare - 1), GetParamProperties(50000 + kSpareParamRows - 1));
     for (const int position : {spare, spare + 1, 1 << 30})
         EXPECT_EQ(GetParamPropertiesByOrder(position), nullptr);
-    ParamProperties[first + 5].id = 0;
-    EXPECT_NE(GetParamPropertiesByOrder(first + 4), nullptr);
-    EXPECT_EQ(GetParamPropertiesByOrder(first + 5), nullptr);
-    EXPECT_EQ(GetParamPropertiesByOrder(first + 6), nullptr);
+    ParamProperties[firstSpare + 5].id = 0;
+    EXPECT_NE(GetParamPropertiesByOrder(firstSpare + 4), nullptr);
+    EXPECT_EQ(GetParamPropertiesByOrder(firstSpare + 5), nullptr);
+    EXPECT_EQ(GetParamPropertiesByOrder(firstSpare + 6), nullptr);
     EXPECT_EQ(GetParamProperties(50006), nullptr);
     ParamProperties[1].id = 0;
     char name[] = "channel";

@@ -69,7 +69,7 @@ int LoadParamProperties(char*) {
 }
 
 const stParamProperties* GetParamProperties(int id) {
-    checkId(id, __PRETTY_FUNCTION__);
+    checkId(id, "const stParamProperties* GetParamProperties(int)");
     if (id == 0 || !areParametersLoaded()) return nullptr;
     const int place = placeOf(id);
     const int position = place == kNoPlace ? 0 : kIdPositions[place];
@@ -78,7 +78,7 @@ const stParamProperties* GetParamProperties(int id) {
 }
 
 const stParamProperties* GetParamPropertiesByOrder(int id) {
-    checkId(id, __PRETTY_FUNCTION__);
+    checkId(id, "const stParamProperties* GetParamPropertiesByOrder(int)");
     if (!areParametersLoaded() || id > lastPosition()) return nullptr;
     const stParamProperties& row = ParamProperties[id];
     return id == 0 || row.id != 0 ? &row : nullptr;

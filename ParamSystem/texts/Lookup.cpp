@@ -8,14 +8,15 @@
 #include "ParamSystem/support/Assertion.h"
 #include "ParamSystem/texts/Tables.h"
 
-// The message names the exported function, so each of them holds its own.
-#define TALUX_ASSERT_ID(id)                                                                                  \
-    talux::assertThat((id) > 0, "id>0", "ParamSystem/TALUX_ParamStrings", __PRETTY_FUNCTION__)
-
 int iLastEntry = 0;
 
 namespace talux {
 namespace {
+
+// The message names the exported function, whatever the compiler calls it.
+void checkId(int id, const char* function) {
+    assertThat(id > 0, "id>0", "ParamSystem/TALUX_ParamStrings", function);
+}
 
 constexpr int kNotFound = 0; // the row that every look-up returns then
 
@@ -90,31 +91,31 @@ const stParamText* rowAndCursor(int row) {
 using namespace talux;
 
 const stParamText* GetParamString(int id, int type) {
-    TALUX_ASSERT_ID(id);
+    checkId(id, "const stParamText* GetParamString(int, int)");
     return &ParamText[findWithFallback({id, type})];
 }
 
 const stParamText* GetFirstParamString(int id, int type) {
-    TALUX_ASSERT_ID(id);
+    checkId(id, "const stParamText* GetFirstParamString(int, int)");
     return rowAndCursor(findWithFallback({id, type}));
 }
 
 const stParamText* GetNextParamString(int id, int type) {
-    TALUX_ASSERT_ID(id);
+    checkId(id, "const stParamText* GetNextParamString(int, int)");
     return rowAndCursor(findAfterCursor({id, type}));
 }
 
 const stParamText* GetParamStringInGroup(int id, int group, int item, int type) {
-    TALUX_ASSERT_ID(id);
+    checkId(id, "const stParamText* GetParamStringInGroup(int, int, int, int)");
     return &ParamText[findWithFallback({id, type, group, item})];
 }
 
 const stParamText* GetFirstParamStringInGroup(int id, int group, int type) {
-    TALUX_ASSERT_ID(id);
+    checkId(id, "const stParamText* GetFirstParamStringInGroup(int, int, int)");
     return rowAndCursor(findWithFallback({id, type, group}));
 }
 
 const stParamText* GetNextParamStringInGroup(int id, int group, int type) {
-    TALUX_ASSERT_ID(id);
+    checkId(id, "const stParamText* GetNextParamStringInGroup(int, int, int)");
     return rowAndCursor(findAfterCursor({id, type, group}));
 }

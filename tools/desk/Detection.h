@@ -71,7 +71,6 @@ private:
     double time = 0;
     bool earthFault = false;
     Direction transient = Direction::none;
-    double transientSince = 0;
     std::deque<std::pair<double, Direction>> ignitions; // when, and where
     int transientCount = 0;
     std::array<MethodState, kMethods> methods;
