@@ -21,26 +21,12 @@
 #include <optional>
 #include <string_view>
 
+#include "ParamSystem/files/ParameterFile.h"
 #include "ParamSystem/store/Values.h"
 
 namespace talux {
 
 inline constexpr std::string_view kKeyPrefix = "TLX_";
-
-enum class ParameterFile { none, normal, security, address };
-
-// In the directory of VarInit; empty for none. A NUL stands behind it.
-constexpr std::string_view fileName(ParameterFile file) {
-    constexpr std::string_view kNames[] = {"", "parameter.ini", "sec_parameter.ini", "ip_config.ini"};
-    return kNames[static_cast<std::size_t>(file)];
-}
-
-// The file that keeps a parameter: none for run-time values and for what has no value.
-constexpr ParameterFile fileOf(const stParamProperties& row) {
-    if (row.is_volatile == 1 || kindOf(row.id) == Kind::None) return ParameterFile::none;
-    if (isAddress(row)) return ParameterFile::address;
-    return row.userlevel <= 2 ? ParameterFile::normal : ParameterFile::security;
-}
 
 // Room for the longest line: a name, and a double with its 309 digits.
 inline constexpr std::size_t kLineSize = 512;

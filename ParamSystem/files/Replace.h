@@ -4,15 +4,10 @@
 #define TALUX_FILES_REPLACE_H
 
 #include <string_view>
-#include <sys/types.h>
+
+#include "ParamSystem/files/ParameterFile.h"
 
 namespace talux {
-
-struct Rights {
-    uid_t owner;
-    gid_t group;
-    mode_t mode;
-};
 
 enum class Written {
     done,
@@ -34,8 +29,8 @@ struct Replacement {
 // other failure of that is told on the error stream.
 //
 // Written in place, and then not as a whole, is what cannot be replaced: a device, a FIFO, a file with
-// several names, one in a directory in which nothing can be made or exchanged, be it for want of an inode, one of
-// another owner whom only root could restore. Only regular files are given away.
+// several names, one in a directory in which nothing can be made or exchanged, be it for want of an inode,
+// one of another owner whom only root could restore. Only regular files are given away.
 Replacement replaceFile(const char* path, std::string_view contents, const Rights* rights);
 
 } // namespace talux

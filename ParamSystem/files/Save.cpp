@@ -1,7 +1,6 @@
 // Writes the parameter files from the global space.
 #include <cerrno>
 #include <cstdio>
-#include <optional>
 
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/files/Line.h"
@@ -17,17 +16,6 @@ using talux::Path;
 using talux::Replacement;
 using talux::Rights;
 using talux::Written;
-
-// The two that are given to a group and kept in dated copies; the address file keeps the owner that it has.
-struct GivenFile {
-    ParameterFile contents;
-    const char* stem; // of the dated copies
-    Rights rights;
-    ChangeFlag flag;
-};
-
-constexpr GivenFile kNormalFile{ParameterFile::normal, "param", {0, 100, 0775}, ChangeFlag::param};
-constexpr GivenFile kSecurityFile{ParameterFile::security, "sec_param", {0, 101, 0775}, ChangeFlag::secParam};
 
 void printSystemError(const Replacement& replacement) {
     errno = replacement.error;
@@ -47,83 +35,88 @@ void report(const char* filename, const Replacement& replacement) {
 // Room for the longest file, whatever its values are, and one line more.
 using Contents = char[32768];
 
-// The length, or nothing when the room is too small.
-std::optional<std::size_t> compose(Contents& contents, ParameterFile which) {
-    std::tm now;
-    talux::os::localTime(now);
-    std::size_t length = 0;
-    for (const stParamProperties& row : talux::parameterRows()) {
-        if (talux::fileOf(row) != which) continue;
-        if (sizeof contents - length < talux::kLineSize) return {};
-        if (const auto value = talux::savedValue(row, now))
-            length += talux::formatLine(contents + length, row, *value);
+// The contents of a file at this moment, as a save writes them.
+class Draft {
+public:
+    explicit Draft(ParameterFile which) {
+        std::tm now;
+        talux::os::localTime(now);
+        for (const stParamProperties& row : talux::parameterRows()) {
+            if (talux::fileOf(row) != which) continue;
+            fits = fits && sizeof contents - length >= talux::kLineSize;
+            if (!fits) return;
+            if (const auto value = talux::savedValue(row, now))
+                length += talux::formatLine(contents + length, row, *value);
+        }
     }
-    return length;
-}
 
-Replacement writeContents(const char* filename, ParameterFile which, const Rights* rights) {
+    // 0 when the file cannot be created or is not surely kept. A failed write counts as done, with a message;
+    // the old file stays.
+    int writeTo(const char* filename, const Rights* rights) const {
+        if (!talux::areParametersLoaded()) {
+            std::fprintf(stderr, "Error (TALUX_Var): no parameters loaded, '%s' stays as it is \n", filename);
+            return 0;
+        }
+        const Replacement replacement = fits ? talux::replaceFile(filename, {contents, length}, rights)
+                                             : Replacement{Written::notWritten, true, "write", EFBIG};
+        if (replacement.written != Written::done) report(filename, replacement);
+        return replacement.written == Written::done || replacement.written == Written::notWritten ? 1 : 0;
+    }
+
+private:
     Contents contents;
-    const auto length = compose(contents, which);
-    if (!length) return {Written::notWritten, true, "write", EFBIG};
-    return talux::replaceFile(filename, {contents, *length}, rights);
-}
+    std::size_t length = 0;
+    bool fits = true;
+};
 
-// 0 when the file cannot be created or is not surely kept. A failed write counts as done, with a message; the
-// old file stays.
-int writeFile(const char* filename, ParameterFile which, const Rights* rights) {
-    if (!talux::areParametersLoaded()) {
-        std::fprintf(stderr, "Error (TALUX_Var): no parameters loaded, '%s' stays as it is \n", filename);
-        return 0;
-    }
-    const Replacement replacement = writeContents(filename, which, rights);
-    if (replacement.written != Written::done) report(filename, replacement);
-    return replacement.written == Written::done || replacement.written == Written::notWritten ? 1 : 0;
-}
-
-int saveFile(const char* filename, const GivenFile& file) {
-    return writeFile(filename, file.contents, &file.rights);
-}
-
-int saveMain(const GivenFile& file) {
-    return saveFile(Path(file.contents).get(), file);
-}
-
-int saveDated(const GivenFile& file) {
-    return saveFile(Path::dated(file.stem).get(), file);
+// Writes the file and, with the same bytes, its dated copy. `first` is the result of the file: without it
+// there is no copy.
+struct Saved {
+    int first, copy;
+};
+Saved saveWithCopy(ParameterFile file) {
+    const auto& row = talux::rowOf(talux::kParameterFiles, file);
+    const Draft draft(file);
+    if (draft.writeTo(Path(file).get(), row.rights) != 1) return {0, 0};
+    return {1, draft.writeTo(Path::dated(row.stem).get(), row.rights)};
 }
 
 // A copy that fails still raises the flag: the file itself has been written.
-int commitAndSave(const GivenFile& file) {
+int commitAndSave(ParameterFile file) {
     VarUpdateGlobalSpace();
-    if (saveMain(file) != 1) return 0;
-    const int result = saveDated(file);
-    talux::raise(file.flag);
-    return result;
+    const Saved saved = saveWithCopy(file);
+    if (saved.first != 1) return 0;
+    talux::raise(talux::rowOf(talux::kParameterFiles, file).flag);
+    return saved.copy;
+}
+
+int saveAs(const char* filename, ParameterFile file) {
+    return Draft(file).writeTo(filename, talux::rowOf(talux::kParameterFiles, file).rights);
 }
 
 } // namespace
 
 int VarSaveParamFile(char* filename) {
-    return saveFile(filename, kNormalFile);
+    return saveAs(filename, ParameterFile::normal);
 }
 
 int VarSaveSecParamFile(char* filename) {
-    return saveFile(filename, kSecurityFile);
+    return saveAs(filename, ParameterFile::security);
 }
 
 int VarSaveIPConfigFile(char* filename) {
     VarUpdateGlobalSpace();
-    if (*filename == '\0' || writeFile(filename, ParameterFile::address, nullptr) != 1) return 0;
+    if (*filename == '\0' || saveAs(filename, ParameterFile::address) != 1) return 0;
     talux::raise(ChangeFlag::ip);
     return 1;
 }
 
 int VarSaveParams(void) {
-    return commitAndSave(kNormalFile);
+    return commitAndSave(ParameterFile::normal);
 }
 
 int VarSaveSecParams(void) {
-    return commitAndSave(kSecurityFile);
+    return commitAndSave(ParameterFile::security);
 }
 
 int VarSaveIPConfig(void) {
@@ -131,7 +124,7 @@ int VarSaveIPConfig(void) {
 }
 
 int VarSaveAll(void) {
-    for (const GivenFile* file : {&kNormalFile, &kSecurityFile})
-        if (saveMain(*file) != 1 || saveDated(*file) != 1) return 0;
+    for (const ParameterFile file : {ParameterFile::normal, ParameterFile::security})
+        if (saveWithCopy(file).copy != 1) return 0;
     return VarSaveIPConfig();
 }

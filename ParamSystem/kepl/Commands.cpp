@@ -10,36 +10,6 @@ namespace {
 
 constexpr int kWholeFile = 0;
 
-struct Report {
-    Command command;
-    int (*carryOut)();
-    const char* success;
-    const char* failure;
-};
-
-constexpr Report kReports[] = {
-    {Command::loadAddresses, VarLoadIPConfig, "IPs successfully loaded\n", "error: can't load IPs\n"},
-    {Command::loadSecurity, VarLoadSecParams, "sec parameter successfully loaded\n",
-     "sec error: can't load parameter\n"},
-    {Command::loadParameters, VarLoadParams, "parameter successfully loaded\n",
-     "error: can't load parameter\n"},
-    {Command::saveAddresses, VarSaveIPConfig, "IP config successfully saved\n",
-     "error: can't save ip parameter\n"},
-    {Command::saveSecurity, VarSaveSecParams, "sec parameter successfully saved\n",
-     "error: can't save sec parameter\n"},
-    {Command::saveParameters, VarSaveParams, "parameter successfully saved\n",
-     "error: can't save parameter\n"},
-    {Command::update, VarUpdateGlobalSpace, "parameter successfully update\n",
-     "error: can't update parameter\n"},
-};
-
-const Report& reportOf(Command command) {
-    const Report* report = kReports;
-    while (report->command != command)
-        ++report;
-    return *report;
-}
-
 // Loads a file of the parameter directory. A path that is too long loads nothing: cut, it would be another
 // file.
 int loadNamed(const char* iniPath, std::string_view name) {
@@ -52,11 +22,10 @@ int loadNamed(const char* iniPath, std::string_view name) {
 } // namespace
 
 TermResult runCommand(const Decision& decision, const char* iniPath, char* txt) {
-    const Report& report = reportOf(decision.command);
-    const int result = decision.words.empty() ? report.carryOut() : loadNamed(iniPath, decision.words);
-    copyText(txt, kKeplTextSize, result == 1 ? report.success : report.failure);
-    // Commands on the security parameters leave a trace in the system log, whatever came out.
-    if (decision.command == Command::loadSecurity || decision.command == Command::saveSecurity)
+    const CommandRow& row = rowOf(kCommands, decision.command);
+    const int result = decision.words.empty() ? row.carryOut() : loadNamed(iniPath, decision.words);
+    copyText(txt, kKeplTextSize, result == 1 ? row.success : row.failure);
+    if (row.isLogged)
         os::logInfo(" %.*s %s", static_cast<int>(decision.term.size()), decision.term.data(), txt);
     return says(Says::text);
 }

@@ -1,7 +1,6 @@
 #include "ParamSystem/kepl/Decision.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "ParamSystem/kepl/Words.h"
 #include "ParamSystem/support/Parse.h"
@@ -10,30 +9,6 @@
 namespace talux::kepl {
 
 namespace {
-
-constexpr int kEverybody = std::numeric_limits<int>::min();
-
-// Tried from top to bottom: of words that begin alike the longer one stands first.
-constexpr CommandWord kCommands[] = {
-    {"system", kEverybody, Command::shell}, // looks at the rights itself
-    {"load_ip", 2, Command::loadAddresses},  {"load_sec", 3, Command::loadSecurity},
-    {"load", 2, Command::loadParameters},    {"save_ip", 2, Command::saveAddresses},
-    {"save_sec", 3, Command::saveSecurity},  {"save", 1, Command::saveParameters},
-    {"update", kEverybody, Command::update},
-};
-
-constexpr OperationWord kOperations[] = {
-    {"+", Operation::add},       {"-", Operation::subtract},      {"*", Operation::multiply},
-    {"/", Operation::divide},    {"sin", Operation::sine},        {"cos", Operation::cosine},
-    {"tan", Operation::tangent}, {"deg", Operation::toDegrees},   {"rad", Operation::toRadians},
-    {"sqr", Operation::square},  {"sqrt", Operation::squareRoot},
-};
-
-// Fragments that a board does not let through: tools of its boot environment, backups, a test output.
-constexpr std::string_view kForbiddenArm5[] = {"talux-pondo"};
-constexpr std::string_view kForbiddenArm7[] = {
-    "fw_printenv", "fw_setenv", "talux-bcard31", "bck_appfs", "backup.tgz", "/sys/class/gpio/gpio105/value",
-};
 
 bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
@@ -47,9 +22,7 @@ bool mayRun(std::string_view term, int uid) {
 
 // What a shell command must not contain on a board.
 std::span<const std::string_view> forbiddenOn(int board) {
-    if (board == kArm5Board) return kForbiddenArm5;
-    if (board == kArm7Board) return kForbiddenArm7;
-    return {};
+    return board == kOtherBoard ? std::span<const std::string_view>() : rowOf(kBoards, board).forbidden;
 }
 
 void decideShell(Decision& decision, std::string_view term, int uid, int board) {
@@ -68,17 +41,13 @@ void decideShell(Decision& decision, std::string_view term, int uid, int board) 
             std::ranges::any_of(forbiddenOn(board), forbidden) ? Action::endProcess : Action::shell;
 }
 
-bool takesFile(Command command) {
-    return command == Command::loadAddresses || command == Command::loadParameters;
-}
-
-void decideFile(Decision& decision, std::string_view term, int uid, const CommandWord& word) {
+void decideFile(Decision& decision, std::string_view term, int uid, const CommandRow& word) {
     if (uid < word.lowestUid) {
         decision.refusal = Refusal::rightsTooLow;
         return;
     }
     decision.action = Action::command;
-    if (!takesFile(word.command)) return;
+    if (!word.takesFile) return;
     takeWord(term, ' ');
     decision.words = takeWord(term, ' ');
 }
@@ -97,19 +66,19 @@ bool beginsWithDigit(std::string_view term) {
     return !term.empty() && term.front() >= '0' && term.front() <= '9';
 }
 
-const CommandWord* commandOf(std::string_view term) {
-    const auto begins = [=](const CommandWord& known) { return startsIgnoringCase(term, known.word); };
+const CommandRow* commandOf(std::string_view term) {
+    const auto begins = [=](const CommandRow& known) { return startsIgnoringCase(term, known.word); };
     const auto* const found = std::ranges::find_if(kCommands, begins);
     return found == std::end(kCommands) ? nullptr : found;
 }
 
-const OperationWord* operationOf(std::string_view term) {
-    const auto equals = [=](const OperationWord& known) { return equalIgnoringCase(term, known.word); };
+const OperationRow* operationOf(std::string_view term) {
+    const auto equals = [=](const OperationRow& known) { return equalIgnoringCase(term, known.word); };
     const auto* const found = std::ranges::find_if(kOperations, equals);
     return found == std::end(kOperations) ? nullptr : found;
 }
 
-void decideCommand(Decision& decision, std::string_view term, int uid, int board, const CommandWord& word) {
+void decideCommand(Decision& decision, std::string_view term, int uid, int board, const CommandRow& word) {
     decision.command = word.command;
     if (word.command == Command::shell)
         decideShell(decision, term, uid, board);
@@ -121,10 +90,10 @@ Decision decideOther(std::string_view term, int uid, int board) {
     Decision decision;
     decision.term = term;
     const bool mayBeWord = !beginsWithDigit(term); // as no word does
-    if (const OperationWord* const operation = mayBeWord ? operationOf(term) : nullptr) {
+    if (const OperationRow* const operation = mayBeWord ? operationOf(term) : nullptr) {
         decision.action = Action::compute;
         decision.operation = operation->operation;
-    } else if (const CommandWord* const command = mayBeWord ? commandOf(term) : nullptr) {
+    } else if (const CommandRow* const command = mayBeWord ? commandOf(term) : nullptr) {
         decideCommand(decision, term, uid, board, *command);
     } else {
         decideNumber(decision, term);
@@ -140,10 +109,6 @@ Decision decide(std::string_view term, int uid, int board) {
 
 bool hasPrefix(std::string_view term) {
     return startsIgnoringCase(term, kPrefixes[0]) || startsIgnoringCase(term, kPrefixes[1]);
-}
-
-std::span<const CommandWord> commandWords() {
-    return kCommands;
 }
 
 } // namespace talux::kepl

@@ -10,6 +10,9 @@
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/files/Line.h"
+#include "ParamSystem/kepl/Board.h"
+#include "ParamSystem/kepl/Command.h"
+#include "ParamSystem/kepl/Operation.h"
 #include "ParamSystem/kepl/Refusal.h"
 #include "ParamSystem/kepl/Words.h"
 #include "ParamSystem/store/Values.h"
@@ -31,43 +34,24 @@ enum class Action : unsigned char {
     endProcess,   // the board forbids the shell command `words`
 };
 
-enum class Operation : unsigned char {
-    add,
-    subtract,
-    multiply,
-    divide,
-    sine,
-    cosine,
-    tangent,
-    toDegrees,
-    toRadians,
-    square,
-    squareRoot,
-};
-
-// How many values an operation takes from the stack; it leaves one.
-constexpr int operandsOf(Operation operation) {
-    return operation <= Operation::divide ? 2 : 1;
-}
-
-enum class Command : unsigned char {
-    shell,
-    loadAddresses,
-    loadSecurity,
-    loadParameters,
-    saveAddresses,
-    saveSecurity,
-    saveParameters,
-    update,
-};
-
 // How the elements of a range or the members of a record are answered.
 enum class Style : unsigned char {
     plain,   // TLX_<name> <index> = <value> or TLX_<name>.<member> = <value>, one per line
-    lines,   // the value, one per line: option -p, and the plain form of a single element
-    columns, // the values in one line with ";" between them: option -c
-    hex,     // the bytes, two digits each: option -h
+    lines,   // the value, one per line; also the plain form of a single element
+    columns, // the values in one line with ";" between them
+    hex,     // the bytes, two digits each
 };
+struct StyleRow {
+    Style style;
+    std::string_view option; // empty: without an option
+};
+inline constexpr StyleRow kStyles[] = {
+    {Style::plain, ""},
+    {Style::lines, "-p"},
+    {Style::columns, "-c"},
+    {Style::hex, "-h"},
+};
+static_assert(hasRowForEach<&StyleRow::style>(kStyles), "each enumerator has its row, in the same order");
 
 // The parts of a variable term, NAME [INDEX[.INDEX]] [OPTION] [= VALUE]. The texts are parts of the term.
 struct VariableTerm {
@@ -109,9 +93,6 @@ struct Decision {
     bool isAnswer() const { return refusal == Refusal::rightsTooLow && !isVariable; }
 };
 
-// Boards, as KEPL_Interpreter::read_machine() numbers them.
-inline constexpr int kArm5Board = 0, kArm7Board = 1, kOtherBoard = -1;
-
 // The next term of a line, false when none is left. Terms stand between commas. Of each the first
 // kKeplMaxTerm characters count, without the blanks that lead them, so a term may be empty. `rest` is left
 // with what follows the term; what is cut off stands between the two.
@@ -134,26 +115,10 @@ Decision decideVariable(std::string_view term, int uid);
 
 // ---- For completion and help ---------------------------------------------------------------------------
 
-// A term that begins with the word is the command; letter case does not count.
-struct CommandWord {
-    std::string_view word;
-    int lowestUid; // INT_MIN: everybody; for the shell, see kShellLevel
-    Command command;
-};
-std::span<const CommandWord> commandWords();
-
-// A term that is the word; letter case does not count.
-struct OperationWord {
-    std::string_view word;
-    Operation operation;
-};
-
 inline constexpr std::string_view kPrefixes[] = {kKeyPrefix, "LVR_"};
 inline constexpr std::size_t kPrefixLength = 4;
 static_assert(kPrefixes[0].size() == kPrefixLength && kPrefixes[1].size() == kPrefixLength);
 bool hasPrefix(std::string_view term); // letter case does not count
-
-inline constexpr std::string_view kOptions[] = {"-p", "-c", "-h"};
 
 // The one parameter that those may write who may read it: it asks for the snapshot of the measured values.
 inline constexpr std::string_view kOpenToReaders = "mw_req";

@@ -10,10 +10,17 @@ namespace talux::kepl {
 
 namespace {
 
-TermResult push(double number, Slot slot, int& count) {
-    if (!slot.put(number, kTypeDouble)) return refused(Refusal::syntaxError);
-    ++count;
+TermResult push(double number, ValueStack& stack) {
+    if (!stack.next().put(number, kTypeDouble)) return refused(Refusal::syntaxError);
+    ++stack.count;
     return {};
+}
+
+// A number that is read is pushed.
+TermResult access(const Decision& decision, char* txt, ValueStack& stack) {
+    const TermResult result = accessVariable(decision, txt, stack.next());
+    if (result.says == Says::value) ++stack.count;
+    return result;
 }
 
 } // namespace
@@ -22,7 +29,6 @@ Refusal Evaluation::take(const Decision& decision) {
     const TermResult result = carryOut(decision);
     if (result.refusal != Refusal::none || result.says == Says::unchanged) return result.refusal;
     output = result.says;
-    if (decision.isVariable && output == Says::value) ++stack.count;
     // A text that was read stays in the result should a later term fail.
     if (decision.isVariable && output == Says::text) copyText(caller.result, kKeplTextSize, txt);
     return Refusal::none;
@@ -33,7 +39,7 @@ TermResult Evaluation::carryOut(const Decision& decision) {
     case Action::refuse:
         return refused(decision.refusal);
     case Action::push:
-        return push(decision.value->number(), stack.next(), stack.count);
+        return push(decision.value->number(), stack);
     case Action::compute:
         return compute(decision.operation, stack);
     case Action::command:
@@ -42,9 +48,14 @@ TermResult Evaluation::carryOut(const Decision& decision) {
     case Action::askForShell:
     case Action::endProcess:
         return runShellTerm(decision, caller.dataOut, caller.terminator, txt);
-    default:
-        return accessVariable(decision, txt, stack.next());
+    case Action::readScalar:
+    case Action::readElements:
+    case Action::readRecord:
+    case Action::write:
+    case Action::setClock:
+        break;
     }
+    return access(decision, txt, stack);
 }
 
 Refusal Evaluation::finish() {
@@ -58,7 +69,8 @@ Refusal Evaluation::finish() {
     case Says::nothing:
         *caller.result = '\0';
         return Refusal::none;
-    default:
+    case Says::unchanged:
+    case Says::value:
         break;
     }
     if (stack.count == 0) return Refusal::syntaxError;

@@ -1,6 +1,4 @@
-#include <algorithm>
 #include <cstring>
-#include <iterator>
 #include <string_view>
 
 #include "ParamSystem/KEPL_Interpreter.h"
@@ -70,11 +68,11 @@ int KEPL_Interpreter::GetError(char* buffer, int len) {
 }
 
 int KEPL_Interpreter::read_machine() {
-    constexpr std::string_view machines[] = {"armv5tejl", "armv7l"};
     char name[65];
     os::machineName(name, sizeof name);
-    const auto* const found = std::ranges::find(machines, std::string_view(name));
-    return found == std::end(machines) ? kepl::kOtherBoard : static_cast<int>(found - machines);
+    for (const kepl::BoardRow& row : kepl::kBoards)
+        if (row.machine == name) return static_cast<int>(row.board);
+    return kepl::kOtherBoard;
 }
 
 int KEPL_Interpreter::GetNewValType(int type1, int type2) {

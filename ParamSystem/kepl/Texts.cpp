@@ -1,8 +1,7 @@
 // The two-language texts of the refusals. German is UTF-8.
-#include <iterator>
-
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/kepl/Refusal.h"
+#include "ParamSystem/support/EnumRows.h"
 
 KeplText szIndexNotANumber = {"<< INDEX MUSS EINE ZAHL SEIN >>", "<< INDEX MUST BE A NUMBER >>"};
 KeplText szSyntaxError = {"<< SYNTAX ERROR >>", "<< SYNTAX ERROR >>"};
@@ -35,20 +34,40 @@ constexpr KeplText kNegativeRoot = {"Quadratwurzel von negativen Werten nicht er
                                     "Quadratwurzel von negativen Werten nicht erlaubt"};
 constexpr KeplText kTypeUnknown = {"type unknown", "type unknown"};
 
-// In the order of the enumeration.
-constexpr KeplText* kTexts[] = {
-    &kNone,           &szIndexNotANumber, &szSyntaxError,    &szIndexRequired,  &szNoIndexAllowed,
-    &szValueTooLow,   &szValueTooHigh,    &szIndexTooLow,    &szIndexTooHigh,   &szIndex1TooLow,
-    &szIndex1TooHigh, &szIndex2TooLow,    &szIndex2TooHigh,  &szIndex1gtIndex2, &szReadOnly,
-    &szWriteOnly,     &szUIDWrong,        &szBufferOverflow, &kDivisionByZero,  &kNegativeRoot,
-    &kTypeUnknown,
+struct RefusalRow {
+    Refusal refusal;
+    const KeplText& text;
 };
-static_assert(std::size(kTexts) == static_cast<std::size_t>(Refusal::typeUnknown) + 1);
+constexpr RefusalRow kRefusals[] = {
+    {Refusal::none, kNone},
+    {Refusal::indexNotANumber, szIndexNotANumber},
+    {Refusal::syntaxError, szSyntaxError},
+    {Refusal::indexRequired, szIndexRequired},
+    {Refusal::noIndexAllowed, szNoIndexAllowed},
+    {Refusal::valueTooLow, szValueTooLow},
+    {Refusal::valueTooHigh, szValueTooHigh},
+    {Refusal::indexTooLow, szIndexTooLow},
+    {Refusal::indexTooHigh, szIndexTooHigh},
+    {Refusal::index1TooLow, szIndex1TooLow},
+    {Refusal::index1TooHigh, szIndex1TooHigh},
+    {Refusal::index2TooLow, szIndex2TooLow},
+    {Refusal::index2TooHigh, szIndex2TooHigh},
+    {Refusal::index1GreaterThanIndex2, szIndex1gtIndex2},
+    {Refusal::readOnly, szReadOnly},
+    {Refusal::writeOnly, szWriteOnly},
+    {Refusal::rightsTooLow, szUIDWrong},
+    {Refusal::bufferOverflow, szBufferOverflow},
+    {Refusal::divisionByZero, kDivisionByZero},
+    {Refusal::negativeRoot, kNegativeRoot},
+    {Refusal::typeUnknown, kTypeUnknown},
+};
+static_assert(hasRowForEach<&RefusalRow::refusal>(kRefusals),
+              "each enumerator has its row, in the same order");
 
 } // namespace
 
 const char* textOf(Refusal refusal) {
-    return (*kTexts[static_cast<std::size_t>(refusal)])[iLanguage];
+    return rowOf(kRefusals, refusal).text[iLanguage];
 }
 
 } // namespace talux::kepl

@@ -150,7 +150,7 @@ private:
 } // namespace
 
 TermResult accessVariable(const Decision& decision, char* txt, Slot slot) {
-    if (decision.isRefused()) return refused(decision.refusal);
+    if (decision.isRefused()) return refused(decision.refusal); // has no row
     VariableAccess variable(decision, txt, slot);
     switch (decision.action) {
     case Action::readScalar:
@@ -161,9 +161,18 @@ TermResult accessVariable(const Decision& decision, char* txt, Slot slot) {
         return variable.readRecord();
     case Action::write:
         return variable.write();
-    default:
+    case Action::setClock:
         return variable.setClock();
+    case Action::refuse: // and what is no variable
+    case Action::push:
+    case Action::compute:
+    case Action::command:
+    case Action::shell:
+    case Action::askForShell:
+    case Action::endProcess:
+        break;
     }
+    return refused(decision.refusal);
 }
 
 } // namespace talux::kepl

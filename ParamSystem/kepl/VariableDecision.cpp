@@ -18,9 +18,8 @@ constexpr int kSecurityLevel = 3;
 
 // Leaves the style alone when the word is no option.
 void takeOption(std::string_view word, Style& style) {
-    constexpr Style kStyles[] = {Style::lines, Style::columns, Style::hex};
-    for (std::size_t k = 0; k < std::size(kOptions); ++k)
-        if (word == kOptions[k]) style = kStyles[k];
+    for (const StyleRow& each : kStyles)
+        if (!word.empty() && word == each.option) style = each.style;
 }
 
 void takeIndices(std::string_view word, VariableTerm& parts) {

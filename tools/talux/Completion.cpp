@@ -62,7 +62,7 @@ private:
         if (beginsLine)
             for (const std::string_view word : {kHelpWord, kQuitWord})
                 offer(typed, std::string(word));
-        for (const kepl::CommandWord& word : kepl::commandWords())
+        for (const kepl::CommandRow& word : kepl::kCommands)
             offer(typed, std::string(word.word));
         if (!typed.empty()) names(typed, true);
     }
@@ -72,8 +72,8 @@ private:
         const Parameter* const parameter = reference::find(name);
         if (parameter == nullptr) return;
         if (!parameter->isIndexed() && parameter->type().nature != Nature::record) return;
-        for (const std::string_view option : kepl::kOptions)
-            offer(typed, std::string(option));
+        for (const kepl::StyleRow& row : kepl::kStyles)
+            if (!row.option.empty()) offer(typed, std::string(row.option));
     }
 
     void values(std::string_view left, std::string_view typed) {

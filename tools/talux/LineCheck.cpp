@@ -68,9 +68,8 @@ std::string rightsReason(const Decision& decision, const Context& context) {
     } else if (decision.isVariable) {
         level = std::max(kepl::kWriteLevel, decision.row != nullptr ? decision.row->userlevel : 0);
     } else {
-        for (const kepl::CommandWord& word : kepl::commandWords())
-            if (word.command == decision.command && word.command != kepl::Command::shell)
-                level = word.lowestUid;
+        const bool isShell = decision.command == kepl::Command::shell;
+        if (!isShell) level = rowOf(kepl::kCommands, decision.command).lowestUid;
     }
     return fill(context.say("takes rights level {}", "verlangt Rechtestufe {}"), {std::to_string(level)});
 }
@@ -203,7 +202,7 @@ private:
     }
 
     bool lookAtOperation(const Piece& piece, bool wasZero) {
-        const int operands = kepl::operandsOf(piece.decision.operation);
+        const int operands = rowOf(kepl::kOperations, piece.decision.operation).operands;
         if (depth < operands) {
             add(placeOf(piece),
                 fill(context.say("takes {} values from the stack, there are {}",
@@ -335,43 +334,75 @@ private:
 
 } // namespace
 
+namespace {
+
+std::string elementsReason(const Decision& decision, const Context& context) {
+    return elementsOf(*decision.row, context);
+}
+
+std::string rangeReason(const Decision& decision, const Context& context) {
+    const Parameter& parameter = *parameterOf(decision);
+    return fill(context.say("{} is out of range: {} to {}{}", "{} liegt außerhalb: {} bis {}{}"),
+                {reference::shortNumber(decision.value->number()),
+                 reference::shortNumber(parameter.row().val_min),
+                 reference::shortNumber(parameter.row().val_max), unitBehind(parameter)});
+}
+
+// Of what shows only when a line is carried out.
+std::string laterReason(const Decision& /*decision*/, const Context& /*context*/) {
+    return {};
+}
+
+template <const char* en, const char* de>
+std::string namedReason(const Decision& decision, const Context& context) {
+    return fill(context.say(en, de), {decision.row->name});
+}
+constexpr char kNoElements[] = "{} has no elements", kNoElementsDe[] = "{} hat keine Elemente";
+constexpr char kReadOnly[] = "{} can only be read", kReadOnlyDe[] = "{} kann nur gelesen werden";
+constexpr char kWriteOnly[] = "{} can only be written", kWriteOnlyDe[] = "{} kann nur geschrieben werden";
+
+// Why a term is refused, for people.
+struct Reason {
+    Refusal refusal;
+    std::string (*say)(const Decision& decision, const Context& context);
+};
+constexpr Reason kReasons[] = {
+    {Refusal::none, laterReason},
+    {Refusal::indexNotANumber,
+     [](const Decision&, const Context& context) -> std::string {
+         return context.say(
+             "behind the name stands an index, a range as 1.5, or an option: -p, -c, -h",
+             "hinter dem Namen steht ein Index, ein Bereich wie 1.5 oder eine Option: -p, -c, -h");
+     }},
+    {Refusal::syntaxError, syntaxReason},
+    {Refusal::indexRequired, elementsReason},
+    {Refusal::noIndexAllowed, namedReason<kNoElements, kNoElementsDe>},
+    {Refusal::valueTooLow, rangeReason},
+    {Refusal::valueTooHigh, rangeReason},
+    {Refusal::indexTooLow, elementsReason},
+    {Refusal::indexTooHigh, elementsReason},
+    {Refusal::index1TooLow, elementsReason},
+    {Refusal::index1TooHigh, elementsReason},
+    {Refusal::index2TooLow, elementsReason},
+    {Refusal::index2TooHigh, elementsReason},
+    {Refusal::index1GreaterThanIndex2,
+     [](const Decision&, const Context& context) -> std::string {
+         return context.say("the range runs backwards", "der Bereich läuft rückwärts");
+     }},
+    {Refusal::readOnly, namedReason<kReadOnly, kReadOnlyDe>},
+    {Refusal::writeOnly, namedReason<kWriteOnly, kWriteOnlyDe>},
+    {Refusal::rightsTooLow, rightsReason},
+    {Refusal::bufferOverflow, laterReason},
+    {Refusal::divisionByZero, laterReason},
+    {Refusal::negativeRoot, laterReason},
+    {Refusal::typeUnknown, laterReason},
+};
+static_assert(hasRowForEach<&Reason::refusal>(kReasons), "each enumerator has its row, in the same order");
+
+} // namespace
+
 std::string reasonOf(const Decision& decision, const Context& context) {
-    const Parameter* const parameter = parameterOf(decision);
-    switch (decision.refusal) {
-    case Refusal::rightsTooLow:
-        return rightsReason(decision, context);
-    case Refusal::syntaxError:
-        return syntaxReason(decision, context);
-    case Refusal::indexNotANumber:
-        return context.say(
-            "behind the name stands an index, a range as 1.5, or an option: -p, -c, -h",
-            "hinter dem Namen steht ein Index, ein Bereich wie 1.5 oder eine Option: -p, -c, -h");
-    case Refusal::noIndexAllowed:
-        return fill(context.say("{} has no elements", "{} hat keine Elemente"), {decision.row->name});
-    case Refusal::indexRequired:
-    case Refusal::indexTooLow:
-    case Refusal::indexTooHigh:
-    case Refusal::index1TooLow:
-    case Refusal::index1TooHigh:
-    case Refusal::index2TooLow:
-    case Refusal::index2TooHigh:
-        return elementsOf(*decision.row, context);
-    case Refusal::index1GreaterThanIndex2:
-        return context.say("the range runs backwards", "der Bereich läuft rückwärts");
-    case Refusal::valueTooLow:
-    case Refusal::valueTooHigh:
-        return fill(context.say("{} is out of range: {} to {}{}", "{} liegt außerhalb: {} bis {}{}"),
-                    {reference::shortNumber(decision.value->number()),
-                     reference::shortNumber(parameter->row().val_min),
-                     reference::shortNumber(parameter->row().val_max), unitBehind(*parameter)});
-    case Refusal::readOnly:
-        return fill(context.say("{} can only be read", "{} kann nur gelesen werden"), {decision.row->name});
-    case Refusal::writeOnly:
-        return fill(context.say("{} can only be written", "{} kann nur geschrieben werden"),
-                    {decision.row->name});
-    default:
-        return {};
-    }
+    return rowOf(kReasons, decision.refusal).say(decision, context);
 }
 
 std::vector<LineFinding> checkLine(std::string_view line, const LineAsked& asked, const Context& context) {

@@ -1,0 +1,37 @@
+// Tables whose rows belong to the enumerators of an enumeration: all that is known of one stands in its row.
+#ifndef TALUX_SUPPORT_ENUMROWS_H
+#define TALUX_SUPPORT_ENUMROWS_H
+
+#include <cstddef>
+#include <string_view>
+#include <type_traits>
+
+namespace talux {
+
+// Whether an enumerator has this value: the compiler names it, and spells a cast when there is none.
+template <auto value>
+consteval bool isEnumerator() {
+    const std::string_view text = __PRETTY_FUNCTION__;
+    const std::size_t at = text.rfind("value = ");
+    return at != text.npos && text[at + 8] != '(';
+}
+
+// For a static_assert: row k belongs to enumerator k, and no enumerator has no row. `member` says to which
+// one a row belongs.
+template <auto member, class Row, std::size_t count>
+consteval bool hasRowForEach(const Row (&rows)[count]) {
+    using Enum = std::remove_cvref_t<decltype(rows[0].*member)>;
+    for (std::size_t k = 0; k < count; ++k)
+        if (rows[k].*member != static_cast<Enum>(k)) return false;
+    return !isEnumerator<static_cast<Enum>(count)>();
+}
+
+// The row of an enumerator in such a table.
+template <class Row, std::size_t count, class Enum>
+constexpr const Row& rowOf(const Row (&rows)[count], Enum enumerator) {
+    return rows[static_cast<std::size_t>(enumerator)];
+}
+
+} // namespace talux
+
+#endif
