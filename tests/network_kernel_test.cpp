@@ -49,7 +49,10 @@ protected:
             "T104_ETH_MA_4=255.255.255.128 DNS=192.0.2.8 TIMEZONE=/tmp/zone NTP1=192.0.2.1 NTP2=192.0.2.2");
         fs::remove("/tmp/record");
     }
-    void TearDown() override { runs("ip link del eth0; ip link del eth1"); }
+    void TearDown() override {
+        runs("ip link del eth0; ip link del eth1");
+        fs::remove("/tmp/output");
+    }
 
     static std::string networkAfter(const char* settings, int (*apply)() = VarSetSystemIPs) {
         put(settings);

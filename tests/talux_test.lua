@@ -266,4 +266,5 @@ case("calls come on time, and those that are late are left out", function()
   equal(calls[2] >= 4 and calls[#calls] >= 8, true, "the calls " .. table.concat(calls, " "))
 end)
 
+os.execute "rm -rf $LOCPATH"
 check.finish()

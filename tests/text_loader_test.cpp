@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int kLanguage = 10000;
-const std::string kFile = "/tmp/texts.txt";
+const std::string kFile = "/tmp/texts.txt", kFifo = "/tmp/texts.fifo";
 const std::string kSentinel = "TXT_NULL\t0\t0\t0\t0\t\"***\"\n";
 
 class TextLoader : public testing::Test {
@@ -32,6 +32,10 @@ protected:
         LoadDefParamStrings();
         Data_StringReset();
         VarSetEnumValue(kLanguage, kEnglish);
+    }
+    void TearDown() override {
+        for (const std::string& file : {kFile, kFifo})
+            std::filesystem::remove(file);
     }
 };
 using TextLoaderDeathTest = TextLoader;
@@ -114,19 +118,19 @@ TEST_F(TextLoader, TakesLinesUpToTheLongestAndAFullTable) {
 
 // Slowly through a FIFO, while a timer interrupts.
 TEST_F(TextLoader, GoesOnAfterSignals) {
-    const std::string path = "/tmp/texts.fifo", content = kSentinel + title("VAR_Name", "slow");
-    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    const std::string content = kSentinel + title("VAR_Name", "slow");
+    ASSERT_EQ(mkfifo(kFifo.c_str(), 0600), 0);
     struct sigaction action {};
     action.sa_handler = [](int) {};
     sigaction(SIGALRM, &action, nullptr);
     std::thread writer([&] {
         usleep(20000);
-        std::ofstream fifo(path);
+        std::ofstream fifo(kFifo);
         for (const char c : content)
             fifo << c << std::flush, usleep(2000);
     });
     ualarm(1000, 1000);
-    LoadParamStrings(std::string(path).data());
+    LoadParamStrings(std::string(kFifo).data());
     ualarm(0, 0);
     writer.join();
     EXPECT_EQ(titleOf(9000), "slow");

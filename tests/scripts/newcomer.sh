@@ -58,7 +58,7 @@ doing='making a fresh Debian 12:' quiet debootstrap --variant=minbase --include=
 chmod 755 "$scratch"
 cp /etc/resolv.conf "$machine/etc"
 mkdir -p "$machine$home"
-git clone -q "$project" "$machine$home"
+git clone -q --no-local "$project" "$machine$home" # whose files are its own, not links to those of the project
 # Its files belong to its users; the mode comes last, since a change of the owner takes some of it.
 find "$machine" -perm /7000 ! -type l -printf '%m %p\n' >"$scratch/modes"
 find "$machine" -printf '%U %G\n' | sort -u | while read -r user group; do
