@@ -43,6 +43,8 @@ public:
         return cycles;
     }
 
+    [[nodiscard]] talux::Settings settings() const { return talux::Settings(space[0]); }
+
     static bool signals(const Cycle& cycle, std::size_t function) {
         const auto word =
             static_cast<std::uint32_t>(cycle.outputs.words[Word::functions1 + (function - 1) / 32]);

@@ -257,6 +257,23 @@ TEST(DeskOutputs, FollowAssignmentPolarityAndOverrides) {
               1);
 }
 
+TEST(DeskStatistics, HoldMaximumMinimumAndMeanOfAnInterval) {
+    Bench bench;
+    bench.set(Setting<std::int32_t>{"stat_intervall"}, 1);
+    Statistics statistics;
+    int intervals = 0;
+    for (const Cycle& cycle :
+         bench.run("network isolated 20 kV\nload 100 A drift 0 %\nat 30 s load 300 A\nat 70 s end\n"))
+        intervals += statistics.add(cycle.values, kCycle, 3, bench.settings()) ? 1 : 0;
+    EXPECT_EQ(intervals, 1);
+    const talux::StatRecord_c0& record = statistics.record();
+    EXPECT_NEAR(record.I1_max, 300, 3);
+    EXPECT_NEAR(record.I1_av, 200, 3);
+    EXPECT_NEAR(record.U1_min, 11.547, 1e-3);
+    EXPECT_EQ(record.dT, 60);
+    EXPECT_EQ(record.EvCnt_qu2, 3);
+}
+
 // What a technician looks for: a reversed transformer shows in the power of its phase, and Ipol2 puts it
 // right.
 TEST(DeskMeter, ShowsWrongWiringAndItsCorrection) {

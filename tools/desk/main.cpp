@@ -111,6 +111,7 @@ int run(const desk::Scenario& scenario, const Options& options) {
     desk::Desk device(scenario, recordingsBeside(options.scenario));
     desk::Cycle cycle;
     Pace pace(options);
+    std::fputs("a model for learning and for trying scripts, no protection\n", log);
     report(log, follower.settings());
     for (bool ready = false;
          stopRequested == 0 && device.step(follower.settings(), desk::readOverrides(), cycle);) {

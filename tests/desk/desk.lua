@@ -1,0 +1,33 @@
+-- Beside the scenario "forward": snapshot, signals, reset button and overrides answer as docs/desk.md says.
+local talux = require "talux"
+
+local function await(what, condition)
+  local done
+  talux.every(20, function(k)
+    done = condition()
+    return not done and k < 400
+  end)
+  assert(done, what)
+end
+
+talux.apply {BAassign = {[3] = "qu2 ->F"}, qu2_SigDur = 3600}
+talux.update()
+
+talux.set("mw_req", 1)
+await("the snapshot was not taken", function() return talux.get "mw_req" == 0 end)
+assert(math.abs(talux.get "mw_U1p" - talux.get "U1_prim") < 0.1, "the snapshot is another network's")
+assert(math.abs(talux.get "mw_phi_U2" + 120) < 1)
+
+await("the relay does not follow", function() return talux.get "REL3" == 1 end)
+assert(talux.get "y_EarthFaultState" == 1 and talux.get "U0_prim" > 11)
+await("the fault was not cleared", function() return talux.get "y_EarthFaultState" == 0 end)
+assert(talux.get "REL3" == 1, "qu2_SigDur keeps the signal")
+talux.set("BE_Reset_Button", 1)
+await("the button does nothing", function() return talux.get "REL3" == 0 end)
+assert(talux.get "BE_Reset_Button" == 0)
+
+talux.set("OVR_BA_val", {[5] = 1})
+talux.set("OVR_BA_enable", 1)
+await("the override does nothing", function() return talux.get "REL5" == 1 end)
+talux.set("OVR_BA_enable", 0)
+await("the override stays", function() return talux.get "REL5" == 0 end)
