@@ -39,6 +39,11 @@ if(CMAKE_SYSTEM_PROCESSOR MATCHES arm)
   target_compile_options(talux_compile INTERFACE -Wno-psabi)
 endif()
 
+# Numbers are rounded to a double at every step, which the old floating-point unit of a PC does not do.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")
+  target_compile_options(talux_compile INTERFACE -msse2 -mfpmath=sse)
+endif()
+
 # Dates behind 2038-01-19 need a time of 64 bits, which glibc has for 32-bit processors from 2.34 on.
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   include(CheckCXXSourceCompiles)

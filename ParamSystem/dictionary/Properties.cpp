@@ -4,6 +4,7 @@
 
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/dictionary/Tables.h"
+#include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Assertion.h"
 #include "ParamSystem/support/Text.h"
 
@@ -60,6 +61,7 @@ const stParamProperties* findParameter(std::string_view name) {
 using namespace talux;
 
 int LoadDefParamProperties() {
+    os::getMemory(ParamProperties, sizeof *ParamProperties * static_cast<std::size_t>(kParameters + 1));
     std::copy_n(DefParamProperties, kParameters + 1, ParamProperties);
     return 1;
 }

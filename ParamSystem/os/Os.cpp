@@ -3,7 +3,9 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdarg>
+#include <cstdint>
 #include <cstdlib>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/utsname.h>
 #include <syslog.h>
@@ -104,6 +106,14 @@ void logError(const char* format, ...) {
 void machineName(char* name, std::size_t size) {
     utsname system{};
     copyText(name, size, uname(&system) == 0 ? system.machine : "");
+}
+
+void getMemory(void* table, std::size_t size) {
+    constexpr int kPopulateWrite = 23; // MADV_POPULATE_WRITE, which older headers do not have
+    const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+    const std::uintptr_t begin = reinterpret_cast<std::uintptr_t>(table);
+    char* const first = static_cast<char*>(table) - begin % page;
+    (void)madvise(first, size + begin % page, kPopulateWrite);
 }
 
 } // namespace talux::os

@@ -38,6 +38,10 @@ void sleepMicroseconds(unsigned microseconds);
 // The kernel's machine name; empty when it cannot be found out.
 void machineName(char* name, std::size_t size);
 
+// Gets the memory of a table that is about to be filled in one piece, where the kernel can (from Linux 5.14
+// on), instead of page by page.
+void getMemory(void* table, std::size_t size);
+
 } // namespace talux::os
 
 #endif

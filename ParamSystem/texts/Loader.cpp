@@ -80,6 +80,7 @@ using namespace talux;
 int LoadDefParamStrings() {
     if (areTextsOfFile) clearFrom(kTexts + 1);
     areTextsOfFile = false;
+    os::getMemory(ParamText, sizeof *ParamText * static_cast<std::size_t>(kTexts + 1));
     std::copy_n(DefParamText, kTexts + 1, ParamText);
     return 1;
 }

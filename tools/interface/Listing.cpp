@@ -13,6 +13,15 @@ using reference::File;
 using reference::Parameter;
 using reference::shortNumber;
 
+// Programs look rows up in the library that they run with, but for what is compiled into them.
+constexpr std::string_view kRebuild = "\n# Other programs need no rebuilding when access, level, minimum, "
+                                      "maximum, step, default, initial, length, "
+                                      "template or format change, or a row is added under an id that was "
+                                      "free (ParamProperties has 98 rows to spare).\n"
+                                      "# They do when id, name, kind, place or choices of a row change, or a "
+                                      "row goes: C++ programs have those compiled "
+                                      "in, all programs the places in shared memory.\n";
+
 std::string value(const Parameter& parameter, double number, const char* text) {
     return isText(parameter.row()) ? '"' + std::string(text) + '"' : shortNumber(number);
 }
@@ -102,7 +111,7 @@ std::string summary() {
         ++files[std::string(fileName(parameter.file()))];
     }
     return joined({"# ", std::to_string(rows), " rows: ", inWords(kinds),
-                   "\n# A commit copies: ", inWords(settings), "\n# Files hold: ", inWords(files), "\n"});
+                   "\n# A commit copies: ", inWords(settings), "\n# Files hold: ", inWords(files), kRebuild});
 }
 
 } // namespace
