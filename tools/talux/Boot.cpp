@@ -62,7 +62,7 @@ public:
             load(reference::File::address, [] { return VarLoadFile(addressFile().data(), 0); });
         say(applies
                 ? context.say("network, name server and clock are applied",
-                              "Netzwerk, Namensserver und Uhr sind angewendet")
+                              "Netzwerk, Nameserver und Uhr sind angewendet")
                 : context.say("network and clock are left alone: no device's processor; --apply applies them",
                               "Netzwerk und Uhr bleiben, wie sie sind: kein Prozessor eines Geräts; --apply "
                               "wendet sie an"));

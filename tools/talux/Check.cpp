@@ -1,4 +1,4 @@
-// talux check: what loading a file would do, line by line.
+// talux check: what a file contains, line by line, compared with the factory settings or another source.
 #include <memory>
 
 #include "tools/talux/Command.h"
@@ -62,11 +62,8 @@ void printText(const std::string& path, const Told& told, const Context& context
         printJudgement(path, judgement, context);
     if (told.untold > 0)
         print(fill(
-            context.say("{}: {} more lines are not told\n", "{}: {} weitere Zeilen sind nicht genannt\n"),
+            context.say("{}: {} more lines are not listed\n", "{}: {} weitere Zeilen sind nicht genannt\n"),
             {path, std::to_string(told.untold)}));
-    const auto counted = [&](auto count, const char* one, const char* several) {
-        return std::to_string(count) + (count == 1 ? one : several);
-    };
     print(fill(
         "{}: {}, {}, {}\n",
         {path,
@@ -121,11 +118,13 @@ Status run(const Options& options, const Context& context) {
 
 void addCheck(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "check", "what loading a file would do, line by line");
+    Subcommand command(
+        app, "check",
+        "what a file contains, line by line, compared with the factory settings or another source");
     command.option("FILE", options->files, "parameter files").required();
-    command.option(
-        "--against", options->against,
-        "what the values are now: default, live, staged, a file or a folder; default if not given");
+    command.option("--against", options->against,
+                   "what to compare with: default (factory settings), live, staged, a file or a folder; "
+                   "default if not given");
     command.flag("--json", options->json, "print JSON");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }

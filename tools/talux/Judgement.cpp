@@ -120,7 +120,7 @@ void Judge::judgeLine(const Entry& entry, Judgement& judgement) const {
     if (entry.line == 1 && hasMark)
         add(judgement, "mark",
             context.say(
-                "a byte order mark stands in front of it, so the line is not read: save the file without",
+                "a byte order mark precedes it, so the line is not read: save the file without one",
                 "davor steht ein Byte Order Mark, die Zeile wird deshalb nicht gelesen: ohne speichern"));
     else if (entry.form == LineForm::foreign)
         add(judgement, "foreign",
@@ -136,8 +136,8 @@ void Judge::judgeLine(const Entry& entry, Judgement& judgement) const {
                         "mehr als 254 Zeichen: der Rest wird als eigene Zeile gelesen"));
     if (entry.hasNul)
         add(judgement, "nul",
-            context.say("holds a NUL character: what stands behind it is not read",
-                        "enthält ein NUL-Zeichen: was dahinter steht, wird nicht gelesen"));
+            context.say("contains a NUL character: everything after it is not read",
+                        "enthält ein NUL-Zeichen: alles danach wird nicht gelesen"));
 }
 
 void Judge::judgeSkipped(const Entry& entry, const Effect& effect, Judgement& judgement) const {
@@ -163,16 +163,15 @@ void Judge::judgeSkipped(const Entry& entry, const Effect& effect, Judgement& ju
         }
         const bool hasComma = std::strchr(entry.value, ',') != nullptr;
         std::string text =
-            fill(context.say("'{}' is no number; is skipped", "'{}' ist keine Zahl; wird übergangen"),
+            fill(context.say("'{}' is not a number; is skipped", "'{}' ist keine Zahl; wird übergangen"),
                  {printable(entry.value)});
-        if (hasComma)
-            text += context.say("; decimals stand behind a point", "; Dezimalen stehen hinter einem Punkt");
+        if (hasComma) text += context.say("; decimals need a point", "; Dezimalen brauchen einen Punkt");
         add(judgement, "no-number", std::move(text));
         break;
     }
     case Outcome::noSlot:
         add(judgement, "no-value",
-            context.say("keeps no value; is skipped", "behält keinen Wert; wird übergangen"));
+            context.say("holds no value; is skipped", "hat keinen speicherbaren Wert; wird übergangen"));
         break;
     case Outcome::noEntry:
     case Outcome::otherType:
@@ -189,7 +188,7 @@ void Judge::judgeStored(const Entry& entry, const Effect& effect, Judgement& jud
     judgement.to = storedAs(id, *effect.value);
     if (earlier != seen.end())
         add(judgement, "again",
-            fill(context.say("stands in line {} too; this one counts",
+            fill(context.say("is also in line {}; this one is used",
                              "steht auch in Zeile {}; diese hier gilt"),
                  {std::to_string(earlier->second.line)}));
     seen.insert_or_assign(id, Seen{*judgement.to, entry.line});
@@ -200,8 +199,7 @@ void Judge::judgeStored(const Entry& entry, const Effect& effect, Judgement& jud
                         "hat keinen Wert; der leere Text wird geladen"));
     if (entry.tail == Tail::text)
         add(judgement, "tail",
-            context.say("what stands behind the value is not read",
-                        "was hinter dem Wert steht, wird nicht gelesen"));
+            context.say("the text after the value is not read", "der Text nach dem Wert wird nicht gelesen"));
     if (judgement.to->isText())
         judgeText(entry, judgement);
     else
@@ -215,7 +213,7 @@ void Judge::judgeNumber(const Entry& entry, double given, Judgement& judgement) 
     const Parameter& parameter = *judgement.parameter;
     if (const auto words = wordsBehind(entry.value); !words.empty())
         add(judgement, "tail",
-            fill(context.say("'{}' behind the number is not read", "'{}' hinter der Zahl wird nicht gelesen"),
+            fill(context.say("'{}' after the number is not read", "'{}' nach der Zahl wird nicht gelesen"),
                  {printable(words)}));
     if (!isInRange(parameter, given))
         add(judgement, "range",
@@ -226,7 +224,8 @@ void Judge::judgeNumber(const Entry& entry, double given, Judgement& judgement) 
     const double lost = std::abs(kept - given);
     if (isWhole(parameter) ? kept != given : lost > 1e-6 * std::abs(given))
         add(judgement, "rounded",
-            fill(context.say("is kept as {}", "wird als {} gehalten"), {plain(parameter, *judgement.to)}));
+            fill(context.say("is stored as {}", "wird als {} gespeichert"),
+                 {plain(parameter, *judgement.to)}));
 }
 
 void Judge::judgeText(const Entry& entry, Judgement& judgement) const {
@@ -235,7 +234,8 @@ void Judge::judgeText(const Entry& entry, Judgement& judgement) const {
     const int meant = parameter.row().val_len;
     if (entry.isQuoted && !entry.isClosed)
         add(judgement, "unclosed",
-            context.say("the closing quote is missing", "das schließende Anführungszeichen fehlt"));
+            context.say("there is no closing quote before the end of the line or a second =",
+                        "vor dem Zeilenende oder einem zweiten = fehlt das schließende Anführungszeichen"));
     if (!entry.isQuoted && given.find('"') != given.npos)
         add(judgement, "quote",
             context.say("the quotes become part of the text: the value does not begin with one",
@@ -250,28 +250,28 @@ void Judge::judgeText(const Entry& entry, Judgement& judgement) const {
                  {std::to_string(kept.size())}));
     else if (meant > 0 && width(kept) > static_cast<std::size_t>(meant))
         add(judgement, "long",
-            fill(context.say("{} characters; at most {} are meant",
+            fill(context.say("{} characters; intended for at most {}",
                              "{} Zeichen; vorgesehen sind höchstens {}"),
                  {std::to_string(width(kept)), std::to_string(meant)}));
     if (!isUtf8(kept))
         add(judgement, "encoding",
-            context.say("is no UTF-8 text and will not be shown as meant",
-                        "ist kein UTF-8-Text und wird nicht wie gemeint angezeigt"));
+            context.say("is not UTF-8 and will not be displayed correctly",
+                        "ist kein UTF-8-Text und wird nicht richtig angezeigt"));
     if (isAddress(parameter.row()) && !isAddressText(kept))
         add(judgement, "address",
-            context.say("is no address: four numbers of 0 to 255 with points between them",
+            context.say("is not an address: four numbers of 0 to 255 with points between them",
                         "ist keine Adresse: vier Zahlen von 0 bis 255 mit Punkten dazwischen"));
     else if (parameter.row().type == kTypeIpMask && !isNetmask(kept))
         add(judgement, "netmask",
-            context.say("is no netmask: its ones do not stand in front",
-                        "ist keine Netzmaske: die Einsen stehen nicht vorn"));
+            context.say("is not a netmask: its ones are not contiguous",
+                        "ist keine Netzmaske: die Einsen sind nicht zusammenhängend"));
 }
 
 void Judge::judgePlace(Judgement& judgement) const {
     const Parameter& parameter = *judgement.parameter;
     if (expected && parameter.file() != *expected)
         add(judgement, "other-file",
-            fill(context.say("belongs into {}: is loaded here, but saved there",
+            fill(context.say("belongs in {}: is loaded from here, but saved there",
                              "gehört in {}: wird von hier geladen, aber dort gespeichert"),
                  {reference::fileName(parameter.file())}));
     if (expected == reference::File::security && parameter.name() == "sec_mode" &&

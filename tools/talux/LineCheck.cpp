@@ -28,7 +28,7 @@ std::string unitBehind(const Parameter& parameter) {
 
 std::string unknownName(std::string_view name, const Context& context) {
     if (name == kepl::VariableTerm().name)
-        return context.say("there is no name behind the prefix", "hinter dem Vorsatz steht kein Name");
+        return context.say("there is no name after the prefix", "hinter dem Vorsatz steht kein Name");
     std::string text =
         fill(context.say("no parameter is named {}", "kein Parameter heißt {}"), {printable(name)});
     if (const auto near = reference::nearest(name); !near.empty())
@@ -50,7 +50,7 @@ std::string syntaxReason(const Decision& decision, const Context& context) {
     }
     if (decision.row == nullptr) return unknownName(decision.variable.name, context);
     const std::string value = printable(decision.variable.value.value_or(""));
-    if (value.empty()) return context.say("there is no value behind =", "hinter = steht kein Wert");
+    if (value.empty()) return context.say("there is no value after =", "hinter = steht kein Wert");
     switch (typeOf(*decision.row).nature) {
     case Nature::date:
         return fill(context.say("'{}' is no date: YYYY-MM-DD", "'{}' ist kein Datum: JJJJ-MM-TT"), {value});
@@ -71,7 +71,7 @@ std::string rightsReason(const Decision& decision, const Context& context) {
         const bool isShell = decision.command == kepl::Command::shell;
         if (!isShell) level = rowOf(kepl::kCommands, decision.command).lowestUid;
     }
-    return fill(context.say("takes rights level {}", "verlangt Rechtestufe {}"), {std::to_string(level)});
+    return fill(context.say("needs rights level {}", "verlangt Rechtestufe {}"), {std::to_string(level)});
 }
 
 std::string elementsOf(const stParamProperties& row, const Context& context) {
@@ -124,6 +124,7 @@ private:
     bool saysValue = true;                    // whether the top of the stack is the answer so far
     bool topIsZero = false;                   // a literal 0 lies on top
     const Parameter* numberWritten = nullptr; // by the term before
+    std::string_view written;                 // by it
 
     void add(std::size_t at, std::string text, bool isRefusal = false) {
         findings.push_back({at, std::move(text), isRefusal});
@@ -159,6 +160,7 @@ private:
         if (decision.isVariable) lookAtVariable(piece);
         numberWritten =
             decision.action == Action::write && !isText(*decision.row) ? parameterOf(decision) : nullptr;
+        written = decision.variable.value.value_or("");
         return true;
     }
 
@@ -171,11 +173,10 @@ private:
             if (numberWritten != nullptr && piece.isLast)
                 add(placeOf(piece),
                     fill(context.say(
-                             "is not answered behind a write; were decimals of {} meant, they stand behind a "
-                             "point",
-                             "wird hinter einem Schreiben nicht geantwortet; Dezimalen von {} stünden hinter "
-                             "einem Punkt"),
-                         {numberWritten->name()}));
+                             "{} becomes {}: a comma ends the term. For {}.{} write TLX_{}={}.{}",
+                             "{} wird {}: ein Komma beendet den Term. Für {}.{} schreiben Sie TLX_{}={}.{}"),
+                         {numberWritten->name(), written, written, piece.text, numberWritten->name(), written,
+                          piece.text}));
             ++depth;
             topIsZero = decision.value->number() == 0;
             return true;
@@ -252,7 +253,7 @@ private:
                           "the text begins with a quote and loses its last character, which is none",
                           "der Text beginnt mit einem Anführungszeichen und verliert sein letztes Zeichen, "
                           "das keines ist")
-                    : context.say("a comma ends the text, whatever stands around it",
+                    : context.say("a comma always ends the text, even in quotes",
                                   "ein Komma beendet den Text, was auch immer ihn umgibt"));
         const auto room = static_cast<std::size_t>(parameter.textRoom());
         const std::string_view text = given.text();
@@ -371,7 +372,7 @@ constexpr Reason kReasons[] = {
     {Refusal::indexNotANumber,
      [](const Decision&, const Context& context) -> std::string {
          return context.say(
-             "behind the name stands an index, a range as 1.5, or an option: -p, -c, -h",
+             "after the name comes an index, a range such as 1.5, or an option: -p, -c, -h",
              "hinter dem Namen steht ein Index, ein Bereich wie 1.5 oder eine Option: -p, -c, -h");
      }},
     {Refusal::syntaxError, syntaxReason},

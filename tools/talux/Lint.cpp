@@ -46,7 +46,7 @@ public:
 
     void finish(const Context& context) const {
         if (isFull())
-            print(fill(context.say("{}: {} findings are told, more are not looked for\n",
+            print(fill(context.say("{}: {} findings are listed, further ones are not searched for\n",
                                    "{}: {} Befunde sind genannt, weitere nicht gesucht\n"),
                        {name, std::to_string(count)}));
     }

@@ -201,7 +201,7 @@ void addReport(CLI::App& app, Commands& commands) {
     Subcommand command(app, "report", "a settings record to print and sign, as HTML");
     command.option("SOURCE", options->source, "live, staged, default, a file or a folder").required();
     command.option("-o,--output", options->output, "write it to this file");
-    command.option("--title", options->title, "what stands above it");
+    command.option("--title", options->title, "title of the record");
     command.flag("--changed", options->changed, "only what is not the factory setting");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }

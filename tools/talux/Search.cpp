@@ -23,10 +23,11 @@ std::vector<const Parameter*> search(const std::vector<std::string>& words) {
 }
 
 void Filter::addTo(Subcommand& command) {
-    command.option("--family", family, "of families whose name holds this, in English or German");
-    command.option("--file", file, "kept in the file whose name begins so: parameter, sec, ip");
-    command.option("--level", level, "that this rights level is needed to write: 1, 2 or 3");
-    command.option("--search", words, "whose texts hold all of these words").divided(' ');
+    command.option("--family", family, "only families whose name contains this, in English or German");
+    command.option("--file", file,
+                   "only settings saved in the file whose name begins so: parameter, sec, ip");
+    command.option("--level", level, "only parameters that need this rights level to write: 1, 2 or 3");
+    command.option("--search", words, "only parameters whose texts contain all of these words").divided(' ');
 }
 
 bool Filter::accepts(const Parameter& parameter) const {

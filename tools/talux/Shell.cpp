@@ -25,27 +25,31 @@ struct Options {
 };
 
 constexpr const char* kHelpEnglish =
-    R"(A line holds terms with commas between them, carried out from left to right.
+    R"(A line is a list of terms separated by commas, executed from left to right.
   TLX_NAME [-p|-c|-h]        read a parameter or a record
   TLX_NAME 5, TLX_NAME 1.5   read elements; -p values only, -c in one line, -h bytes
-  TLX_NAME = VALUE           write; settings are staged until update, save or a load
-  load, load_ip, load_sec [FILE]    load a parameter file and make it live
-  save, save_ip, save_sec           make everything staged live and write the file
-  update                     make everything staged live
+  TLX_NAME = VALUE           write; settings are pending until update, save or a load;
+                             interface addresses and the clock act at once
+  load [FILE], load_ip [FILE], load_sec    load a parameter file and make everything
+                             pending live
+  save, save_ip, save_sec    make everything pending live and write the file; no name
+  update                     make everything pending live
   + - * / sin cos tan deg rad sqr sqrt    operands first: TLX_U12,1000,/
   system COMMAND             run a shell command (level 3)
   help NAME                  explain a parameter
-  quit                       end, as ctrl-D; ctrl-C gives a line up, Tab completes
+  quit                       end, like ctrl-D; ctrl-C discards the line, Tab completes
 )";
 
 constexpr const char* kHelpGerman =
-    R"(Eine Zeile enthält Terme mit Kommas dazwischen, ausgeführt von links nach rechts.
+    R"(Eine Zeile besteht aus Termen, durch Kommas getrennt, ausgeführt von links nach rechts.
   TLX_NAME [-p|-c|-h]        einen Parameter oder Datensatz lesen
   TLX_NAME 5, TLX_NAME 1.5   Elemente lesen; -p nur Werte, -c in einer Zeile, -h Bytes
-  TLX_NAME = WERT            schreiben; Einstellungen warten auf update, save oder ein load
-  load, load_ip, load_sec [DATEI]   eine Parameterdatei laden und aktivieren
-  save, save_ip, save_sec           alles Anstehende aktivieren und die Datei schreiben
-  update                     alles Anstehende aktivieren
+  TLX_NAME = WERT            schreiben; Einstellungen sind ausstehend bis update, save oder load;
+                             Schnittstellenadressen und Uhr wirken sofort
+  load [DATEI], load_ip [DATEI], load_sec  eine Parameterdatei laden und alles Ausstehende
+                             gültig machen
+  save, save_ip, save_sec    alles Ausstehende gültig machen und die Datei schreiben; ohne Namen
+  update                     alles Ausstehende gültig machen
   + - * / sin cos tan deg rad sqr sqrt    Operanden zuerst: TLX_U12,1000,/
   system BEFEHL              einen Shell-Befehl ausführen (Stufe 3)
   help NAME                  einen Parameter erklären

@@ -93,10 +93,13 @@ Report reportOn(const Context& context) {
 void printChange(const Change& change, const Context& context) {
     const Paint paint;
     const char* const pattern = change.isThere
-                                    ? context.say("{} would change {} in {}", "{} würde {} ändern in {}")
+                                    ? context.say("{} would change {} in {}", "{} würde {} in {} ändern")
                                     : context.say("{} would write {} to {}, which is not there",
-                                                  "{} würde {} schreiben nach {}, das nicht da ist");
-    const auto head = fill(pattern, {change.command, std::to_string(change.pending.size()), change.place});
+                                                  "{} würde {} nach {} schreiben, das noch nicht existiert");
+    const auto head =
+        fill(pattern, {change.command,
+                       counted(change.pending.size(), context.say("", " Wert"), context.say("", " Werte")),
+                       change.place});
     print(paint.bold(head) + "\n");
     if (!change.isThere) return;
     Table table;
@@ -123,9 +126,10 @@ void printText(const Report& report, const Context& context) {
     for (const auto& [parameter, finding] : report.losses)
         print(fill("{}: {}\n", {parameter->name(), finding.text}));
     for (const std::string& flag : report.flags)
-        print(fill(context.say("{} is raised: another program has not yet taken it up\n",
-                               "{} ist gesetzt: ein anderes Programm hat es noch nicht übernommen\n"),
-                   {flag}));
+        print(
+            fill(context.say("{} is set: another program has not yet taken up the change\n",
+                             "{} ist gesetzt: ein anderes Programm hat die Änderung noch nicht übernommen\n"),
+                 {flag}));
 }
 
 void printReport(const Report& report) {

@@ -27,6 +27,12 @@ bool fits(std::string_view name, std::string_view pattern);
 // For text that comes from files: control characters and what is no UTF-8 become "\xNN".
 std::string printable(std::string_view text);
 
+// "1 setting", "3 settings": the number and one of the words, which begin with a blank.
+template <typename Number>
+std::string counted(Number count, const char* one, const char* several) {
+    return std::to_string(count) + (count == 1 ? one : several);
+}
+
 // Colours, on a terminal only and unless NO_COLOR is set.
 class Paint {
 public:
