@@ -6,8 +6,10 @@
 #include <sys/utsname.h>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/os/Os.h"
 #include "tools/talux/Command.h"
 #include "tools/talux/Show.h"
+#include "tools/talux/StoredFile.h"
 #include "tools/talux/Text.h"
 
 namespace talux::tool {
@@ -17,6 +19,7 @@ namespace {
 struct Options {
     bool apply = false;
     bool again = false;
+    bool fallback = false;
 };
 
 // The names that the kernel has for the processors of the boards.
@@ -45,8 +48,8 @@ bool isRunning(const Context& context) {
 
 class Boot {
 public:
-    Boot(const Options& options, const Context& person)
-        : context(person), applies(options.apply || isDevicesProcessor()) {}
+    Boot(const Options& given, const Context& person)
+        : options(given), context(person), applies(given.apply || isDevicesProcessor()) {}
 
     Status run() {
         std::string directory = context.directory;
@@ -66,13 +69,16 @@ public:
                 : context.say("network and clock are left alone: no device's processor; --apply applies them",
                               "Netzwerk und Uhr bleiben, wie sie sind: kein Prozessor eines Geräts; --apply "
                               "wendet sie an"));
-        return complete ? kNothing : kCouldNot;
+        if (!found.empty()) os::logError("talux boot: %s", found.c_str());
+        return status;
     }
 
 private:
+    const Options& options;
     const Context& context;
     const bool applies;
-    bool complete = true;
+    Status status = kNothing;
+    std::string found; // what is wrong with the files, for the system log
 
     static std::string addressFile() { return std::string(szParameterPath) + "/ip_config.ini"; }
 
@@ -81,26 +87,88 @@ private:
         std::fflush(stdout); // the commands that apply settings write there too
     }
 
-    void load(reference::File file, int (*loadFile)()) {
+    void remember(Status reached, const std::string& text) {
+        status = std::max(status, reached);
+        found += (found.empty() ? "" : "; ") + text;
+        say(text);
+    }
+
+    // Whether it has been loaded.
+    bool load(reference::File file, int (*loadFile)()) {
         const std::string path = pathOf(file, context);
         if (!isThere(path)) {
             say(fill(context.say("{}: not there, the defaults stay",
                                  "{}: nicht da, die Werkseinstellungen bleiben"),
                      {path}));
-            return;
+            return false;
         }
-        const bool loaded = loadFile() == 1;
-        complete = complete && loaded;
-        say(fill(loaded ? context.say("{}: loaded", "{}: geladen")
-                        : context.say("{}: could not be loaded", "{}: ließ sich nicht laden"),
-                 {path}));
+        const StoredFile stored = lookAt(path, file, context);
+        if (!stored.isUsable()) {
+            remember(stored.unreadable.empty() ? kFound : kCouldNot, whyUnusable(path, stored));
+            fallBack(file);
+            return false;
+        }
+        const std::string text = whatIsIn(path, stored);
+        if (loadFile() != 1)
+            remember(kCouldNot,
+                     fill(context.say("{}: could not be loaded", "{}: ließ sich nicht laden"), {path}));
+        else if (stored.isComplete())
+            say(text);
+        else
+            remember(kFound, text);
+        return true;
     }
 
-    // Without the file the factory addresses are applied.
+    std::string whyUnusable(const std::string& path, const StoredFile& stored) const {
+        if (!stored.unreadable.empty())
+            return stored.unreadable + context.say("; the defaults stay", "; die Werkseinstellungen bleiben");
+        return fill(stored.lines == 0 ? context.say("{}: empty, the defaults stay",
+                                                    "{}: leer, die Werkseinstellungen bleiben")
+                                      : context.say("{}: holds no setting, the defaults stay",
+                                                    "{}: enthält keine Einstellung, die Werkseinstellungen "
+                                                    "bleiben"),
+                    {path});
+    }
+
+    std::string whatIsIn(const std::string& path, const StoredFile& stored) const {
+        std::string text =
+            fill(context.say("{}: loaded, {} of {} settings", "{}: geladen, {} von {} Einstellungen"),
+                 {path, std::to_string(stored.settings), std::to_string(stored.expected)});
+        if (stored.findings > 0)
+            text += fill(context.say("; findings: {}, see talux check", "; Befunde: {}, siehe talux check"),
+                         {std::to_string(stored.findings)});
+        return text;
+    }
+
+    // To the newest dated copy in place of a file that holds nothing.
+    void fallBack(reference::File file) {
+        const auto copy = newestWholeCopy(file, context);
+        if (!copy) return;
+        if (!options.fallback)
+            return remember(kFound, fill(context.say("{} is the newest whole copy; --fallback loads it",
+                                                     "{} ist die neueste ganze Kopie; --fallback lädt sie"),
+                                         {*copy}));
+        std::string path = *copy;
+        const bool loaded = VarLoadFile(path.data(), 0) == 1;
+        keepEncryption(file);
+        raise(rowOf(kParameterFiles, file).flag);
+        remember(loaded ? kFound : kCouldNot,
+                 fill(loaded ? context.say("{}: loaded instead", "{}: stattdessen geladen")
+                             : context.say("{}: could not be loaded", "{}: ließ sich nicht laden"),
+                      {path}));
+    }
+
+    // As VarLoadSecParams: no file may switch it off.
+    static void keepEncryption(reference::File file) {
+        if (file != reference::File::security) return;
+        const int mode = reference::find("sec_mode")->row().id;
+        VarSetBoolValue(mode, 1);
+        VarSetGlobalBoolValue(mode, 1);
+    }
+
+    // Without a file the factory addresses are applied.
     void loadAndApplyAddresses() {
-        const bool there = isThere(pathOf(reference::File::address, context));
-        load(reference::File::address, VarLoadIPConfig);
-        if (!there) VarSetSystemIPs();
+        if (!load(reference::File::address, VarLoadIPConfig)) VarSetSystemIPs();
     }
 };
 
@@ -120,6 +188,7 @@ void addBoot(CLI::App& app, Commands& commands) {
     Subcommand command(app, "boot", "what a boot script does: defaults, then the three files");
     command.flag("--apply", options->apply, "apply network and clock on any processor");
     command.flag("--again", options->again, "also on a device that runs");
+    command.flag("--fallback", options->fallback, "load the newest dated copy in place of an unusable file");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

@@ -1,0 +1,74 @@
+#include "tools/talux/StoredFile.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+#include <vector>
+
+#include "tools/talux/Judgement.h"
+
+namespace talux::tool {
+
+namespace {
+
+std::set<int> settingsOf(reference::File file) {
+    std::set<int> ids;
+    for (const Parameter& parameter : reference::parameters())
+        if (parameter.isSetting() && parameter.file() == file) ids.insert(parameter.row().id);
+    return ids;
+}
+
+int lastOf(const std::set<int>& ids) {
+    int last = 0;
+    for (int order = 1; const stParamProperties* row = GetParamPropertiesByOrder(order); ++order)
+        if (ids.contains(row->id)) last = row->id;
+    return last;
+}
+
+} // namespace
+
+StoredFile lookAt(const std::string& path, reference::File file, const Context& context) {
+    const std::set<int> expected = settingsOf(file);
+    const Source before = Source::defaults();
+    Judge judge(path, before, context);
+    StoredFile found;
+    std::set<int> seen;
+    try {
+        readEntries(path, context, [&](const Entry& entry) {
+            const Judgement judgement = judge.judge(entry);
+            ++found.lines;
+            found.findings += static_cast<int>(judgement.findings.size());
+            if (judgement.to && expected.contains(judgement.parameter->row().id))
+                seen.insert(judgement.parameter->row().id);
+            found.isTorn = found.isTorn || entry.hasNul || entry.form == LineForm::foreign;
+        });
+    } catch (const CouldNot& error) {
+        found.unreadable = error.what();
+    }
+    found.settings = static_cast<int>(seen.size());
+    found.expected = static_cast<int>(expected.size());
+    found.isTorn = found.isTorn || !seen.contains(lastOf(expected));
+    return found;
+}
+
+std::optional<std::string> newestWholeCopy(reference::File file, const Context& context) {
+    const std::string stem = std::string(rowOf(kParameterFiles, file).stem) + "_";
+    if (stem == "_") return {};
+    std::vector<std::string> names;
+    std::error_code error;
+    const std::string folder = context.directory.empty() ? "/" : context.directory;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::string name = entry->path().filename().string();
+        if (name.starts_with(stem) && name.ends_with(".ini")) names.push_back(std::move(name));
+    }
+    std::ranges::sort(names, std::greater()); // their names are their dates
+    for (const std::string& name : names) {
+        std::string path = context.directory + "/" + name;
+        const StoredFile copy = lookAt(path, file, context);
+        if (copy.isUsable() && !copy.isTorn) return path;
+    }
+    return {};
+}
+
+} // namespace talux::tool

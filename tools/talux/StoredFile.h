@@ -1,0 +1,33 @@
+// One of the three parameter files looked at before it is loaded: a load ends the program where it cannot
+// read.
+#ifndef TALUX_TOOLS_TALUX_STOREDFILE_H
+#define TALUX_TOOLS_TALUX_STOREDFILE_H
+
+#include <optional>
+#include <string>
+
+#include "tools/talux/Source.h"
+
+namespace talux::tool {
+
+struct StoredFile {
+    std::string unreadable; // the reason; empty when all of it has been read
+    int lines = 0;
+    int settings = 0; // of those that a save writes there; none: there is nothing to load
+    int expected = 0;
+    int findings = 0;    // as `check` counts them, but for the lines that it does not show
+    bool isTorn = false; // lines that no save writes, or the last setting of a save is missing
+
+    bool isUsable() const { return unreadable.empty() && settings > 0; }
+    bool isComplete() const { return isUsable() && settings == expected && findings == 0; }
+};
+
+StoredFile lookAt(const std::string& path, reference::File file, const Context& context);
+
+// The dated copy with the latest date that is usable and not torn. One of an older version lacks new
+// settings.
+std::optional<std::string> newestWholeCopy(reference::File file, const Context& context);
+
+} // namespace talux::tool
+
+#endif
