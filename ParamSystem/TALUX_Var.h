@@ -259,7 +259,7 @@ TALUX_API int VarUpdateGlobalSpace(void);
  * Text files of lines TLX_<name>=<value> in szParameterPath: parameter.ini (levels 1 and 2),
  * sec_parameter.ini (level 3), ip_config.ini (addresses) and the factory addresses def_ip_config.ini.
  * They are written from the global space and loaded into the temporary space, then committed. Messages go
- * to the error stream or standard output as told in docs/architecture.md; docs/files.md tells the format.
+ * to the error stream or standard output, see docs/architecture.md; docs/files.md describes the format.
  *
  * A save replaces the file as a whole: whoever reads it, also after a cut of the power, finds the old one or
  * the new one. Several processes and threads may save at once; the last one counts. A save needs 48 kB of

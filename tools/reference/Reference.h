@@ -43,8 +43,8 @@ public:
     bool hasNumber() const { return type().nature == Nature::number; }
     bool hasMinimum() const { return row().val_min != kNoMin; }
     bool hasMaximum() const { return row().val_max != kNoMax; }
-    // The least number that stands for something: choices count from 1 where nothing else is told. A write
-    // does not see to that.
+    // The least number with a meaning: choices count from 1 unless a minimum is specified. A write does not
+    // check it.
     double leastNumber() const;
     File file() const { return fileOf(row()); }
     // Rights level that a write takes; 0 where nothing can be written.
