@@ -194,6 +194,7 @@ TEST_F(TaluxStore, FingerprintsKnowSettingsAlone) {
     EXPECT_EQ(digest("# other order\n[x]\n" + joined("\r\n") +
                      "TLX_Date=\"1999-01-01\"\nTLX_Nonsense=1\nTLX_U1_prim=4\n"),
               wanted);
+    EXPECT_EQ(digest("TLX_phi_corr_U0=-0\n"), digest("TLX_phi_corr_U0=0\n"));
     for (const char* change : {"TLX_Uearth=30.5\n", "TLX_Name=\"x\"\n", "TLX_Language=2\n"})
         EXPECT_NE(digest(joined("\n") + change), wanted) << change;
 }
@@ -266,6 +267,23 @@ lint a.ini
     EXPECT_EQ(run("talux boot 2>&1").status, 2); // once is enough
     EXPECT_EQ(image(), before);
     EXPECT_EQ(files(), listed);
+}
+
+TEST_F(TaluxStore, PatternsAndLongWordsTakeNoTime) {
+    EXPECT_EQ(run("timeout 5 talux list '" + repeated(40, "*a") + "x'").output, "");
+    EXPECT_EQ(run("talux list '*e*r?h' | cut -d' ' -f1").output, "Uearth\n");
+    EXPECT_EQ(run("timeout 5 talux explain " + std::string(100000, 'u') + " 2>&1 | wc -l").output, "1\n");
+}
+
+TEST_F(TaluxStore, RowsAreQuotedAndNotMadeUpForAStandstill) {
+    char text[] = "a \"b\", c";
+    VarSetGlobalValue(GetParamPropertiesByName(const_cast<char*>("Name"))->id, asValue(text));
+    const Ended watched =
+        run("talux watch --csv --period 0.1 --count 6 Name >rows & talux=$!; sleep 0.15; "
+            "kill -STOP $talux; sleep 1; kill -CONT $talux; wait $talux; "
+            "tail -1 rows | cut -d, -f2-; cut -c1-21 rows | uniq | wc -l | tr 67 y; rm rows");
+    EXPECT_EQ(watched.output, "\"a \"\"b\"\", c\"\ny\n"); // six rows and their heading, at most two of them
+                                                          // in one tenth of a second
 }
 
 TEST_F(TaluxStore, HostileFilesEndInFindingsOrAnError) {

@@ -70,6 +70,8 @@ std::string_view nearest(std::string_view name) {
     std::size_t least = std::max<std::size_t>(1, wanted.size() / 3) + 1;
     std::string_view best;
     for (const auto& [known, place] : nameIndex()) {
+        const std::size_t longer = std::max(wanted.size(), known.size());
+        if (longer - std::min(wanted.size(), known.size()) >= least) continue; // as many steps at least
         const std::size_t steps = distance(wanted, known);
         if (steps >= least) continue;
         least = steps;

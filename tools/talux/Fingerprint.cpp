@@ -32,6 +32,12 @@ reference::File fileCalled(const std::string& name, const Context& context) {
              {printable(name)}));
 }
 
+// -0 is the same setting as 0.
+std::string withoutMinusZero(std::string form) {
+    const bool isMinusZero = form.starts_with('-') && form.find_first_not_of("-0.") == form.npos;
+    return isMinusZero ? form.substr(1) : form;
+}
+
 Status run(const Options& options, const Context& context) {
     const Source source = Source::open(options.source, context);
     const Listing listing = listingOf(source, fileCalled(options.file, context));
@@ -51,7 +57,8 @@ Listing listingOf(const Source& source, reference::File only) {
         if (!parameter.isSetting() || isOfClock(parameter)) continue;
         if (only != reference::File::none && parameter.file() != only) continue;
         if (const auto value = source.value(parameter))
-            lines.push_back(fill("TLX_{}={}\n", {parameter.name(), fileForm(parameter, *value)}));
+            lines.push_back(
+                fill("TLX_{}={}\n", {parameter.name(), withoutMinusZero(fileForm(parameter, *value))}));
     }
     std::ranges::sort(lines);
     Listing listing{{}, static_cast<int>(lines.size())};

@@ -36,14 +36,25 @@ bool isEscape(std::string_view cell, std::size_t at) {
     return cell[at] == '\033';
 }
 
+// In time linear in the name for each "*": what the last one stands for grows only.
 bool fitsPattern(std::string_view name, std::string_view pattern) {
-    if (pattern.empty()) return name.empty();
-    if (pattern[0] == '*')
-        return fitsPattern(name, pattern.substr(1)) ||
-               (!name.empty() && fitsPattern(name.substr(1), pattern));
-    if (name.empty()) return false;
-    const bool same = pattern[0] == '?' || lowerAscii(pattern[0]) == lowerAscii(name[0]);
-    return same && fitsPattern(name.substr(1), pattern.substr(1));
+    std::size_t n = 0, p = 0, star = pattern.npos, starName = 0;
+    while (n < name.size()) {
+        if (p < pattern.size() && pattern[p] == '*') {
+            star = p++;
+            starName = n;
+        } else if (p < pattern.size() &&
+                   (pattern[p] == '?' || lowerAscii(pattern[p]) == lowerAscii(name[n]))) {
+            ++n;
+            ++p;
+        } else if (star == pattern.npos) {
+            return false;
+        } else {
+            p = star + 1;
+            n = ++starName;
+        }
+    }
+    return pattern.find_first_not_of('*', p) == pattern.npos;
 }
 
 } // namespace

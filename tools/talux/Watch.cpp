@@ -117,9 +117,14 @@ std::string timeOfDay() {
     return std::string(text) + milliseconds;
 }
 
+// Texts come in quotes and keep them; a quote inside is doubled.
 std::string csvCell(const std::string& text) {
-    if (text.find_first_of(",\"") == text.npos || text.starts_with('"')) return text;
-    return fill("\"{}\"", {text});
+    const bool isText = text.size() > 1 && text.starts_with('"');
+    if (!isText && text.find_first_of(",\"") == text.npos) return text;
+    std::string cell = "\"";
+    for (const char c : isText ? text.substr(1, text.size() - 2) : text)
+        cell.append(c == '"' ? 2 : 1, c);
+    return cell + '"';
 }
 
 void printCsv(const std::string& first, const std::vector<std::string>& cells) {
@@ -128,6 +133,29 @@ void printCsv(const std::string& first, const std::vector<std::string>& cells) {
         line += fill(",{}", {csvCell(cell)});
     print(line + "\n");
 }
+
+// The moments of the looks. Those that went by while the program or the machine was stopped are left out.
+class Pace {
+public:
+    explicit Pace(double seconds)
+        : period(std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds))) {}
+
+    // False when it is stopped.
+    bool wait() {
+        const auto now = Clock::now();
+        next += period;
+        if (next < now) next += (now - next) / period * period;
+        const auto left = std::chrono::duration_cast<std::chrono::nanoseconds>(next - now).count();
+        if (left <= 0) return stopRequested == 0;
+        const timespec pause{static_cast<time_t>(left / 1000000000), static_cast<long>(left % 1000000000)};
+        return nanosleep(&pause, nullptr) == 0 || stopRequested == 0;
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+    const Clock::duration period;
+    Clock::time_point next = Clock::now();
+};
 
 class Screen {
 public:
@@ -177,8 +205,9 @@ Status run(const Options& options, const Context& context) {
         labels.push_back(item.label);
     if (options.csv) printCsv(context.say("time", "Zeit"), labels);
     Screen screen(items, context);
-    auto next = std::chrono::steady_clock::now();
-    for (long k = 0; stopRequested == 0 && (options.count == 0 || k < options.count); ++k) {
+    Pace pace(options.period);
+    for (long k = 0; options.count == 0 || k < options.count; ++k) {
+        if (k > 0 && !pace.wait()) break;
         std::vector<std::string> values;
         values.reserve(items.size());
         for (const Item& item : items)
@@ -188,16 +217,6 @@ Status run(const Options& options, const Context& context) {
         else
             screen.show(values);
         if (std::fflush(stdout) != 0) break;
-        next += std::chrono::duration_cast<std::chrono::steady_clock::duration>(
-            std::chrono::duration<double>(options.period));
-        const auto left = next - std::chrono::steady_clock::now();
-        const auto microseconds = std::chrono::duration_cast<std::chrono::microseconds>(left).count();
-        const bool isLast = options.count != 0 && k + 1 == options.count;
-        if (microseconds > 0 && !isLast) {
-            const timespec pause{static_cast<time_t>(microseconds / 1000000),
-                                 static_cast<long>(microseconds % 1000000 * 1000)};
-            nanosleep(&pause, nullptr); // ends early when it is stopped
-        }
     }
     return kNothing;
 }
