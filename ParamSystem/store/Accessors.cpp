@@ -162,7 +162,9 @@ char* recordBytes(int id, VarLong size, const char* accessor) {
     const int struct_index = id - kFirstStruct;
     talux::assertThat(size <= ARR_StructSize[struct_index], "size <= ARR_StructSize[struct_index]",
                       TALUX_UNIT, accessor);
-    return size > 0 ? static_cast<char*>(pVarStruct) + ARR_StructOffset[struct_index] : nullptr;
+    const std::atomic_ref records(pVarStruct); // VarInit may set it meanwhile
+    char* const first = static_cast<char*>(records.load(std::memory_order_relaxed));
+    return size > 0 ? first + ARR_StructOffset[struct_index] : nullptr;
 }
 
 } // namespace
