@@ -108,8 +108,9 @@ TALUX_API int LoadDefParamProperties();
 // Reserved for loading properties from a file: does nothing, returns 1.
 TALUX_API int LoadParamProperties(char* sourcefile);
 
-// The first row in table order with this id, or null. Aborts on a negative id. A row whose id or name the
-// program gave to a second row, too, is found at the place where it was compiled in.
+// The first row in table order with this id, or null. Aborts on a negative id. A compiled-in row that still
+// has its id is found at its place, also when a program gave the id to a row before it or cleared one; names
+// alike.
 TALUX_API const stParamProperties* GetParamProperties(int id);
 
 // The row at a table position: 0 the opening sentinel, the parameters from 1 on. Null after the last of them,
