@@ -122,7 +122,7 @@ struct Limits {
 };
 
 // A float that is the nearest one to its limit is inside, though the limit itself may have no float.
-constexpr Refusal checkFloat(double value, Limits limits) {
+constexpr Result checkFloat(double value, Limits limits) {
     const double least = static_cast<float>(limits.min), most = static_cast<float>(limits.max);
     if (value != value) return Reason::notANumber;
     if (value < limits.min && value < least) return {Reason::tooLow, limits.min, limits.max};
@@ -131,7 +131,7 @@ constexpr Refusal checkFloat(double value, Limits limits) {
 }
 
 template <class Integer>
-constexpr Refusal checkInteger(Integer value, Limits limits) {
+constexpr Result checkInteger(Integer value, Limits limits) {
     if (std::cmp_less(value, static_cast<long long>(limits.min)))
         return {Reason::tooLow, limits.min, limits.max};
     if (std::cmp_greater(value, static_cast<long long>(limits.max)))
@@ -141,7 +141,7 @@ constexpr Refusal checkInteger(Integer value, Limits limits) {
 
 // Whether a setting of this type takes what is given without a change of its own.
 template <class Value, class Given>
-constexpr Refusal check(Given given, Limits limits) {
+constexpr Result check(Given given, Limits limits) {
     if constexpr (std::is_enum_v<Value>) {
         static_assert(std::is_same_v<Given, Value>, "the setting takes one of its choices");
         return checkInteger(static_cast<short>(given), limits);
@@ -161,10 +161,11 @@ constexpr Refusal check(Given given, Limits limits) {
 
 // Copies a text of at most `most` characters of UTF-8.
 template <class Value>
-Refusal copyText(std::string_view from, double most, Value& to) {
+Result copyText(std::string_view from, double most, Value& to) {
     int characters = 0;
     for (const char c : from) {
         if (c == '\0') return Reason::holdsNul;
+        if (c == '"' || c == '=' || (c >= 0 && c < ' ')) return Reason::notCarried;
         if ((static_cast<unsigned char>(c) & 0xC0U) != 0x80U) ++characters;
     }
     if (characters > most || from.size() > Value::kRoom) return {Reason::tooLong, 0.0, most};
@@ -234,11 +235,11 @@ public:
     void set(Value value) const requires(!detail::kIsText<Value>) {
         detail::write(detail::AccessorsOf<Value>::setLive, first, value);
     }
-    Refusal set(std::string_view text) const requires(detail::kIsText<Value>) {
+    Result set(std::string_view text) const requires(detail::kIsText<Value>) {
         Value value;
-        const Refusal refusal = detail::copyText(text, length, value);
-        if (!refusal) detail::write(detail::AccessorsOf<Value>::setLive, first, value);
-        return refusal;
+        const Result result = detail::copyText(text, length, value);
+        if (result) detail::write(detail::AccessorsOf<Value>::setLive, first, value);
+        return result.of(first);
     }
 
     void set(const Value& text) const // what the store gave, it takes
@@ -301,20 +302,29 @@ public:
         return detail::read<Value>(detail::AccessorsOf<Value>::getStaged, place);
     }
 
-    // Nothing is stored when the value is refused: outside the range or the choices, a text that is too long,
-    // a parameter that nobody changes.
+    // Nothing is stored when the value is refused: outside the range or the choices, a text that is too long
+    // or that no file brings back, a parameter that nobody changes.
     template <class Given>
-    Refusal stage(Given value) const requires(!detail::kIsText<Value>) {
-        const Refusal refusal = readOnly ? Refusal(Reason::readOnly) : detail::check<Value>(value, limits);
-        if (!refusal) detail::write(detail::AccessorsOf<Value>::setStaged, place, static_cast<Value>(value));
-        return refusal;
+    Result stage(Given value) const requires(!detail::kIsText<Value>) {
+        const Result result = check(value);
+        if (result) detail::write(detail::AccessorsOf<Value>::setStaged, place, static_cast<Value>(value));
+        return result;
     }
-    Refusal stage(std::string_view text) const requires(detail::kIsText<Value>) {
+    Result stage(std::string_view text) const requires(detail::kIsText<Value>) {
         Value value;
-        const Refusal refusal =
-            readOnly ? Refusal(Reason::readOnly) : detail::copyText(text, limits.max, value);
-        if (!refusal) detail::write(detail::AccessorsOf<Value>::setStaged, place, value);
-        return refusal;
+        const Result result = check(text, value);
+        if (result) detail::write(detail::AccessorsOf<Value>::setStaged, place, value);
+        return result;
+    }
+
+    // What stage() would answer.
+    template <class Given>
+    [[nodiscard]] constexpr Result check(Given value) const requires(!detail::kIsText<Value>) {
+        if (readOnly) return Result(Reason::readOnly).of(place);
+        return detail::check<Value>(value, limits).of(place, static_cast<double>(value));
+    }
+    Result check(std::string_view text, Value& value) const requires(detail::kIsText<Value>) {
+        return (readOnly ? Result(Reason::readOnly) : detail::copyText(text, limits.max, value)).of(place);
     }
 
 private:

@@ -5,7 +5,7 @@
 //
 //   talux::Store store;
 //   if (u0.get() > threshold.live()) alarm();
-//   if (auto refusal = threshold.stage(95)) log(refusal.text());
+//   if (const auto done = threshold.stage(95); !done) log(done.text());
 //   store.commit();
 //
 // Works without exceptions and RTTI and takes no heap. Threads and processes: as for the accessors of
@@ -13,6 +13,7 @@
 #ifndef TALUX_TALUX_HPP
 #define TALUX_TALUX_HPP
 
+#include "talux/change.hpp"
 #include "talux/group.hpp"
 
 namespace talux {

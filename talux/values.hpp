@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "ParamSystem/TALUX_ParamStrings.h"
 #include "talux/parameters.hpp"
 
 namespace talux {
@@ -43,30 +44,52 @@ using Address = StoredText<table::Kind::address>;
 // A choice whose texts are not all known; talux::choice has the others.
 enum class Choice : short {};
 
-enum class Reason : unsigned char { none, tooLow, tooHigh, notANumber, tooLong, holdsNul, readOnly };
+enum class Reason : unsigned char {
+    none,
+    tooLow,
+    tooHigh,
+    notANumber,
+    tooLong,
+    holdsNul,
+    notCarried, // a double quote, an equals sign, a line end: no parameter file brings them back
+    readOnly,
+    tooMany, // settings in one change
+};
 
-// Why a value was not taken; false when it was.
-class [[nodiscard]] Refusal {
+// What came of a write: true when it was done.
+class [[nodiscard]] Result {
 public:
-    constexpr Refusal() = default;
-    constexpr Refusal(Reason why, double least = 0.0, double most = 0.0)
-        : cause(why), min(least), max(most) {}
+    constexpr Result() = default;
+    constexpr Result(Reason why, double min = 0.0, double max = 0.0) : cause(why), low(min), high(max) {}
 
-    constexpr explicit operator bool() const { return cause != Reason::none; }
+    constexpr explicit operator bool() const { return cause == Reason::none; }
     [[nodiscard]] constexpr Reason reason() const { return cause; }
 
-    // "VALUE TOO HIGH, 1 to 90"
+    // The parameter that was refused; 0 when nothing was.
+    [[nodiscard]] constexpr int id() const { return parameter; }
+
+    // "Uearth = 95: VALUE TOO HIGH (1 to 90 %)". The name comes from the dictionary.
     [[nodiscard]] Text text() const;
+
+    // The same, of this parameter and value; a result that worked stays as it is.
+    [[nodiscard]] constexpr Result of(int parameterId, double value = 0.0) const {
+        Result result = *this;
+        if (cause == Reason::none) return result;
+        result.parameter = parameterId;
+        result.given = value;
+        return result;
+    }
 
 private:
     Reason cause = Reason::none;
-    double min = 0.0, max = 0.0;
+    int parameter = 0;
+    double low = 0.0, high = 0.0, given = 0.0;
 };
 
 namespace detail {
 
-// Puts words and numbers one behind the other; of the numbers, which are limits, at most three decimals, with
-// a point in every locale.
+// Puts words and numbers one after the other; numbers with three decimals at most, and a point in every
+// locale. Those beyond 1e12 have no digits here.
 class Writer {
 public:
     explicit Writer(char* text) : end(text) {}
@@ -79,6 +102,7 @@ public:
 
     void put(double number) {
         if (number < 0.0) put("-");
+        if (!(number > -1e12 && number < 1e12)) return put("..");
         const auto thousandths = static_cast<long long>((number < 0.0 ? -number : number) * 1000.0 + 0.25);
         putDigits(thousandths / 1000);
         if (thousandths % 1000 == 0) return;
@@ -111,27 +135,57 @@ constexpr std::string_view wordsOf(Reason reason) {
         return "TEXT TOO LONG";
     case Reason::holdsNul:
         return "TEXT WITH A NUL";
+    case Reason::notCarried:
+        return "A FILE CANNOT CARRY THE TEXT";
     case Reason::readOnly:
         return "VARIABLE IS READ ONLY";
+    case Reason::tooMany:
+        return "TOO MANY SETTINGS IN ONE CHANGE";
     }
     return {};
 }
 
 } // namespace detail
 
-inline Text Refusal::text() const {
+namespace detail {
+
+// The unit of a parameter, empty when it has none.
+inline std::string_view unitOf(int id) {
+    for (const stParamText* row = DefParamText + 1; row->id != 0; ++row)
+        if (row->id == id && row->type == kTextUnit) return row->txt;
+    return {};
+}
+
+} // namespace detail
+
+inline Text Result::text() const {
     Text text;
     detail::Writer writer(text.data());
+    const stParamProperties* const row = parameter > 0 ? GetParamProperties(parameter) : nullptr;
+    const bool isRange = cause == Reason::tooLow || cause == Reason::tooHigh;
+    if (row != nullptr) {
+        writer.put(row->name);
+        if (isRange) {
+            writer.put(" = ");
+            writer.put(given);
+        }
+        writer.put(": ");
+    }
     writer.put(detail::wordsOf(cause));
-    if (cause == Reason::tooLow || cause == Reason::tooHigh) {
-        writer.put(", ");
-        writer.put(min);
+    if (isRange) {
+        writer.put(" (");
+        writer.put(low);
         writer.put(" to ");
-        writer.put(max);
+        writer.put(high);
+        if (const auto unit = detail::unitOf(parameter); !unit.empty()) {
+            writer.put(" ");
+            writer.put(unit);
+        }
+        writer.put(")");
     } else if (cause == Reason::tooLong) {
-        writer.put(", up to ");
-        writer.put(max);
-        writer.put(" characters");
+        writer.put(" (up to ");
+        writer.put(high);
+        writer.put(" characters)");
     }
     return text;
 }

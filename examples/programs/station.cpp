@@ -16,8 +16,8 @@ int main(int argc, char** argv) {
     if (argc != 2) return 2;
     talux::Store store;
     std::printf("Name was \"%s\"\n", kName.live().c_str());
-    if (const talux::Refusal refusal = kName.stage(argv[1])) { // into the working copy of the settings
-        std::fprintf(stderr, "station: %s\n", refusal.text().c_str());
+    if (const talux::Result done = kName.stage(argv[1]); !done) { // into the working copy of the settings
+        std::fprintf(stderr, "station: %s\n", done.text().c_str());
         return 1;
     }
     store.commit(); // makes it live

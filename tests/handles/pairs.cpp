@@ -54,7 +54,7 @@ float staged_plain() {
 }
 
 bool stage_handle() {
-    return language.stage(talux::choice::Language::kEnglish) || threshold.stage(95);
+    return !language.stage(talux::choice::Language::kEnglish) || !threshold.stage(95);
 }
 bool stage_plain() {
     VarSetEnumValue(kLanguage, 2);

@@ -74,7 +74,7 @@ esac
 42.000000
 Name was "Nord 1"
 Name is "Nord 2"
-station: TEXT TOO LONG, up to 40 characters
+station: Name: TEXT TOO LONG (up to 40 characters)
 Name was "Nord 2"
 refused' ] || fail "programs: $answer"
 
