@@ -134,6 +134,8 @@ template <class... Elements>
 Operation group(const std::string& name, Elements... elements) {
     static const talux::Group<Elements...> whole(name, elements...);
     static std::tuple<typename Elements::Value...> values;
+    // A group that nobody has written has no values to read.
+    std::apply([&](const auto&... value) { std::ignore = whole.write(value...); }, values);
     return {
         name,
         {cppWay("C++",
