@@ -11,6 +11,7 @@
 #include <iostream>
 #include <optional>
 
+#include "ParamSystem/files/Replace.h"
 #include "tools/desk/Desk.h"
 #include "tools/desk/Factory.h"
 #include "tools/desk/Plot.h"
@@ -65,9 +66,10 @@ int plot(const desk::Scenario& scenario, const Options& options) {
     int cycles = 0;
     for (desk::Cycle cycle; cycles < kLongest && device.step(settings, {}, cycle); ++cycles)
         picture.add(cycle);
-    std::ofstream file(options.plot, std::ios::trunc);
-    file << picture.svg(options.scenario.substr(options.scenario.rfind('/') + 1));
-    return file.flush() ? 0 : fail(options.plot + ": " + std::strerror(errno));
+    const std::string page = picture.svg(options.scenario.substr(options.scenario.rfind('/') + 1));
+    const talux::Replacement result = talux::replaceFile(options.plot.c_str(), page, nullptr);
+    return result.written == talux::Written::done ? 0
+                                                  : fail(options.plot + ": " + std::strerror(result.error));
 }
 
 // Waits for the next cycle: for its time, or for a line on standard input.

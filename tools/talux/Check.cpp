@@ -100,16 +100,15 @@ Json described(const std::string& path, const Told& told) {
 
 Status run(const Options& options, const Context& context) {
     const Source before = Source::open(options.against, context);
-    Status status = kNothing;
     Json all = Json::array();
-    for (const std::string& path : options.files) {
+    const Status status = forEachFile(options.files, [&](const std::string& path) {
         const Told told = judgeFile(path, before, context);
-        if (told.changes > 0 || told.findings > 0 || told.untold > 0) status = kFound;
         if (options.json)
             all.add(described(path, told));
         else
-            printText(path, told, context);
-    }
+            printText(printable(path), told, context);
+        return told.changes > 0 || told.findings > 0 || told.untold > 0 ? kFound : kNothing;
+    });
     if (options.json) print(all.text());
     return status;
 }

@@ -33,6 +33,13 @@ struct Context {
     ParamLanguage otherLanguage() const { return language == kGerman ? kEnglish : kGerman; }
 };
 
+// On the error stream, where control characters of file names cannot forge findings.
+void report(const CouldNot& error);
+
+// Calls look(path) for each; one that could not be looked at is reported and does not keep from the others.
+Status forEachFile(const std::vector<std::string>& paths,
+                   const std::function<Status(const std::string&)>& look);
+
 struct Command {
     Subcommand given;
     std::function<Status(const Context&)> run;

@@ -45,7 +45,7 @@ Status run(const Options& options, const Context& context) {
         print(listing.text);
     else
         print(fill(context.say("{}  {}, {} settings\n", "{}  {}, {} Einstellungen\n"),
-                   {fingerprintOf(listing), source.name(), std::to_string(listing.settings)}));
+                   {fingerprintOf(listing), printable(source.name()), std::to_string(listing.settings)}));
     return kNothing;
 }
 

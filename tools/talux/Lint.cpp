@@ -2,7 +2,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
-#include <fstream>
+#include <cstdio>
+#include <filesystem>
 #include <iterator>
 #include <memory>
 #include <optional>
@@ -22,6 +23,7 @@ namespace {
 
 constexpr std::size_t kLuaAnswerRoom = 998; // of talux_command
 constexpr std::size_t kMostFindings = 1000;
+constexpr std::size_t kLargestScript = 1 << 20; // takes some 80 MB if every character is a word
 
 struct Options {
     std::vector<std::string> files;
@@ -89,7 +91,7 @@ void lintKepl(std::string_view script, const Options& options, Findings& finding
 // A text argument as far as it is constant.
 struct Constant {
     std::string text;
-    std::vector<std::size_t> where;
+    std::vector<std::uint32_t> where;
     bool isWhole = true;
 };
 
@@ -111,7 +113,7 @@ public:
     }
 
 private:
-    const std::vector<LuaToken> tokens;
+    const std::deque<LuaToken> tokens;
     Findings& findings;
     const Context& context;
     std::set<std::string> aliases{"talux_command"};
@@ -311,30 +313,59 @@ std::string luaBlocksOf(std::string_view page) {
 
 // ---- Command ----------------------------------------------------------------------------------------------
 
+[[noreturn]] void cannotRead(const std::string& path, const std::string& reason, const Context& context) {
+    throw CouldNot(
+        fill(context.say("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}"), {path, reason}));
+}
+
 std::string contentsOf(const std::string& path, const Context& context) {
     errno = 0;
-    std::ifstream file(path, std::ios::binary);
-    std::string contents{std::istreambuf_iterator<char>(file), {}};
-    if (file && errno == 0) return contents;
-    throw CouldNot(fill(context.say("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}"),
-                        {path, std::generic_category().message(errno)}));
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
+    std::string contents(kLargestScript + 1, '\0');
+    const std::size_t size = file ? std::fread(contents.data(), 1, contents.size(), file.get()) : 0;
+    if (!file || std::ferror(file.get()) != 0)
+        cannotRead(path, std::generic_category().message(errno), context);
+    if (size > kLargestScript)
+        cannotRead(path, context.say("more than 1 MB is no script", "mehr als 1 MB ist kein Skript"),
+                   context);
+    contents.resize(size);
+    return contents;
+}
+
+// The scripts in a folder and below; any other path is itself.
+std::vector<std::string> scriptsIn(const std::string& path) {
+    namespace fs = std::filesystem;
+    std::error_code error;
+    if (!fs::is_directory(path, error)) return {path};
+    std::vector<std::string> scripts;
+    for (fs::recursive_directory_iterator entry(path, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string ending = entry->path().extension();
+        if (ending == ".lua" || ending == ".kepl" || ending == ".md") scripts.push_back(entry->path());
+    }
+    std::ranges::sort(scripts);
+    if (error || scripts.empty()) scripts.push_back(path); // which says why
+    return scripts;
+}
+
+Status lintFile(const std::string& path, const Options& options, const Context& context) {
+    const std::string script = contentsOf(path, context);
+    Findings findings(printable(path), script);
+    if (path.ends_with(".md"))
+        LuaLint(luaBlocksOf(script), findings, context).run();
+    else if (path.ends_with(".lua"))
+        LuaLint(script, findings, context).run();
+    else
+        lintKepl(script, options, findings, context);
+    findings.finish(context);
+    return findings.empty() ? kNothing : kFound;
 }
 
 Status run(const Options& options, const Context& context) {
-    Status status = kNothing;
-    for (const std::string& path : options.files) {
-        const std::string script = contentsOf(path, context);
-        Findings findings(path, script);
-        if (path.ends_with(".md"))
-            LuaLint(luaBlocksOf(script), findings, context).run();
-        else if (path.ends_with(".lua"))
-            LuaLint(script, findings, context).run();
-        else
-            lintKepl(script, options, findings, context);
-        findings.finish(context);
-        if (!findings.empty()) status = kFound;
-    }
-    return status;
+    std::vector<std::string> scripts;
+    for (const std::string& path : options.files)
+        std::ranges::move(scriptsIn(path), std::back_inserter(scripts));
+    return forEachFile(scripts, [&](const std::string& path) { return lintFile(path, options, context); });
 }
 
 } // namespace
@@ -343,8 +374,10 @@ void addLint(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
     Subcommand command(app, "lint", "every line of a KEPL or Lua script, without running it");
     command
-        .option("FILE", options->files,
-                "scripts; *.lua are Lua, of *.md the Lua blocks are read, all others are lines of KEPL")
+        .option(
+            "FILE", options->files,
+            "scripts, or folders with them; *.lua are Lua, of *.md the Lua blocks are read, all others are "
+            "lines of KEPL")
         .required();
     command.option("--level", options->level, "rights that lines of KEPL have, 0 to 3; 3 if not given")
         .inRange(0, 3);

@@ -20,7 +20,7 @@ class Lexer {
 public:
     explicit Lexer(std::string_view text) : script(text) {}
 
-    std::vector<LuaToken> run() {
+    std::deque<LuaToken> run() {
         if (script.starts_with('#')) place = std::min(script.find('\n'), script.size());
         while (skipBlanksAndComments())
             tokens.push_back(next());
@@ -33,7 +33,7 @@ public:
 private:
     const std::string_view script;
     std::size_t place = 0;
-    std::vector<LuaToken> tokens;
+    std::deque<LuaToken> tokens;
 
     char at(std::size_t offset = 0) const {
         return place + offset < script.size() ? script[place + offset] : '\0';
@@ -94,7 +94,7 @@ private:
 
     static void append(LuaToken& token, char c, std::size_t where) {
         token.text += c;
-        token.where.push_back(where);
+        token.where.push_back(static_cast<std::uint32_t>(where));
     }
 
     LuaToken takeLong(int level) {
@@ -157,7 +157,7 @@ private:
 
 } // namespace
 
-std::vector<LuaToken> luaTokens(std::string_view script) {
+std::deque<LuaToken> luaTokens(std::string_view script) {
     return Lexer(script).run();
 }
 

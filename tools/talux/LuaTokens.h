@@ -2,6 +2,8 @@
 #ifndef TALUX_TOOLS_TALUX_LUATOKENS_H
 #define TALUX_TOOLS_TALUX_LUATOKENS_H
 
+#include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,15 +13,15 @@ namespace talux::tool {
 struct LuaToken {
     enum class Kind { name, number, text, sign, end };
     Kind kind = Kind::end;
-    std::string text;               // of a text constant what it stands for
-    std::vector<std::size_t> where; // of a text constant, place of each of its characters in the script
-    std::size_t at = 0;             // place in the script
+    std::string text;                 // of a text constant what it stands for
+    std::vector<std::uint32_t> where; // of a text constant, place of each of its characters in the script
+    std::size_t at = 0;               // place in the script
 
     bool is(std::string_view word) const { return kind != Kind::text && text == word; }
 };
 
 // Comments are left out; the last token is of the kind `end`. What is no Lua becomes signs of one character.
-std::vector<LuaToken> luaTokens(std::string_view script);
+std::deque<LuaToken> luaTokens(std::string_view script);
 
 } // namespace talux::tool
 

@@ -1,12 +1,11 @@
 // talux report: a record of the settings to print and sign. One HTML page that needs nothing else.
-#include <cerrno>
 #include <cstdlib>
 #include <ctime>
-#include <fstream>
 #include <memory>
 #include <system_error>
 #include <utility>
 
+#include "ParamSystem/files/Replace.h"
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Listing.h"
@@ -176,12 +175,12 @@ private:
     }
 };
 
+// As a whole: an older record stays if the new one cannot be written.
 void write(const std::string& path, const std::string& text, const Context& context) {
-    errno = 0;
-    std::ofstream file(path, std::ios::binary);
-    if ((file << text).flush()) return;
+    const Replacement result = replaceFile(path.c_str(), text, nullptr);
+    if (result.written == Written::done) return;
     throw CouldNot(fill(context.say("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}"),
-                        {path, std::generic_category().message(errno)}));
+                        {path, std::generic_category().message(result.error)}));
 }
 
 Status run(const Options& options, const Context& context) {

@@ -86,7 +86,9 @@ CommandLine::Outcome CommandLine::parse(int argc, char** argv) {
         app->parse(argc, argv);
         return Outcome::command;
     } catch (const CLI::ParseError& error) {
-        return app->exit(error, std::cout, std::cerr) == 0 ? Outcome::helped : Outcome::refused;
+        const bool isHelp = app->exit(error, std::cout, std::cerr) == 0;
+        if (isHelp && !std::cout.flush()) std::cerr << "talux: the output cannot be written\n";
+        return isHelp && std::cout ? Outcome::helped : Outcome::refused;
     }
 }
 

@@ -100,7 +100,9 @@ std::string printable(std::string_view text) {
     while (!text.empty()) {
         const std::size_t length = characterAt(text);
         const auto first = static_cast<unsigned char>(text[0]);
-        if (length == 0 || first < ' ' || first == 0x7F) {
+        const bool isControl = first < ' ' || first == 0x7F ||
+                               (length == 2 && first == 0xC2 && static_cast<unsigned char>(text[1]) < 0xA0);
+        if (length == 0 || isControl) {
             char code[8];
             std::snprintf(code, sizeof code, "\\x%02X", first);
             shown += code;

@@ -40,8 +40,7 @@ Status runChosen(const Commands& commands, const Context& context) {
                 context.say("the output cannot be written", "die Ausgabe lässt sich nicht schreiben"));
         return status;
     } catch (const CouldNot& error) {
-        std::fflush(stdout);
-        std::fprintf(stderr, "talux: %s\n", error.what());
+        report(error);
         return kCouldNot;
     }
 }
