@@ -103,6 +103,7 @@ declare -A packages=(
   [lint]='clang-format:clang-format clang-tidy:clang-tidy shellcheck:shellcheck git:git'
   [git]=git:git
   [lintian]=lintian:lintian
+  [spin]=spin:spin
   [browser]=chromium:chromium
   [make]=make:make
   [rock]=luarocks:luarocks

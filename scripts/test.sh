@@ -23,6 +23,7 @@ armv5te       all     3        build run tests armv5te
 packages      all     1        build armv7 armv5te lintian
 clang         all     3        build run tests clang
 threads       all     1        build run tests
+models        all     1        spin
 commands      all     1        build run
 browser       all     1        build browser
 bench         all     1        build run bench
@@ -48,6 +49,7 @@ skip() { note "skipped: $*"; exit 77; }
 
 release() { build release && run_tests release; }
 debug() { build debug && run_tests debug; }
+models() { tests/models/run.sh; }
 clang() { build clang && run_tests clang; }
 armv7() { on_device armv7; }
 armv5te() { on_device armv5te; }
