@@ -23,7 +23,7 @@ armv5te       all     3        build run tests armv5te
 packages      all     1        build armv7 armv5te lintian
 clang         all     3        build run tests clang
 threads       all     1        build run tests
-models        all     1        spin
+models        all     1        build spin
 commands      all     1        build run
 browser       all     1        build browser
 bench         all     1        build run bench
