@@ -18,6 +18,7 @@ if command -v ccache >/dev/null; then
   export CCACHE_SLOPPINESS=pch_defines,time_macros # what it takes to cache behind a precompiled header
 fi
 scratch=$(mktemp -d)
+touch "$scratch/shown" # when something was shown
 leaving=''
 trap 'rm -rf "$scratch"' EXIT
 trap 'echo "$leaving" >&2; exit 130' INT
@@ -47,16 +48,17 @@ how_far() {
 # tick OWNER LOG [streamed]: shows how far the command is that writes LOG until the process OWNER ends: on a terminal
 # in place, else every 15 seconds; when LOG is shown as well, only after 15 seconds without anything new in it.
 tick() {
-  local idle streamed=${3-} size=0 since=$SECONDS next=$((SECONDS + 15))
+  local idle streamed=${3-} size=0 since=$SECONDS
   exec {idle}<> <(:)
   while read -rt 1 -u "$idle" || kill -0 "$1" 2>/dev/null; do
     if [ -n "$streamed" ] && [ "$size" != "$(stat -c %s "$2")" ]; then
-      size=$(stat -c %s "$2") next=$((SECONDS + 15))
+      size=$(stat -c %s "$2")
+      touch "$scratch/shown"
     elif [ -z "$streamed" ] && [ -t "$terminal" ]; then
       printf '\r%s %s, %d s\e[K' "$doing" "$(how_far "$2")" $((SECONDS - since)) >&"$terminal"
-    elif [ "$SECONDS" -ge "$next" ]; then
+    elif [ $((EPOCHSECONDS - $(stat -c %Y "$scratch/shown"))) -ge 15 ]; then
       echo "$doing $(how_far "$2"), $((SECONDS - since)) s" >&"$terminal"
-      next=$((SECONDS + 15))
+      touch "$scratch/shown"
     fi
   done
 }
