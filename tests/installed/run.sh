@@ -13,6 +13,7 @@ work=$build/tests/installed sysroot=${TALUX_BUILD_DIR:-$project}/build-sysroot/$
 for command in qemu-arm:qemu-user pkg-config:pkg-config dpkg-deb:dpkg apt-get:apt; do
   command -v "${command%:*}" >/dev/null || { echo "skipped: needs the package ${command#*:}"; exit 77; }
 done
+"$project/scripts/isolated.sh" -- test -w / || { echo 'skipped: this root cannot be written'; exit 77; }
 case $architecture in
   amd64) emulator=qemu-x86_64 multiarch=x86_64-linux-gnu ;;
   armhf) emulator='qemu-arm -cpu cortex-a7' multiarch=arm-linux-gnueabihf ;;
