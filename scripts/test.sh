@@ -202,9 +202,9 @@ isolation() { scripts/isolated.sh -- sh -c 'echo "$TALUX_ISOLATION"' 2>/dev/null
 
 # The release tests under other rights; ctest writes into a folder outside the builds.
 release_tests_again() {
-  local folder=$scratch/again
+  local folder
   build release || return
-  mkdir "$folder"
+  folder=$(mktemp -d -p "$scratch")
   chmod 755 "$scratch"
   chmod 777 "$folder"
   echo "subdirs(\"$builds/build-release\")" >"$folder/CTestTestfile.cmake"
