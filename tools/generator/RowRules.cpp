@@ -206,8 +206,8 @@ constexpr Rule kRules[] = {
 };
 
 std::string objectTo(const Parameter& p, const Register& all) {
-    if (const std::string objection = objectToName(p, all); !objection.empty()) return objection;
-    if (const std::string objection = objectToId(p, all); !objection.empty()) return objection;
+    if (std::string objection = objectToName(p, all); !objection.empty()) return objection;
+    if (std::string objection = objectToId(p, all); !objection.empty()) return objection;
     const auto* const broken = std::find_if(std::begin(kRules), std::end(kRules),
                                             [&](const Rule& rule) { return !rule.holds(p, all); });
     return broken == std::end(kRules) ? "" : broken->text;
