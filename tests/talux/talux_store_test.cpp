@@ -279,9 +279,10 @@ TEST_F(TaluxStore, RowsAreQuotedAndNotMadeUpForAStandstill) {
     char text[] = "a \"b\", c";
     VarSetGlobalValue(GetParamPropertiesByName(const_cast<char*>("Name"))->id, asValue(text));
     const Ended watched =
-        run("talux watch --csv --period 0.1 --count 9 Name >rows & talux=$!; sleep 0.15; "
+        run("talux watch --csv --period 0.1 --count 9 Name >/tmp/rows & talux=$!; sleep 0.15; "
             "kill -STOP $talux; sleep 1; kill -CONT $talux; wait $talux; "
-            "tail -1 rows | cut -d, -f2-; cut -c1-21 rows | sort | uniq -c | grep -c '^ *[4-9]'; rm rows");
+            "tail -1 /tmp/rows | cut -d, -f2-; cut -c1-21 /tmp/rows | sort | uniq -c | grep -c '^ *[4-9]'; "
+            "rm /tmp/rows");
     EXPECT_EQ(watched.output, "\"a \"\"b\"\", c\"\n0\n"); // tenths of a second with four rows or more
 }
 
