@@ -67,8 +67,10 @@ local function forbidden(row)
                              ["\n"] = "A CONTROL CHARACTER", ["\0"] = "A CONTROL CHARACTER"} do
       add("x" .. sign .. "system touch /canary", "A LINE CANNOT CARRY " .. name)
     end
-    local most = math.min(row.length, 120 - #row.name)
-    add(("x"):rep(most + 1), ("TEXT TOO LONG (%d bytes, at most %d)"):format(most + 1, most))
+    local room = 120 - #row.name
+    local characters, sign = math.min(row.length, room) + 1, row.length > room and "x" or "ä"
+    add(sign:rep(characters), row.length > room and ("TEXT TOO LONG (%d bytes, at most %d in a line)"):format(characters, room)
+      or ("TEXT TOO LONG (%d characters, at most %d)"):format(characters, row.length))
     for _, address in ipairs(row.kind == "address" and {"", "1.2.3", "1.2.3.256", "01.2.3.4", "hello", "1.2.3.4 "} or {}) do
       add(address, "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)")
     end

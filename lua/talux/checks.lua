@@ -25,8 +25,6 @@ local function numberOf(row, text)
   return text:find "^%s*[-+]?%.?%d[%d.eE+-]*%s*$" and numbers.read(text), "NOT A NUMBER"
 end
 
-local smallest = {enum = 1, bool = 0} -- where a parameter tells no range
-local largest = {bool = 1}
 
 local function checkNumber(row, value)
   if type(value) == "boolean" and row.kind == "bool" then value = value and 1 or 0 end
@@ -36,7 +34,7 @@ local function checkNumber(row, value)
     if not value then return nil, reason end
   end
   if type(value) ~= "number" or value ~= value then return nil, "NOT A NUMBER" end
-  local least, most = row.min or smallest[row.kind], row.max or largest[row.kind]
+  local least, most = row.min, row.max
   local isFloat = row.kind == "float"
   local reason = value < (least or -999999999) and "VALUE TOO LOW" or value > (most or 999999999) and "VALUE TOO HIGH"
     or not isFloat and row.kind ~= "double" and value % 1 ~= 0 and "NOT A WHOLE NUMBER"
@@ -88,8 +86,13 @@ local signs = {[","] = "A COMMA", ["="] = "AN EQUALS SIGN", ['"'] = "A DOUBLE QU
 function checks.carried(row, text)
   local odd = text:match '[,="%c]'
   if odd then return nil, "A LINE CANNOT CARRY " .. (signs[odd] or "A CONTROL CHARACTER") end
-  local most = math.min(row.length, 120 - #row.name) -- 127 characters of a term, less TLX_, name, = and quotes
-  if #text > most then return nil, ("TEXT TOO LONG (%d bytes, at most %d)"):format(#text, most) end
+  local characters = select(2, text:gsub("[^\128-\191]", ""))
+  local room = 120 - #row.name -- 127 bytes of a term, less TLX_, name, = and quotes
+  if characters > row.length then
+    return nil, ("TEXT TOO LONG (%d characters, at most %d)"):format(characters, row.length)
+  elseif #text > room then
+    return nil, ("TEXT TOO LONG (%d bytes, at most %d in a line)"):format(#text, room)
+  end
   return '"' .. text .. '"'
 end
 

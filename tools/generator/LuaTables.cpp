@@ -26,7 +26,7 @@ void forEachNamed(const Model& model, Visit visit) {
 
 // ---- What holds in every language ---------------------------------------------------------------------
 
-// The longest text in bytes that the parameter is meant for and its slot keeps.
+// The longest text in characters that the parameter is meant for and its slot keeps.
 int longest(const Parameter& parameter) {
     const int meant = parameter.row().val_len;
     return meant > 0 ? std::min(meant, parameter.textRoom()) : parameter.textRoom();
@@ -41,8 +41,10 @@ std::string factsOf(const Parameter& parameter) {
     };
     const std::string unit = parameter.unit();
     add(!unit.empty(), "unit", quoted(unit));
-    add(parameter.hasNumber() && parameter.hasMinimum(), "min", reference::shortNumber(row.val_min));
-    add(parameter.hasNumber() && parameter.hasMaximum(), "max", reference::shortNumber(row.val_max));
+    const bool isFlag = parameter.type().kind == Kind::Bool;
+    const double least = isFlag ? 0 : parameter.leastNumber(), most = isFlag ? 1 : row.val_max;
+    add(parameter.hasNumber() && least != kNoMin, "min", reference::shortNumber(least));
+    add(parameter.hasNumber() && most != kNoMax, "max", reference::shortNumber(most));
     add(parameter.textRoom() > 0, "length", std::to_string(longest(parameter)));
     add(parameter.isIndexed(), "first", std::to_string(row.val_min_id));
     add(parameter.isIndexed(), "last", std::to_string(row.val_max_id));
