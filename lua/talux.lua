@@ -23,6 +23,7 @@ local refusals = {"^<< ", "^error: ", "^sec error: ", "^type unknown$", "^comman
 ---@return string? answer without its line end; nil after a refusal
 ---@return string? refusal
 function talux.try(line)
+  if type(line) ~= "string" and type(line) ~= "number" then error("a line expected", 2) end
   local answer = command(line):gsub("\n$", "")
   for _, refusal in ipairs(refusals) do
     if find(answer, refusal) then return nil, answer end
@@ -137,12 +138,19 @@ local rank = {["date of the clock"] = 1, ["time of the clock"] = 1, ["interface 
 local function lineOf(name, index) return index and ("TLX_%s %d"):format(name, index) or "TLX_" .. name end
 local function labelOf(name, index) return index and ("%s[%s]"):format(name, tostring(index)) or name end
 
+-- A nearest name takes milliseconds to find: only the first of many unknown names get one.
+local nearest = 4
+
 -- One entry for each value to write, or the reasons, one in a line, why some of them cannot be.
 local function plan(settings)
-  local entries, faults, taken = {}, {}, {}
+  local entries, faults, unknown, taken = {}, {}, {}, {}
   local function add(name, row, index, value)
     local text, new
-    if row then new = checks.index(row, index) else new = dictionary.unknown(name) end
+    if not row then
+      unknown[#unknown + 1] = {name, value}
+      return
+    end
+    new = checks.index(row, index)
     if not new then text, new = checks.value(row, value) end
     local id = text and row.id + (index or 1) - 1
     if taken[id] then text, new = nil, "NAMED TWICE" end
@@ -150,8 +158,7 @@ local function plan(settings)
       taken[id] = true
       entries[#entries + 1] = {row = row, index = index, line = lineOf(row.name, index), text = text, new = new}
     else
-      local label = labelOf(row and row.name or name, index)
-      faults[#faults + 1] = ("%s = %s: %s"):format(label, tostring(value), new)
+      faults[#faults + 1] = ("%s = %s: %s"):format(labelOf(row.name, index), tostring(value), new)
     end
   end
   for name, value in pairs(settings) do
@@ -164,6 +171,11 @@ local function plan(settings)
         else add(tostring(name) .. tostring(k), dictionary.rowInSeries(tostring(name), k), nil, element) end
       end
     end
+  end
+  table.sort(unknown, function(a, b) return a[1] < b[1] end)
+  for k, fault in ipairs(unknown) do
+    local reason = k <= nearest and dictionary.unknown(fault[1]) or "NO SUCH PARAMETER"
+    faults[#faults + 1] = ("%s = %s: %s"):format(fault[1], tostring(fault[2]), reason)
   end
   table.sort(faults)
   return #faults == 0 and entries, table.concat(faults, "\n")
@@ -361,14 +373,22 @@ end
 ---@param changes talux.Change[]
 ---@param language? "de"|"en" else the device's
 ---@return string
-function talux.protocol(changes, language) return protocol(changes, textsIn(language)) end
+function talux.protocol(changes, language)
+  if type(changes) ~= "table" then error("a table of changes expected", 2) end
+  for _, change in ipairs(changes) do
+    if type(change) ~= "table" then error("a table of changes expected", 2) end
+  end
+  local text = protocol(changes, textsIn(language)) -- no tail call, which would hide the caller's line
+  return text
+end
 
 ---Calls a function at once and then every so many milliseconds, without drift, until it returns false. The
 ---function gets the number of the call; calls that it would be late for are left out.
 ---@param milliseconds number
 ---@param action fun(k: integer): boolean?
 function talux.every(milliseconds, action)
-  if not (milliseconds > 0) then error("a time above 0 expected", 2) end
+  if type(milliseconds) ~= "number" or not (milliseconds > 0) then error("a time above 0 expected", 2) end
+  if type(action) ~= "function" then error("a function expected", 2) end
   local period, k, elapsed, sleep = milliseconds / 1000, 1, stopwatch()
   while action(k) ~= false do
     k = math.max(k + 1, math.ceil(elapsed() / period) + 1)

@@ -169,6 +169,7 @@ case("what cannot be read or written says why", function()
     {"ETH0_MASK", "255.0.255.0", "NO NETMASK (ones in front of zeros as in 255.255.255.0)"},
     {"ETH0_IP", "192.168.1", "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)"},
     {"Date", "2024-02-30", "NO DATE (as 2024-05-17)"}, {"Time", "24:00:00", "NO TIME (as 10:20:30)"},
+    {"Time", "10:20:60", "NO TIME (as 10:20:30)"},
     {"BAassign3", "NC", "STANDS FOR SEVERAL CHOICES (give the number)"}, {"DataBits1", 8, "VALUE TOO HIGH (1 to 2)"},
     {"Uearth", nil, "NO VALUE"}, {"Uearth", 95, "VALUE TOO HIGH (1 to 90 %)"},
   } do refused(("%s = %s: %s"):format(row[1], tostring(row[2]), row[3]), talux.set, row[1], row[2]) end
@@ -228,12 +229,33 @@ case("refusals are told from answers", function()
   equal(talux.try "TLX_vBE 3.2", nil, "a range")
 end)
 
+case("wrong arguments are refused where they are given", function()
+  for wanted, call in pairs {
+    ["a line expected"] = function() talux.try(nil) end, ["a function expected"] = function() talux.every(5) end,
+    ["a time above 0 expected"] = function() talux.every("200", print) end,
+    ["a table of changes expected"] = function() talux.protocol() end,
+  } do
+    local _, reason = pcall(call)
+    equal(reason:match "talux_test%.lua:%d+: (.*)", wanted, reason)
+  end
+  local unknown, start = {}, os.clock()
+  for k = 1, 850 do unknown["TLX_Uearthh" .. k] = k end
+  equal(pcall(talux.apply, unknown), false, "unknown names")
+  equal(os.clock() - start < 0.2, true, "seconds for 850 unknown names: " .. os.clock() - start)
+end)
+
 case("files: an error when they fail, silently too", function()
   refused("load none: error: can't load parameter", talux.load, "none")
   refused("load_ip none: error: can't load IPs", talux.load_ip, "none")
   refused("load: no file name that a line can carry", talux.load, "my file.ini")
+  local longest = ("a"):rep(122)
+  refused("load " .. longest .. ": error: can't load parameter", talux.load, longest)
+  refused("load: no file name that a line can carry", talux.load, longest .. "a")
   talux.update()
   if not isolated then return print "skipped: saving: the files are the container's" end
+  local late = os.date("%H:%M"):match "^23" and "22:59:58" or "23:59:58" -- nobody may set the clock here
+  local good, reason = pcall(talux.set, "Time", late)
+  equal(not good and reason:match "NOT STORED", "NOT STORED", "a clock that cannot be set")
   for _, word in ipairs {"save", "save_sec", "save_ip", "load", "load_sec"} do talux[word]() end
   os.execute "rm /parameter.ini /sec_parameter.ini; mkdir /parameter.ini; ln -s /dev/null /sec_parameter.ini"
   refused("save: error: can't save parameter", talux.save)
