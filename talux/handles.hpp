@@ -165,7 +165,7 @@ Result copyText(std::string_view from, double most, Value& to) {
     int characters = 0;
     for (const char c : from) {
         if (c == '\0') return Reason::holdsNul;
-        if (c == '"' || c == '=' || (c >= 0 && c < ' ')) return Reason::notCarried;
+        if (c == '"' || c == '=' || static_cast<unsigned char>(c) < ' ') return Reason::notCarried;
         if ((static_cast<unsigned char>(c) & 0xC0U) != 0x80U) ++characters;
     }
     if (characters > most || from.size() > Value::kRoom) return {Reason::tooLong, 0.0, most};
