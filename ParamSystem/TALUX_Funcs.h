@@ -1,4 +1,5 @@
-// Number parsing, bit counters and two text helpers, exported under their plain C names. Usable from C and C++.
+// Number parsing, bit counters and two text helpers, exported under their plain C names. Usable from C and
+// C++.
 #ifndef TALUX_FUNCS_H
 #define TALUX_FUNCS_H
 

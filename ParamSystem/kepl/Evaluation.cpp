@@ -17,7 +17,7 @@ TermResult push(double number, ValueStack& stack) {
 }
 
 // A number that is read is pushed.
-TermResult access(const Decision& decision, char* txt, ValueStack& stack) {
+TermResult carryOutVariable(const Decision& decision, char* txt, ValueStack& stack) {
     const TermResult result = accessVariable(decision, txt, stack.next());
     if (result.says == Says::value) ++stack.count;
     return result;
@@ -55,7 +55,7 @@ TermResult Evaluation::carryOut(const Decision& decision) {
     case Action::setClock:
         break;
     }
-    return access(decision, txt, stack);
+    return carryOutVariable(decision, txt, stack);
 }
 
 Refusal Evaluation::finish() {

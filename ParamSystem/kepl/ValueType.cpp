@@ -20,7 +20,7 @@ void store(double number, char* bytes) {
     if constexpr (std::is_same_v<Stored, float>)
         value = narrowed(number);
     else
-        value = static_cast<Stored>(number);
+        value = truncated<Stored>(number);
     std::memcpy(bytes, &value, sizeof value);
 }
 

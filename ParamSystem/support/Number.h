@@ -5,6 +5,7 @@
 #include <bit>
 #include <cstdint>
 #include <limits>
+#include <type_traits>
 
 namespace talux {
 
@@ -21,6 +22,21 @@ constexpr Integer saturated(double value) {
 
 constexpr std::int32_t saturated32(double value) {
     return saturated<std::int32_t>(value);
+}
+
+// The low bits of a number without its fraction; beyond 32 bits (64 where the integer has them) the nearest
+// limit. A double stays as it is.
+template <typename Stored>
+constexpr Stored truncated(double value) {
+    if constexpr (std::is_floating_point_v<Stored>)
+        return value;
+    else if constexpr (sizeof(Stored) <= 4)
+        return static_cast<Stored>(saturated32(value));
+    constexpr double kBeyond = 9223372036854775808.0; // 2^63
+    if (value != value) return 0;
+    if (value >= kBeyond) return std::numeric_limits<Stored>::max();
+    if (value < -kBeyond) return std::numeric_limits<Stored>::min();
+    return static_cast<Stored>(value);
 }
 
 // A float as a double and back. Processors differ in what becomes of a not-a-number (its sign, its quiet

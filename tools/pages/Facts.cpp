@@ -7,7 +7,9 @@
 namespace talux::pages {
 
 std::string_view germanName(const stParamFamily& family) {
-    return reference::model().familyNames[static_cast<std::size_t>(&family - reference::model().families.data())].de;
+    return reference::model()
+        .familyNames[static_cast<std::size_t>(&family - reference::model().families.data())]
+        .de;
 }
 
 bool hasLimits(const Parameter& parameter) {

@@ -121,8 +121,8 @@ void addNotes(std::string& cell, const Parameter& parameter, ParamLanguage langu
             continue;
         }
         const std::string_view sign = noteAt(note).kind != parameters::kWarning ? ""
-                                      : isGerman                           ? "Achtung: "
-                                                                           : "Warning: ";
+                                      : isGerman                                ? "Achtung: "
+                                                                                : "Warning: ";
         addLine(cell, joined({"*", sign, escaped(noteAt(note).text.in(language)), "*"}));
     }
 }

@@ -161,7 +161,8 @@ Json described(const Parameter& parameter, const Places& places) {
         {"setting", parameter.isSetting()},
         {"file", reference::fileName(parameter.file())},
         {"write_level", parameter.writeLevel()}};
-    if (parameter.hasNumber() && parameter.leastNumber() != kNoMin) object.set("min", parameter.leastNumber());
+    if (parameter.hasNumber() && parameter.leastNumber() != kNoMin)
+        object.set("min", parameter.leastNumber());
     if (parameter.hasNumber() && parameter.hasMaximum()) object.set("max", row.val_max);
     if (parameter.isIndexed()) object.set("elements", elementsOf(row));
     if (!parameter.choices(kEnglish).empty()) object.set("choices", choicesOf(parameter));
