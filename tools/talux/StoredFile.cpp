@@ -1,8 +1,7 @@
 #include "tools/talux/StoredFile.h"
 
 #include <algorithm>
-#include <dirent.h>
-#include <memory>
+#include <filesystem>
 #include <set>
 #include <vector>
 
@@ -56,13 +55,11 @@ std::optional<std::string> newestWholeCopy(reference::File file, const Context& 
     const std::string stem = std::string(rowOf(kParameterFiles, file).stem) + "_";
     if (stem == "_") return {};
     std::vector<std::string> names;
+    std::error_code error;
     const std::string folder = context.directory.empty() ? "/" : context.directory;
-    // Not with the C++ library, whose code for 32 bits cannot read every folder.
-    const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(folder.c_str()), closedir);
-    if (entries == nullptr) return {};
-    while (const dirent* const entry =
-               readdir(entries.get())) { // NOLINT(concurrency-mt-unsafe): its own stream
-        std::string name = entry->d_name;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::string name = entry->path().filename().string();
         if (name.starts_with(stem) && name.ends_with(".ini")) names.push_back(std::move(name));
     }
     std::ranges::sort(names, std::greater()); // their names are their dates
