@@ -1,7 +1,8 @@
 #include "ParamSystem/files/Effect.h"
 
-#include "ParamSystem/TALUX_Funcs.h"
 #include "ParamSystem/dictionary/Lookup.h"
+#include "ParamSystem/rules/Facts.h"
+#include "ParamSystem/support/Parse.h"
 
 namespace talux {
 
@@ -17,9 +18,10 @@ Effect textEffect(const stParamProperties& row, const char* text, int wantedType
 }
 
 Effect numberEffect(const stParamProperties& row, const char* text) {
-    double number = 0;
-    if (MakeDouble(text, &number) != 1) return {Outcome::notANumber, &row, {}};
-    return keeping(row, Value(number));
+    const std::optional<double> number = numberIn(text);
+    if (rules::check(rules::factsOf(row), number, rules::kLoadingRefuses))
+        return {Outcome::notANumber, &row, {}};
+    return keeping(row, Value(*number));
 }
 
 } // namespace

@@ -53,13 +53,13 @@ void decideFile(Decision& decision, std::string_view term, int uid, const Comman
 }
 
 void decideNumber(Decision& decision, std::string_view term) {
-    double number = 0;
-    if (parseDouble(term, &number) != kParsed) {
+    const std::optional<double> number = numberIn(term);
+    if (!number) {
         decision.refusal = Refusal::syntaxError;
         return;
     }
     decision.action = Action::push;
-    decision.value.emplace(number);
+    decision.value.emplace(*number);
 }
 
 bool beginsWithDigit(std::string_view term) {

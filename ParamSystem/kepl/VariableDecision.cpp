@@ -1,10 +1,10 @@
 // Decisions about variable terms: the parts of the term, and every check in its order.
 #include <algorithm>
-#include <cmath>
 
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/kepl/Decision.h"
 #include "ParamSystem/kepl/Words.h"
+#include "ParamSystem/rules/Facts.h"
 #include "ParamSystem/support/Parse.h"
 #include "ParamSystem/support/Text.h"
 
@@ -104,7 +104,7 @@ private:
 
     bool isReadable() { return demand(row().val_access != kWriteOnly, Refusal::writeOnly); }
 
-    bool isWritable() { return demand(row().val_access != kReadOnly, Refusal::readOnly); }
+    bool isWritable() { return demand(!rules::factsOf(row()).isReadOnly, Refusal::readOnly); }
 
     // Attempts on security parameters are noted even if they are refused from here on.
     bool note() {
@@ -165,13 +165,12 @@ private:
     }
 
     bool numberFits() {
-        double number = 0;
-        if (!demand(parseDouble(*parts.value, &number) == kParsed && !std::isnan(number),
-                    Refusal::syntaxError))
-            return false;
-        decision.value.emplace(number);
-        return demand(number >= row().val_min, Refusal::valueTooLow) &&
-               demand(number <= row().val_max, Refusal::valueTooHigh);
+        const std::optional<double> number = numberIn(*parts.value);
+        if (number) decision.value.emplace(*number);
+        const Reason reason = rules::check(rules::factsOf(row()), number, rules::kLanguageRefuses).reason;
+        return demand(reason == Reason::none, reason == Reason::tooLow    ? Refusal::valueTooLow
+                                              : reason == Reason::tooHigh ? Refusal::valueTooHigh
+                                                                          : Refusal::syntaxError);
     }
 
     // A text that begins with a double quote loses its first and its last character.

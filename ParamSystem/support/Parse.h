@@ -2,6 +2,7 @@
 #ifndef TALUX_SUPPORT_PARSE_H
 #define TALUX_SUPPORT_PARSE_H
 
+#include <optional>
 #include <string_view>
 
 #include "ParamSystem/TALUX_Types.h"
@@ -23,6 +24,11 @@ ParseResult parseLong(std::string_view text, VarLong* value);
 ParseResult parseHexLong(std::string_view text, VarLong* value);
 ParseResult parseULong(std::string_view text, VarULong* value);
 ParseResult parseDouble(std::string_view text, double* value);
+
+inline std::optional<double> numberIn(std::string_view text) {
+    double number = 0;
+    return parseDouble(text, &number) == kParsed ? std::optional(number) : std::nullopt;
+}
 
 } // namespace talux
 
