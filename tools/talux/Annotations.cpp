@@ -79,7 +79,7 @@ constexpr const char* kLayer = R"lua(
 // What stands behind a name: title, unit, range, elements; the texts of a few choices.
 std::string remarkOn(const Parameter& parameter, const Context& context) {
     std::string text = parameter.title(context.language);
-    if (const std::string unit = parameter.unit(); !unit.empty()) text += fill(", {}", {unit});
+    if (const std::string unit = unitOf(parameter); !unit.empty()) text += fill(", {}", {unit});
     if (const std::string limits = range(parameter, context.language); !limits.empty())
         text += fill(", {}", {limits});
     if (parameter.isIndexed())

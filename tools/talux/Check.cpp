@@ -125,7 +125,7 @@ void addCheck(CLI::App& app, Commands& commands) {
                    "what to compare with: default (factory settings), live, staged, a file or a folder; "
                    "default if not given");
     command.flag("--json", options->json, "print JSON");
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }
 
 } // namespace talux::tool

@@ -43,6 +43,7 @@ Status forEachFile(const std::vector<std::string>& paths,
 struct Command {
     Subcommand given;
     std::function<Status(const Context&)> run;
+    bool isPaged = false;
 };
 using Commands = std::vector<Command>;
 

@@ -47,7 +47,7 @@ void printDifferences(const std::vector<Difference>& found, const Source& a, con
         list.add({{"name", parameter->name()},
                   {"from", json(*parameter, from)},
                   {"to", json(*parameter, to)},
-                  {"unit", parameter->unit()}});
+                  {"unit", unitOf(*parameter)}});
     print(Json{{"from", a.name()}, {"to", b.name()}, {"differences", std::move(list)}}.text());
 }
 
@@ -74,7 +74,7 @@ void addDiff(CLI::App& app, Commands& commands) {
         .required()
         .expected(1, 2);
     command.flag("--json", options->json, "print JSON");
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }
 
 } // namespace talux::tool

@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "ParamSystem/files/Line.h"
+#include "tools/talux/Lookup.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
@@ -145,8 +146,7 @@ void Judge::judgeSkipped(const Entry& entry, const Effect& effect, Judgement& ju
     case Outcome::unknownName: {
         std::string text =
             context.say("no parameter has this name; is skipped", "kein Parameter heißt so; wird übergangen");
-        if (const auto near = reference::nearest(entry.name); !near.empty())
-            text += fill(context.say("; the nearest name is {}", "; der ähnlichste Name ist {}"), {near});
+        text += nearestName(entry.name, context);
         add(judgement, "unknown", std::move(text));
         break;
     }

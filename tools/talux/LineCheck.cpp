@@ -6,6 +6,7 @@
 #include "ParamSystem/kepl/Words.h"
 #include "ParamSystem/support/Text.h"
 #include "tools/talux/Judgement.h"
+#include "tools/talux/Lookup.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
@@ -22,18 +23,14 @@ const Parameter* parameterOf(const Decision& decision) {
 }
 
 std::string unitBehind(const Parameter& parameter) {
-    const std::string unit = parameter.unit();
+    const std::string unit = unitOf(parameter);
     return unit.empty() ? unit : " " + unit;
 }
 
-std::string unknownName(std::string_view name, const Context& context) {
+std::string nameReason(std::string_view name, const Context& context) {
     if (name == kepl::VariableTerm().name)
         return context.say("there is no name after the prefix", "hinter dem Vorsatz steht kein Name");
-    std::string text =
-        fill(context.say("no parameter is named {}", "kein Parameter heißt {}"), {printable(name)});
-    if (const auto near = reference::nearest(name); !near.empty())
-        text += fill(context.say("; the nearest name is {}", "; der ähnlichste Name ist {}"), {near});
-    return text;
+    return unknownName(name, context);
 }
 
 std::string syntaxReason(const Decision& decision, const Context& context) {
@@ -48,7 +45,7 @@ std::string syntaxReason(const Decision& decision, const Context& context) {
                                 "'{}' ist weder Zahl noch Befehl, Parameter, Operator oder Funktion"),
                     {term});
     }
-    if (decision.row == nullptr) return unknownName(decision.variable.name, context);
+    if (decision.row == nullptr) return nameReason(decision.variable.name, context);
     const std::string value = printable(decision.variable.value.value_or(""));
     if (value.empty()) return context.say("there is no value after =", "hinter = steht kein Wert");
     switch (typeOf(*decision.row).nature) {
@@ -301,7 +298,7 @@ private:
         const std::string_view behind = term.substr(std::min(term.find_first_of(" =\r\n", 4), term.size()));
         if (behind.empty()) return lookAtUnfinishedName(piece, term.substr(4));
         if (piece.decision.row == nullptr) {
-            add(placeOf(piece), unknownName(name, context), true);
+            add(placeOf(piece), nameReason(name, context), true);
             return false;
         }
         if (behind.find('=') == behind.npos) return true;

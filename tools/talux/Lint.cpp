@@ -13,6 +13,7 @@
 #include "ParamSystem/support/Text.h"
 #include "tools/talux/Command.h"
 #include "tools/talux/LineCheck.h"
+#include "tools/talux/Lookup.h"
 #include "tools/talux/LuaTokens.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -215,12 +216,7 @@ private:
         const std::string_view name = constant->text;
         const Parameter* const parameter = name.size() > 4 ? reference::find(name.substr(4)) : nullptr;
         if (parameter == nullptr || parameter->isTemplate()) {
-            std::string text =
-                fill(context.say("no parameter is named {}", "kein Parameter heißt {}"), {printable(name)});
-            if (const auto near = reference::nearest(name); !near.empty())
-                text += fill(context.say("; the nearest name is TLX_{}", "; der ähnlichste Name ist TLX_{}"),
-                             {near});
-            findings.add(place, text);
+            findings.add(place, unknownName(name, context, "TLX_"));
             return;
         }
         lintElements(argument, *parameter, table == "talux_longarray" ? Kind::Long : Kind::Double);
@@ -257,11 +253,8 @@ private:
     void lintLayer(std::size_t k) {
         const auto constant = argumentAt(k);
         if (!constant || !constant->isWhole || isNameOrSeries(constant->text)) return;
-        std::string text = fill(context.say("no parameter is named {}", "kein Parameter heißt {}"),
-                                {printable(constant->text)});
-        if (const auto near = reference::nearest(constant->text); !near.empty())
-            text += fill(context.say("; the nearest name is {}", "; der ähnlichste Name ist {}"), {near});
-        findings.add(constant->where.empty() ? at(k).at : constant->where[0], text);
+        findings.add(constant->where.empty() ? at(k).at : constant->where[0],
+                     unknownName(constant->text, context));
     }
 
     // Moves behind the next comma of the argument list; false when the list ends before.
@@ -381,7 +374,7 @@ void addLint(CLI::App& app, Commands& commands) {
         .required();
     command.option("--level", options->level, "rights that lines of KEPL have, 0 to 3; 3 if not given")
         .inRange(0, 3);
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }
 
 } // namespace talux::tool

@@ -1,7 +1,9 @@
 // talux list: names and values.
+#include <algorithm>
 #include <memory>
 
 #include "tools/talux/Command.h"
+#include "tools/talux/Lookup.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -13,6 +15,7 @@ namespace {
 struct Options {
     std::string source = "default";
     Filter filter;
+    std::string uses;
     bool changed = false;
     bool json = false;
 };
@@ -37,7 +40,33 @@ Json jsonValue(const Parameter& parameter, const Source& source) {
     return elements;
 }
 
-Status run(const Options& options, const Context& context) {
+// Whether the value is one of the meanings: an output function by its number, any choice by its text.
+bool isUse(const Parameter& parameter, const std::optional<Value>& value,
+           const std::vector<Meaning>& meanings) {
+    if (!value || value->isText()) return false;
+    return std::ranges::any_of(meanings, [&](const Meaning& meaning) {
+        return value->number() == meaning.choice.number &&
+               std::ranges::find(meaning.bearers, &parameter) != meaning.bearers.end();
+    });
+}
+
+std::vector<Meaning> usesOf(const std::string& text, const Context& context) {
+    std::vector<Meaning> meanings = meaningsOf(text, context.language);
+    if (text.find_first_not_of("0123456789") == text.npos)
+        std::erase_if(meanings, [](const Meaning& meaning) {
+            return meaning.bearers[0]->templateName() != "BA_FUNCTION";
+        });
+    if (meanings.empty() && !text.empty())
+        throw CouldNot(
+            fill(context.say("no output function has this number, no choice this text: {}",
+                             "keine Ausgangsfunktion hat diese Nummer, keine Auswahl diesen Text: {}"),
+                 {printable(text)}));
+    return meanings;
+}
+
+Status run(Options& options, const Context& context) {
+    options.filter.check(context);
+    const std::vector<Meaning> uses = usesOf(options.uses, context);
     const Source source = Source::open(options.source, context);
     const Paint paint;
     Table table;
@@ -48,13 +77,14 @@ Status run(const Options& options, const Context& context) {
         const bool differs = isChanged(parameter, value);
         if (options.changed && !differs) continue;
         if (source.isPartial() && !value) continue;
+        if (!options.uses.empty() && !isUse(parameter, value, uses)) continue;
         const std::string text = valueText(parameter, value, context);
         table.add({std::string(parameter.name()), differs ? paint.changed(text) : text,
                    parameter.title(context.language)});
         if (options.json)
             all.add({{"name", parameter.name()},
                      {"value", jsonValue(parameter, source)},
-                     {"unit", parameter.unit()},
+                     {"unit", unitOf(parameter)},
                      {"title", parameter.title(context.language)},
                      {"changed", differs}});
     }
@@ -73,9 +103,11 @@ void addList(CLI::App& app, Commands& commands) {
     command.option("FILTER", options->filter.names, "parts of names, or patterns with * and ?");
     command.option("--of", options->source, "whose values: default, live, staged, a file or a folder");
     command.flag("--changed", options->changed, "only what is not the factory default");
+    command.option("--uses", options->uses,
+                   "only what is set to this output function, by its number, or to a choice with this text");
     options->filter.addTo(command);
     command.flag("--json", options->json, "print JSON");
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+    commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }
 
 } // namespace talux::tool

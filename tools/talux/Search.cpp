@@ -2,18 +2,61 @@
 
 #include <algorithm>
 
+#include "ParamSystem/support/Text.h"
+#include "tools/talux/Lookup.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
 namespace talux::tool {
 
+namespace {
+
+constexpr std::size_t kLongWord = 5;
+
+bool isLetter(char c) {
+    const char small = lowerAscii(c);
+    return (small >= 'a' && small <= 'z') || (static_cast<unsigned char>(c) & 0x80) != 0;
+}
+
+bool isSmall(char c) {
+    return isLetter(c) && lowerAscii(c) == c;
+}
+
+// "SigDel" begins in "Uearth_SigDel" and in "EvSigDel".
+bool beginsWord(std::string_view text, std::size_t at) {
+    return at == 0 || !isLetter(text[at - 1]) || !isLetter(text[at]) ||
+           (isSmall(text[at - 1]) && !isSmall(text[at]));
+}
+
+bool holdsWord(std::string_view text, std::string_view word) {
+    for (std::size_t at = 0; at + word.size() <= text.size(); ++at) {
+        if (!equalIgnoringCase(text.substr(at, word.size()), word)) continue;
+        const std::size_t end = at + word.size();
+        const bool endsWord = word.size() >= kLongWord && (end == text.size() || !isLetter(text[end]));
+        if (beginsWord(text, at) || endsWord) return true;
+    }
+    return false;
+}
+
 bool holdsWords(const Parameter& parameter, const std::vector<std::string>& words) {
     std::string texts(parameter.name());
     for (const ParamLanguage language : {kEnglish, kGerman})
         texts += "\n" + parameter.title(language) + "\n" + parameter.description(language);
-    return std::ranges::all_of(words,
-                               [&texts](const auto& word) { return containsIgnoringCase(texts, word); });
+    return std::ranges::all_of(words, [&texts](const auto& word) { return holdsWord(texts, word); });
 }
+
+bool isOfFamily(const Parameter& parameter, const std::string& family) {
+    return containsIgnoringCase(familyName(parameter, kEnglish), family) ||
+           containsIgnoringCase(familyName(parameter, kGerman), family);
+}
+
+bool hasNoLimits(const Parameter& parameter) {
+    const bool counts = parameter.type().kind == Kind::Bool || !parameter.choiceItems().empty();
+    return parameter.isSetting() && parameter.hasNumber() && !counts && !parameter.hasMinimum() &&
+           !parameter.hasMaximum();
+}
+
+} // namespace
 
 std::vector<const Parameter*> search(const std::vector<std::string>& words) {
     std::vector<const Parameter*> found;
@@ -27,16 +70,39 @@ void Filter::addTo(Subcommand& command) {
     command.option("--file", file,
                    "only settings saved in the file whose name begins so: parameter, sec, ip");
     command.option("--level", level, "only parameters that need this rights level to write: 1, 2 or 3");
+    command.option("--method", method,
+                   "only what belongs to the detection method whose name contains this: qu2, wattmetric");
+    command.flag("--individual", individual, "only what belongs to the single device: name, addresses, ..");
+    command.flag("--no-limits", noLimits, "only settings whose numbers no limits are specified for");
     command.option("--search", words, "only parameters whose texts contain all of these words").divided(' ');
+}
+
+void Filter::check(const Context& context) {
+    for (const std::string& name : names)
+        if (std::ranges::none_of(reference::parameters(), [&name](const Parameter& parameter) {
+                return !parameter.isTemplate() && fits(parameter.name(), name);
+            }))
+            throw CouldNot(unknownName(name, context));
+    if (std::ranges::none_of(reference::parameters(),
+                             [this](const Parameter& row) { return isOfFamily(row, family); }))
+        throw CouldNot(
+            fill(context.say("no family is named {}", "keine Familie heißt {}"), {printable(family)}));
+    methodNumber = methodNamed(method);
+    if (methodNumber < 0)
+        throw CouldNot(
+            fill(context.say("no method is named {}; there are {}", "kein Verfahren heißt {}; es gibt {}"),
+                 {printable(method), list(reference::model().methods, ", ",
+                                          [&](const auto& name) { return name.in(context.language); })}));
 }
 
 bool Filter::accepts(const Parameter& parameter) const {
     if (parameter.isTemplate()) return false;
     const auto fitsName = [&](const std::string& name) { return fits(parameter.name(), name); };
     if (!names.empty() && !std::ranges::any_of(names, fitsName)) return false;
-    if (!containsIgnoringCase(familyName(parameter, kEnglish), family) &&
-        !containsIgnoringCase(familyName(parameter, kGerman), family))
-        return false;
+    if (!isOfFamily(parameter, family)) return false;
+    if (!method.empty() && !isOfMethod(parameter, methodNumber)) return false;
+    if (individual && !parameter.model().has(parameters::kIndividual)) return false;
+    if (noLimits && !hasNoLimits(parameter)) return false;
     if (!file.empty() && !reference::fileName(parameter.file()).starts_with(file)) return false;
     if (level != 0 && parameter.writeLevel() != level) return false;
     return words.empty() || holdsWords(parameter, words);

@@ -9,22 +9,28 @@
 
 namespace talux::tool {
 
-// The parameters whose name, titles or descriptions in either language hold every word.
+// The parameters whose name, titles or descriptions in either language hold every word: at the beginning of
+// one of theirs, a long one also at the end, as German compounds have it.
 std::vector<const Parameter*> search(const std::vector<std::string>& words);
-
-bool holdsWords(const Parameter& parameter, const std::vector<std::string>& words);
 
 // Which parameters a command is about.
 struct Filter {
     std::vector<std::string> names; // parts of names or patterns; any of them
     std::vector<std::string> words; // of the texts; all of them
     std::string family;             // part of its name
+    std::string method;             // part of its name
     std::string file;               // part of its name
     int level = 0;                  // rights that a write takes; 0 any
+    bool individual = false;        // only what belongs to the single device
+    bool noLimits = false;          // only settings whose numbers are not limited
 
-    // Adds --family, --file, --level and --search to a command.
     void addTo(Subcommand& command);
+    // The words of the person stand for something; throws CouldNot otherwise. Before accepts().
+    void check(const Context& context);
     bool accepts(const Parameter& parameter) const;
+
+private:
+    int methodNumber = -1;
 };
 
 } // namespace talux::tool

@@ -12,35 +12,6 @@ namespace talux::tool {
 
 namespace {
 
-// What the families are called in German.
-constexpr struct {
-    std::string_view english, german;
-} kFamilies[] = {
-    {"State", "Zustand"},
-    {"Measurements", "Messwerte"},
-    {"Signals", "Meldungen"},
-    {"Identification", "Identifikation"},
-    {"Display", "Anzeige"},
-    {"Network", "Netzwerk"},
-    {"Firewall and services", "Firewall und Dienste"},
-    {"Time services", "Zeitdienste"},
-    {"Serial ports", "Serielle Schnittstellen"},
-    {"Modbus slave", "Modbus-Slave"},
-    {"Telecontrol", "Fernwirktechnik"},
-    {"Scripting", "Skripte"},
-    {"Process images", "Prozessabbilder"},
-    {"Analog inputs", "Analogeingänge"},
-    {"Binary inputs and outputs", "Binäre Ein- und Ausgänge"},
-    {"Earth-fault detection", "Erdschlusserfassung"},
-    {"Recorder and statistics", "Störschreiber und Statistik"},
-    {"User texts", "Benutzertexte"},
-    {"Service", "Service"},
-    {"Users and security", "Benutzer und Sicherheit"},
-    {"Run-time values", "Laufzeitwerte"},
-    {"Measurement snapshot", "Messwertabzug"},
-    {"Records", "Datensätze"},
-};
-
 // Without an exponent where people write none.
 template <typename Number>
 std::string shortest(Number number) {
@@ -55,10 +26,9 @@ std::string shortest(Number number) {
 // What stands behind the number.
 std::string meaning(const Parameter& parameter, const Value& value, const Context& context) {
     if (value.isText()) return {};
-    if (const std::string unit = parameter.unit(); !unit.empty()) return " " + unit;
-    if (parameter.type().kind != Kind::Enum) return {};
-    const std::string choice = parameter.choiceText(static_cast<int>(value.number()), context.language);
-    return choice.empty() ? std::string() : " (" + choice + ")";
+    if (const std::string unit = unitOf(parameter); !unit.empty()) return " " + unit;
+    const std::string choice = choiceOf(parameter, value, context.language);
+    return choice.empty() ? choice : " (" + choice + ")";
 }
 
 } // namespace
@@ -69,15 +39,23 @@ std::string plain(const Parameter& parameter, const Value& value) {
                                                 : shortest(value.number());
 }
 
+std::string unitOf(const Parameter& parameter) {
+    return parameter.type().kind == Kind::Enum ? std::string() : parameter.unit();
+}
+
+std::string choiceOf(const Parameter& parameter, const Value& value, ParamLanguage language) {
+    if (value.isText() || parameter.type().kind != Kind::Enum) return {};
+    return parameter.choiceText(static_cast<int>(value.number()), language);
+}
+
 std::string shown(const Parameter& parameter, const std::optional<Value>& value, const Context& context) {
     return value ? plain(parameter, *value) + meaning(parameter, *value, context) : "-";
 }
 
 std::string_view familyName(const Parameter& parameter, ParamLanguage language) {
-    const std::string_view name = parameter.family().name;
-    const auto* const found =
-        std::ranges::find(kFamilies, name, [](const auto& family) { return family.english; });
-    return language == kGerman && found != std::end(kFamilies) ? found->german : name;
+    const auto& model = reference::model();
+    return model.familyNames[static_cast<std::size_t>(&parameter.family() - model.families.data())].in(
+        language);
 }
 
 bool isInRange(const Parameter& parameter, double number) {
@@ -94,7 +72,7 @@ std::string range(const Parameter& parameter, ParamLanguage language) {
 std::string change(const Parameter& parameter, const std::optional<Value>& from,
                    const std::optional<Value>& to, const Context& context) {
     // The unit stands once, behind both.
-    const bool isOneUnit = from && to && !parameter.unit().empty();
+    const bool isOneUnit = from && to && !unitOf(parameter).empty();
     const std::string before = isOneUnit ? plain(parameter, *from) : shown(parameter, from, context);
     return before + " -> " + shown(parameter, to, context);
 }

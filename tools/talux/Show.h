@@ -13,6 +13,12 @@ namespace talux::tool {
 // A number with as many digits as tell it from all others of its width; a text in double quotes.
 std::string plain(const Parameter& parameter, const Value& value);
 
+// Empty for choices, whose numbers count nothing.
+std::string unitOf(const Parameter& parameter);
+
+// The text of the choice that the value is; empty where it is none.
+std::string choiceOf(const Parameter& parameter, const Value& value, ParamLanguage language);
+
 // With its unit or the text of the choice: "30 %", "2 (English)". Nothing is "-".
 std::string shown(const Parameter& parameter, const std::optional<Value>& value, const Context& context);
 

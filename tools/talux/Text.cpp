@@ -1,8 +1,10 @@
 #include "tools/talux/Text.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "ParamSystem/support/Text.h"
@@ -115,11 +117,40 @@ std::string printable(std::string_view text) {
     return shown;
 }
 
+bool isForTerminal() {
+    static const bool is = isatty(STDOUT_FILENO) == 1;
+    return is;
+}
+
+// `less` ends at once where all fits, and is not everywhere.
+Pager::Pager() {
+    int ends[2];
+    if (!isForTerminal() || pipe(ends) != 0) return;
+    child = fork();
+    if (child == 0) {
+        dup2(ends[0], STDIN_FILENO);
+        close(ends[0]), close(ends[1]);
+        execlp("sh", "sh", "-c", "${PAGER:-less -FRX} || exec cat", nullptr);
+        _exit(127);
+    }
+    if (child > 0) {
+        std::signal(SIGINT, SIG_IGN); // it is the pager's
+        dup2(ends[1], STDOUT_FILENO);
+    }
+    close(ends[0]), close(ends[1]);
+}
+
+Pager::~Pager() {
+    if (child <= 0) return;
+    std::fclose(stdout);
+    waitpid(child, nullptr, 0);
+}
+
 Paint::Paint() {
     const char* const none = std::getenv("NO_COLOR");
     const char* const terminal = std::getenv("TERM");
     const bool isDumb = terminal == nullptr || std::string_view(terminal) == "dumb";
-    isOn = isatty(STDOUT_FILENO) == 1 && !isDumb && (none == nullptr || *none == '\0');
+    isOn = isForTerminal() && !isDumb && (none == nullptr || *none == '\0');
 }
 
 std::string Paint::with(const char* code, const std::string& text) const {

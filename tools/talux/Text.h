@@ -33,6 +33,21 @@ std::string counted(Number count, const char* one, const char* several) {
     return std::to_string(count) + (count == 1 ? one : several);
 }
 
+// Whether a person reads what the program prints.
+bool isForTerminal();
+
+// While it lives, standard output goes through $PAGER, or less, if it goes to a terminal.
+class Pager {
+public:
+    Pager();
+    ~Pager();
+    Pager(const Pager&) = delete;
+    Pager& operator=(const Pager&) = delete;
+
+private:
+    int child = 0;
+};
+
 // Colours, on a terminal only and unless NO_COLOR is set.
 class Paint {
 public:

@@ -171,7 +171,7 @@ public:
             table.add({changed ? "*" : "", items[k].label, changed ? paint.changed(text) : text,
                        items[k].parameter->title(context.language)});
         }
-        const bool inPlace = isatty(STDOUT_FILENO) == 1;
+        const bool inPlace = isForTerminal();
         std::string text = timeOfDay() + "\n" + table.text();
         if (inPlace && !before.empty()) print(fill("\033[{}A", {std::to_string(items.size() + 1)}));
         if (inPlace)

@@ -2,8 +2,10 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 #include "tools/talux/Command.h"
+#include "tools/talux/Text.h"
 
 namespace {
 
@@ -33,6 +35,8 @@ void addCommands(CLI::App& app, Commands& commands) {
 Status runChosen(const Commands& commands, const Context& context) {
     const auto chosen =
         std::ranges::find_if(commands, [](const Command& command) { return command.given.isChosen(); });
+    std::optional<Pager> pager;
+    if (chosen->isPaged) pager.emplace();
     try {
         const Status status = chosen->run(context);
         if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
