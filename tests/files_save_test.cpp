@@ -169,13 +169,19 @@ TEST_F(Save, IsDatedInTheZoneOfTheMoment) {
         EXPECT_EQ(VarSaveParams(), 1);
     }
     if (sizeof moment == 8) {
-        moment = std::numeric_limits<std::time_t>::max();
-        names.push_back("param_1900_01_00_000000.ini");
-        EXPECT_EQ(VarSaveParams(), 1);
-        EXPECT_NE(
-            contents(directory / "parameter.ini").find("TLX_Date=\"1900-01-00\"\nTLX_Time=\"00:00:00\"\n"),
-            std::string::npos);
-        EXPECT_EQ(contents(directory / names[3]), contents(directory / "parameter.ini"));
+        setenv("TZ", "UTC0", 1);
+        for (const auto& [seconds, date, file] :
+             {std::tuple(std::numeric_limits<std::time_t>::max(), "1900-01-00",
+                         "param_1900_01_00_000000.ini"),
+              {static_cast<std::time_t>(67768036191676799), "2147485547-12-31",
+               "param_2147485547_12_31_235959.ini"}}) {
+            moment = seconds;
+            EXPECT_EQ(VarSaveParams(), 1);
+            const std::string whole = contents(directory / "parameter.ini");
+            EXPECT_NE(whole.find("TLX_Date=\"" + std::string(date) + "\"\nTLX_Time=\""), std::string::npos);
+            EXPECT_EQ(contents(directory / file), whole);
+            names.push_back(file);
+        }
     }
     names.push_back("parameter.ini");
     std::sort(names.begin(), names.end());

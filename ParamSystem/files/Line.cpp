@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstring>
 
+#include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Address.h"
 #include "ParamSystem/support/FixedPoint.h"
 #include "ParamSystem/support/Number.h"
@@ -48,7 +49,7 @@ char* appendValue(char* place, const Type& type, const Value& value) {
 Value clockValue(Nature nature, const std::tm& now) {
     char text[48]; // a clock that was never set may show any number
     if (nature == Nature::date)
-        formatText(text, sizeof text, "%04d-%02d-%02d", now.tm_year + 1900, now.tm_mon + 1, now.tm_mday);
+        formatText(text, sizeof text, "%04lld-%02d-%02d", os::yearOf(now), now.tm_mon + 1, now.tm_mday);
     else
         formatText(text, sizeof text, "%02d:%02d:%02d", now.tm_hour, now.tm_min, now.tm_sec);
     return Value(std::string_view(text));

@@ -20,9 +20,8 @@ public:
         std::tm now;
         os::localTime(now);
         Path path;
-        formatText(path.text, sizeof path.text, "%s/%s_%04d_%02d_%02d_%02d%02d%02d.ini", szParameterPath,
-                   stem, now.tm_year + 1900, now.tm_mon + 1, now.tm_mday, now.tm_hour, now.tm_min,
-                   now.tm_sec);
+        formatText(path.text, sizeof path.text, "%s/%s_%04lld_%02d_%02d_%02d%02d%02d.ini", szParameterPath,
+                   stem, os::yearOf(now), now.tm_mon + 1, now.tm_mday, now.tm_hour, now.tm_min, now.tm_sec);
         return path;
     }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <climits>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <optional>
@@ -111,9 +112,10 @@ public:
 
     // Clears away what was left behind. While other saves have all the names it waits for them.
     bool make() {
-        for (int waits = 0; !claimFirst(); ++waits) {
+        const std::int64_t end = os::monotonicMilliseconds() + kLongestWait;
+        while (!claimFirst()) {
             if (errno != EEXIST) return false;
-            if (waits == kMostWaits) {
+            if (os::monotonicMilliseconds() >= end) {
                 errno = EAGAIN;
                 return false;
             }
@@ -132,9 +134,9 @@ private:
     using Name = std::array<char, 20>;
     static constexpr int kNumber = 12;
     static constexpr char kFirst = '0';
-    static constexpr char kEnd = '4';       // four saves of one directory at once
-    static constexpr unsigned kWait = 1000; // microseconds
-    static constexpr int kMostWaits = 5000;
+    static constexpr char kEnd = '4';         // four saves of one directory at once
+    static constexpr unsigned kWait = 1000;   // microseconds; a slow kernel makes more of it
+    static constexpr int kLongestWait = 5000; // milliseconds
 
     int directory;
     int descriptor = -1;
@@ -188,25 +190,35 @@ private:
 
 constexpr mode_t kAllRights = 07777;
 
+Rights rightsOf(const struct stat& file) {
+    return {file.st_uid, file.st_gid, file.st_mode & kAllRights};
+}
+
+bool hasOwner(const struct stat& file, const Rights& rights) {
+    return file.st_uid == rights.owner && file.st_gid == rights.group;
+}
+
+// No right to, or no such owner in a container.
+bool isNotAllowed(int error) {
+    return error == EPERM || error == EINVAL;
+}
+
 void reportRights(const char* path, const char* call) {
     const int error = errno;
-    if (error == EPERM || error == EINVAL) return; // no right to, or no such owner in a container
+    if (isNotAllowed(error)) return;
     std::fprintf(stderr, "Error (TALUX_Var): Can't set owner and rights of file '%s' \n", path);
     errno = error;
     std::perror(call);
 }
 
-// `now` is what the file has.
-void setRights(int descriptor, const struct stat& now, const Rights& rights, const char* path) {
-    if ((now.st_uid != rights.owner || now.st_gid != rights.group) &&
-        !os::giveFile(descriptor, rights.owner, rights.group))
-        reportRights(path, "chown");
+// `now` is what the file has. False when the owner should be another and that is not allowed.
+bool setRights(int descriptor, const struct stat& now, const Rights& rights, const char* path) {
+    const bool isGiven = hasOwner(now, rights) || os::giveFile(descriptor, rights.owner, rights.group);
+    const bool isAllowed = isGiven || !isNotAllowed(errno);
+    if (!isGiven) reportRights(path, "chown");
     if ((now.st_mode & kAllRights) != rights.mode && !os::allowFile(descriptor, rights.mode))
         reportRights(path, "chmod");
-}
-
-Rights rightsOf(const struct stat& file) {
-    return {file.st_uid, file.st_gid, file.st_mode & kAllRights};
+    return isAllowed;
 }
 
 // ---- Both ways ----
@@ -219,10 +231,12 @@ bool isReplaceable(const struct stat& old) {
     return S_ISREG(old.st_mode) && old.st_nlink <= 1;
 }
 
-// Only root can give a file to another owner.
-bool keepsOwner(const struct stat& draft, Old old) {
-    if (old == nullptr || (draft.st_uid == old->st_uid && draft.st_gid == old->st_gid)) return true;
-    return os::isRoot();
+// False where the new file would silently go from the old one's owner to its writer.
+bool setRights(const Draft& draft, const Rights* rights, Old old, const char* path) {
+    if (rights == nullptr && old == nullptr) return true;
+    const Rights wanted = rights != nullptr ? *rights : rightsOf(*old);
+    return setRights(draft.get(), draft.status(), wanted, path) || old == nullptr ||
+           hasOwner(draft.status(), rightsOf(*old));
 }
 
 // Nothing when the file cannot be replaced; all is as before then.
@@ -238,11 +252,8 @@ std::optional<Replacement> replaceWhole(const char* path, std::string_view conte
     Draft draft(directory.get());
     if (!draft.make() && isUsedUp(errno)) return {};
     if (draft.get() < 0) return refusedOr(Written::notOpened, "fopen");
-    if (!keepsOwner(draft.status(), old)) return {};
-
     // First of all, so that nobody reads meanwhile what only few may read.
-    if (rights != nullptr || old != nullptr)
-        setRights(draft.get(), draft.status(), rights != nullptr ? *rights : rightsOf(*old), path);
+    if (!setRights(draft, rights, old, path)) return {};
     if (!os::writeFile(draft.get(), contents)) return failure(Written::notWritten, "write");
     if (!os::syncFile(draft.get())) return failure(Written::notKept, "fsync");
     if (!draft.placeAs(place.name())) return refusedOr(Written::notKept, "rename");
@@ -288,9 +299,12 @@ Replacement replaceFile(const char* path, std::string_view contents, const Right
     if (!existing && errno != ENOENT) return failure(Written::notOpened, "fopen");
     struct stat old {};
     if (existing && !os::statusOf(existing.get(), old)) return failure(Written::notOpened, "fopen");
-    if (!existing || isReplaceable(old))
-        if (const auto replaced = replaceWhole(path, contents, rights, existing ? &old : nullptr))
+    const bool isThere{existing};
+    if (!isThere || isReplaceable(old))
+        if (auto replaced = replaceWhole(path, contents, rights, isThere ? &old : nullptr)) {
+            replaced->isAsBefore = replaced->isAsBefore && isThere;
             return *replaced;
+        }
     if (existing) return writeInPlace(path, contents, rights, existing);
     Descriptor made(os::openOrMake(path));
     return writeInPlace(path, contents, rights, made);

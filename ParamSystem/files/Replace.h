@@ -18,19 +18,19 @@ enum class Written {
 
 struct Replacement {
     Written written = Written::done;
-    bool isAsBefore = false; // what stands there has not changed
+    bool isAsBefore = false; // what was there has not changed
     const char* call = "";   // that failed
     int error = 0;           // its reason
 };
 
 // Makes the new file beside the old one, syncs it, renames it over the old one and syncs the directory. Links
 // are followed, the last one may dangle. `rights` null: owner and rights of the old file, those that the mask
-// leaves for a new one. Where the process has no right to give files away they stay with their writer; any
-// other failure of that is told on the error stream.
+// leaves for a new one. Where the process has no right to give files away a new file stays with its writer
+// and an old one with its owner; any other failure of that is reported on the error stream.
 //
 // Written in place, and then not as a whole, is what cannot be replaced: a device, a FIFO, a file with
 // several names, one in a directory in which nothing can be made or exchanged, be it for want of an inode,
-// one of another owner whom only root could restore. Only regular files are given away.
+// one of another owner to whom the new one cannot be given. Only regular files are given away.
 Replacement replaceFile(const char* path, std::string_view contents, const Rights* rights);
 
 } // namespace talux

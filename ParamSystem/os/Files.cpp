@@ -123,8 +123,4 @@ bool exists(const char* path) {
     return access(path, F_OK) == 0;
 }
 
-bool isRoot() {
-    return geteuid() == 0;
-}
-
 } // namespace talux::os

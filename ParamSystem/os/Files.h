@@ -44,9 +44,6 @@ bool readLink(const char* path, char* target, std::size_t size);
 
 bool exists(const char* path);
 
-// The user whose rights count for files is root.
-bool isRoot();
-
 } // namespace talux::os
 
 #endif

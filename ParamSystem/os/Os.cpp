@@ -89,6 +89,12 @@ void sleepMicroseconds(unsigned microseconds) {
     usleep(microseconds);
 }
 
+std::int64_t monotonicMilliseconds() {
+    timespec now;
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return std::int64_t{now.tv_sec} * 1000 + now.tv_nsec / 1000000;
+}
+
 void logInfo(const char* format, ...) {
     std::va_list arguments;
     va_start(arguments, format);

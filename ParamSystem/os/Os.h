@@ -4,6 +4,7 @@
 #define TALUX_OS_OS_H
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <ctime>
 
@@ -30,6 +31,14 @@ bool localTime(std::tm& now);
 void setClock(std::time_t seconds);
 
 void sleepMicroseconds(unsigned microseconds);
+
+// From some moment on, whatever becomes of the clock.
+std::int64_t monotonicMilliseconds();
+
+// Of any time that can be converted: the years of 64 bits of seconds do not fit into an int.
+constexpr long long yearOf(const std::tm& time) {
+    return 1900LL + time.tm_year;
+}
 
 // Write to the system log with priority informational or error, printf-style.
 [[gnu::format(printf, 1, 2)]] void logInfo(const char* format, ...);

@@ -2,10 +2,9 @@
 // compiled into it, checks their rules and writes sources.
 //
 //   dictionary_generator FOLDER
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <cstdio>
 
+#include "tools/WholeFile.h"
 #include "tools/generator/Data.h"
 #include "tools/generator/Generator.h"
 
@@ -15,13 +14,7 @@ using namespace talux::generator;
 
 // A file that has its content already keeps its time, so that nothing is compiled for nothing.
 bool write(const std::string& path, const std::string& content) {
-    std::ifstream before(path, std::ios::binary);
-    if (before && std::string(std::istreambuf_iterator<char>(before), {}) == content) return true;
-    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-    std::ofstream file(path, std::ios::binary);
-    if ((file << content).flush()) return true;
-    std::perror(path.c_str());
-    return false;
+    return talux::contentOf(path) == content || talux::replaceFile(path, content);
 }
 
 } // namespace

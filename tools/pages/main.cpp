@@ -4,10 +4,9 @@
 //   dictionary --accept PROJECT  writes it
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string_view>
 
+#include "tools/WholeFile.h"
 #include "tools/generator/TextPattern.h"
 #include "tools/interface/Listing.h"
 #include "tools/pages/Facts.h"
@@ -17,11 +16,6 @@ namespace {
 
 using namespace talux;
 using std::filesystem::path;
-
-std::string contentOf(const path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 pages::Pages allPages(const path& folder) {
     pages::Pages pages;
@@ -52,12 +46,7 @@ public:
         ++differing;
         std::printf("%s %s\n", file.c_str(), isAccepted ? "is written" : "is out of date");
         if (file.filename() == "interface.tsv") explain(before);
-        std::ofstream out;
-        if (!isAccepted) return;
-        out.open(file, std::ios::binary);
-        if ((out << content).flush()) return;
-        std::perror(file.c_str());
-        hasFailed = true;
+        if (isAccepted && !replaceFile(file, content)) hasFailed = true;
     }
 
     void drop(const path& file) {
