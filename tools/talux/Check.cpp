@@ -73,12 +73,10 @@ void printText(const std::string& path, const Told& told, const Context& context
          counted(told.findings, context.say(" finding", " Befund"), context.say(" findings", " Befunde"))}));
 }
 
-Json described(const Judgement& judgement) {
-    Json object{{"line", judgement.line}, {"name", judgement.name}};
-    if (judgement.to) {
-        object.set("from", json(*judgement.parameter, judgement.from));
-        object.set("to", json(*judgement.parameter, judgement.to));
-    }
+Json described(const Judgement& judgement, const Context& context) {
+    Json object{{"name", judgement.name}};
+    if (judgement.to) object = changeJson(*judgement.parameter, judgement.from, judgement.to, context);
+    object.set("line", judgement.line);
     Json findings = Json::array();
     for (const Finding& finding : judgement.findings)
         findings.add({{"code", finding.code}, {"text", finding.text}});
@@ -86,10 +84,10 @@ Json described(const Judgement& judgement) {
     return object;
 }
 
-Json described(const std::string& path, const Told& told) {
+Json described(const std::string& path, const Told& told, const Context& context) {
     Json lines = Json::array();
     for (const Judgement& judgement : told.judgements)
-        lines.add(described(judgement));
+        lines.add(described(judgement, context));
     return {{"file", path},
             {"settings", told.settings},
             {"changes", told.changes},
@@ -104,7 +102,7 @@ Status run(const Options& options, const Context& context) {
     const Status status = forEachFile(options.files, [&](const std::string& path) {
         const Told told = judgeFile(path, before, context);
         if (options.json)
-            all.add(described(path, told));
+            all.add(described(path, told, context));
         else
             printText(printable(path), told, context);
         return told.changes > 0 || told.findings > 0 || told.untold > 0 ? kFound : kNothing;

@@ -41,13 +41,11 @@ void printText(const std::vector<Difference>& found, const Context& context) {
     print(table.text());
 }
 
-void printDifferences(const std::vector<Difference>& found, const Source& a, const Source& b) {
+void printDifferences(const std::vector<Difference>& found, const Source& a, const Source& b,
+                      const Context& context) {
     Json list = Json::array();
     for (const auto& [parameter, from, to] : found)
-        list.add({{"name", parameter->name()},
-                  {"from", json(*parameter, from)},
-                  {"to", json(*parameter, to)},
-                  {"unit", unitOf(*parameter)}});
+        list.add(changeJson(*parameter, from, to, context));
     print(Json{{"from", a.name()}, {"to", b.name()}, {"differences", std::move(list)}}.text());
 }
 
@@ -57,7 +55,7 @@ Status run(const Options& options, const Context& context) {
     const Source b = Source::open(options.sources.back(), context);
     const auto found = differences(a, b);
     if (options.json)
-        printDifferences(found, a, b);
+        printDifferences(found, a, b, context);
     else
         printText(found, context);
     return found.empty() ? kNothing : kFound;

@@ -127,6 +127,7 @@ private:
             known->second.push_back(choice.number);
         }
         std::vector<std::string> texts;
+        texts.reserve(byText.size());
         for (const auto& [text, numbers] : byText)
             texts.push_back(fill("{} = {}", {pages::asRanges(numbers), text}));
         return texts;
@@ -168,6 +169,7 @@ std::vector<std::string> together(const std::vector<std::string>& texts, const P
     if (byText.size() == 1) return {texts[0]};
     if (byText.size() == series.size()) return {texts.front() + " .. " + texts.back()};
     std::vector<std::string> rows;
+    rows.reserve(byText.size());
     for (const auto& [text, members] : byText)
         rows.push_back(fill("{}: {}", {inShort(members), text}));
     return rows;
@@ -187,6 +189,7 @@ void explain(const Parameters& series, const Places& places, const Context& cont
     Table table;
     for (std::size_t k = 0; k < rows[0].labels().size(); ++k) {
         std::vector<std::string> texts;
+        texts.reserve(rows.size());
         for (const Rows& own : rows)
             texts.push_back(own.texts()[k]);
         std::string label = rows[0].labels()[k];

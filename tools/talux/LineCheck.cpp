@@ -36,8 +36,8 @@ std::string nameReason(std::string_view name, const Context& context) {
 std::string syntaxReason(const Decision& decision, const Context& context) {
     const std::string term = printable(decision.term);
     if (!decision.isVariable) {
-        if (const Parameter* parameter = reference::find(decision.term);
-            parameter != nullptr && !term.empty())
+        const std::string_view name = decision.term.substr(0, decision.term.find_first_of(" ="));
+        if (const Parameter* parameter = reference::find(name); parameter != nullptr && !name.empty())
             return fill(context.say("parameters are written with a prefix: TLX_{}",
                                     "Parameter stehen mit Vorsatz: TLX_{}"),
                         {parameter->name()});

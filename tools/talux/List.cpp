@@ -81,12 +81,15 @@ Status run(Options& options, const Context& context) {
         const std::string text = valueText(parameter, value, context);
         table.add({std::string(parameter.name()), differs ? paint.changed(text) : text,
                    parameter.title(context.language)});
-        if (options.json)
-            all.add({{"name", parameter.name()},
-                     {"value", jsonValue(parameter, source)},
-                     {"unit", unitOf(parameter)},
-                     {"title", parameter.title(context.language)},
-                     {"changed", differs}});
+        if (!options.json) continue;
+        Json entry{{"name", parameter.name()},
+                   {"value", jsonValue(parameter, source)},
+                   {"unit", unitOf(parameter)},
+                   {"title", parameter.title(context.language)},
+                   {"changed", differs}};
+        if (value && !choiceOf(parameter, *value, context.language).empty())
+            entry.set("text", choiceOf(parameter, *value, context.language));
+        all.add(std::move(entry));
     }
     if (options.json)
         print(all.text());

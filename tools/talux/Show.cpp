@@ -89,6 +89,23 @@ Json json(const Parameter& parameter, const std::optional<Value>& value) {
     return rounded;
 }
 
+Json changeJson(const Parameter& parameter, const std::optional<Value>& from, const std::optional<Value>& to,
+                const Context& context) {
+    Json object{{"name", parameter.name()},
+                {"title", parameter.title(context.language)},
+                {"from", json(parameter, from)},
+                {"to", json(parameter, to)},
+                {"unit", unitOf(parameter)}};
+    const auto addChoice = [&](const char* key, const std::optional<Value>& value) {
+        if (!value) return;
+        if (const std::string text = choiceOf(parameter, *value, context.language); !text.empty())
+            object.set(key, text);
+    };
+    addChoice("from_text", from);
+    addChoice("to_text", to);
+    return object;
+}
+
 void print(std::string_view text) {
     std::fwrite(text.data(), 1, text.size(), stdout);
 }

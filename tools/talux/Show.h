@@ -37,6 +37,10 @@ std::string change(const Parameter& parameter, const std::optional<Value>& from,
 // A number or a text; null for nothing.
 Json json(const Parameter& parameter, const std::optional<Value>& value);
 
+// Name, title, values, texts of choices and unit of a change.
+Json changeJson(const Parameter& parameter, const std::optional<Value>& from, const std::optional<Value>& to,
+                const Context& context);
+
 // Prints to standard output.
 void print(std::string_view text);
 

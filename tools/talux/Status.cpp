@@ -132,15 +132,15 @@ void printText(const Report& report, const Context& context) {
                  {flag}));
 }
 
-void printReport(const Report& report) {
+void printReport(const Report& report, const Context& context) {
     Json all;
     for (const Change& change : report.changes) {
         Json list = Json::array();
-        for (const auto& [parameter, from, to] : change.pending)
-            list.add({{"name", parameter->name()},
-                      {"from", json(*parameter, from)},
-                      {"to", json(*parameter, to)},
-                      {"network", reachesNetwork(*parameter)}});
+        for (const auto& [parameter, from, to] : change.pending) {
+            Json entry = changeJson(*parameter, from, to, context);
+            entry.set("network", reachesNetwork(*parameter));
+            list.add(std::move(entry));
+        }
         all.set(change.command,
                 {{"place", change.place}, {"there", change.isThere}, {"changes", std::move(list)}});
     }
@@ -157,7 +157,7 @@ void printReport(const Report& report) {
 Status run(const Options& options, const Context& context) {
     const Report report = reportOn(context);
     if (options.json)
-        printReport(report);
+        printReport(report, context);
     else
         printText(report, context);
     bool found = !report.losses.empty();
