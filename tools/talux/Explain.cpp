@@ -391,13 +391,13 @@ Status run(const Options& options, const Context& context) {
 } // namespace
 
 void explain(const std::string& name, const Context& context) {
-    run({.words = {name}, .live = true}, context);
+    run({.words = {name}, .live = isDeviceThere()}, context);
 }
 
 void addExplain(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
     Subcommand command(app, "explain",
-                       "what a name, an id, a choice or a word stands for, and what it is set to");
+                       "what a name, an id, a choice or a word means");
     command
         .option("NAME|WORD", options->words,
                 "names of parameters, series (BAassign) or members of records (MessRecord01.U1p), ids, "

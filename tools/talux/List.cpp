@@ -16,6 +16,7 @@ struct Options {
     std::string source = "default";
     Filter filter;
     std::string uses;
+    bool families = false, methods = false;
     bool changed = false;
     bool json = false;
 };
@@ -64,7 +65,24 @@ std::vector<Meaning> usesOf(const std::string& text, const Context& context) {
     return meanings;
 }
 
+// Of families with parameters that have names, or of methods.
+void printNames(const Options& options, const Context& context) {
+    std::string_view before;
+    for (const Parameter& parameter : reference::parameters()) {
+        const std::string_view family = familyName(parameter, context.language);
+        if (options.families && !parameter.isTemplate() && family != before)
+            print(fill("{}\n", {before = family}));
+    }
+    if (options.methods)
+        for (const model::Both& name : reference::model().methods)
+            print(fill("{}\n", {name.in(context.language)}));
+}
+
 Status run(Options& options, const Context& context) {
+    if (options.families || options.methods) {
+        printNames(options, context);
+        return kNothing;
+    }
     options.filter.check(context);
     const std::vector<Meaning> uses = usesOf(options.uses, context);
     const Source source = Source::open(options.source, context);
@@ -105,6 +123,8 @@ void addList(CLI::App& app, Commands& commands) {
     Subcommand command(app, "list", "names and values");
     command.option("FILTER", options->filter.names, "parts of names, or patterns with * and ?");
     command.option("--of", options->source, "whose values: default, live, staged, a file or a folder");
+    command.flag("--families", options->families, "the names of the families");
+    command.flag("--methods", options->methods, "the names of the detection methods");
     command.flag("--changed", options->changed, "only what is not the factory default");
     command.option("--uses", options->uses,
                    "only what is set to this output function, by its number, or to a choice with this text");

@@ -63,13 +63,23 @@ void Subcommand::flag(const char* name, bool& value, const char* help) {
     app->add_flag(name, value, help);
 }
 
+std::string Subcommand::name() const {
+    return app->get_name();
+}
+
+std::string Subcommand::help() const {
+    return app->help(app->get_parent()->get_name());
+}
+
 bool Subcommand::isChosen() const {
     return app->parsed();
 }
 
 CommandLine::CommandLine(const char* program, const char* about)
     : app(std::make_unique<CLI::App>(about, program)) {
-    app->set_version_flag("--version", std::string(program) + " " TALUX_VERSION);
+    app->set_version_flag("--version", std::string(program) + " " TALUX_VERSION
+                                                              "\nlibrary lib_talux_lua " TALUX_VERSION
+                                                              ", linked in\nbuild " TALUX_BUILD);
     app->get_formatter()->column_width(22);
     app->require_subcommand(1);
     app->fallthrough();
@@ -79,6 +89,11 @@ CommandLine::~CommandLine() = default;
 
 Argument CommandLine::option(const char* name, std::string& value, const char* help) {
     return Argument(app->add_option(name, value, help));
+}
+
+// Its own function would give that of the command that was parsed.
+std::string CommandLine::help() const {
+    return app->get_formatter()->make_help(app.get(), app->get_name(), CLI::AppFormatMode::Normal);
 }
 
 CommandLine::Outcome CommandLine::parse(int argc, char** argv) {

@@ -43,6 +43,8 @@ public:
     void flag(const char* name, bool& value, const char* help);
 
     bool isChosen() const;
+    std::string name() const;
+    std::string help() const; // as --help prints it
 
 private:
     CLI::App* app;
@@ -54,8 +56,10 @@ public:
     CommandLine(const char* program, const char* about);
     ~CommandLine();
 
-    CLI::App& program() { return *app; }
+    CLI::App& program() const { return *app; }
     Argument option(const char* name, std::string& value, const char* help);
+
+    std::string help() const;
 
     // Help goes to standard output, what is wrong to the error stream.
     enum class Outcome { command, helped, refused };

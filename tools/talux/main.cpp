@@ -2,9 +2,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <optional>
 
 #include "tools/talux/Command.h"
+#include "tools/talux/Explain.h"
+#include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
 namespace {
@@ -30,6 +33,25 @@ void addCommands(CLI::App& app, Commands& commands) {
     for (const auto add : {addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport,
                            addWatch, addShell, addLint, addBoot, addAnnotations})
         add(app, commands);
+}
+
+// Of the program, a command or a parameter.
+void addHelp(const CommandLine& line, Commands& commands) {
+    const auto names = std::make_shared<std::vector<std::string>>();
+    Subcommand help(line.program(), "help", "this, the options of a command, or what a name stands for");
+    help.option("NAME", *names, "a command, or a name as explain takes it");
+    commands.push_back({help, [names, &line, &commands](const Context& context) {
+                            if (names->empty()) print(line.help());
+                            for (const std::string& name : *names) {
+                                const auto command = std::ranges::find(
+                                    commands, name, [](const Command& known) { return known.given.name(); });
+                                if (command != commands.end())
+                                    print(command->given.help());
+                                else
+                                    explain(name, context);
+                            }
+                            return kNothing;
+                        }});
 }
 
 Status runChosen(const Commands& commands, const Context& context) {
@@ -60,6 +82,7 @@ int run(int argc, char** argv) {
     line.option("--directory", context.directory, "where the device keeps its files; by default /");
     Commands commands;
     addCommands(line.program(), commands);
+    addHelp(line, commands);
 
     const auto outcome = line.parse(argc, argv);
     if (outcome != CommandLine::Outcome::command)
