@@ -9,6 +9,9 @@
 
 namespace talux {
 
+// Before the name of a parameter, in files and in the command language.
+inline constexpr std::string_view kKeyPrefix = "TLX_";
+
 bool areParametersLoaded();
 
 // As GetParamPropertiesByName.

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstring>
 
+#include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/os/Os.h"
 #include "ParamSystem/support/Address.h"
 #include "ParamSystem/support/FixedPoint.h"

@@ -26,8 +26,6 @@
 
 namespace talux {
 
-inline constexpr std::string_view kKeyPrefix = "TLX_";
-
 // Room for the longest line: a name, and a double with its 309 digits.
 inline constexpr std::size_t kLineSize = 512;
 

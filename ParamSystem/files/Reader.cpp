@@ -4,7 +4,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "ParamSystem/files/Line.h"
+#include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/support/Text.h"
 

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "ParamSystem/KEPL_Interpreter.h"
-#include "ParamSystem/files/Line.h"
+#include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/kepl/Board.h"
 #include "ParamSystem/kepl/Command.h"
 #include "ParamSystem/kepl/Operation.h"

@@ -10,17 +10,16 @@ namespace talux::kepl {
 
 namespace {
 
+// A literal number leaves what the line says to other terms.
 TermResult push(double number, ValueStack& stack) {
-    if (!stack.next().put(number, kTypeDouble)) return refused(Refusal::syntaxError);
-    ++stack.count;
-    return {};
+    return {stack.push({number, kTypeDouble}).refusal, Says::unchanged};
 }
 
 // A number that is read is pushed.
 TermResult carryOutVariable(const Decision& decision, char* txt, ValueStack& stack) {
-    const TermResult result = accessVariable(decision, txt, stack.next());
-    if (result.says == Says::value) ++stack.count;
-    return result;
+    std::optional<TypedNumber> value;
+    const TermResult result = accessVariable(decision, txt, value);
+    return result.says == Says::value ? stack.push(*value) : result;
 }
 
 } // namespace

@@ -15,6 +15,12 @@ enum class Says : unsigned char {
     nothing, // the empty text
 };
 
+// A number with its type code.
+struct TypedNumber {
+    double number = 0;
+    int type = kTypeNone;
+};
+
 // What carrying a term out came to.
 struct TermResult {
     Refusal refusal = Refusal::none;
@@ -29,26 +35,18 @@ constexpr TermResult says(Says what) {
     return {Refusal::none, what};
 }
 
-// A place on the value stack, or none.
-struct Slot {
-    double* value = nullptr;
-    int* type = nullptr;
-
-    // False when there is no place.
-    bool put(double number, int code) const {
-        if (value == nullptr) return false;
-        *value = number;
-        *type = code;
-        return true;
-    }
-};
-
 struct ValueStack {
     int count = 0;
     double values[kKeplStackSize]; // the lowest `count` are in use, the others left as they are
     int types[kKeplStackSize];
 
-    Slot next() { return count < kKeplStackSize ? Slot{values + count, types + count} : Slot{}; }
+    TermResult push(TypedNumber value) {
+        if (count == kKeplStackSize) return refused(Refusal::syntaxError);
+        values[count] = value.number;
+        types[count] = value.type;
+        ++count;
+        return says(Says::value);
+    }
 };
 
 // Leaves the traces of a decision in the system log.
@@ -58,8 +56,10 @@ TermResult compute(Operation operation, ValueStack& stack);
 
 // Each of these leaves a text in `txt`, which has kKeplTextSize bytes, if that is what the term says.
 
-// A number that is read goes into the slot; other terms may leave something there.
-TermResult accessVariable(const Decision& decision, char* txt, Slot slot);
+// `value`: the number that is read, if the term says a value. Of other terms the last element that they read
+// or the type of a text, which a caller of ProcessCommand finds beside the answer; none where the term leaves
+// nothing.
+TermResult accessVariable(const Decision& decision, char* txt, std::optional<TypedNumber>& value);
 
 TermResult runCommand(const Decision& decision, const char* iniPath, char* txt);
 

@@ -85,8 +85,13 @@ int KEPL_Interpreter::ProcessCommand(const char* theCommand, char* txt, double* 
     const kepl::Decision decision = kepl::decideVariable(theCommand, uid);
     if (decision.isLogged()) kepl::log(decision);
     const bool isPlace = *iSP >= 0 && *iSP < kKeplStackSize;
-    const kepl::Slot slot = isPlace ? kepl::Slot{adStack + *iSP, aiType + *iSP} : kepl::Slot{};
-    const Refusal refusal = kepl::accessVariable(decision, txt, slot).refusal;
-    if (refusal != Refusal::none) return fail(szError, refusal);
+    std::optional<kepl::TypedNumber> value;
+    const kepl::TermResult result = kepl::accessVariable(decision, txt, value);
+    if (value && isPlace) {
+        adStack[*iSP] = value->number;
+        aiType[*iSP] = value->type;
+    }
+    if (result.refusal != Refusal::none) return fail(szError, result.refusal);
+    if (result.says == kepl::Says::value && !isPlace) return fail(szError, Refusal::syntaxError);
     return decision.variable.value ? 0 : 1;
 }

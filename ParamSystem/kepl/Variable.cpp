@@ -48,17 +48,18 @@ std::string_view quote(QuotedText& quoted, const stParamProperties& row, int id)
 // One variable term; its text grows in `answer`.
 class VariableAccess {
 public:
-    VariableAccess(const Decision& made, char* txt, Slot place)
-        : decision(made), row(*made.row), answer(txt), slot(place) {}
+    VariableAccess(const Decision& made, char* txt, std::optional<TypedNumber>& left)
+        : decision(made), row(*made.row), answer(txt), value(left) {}
 
     TermResult readScalar() {
         if (isText(row)) {
             QuotedText quoted;
             answer.append({quote(quoted, row, row.id)});
-            slot.put(0.0, row.type);
+            leave(0.0);
             return says(Says::text);
         }
-        return slot.put(numberOf(row, row.id), row.type) ? says(Says::value) : refused(Refusal::syntaxError);
+        leave(numberOf(row, row.id));
+        return says(Says::value);
     }
 
     TermResult readRecord() {
@@ -94,7 +95,7 @@ public:
         writeValue(spaceOf(row), decision.id, *decision.value);
         if (row.type == kTypeIpAddress && decision.variable.indices == 0) {
             VarSetSystemIPs();
-            slot.put(0.0, row.type);
+            leave(0.0);
         }
         return says(Says::done);
     }
@@ -105,7 +106,7 @@ public:
         if (!clockSetTo(decision.clock, typeOf(row).nature, seconds)) return refused(Refusal::syntaxError);
         os::setClock(seconds);
         os::runShell("hwclock --systohc --utc --noadjfile");
-        slot.put(0.0, row.type);
+        leave(0.0);
         return says(Says::done);
     }
 
@@ -113,7 +114,9 @@ private:
     const Decision& decision;
     const stParamProperties& row;
     Answer answer;
-    const Slot slot;
+    std::optional<TypedNumber>& value;
+
+    void leave(double number) { value.emplace(TypedNumber{number, row.type}); }
 
     Refusal dumpMember(const StructMemberProperties_t& member, std::string_view bytes, bool isFirst) {
         const int type = memberType(member.szMemberType);
@@ -130,14 +133,14 @@ private:
         if (isText(row)) {
             QuotedText quoted;
             const std::string_view text = quote(quoted, row, id);
-            slot.put(0.0, row.type);
+            leave(0.0);
             return show(style,
                         {" ", label.view(), text, behind(text.substr(0, text.size() - 1), 1), index == 1});
         }
-        const double value = numberOf(row, id);
-        slot.put(value, row.type);
-        const NumberText text(value, typeOf(row).shownDecimals);
-        const NumberBytes bytes = encode(value, row.type);
+        const double number = numberOf(row, id);
+        leave(number);
+        const NumberText text(number, typeOf(row).shownDecimals);
+        const NumberBytes bytes = encode(number, row.type);
         if (style == Style::hex && bytes.size == 0) return Refusal::typeUnknown;
         return show(style, {" ", label.view(), text.view(), bytes.view(), index == 1});
     }
@@ -149,9 +152,9 @@ private:
 
 } // namespace
 
-TermResult accessVariable(const Decision& decision, char* txt, Slot slot) {
+TermResult accessVariable(const Decision& decision, char* txt, std::optional<TypedNumber>& value) {
     if (decision.isRefused()) return refused(decision.refusal); // has no row
-    VariableAccess variable(decision, txt, slot);
+    VariableAccess variable(decision, txt, value);
     switch (decision.action) {
     case Action::readScalar:
         return variable.readScalar();

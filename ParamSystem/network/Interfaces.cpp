@@ -37,7 +37,7 @@ int applyAddresses(const Interface& interface) {
         shell.run("route del default %s > /dev/null 2>&1", device);
         shell.run("route add default gw %s %s", gateway.text, device);
     }
-    VarSaveIPConfig();
+    VarSaveIPConfig(); // commits first, and that is what the other functions here rely on
     return 1;
 }
 
@@ -76,7 +76,7 @@ int VarStaticIPWLAN0_ADHOC() {
 int VarSetSystemIPs() {
     constexpr Shell shell("VarSetSystemIPs");
 
-    // Commits the settings: what follows reads part of them from the global space.
+    // Commits with its save: what follows reads part of the settings from the global space.
     VarStaticIP();
     if (flagSetting(kEth1Active) == 0)
         shell.runSilently("ifconfig eth1 down > /dev/null 2>&1");

@@ -17,10 +17,9 @@ constexpr Shell kShell("VarT104");
 
 // Texts of normalised addresses.
 struct Alias {
-    AddressText szIPAddress_t104{"0.0.0.0"};
-    AddressText szIPMask_t104{"0.0.0.0"};
-    AddressText szIPGateway_t104{"0.0.0.0"};
-    AddressText szIPNetwork_t104{"0.0.0.0"};
+    AddressText address{"0.0.0.0"};
+    AddressText netmask{"0.0.0.0"};
+    AddressText gateway{"0.0.0.0"};
 };
 
 void readIfKnown(AddressText& address, int id) {
@@ -30,9 +29,9 @@ void readIfKnown(AddressText& address, int id) {
 Alias readAlias(int number) {
     const int step = (number - 1) * kIdsPerAlias;
     Alias alias;
-    readIfKnown(alias.szIPAddress_t104, kT104Address1 + step);
-    readIfKnown(alias.szIPMask_t104, kT104Netmask1 + step);
-    readIfKnown(alias.szIPGateway_t104, kT104Gateway1 + step);
+    readIfKnown(alias.address, kT104Address1 + step);
+    readIfKnown(alias.netmask, kT104Netmask1 + step);
+    readIfKnown(alias.gateway, kT104Gateway1 + step);
     return alias;
 }
 
@@ -84,20 +83,19 @@ void tearDown(const char* device, int number) {
     kShell.run("ifconfig %s:%d down", device, number);
 }
 
-void setUp(const char* device, int number, Alias& alias) {
-    const char* address = alias.szIPAddress_t104.text;
-    const char* netmask = alias.szIPMask_t104.text;
+void setUp(const char* device, int number, const Alias& alias) {
+    const char* address = alias.address.text;
+    const char* netmask = alias.netmask.text;
     if (address == kNoAddress || netmask == kNoAddress) return;
 
     kShell.run("ifconfig %s:%d %s", device, number, address);
     kShell.run("ifconfig %s:%d up", device, number);
     kShell.run("ifconfig %s:%d netmask %s", device, number, netmask);
-    alias.szIPNetwork_t104 = networkOf(alias.szIPAddress_t104, alias.szIPMask_t104);
-    const char* network = alias.szIPNetwork_t104.text;
-    if (isUnset(alias.szIPGateway_t104))
-        kShell.run("route add -net %s netmask %s %s:%d", network, netmask, device, number);
+    const AddressText network = networkOf(alias.address, alias.netmask);
+    if (isUnset(alias.gateway))
+        kShell.run("route add -net %s netmask %s %s:%d", network.text, netmask, device, number);
     else
-        kShell.run("route add -net %s netmask %s gw %s %s:%d", network, netmask, alias.szIPGateway_t104.text,
+        kShell.run("route add -net %s netmask %s gw %s %s:%d", network.text, netmask, alias.gateway.text,
                    device, number);
 }
 

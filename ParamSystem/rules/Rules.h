@@ -176,47 +176,45 @@ struct Rule {
     double limit = 0;
 };
 
-template <std::size_t count>
-constexpr Objection firstBroken(const Rule (&rules)[count], Reasons asked) {
-    for (const Rule& rule : rules)
-        if (rule.isBroken && asked.has(rule.reason)) return {rule.reason, rule.limit};
-    return {};
+// Without a loop: where the reasons are constant, nothing is computed that nobody asked for.
+constexpr Objection firstBroken(Reasons asked, const std::same_as<Rule> auto&... rules) {
+    Objection found;
+    const auto isFound = [&](const Rule& rule) {
+        if (!asked.has(rule.reason) || !rule.isBroken) return false;
+        found = {rule.reason, rule.limit};
+        return true;
+    };
+    static_cast<void>((... || isFound(rules)));
+    return found;
 }
 
 // The first of the reasons asked for that speaks against a number, if any. `number`: none for a text that is
 // none.
 constexpr Objection check(const Facts& facts, std::optional<double> number, Reasons asked = Reasons::all()) {
     const double value = number.value_or(0);
-    const Rule rules[] = {
-        {Reason::readOnly, facts.isReadOnly},
-        {Reason::noValue, facts.form == Form::none},
-        {Reason::noNumber, !number},
-        {Reason::notANumber, value != value},
-        {Reason::tooLow, !(value >= facts.min), facts.min},
-        {Reason::tooHigh, !(value <= facts.max), facts.max},
-        {Reason::noChoice, !(value >= facts.least()), facts.least()},
-        {Reason::notWhole, facts.form != Form::number && !isWhole(value)},
-    };
-    return firstBroken(rules, asked);
+    return firstBroken(asked, Rule{Reason::readOnly, facts.isReadOnly},
+                       Rule{Reason::noValue, facts.form == Form::none}, Rule{Reason::noNumber, !number},
+                       Rule{Reason::notANumber, value != value},
+                       Rule{Reason::tooLow, !(value >= facts.min), facts.min},
+                       Rule{Reason::tooHigh, !(value <= facts.max), facts.max},
+                       Rule{Reason::noChoice, !(value >= facts.least()), facts.least()},
+                       Rule{Reason::notWhole, facts.form != Form::number && !isWhole(value)});
 }
 
 // The same of a text.
 constexpr Objection check(const Facts& facts, std::string_view text, Reasons asked = Reasons::all()) {
     const bool isMask = facts.form == Form::netmask;
     const auto isAll = [text](auto holds) { return std::all_of(text.begin(), text.end(), holds); };
-    const Rule rules[] = {
-        {Reason::readOnly, facts.isReadOnly},
-        {Reason::noValue, facts.form == Form::none},
-        {Reason::holdsNul, !isAll([](char c) { return c != '\0'; })},
-        {Reason::notCarried, !isAll(isCarried)},
-        {Reason::tooLong, charactersIn(text) > facts.characters, double(facts.characters)},
-        {Reason::tooManyBytes, text.size() > std::size_t(facts.bytes), double(facts.bytes)},
-        {Reason::noAddress, (isMask || facts.form == Form::address) && !addressIn(text)},
-        {Reason::noNetmask, isMask && !isNetmask(text)},
-        {Reason::noDate, facts.form == Form::date && !isDate(text)},
-        {Reason::noTime, facts.form == Form::time && !isTime(text)},
-    };
-    return firstBroken(rules, asked);
+    return firstBroken(
+        asked, Rule{Reason::readOnly, facts.isReadOnly}, Rule{Reason::noValue, facts.form == Form::none},
+        Rule{Reason::holdsNul, !isAll([](char c) { return c != '\0'; })},
+        Rule{Reason::notCarried, !isAll(isCarried)},
+        Rule{Reason::tooLong, charactersIn(text) > facts.characters, double(facts.characters)},
+        Rule{Reason::tooManyBytes, text.size() > std::size_t(facts.bytes), double(facts.bytes)},
+        Rule{Reason::noAddress, (isMask || facts.form == Form::address) && !addressIn(text)},
+        Rule{Reason::noNetmask, isMask && !isNetmask(text)},
+        Rule{Reason::noDate, facts.form == Form::date && !isDate(text)},
+        Rule{Reason::noTime, facts.form == Form::time && !isTime(text)});
 }
 
 } // namespace rules

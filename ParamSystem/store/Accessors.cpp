@@ -1,5 +1,6 @@
-// The typed accessors: single values and runs of every kind, in both spaces and directions.
+// The accessors: single values and runs of every kind, in both spaces and directions, and values of any kind.
 #include "ParamSystem/store/Slots.h"
+#include "ParamSystem/store/Values.h"
 #include "ParamSystem/support/Assertion.h"
 
 #define TALUX_UNIT "ParamSystem/TALUX_Var"
@@ -181,4 +182,45 @@ void VarSetGlobalStructValue(int id, void* ptr, VarLong size) {
     if (record == nullptr) return;
     const talux::Lock<Kind::Struct, Space::global> lock;
     std::memcpy(record, ptr, static_cast<std::size_t>(size));
+}
+
+// ---- Of any kind ------------------------------------------------------------------------------------------
+
+namespace {
+
+// Outside of the library one pointer serves numbers and texts.
+void readThrough(Space space, int id, double* value) {
+    const auto read = talux::readValue(space, id);
+    if (!read) return;
+    if (read->isText())
+        std::strcpy(reinterpret_cast<char*>(value), read->text());
+    else
+        *value = read->number();
+}
+
+void writeThrough(Space space, int id, const double* value) {
+    const talux::Kind kind = talux::kindOf(id);
+    if (kind == talux::Kind::None) return; // nothing of the caller's is read
+    if (!talux::isTextKind(kind)) return talux::writeValue(space, id, talux::Value(*value));
+    const auto* const text = reinterpret_cast<const char*>(value);
+    const std::size_t length = strnlen(text, talux::blockOf(kind).slot - 1);
+    talux::writeValue(space, id, talux::Value(std::string_view(text, length)));
+}
+
+} // namespace
+
+void VarGetValue(int id, double* pVal) {
+    readThrough(Space::temp, id, pVal);
+}
+
+void VarGetGlobalValue(int id, double* pVal) {
+    readThrough(Space::global, id, pVal);
+}
+
+void VarSetValue(int id, double* pVal) {
+    writeThrough(Space::temp, id, pVal);
+}
+
+void VarSetGlobalValue(int id, double* pVal) {
+    writeThrough(Space::global, id, pVal);
 }

@@ -49,27 +49,6 @@ void write(int id, double number) {
     putNumber<kind, space>(id, fromDouble<kind>(number));
 }
 
-// As outside of the library: one pointer for numbers and texts.
-template <Space space>
-void readThrough(int id, double* value) {
-    withKind(kindOf(id), [=]<Kind kind>() {
-        if constexpr (isTextKind(kind))
-            getText<kind, space>(id, reinterpret_cast<char*>(value));
-        else
-            *value = read<kind, space>(id);
-    });
-}
-
-template <Space space>
-void writeThrough(int id, const double* value) {
-    withKind(kindOf(id), [=]<Kind kind>() {
-        if constexpr (isTextKind(kind))
-            putText<kind, space>(id, reinterpret_cast<const char*>(value));
-        else
-            write<kind, space>(id, *value);
-    });
-}
-
 template <Space space>
 std::optional<Value> readValueIn(int id) {
     std::optional<Value> value;
@@ -126,21 +105,3 @@ std::optional<Value> defaultOf(const stParamProperties& row) {
 }
 
 } // namespace talux
-
-using talux::Space;
-
-void VarGetValue(int id, double* pVal) {
-    talux::readThrough<Space::temp>(id, pVal);
-}
-
-void VarGetGlobalValue(int id, double* pVal) {
-    talux::readThrough<Space::global>(id, pVal);
-}
-
-void VarSetValue(int id, double* pVal) {
-    talux::writeThrough<Space::temp>(id, pVal);
-}
-
-void VarSetGlobalValue(int id, double* pVal) {
-    talux::writeThrough<Space::global>(id, pVal);
-}
