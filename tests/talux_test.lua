@@ -142,6 +142,46 @@ case("factory defaults can be applied, and then nothing is changed but addresses
   equal(table.concat(names, " "), "ETH0_IP ETH1_IP WLAN0_IP sec_mode", "changed")
 end)
 
+case("the cases that the program talux has, too: the same is refused, the same is written in the same order", function()
+  for line in io.lines(arg[0]:match ".*/" .. "talux/changes.tsv") do
+    local given, wanted = line:match "^([^#\t][^\t]*)\t(.*)"
+    if given and (isolated or not given:find "ETH0") then
+      talux_command "TLX_Uearth=30"
+      for _, row in ipairs(rows) do
+        if row.default and given:find(row.name:gsub("_?%d+$", ""), 1, true) then
+          talux_command(("TLX_%s=%s"):format(row.name, row.default))
+        elseif row.first and given:find(row.name, 1, true) then for k = 1, 3 do talux_command(("TLX_%s %d=0"):format(row.name, k)) end end
+      end
+      local settings = {}
+      for assignment in given:gmatch "[^|]+" do
+        local name, index, value = assignment:match "^([%w_]+)%[?(%d*)%]?=(.*)"
+        if index == "" then settings[name] = value
+        else
+          settings[name] = settings[name] or {}
+          settings[name][tonumber(index)] = value
+        end
+      end
+      local good, changes = pcall(talux.apply, settings)
+      local found = {}
+      if good then
+        for k, change in ipairs(changes) do
+          local label = change.index and ("%s[%d]"):format(change.name, change.index) or change.name
+          local text = type(change.new) == "string" and ('"%s"'):format(change.new) or (("%.15g"):format(change.new):gsub(",", "."))
+          found[k] = ("%s=%s"):format(label, text)
+        end
+        equal(table.concat(found, "|"), wanted, given)
+      else
+        for refusal in ("\n" .. changes:gsub("^[^ ]*%.lua:%d+: ", "")):gmatch "\n([%w_%[%]]+) = " do found[#found + 1] = refusal end
+        local labels = {}
+        for label in wanted:sub(2):gmatch "[^|]+" do labels[#labels + 1] = label end
+        table.sort(found) table.sort(labels)
+        equal(table.concat(found, "|"), wanted:sub(1, 1) == "!" and table.concat(labels, "|"), given)
+        equal(talux.get "Uearth", 30, "nothing written")
+      end
+    end
+  end
+end)
+
 case("every name that is none is refused with the nearest one", function()
   for wrong, right in pairs {Uearht = "Uearth", TLX_Uearth = "Uearth", BAasign3 = "BAassign3", u_earth = "Uearth",
                              MesRecord01 = "MessRecord01"} do

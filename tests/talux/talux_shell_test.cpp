@@ -1,10 +1,5 @@
 // The shell on a terminal: keys go in, the screen comes out.
-#include "Program.h"
-
-#include <poll.h>
-#include <pty.h>
-#include <system_error>
-#include <unistd.h>
+#include "Terminal.h"
 
 namespace {
 
@@ -12,72 +7,22 @@ using namespace talux_test;
 
 constexpr char kPrompt[] = "kepl> ";
 
-class TaluxShell : public InStartedDevice {
+class TaluxShell : public OnTerminal {
 protected:
     void SetUp() override {
         InStartedDevice::SetUp();
         setenv("XDG_STATE_HOME", directory.c_str(), 1);
     }
-    void TearDown() override {
-        if (child > 0) end();
-        InDirectory::TearDown();
-    }
-
     void start(const char* option = "--level=2") {
-        winsize size{40, 100, 0, 0};
-        child = forkpty(&terminal, nullptr, nullptr, &size);
-        if (child < 0) throw std::system_error(errno, std::generic_category(), "no terminal to play");
-        if (child == 0) {
-            setenv("TERM", "vt100", 1);
-            setenv("LC_ALL", "C.UTF-8", 1);
-            setenv("ASAN_OPTIONS", "detect_leaks=0", 1); // libedit keeps the names of functions added to it
-            execl(TALUX_BIN "/talux", "talux", "shell", option, nullptr);
-            _exit(127);
-        }
-        screen.clear();
+        OnTerminal::start({"shell", option});
         waitFor(kPrompt);
     }
-    // The status with which the shell ends by itself.
-    int end() {
-        type("\x04");
-        waitFor("\n");
-        pollfd gone{terminal, POLLHUP, 0};
-        EXPECT_EQ(poll(&gone, 1, 20000), 1);
-        close(terminal); // which ends it in any case
-        int status = -1;
-        waitpid(std::exchange(child, 0), &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
 
-    void type(const std::string& keys) const {
-        ASSERT_EQ(write(terminal, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
-    }
-
-    // True once the text has come since the last call.
-    bool waitFor(const std::string& text) {
-        for (;;) {
-            if (const auto at = screen.find(text); at != screen.npos) {
-                shown = screen.substr(0, at + text.size());
-                screen.erase(0, at + text.size());
-                return true;
-            }
-            pollfd ready{terminal, POLLIN, 0};
-            char block[4096];
-            const ssize_t size = poll(&ready, 1, 20000) == 1 ? read(terminal, block, sizeof block) : 0;
-            if (size <= 0)
-                return ADD_FAILURE() << "waited for '" << text << "', there is '" << screen << "'", false;
-            screen.append(block, static_cast<std::size_t>(size));
-        }
-    }
     // Types a line and gives what stands between it and the next prompt.
     bool answers(const std::string& keys, const std::string& text) {
         type(keys + "\r");
         return waitFor("\n") && waitFor(text) && waitFor(kPrompt);
     }
-
-    int terminal = -1;
-    pid_t child = 0;
-    std::string screen, shown;
 };
 
 TEST_F(TaluxShell, CompletesNamesValuesOptionsAndWords) {

@@ -60,6 +60,10 @@ void addLint(CLI::App& app, Commands& commands);
 void addAnnotations(CLI::App& app, Commands& commands);
 void addBoot(CLI::App& app, Commands& commands);
 void addWatch(CLI::App& app, Commands& commands);
+void addSet(CLI::App& app, Commands& commands);
+void addApply(CLI::App& app, Commands& commands);
+void addUndo(CLI::App& app, Commands& commands);
+void addDiscard(CLI::App& app, Commands& commands);
 
 } // namespace talux::tool
 

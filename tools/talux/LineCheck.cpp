@@ -340,10 +340,10 @@ std::string elementsReason(const Decision& decision, const Context& context) {
 
 std::string rangeReason(const Decision& decision, const Context& context) {
     const Parameter& parameter = *parameterOf(decision);
-    return fill(context.say("{} is out of range: {} to {}{}", "{} liegt außerhalb: {} bis {}{}"),
-                {reference::shortNumber(decision.value->number()),
-                 reference::shortNumber(parameter.row().val_min),
-                 reference::shortNumber(parameter.row().val_max), unitBehind(parameter)});
+    std::string limits = range(parameter, context.language);
+    if (limits.empty()) limits = context.say("nine digits", "neun Stellen");
+    return fill(context.say("{} is out of range: {}{}", "{} liegt außerhalb: {}{}"),
+                {reference::shortNumber(decision.value->number()), limits, unitBehind(parameter)});
 }
 
 // Of what shows only when a line is carried out.

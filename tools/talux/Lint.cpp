@@ -12,6 +12,7 @@
 
 #include "ParamSystem/support/Text.h"
 #include "tools/talux/Command.h"
+#include "tools/talux/Files.h"
 #include "tools/talux/LineCheck.h"
 #include "tools/talux/Lookup.h"
 #include "tools/talux/LuaTokens.h"
@@ -24,7 +25,6 @@ namespace {
 
 constexpr std::size_t kLuaAnswerRoom = 998; // of talux_command
 constexpr std::size_t kMostFindings = 1000;
-constexpr std::size_t kLargestScript = 1 << 20; // takes some 80 MB if every character is a word
 
 struct Options {
     std::vector<std::string> files;
@@ -305,25 +305,6 @@ std::string luaBlocksOf(std::string_view page) {
 }
 
 // ---- Command ----------------------------------------------------------------------------------------------
-
-[[noreturn]] void cannotRead(const std::string& path, const std::string& reason, const Context& context) {
-    throw CouldNot(
-        fill(context.say("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}"), {path, reason}));
-}
-
-std::string contentsOf(const std::string& path, const Context& context) {
-    errno = 0;
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
-    std::string contents(kLargestScript + 1, '\0');
-    const std::size_t size = file ? std::fread(contents.data(), 1, contents.size(), file.get()) : 0;
-    if (!file || std::ferror(file.get()) != 0)
-        cannotRead(path, std::generic_category().message(errno), context);
-    if (size > kLargestScript)
-        cannotRead(path, context.say("more than 1 MB is no script", "mehr als 1 MB ist kein Skript"),
-                   context);
-    contents.resize(size);
-    return contents;
-}
 
 // The scripts in a folder and below; any other path is itself.
 std::vector<std::string> scriptsIn(const std::string& path) {

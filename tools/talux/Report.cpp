@@ -2,11 +2,10 @@
 #include <cstdlib>
 #include <ctime>
 #include <memory>
-#include <system_error>
 #include <utility>
 
-#include "ParamSystem/files/Replace.h"
 #include "tools/talux/Command.h"
+#include "tools/talux/Files.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Listing.h"
 #include "tools/talux/Show.h"
@@ -175,21 +174,13 @@ private:
     }
 };
 
-// As a whole: an older record stays if the new one cannot be written.
-void write(const std::string& path, const std::string& text, const Context& context) {
-    const Replacement result = replaceFile(path.c_str(), text, nullptr);
-    if (result.written == Written::done) return;
-    throw CouldNot(fill(context.say("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}"),
-                        {path, std::generic_category().message(result.error)}));
-}
-
 Status run(const Options& options, const Context& context) {
     const Source source = Source::open(options.source, context);
     const std::string text = Page(options, source, context).text();
     if (options.output.empty())
         print(text);
     else
-        write(options.output, text, context);
+        replace(options.output, text, context);
     return kNothing;
 }
 

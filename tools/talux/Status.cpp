@@ -8,6 +8,7 @@
 #include "tools/talux/Network.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
+#include "tools/talux/change/Journal.h"
 
 namespace talux::tool {
 
@@ -39,6 +40,7 @@ constexpr std::array<const char*, 4> kFlags{"ParamChanged", "IpParamChanged", "S
 
 struct Report {
     std::vector<Change> changes;
+    std::string interruption;
     std::vector<std::string> flags;
     std::vector<std::pair<const Parameter*, Finding>> losses; // what a save would write and not bring back
 };
@@ -75,6 +77,7 @@ Change saveChange(const char* command, File file, const Source& staged, const Co
 Report reportOn(const Context& context) {
     const Source live = Source::open("live", context), staged = Source::open("staged", context);
     Report report;
+    report.interruption = interruption(context);
     report.changes.push_back(updateChange(live, staged));
     report.changes.push_back(saveChange("save", File::normal, staged, context));
     report.changes.push_back(saveChange("save_sec", File::security, staged, context));
@@ -111,6 +114,7 @@ void printChange(const Change& change, const Context& context) {
 
 void printText(const Report& report, const Context& context) {
     bool network = false;
+    if (!report.interruption.empty()) print(report.interruption + "\n");
     for (const Change& change : report.changes) {
         printChange(change, context);
         for (const Pending& pending : change.pending)
@@ -149,6 +153,7 @@ void printReport(const Report& report, const Context& context) {
         flags.add(flag);
     for (const auto& [parameter, finding] : report.losses)
         losses.add({{"name", parameter->name()}, {"text", finding.text}});
+    all.set("interrupted", report.interruption);
     all.set("flags", std::move(flags));
     all.set("not_back", std::move(losses));
     print(all.text());
@@ -160,7 +165,7 @@ Status run(const Options& options, const Context& context) {
         printReport(report, context);
     else
         printText(report, context);
-    bool found = !report.losses.empty();
+    bool found = !report.losses.empty() || !report.interruption.empty();
     for (const Change& change : report.changes)
         found = found || !change.pending.empty();
     return found ? kFound : kNothing;

@@ -1,0 +1,266 @@
+// What talux changes: all or nothing, whatever is refused, answered, changed by others or killed on the way.
+#include "../Isolation.h"
+#include "Terminal.h"
+
+#include <chrono>
+#include <csignal>
+#include <sys/ptrace.h>
+
+#include "ParamSystem/KEPL_Interpreter.h"
+
+namespace {
+
+using namespace talux_test;
+
+class TaluxChange : public OnTerminal {
+protected:
+    Ended talux(const std::string& arguments) const {
+        return run("talux --directory " + directory.string() + " " + arguments + " 2>&1");
+    }
+    std::string write(const char* name, const std::string& contents) const {
+        std::ofstream(directory / name, std::ios::binary) << contents;
+        return directory / name;
+    }
+    std::string file(const char* name) const {
+        std::ostringstream contents;
+        contents << std::ifstream(directory / name).rdbuf();
+        return contents.str();
+    }
+    static std::string image() { return bytes(raw(kTemp), kSpaceSize) + bytes(raw(kGlobal), kSpaceSize); }
+    // As the language reads it: a text in quotes or a number.
+    static std::string value(const std::string& label) {
+        char nowhere[] = "", end[] = "", answer[kKeplTextSize] = "";
+        std::string line = "TLX_" + label;
+        if (const auto open = line.find('['); open != line.npos) line[open] = ' ', line.pop_back();
+        KEPL_Interpreter(nowhere).ProcessLine(line.data(), nullptr, answer, end, 3);
+        return answer;
+    }
+    // Everything in front of the first tab or blank, line by line.
+    static std::vector<std::string> pieces(const std::string& text, char end) {
+        std::vector<std::string> all;
+        std::istringstream stream(text);
+        for (std::string piece; std::getline(stream, piece, end);)
+            all.push_back(piece);
+        return all;
+    }
+    void reset() {
+        VarSetDefault();
+        VarUpdateGlobalSpace();
+    }
+};
+
+TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
+    int cases = 0;
+    for (const std::string& line : pieces(
+             [] {
+                 std::ostringstream all;
+                 all << std::ifstream(TALUX_CASES).rdbuf();
+                 return all.str();
+             }(),
+             '\n')) {
+        if (line.starts_with('#')) continue;
+        SCOPED_TRACE(line);
+        ++cases;
+        if (line.find("ETH0") != line.npos && !isolated()) continue;
+        VarClean();
+        reset();
+        const std::string before = image();
+        std::string assignments, plan = "# for: DEF-NAME\n";
+        const auto tab = line.find('\t');
+        for (const std::string& assignment : pieces(line.substr(0, tab), '|')) {
+            assignments += " '" + assignment + "'";
+            const auto equals = assignment.find('=');
+            plan += assignment.substr(0, equals) + "=\"" + assignment.substr(equals + 1) + "\" ; c\n";
+        }
+        const std::string wanted = line.substr(tab + 1);
+        if (wanted.starts_with('!')) {
+            const Ended refused = talux("set --yes" + assignments);
+            EXPECT_EQ(refused.status, 2);
+            for (const std::string& label : pieces(wanted.substr(1), '|'))
+                EXPECT_NE(refused.output.find("talux: " + label + ": "), std::string::npos) << refused.output;
+            EXPECT_TRUE(image() == before || wanted == "!Date"); // whose slot is no setting
+            continue;
+        }
+        const std::string path = write("plan", plan);
+        for (const std::string& command : {"set" + assignments, "apply " + path}) {
+            reset();
+            EXPECT_EQ(talux(command + " --dry-run").status, 1);
+            EXPECT_EQ(talux(command + " </dev/null").status, 2);
+            EXPECT_EQ(value("Uearth"), "30.000000");
+            EXPECT_EQ(talux(command + " --yes --protocol " + directory.string() + "/record").status, 0);
+            std::string there;
+            for (const std::string& row : pieces(file("record"), '\n'))
+                if (const auto columns = pieces(row, '\t'); columns.size() == 4)
+                    there += (there.empty() ? "" : "|") + columns[0] + "=" + columns[2];
+            EXPECT_EQ(there, wanted) << file("record");
+            for (const std::string& each : pieces(wanted, '|')) {
+                const auto equals = each.find('=');
+                const std::string now = value(each.substr(0, equals)), meant = each.substr(equals + 1);
+                EXPECT_TRUE(now == meant ||
+                            std::abs(std::atof(now.c_str()) - std::atof(meant.c_str())) < 1e-6);
+            }
+            if (line.find("ETH0") != line.npos) continue; // made everything live
+            EXPECT_EQ(talux("undo --yes").status, 0);
+            EXPECT_EQ(value("Uearth"), "30.000000");
+        }
+    }
+    EXPECT_GE(cases, 30);
+}
+
+TEST_F(TaluxChange, AsksBeforeItWrites) {
+    const std::string folder = "--directory=" + directory.string();
+    const struct {
+        const char* keys;
+        int status;
+        const char* value;
+    } kAnswers[] = {
+        {"n\r", 1, "30.000000"}, {"\r", 1, "30.000000"}, {"\x04", 1, "30.000000"}, {"yes\r", 0, "35.000000"}};
+    for (const auto& [keys, status, value] : kAnswers) {
+        start({folder.c_str(), "set", "Uearth=35"});
+        EXPECT_TRUE(waitFor("Write 1 setting? [y/N] "));
+        EXPECT_EQ(TaluxChange::value("Uearth"), "30.000000");
+        type(keys);
+        EXPECT_EQ(ended(), status) << keys;
+        EXPECT_EQ(TaluxChange::value("Uearth"), value) << keys;
+    }
+}
+
+TEST_F(TaluxChange, UndoAndDiscardKnowWhatOthersChanged) {
+    talux("set --yes --live Uearth=35 Name='a,\"b'"); // refused
+    EXPECT_EQ(talux("set --yes --save Uearth=35 'Name=a, b' preBuff_dUo=1e-7").status, 0);
+    EXPECT_EQ(talux("diff live " + directory.string() + "/parameter.ini").output,
+              "preBuff_dUo  1e-07 -> 0  Pre-fault dU0\n");
+    char slot[] = "Uearth";
+    VarSetFloatValue(GetParamPropertiesByName(slot)->id, 36);
+    const Ended refused = talux("undo --yes");
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_NE(refused.output.find("Uearth 35 -> 36 %"), std::string::npos) << refused.output;
+    EXPECT_EQ(talux("discard --yes").status, 0);
+    EXPECT_EQ(value("Uearth"), "35.000000");
+    EXPECT_EQ(talux("undo --yes").status, 0); // of the discard
+    EXPECT_EQ(value("Uearth"), "36.000000");
+    EXPECT_EQ(talux("discard --yes").status + talux("discard").status, 0);
+    EXPECT_EQ(talux("undo " + write("none", "TLX_Uearth=35\n") + " --yes").status, 2);
+}
+
+TEST_F(TaluxChange, APlanOfAllSettingsTakesATenthOfASecond) {
+    std::string plan, path = directory / "parameter.ini";
+    VarSaveParamFile(path.data());
+    for (const std::string& line : pieces(file("parameter.ini"), '\n')) {
+        char name[128] = "";
+        std::sscanf(line.c_str(), "TLX_%127[^=]", name);
+        const stParamProperties& row = *GetParamPropertiesByName(name);
+        const bool isNumber = line.find('"') == line.npos;
+        plan += isNumber && row.val_access != 1 && row.val_max >= 2
+                    ? "TLX_" + std::string(name) + "=" + std::to_string(std::max(2., row.val_min)) + "\n"
+                    : line + "\n";
+    }
+    const std::string command =
+        "talux --directory " + directory.string() + " apply --yes " + write("plan", plan);
+    const auto start = std::chrono::steady_clock::now();
+    const Ended applied = run(command);
+    const double took = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    EXPECT_EQ(applied.status, 0);
+    EXPECT_GT(pieces(applied.output, '\n').size(), 250U);
+    EXPECT_LT(took, 1) << "0.1 s where nothing else runs";
+    RecordProperty("seconds", std::to_string(took));
+}
+
+// A process that is stopped at each of its system calls, then after each instruction, then killed.
+class Victim {
+public:
+    explicit Victim(const std::string& command) : child(fork()) {
+        if (child == 0) {
+            ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+            execl("/bin/sh", "sh", "-c", command.c_str(), nullptr);
+            _exit(127);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        ptrace(PTRACE_SETOPTIONS, child, nullptr, PTRACE_O_EXITKILL);
+    }
+    ~Victim() {
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+    }
+    // False when it has ended.
+    bool call() const { return goOn(PTRACE_SYSCALL); }
+    bool step() const { return goOn(PTRACE_SINGLESTEP); }
+
+private:
+    const pid_t child;
+    bool goOn(__ptrace_request how) const {
+        int status = 0;
+        return ptrace(how, child, nullptr, nullptr) == 0 && waitpid(child, &status, 0) == child &&
+               WIFSTOPPED(status);
+    }
+};
+
+TEST_F(TaluxChange, KilledAtAnyMomentItIsWholeOrKnownAndMended) {
+#ifdef TALUX_EMULATED
+    GTEST_SKIP() << "the emulator has no ptrace";
+#endif
+    const std::string command =
+        "exec " TALUX_BIN "/talux --directory " + directory.string() +
+        " set --yes --live Uearth=35 'Name=Nord' T104_port=2405 qu2_Ice=7.5 >/dev/null 2>&1";
+    const auto state = [] { return value("Name") + value("T104_port") + value("Uearth") + value("qu2_Ice"); };
+    const std::string before = state();
+    const std::string after = "\"Nord\"240535.0000007.500000";
+    int half = 0, whole = 0, none = 0;
+    const auto judge = [&] {
+        const bool isHalf = state() != before && state() != after;
+        ++(isHalf ? half : state() == after ? whole : none);
+        const Ended next = talux("set --yes U123ok=70");
+        EXPECT_EQ(next.status, isHalf ? 2 : 0) << next.output;
+        if (isHalf) {
+            EXPECT_NE(next.output.find("talux undo"), std::string::npos) << next.output;
+            EXPECT_NE(talux("status").output.find("was interrupted"), std::string::npos);
+            EXPECT_EQ(talux("undo --yes").status, 0);
+            EXPECT_EQ(state(), before);
+        }
+        reset();
+        std::filesystem::remove(directory / "last_change.tsv");
+    };
+    // After each system call, from the first behind which the record is there.
+    const auto isBegun = [this] { return std::filesystem::exists(directory / "last_change.tsv"); };
+    const auto skipTo = [&](const Victim& victim, int call) {
+        bool isRunning = true;
+        while (isRunning && !isBegun())
+            isRunning = victim.call();
+        while (isRunning && call-- > 0)
+            isRunning = victim.call();
+        return isRunning;
+    };
+    int lastBefore = 0;
+    for (int call = 0, isRunning = 1; isRunning; ++call) {
+        {
+            const Victim victim(command);
+            isRunning = skipTo(victim, call);
+        }
+        if (state() == before) lastBefore = call;
+        judge();
+    }
+    // After any instruction of the writes.
+    int steps = 0;
+    {
+        const Victim victim(command);
+        for (skipTo(victim, lastBefore); state() != after; ++steps)
+            ASSERT_TRUE(victim.step());
+    }
+    judge();
+    Random random;
+    for (int round = 0; round < 40; ++round) {
+        {
+            const Victim victim(command);
+            skipTo(victim, lastBefore);
+            for (int left = random.below(steps); left > 0; --left)
+                victim.step();
+        }
+        judge();
+    }
+    EXPECT_GT(half, 0);
+    EXPECT_GT(whole, 0);
+    EXPECT_GT(none, 0);
+}
+
+} // namespace

@@ -1,0 +1,20 @@
+// Files that the commands read and write as a whole.
+#ifndef TALUX_TOOLS_TALUX_FILES_H
+#define TALUX_TOOLS_TALUX_FILES_H
+
+#include <string>
+
+#include "tools/talux/Command.h"
+
+namespace talux::tool {
+
+// Throws CouldNot with the reason; so does a file of more than 1 MB: one that takes some 80 MB to look at if
+// every character is a word.
+std::string contentsOf(const std::string& path, const Context& context);
+
+// What was there stays if the new text cannot be written. Throws CouldNot with the reason.
+void replace(const std::string& path, const std::string& text, const Context& context);
+
+} // namespace talux::tool
+
+#endif

@@ -1,0 +1,276 @@
+#include "tools/talux/change/Apply.h"
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <ctime>
+#include <unistd.h>
+
+#include "ParamSystem/KEPL_Interpreter.h"
+#include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/os/Files.h"
+#include "ParamSystem/os/Os.h"
+#include "tools/talux/Files.h"
+#include "tools/talux/Network.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+constexpr int kClockTolerance = 5; // seconds between the write and the look
+
+void store(const Parameter& parameter, int id, const Value& value) {
+    writeValue(parameter.row().is_volatile == 1 ? Space::global : Space::temp, id, value);
+}
+
+bool isThere(const Write& write) {
+    const auto found = present(*write.parameter, write.id());
+    if (!write.setsClock() || write.parameter->type().nature == Nature::date || !found)
+        return sameValue(found, write.to);
+    const auto seconds = [](const char* text) {
+        std::tm time{};
+        strptime(text, "%H:%M:%S", &time);
+        return time.tm_hour * 3600 + time.tm_min * 60 + time.tm_sec;
+    };
+    return (seconds(found->text()) - seconds(write.to.text()) + 86400) % 86400 < kClockTolerance;
+}
+
+// Addresses are only stored here.
+void writeOne(const Write& write, const Context& context) {
+    if (write.parameter->row().userlevel > 2) os::logInfo("sec param: %s", write.label().c_str());
+    if (!write.setsClock()) return store(*write.parameter, write.id(), write.to);
+    std::string directory = context.directory, line = fill("TLX_{}={}", {write.label(), write.to.text()});
+    char answer[kKeplTextSize + 2] = "", end[] = "";
+    KEPL_Interpreter(directory.data()).ProcessLine(line.data(), nullptr, answer, end, 3);
+}
+
+// Empty when it holds all of these settings.
+std::string notInFile(const Writes& writes, reference::File file, const Context& context) {
+    const std::string path = pathOf(file, context);
+    const Source saved = Source::open(path, context);
+    for (const Write& write : writes)
+        if (const auto found = saved.value(*write.parameter);
+            write.parameter->file() == file && !write.setsClock() &&
+            (!found || fileForm(*write.parameter, *found) != fileForm(*write.parameter, write.to)))
+            return fill(context.say("{} is written, but {} does not hold it",
+                                    "{} ist geschrieben, steht aber nicht in {}"),
+                        {write.label(), path});
+    return {};
+}
+
+void save(const Writes& writes, const Context& context) {
+    using reference::File;
+    constexpr struct {
+        File file;
+        int (*save)();
+    } kSaves[] = {
+        {File::normal, VarSaveParams}, {File::security, VarSaveSecParams}, {File::address, VarSaveIPConfig}};
+    for (const auto& each : kSaves) {
+        const File file = each.file;
+        if (std::ranges::none_of(writes,
+                                 [file](const Write& write) { return write.parameter->file() == file; }))
+            continue;
+        const bool isSaved = each.save() == 1;
+        if (const std::string lost = notInFile(writes, file, context); !lost.empty()) throw CouldNot(lost);
+        if (!isSaved)
+            throw CouldNot(fill(context.say("{}: saved, but without its dated copy",
+                                            "{}: gespeichert, aber ohne datierte Kopie"),
+                                {pathOf(file, context)}));
+    }
+}
+
+// From the first write to the last what ends the terminal or the reader of the output does not end it.
+// Programs that are started meanwhile have the usual handlers.
+class Undisturbed {
+public:
+    Undisturbed() {
+        for (Handler& handler : handlers)
+            handler.before = std::signal(handler.signal, [](int) {});
+    }
+    ~Undisturbed() {
+        for (const Handler& handler : handlers)
+            std::signal(handler.signal, handler.before);
+    }
+    Undisturbed(const Undisturbed&) = delete;
+    Undisturbed& operator=(const Undisturbed&) = delete;
+
+private:
+    struct Handler {
+        int signal;
+        void (*before)(int);
+    };
+    Handler handlers[4]{{SIGHUP, SIG_DFL}, {SIGINT, SIG_DFL}, {SIGTERM, SIG_DFL}, {SIGPIPE, SIG_DFL}};
+};
+
+class Change {
+public:
+    Change(const Writes& planned, const Order& given, const Context& person)
+        : order(given), context(person), journal(Journal::begun(given.what, given.reach(), planned)) {}
+
+    Status run() {
+        if (journal.writes.empty() && order.reach() == Reach::pending) return show(), kNothing;
+        if (order.dryRun) return show(), journal.writes.empty() ? kNothing : kFound;
+        if (!order.json) show();
+        if (!order.yes && !isAgreed(question(), context)) {
+            std::fputs(context.say("nothing is written\n", "nichts ist geschrieben\n"), stderr);
+            return kFound;
+        }
+        const OneAtATime guard(context);
+        writeAll();
+        if (order.json) show();
+        if (!order.protocol.empty()) replace(order.protocol, journal.text(context), context);
+        return kNothing;
+    }
+
+private:
+    const Order& order;
+    const Context& context;
+    Journal journal;
+
+    const Writes& writes() const { return journal.writes; }
+    bool actsAtOnce() const { return order.applies && std::ranges::any_of(writes(), &Write::actsAtOnce); }
+
+    void show() const {
+        if (order.json) return showJson();
+        const Paint paint;
+        Table table;
+        for (const Write& write : writes())
+            table.add({paint.bold(write.label()),
+                       paint.changed(change(*write.parameter, write.from, write.to, context)),
+                       paint.dim(write.parameter->title(context.language))});
+        print(writes().empty() ? context.say("nothing to change\n", "nichts zu ändern\n") : table.text());
+        std::fflush(stdout);
+    }
+
+    void showJson() const {
+        Json changes = Json::array();
+        for (const Write& write : writes())
+            changes.add({{"name", write.label()},
+                         {"from", json(*write.parameter, write.from)},
+                         {"to", json(*write.parameter, write.to)},
+                         {"network", reachesNetwork(*write.parameter)}});
+        print(Json{{"written", journal.isDone}, {"changes", std::move(changes)}}.text());
+    }
+
+    std::string question() const {
+        std::string text = fill(context.say("Write {}?", "{} schreiben?"),
+                                {counted(writes().size(), context.say(" setting", " Einstellung"),
+                                         context.say(" settings", " Einstellungen"))});
+        if (actsAtOnce())
+            text += context.say(" The address is applied at once and may cut you off: `talux address` takes "
+                                "it back by itself.",
+                                " Die Adresse wird sofort angewendet und kann die Verbindung trennen: `talux "
+                                "address` nimmt sie "
+                                "selbst zurück.");
+        const int others = pendingSettings(context);
+        if ((actsAtOnce() || order.reach() != Reach::pending) && others > 0)
+            text += fill(context.say(" Other pending settings become live, too: {}.",
+                                     " Weitere anstehende Einstellungen werden gültig: {}."),
+                         {std::to_string(others)});
+        return text;
+    }
+
+    void keep() const { replace(lastChange(context), journal.text(context), context); }
+
+    void writeAll() {
+        if (const std::string half = interruption(context); !order.mends && !half.empty())
+            throw CouldNot(half);
+        const Undisturbed undisturbed;
+        if (!writes().empty()) keep();
+        for (const Write& write : writes()) {
+            writeOne(write, context);
+            if (!isThere(write)) takeBack(write);
+        }
+        if (actsAtOnce()) VarSetSystemIPs();
+        journal.isDone = true;
+        if (!writes().empty()) keep();
+        os::logInfo("talux %s: %zu settings by %s", printable(journal.what).c_str(), writes().size(),
+                    journal.who.c_str());
+        if (order.reach() == Reach::live) VarUpdateGlobalSpace();
+        if (order.reach() == Reach::saved) save(writes(), context);
+    }
+
+    [[noreturn]] void takeBack(const Write& failed) {
+        const auto found = present(*failed.parameter, failed.id());
+        std::string text = fill(context.say("{}: the value does not arrive (reads {}); nothing is changed",
+                                            "{}: der Wert kommt nicht an (gelesen: {}); nichts ist geändert"),
+                                {failed.label(), found ? plain(*failed.parameter, *found) : "-"});
+        for (const Write& write : journal.written())
+            if (write.from) store(*write.parameter, write.id(), *write.from);
+        if (const Writes lost = journal.written(); !lost.empty())
+            text += fill(context.say(" but {}", " außer {}"),
+                         {list(lost, ", ", [](const Write& write) { return write.label(); })});
+        os::removeFile(lastChange(context).c_str());
+        throw CouldNot(text);
+    }
+};
+
+} // namespace
+
+void Order::takeOptions(Subcommand& command) {
+    command.flag("--live", live, "make it live, with everything else that is pending");
+    command.flag("--save", save, "make it live and save the files it belongs to");
+    command.flag("--yes", yes, "write without asking");
+    command.flag("--dry-run", dryRun, "only show what it would change");
+    command.option("--protocol", protocol, "a file for the record: before, after, who, when");
+    command.flag("--json", json, "print JSON");
+}
+
+void attachToWrite(const Context& context) {
+    attachDevice(Attachment::readWrite, context);
+    std::string directory = context.directory;
+    VarInit(directory.data());
+}
+
+bool isAgreed(const std::string& question, const Context& context) {
+    if (isatty(STDIN_FILENO) == 0)
+        throw CouldNot(
+            context.say("nothing is written: there is no terminal to ask at; --yes writes without asking",
+                        "nichts ist geschrieben: kein Terminal zum Fragen; --yes schreibt ohne Frage"));
+    std::fprintf(stderr, "%s %s ", question.c_str(), context.say("[y/N]", "[j/N]"));
+    std::string answer;
+    for (int c = std::getchar(); c != '\n' && c != EOF; c = std::getchar())
+        answer += static_cast<char>(c);
+    if (std::feof(stdin)) std::fputc('\n', stderr);
+    constexpr std::string_view kYes[] = {"y", "Y", "yes", "j", "J", "ja"};
+    return !std::feof(stdin) && std::ranges::find(kYes, answer) != std::end(kYes);
+}
+
+int pendingSettings(const Context& context) {
+    const Source live = Source::open("live", context), staged = Source::open("staged", context);
+    return static_cast<int>(std::ranges::count_if(reference::parameters(), [&](const Parameter& parameter) {
+        return parameter.isSetting() && !isOfClock(parameter) &&
+               !sameValue(live.value(parameter), staged.value(parameter));
+    }));
+}
+
+OneAtATime::OneAtATime(const Context& context) {
+    const std::string path = context.directory + "/.talux_lock";
+    descriptor = os::openOrMake(path.c_str());
+    if (descriptor < 0)
+        throw CouldNot(fill(context.say("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}"),
+                            {path, std::generic_category().message(errno)}));
+    if (os::tryLockFile(descriptor)) return;
+    os::closeFile(descriptor);
+    throw CouldNot(context.say("another change is being made at this moment",
+                               "gerade wird eine andere Änderung gemacht"));
+}
+
+OneAtATime::~OneAtATime() {
+    os::closeFile(descriptor);
+}
+
+Status carryOut(const Plan& plan, const Order& order, const Context& context) {
+    for (const std::string& refusal : plan.refusals())
+        report(CouldNot(refusal));
+    if (!plan.refusals().empty()) throw CouldNot(context.say("nothing is written", "nichts ist geschrieben"));
+    return carryOut(plan.writes(), order, context);
+}
+
+Status carryOut(const Writes& writes, const Order& order, const Context& context) {
+    return Change(writes, order, context).run();
+}
+
+} // namespace talux::tool

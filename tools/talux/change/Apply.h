@@ -1,0 +1,52 @@
+// The one place that changes the settings of a device for the commands of talux: shows, asks, writes in the
+// right order, reads back, and puts the old values back when a write does not arrive.
+#ifndef TALUX_TOOLS_TALUX_CHANGE_APPLY_H
+#define TALUX_TOOLS_TALUX_CHANGE_APPLY_H
+
+#include "tools/talux/change/Journal.h"
+
+namespace talux::tool {
+
+// What the commands that change settings take.
+struct Order {
+    std::string what; // the command, for the record and the system log
+    bool live = false, save = false, yes = false, dryRun = false, json = false;
+    std::string protocol; // a file for the record; empty: none
+    bool applies = true;  // addresses to the system
+    bool mends = false;   // a change that was interrupted
+
+    Reach reach() const { return save ? Reach::saved : live ? Reach::live : Reach::pending; }
+    void takeOptions(Subcommand& command);
+};
+
+// Attaches the device to change it. Throws CouldNot when there is none.
+void attachToWrite(const Context& context);
+
+// All of the plan or nothing. Throws CouldNot when nothing could be written and says what is there if the old
+// values did not come back.
+Status carryOut(const Plan& plan, const Order& order, const Context& context);
+
+// The same of values that were on the device before: without the checks of a plan.
+Status carryOut(const Writes& writes, const Order& order, const Context& context);
+
+// Asks on the terminal; true if the answer is yes. Throws CouldNot where there is none to ask at.
+bool isAgreed(const std::string& question, const Context& context);
+
+// Settings of the working copy that are not live.
+int pendingSettings(const Context& context);
+
+// One change at a time: until it goes out of scope. Throws CouldNot while another process has it.
+class OneAtATime {
+public:
+    explicit OneAtATime(const Context& context);
+    ~OneAtATime();
+    OneAtATime(const OneAtATime&) = delete;
+    OneAtATime& operator=(const OneAtATime&) = delete;
+
+private:
+    int descriptor;
+};
+
+} // namespace talux::tool
+
+#endif

@@ -1,0 +1,185 @@
+#include "tools/talux/change/Journal.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdlib>
+#include <pwd.h>
+#include <unistd.h>
+
+#include "ParamSystem/os/Files.h"
+#include "ParamSystem/os/Os.h"
+#include "tools/talux/Files.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+constexpr std::string_view kMark = "# talux change: ", kWhen = "# when: ", kWho = "# who: ",
+                           kWhat = "# what: ", kReach = "# reach: ";
+constexpr std::string_view kBegun = "begun", kDone = "done";
+constexpr std::array<std::string_view, 3> kReaches{"pending", "live", "saved"};
+
+bool isPlain(char c) {
+    return static_cast<unsigned char>(c) >= ' ' && c != '\\' && c != '\x7F';
+}
+
+// On one line: a text in quotes, of which every byte comes back.
+std::string encoded(const Parameter& parameter, const std::optional<Value>& value) {
+    if (!value) return {};
+    if (!value->isText()) return plain(parameter, *value);
+    constexpr char kDigits[] = "0123456789ABCDEF";
+    std::string text = "\"";
+    for (const char c : std::string_view(value->text())) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (isPlain(c))
+            text += c;
+        else
+            text += {'\\', 'x', kDigits[byte >> 4], kDigits[byte & 15]};
+    }
+    return text + "\"";
+}
+
+std::optional<Value> decoded(std::string_view text) {
+    if (!text.starts_with('"')) {
+        double number = 0;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+        if (error != std::errc() || end != text.data() + text.size()) return {};
+        return Value(number);
+    }
+    std::string bytes;
+    for (std::size_t k = 1; k + 1 < text.size(); ++k) {
+        unsigned byte = static_cast<unsigned char>(text[k]);
+        if (text[k] == '\\' && k + 3 < text.size()) {
+            std::from_chars(text.data() + k + 2, text.data() + k + 4, byte, 16);
+            k += 3;
+        }
+        bytes += static_cast<char>(byte);
+    }
+    return Value(bytes);
+}
+
+std::string_view takeUpTo(std::string_view& rest, char end) {
+    const auto at = std::min(rest.find(end), rest.size());
+    const auto piece = rest.substr(0, at);
+    rest.remove_prefix(std::min(at + 1, rest.size()));
+    return piece;
+}
+
+// Whether the line is one of those that begin with "#".
+bool takeHead(Journal& journal, std::string_view line) {
+    const auto takes = [line](std::string_view key, std::string& text) {
+        if (line.starts_with(key)) text = line.substr(key.size());
+    };
+    std::string reach;
+    takes(kWhen, journal.when);
+    takes(kWho, journal.who);
+    takes(kWhat, journal.what);
+    takes(kReach, reach);
+    if (const auto* found = std::ranges::find(kReaches, reach); found != kReaches.end())
+        journal.reach = static_cast<Reach>(found - kReaches.begin());
+    return line.starts_with('#');
+}
+
+bool takeWrite(Journal& journal, std::string_view line) {
+    const std::string_view label = takeUpTo(line, '\t');
+    const auto open = std::min(label.find('['), label.size());
+    Write write{reference::find(label.substr(0, open)), 0, decoded(takeUpTo(line, '\t')), Value(0.0)};
+    const auto to = decoded(takeUpTo(line, '\t'));
+    if (open < label.size())
+        std::from_chars(label.data() + open + 1, label.data() + label.size(), write.index);
+    if (write.parameter == nullptr || !to || !storedAs(write.id(), *to)) return false;
+    write.to = *storedAs(write.id(), *to);
+    if (write.from) write.from = storedAs(write.id(), *write.from);
+    journal.writes.push_back(write);
+    return true;
+}
+
+std::string timeNow() {
+    std::tm now{};
+    os::localTime(now);
+    char text[32];
+    return {text, std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &now)};
+}
+
+} // namespace
+
+std::string whoAmI() {
+    const passwd* const user = getpwuid(getuid());
+    std::string who = user != nullptr ? user->pw_name : std::to_string(getuid());
+    if (const char* const sudo = std::getenv("SUDO_USER")) who = joined({sudo, " as ", who});
+    if (const char* const client = std::getenv("SSH_CONNECTION")) {
+        std::string_view address = client;
+        who += joined({" from ", takeUpTo(address, ' ')});
+    }
+    return printable(who);
+}
+
+Journal Journal::begun(std::string command, Reach reach, Writes writes) {
+    return {false, std::move(command), timeNow(), whoAmI(), reach, std::move(writes)};
+}
+
+std::optional<Journal> Journal::read(const std::string& path, const Context& context) {
+    if (!os::exists(path.c_str())) return {};
+    const std::string contents = contentsOf(path, context);
+    std::string_view rest = contents;
+    const std::string_view mark = takeUpTo(rest, '\n');
+    bool isWhole = mark.starts_with(kMark) && contents.ends_with('\n');
+    Journal journal;
+    journal.isDone = mark.ends_with(kDone);
+    while (isWhole && !rest.empty()) {
+        const std::string_view line = takeUpTo(rest, '\n');
+        isWhole = takeHead(journal, line) || takeWrite(journal, line);
+    }
+    if (isWhole) return journal;
+    throw CouldNot(fill(
+        context.say("{}: is no whole record of a change", "{}: ist kein ganzes Änderungsprotokoll"), {path}));
+}
+
+std::string Journal::text(const Context& context) const {
+    std::string text =
+        joined({kMark, isDone ? kDone : kBegun, "\n", kWhen, when, "\n", kWho, who, "\n", kWhat,
+                printable(what), "\n", kReach, kReaches[static_cast<std::size_t>(reach)], "\n"});
+    for (const Write& write : writes)
+        text += joined({write.label(), "\t", encoded(*write.parameter, write.from), "\t",
+                        encoded(*write.parameter, write.to), "\t", write.parameter->title(context.language),
+                        ": ", change(*write.parameter, write.from, write.to, context), "\n"});
+    return text;
+}
+
+Writes Journal::written() const {
+    Writes found;
+    for (const Write& write : writes)
+        if (!write.setsClock() && !sameValue(present(*write.parameter, write.id()), write.from))
+            found.push_back(write);
+    return found;
+}
+
+std::string lastChange(const Context& context) {
+    return context.directory + "/last_change.tsv";
+}
+
+std::string openAddress(const Context& context) {
+    return context.directory + "/address_change.tsv";
+}
+
+std::string interruption(const Context& context) {
+    const auto journal = Journal::read(lastChange(context), context);
+    if (!journal || journal->isDone) return {};
+    const Writes half = journal->written();
+    const auto isThere = [](const Write& write) {
+        return write.setsClock() || sameValue(present(*write.parameter, write.id()), write.to);
+    };
+    if (half.empty() || std::ranges::all_of(journal->writes, isThere)) return {};
+    return fill(
+        context.say(
+            "'{}' of {} by {} was interrupted and is half written: {}; `talux undo` takes it back",
+            "'{}' vom {} durch {} wurde unterbrochen und ist halb geschrieben: {}; `talux undo` nimmt "
+            "es zurück"),
+        {journal->what, journal->when, journal->who,
+         list(half, ", ", [](const Write& write) { return write.label(); })});
+}
+
+} // namespace talux::tool

@@ -1,0 +1,248 @@
+#include "tools/talux/change/Plan.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <tuple>
+
+#include "ParamSystem/kepl/Clock.h"
+#include "ParamSystem/kepl/Decision.h"
+#include "ParamSystem/os/Os.h"
+#include "tools/talux/Files.h"
+#include "tools/talux/Judgement.h"
+#include "tools/talux/LineCheck.h"
+#include "tools/talux/Lookup.h"
+#include "tools/talux/Show.h"
+#include "tools/talux/Text.h"
+
+namespace talux::tool {
+
+namespace {
+
+constexpr int kAllRights = 3;
+
+std::string_view withoutBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t\r");
+    return first == text.npos ? "" : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
+}
+
+struct Label {
+    std::string_view name;
+    std::string_view index; // what stands in brackets
+};
+
+Label labelIn(std::string_view text) {
+    const auto open = text.find('[');
+    if (open == text.npos || !text.ends_with(']')) return {text, {}};
+    return {text.substr(0, open), text.substr(open + 1, text.size() - open - 2)};
+}
+
+// NAME[3] is the parameter NAME3 or NAME_3 where there is no NAME.
+const Parameter* inSeries(const Label& label) {
+    for (const char* between : {"", "_"})
+        if (const auto* member = reference::find(joined({label.name, between, label.index}))) return member;
+    return nullptr;
+}
+
+bool isNumber(std::string_view text) {
+    double number = 0;
+    return std::from_chars(text.data(), text.data() + text.size(), number).ptr == text.data() + text.size();
+}
+
+bool isIndex(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+// Whether it is what is there: files hold what can only be read, too.
+bool isPresent(const Parameter& parameter, std::string_view value) {
+    const auto there = present(parameter, parameter.row().id);
+    return there && (there->isText() ? value == there->text() : value == fileForm(parameter, *there));
+}
+
+// The numbers of the choices that are called so in either language.
+std::set<int> choicesCalled(std::string_view text, const Parameter& parameter) {
+    std::set<int> numbers;
+    for (const ParamLanguage language : {kGerman, kEnglish})
+        for (const auto& choice : parameter.choices(language))
+            if (choice.text == text) numbers.insert(choice.number);
+    return numbers;
+}
+
+// Whether it is no choice's number, but one is called so: a baud rate.
+bool isOnlyText(std::string_view value, const Parameter& parameter) {
+    double number = 0;
+    std::from_chars(value.data(), value.data() + value.size(), number);
+    return parameter.type().kind == Kind::Enum && !isInRange(parameter, number) &&
+           !choicesCalled(value, parameter).empty();
+}
+
+// What the local clock shows at a moment, as the clock's parameters do.
+std::string clockText(const std::tm& time, Nature nature) {
+    char text[16];
+    return {text, std::strftime(text, sizeof text, nature == Nature::date ? "%Y-%m-%d" : "%H:%M:%S", &time)};
+}
+
+// Whether the clock has the moment. Of the numbers in the text any would do for the clock itself.
+bool isMoment(std::string_view text, const kepl::Decision& decision) {
+    const Nature nature = typeOf(*decision.row).nature;
+    std::time_t seconds = 0;
+    std::tm time{};
+    return kepl::clockSetTo(decision.clock, nature, seconds) && localtime_r(&seconds, &time) != nullptr &&
+           clockText(time, nature) == text;
+}
+
+std::string textObjection(const Parameter& parameter, const Value& value, const Context& context) {
+    const std::string_view text = value.text();
+    const auto most = static_cast<std::size_t>(std::max(parameter.row().val_len, 0));
+    if (most > 0 && width(text) > most)
+        return fill(context.say("{} characters; at most {}", "{} Zeichen; höchstens {}"),
+                    {std::to_string(width(text)), std::to_string(most)});
+    if (!isUtf8(text)) return context.say("the text is not UTF-8", "der Text ist nicht UTF-8");
+    if (isAddress(parameter.row()) && !isAddressText(text))
+        return fill(context.say("'{}' is no address", "'{}' ist keine Adresse"), {printable(text)});
+    if (parameter.row().type == kTypeIpMask && !isNetmask(text))
+        return fill(context.say("'{}' is no netmask", "'{}' ist keine Netzmaske"), {printable(text)});
+    const auto finding = wouldNotComeBack(parameter, value, context);
+    return finding ? finding->text : "";
+}
+
+} // namespace
+
+std::string Write::label() const {
+    const std::string name(parameter->name());
+    return index > 0 ? fill("{}[{}]", {name, std::to_string(index)}) : name;
+}
+
+std::optional<Value> present(const Parameter& parameter, int id) {
+    if (!isOfClock(parameter))
+        return readValue(parameter.row().is_volatile == 1 ? Space::global : Space::temp, id);
+    std::tm now{};
+    os::localTime(now);
+    return Value(clockText(now, parameter.type().nature));
+}
+
+std::string objection(const Parameter& parameter, const Value& value, const Context& context) {
+    const auto kept = storedAs(parameter.row().id, value);
+    if (!kept) return context.say("holds no value", "hat keinen speicherbaren Wert");
+    if (value.isText()) return textObjection(parameter, value, context);
+    if (!isInRange(parameter, value.number()))
+        return fill(context.say("{} is out of range: {}", "{} liegt außerhalb: {}"),
+                    {plain(parameter, value), range(parameter, context.language)});
+    if (parameter.type().fileDecimals == 0 && kept->number() != value.number())
+        return fill(context.say("{} is no whole number", "{} ist keine ganze Zahl"),
+                    {reference::shortNumber(value.number())});
+    return {};
+}
+
+void Plan::refuse(const std::string& place, std::string_view label, std::string_view reason) {
+    refused.push_back(joined({place, printable(label), ": ", reason}));
+}
+
+void Plan::add(const Parameter& parameter, int index, const Value& value, const std::string& place) {
+    Write write{&parameter, index, {}, value};
+    write.from = present(parameter, write.id());
+    const auto kept = storedAs(write.id(), value);
+    if (!ids.insert(write.id()).second)
+        return refuse(place, write.label(), context.say("is named twice", "ist zweimal genannt"));
+    if (!write.setsClock() && kept && sameValue(write.from, kept)) return;
+    if (const std::string reason = objection(parameter, value, context); !reason.empty())
+        return refuse(place, write.label(), reason);
+    write.to = *kept;
+    planned.push_back(write);
+}
+
+// That of the choice which is called so; none with a refusal.
+std::optional<std::string> Plan::number(const Parameter& parameter, std::string_view text,
+                                        const std::string& place, std::string_view label) {
+    const auto numbers = choicesCalled(text, parameter);
+    if (numbers.size() == 1) return std::to_string(*numbers.begin());
+    std::string reason = fill(
+        numbers.size() > 1 ? context.say("'{}' stands for several choices, give the number",
+                                         "'{}' heißt mehr als eine Auswahl, die Nummer ist nötig")
+        : parameter.type().kind == Kind::Enum ? context.say("has no choice '{}'", "hat keine Auswahl '{}'")
+                                              : context.say("'{}' is no number", "'{}' ist keine Zahl"),
+        {printable(text)});
+    if (text.find(',') != text.npos)
+        reason += context.say("; decimals need a point", "; Dezimalen brauchen einen Punkt");
+    refuse(place, label, reason);
+    return {};
+}
+
+void Plan::take(std::string_view typed, std::string_view value, const std::string& place) {
+    Label label = labelIn(typed);
+    const Parameter* parameter = reference::find(label.name);
+    if (parameter == nullptr && !label.index.empty()) {
+        parameter = inSeries(label);
+        if (parameter != nullptr) label.index = {};
+    }
+    if (parameter == nullptr) return refuse(place, typed, unknownName(label.name, context));
+    const bool isClock = isOfClock(*parameter), isText = talux::isText(parameter->row()) && !isClock;
+    std::optional<std::string> meant(isText ? "x" : value);
+    const bool isKnownNumber = isText || isClock || (isNumber(value) && !isOnlyText(value, *parameter));
+    if (!isKnownNumber) meant = number(*parameter, value, place, typed);
+    if (!meant) return;
+    const std::string_view element = label.index.empty() ? "" : isIndex(label.index) ? label.index : "?";
+    const kepl::Decision decision = kepl::decideVariable(
+        joined({parameter->name(), element.empty() ? "" : " ", element, "=", *meant}), kAllRights);
+    if (decision.refusal == kepl::Refusal::readOnly && isPresent(*parameter, value)) return;
+    if (decision.isRefused()) return refuse(place, typed, reasonOf(decision, context));
+    if (isClock && !isMoment(value, decision))
+        return refuse(place, typed,
+                      fill(context.say("the clock has no {}", "die Uhr kennt kein {}"), {printable(value)}));
+    add(*parameter, static_cast<int>(decision.variable.first),
+        isText || isClock ? Value(value) : *decision.value, place);
+}
+
+void Plan::checkDevice(std::string_view line, const std::string& path) const {
+    const Parameter& name = *reference::find("Name");
+    const auto here = present(name, name.row().id);
+    if (here && line == here->text()) return;
+    throw CouldNot(
+        fill(context.say("{}: is for '{}'; this device is '{}'", "{}: ist für '{}'; dieses Gerät heißt '{}'"),
+             {path, printable(line), here ? printable(here->text()) : "-"}));
+}
+
+void Plan::readLine(std::string line, const std::string& place) {
+    std::string whole = line;
+    Entry entry = parseEntry(whole.data());
+    if (entry.form == LineForm::foreign) {
+        whole = joined({kKeyPrefix, withoutBlanks(line)});
+        entry = parseEntry(whole.data());
+    }
+    if (entry.form != LineForm::entry) return;
+    if (entry.tail == Tail::text || (entry.isQuoted && !entry.isClosed))
+        return refuse(
+            place, withoutBlanks(line),
+            context.say("the text after the value is not read", "der Text nach dem Wert wird nicht gelesen"));
+    const Parameter* const parameter = reference::find(entry.name);
+    if (parameter != nullptr && isOfClock(*parameter)) return;
+    take(entry.name, entry.isQuoted ? entry.value : withoutBlanks(entry.value), place);
+}
+
+void Plan::read(const std::string& path) {
+    std::string contents = contentsOf(path, context);
+    if (contents.find('\0') != contents.npos)
+        throw CouldNot(
+            fill(context.say("{}: contains a NUL character", "{}: enthält ein NUL-Zeichen"), {path}));
+    std::string_view rest = contents;
+    constexpr std::string_view kMark = "\xEF\xBB\xBF", kFor = "# for:";
+    if (rest.starts_with(kMark)) rest.remove_prefix(kMark.size());
+    for (int number = 1; !rest.empty(); ++number) {
+        const auto end = std::min(rest.find('\n'), rest.size());
+        const std::string_view line = rest.substr(0, end);
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+        if (number == 1 && line.starts_with(kFor)) checkDevice(withoutBlanks(line.substr(kFor.size())), path);
+        readLine(std::string(line), fill("{}:{}: ", {printable(path), std::to_string(number)}));
+    }
+}
+
+Writes Plan::writes() const {
+    Writes ordered = planned;
+    const auto rank = [](const Write& write) {
+        return std::tuple(write.actsAtOnce(), write.setsClock(), write.parameter->position(), write.index);
+    };
+    std::ranges::sort(ordered, {}, rank);
+    return ordered;
+}
+
+} // namespace talux::tool

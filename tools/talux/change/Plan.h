@@ -1,0 +1,81 @@
+// What is to be changed on the device: each setting with the value that it gets, checked before anything is
+// written.
+#ifndef TALUX_TOOLS_TALUX_CHANGE_PLAN_H
+#define TALUX_TOOLS_TALUX_CHANGE_PLAN_H
+
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "tools/talux/Source.h"
+
+namespace talux::tool {
+
+// One value to write.
+struct Write {
+    const Parameter* parameter;
+    int index; // of an element, else 0
+    std::optional<Value> from;
+    Value to;
+
+    int id() const { return parameter->row().id + (index > 0 ? index - 1 : 0); }
+    std::string label() const; // NAME or NAME[3]
+    bool setsClock() const { return isOfClock(*parameter); }
+    // Whether writing it is applied to the system and saved at once, with everything else that is pending.
+    bool actsAtOnce() const { return parameter->row().type == kTypeIpAddress && index == 0; }
+};
+using Writes = std::vector<Write>;
+
+// What a program that writes reads: a setting's value in the working copy, any other's where the device has
+// it; of the clock what it shows now.
+std::optional<Value> present(const Parameter& parameter, int id);
+
+class Plan {
+public:
+    explicit Plan(const Context& person) : context(person) {}
+
+    // A value as it is typed: a number, the number or text of a choice, a text. `place` stands in front of
+    // what is said about it.
+    void take(std::string_view label, std::string_view value, const std::string& place = "");
+
+    // A file of such lines, in the form of parameter files; the prefix TLX_ may be missing. As a load does,
+    // it leaves the clock alone. Throws CouldNot when it is for another device than this one.
+    void read(const std::string& path);
+
+    // The settings of a source that differ, without those that `leaves`.
+    template <class Leaves>
+    void copy(const Source& source, Leaves leaves) {
+        for (const Parameter& parameter : reference::parameters())
+            if (const auto value = source.value(parameter);
+                value && parameter.isSetting() && !isOfClock(parameter) && !leaves(parameter))
+                add(parameter, 0, *value, "");
+    }
+
+    // One for each value that cannot be written.
+    const std::vector<std::string>& refusals() const { return refused; }
+
+    // What differs from what is there, in the order in which it has to be written: the clock and then the
+    // addresses last, since they cannot be taken back.
+    Writes writes() const;
+
+private:
+    const Context& context;
+    Writes planned;
+    std::set<int> ids;
+    std::vector<std::string> refused;
+
+    void readLine(std::string line, const std::string& place);
+    void checkDevice(std::string_view line, const std::string& path) const;
+    std::optional<std::string> number(const Parameter& parameter, std::string_view text,
+                                      const std::string& place, std::string_view label);
+    void refuse(const std::string& place, std::string_view label, std::string_view reason);
+    void add(const Parameter& parameter, int index, const Value& value, const std::string& place);
+};
+
+// Why the value cannot be written; empty when it can.
+std::string objection(const Parameter& parameter, const Value& value, const Context& context);
+
+} // namespace talux::tool
+
+#endif
