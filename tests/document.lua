@@ -1,8 +1,11 @@
 -- Runs the scripts of a document: every ```lua block answers what the ```text block after it shows, or nothing. Each is
 -- a script of its own, without the globals of the others; one that begins with "-- NAME.lua" is that file instead.
 -- With TALUX_ACCEPT set, the document gets what they answer.
+local check = dofile(arg[0]:match(".*/") .. "check.lua")
 local accepts = os.getenv "TALUX_ACCEPT"
-local text = assert(io.open(arg[1])):read "*a"
+local page = assert(io.open(arg[1]))
+local text = page:read "*a"
+page:close()
 local whole, lines = text
 function print(...)
   local words = {...}
@@ -26,7 +29,7 @@ while true do
   local _, close, fence, shown = text:find("```(%a+)\n(.-)```", stop + 1)
   local expected = fence == "text" and shown or ""
   lines = {}
-  run(code)
+  check.leavesNothing(run, code)
   local got = table.concat(lines)
   if got ~= expected then
     assert(accepts and fence == "text", arg[1] .. " shows\n" .. expected .. "but the script\n" .. code .. "answers\n" .. got)
@@ -37,3 +40,4 @@ end
 for _, file in ipairs(files) do os.remove(file) end
 assert(count > 0, arg[1] .. " has no script")
 if text ~= whole then assert(io.open(arg[1], "w")):write(text) end
+check.finish()

@@ -403,7 +403,7 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
     std::ofstream(file) << "old";
     EXPECT_EQ(VarSaveParamFile(path.data()), 1);
     EXPECT_TRUE(contents(other) == whole && fs::hard_link_count(file) == 2);
-    std::signal(SIGXFSZ, SIG_IGN);
+    const auto onLargeFile = std::signal(SIGXFSZ, SIG_IGN);
     rlimit limit;
     getrlimit(RLIMIT_FSIZE, &limit);
     const rlimit small{100, limit.rlim_max};
@@ -411,6 +411,7 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
     setrlimit(RLIMIT_FSIZE, &small);
     const Outcome outcome = outcomeOf([&] { return VarSaveParamFile(path.data()); });
     setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, onLargeFile);
     EXPECT_EQ(outcome, Outcome(1, "Error (TALUX_Var): Can't write to file '" + path + "' \n",
                                "Error (TALUX_Var): '" + path + "' stays as it is \nwrite: File too large\n"));
     EXPECT_EQ(contents(other), "old");

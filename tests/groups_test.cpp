@@ -172,6 +172,7 @@ TEST_F(Groups, WaitTheirTimeWhateverSignalsArrive) {
     EXPECT_GE(waited, 100000000);
     EXPECT_LT(waited, 400000000);
     setitimer(ITIMER_REAL, &never, nullptr);
+    std::signal(SIGALRM, SIG_DFL);
 }
 
 TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {

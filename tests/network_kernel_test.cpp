@@ -47,11 +47,10 @@ protected:
             "ETH1_MASK=255.255.255.0 T104_ETH_IP_1=10.1.1.3 T104_ETH_GW_1=10.1.1.1 T104_ETH_IP_2=10.1.2.3 "
             "T104_ETH_IP_3=172.16.77.9 T104_ETH_MA_3=255.255.240.0 T104_ETH_IP_4=10.1.4.3 "
             "T104_ETH_MA_4=255.255.255.128 DNS=192.0.2.8 TIMEZONE=/tmp/zone NTP1=192.0.2.1 NTP2=192.0.2.2");
-        fs::remove("/tmp/record");
     }
     void TearDown() override {
         runs("ip link del eth0; ip link del eth1");
-        fs::remove("/tmp/output");
+        runs("rm -f /tmp/ntp.conf /tmp/record");
     }
 
     static std::string networkAfter(const char* settings, int (*apply)() = VarSetSystemIPs) {

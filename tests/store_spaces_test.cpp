@@ -70,6 +70,7 @@ TEST(Spaces, ArePublicSegmentsOfFixedSizeAndBeginEmpty) {
         EXPECT_EQ(bytes(outside, size), std::string(size, '\0')) << key;
         outside[size - 1] = 'x';
         EXPECT_EQ(static_cast<char*>(attached)[size - 1], 'x') << key;
+        shmdt(outside);
     }
 }
 
@@ -93,7 +94,9 @@ TEST(Spaces, StayAttachedThroughLaterInits) {
     removeSegment(kGlobalKey);
     VarInit(kNoDirectory);
     VarSetGlobalLongValue(6000, 42);
-    EXPECT_EQ(numberIn<std::int32_t>(attach(kGlobalKey) + kBlocks[2].offset), 42);
+    char* const outside = attach(kGlobalKey);
+    EXPECT_EQ(numberIn<std::int32_t>(outside + kBlocks[2].offset), 42);
+    shmdt(outside);
     EXPECT_EQ(std::tuple(std::get<1>(place), std::get<2>(place)), std::tuple(pVarTemp, pVarStruct));
 }
 
@@ -129,6 +132,7 @@ TEST(Logbook, IsRemovedFromTheCurrentDirectory) {
     EXPECT_NE(access("TALUX-LCD.log", F_OK), 0);
     EXPECT_EQ(VarResetLCDLogbook(), 1);
     std::filesystem::remove(directory);
+    ASSERT_EQ(chdir("/"), 0);
 }
 
 // The whole error output: the message, and how often the failing call was tried in all.

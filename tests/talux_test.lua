@@ -319,7 +319,12 @@ case("changes are told with title, unit and choice in either language", function
 end)
 
 case("calls come on time, and those that are late are left out", function()
-  local function uptime() return numbers.read(io.open("/proc/uptime"):read():match "^%S+") end
+  local function uptime()
+    local file = io.open "/proc/uptime"
+    local seconds = file:read():match "^%S+"
+    file:close()
+    return numbers.read(seconds)
+  end
   local start, calls = uptime(), {}
   talux.every(50, function(k)
     calls[#calls + 1] = k

@@ -132,6 +132,7 @@ TEST_F(TextLoader, GoesOnAfterSignals) {
     ualarm(1000, 1000);
     LoadParamStrings(std::string(kFifo).data());
     ualarm(0, 0);
+    std::signal(SIGALRM, SIG_DFL);
     writer.join();
     EXPECT_EQ(titleOf(9000), "slow");
 }

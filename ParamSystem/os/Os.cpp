@@ -22,7 +22,7 @@ void runShell(const char* command) {
 }
 
 FILE* openPipe(const char* command) {
-    return popen(command, "r"); // NOLINT(cert-env33-c)
+    return popen(command, "re"); // NOLINT(cert-env33-c)
 }
 
 void closePipe(FILE* pipe) {
@@ -32,7 +32,7 @@ void closePipe(FILE* pipe) {
 FILE* openStream(const char* path) {
     FILE* stream = nullptr;
     do {
-        stream = std::fopen(path, "r");
+        stream = std::fopen(path, "re");
     } while (stream == nullptr && errno == EINTR);
     return stream;
 }

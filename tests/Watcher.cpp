@@ -1,0 +1,145 @@
+// Linked into every test program: whoever leaves more or less of the process than it found fails. So does the
+// module when it closes a file that a program started meanwhile would have inherited.
+#include "Isolation.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <clocale>
+#include <csignal>
+#include <cstdio>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <sstream>
+#include <string>
+#include <sys/sem.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using Things = std::vector<std::string>;
+
+template <class Use>
+void eachLine(const char* path, const Use& use) {
+    std::ifstream file(path);
+    for (std::string line; std::getline(file, line);)
+        use(line);
+}
+
+void addOpenFiles(Things& things) {
+    char target[256];
+    for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+        const ssize_t size = readlink(entry.path().c_str(), target, sizeof target);
+        const std::string_view name(target, static_cast<std::size_t>(std::max<ssize_t>(size, 0)));
+        if (!name.ends_with("/fd"))
+            things.push_back("descriptor " + entry.path().filename().string() + " of " + std::string(name));
+    }
+}
+
+// Of groups: who writes, and how many use each.
+void addSemaphores(Things& things) {
+    eachLine("/proc/sysvipc/sem", [&](const std::string& line) {
+        std::istringstream fields(line);
+        std::string key, mode;
+        int id = 0, count = 0;
+        fields >> key >> id >> mode >> count; // all zero in the headline
+        for (int each = 0; each < count; ++each)
+            if (semctl(id, each, GETVAL) > 0)
+                things.push_back("semaphore " + std::to_string(each) + " of " + key);
+    });
+}
+
+// A segment is attached by the module and by the test, once each.
+void addAttachments(Things& things) {
+    std::map<std::string, int> attachments;
+    eachLine("/proc/self/maps", [&](const std::string& line) {
+        std::istringstream fields(line);
+        std::string place, rights, offset, device, id, name;
+        fields >> place >> rights >> offset >> device >> id >> name;
+        if (name.starts_with("/SYSV") && ++attachments[id] > 2) things.push_back("attached " + name);
+    });
+}
+
+void addSignals(Things& things) {
+    sigset_t blocked;
+    pthread_sigmask(SIG_BLOCK, nullptr, &blocked);
+    struct sigaction action;
+    for (int each = 1; each < NSIG; ++each) {
+        if (sigismember(&blocked, each) == 1) things.push_back("blocked signal " + std::to_string(each));
+        if (sigaction(each, nullptr, &action) == 0 && action.sa_handler != SIG_DFL)
+            things.push_back("handler of signal " + std::to_string(each));
+    }
+}
+
+Things thingsOfTheProcess() {
+    Things things{"folder " + fs::current_path().string(),
+                  std::string("locale ") + std::setlocale(LC_ALL, nullptr)};
+    addOpenFiles(things);
+    addSemaphores(things);
+    addAttachments(things);
+    addSignals(things);
+    eachLine("/proc/self/status", [&](const std::string& line) {
+        if (line.starts_with("Umask:")) things.push_back(line);
+    });
+    eachLine("/proc/locks", [&, own = " " + std::to_string(getpid()) + " "](const std::string& line) {
+        if (line.find(own) != line.npos) things.push_back("lock" + line.substr(line.find(':') + 1));
+    });
+    if (talux_test::isolated())
+        for (const auto& entry : fs::directory_iterator("/tmp"))
+            things.push_back("file " + entry.path().string());
+    siginfo_t child{};
+    if (waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0) things.emplace_back("a child");
+    std::sort(things.begin(), things.end());
+    return things;
+}
+
+class Watcher : public testing::EmptyTestEventListener {
+    Things before;
+
+    void OnTestStart(const testing::TestInfo& /*test*/) override { before = thingsOfTheProcess(); }
+    void OnTestEnd(const testing::TestInfo& /*test*/) override {
+        const Things after = thingsOfTheProcess();
+        tell("left over: ", after, before);
+        tell("gone: ", before, after);
+    }
+    static void tell(const char* what, const Things& all, const Things& without) {
+        Things rest;
+        std::set_difference(all.begin(), all.end(), without.begin(), without.end(), std::back_inserter(rest));
+        for (const std::string& each : rest)
+            ADD_FAILURE() << what << each;
+    }
+};
+
+[[maybe_unused]] const bool kWatches = [] {
+    testing::UnitTest::GetInstance()->listeners().Append(new Watcher);
+    return true;
+}();
+
+void expectOwn(int descriptor, const void* caller) {
+    Dl_info place{};
+    const int flags = fcntl(descriptor, F_GETFD);
+    if (flags < 0 || (flags & FD_CLOEXEC) != 0 || dladdr(caller, &place) == 0) return;
+    if (std::string_view(place.dli_fname).find("lib_talux_lua.so") != std::string_view::npos)
+        ADD_FAILURE() << "a program started meanwhile would have inherited what the module closes";
+}
+
+} // namespace
+
+extern "C" {
+// A test that closes in its own way takes the place of these.
+[[gnu::weak]] int close(int descriptor) {
+    expectOwn(descriptor, __builtin_return_address(0));
+    return reinterpret_cast<int (*)(int)>(dlsym(RTLD_NEXT, "close"))(descriptor);
+}
+[[gnu::weak]] int fclose(FILE* stream) {
+    expectOwn(fileno(stream), __builtin_return_address(0));
+    return reinterpret_cast<int (*)(FILE*)>(dlsym(RTLD_NEXT, "fclose"))(stream);
+}
+}
