@@ -4,8 +4,10 @@ local folder, wrong, anchorsOf = arg[1], 0, {}
 
 local function read(path)
   local file = io.open(path)
-  local text = file and file:read "*a" -- nil for a directory
-  return file and (text or "")
+  if not file then return end
+  local text = file:read "*a" -- nil for a directory
+  file:close()
+  return text or ""
 end
 
 -- Headings become anchors: small letters, blanks as "-", other signs but "-" and "_" left out.
