@@ -27,6 +27,10 @@ struct Filter {
     void addTo(Subcommand& command);
     // The words of the person stand for something; throws CouldNot otherwise. Before accepts().
     void check(const Context& context);
+    bool isEmpty() const { // accepts everything
+        return names.empty() && words.empty() && family.empty() && method.empty() && file.empty() &&
+               level == 0 && !individual && !noLimits;
+    }
     bool accepts(const Parameter& parameter) const;
 
 private:

@@ -33,10 +33,13 @@ std::string meaning(const Parameter& parameter, const Value& value, const Contex
 
 } // namespace
 
+std::string numberText(double number, bool isFloat) {
+    return isFloat ? shortest(narrowed(number)) : shortest(number);
+}
+
 std::string plain(const Parameter& parameter, const Value& value) {
     if (value.isText()) return "\"" + printable(value.text()) + "\"";
-    return parameter.type().kind == Kind::Float ? shortest(narrowed(value.number()))
-                                                : shortest(value.number());
+    return numberText(value.number(), parameter.type().kind == Kind::Float);
 }
 
 std::string unitOf(const Parameter& parameter) {

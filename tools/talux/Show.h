@@ -19,6 +19,9 @@ std::string unitOf(const Parameter& parameter);
 // The text of the choice that the value is; empty where it is none.
 std::string choiceOf(const Parameter& parameter, const Value& value, ParamLanguage language);
 
+// A number with as many digits as tell it from all others, of floats if `isFloat`.
+std::string numberText(double number, bool isFloat);
+
 // With its unit or the text of the choice: "30 %", "2 (English)". Nothing is "-".
 std::string shown(const Parameter& parameter, const std::optional<Value>& value, const Context& context);
 

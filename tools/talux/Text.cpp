@@ -72,6 +72,25 @@ std::size_t width(std::string_view text) {
     return columns;
 }
 
+std::string cut(const std::string& line, std::size_t columns) {
+    std::size_t size = 0, taken = 0;
+    while (size < line.size() && (columns == 0 || taken < columns)) {
+        const bool escapes = isEscape(line, size);
+        size = escapes ? std::min(line.find('m', size), line.size() - 1) + 1
+                       : size + std::max<std::size_t>(1, characterAt(std::string_view(line).substr(size)));
+        taken += escapes ? 0 : 1;
+    }
+    const bool isColoured = size < line.size() && line.find('\033') < size;
+    return line.substr(0, size) + (isColoured ? "\033[0m" : "");
+}
+
+std::vector<std::string> linesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    for (std::size_t end; (end = text.find('\n')) != text.npos; text.remove_prefix(end + 1))
+        lines.emplace_back(text.substr(0, end));
+    return lines;
+}
+
 bool isUtf8(std::string_view text) {
     while (!text.empty()) {
         const std::size_t length = characterAt(text);

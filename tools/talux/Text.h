@@ -19,6 +19,11 @@ bool isUtf8(std::string_view text);
 // The text with blanks behind it up to this width.
 std::string padded(std::string text, std::size_t columns);
 
+// The beginning of a line that fits these columns, colours kept; all of it where they are 0.
+std::string cut(const std::string& line, std::size_t columns);
+
+std::vector<std::string> linesOf(std::string_view text);
+
 bool containsIgnoringCase(std::string_view text, std::string_view part);
 
 // Whether a name fits "*" and "?" patterns, or holds a text without them. Letter case is ignored.

@@ -1,17 +1,18 @@
 // talux watch: live values, renewed in place.
-#include <charconv>
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <csignal>
 #include <cstdio>
-#include <cstring>
 #include <ctime>
+#include <iterator>
 #include <memory>
-#include <unistd.h>
 
-#include "ParamSystem/TALUX_Var.h"
 #include "tools/talux/Command.h"
-#include "tools/talux/Show.h"
+#include "tools/talux/Screen.h"
+#include "tools/talux/Search.h"
 #include "tools/talux/Text.h"
+#include "tools/talux/Watched.h"
 
 namespace talux::tool {
 
@@ -19,91 +20,17 @@ namespace {
 
 struct Options {
     std::vector<std::string> names;
+    Filter filter;
+    std::string until;
     double period = 1;
     long count = 0; // 0: until it is stopped
-    bool csv = false;
+    bool minMax = false;
+    bool csv = false, decimalComma = false;
 };
 
 volatile std::sig_atomic_t stopRequested = 0;
 void requestStop(int) {
     stopRequested = 1;
-}
-
-// One value on the screen: a scalar, an element, a member of a record.
-struct Item {
-    std::string label;
-    const Parameter* parameter;
-    int id;
-    const StructMemberProperties_t* member = nullptr;
-};
-
-std::string memberText(const Item& item) {
-    char record[kLargestRecord];
-    VarGetGlobalStructValue(item.id, record, ARR_StructSize[item.id - kFirstStruct]);
-    const char* const bytes = record + item.member->lMemberOffset;
-    if (memberType(item.member->szMemberType) == kTypeFloat) {
-        float number;
-        std::memcpy(&number, bytes, sizeof number);
-        return reference::shortNumber(static_cast<double>(number));
-    }
-    std::int32_t number;
-    std::memcpy(&number, bytes, sizeof number);
-    return std::to_string(number);
-}
-
-std::string valueText(const Item& item) {
-    if (item.member != nullptr) return memberText(item);
-    const auto value = readValue(Space::global, item.id);
-    return value ? plain(*item.parameter, *value) : "-";
-}
-
-// NAME, or NAME FIRST or NAME FIRST.LAST for elements.
-struct Wanted {
-    const Parameter* parameter = nullptr;
-    int first = 0;
-    int last = 0;
-};
-
-Wanted wantedBy(const std::string& text, const Context& context) {
-    const std::string name = text.substr(0, text.find(' '));
-    Wanted wanted{reference::find(name)};
-    if (wanted.parameter == nullptr || wanted.parameter->isTemplate())
-        throw CouldNot(fill(context.say("'{}': no parameter has this name; the nearest is {}",
-                                        "'{}': kein Parameter heißt so; am ähnlichsten ist {}"),
-                            {printable(name), reference::nearest(name)}));
-    const auto& row = wanted.parameter->row();
-    wanted.first = row.val_min_id;
-    wanted.last = row.val_max_id;
-    if (name.size() == text.size()) return wanted;
-    const char* const end = text.data() + text.size();
-    auto read = std::from_chars(text.data() + name.size() + 1, end, wanted.first);
-    wanted.last = wanted.first;
-    if (read.ec == std::errc() && read.ptr != end && *read.ptr == '.')
-        read = std::from_chars(read.ptr + 1, end, wanted.last);
-    const bool fits =
-        wanted.first >= row.val_min_id && wanted.last <= row.val_max_id && wanted.first <= wanted.last;
-    if (read.ec != std::errc() || read.ptr != end || !wanted.parameter->isIndexed() || !fits)
-        throw CouldNot(
-            fill(context.say("'{}': no such element; elements are {} to {}",
-                             "'{}': kein solches Element; Elemente sind {} bis {}"),
-                 {printable(text), std::to_string(row.val_min_id), std::to_string(row.val_max_id)}));
-    return wanted;
-}
-
-void addItems(std::vector<Item>& items, const Wanted& wanted) {
-    const Parameter& parameter = *wanted.parameter;
-    const std::string name(parameter.name());
-    if (parameter.type().nature == Nature::record) {
-        for (const auto& member : reference::members(parameter))
-            items.push_back(
-                {fill("{}.{}", {name, member.aszMemberName}), &parameter, parameter.row().id, &member});
-    } else if (parameter.isIndexed()) {
-        for (int k = wanted.first; k <= wanted.last; ++k)
-            items.push_back(
-                {fill("{} {}", {name, std::to_string(k)}), &parameter, parameter.row().id + k - 1});
-    } else {
-        items.push_back({name, &parameter, parameter.row().id});
-    }
 }
 
 std::string timeOfDay() {
@@ -117,108 +44,181 @@ std::string timeOfDay() {
     return std::string(text) + milliseconds;
 }
 
-// Texts come in quotes and keep them; a quote inside is doubled.
-std::string csvCell(const std::string& text) {
-    const bool isText = text.size() > 1 && text.starts_with('"');
-    if (!isText && text.find_first_of(",\"") == text.npos) return text;
-    std::string cell = "\"";
-    for (const char c : isText ? text.substr(1, text.size() - 2) : text)
-        cell.append(c == '"' ? 2 : 1, c);
-    return cell + '"';
-}
-
-void printCsv(const std::string& first, const std::vector<std::string>& cells) {
-    std::string line = first;
-    for (const std::string& cell : cells)
-        line += fill(",{}", {csvCell(cell)});
-    print(line + "\n");
-}
-
 // The moments of the looks. Those that went by while the program or the machine was stopped are left out.
 class Pace {
 public:
     explicit Pace(double seconds)
         : period(std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds))) {}
 
-    // False when it is stopped.
-    bool wait() {
+    std::chrono::steady_clock::time_point next() {
         const auto now = Clock::now();
-        next += period;
-        if (next < now) next += (now - next) / period * period;
-        const auto left = std::chrono::duration_cast<std::chrono::nanoseconds>(next - now).count();
-        if (left <= 0) return stopRequested == 0;
-        const timespec pause{static_cast<time_t>(left / 1000000000), static_cast<long>(left % 1000000000)};
-        return nanosleep(&pause, nullptr) == 0 || stopRequested == 0;
+        moment += period;
+        if (moment < now) moment += (now - moment) / period * period;
+        return moment;
     }
 
 private:
     using Clock = std::chrono::steady_clock;
     const Clock::duration period;
-    Clock::time_point next = Clock::now();
+    Clock::time_point moment = Clock::now();
 };
 
-class Screen {
-public:
-    Screen(const std::vector<Item>& shownItems, const Context& person) : items(shownItems), context(person) {}
+// Texts come in quotes and keep them; a quote inside is doubled.
+std::string csvCell(const std::string& text, char separator) {
+    const bool isText = text.size() > 1 && text.starts_with('"');
+    if (!isText && text.find(separator) == text.npos && text.find('"') == text.npos) return text;
+    std::string cell = "\"";
+    for (const char c : isText ? text.substr(1, text.size() - 2) : text)
+        cell.append(c == '"' ? 2 : 1, c);
+    return cell + '"';
+}
 
-    // In place on a terminal, one block below the other elsewhere.
-    void show(const std::vector<std::string>& values) {
-        const Paint paint;
-        Table table;
-        for (std::size_t k = 0; k < items.size(); ++k) {
-            const bool changed = !before.empty() && before[k] != values[k];
-            const std::string text = values[k] + (items[k].member != nullptr ? "" : unit(items[k]));
-            table.add({changed ? "*" : "", items[k].label, changed ? paint.changed(text) : text,
-                       items[k].parameter->title(context.language)});
-        }
-        const bool inPlace = isForTerminal();
-        std::string text = timeOfDay() + "\n" + table.text();
-        if (inPlace && !before.empty()) print(fill("\033[{}A", {std::to_string(items.size() + 1)}));
-        if (inPlace)
-            for (std::size_t at = 0; (at = text.find('\n', at)) != text.npos; at += 4)
-                text.insert(at, "\033[K");
-        print(text);
+// Least and greatest value so far.
+struct Extremes {
+    std::optional<double> least, most;
+
+    void add(const std::optional<Value>& value) {
+        if (!value || value->isText() || std::isnan(value->number())) return;
+        least = std::min(least.value_or(value->number()), value->number());
+        most = std::max(most.value_or(value->number()), value->number());
+    }
+};
+
+class Watch {
+public:
+    Watch(const Options& wanted, std::vector<Watched> shown, const Context& person)
+        : options(wanted), items(std::move(shown)), context(person), extremes(items.size()) {}
+
+    void begin() const {
+        if (!options.csv) return;
+        std::vector<std::string> labels;
+        for (const Watched& item : items)
+            labels.push_back(item.label);
+        printRow(context.say("time", "Zeit"), labels);
+    }
+
+    void look() {
+        values.clear();
+        for (const Watched& item : items)
+            values.push_back(item.value());
+        for (std::size_t k = 0; k < items.size(); ++k)
+            extremes[k].add(values[k]);
+        moment = timeOfDay();
+        if (options.csv)
+            printRow(moment, textsOf(values));
+        else
+            show();
         before = values;
     }
 
-private:
-    const std::vector<Item>& items;
-    const Context& context;
-    std::vector<std::string> before;
+    // What is on the screen, after it was scrolled.
+    void show() {
+        const Paint paint;
+        std::vector<std::vector<std::string>> rows;
+        for (std::size_t k = 0; k < items.size(); ++k) {
+            const bool changed =
+                !items[k].isMeasured() && !before.empty() && !sameValue(before[k], values[k]);
+            const std::string text = items[k].shortText(values[k], context);
+            rows.push_back({changed ? "*" : "", items[k].label, changed ? paint.changed(text) : text});
+            if (options.minMax) rows.back().push_back(extremeText(k));
+            rows.back().push_back(items[k].title);
+        }
+        screen.show(moment, rows);
+    }
 
-    static std::string unit(const Item& item) {
-        const std::string text = item.parameter->unit();
-        return text.empty() ? text : " " + text;
+    // False when it is to end.
+    bool pause(Pace& pace) {
+        const auto next = pace.next();
+        for (;;) {
+            const auto woken = screen.waitUntil(next);
+            if (stopRequested != 0 || woken == Screen::Woken::end) return false;
+            if (woken == Screen::Woken::moment) return true;
+            show();
+            std::fflush(stdout);
+        }
+    }
+
+    void end() const {
+        if (!options.csv || !options.minMax) return;
+        for (const bool isMost : {false, true}) {
+            std::vector<std::optional<Value>> ends;
+            for (const Extremes& extreme : extremes) {
+                const auto& number = isMost ? extreme.most : extreme.least;
+                ends.push_back(number ? std::optional(Value(*number)) : std::nullopt);
+            }
+            printRow(isMost ? "max" : "min", textsOf(ends));
+        }
+    }
+
+private:
+    const Options& options;
+    const std::vector<Watched> items;
+    const Context& context;
+    Screen screen{!options.csv, context};
+    std::string moment;
+    std::vector<std::optional<Value>> values, before;
+    std::vector<Extremes> extremes;
+
+    std::string extremeText(std::size_t k) const {
+        if (!extremes[k].least) return {};
+        const auto text = [&](double number) { return items[k].shortText(Value(number), context); };
+        return text(*extremes[k].least) + " .. " + text(*extremes[k].most);
+    }
+
+    std::vector<std::string> textsOf(const std::vector<std::optional<Value>>& all) const {
+        std::vector<std::string> texts;
+        for (std::size_t k = 0; k < all.size(); ++k) {
+            texts.push_back(items[k].plainText(all[k]));
+            if (options.decimalComma && all[k] && !all[k]->isText())
+                std::ranges::replace(texts.back(), '.', ',');
+        }
+        return texts;
+    }
+
+    void printRow(const std::string& first, const std::vector<std::string>& cells) const {
+        const char separator = options.decimalComma ? ';' : ',';
+        std::string line = first;
+        for (const std::string& cell : cells)
+            line += separator + csvCell(cell, separator);
+        print(line + "\n");
     }
 };
 
-Status run(const Options& options, const Context& context) {
-    std::vector<Item> items;
+std::vector<Watched> watchedBy(Options& options, const std::optional<Condition>& until,
+                               const Context& context) {
+    options.filter.check(context);
+    std::vector<Watched> items;
     for (const std::string& name : options.names)
-        addItems(items, wantedBy(name, context));
+        std::ranges::move(tool::watchedBy(name, context), std::back_inserter(items));
+    if (!options.filter.isEmpty())
+        for (const Parameter& parameter : reference::parameters())
+            if (options.filter.accepts(parameter)) addWatched(items, parameter, context);
+    if (until && items.empty()) items.push_back(until->watched());
+    if (items.empty())
+        throw CouldNot(context.say("nothing to watch: give names, --family or --method",
+                                   "nichts zu beobachten: Namen, --family oder --method angeben"));
+    return items;
+}
+
+Status run(Options& options, const Context& context) {
+    std::optional<Condition> until;
+    if (!options.until.empty()) until.emplace(options.until, context);
+    auto items = watchedBy(options, until, context);
     attachDevice(Attachment::readOnly, context);
     std::signal(SIGINT, requestStop);
     std::signal(SIGTERM, requestStop);
-    std::vector<std::string> labels;
-    labels.reserve(items.size());
-    for (const Item& item : items)
-        labels.push_back(item.label);
-    if (options.csv) printCsv(context.say("time", "Zeit"), labels);
-    Screen screen(items, context);
+    Watch watch(options, std::move(items), context);
     Pace pace(options.period);
-    for (long k = 0; options.count == 0 || k < options.count; ++k) {
-        if (k > 0 && !pace.wait()) break;
-        std::vector<std::string> values;
-        values.reserve(items.size());
-        for (const Item& item : items)
-            values.push_back(valueText(item));
-        if (options.csv)
-            printCsv(timeOfDay(), values);
-        else
-            screen.show(values);
+    watch.begin();
+    bool held = false;
+    for (long k = 0; !held && (options.count == 0 || k < options.count); ++k) {
+        if (k > 0 && !watch.pause(pace)) break;
+        watch.look();
+        held = until && until->holds();
         if (std::fflush(stdout) != 0) break;
     }
-    return kNothing;
+    watch.end();
+    return until && !held ? kFound : kNothing;
 }
 
 } // namespace
@@ -226,11 +226,18 @@ Status run(const Options& options, const Context& context) {
 void addWatch(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
     Subcommand command(app, "watch", "live values, renewed in place");
-    command.option("NAME", options->names, "names; 'NAME I' or 'NAME I.J' for elements").required();
+    command.option("NAME", options->names,
+                   "parameters, series (BAassign), patterns (U*_prim), records, members of records; 'NAME I' "
+                   "or 'NAME I.J' for elements");
+    options->filter.addTo(command);
+    command.option("--until", options->until,
+                   "end when this holds: 'U0_prim > 5'; exit status 1 if it ends before");
+    command.flag("--min-max", options->minMax, "also the least and the greatest value so far");
     command.option("--period", options->period, "seconds between two looks; 1 if not given")
         .inRange(0.01, 86400.0);
     command.option("--count", options->count, "end after so many looks");
     command.flag("--csv", options->csv, "one row a look, for spreadsheets");
+    command.flag("--decimal-comma", options->decimalComma, "CSV with decimal commas and semicolons");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 
