@@ -28,11 +28,11 @@ public:
      * Starts on a copy of `str`, split at any character of `delim`. With `returnTokens` each delimiter is
      * a token of its own, and a token ends before the next one is asked for: the character under its NUL
      * comes back then. Refused, leaving the old string, position and set in force: no buffer, `str` null or
-     * empty, `str` longer than the told buffer holds, `delim` longer than kMaxDelimiters.
+     * empty, `str` longer than the buffer holds, `delim` longer than kMaxDelimiters.
      */
     void SetString(char* str, const char* delim, BOOL returnTokens);
 
-    // True when another token follows; skips delimiters in front of it.
+    // True when another token follows; skips the delimiters before it.
     BOOL hasMoreTokens();
 
     // The next token, or null when none is left.
@@ -53,7 +53,7 @@ protected:
     BOOL retTokens;
 
 private:
-    // These lie in the padding behind retTokens.
+    // These lie in the padding after retTokens.
     char endedBy; // with retTokens: the character under the NUL that ended the last token
     unsigned short bufferSize;
 

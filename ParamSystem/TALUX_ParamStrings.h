@@ -55,7 +55,7 @@ TALUX_API int LoadDefParamStrings();
 /*
  * Replaces the working table by the texts of a tab-separated file, one text per line of at most 253
  * characters: symbol, language, type, group, item, "text". Empty lines are skipped. The first text takes the
- * place of row 0, which look-ups return for "not found"; the table ends behind the last one. The texts lie in
+ * place of row 0, which look-ups return for "not found"; the table ends after the last one. The texts lie in
  * the string space of the field reader, which the caller resets with Data_StringReset before. Returns 1; any
  * error prints its message to standard output and ends the process with exit status 2. Call it before any
  * look-up in a second thread.

@@ -29,7 +29,7 @@ enum ParamType : int {
 
 enum ParamAccess : int { kAccessNone = 0, kReadOnly = 1, kWriteOnly = 2, kReadWrite = 3 };
 
-// Stand for "no limit" in val_min and val_max.
+// Mean "no limit" in val_min and val_max.
 inline constexpr double kNoMin = -999999999.0;
 inline constexpr double kNoMax = 999999999.0;
 
@@ -55,7 +55,7 @@ struct stParamProperties {
     int userlevel;   // rights needed to write: 1, 2 or 3 (security parameters)
 };
 
-// A symbolic name and the id that it stands for.
+// A symbolic name and its id.
 struct stParamSymbol {
     int value;
     const char* name;
@@ -74,7 +74,7 @@ struct stParamSymbol {
 // menu order.
 extern TALUX_API const stParamProperties DefParamProperties[];
 
-// Rows of the working table behind the compiled-in ones, zero-filled.
+// Rows of the working table after the compiled-in ones, zero-filled.
 inline constexpr int kSpareParamRows = 98;
 
 /*

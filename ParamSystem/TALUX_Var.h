@@ -323,7 +323,7 @@ TALUX_API int VarINFRASTRUCTUREWLAN0(void);
 TALUX_API int VarStaticIPWLAN0_INFRASTRUCTURE(void);
 
 // Makes `DNS` the only name server of /etc/resolv.conf. 1 written, 0 nothing to do or no server at all (a
-// text with a line end, which the error stream tells).
+// text with a line end, which is reported on the error stream).
 TALUX_API int VarDNS(void);
 
 // Links /etc/localtime to the zone file `TIMEZONE`, or to UTC when there is none. Returns 1.

@@ -44,7 +44,7 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")
   target_compile_options(talux_compile INTERFACE -msse2 -mfpmath=sse)
 endif()
 
-# Dates behind 2038-01-19 need a time of 64 bits, which glibc has for 32-bit processors from 2.34 on.
+# Dates after 2038-01-19 need a time of 64 bits, which glibc has for 32-bit processors from 2.34 on.
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   include(CheckCXXSourceCompiles)
   set(talux_wide_time -D_TIME_BITS=64 -D_FILE_OFFSET_BITS=64)

@@ -29,7 +29,7 @@ else()
   set(talux_generator dictionary_generator)
 endif()
 
-# What did not change keeps its time; the stamp tells that the generator has run.
+# What did not change keeps its time; the stamp shows that the generator has run.
 add_custom_command(OUTPUT ${talux_generated}/stamp
   COMMAND ${talux_generator} ${talux_generated}
   COMMAND ${CMAKE_COMMAND} -E touch ${talux_generated}/stamp

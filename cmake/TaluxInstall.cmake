@@ -21,7 +21,7 @@ function(talux_install component)
   install(${ARGN} COMPONENT deb_${component} EXCLUDE_FROM_ALL)
 endfunction()
 
-# The library and what tells where it is. Components of the packages have the prefix deb_.
+# The library and the files that say where it is. Components of the packages have the prefix deb_.
 function(talux_install_library prefix libdir exclude)
   set(package_dir ${libdir}/cmake/talux_lua)
   set(work ${PROJECT_BINARY_DIR}/${prefix}install)

@@ -13,7 +13,7 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-# A field of its own that this CPack does not know; it stands behind the one before.
+# A field of its own that this CPack does not know; it follows the one before.
 set(CPACK_DEBIAN_PACKAGE_PRIORITY "optional\nMulti-Arch: same")
 
 set(CPACK_DEBIAN_DEB_RUNTIME_PACKAGE_NAME talux-lua)
@@ -46,7 +46,7 @@ The program talux for the person at the relay and at the desk: what a
 parameter means, what a file would change, what is pending, in what two relays
 differ, a record to sign, a shell for the command language.")
 
-# What every package tells of itself; the same bytes on every machine.
+# What every package says of itself; the same bytes on every machine.
 find_program(GZIP_PROGRAM gzip REQUIRED)
 execute_process(COMMAND ${GZIP_PROGRAM} -9nc ${PROJECT_SOURCE_DIR}/packaging/changelog
   OUTPUT_FILE ${PROJECT_BINARY_DIR}/changelog.gz COMMAND_ERROR_IS_FATAL ANY)

@@ -15,7 +15,7 @@ export TALUX_BUILD_DIR=$builds PATH=$PATH:/usr/sbin:/sbin
 if command -v ccache >/dev/null; then
   export CMAKE_C_COMPILER_LAUNCHER=${CMAKE_C_COMPILER_LAUNCHER-ccache}
   export CMAKE_CXX_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER-ccache}
-  export CCACHE_SLOPPINESS=pch_defines,time_macros # what it takes to cache behind a precompiled header
+  export CCACHE_SLOPPINESS=pch_defines,time_macros # what it takes to cache with a precompiled header
 fi
 scratch=$(mktemp -d)
 touch "$scratch/shown" # when something was shown

@@ -24,7 +24,7 @@ mapfile -t inside < <(git ls-files ParamSystem MenuSystem src | grep -v '^ParamS
 calls='system|popen|exec[lv]p?e?|posix_spawnp?|v?syslog|clock_settime|settimeofday|u?sleep|nanosleep'
 calls+='|socket|ioctl|fopen|remove|openat?|readlink(at)?|access|rename(at)?|unlink(at)?|f?l?chown|f?chmod|f?sync|flock'
 ! grep -nE "(^|[^a-zA-Z_>.])(::|std::)?($calls)\(" "${inside[@]}" || status=1
-# Nothing points back through the rooms: neither an include nor, since public headers stand for several rooms, a call.
+# Nothing points back through the rooms: neither an include nor, since public headers serve several rooms, a call.
 rooms=(ParamSystem/{support,os,dictionary,rules,store} MenuSystem ParamSystem/{texts,files,network,kepl} src)
 for room in "${!rooms[@]}"; do
   later=$(IFS='|'; echo "${rooms[*]:room+1}")

@@ -6,7 +6,7 @@
 # FILE is sourced: what it exports, another PATH for instance, holds for the rest. The device program is there,
 # with values in the store, before the command starts, and ends with it. It keeps its log in /tmp/device.log.
 # FILE of --scenario says what happens in its network. With --boot the parameter files that lie in the root are loaded over its defaults, without applying addresses.
-# The words stand before the device program when it is not for this processor.
+# The words precede the device program when it is not for this processor.
 set -eu
 
 device='' scenario=() boot='' emulator=() log=/tmp/device.log

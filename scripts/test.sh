@@ -90,7 +90,7 @@ packages() {
   return "$status"
 }
 
-# The device leaves the same bytes behind as this machine.
+# The device writes the same bytes as this machine.
 same_image() {
   quiet ctest --test-dir "$builds/build-release" -R '^device_image$' &&
     scripts/compare-images.sh "$builds/build-release" "$builds/build-$1" | tee -a "$results/notes"

@@ -94,8 +94,8 @@ template <typename Kind>
 int newArray(lua_State* L) {
     const lua_Integer size = luaL_checkinteger(L, 1);
     // The number itself, since the integer wraps around where it has 32 bits.
-    const lua_Number told = lua_tonumberx(L, 1, nullptr);
-    if (size < 0 || !(told > -1 && told <= Array<Kind>::kMaxSize))
+    const lua_Number asked = lua_tonumberx(L, 1, nullptr);
+    if (size < 0 || !(asked > -1 && asked <= Array<Kind>::kMaxSize))
         return luaL_argerror(L, 1, "size out of range");
     Array<Kind>::create(L, static_cast<std::int32_t>(size));
     return 1;
@@ -163,7 +163,7 @@ std::string_view textArgument(lua_State* L, int argument) {
     return {text != nullptr ? text : "", length};
 }
 
-// What stands in the place of the prefix is not looked at. A text with a NUL inside names nothing.
+// The characters of the prefix are not looked at. A text with a NUL inside names nothing.
 const stParamProperties* findBehindPrefix(std::string_view text) {
     if (text.size() < kepl::kPrefixLength) return nullptr;
     for (const char c : text.substr(0, kepl::kPrefixLength))

@@ -28,8 +28,8 @@ constexpr std::uint32_t hashIgnoringCase(std::string_view name) {
     return hash ^ hash >> 15;
 }
 
-// A hash table of table positions, filled by the generator. Position 0 is a sentinel and stands for "not
-// there"; nameAt(position) tells the name at a position.
+// A hash table of table positions, filled by the generator. Position 0 is a sentinel and means "not
+// there"; nameAt(position) is the name at a position.
 struct NameIndex {
     const std::uint16_t* slots;
     std::size_t mask; // number of slots, a power of two, less one

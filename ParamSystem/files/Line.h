@@ -9,9 +9,9 @@
 //             | '"' date '"' | '"' time '"'  of the system clock: YYYY-MM-DD, hh:mm:ss
 //
 // Addresses lie in ip_config.ini, other settings with userlevel 3 in sec_parameter.ini, the rest in
-// parameter.ini. What a reader takes beyond that is told in docs/files.md: comments (lines without the
+// parameter.ini. What a reader accepts beyond that is described in docs/files.md: comments (lines without the
 // prefix, and the rest of a value without quotes from "#", ";" or "//" on), blanks, values without quotes.
-// These do not come back as they were: digits behind the sixth decimal, a text behind a double quote or "=",
+// These do not come back as they were: digits after the sixth decimal, a text after a double quote or "=",
 // not-a-number in an integer, date and time.
 #ifndef TALUX_FILES_LINE_H
 #define TALUX_FILES_LINE_H

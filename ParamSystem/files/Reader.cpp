@@ -48,7 +48,7 @@ Tail tailAt(const char* rest) {
     return beginsComment(rest) ? Tail::comment : Tail::text;
 }
 
-// Where the value begins: behind the "=" signs, in front of which blanks may stand, or behind the one blank
+// Where the value begins: after the "=" signs, which blanks may precede, or after the one blank
 // that ended the key.
 char* valueBehind(char* key) {
     char* value = skipTo(key, [](char c) { return c != ' '; });
@@ -66,7 +66,7 @@ void takeQuoted(Entry& entry, char* value) {
     *end = '\0';
 }
 
-// Up to a comment or the end of the token; blanks in front of a comment belong to the value.
+// Up to a comment or the end of the token; blanks before a comment belong to the value.
 void takeBare(Entry& entry, char* value) {
     char* end = value;
     while (*end != '\0' && *end != '\r' && !endsToken(*end) && !beginsComment(end))

@@ -1,4 +1,4 @@
-// Reads parameter files line by line. docs/files.md tells their form, the writer in files/Line.h what is
+// Reads parameter files line by line. docs/files.md describes their form, the writer in files/Line.h what is
 // written.
 #ifndef TALUX_FILES_READER_H
 #define TALUX_FILES_READER_H
@@ -15,7 +15,7 @@ enum class LineForm {
     entry,
 };
 
-// What stands behind the value on its line and is not read.
+// What follows the value on its line and is not read.
 enum class Tail { nothing, comment, text };
 
 // One line. The texts are valid until the next one is read.
@@ -24,13 +24,13 @@ struct Entry {
     LineForm form = LineForm::nothing;
     char* name = nullptr;        // of an entry, without prefix
     const char* value = nullptr; // of an entry, without quotes and comment
-    bool hasValue = false;       // false: the line ends behind the key or behind "="; the value is empty
+    bool hasValue = false;       // false: the line ends after the key or after "="; the value is empty
     bool isQuoted = false;
     bool isClosed = false; // the closing quote is there
     Tail tail = Tail::nothing;
     bool continues = false; // the rest of a line that was too long for one read
     bool isCut = false;     // too long for one read: its rest is the next line
-    bool hasNul = false;    // what stands behind a NUL is not read
+    bool hasNul = false;    // what follows a NUL is not read
 };
 
 // Takes a line, which ends in a NUL, apart in place. Sets neither `line` nor the last three members.

@@ -95,7 +95,7 @@ private:
 // ---- The new file while it is being made ----
 
 // It lies beside the old one under one of a few names. Its maker holds the lock on it: a file of such a name
-// that nobody has locked was left behind when a program or the power failed.
+// that nobody has locked was left over when a program or the power failed.
 class Draft {
 public:
     explicit Draft(int in) : directory(in) {}
@@ -110,7 +110,7 @@ public:
     int get() const { return descriptor; }
     const struct stat& status() const { return made; }
 
-    // Clears away what was left behind. While other saves have all the names it waits for them.
+    // Clears away what was left over. While other saves have all the names it waits for them.
     bool make() {
         const std::int64_t end = os::monotonicMilliseconds() + kLongestWait;
         while (!claimFirst()) {
@@ -164,7 +164,7 @@ private:
         return false;
     }
 
-    // What saves that ran beside each other left behind, in whatever order they were ended.
+    // What concurrent saves left over, in whatever order they were ended.
     void clearBehind() const {
         for (Name left = name; ++left[kNumber] < kEnd;)
             clear(left);
@@ -264,7 +264,7 @@ std::optional<Replacement> replaceWhole(const char* path, std::string_view conte
 // Over the old contents. What goes beyond them comes first, so that a full disk takes nothing of them.
 Replacement writeOver(int file, std::string_view contents, off_t oldSize) {
     const std::size_t shared = std::min(contents.size(), static_cast<std::size_t>(oldSize));
-    if (!os::writeFile(file, behind(contents, shared), oldSize)) {
+    if (!os::writeFile(file, after(contents, shared), oldSize)) {
         const Replacement failed = failure(Written::notWritten, "write");
         os::cutFile(file, oldSize);
         return failed;

@@ -27,7 +27,7 @@ TermResult runCommand(const Decision& decision, const char* iniPath, char* txt) 
     copyText(txt, kKeplTextSize, result == 1 ? row.success : row.failure);
     if (row.isLogged)
         os::logInfo(" %.*s %s", static_cast<int>(decision.term.size()), decision.term.data(), txt);
-    return says(Says::text);
+    return answering(Output::text);
 }
 
 } // namespace talux::kepl

@@ -104,7 +104,7 @@ Decision decideOther(std::string_view term, int uid, int board) {
 } // namespace
 
 Decision decide(std::string_view term, int uid, int board) {
-    return hasPrefix(term) ? decideVariable(behind(term, kPrefixLength), uid) : decideOther(term, uid, board);
+    return hasPrefix(term) ? decideVariable(after(term, kPrefixLength), uid) : decideOther(term, uid, board);
 }
 
 bool hasPrefix(std::string_view term) {

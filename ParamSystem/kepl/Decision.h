@@ -56,7 +56,7 @@ static_assert(hasRowForEach<&StyleRow::style>(kStyles), "each enumerator has its
 // The parts of a variable term, NAME [INDEX[.INDEX]] [OPTION] [= VALUE]. The texts are parts of the term.
 struct VariableTerm {
     std::string_view name = "???";         // stays when there is none
-    std::optional<std::string_view> value; // what stands right of "=", without leading blanks; none: a read
+    std::optional<std::string_view> value; // what follows "=", without leading blanks; none: a read
     Style style = Style::plain;
     int indices = 0; // how many were given, 0 to 2
     bool indicesAreNumbers = true;
@@ -93,9 +93,9 @@ struct Decision {
     bool isAnswer() const { return refusal == Refusal::rightsTooLow && !isVariable; }
 };
 
-// The next term of a line, false when none is left. Terms stand between commas. Of each the first
+// The next term of a line, false when none is left. Commas separate terms. Of each the first
 // kKeplMaxTerm characters count, without the blanks that lead them, so a term may be empty. `rest` is left
-// with what follows the term; what is cut off stands between the two.
+// with what follows the term; what is cut off lies between the two.
 inline bool takeTerm(std::string_view& rest, std::string_view& term) {
     const std::string_view piece = takeWord(rest, ',');
     term = withoutLeading(piece.substr(0, kKeplMaxTerm), ' ');

@@ -10,26 +10,26 @@ namespace talux::kepl {
 
 namespace {
 
-// A literal number leaves what the line says to other terms.
+// A literal number leaves the answer to other terms.
 TermResult push(double number, ValueStack& stack) {
-    return {stack.push({number, kTypeDouble}).refusal, Says::unchanged};
+    return {stack.push({number, kTypeDouble}).refusal, Output::keep};
 }
 
 // A number that is read is pushed.
 TermResult carryOutVariable(const Decision& decision, char* txt, ValueStack& stack) {
     std::optional<TypedNumber> value;
     const TermResult result = accessVariable(decision, txt, value);
-    return result.says == Says::value ? stack.push(*value) : result;
+    return result.output == Output::topOfStack ? stack.push(*value) : result;
 }
 
 } // namespace
 
 Refusal Evaluation::take(const Decision& decision) {
     const TermResult result = carryOut(decision);
-    if (result.refusal != Refusal::none || result.says == Says::unchanged) return result.refusal;
-    output = result.says;
+    if (result.refusal != Refusal::none || result.output == Output::keep) return result.refusal;
+    output = result.output;
     // A text that was read stays in the result should a later term fail.
-    if (decision.isVariable && output == Says::text) copyText(caller.result, kKeplTextSize, txt);
+    if (decision.isVariable && output == Output::text) copyText(caller.result, kKeplTextSize, txt);
     return Refusal::none;
 }
 
@@ -59,17 +59,17 @@ TermResult Evaluation::carryOut(const Decision& decision) {
 
 Refusal Evaluation::finish() {
     switch (output) {
-    case Says::done:
+    case Output::terminator:
         answer("");
         return Refusal::none;
-    case Says::text:
+    case Output::text:
         answer(txt);
         return Refusal::none;
-    case Says::nothing:
+    case Output::empty:
         *caller.result = '\0';
         return Refusal::none;
-    case Says::unchanged:
-    case Says::value:
+    case Output::keep:
+    case Output::topOfStack:
         break;
     }
     if (stack.count == 0) return Refusal::syntaxError;

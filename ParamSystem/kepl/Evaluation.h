@@ -19,10 +19,10 @@ public:
     Evaluation(const LineCaller& lineCaller, const char* directory)
         : caller(lineCaller), iniPath(directory) {}
 
-    // Carries one term out, or tells why not.
+    // Carries one term out, or returns why not.
     Refusal take(const Decision& decision);
 
-    // Writes the answer when no term is left, or tells why there is none.
+    // Writes the answer when no term is left, or returns why there is none.
     Refusal finish();
 
     // Writes this text as the answer.
@@ -31,9 +31,9 @@ public:
 private:
     LineCaller caller;
     const char* iniPath;
-    Says output = Says::value; // the last term that had a say decides
+    Output output = Output::topOfStack; // the last term that does not keep it decides
     ValueStack stack;
-    char txt[kKeplTextSize]; // what a term says
+    char txt[kKeplTextSize]; // the text of a term
 
     TermResult carryOut(const Decision& decision);
 };

@@ -6,13 +6,13 @@
 
 namespace talux::kepl {
 
-// What the answer of a line becomes by a term, unless a later one has a say.
-enum class Says : unsigned char {
-    unchanged,
-    value,   // the top of the stack at the end of the line
-    text,    // the text that the term has left
-    done,    // the terminator alone
-    nothing, // the empty text
+// What a term makes of the answer of its line; a later one may change it.
+enum class Output : unsigned char {
+    keep,       // what it was
+    topOfStack, // the top of the stack at the end of the line
+    text,       // the text that the term has left
+    terminator, // alone
+    empty,
 };
 
 // A number with its type code.
@@ -24,15 +24,15 @@ struct TypedNumber {
 // What carrying a term out came to.
 struct TermResult {
     Refusal refusal = Refusal::none;
-    Says says = Says::unchanged;
+    Output output = Output::keep;
 };
 
 constexpr TermResult refused(Refusal refusal) {
-    return {refusal, Says::unchanged};
+    return {refusal, Output::keep};
 }
 
-constexpr TermResult says(Says what) {
-    return {Refusal::none, what};
+constexpr TermResult answering(Output output) {
+    return {Refusal::none, output};
 }
 
 struct ValueStack {
@@ -45,7 +45,7 @@ struct ValueStack {
         values[count] = value.number;
         types[count] = value.type;
         ++count;
-        return says(Says::value);
+        return answering(Output::topOfStack);
     }
 };
 
@@ -54,9 +54,9 @@ void log(const Decision& decision);
 
 TermResult compute(Operation operation, ValueStack& stack);
 
-// Each of these leaves a text in `txt`, which has kKeplTextSize bytes, if that is what the term says.
+// Each of these leaves a text in `txt`, which has kKeplTextSize bytes, if that is the answer of the term.
 
-// `value`: the number that is read, if the term says a value. Of other terms the last element that they read
+// `value`: the number that is read, if the term answers one. Of other terms the last element that they read
 // or the type of a text, which a caller of ProcessCommand finds beside the answer; none where the term leaves
 // nothing.
 TermResult accessVariable(const Decision& decision, char* txt, std::optional<TypedNumber>& value);

@@ -44,7 +44,7 @@ int KEPL_Interpreter::GetResult(char* expression, fnDataOut DataOut, char* resul
     const std::size_t length = strnlen(expression, sizeof strTokenBuffer);
     if (length > kKeplMaxLine) return fail(szError, Refusal::syntaxError);
 
-    // A copy: the answer or an output function may write where the line stands.
+    // A copy: the answer or an output function may write over the line.
     std::memcpy(strTokenBuffer, expression, length + 1);
     std::string_view rest(strTokenBuffer, length);
     kepl::Evaluation evaluation({DataOut != nullptr ? DataOut : discard, result, terminator}, szIniPath);
@@ -92,6 +92,6 @@ int KEPL_Interpreter::ProcessCommand(const char* theCommand, char* txt, double* 
         aiType[*iSP] = value->type;
     }
     if (result.refusal != Refusal::none) return fail(szError, result.refusal);
-    if (result.says == kepl::Says::value && !isPlace) return fail(szError, Refusal::syntaxError);
+    if (result.output == kepl::Output::topOfStack && !isPlace) return fail(szError, Refusal::syntaxError);
     return decision.variable.value ? 0 : 1;
 }

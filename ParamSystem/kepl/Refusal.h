@@ -5,7 +5,7 @@
 namespace talux::kepl {
 
 enum class Refusal : unsigned char {
-    none, // nothing stands against it
+    none, // it is not refused
     indexNotANumber,
     syntaxError,
     indexRequired,
@@ -28,7 +28,7 @@ enum class Refusal : unsigned char {
     typeUnknown,
 };
 
-// What the caller is told, in the language in use.
+// What the caller reads, in the language in use.
 const char* textOf(Refusal refusal);
 
 } // namespace talux::kepl

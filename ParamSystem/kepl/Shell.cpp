@@ -48,13 +48,13 @@ void streamOutput(const char* command, fnDataOut dataOut, char* terminator) {
 TermResult runShellTerm(const Decision& decision, fnDataOut dataOut, char* terminator, char* txt) {
     if (decision.action == Action::askForShell) {
         copyText(txt, kKeplTextSize, "command required\n");
-        return says(Says::text);
+        return answering(Output::text);
     }
     char command[kKeplMaxTerm + 1];
     copyText(command, decision.words);
     if (decision.action == Action::endProcess) endProcess(command);
     streamOutput(command, dataOut, terminator);
-    return says(Says::nothing);
+    return answering(Output::empty);
 }
 
 } // namespace talux::kepl

@@ -56,10 +56,10 @@ public:
             QuotedText quoted;
             answer.append({quote(quoted, row, row.id)});
             leave(0.0);
-            return says(Says::text);
+            return answering(Output::text);
         }
         leave(numberOf(row, row.id));
-        return says(Says::value);
+        return answering(Output::topOfStack);
     }
 
     TermResult readRecord() {
@@ -77,7 +77,7 @@ public:
             if (refusal != Refusal::none) return refused(refusal);
             position += static_cast<VarLong>(memberSize);
         }
-        return says(Says::text);
+        return answering(Output::text);
     }
 
     TermResult readElements() {
@@ -88,7 +88,7 @@ public:
             const Refusal refusal = dumpElement(index, decision.id + static_cast<int>(index - first));
             if (refusal != Refusal::none) return refused(refusal);
         }
-        return says(Says::text);
+        return answering(Output::text);
     }
 
     TermResult write() {
@@ -97,7 +97,7 @@ public:
             VarSetSystemIPs();
             leave(0.0);
         }
-        return says(Says::done);
+        return answering(Output::terminator);
     }
 
     TermResult setClock() {
@@ -107,7 +107,7 @@ public:
         os::setClock(seconds);
         os::runShell("hwclock --systohc --utc --noadjfile");
         leave(0.0);
-        return says(Says::done);
+        return answering(Output::terminator);
     }
 
 private:
@@ -135,7 +135,7 @@ private:
             const std::string_view text = quote(quoted, row, id);
             leave(0.0);
             return show(style,
-                        {" ", label.view(), text, behind(text.substr(0, text.size() - 1), 1), index == 1});
+                        {" ", label.view(), text, after(text.substr(0, text.size() - 1), 1), index == 1});
         }
         const double number = numberOf(row, id);
         leave(number);

@@ -32,7 +32,7 @@ void takeIndices(std::string_view word, VariableTerm& parts) {
     if (parts.indices == 1) parts.last = parts.first;
 }
 
-// What may stand behind the name: an option or an index, then an option.
+// What may follow the name: an option or an index, then an option.
 void takeSecondAndThird(std::string_view second, std::string_view third, VariableTerm& parts) {
     if (second.starts_with('-'))
         takeOption(second, parts.style);
@@ -60,7 +60,7 @@ void takeParts(std::string_view term, VariableTerm& parts) {
 
 // ---- Checks -------------------------------------------------------------------------------------------
 
-// Each check is true when nothing stands against the term, and otherwise names the refusal: the first one of
+// Each check is true when it allows the term, and otherwise names the refusal: the first one of
 // read() or write() that fails decides.
 class Checks {
 public:
@@ -83,7 +83,7 @@ private:
 
     const stParamProperties& row() const { return *decision.row; }
 
-    // Whether it holds; if not, that is what stands against the term.
+    // Whether it holds; if not, that is the refusal.
     bool demand(bool holds, Refusal refusal) {
         if (!holds) decision.refusal = refusal;
         return holds;
@@ -154,7 +154,7 @@ private:
         return numberFits();
     }
 
-    // Three numbers, whatever they are; they may stand in double quotes.
+    // Three numbers, whatever they are; double quotes may enclose them.
     bool clockFits(char separator) {
         std::string_view rest = *parts.value;
         const auto takeNumber = [&](VarLong& number) {

@@ -19,11 +19,11 @@ constexpr std::string_view withoutLeading(std::string_view text, char delimiter)
 constexpr std::string_view takeWord(std::string_view& rest, char delimiter) {
     const std::string_view text = withoutLeading(rest, delimiter);
     const std::string_view word = text.substr(0, text.find(delimiter));
-    rest = behind(text, word.size());
+    rest = after(text, word.size());
     return word;
 }
 
-// The same with a set of delimiters, told by a function.
+// The same with a set of delimiters, given by a function.
 template <typename IsDelimiter>
 constexpr std::string_view takeWordOf(std::string_view& rest, IsDelimiter isDelimiter) {
     const char* const start = std::find_if_not(rest.begin(), rest.end(), isDelimiter);

@@ -11,7 +11,7 @@
 namespace talux::network {
 
 // A stored text as the shell takes it for one word, whatever it holds; an empty one is none. A text of
-// nothing but letters, umlauts too, digits and @%_+=:,./-!^, with # and ~ after its beginning, stands as it
+// nothing but letters, umlauts too, digits and @%_+=:,./-!^, with # and ~ after its beginning, stays as it
 // is, any other in single quotes.
 class ShellWord {
 public:

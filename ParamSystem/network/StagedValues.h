@@ -22,7 +22,7 @@ AddressText addressSetting(int id);
 
 AddressText normalised(const AddressText& address);
 
-// True for a stored address that stands for "none": empty or all zero in one of its two usual forms.
+// True for a stored address that means "none": empty or all zero in one of its two usual forms.
 bool isUnset(const AddressText& address);
 
 } // namespace talux::network

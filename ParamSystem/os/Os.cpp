@@ -50,7 +50,7 @@ namespace {
 
 constexpr unsigned kFnvPrime = 16777619;
 
-// Which zone the process is told to live in: the text of TZ, or without one the zone file as it is now.
+// The time zone of the process: the text of TZ, or without one the zone file as it is now.
 unsigned zoneFingerprint() {
     unsigned print = 2166136261;                // FNV-1a
     if (const char* zone = std::getenv("TZ")) { // NOLINT(concurrency-mt-unsafe): as localtime itself
@@ -76,7 +76,7 @@ bool localTime(std::tm& now) {
     const std::time_t seconds = std::time(nullptr);
     followTimeZone();
     if (localtime_r(&seconds, &now) != nullptr) return true;
-    now = std::tm{}; // a failed conversion may leave parts behind
+    now = std::tm{}; // a failed conversion may leave some fields set
     return false;
 }
 

@@ -1,4 +1,4 @@
-// The change flags: global bool parameters that tell the device's other programs to look again. The store
+// The change flags: global bool parameters that ask the device's other programs to look again. The store
 // raises them and never takes them back.
 #ifndef TALUX_STORE_CHANGEFLAGS_H
 #define TALUX_STORE_CHANGEFLAGS_H

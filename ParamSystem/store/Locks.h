@@ -18,7 +18,7 @@ extern pthread_mutex_t tempLocks[kTempLockCount];
 // Creates the locks. A failure prints the system error and ends the process with status 1.
 void createLocks();
 
-// Prints the system error behind `what` and ends the process with status 1.
+// Prints the system error after `what` and ends the process with status 1.
 [[noreturn]] void setUpFailed(const char* what);
 
 // Holds the lock of one kind and space for the life of the object.

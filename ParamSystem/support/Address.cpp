@@ -13,7 +13,7 @@ namespace talux {
 
 namespace {
 
-// The number that leads the next piece; moves `text` behind it.
+// The number that leads the next piece; moves `text` past it.
 int takePiece(const char*& text) {
     text += std::strspn(text, ".");
     const long number = std::strtol(text, nullptr, 10);

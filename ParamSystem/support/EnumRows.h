@@ -1,4 +1,4 @@
-// Tables whose rows belong to the enumerators of an enumeration: all that is known of one stands in its row.
+// Tables whose rows belong to the enumerators of an enumeration: a row holds all that is known of one.
 #ifndef TALUX_SUPPORT_ENUMROWS_H
 #define TALUX_SUPPORT_ENUMROWS_H
 
@@ -8,7 +8,7 @@
 
 namespace talux {
 
-// Whether an enumerator has this value: the compiler names it, and spells a cast when there is none.
+// Whether an enumerator has this value: the compiler names it, and writes a cast when there is none.
 template <auto value>
 consteval bool isEnumerator() {
     const std::string_view text = __PRETTY_FUNCTION__;

@@ -59,15 +59,15 @@ std::size_t formatFixedPoint(char (&dest)[kFixedPointSize], double number, int d
     if (!split(std::fabs(number), parts))
         return static_cast<std::size_t>(formatText(dest, sizeof dest, "%.*f", decimals, number));
 
-    const std::uint32_t behind = decimals == 0 ? 0 : millionths(parts.fraction);
-    parts.whole +=
-        decimals == 0 ? roundedUp(parts.whole, parts.fraction, std::uint64_t{1} << 62) : behind / kMillion;
+    const std::uint32_t decimalPart = decimals == 0 ? 0 : millionths(parts.fraction);
+    parts.whole += decimals == 0 ? roundedUp(parts.whole, parts.fraction, std::uint64_t{1} << 62)
+                                 : decimalPart / kMillion;
     char* end = dest;
     if (std::signbit(number)) *end++ = '-';
     end = std::to_chars(end, std::end(dest), parts.whole).ptr;
     if (decimals != 0) {
         *end++ = '.';
-        end = appendMillionths(end, behind % kMillion);
+        end = appendMillionths(end, decimalPart % kMillion);
     }
     *end = '\0';
     return static_cast<std::size_t>(end - dest);

@@ -20,7 +20,7 @@ std::string_view firstWord(std::string_view text) {
     std::size_t start = 0;
     while (start < text.size() && text[start] == ' ')
         ++start;
-    return behind(text.substr(0, text.find(' ', start)), start);
+    return after(text.substr(0, text.find(' ', start)), start);
 }
 
 // `convert` is the C library's conversion of a whole word.
@@ -73,7 +73,7 @@ bool parsePlain(std::string_view text, double* value) {
     const bool isNegative = place != end && *place == '-';
     std::int64_t digits = 0;
     int count = 0;
-    int whole = -1; // digits in front of the point, once it has come
+    int whole = -1; // digits before the point, once it has come
     for (place += isNegative; place != end && *place != ' '; ++place) {
         const int digit = *place - '0';
         if (digit >= 0 && digit <= 9 && count < kExactDigits) {

@@ -18,7 +18,7 @@ void copyText(char (&dest)[N], std::string_view text) {
 
 // What follows the first `length` characters, which are there. substr() would ask for the C++ library, which
 // throws where they are not.
-constexpr std::string_view behind(std::string_view text, std::size_t length) {
+constexpr std::string_view after(std::string_view text, std::size_t length) {
     text.remove_prefix(length);
     return text;
 }

@@ -47,7 +47,7 @@ int findFrom(int row, const Wanted& wanted, int language) {
     return kNotFound;
 }
 
-// Among the rows with one id from `row` on, and in those behind the compiled-in texts.
+// Among the rows with one id from `row` on, and in those after the compiled-in texts.
 int findNear(int row, const Wanted& wanted, int language) {
     for (; isInUse(row) && ParamText[row].id == wanted.id; ++row)
         if (wanted.matches(ParamText[row], language)) return row;
