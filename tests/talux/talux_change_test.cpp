@@ -105,6 +105,7 @@ TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
         }
     }
     EXPECT_GE(cases, 30);
+    std::filesystem::remove("/tmp/ntp.conf"); // of the addresses that were applied
 }
 
 TEST_F(TaluxChange, AsksBeforeItWrites) {
@@ -141,6 +142,49 @@ TEST_F(TaluxChange, UndoAndDiscardKnowWhatOthersChanged) {
     EXPECT_EQ(value("Uearth"), "36.000000");
     EXPECT_EQ(talux("discard --yes").status + talux("discard").status, 0);
     EXPECT_EQ(talux("undo " + write("none", "TLX_Uearth=35\n") + " --yes").status, 2);
+}
+
+TEST_F(TaluxChange, WhatWasComesBackAndAnotherRelayKeepsItsOwn) {
+    const auto saveAs = [this](const std::string& name, const std::string& settings) {
+        EXPECT_EQ(talux("set --yes --live " + settings).status, 0);
+        std::string path = directory / name;
+        VarSaveParamFile(path.data());
+    };
+    saveAs("param_2024_01_02_030405.ini", "Uearth=31");
+    saveAs("param_2024_01_02_030406.ini", "Uearth=32 Name=Nord");
+    saveAs("param_2024_05_06_070809.ini", "Uearth=33");
+    saveAs("parameter.ini", "Uearth=34 Abg=x knuV1=5");
+    write("param_2024_06_01_000000.ini", "TLX_Uearth=77\n"); // torn
+    EXPECT_EQ(run("talux --directory " + directory.string() +
+                  " history | sed 's/ [^ ]*param/ param/' | cut -c12- | head -4")
+                  .output,
+              "03:04:05  param_2024_01_02_030405.ini  0 changes\n"
+              "03:04:06  param_2024_01_02_030406.ini  2 changes\n"
+              "07:08:09  param_2024_05_06_070809.ini  1 change\n"
+              "00:00:00  param_2024_06_01_000000.ini  1 change\n");
+    const std::pair<const char*, const char*> kMoments[] = {{"2024-01-02", "32"},
+                                                            {"'2024-01-02 03:04:05'", "31"},
+                                                            {"-4", "31"},
+                                                            {"yesterday", "33"},
+                                                            {"2024-06-05", "33"}};
+    for (const auto& [when, threshold] : kMoments) {
+        EXPECT_EQ(talux(std::string("restore --yes ") + when).status, 0);
+        EXPECT_EQ(value("Uearth"), threshold + std::string(".000000")) << when;
+    }
+    EXPECT_EQ(talux("restore 2023-12-31 --yes").status, 2);
+
+    std::filesystem::create_directory(directory / "neighbour");
+    std::filesystem::rename(directory / "parameter.ini", directory / "neighbour/parameter.ini");
+    reset();
+    const std::string neighbour = directory / "neighbour";
+    EXPECT_EQ(talux("clone --yes " + neighbour).status, 0);
+    EXPECT_EQ(value("Uearth") + value("Name") + value("Abg") + value("knuV1"),
+              "34.000000\"DEF-NAME\"\"DEF-ABG\"201.000000");
+    const auto digest = [this](const std::string& of) {
+        return talux("fingerprint --file parameter " + of).output.substr(0, 64);
+    };
+    EXPECT_EQ(digest("staged --shared"), digest(neighbour + " --shared"));
+    EXPECT_NE(digest("staged"), digest(neighbour));
 }
 
 TEST_F(TaluxChange, APlanOfAllSettingsTakesATenthOfASecond) {

@@ -64,6 +64,9 @@ void addSet(CLI::App& app, Commands& commands);
 void addApply(CLI::App& app, Commands& commands);
 void addUndo(CLI::App& app, Commands& commands);
 void addDiscard(CLI::App& app, Commands& commands);
+void addHistory(CLI::App& app, Commands& commands);
+void addRestore(CLI::App& app, Commands& commands);
+void addClone(CLI::App& app, Commands& commands);
 
 } // namespace talux::tool
 

@@ -396,8 +396,7 @@ void explain(const std::string& name, const Context& context) {
 
 void addExplain(CLI::App& app, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "explain",
-                       "what a name, an id, a choice or a word means");
+    Subcommand command(app, "explain", "what a name, an id, a choice or a word means");
     command
         .option("NAME|WORD", options->words,
                 "names of parameters, series (BAassign) or members of records (MessRecord01.U1p), ids, "

@@ -8,7 +8,8 @@
 
 namespace talux::tool {
 
-// Prints what the parameter is, with its values on the device where there is one. Throws CouldNot for an unknown name.
+// Prints what the parameter is, with its values on the device where there is one. Throws CouldNot for an
+// unknown name.
 void explain(const std::string& name, const Context& context);
 
 } // namespace talux::tool

@@ -19,6 +19,7 @@ struct Options {
     std::string source = "live";
     std::string file;
     bool listing = false;
+    bool shared = false;
 };
 
 reference::File fileCalled(const std::string& name, const Context& context) {
@@ -40,7 +41,7 @@ std::string withoutMinusZero(std::string form) {
 
 Status run(const Options& options, const Context& context) {
     const Source source = Source::open(options.source, context);
-    const Listing listing = listingOf(source, fileCalled(options.file, context));
+    const Listing listing = listingOf(source, fileCalled(options.file, context), options.shared);
     if (options.listing)
         print(listing.text);
     else
@@ -51,10 +52,11 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-Listing listingOf(const Source& source, reference::File only) {
+Listing listingOf(const Source& source, reference::File only, bool isShared) {
     std::vector<std::string> lines;
     for (const Parameter& parameter : reference::parameters()) {
         if (!parameter.isSetting() || isOfClock(parameter)) continue;
+        if (isShared && isIndividual(parameter)) continue;
         if (only != reference::File::none && parameter.file() != only) continue;
         if (const auto value = source.value(parameter))
             lines.push_back(
@@ -78,6 +80,8 @@ void addFingerprint(CLI::App& app, Commands& commands) {
     Subcommand command(app, "fingerprint", "a number that tells whether settings are the same");
     command.option("SOURCE", options->source, "live if not given");
     command.option("--file", options->file, "only the settings of the file whose name begins so");
+    command.flag("--shared", options->shared,
+                 "without what belongs to the single device: see list --individual");
     command.flag("--listing", options->listing, "print what it is the SHA-256 of");
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }

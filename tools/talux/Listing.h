@@ -14,7 +14,8 @@ struct Listing {
 };
 
 // `only`: the settings of one file, or of all when it is none. The clock's two are left out.
-Listing listingOf(const Source& source, reference::File only = reference::File::none);
+// `isShared`: without what belongs to the single device.
+Listing listingOf(const Source& source, reference::File only = reference::File::none, bool isShared = false);
 
 // SHA-256 in hexadecimal digits.
 std::string fingerprintOf(const Listing& listing);

@@ -71,6 +71,11 @@ void readEntries(const std::string& path, const Context& context,
 // The two that show the clock: kept in files, never part of a comparison.
 bool isOfClock(const Parameter& parameter);
 
+// Belongs to the single device: its name, addresses, station numbers and calibration.
+inline bool isIndividual(const Parameter& parameter) {
+    return parameter.model().has(parameters::kIndividual);
+}
+
 bool sameValue(const std::optional<Value>& a, const std::optional<Value>& b);
 
 // The value as a parameter file holds it, without name and line end; the canonical form of a value.

@@ -51,22 +51,32 @@ StoredFile lookAt(const std::string& path, reference::File file, const Context& 
     return found;
 }
 
-std::optional<std::string> newestWholeCopy(reference::File file, const Context& context) {
+std::vector<DatedCopy> copiesOf(reference::File file, const Context& context) {
     const std::string stem = std::string(rowOf(kParameterFiles, file).stem) + "_";
     if (stem == "_") return {};
-    std::vector<std::string> names;
+    std::vector<DatedCopy> copies;
     std::error_code error;
     const std::string folder = context.directory.empty() ? "/" : context.directory;
     for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
-        std::string name = entry->path().filename().string();
-        if (name.starts_with(stem) && name.ends_with(".ini")) names.push_back(std::move(name));
+        const std::string name = entry->path().filename().string();
+        if (!name.starts_with(stem) || !name.ends_with(".ini")) continue;
+        std::string when = name.substr(stem.size(), name.size() - stem.size() - 4);
+        if (when.size() != 17) continue;
+        when[4] = when[7] = '-', when[10] = ' ';
+        when.insert(15, ":").insert(13, ":");
+        copies.push_back({context.directory + "/" + name, std::move(when)});
     }
-    std::ranges::sort(names, std::greater()); // their names are their dates
-    for (const std::string& name : names) {
-        std::string path = context.directory + "/" + name;
-        const StoredFile copy = lookAt(path, file, context);
-        if (copy.isUsable() && !copy.isTorn) return path;
+    std::ranges::sort(copies, std::greater(), &DatedCopy::when);
+    return copies;
+}
+
+std::optional<std::string> newestWholeCopy(reference::File file, const Context& context,
+                                           const std::string& until) {
+    for (const DatedCopy& copy : copiesOf(file, context)) {
+        if (copy.when > until) continue;
+        const StoredFile looked = lookAt(copy.path, file, context);
+        if (looked.isUsable() && !looked.isTorn) return copy.path;
     }
     return {};
 }

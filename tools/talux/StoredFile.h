@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "tools/talux/Source.h"
 
@@ -24,9 +25,15 @@ struct StoredFile {
 
 StoredFile lookAt(const std::string& path, reference::File file, const Context& context);
 
-// The dated copy with the latest date that is usable and not torn. One of an older version lacks new
-// settings.
-std::optional<std::string> newestWholeCopy(reference::File file, const Context& context);
+// The dated copies of a file with the moment in their names, "2024-03-05 14:22:33", the newest first.
+struct DatedCopy {
+    std::string path, when;
+};
+std::vector<DatedCopy> copiesOf(reference::File file, const Context& context);
+
+// The newest one up to a moment that is usable and not torn. One of an older version lacks new settings.
+std::optional<std::string> newestWholeCopy(reference::File file, const Context& context,
+                                           const std::string& until = "9");
 
 } // namespace talux::tool
 

@@ -30,9 +30,9 @@ ParamLanguage languageOfEnvironment() {
 }
 
 void addCommands(CLI::App& app, Commands& commands) {
-    for (const auto add :
-         {addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport, addWatch, addSet,
-          addApply, addUndo, addDiscard, addShell, addLint, addBoot, addAnnotations})
+    for (const auto add : {addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport,
+                           addWatch, addSet, addApply, addUndo, addDiscard, addHistory, addRestore, addClone,
+                           addShell, addLint, addBoot, addAnnotations})
         add(app, commands);
 }
 
