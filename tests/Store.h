@@ -5,10 +5,12 @@
 #include "ParamSystem/TALUX_Var.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <functional>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
@@ -120,21 +122,32 @@ protected:
     std::filesystem::path directory;
 };
 
+inline std::function<void(const std::string& line)> onPrinted;
+
+// A stream into a text. As a real one may, it leaves another errno behind.
+inline FILE* streamInto(std::string& text) {
+    const auto put = [](void* to, const char* from, std::size_t size) -> ssize_t {
+        static_cast<std::string*>(to)->append(from, size);
+        if (onPrinted) onPrinted({from, size});
+        errno = ENOTTY;
+        return static_cast<ssize_t>(size);
+    };
+    FILE* const stream = fopencookie(&text, "w", {nullptr, put, nullptr, nullptr});
+    std::setvbuf(stream, nullptr, _IOLBF, BUFSIZ);
+    return stream;
+}
+
 // Result, standard output and error output of a call.
 using Outcome = std::tuple<int, std::string, std::string>;
 template <typename Call>
 Outcome outcomeOf(Call call) {
     FILE* const own[] = {stdout, stderr};
-    char* texts[2];
-    std::size_t sizes[2];
-    stdout = open_memstream(&texts[0], &sizes[0]);
-    stderr = open_memstream(&texts[1], &sizes[1]);
+    std::string texts[2];
+    stdout = streamInto(texts[0]), stderr = streamInto(texts[1]);
     const int result = call();
     std::fclose(stdout), std::fclose(stderr);
     stdout = own[0], stderr = own[1];
-    Outcome outcome{result, texts[0], texts[1]};
-    std::free(texts[0]), std::free(texts[1]);
-    return outcome;
+    return {result, texts[0], texts[1]};
 }
 
 } // namespace talux_test

@@ -1,123 +1,14 @@
 // What a save leaves on the disk when a call fails, when the power fails, when it is killed, while another
 // program reads, and where a file cannot be replaced.
-#include "Files.h"
+#include "DiskCalls.h"
 
-#include <cerrno>
+#include <algorithm>
 #include <csignal>
-#include <cstdarg>
-#include <dlfcn.h>
-#include <fcntl.h>
-#include <functional>
+#include <grp.h>
 #include <map>
 #include <span>
-#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
-#include <unistd.h>
-
-namespace {
-
-// ---- What the library asks of the disk: made to fail, and written down ----
-
-constexpr int kShort = -1; // no error: half of the bytes only
-constinit bool watching = false;
-constinit int fault = 0, callsBeforeFault = -1;
-constinit const char* failedCall = "";
-
-enum class Change { make, write, sync, syncDirectory, rename };
-struct Step {
-    Change change;
-    ino_t file = 0;
-    std::string name = {}, newName = {}, data = {};
-};
-std::vector<Step> steps;
-std::function<void()> onSleep; // what the others do meanwhile
-constinit long slept = 0;      // milliseconds
-
-// Whether this call is the one that is hit; `moved` is then halved or the call fails.
-bool fails(const char* call, std::size_t* moved = nullptr) {
-    if (!watching || (fault == kShort && moved == nullptr) || callsBeforeFault-- != 0) return false;
-    failedCall = call;
-    if (fault == kShort) *moved = (*moved + 1) / 2;
-    errno = fault;
-    return fault != kShort;
-}
-
-void note(Change change, int descriptor, std::string name = {}, std::string newName = {},
-          std::string data = {}) {
-    if (!watching) return;
-    struct stat status {};
-    if (descriptor >= 0) fstatat(descriptor, "", &status, AT_EMPTY_PATH);
-    if (change == Change::sync && S_ISDIR(status.st_mode)) change = Change::syncDirectory;
-    steps.push_back({change, status.st_ino, std::move(name), std::move(newName), std::move(data)});
-}
-
-template <typename Function>
-Function* next(Function* /*own*/, const char* name) {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
-
-} // namespace
-
-#define TALUX_CALL(Result, function, parameters, arguments, ...)                                             \
-    Result function parameters {                                                                             \
-        if (fails(#function)) return -1;                                                                     \
-        const Result result = next(&function, #function) arguments;                                          \
-        if (result >= 0) {                                                                                   \
-            __VA_ARGS__;                                                                                     \
-        }                                                                                                    \
-        return result;                                                                                       \
-    }
-
-extern "C" {
-
-TALUX_CALL(int, fchown, (int file, uid_t owner, gid_t group) noexcept, (file, owner, group))
-TALUX_CALL(int, fchmod, (int file, mode_t mode) noexcept, (file, mode))
-TALUX_CALL(int, flock, (int file, int operation) noexcept, (file, operation))
-TALUX_CALL(int, renameat, (int from, const char* name, int to, const char* newName) noexcept,
-           (from, name, to, newName), note(Change::rename, -1, name, newName))
-
-int fsync(int file) { // takes its time on a real disk
-    if (fails("fsync")) return -1;
-    note(Change::sync, file);
-    return 0;
-}
-int close(int file) { // closes whatever it says
-    const int result = next(&close, "close")(file);
-    return fails("close") ? -1 : result;
-}
-int open(const char* path, int flags, ...) {
-    return fails("open") ? -1 : next(&open, "open")(path, flags, 0666);
-}
-int openat(int directory, const char* name, int flags, ...) {
-    if (fails("openat")) return -1;
-    const int file = next(&openat, "openat")(directory, name, flags, 0666);
-    if (file >= 0 && (flags & O_CREAT) != 0) note(Change::make, file, name);
-    return file;
-}
-ssize_t read(int file, void* block, size_t size) {
-    const bool endsProcess = fault != EINTR && fault != kShort;
-    return !endsProcess && fails("read", &size) ? -1 : next(&read, "read")(file, block, size);
-}
-ssize_t write(int file, const void* block, size_t size) {
-    if (fails("write", &size)) return -1;
-    note(Change::write, file, {}, {}, {static_cast<const char*>(block), size});
-    return next(&write, "write")(file, block, size);
-}
-int system(const char* /*command*/) {
-    return 0;
-}
-int usleep(useconds_t /*microseconds*/) {
-    slept += 10; // a kernel with long ticks
-    if (onSleep) onSleep();
-    return 0;
-}
-int clock_gettime(clockid_t clock, timespec* time) noexcept {
-    if (clock != CLOCK_MONOTONIC) return next(&clock_gettime, "clock_gettime")(clock, time);
-    *time = {slept / 1000, slept % 1000 * 1000000};
-    return 0;
-}
-}
 
 namespace {
 
@@ -176,14 +67,28 @@ protected:
 
     // `error` hits the call after so many others.
     Outcome perform(const Operation& operation, int error = 0, int after = -1) {
-        steps.clear();
         fault = error, callsBeforeFault = after, failedCall = "";
+        steps.clear(), shared.clear();
+        onPrinted = [this](std::string line) {
+            line.erase(line.find_last_not_of(" \n") + 1);
+            if (const auto path = line.find(directory); path != line.npos)
+                line.erase(path, directory.string().size() + 1);
+            note("say " + line);
+        };
         const auto descriptors = namesIn("/proc/self/fd").size();
-        watching = true;
+        push({});
         Outcome outcome = outcomeOf(operation.run);
-        watching = false;
+        push({});
+        watching = false, onPrinted = nullptr;
         EXPECT_EQ(namesIn("/proc/self/fd").size(), descriptors);
         return outcome;
+    }
+
+    std::vector<std::string> done() const {
+        std::vector<std::string> all;
+        for (const Step& step : steps)
+            all.push_back(step.what);
+        return all;
     }
 
     void learn(const Operation& operation) {
@@ -214,20 +119,62 @@ protected:
     std::map<std::string, std::string> old, fresh;
 };
 
-// What is said of a call that failed, and the result.
-void expectTold(const std::string& call, const Outcome& outcome, bool wasThere) {
-    const auto& [result, output, errors] = outcome;
-    const bool wrote = call == "write", kept = call == "fsync" || call == "renameat";
-    EXPECT_EQ(result, wrote || call == "fchown" || call == "fchmod" ? 1 : 0);
-    EXPECT_EQ(holds(output, "Error (TALUX_Var): Can't write to file '"), wrote || kept) << output;
-    EXPECT_TRUE(holds(errors, wrote             ? "write: "
-                              : call == "fsync" ? "fsync: "
-                              : kept            ? "rename: "
-                              : result == 1     ? "Can't set owner and rights of file '"
-                                                : "Can't open file '"))
-        << errors;
-    EXPECT_TRUE(call == "fsync" || holds(errors, "' stays as it is \n") == ((wrote || kept) && wasThere))
-        << errors;
+enum class Then { goesOn, nextFile, ends };
+struct Rule {
+    std::string step;
+    std::vector<std::string> onFailure;
+    Then then;
+};
+const std::string kError = "say Error (TALUX_Var): ", kNotOpened = kError + "Can't open file '{}'",
+                  kNotGiven = kError + "Can't set owner and rights of file '{}'",
+                  kNotWritten = kError + "Can't write to file '{}'", kStays = kError + "'{}' stays as it is";
+
+// What a save does with each file, in this order, and what it does then where that fails.
+const Rule kRules[] = {
+    {"open {}", {kNotOpened, "say fopen: {reason}"}, Then::ends},
+    {"open directory", {kNotOpened, "say fopen: {reason}"}, Then::ends},
+    {"make", {kNotOpened, "say fopen: {reason}"}, Then::ends},
+    {"give 0:{group}", {kNotGiven, "say chown: {reason}"}, Then::goesOn},
+    {"allow 775", {kNotGiven, "say chmod: {reason}"}, Then::goesOn},
+    {"write", {"remove", kNotWritten, kStays, "say write: {reason}"}, Then::nextFile},
+    {"sync", {"remove", kNotWritten, kStays, "say fsync: {reason}"}, Then::ends},
+    {"rename {}", {"remove", kNotWritten, kStays, "say rename: {reason}"}, Then::ends},
+    {"sync directory", {kNotWritten, "say fsync: {reason}"}, Then::ends},
+};
+
+std::string raiseOf(const Operation& operation) {
+    return "raise " + std::to_string(operation.flag);
+}
+
+std::string filled(std::string text, const std::string& file, int error) {
+    const std::string group = file.starts_with("sec_") ? "101" : "100", reason = std::strerror(error);
+    for (const auto& [gap, filling] : {std::pair("{}", file), {"{group}", group}, {"{reason}", reason}})
+        if (const auto place = text.find(gap); place != text.npos) text.replace(place, strlen(gap), filling);
+    return text;
+}
+
+// The steps of an operation of which the one with this number fails, and its result.
+std::pair<std::vector<std::string>, int> order(const Operation& operation, int failing, int error) {
+    std::vector<std::string> all;
+    const bool isForAll = operation.files.size() > 2;
+    for (const std::string& file : operation.files) {
+        const bool isAddress = file == "ip_config.ini", isCopy = file.ends_with(kDatedCopy);
+        if (isForAll ? isAddress : !isCopy) all.push_back("commit");
+        for (const Rule& rule : kRules) {
+            if (isAddress && rule.then == Then::goesOn) continue; // it keeps what it has
+            const bool hasFailed = failing-- == 0;
+            all.push_back(filled(rule.step, file, error) + (hasFailed ? "!" : ""));
+            if (!hasFailed) continue;
+            for (const std::string& step : rule.onFailure)
+                if (!isCopy || step != kStays) all.push_back(filled(step, file, error));
+            if (rule.then == Then::nextFile) break;
+            if (rule.then == Then::goesOn) continue;
+            if (isCopy && !isForAll) all.push_back(raiseOf(operation)); // the file itself is new
+            return {all, 0};
+        }
+    }
+    all.push_back(raiseOf(operation));
+    return {all, 1};
 }
 
 TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
@@ -235,25 +182,34 @@ TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
     for (const Operation& operation : kOperations) {
         const bool loads = operation.run == VarLoadIPConfig; // and saves what it loaded, the old file
         learn(loads ? kOperations[3] : operation);
-        for (const int error : {EINTR, kShort, ENOSPC, EACCES, EROFS, EBUSY}) {
-            for (int after = 0;; ++after, ++faults) {
+        for (const int error : {EIO, EINTR, kShort, ENOSPC, EACCES, EROFS, EBUSY}) {
+            for (int after = 0, failing = 0;; ++after, ++faults) {
                 begin();
-                const Outcome outcome = perform(operation, error, after);
-                const std::string call = failedCall;
-                if (call.empty()) break;
-                SCOPED_TRACE(operation.files[0] + ": " + call + " " + std::to_string(error));
+                const int result = std::get<0>(perform(operation, error, after));
+                if (*failedCall == '\0') {
+                    EXPECT_TRUE(loads || error == kShort ||
+                                order(operation, failing, 0) == order(operation, -1, 0));
+                    break;
+                }
+                SCOPED_TRACE(operation.files[0] + ": " + failedCall + " " + std::to_string(error));
                 const bool all = isFresh(operation);
-                const auto& [result, output, errors] = outcome;
-                const char raised = raw(kGlobal)[kBlocks[4].slotOf(operation.flag)];
-                EXPECT_TRUE(loads || (result == 1 ? raised == 1 : raised == 0 || fresh.size() == 2));
-                const bool isRefusal = error == EACCES || error == EROFS || error == EBUSY;
+                const auto now = done();
+                const auto broken = std::ranges::find(now, '!', [](const auto& step) { return step.back(); });
+                const std::string failed = broken == now.end() ? "" : *broken;
+                const bool isQuiet =
+                    std::ranges::none_of(now, [](const auto& step) { return step.starts_with("say"); });
+                const int number = failed.empty() ? -1 : failing++;
                 // A directory that lets nothing be made or exchanged has its files written in place.
-                const bool passes = error == EINTR || error == kShort || call == "close" || call == "flock" ||
-                                    call == "openat" || (isRefusal && (call == "renameat" || call == "open"));
-                if (!holds(output + errors, "Error (TALUX_Var): "))
-                    EXPECT_TRUE(passes && (all || loads) && result == 1);
-                else if (!loads)
-                    expectTold(call, outcome, !holds(output, "/param_") && !holds(output, "/sec_param_"));
+                const bool refuses = error == EACCES || error == EROFS || error == EBUSY;
+                const bool passes =
+                    failed.empty() || error == EINTR || (error == ENOSPC && failed == "make!") ||
+                    (refuses &&
+                     (failed == "make!" || failed == "open directory!" || holds(failed, "rename")));
+                if (isQuiet && passes && (loads || !failed.empty() || error == kShort)) {
+                    EXPECT_TRUE(result == 1 && (loads || (all && now.back() == raiseOf(operation))));
+                } else if (!loads) {
+                    EXPECT_EQ(std::pair(now, result), order(operation, number, error));
+                }
             }
         }
     }
@@ -271,19 +227,19 @@ struct Model {
 
     void apply(const Step& step) {
         auto& [bytes, isSynced] = data[step.file];
-        if (step.change == Change::make) bytes.clear(), isSynced = false;
-        if (step.change == Change::write) bytes += step.data, isSynced = false;
-        if (step.change == Change::sync) isSynced = true;
+        if (step.what == "make") bytes.clear(), isSynced = false;
+        if (step.what == "write") bytes += step.data, isSynced = false;
+        if (step.what == "sync") isSynced = true;
         unsettled.push_back(step);
-        if (step.change != Change::syncDirectory) return;
+        if (step.what != "sync directory") return;
         for (const Step& change : unsettled)
             rename(names, change);
         unsettled.clear();
     }
 
     static void rename(std::map<std::string, ino_t>& names, const Step& step) {
-        if (step.change == Change::make) names[step.name] = step.file;
-        if (step.change == Change::rename) names[step.newName] = names[step.name], names.erase(step.name);
+        if (step.what == "make") names[step.name] = step.file;
+        if (!step.newName.empty()) names[step.newName] = names[step.name], names.erase(step.name);
     }
 
     // All that the file may be when the power fails now.
@@ -386,7 +342,7 @@ TEST_F(Disk, WaitsForTheSavesOfOthersButNotForEver) {
     };
     EXPECT_EQ(std::get<0>(outcomeOf(kOperations[3].run)), 1);
     EXPECT_EQ(slept, 5030);
-    onSleep = nullptr;
+    slept = kReally;
     for (const int other : {others[0], others[1], others[3]})
         close(other);
 }
@@ -442,7 +398,12 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
             perform(inPlace, error, after++);
         while (failedCall != std::string("openat") && *failedCall != '\0');
         EXPECT_EQ(contents(file), whole) << failedCall;
-        EXPECT_EQ(steps.front().change, Change::write);
+        // What goes beyond the old contents comes first.
+        auto first = done();
+        std::erase(first, "give 0:100"); // where it could not be given when it was made
+        first.resize(6);
+        EXPECT_EQ(first, (std::vector<std::string>{"open parameter.ini", "open directory", "make!", "write",
+                                                   "cut", "sync"}));
     }
 
     fs::remove(file);
@@ -453,6 +414,71 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
     EXPECT_EQ(read(reader, through.data(), through.size()), static_cast<ssize_t>(whole.size()));
     EXPECT_EQ(through, whole + '#');
     close(reader);
+}
+
+// Who saves a file of whom: who has it then, and whether it is another file.
+TEST_F(Disk, TakesAFileFromNobody) {
+    constexpr uid_t kNone = 9999;
+    constexpr auto kIps = VarSaveIPConfig, kNormal = VarSaveParams;
+    const struct {
+        int (*save)();
+        uid_t owner, group;
+        mode_t mode;
+        uid_t user, memberOf; // the saver and its second group
+        bool mayGive;
+        uid_t ownerThen, groupThen;
+        bool isReplaced;
+    } cases[] = {
+        {kIps, 1000, 1000, 0600, 1000, kNone, true, 1000, 1000, true},
+        {kIps, 1000, 100, 0640, 1000, kNone, true, 1000, 100, false},
+        {kIps, 1000, 100, 0640, 1000, 100, true, 1000, 100, true},
+        {kIps, 7, 1000, 0660, 1000, kNone, true, 7, 1000, false},
+        {kIps, 7, 9, 0600, 0, kNone, true, 7, 9, true},
+        {kIps, 7, 9, 0600, 0, kNone, false, 7, 9, false},
+        {kNormal, 1000, 1000, 0600, 1000, kNone, true, 1000, 1000, true},
+        {kNormal, 0, 100, 0775, 1000, 100, true, 0, 100, false},
+        {kNormal, 7, 9, 0600, 0, kNone, true, 0, 100, true},
+        {kNormal, 7, 9, 0600, 0, kNone, false, 7, 9, false},
+    };
+    fs::permissions(directory, fs::perms::all);
+    for (const auto& each : cases) {
+        SCOPED_TRACE(testing::Message() << &each - cases);
+        begin();
+        const bool isAddress = each.save == kIps;
+        const fs::path file = directory / (isAddress ? "ip_config.ini" : "parameter.ini");
+        if (chown(file.c_str(), each.owner, each.group) != 0)
+            GTEST_SKIP() << "nothing can be given away here";
+        chmod(file.c_str(), each.mode);
+        const struct stat before = statusOf(file);
+        const gid_t second = each.memberOf;
+        mayGive = each.mayGive;
+        EXPECT_EQ(setgroups(second == kNone ? 0 : 1, &second) + setegid(each.user) + seteuid(each.user), 0);
+        const Outcome outcome = perform({each.save, 0, {}, ""});
+        EXPECT_EQ(seteuid(0) + setegid(0) + setgroups(0, nullptr), 0);
+        mayGive = true;
+        EXPECT_EQ(outcome, Outcome(1, "", ""));
+        const struct stat after = statusOf(file);
+        EXPECT_EQ(std::tuple(after.st_uid, after.st_gid, after.st_ino != before.st_ino),
+                  std::tuple(each.ownerThen, each.groupThen, each.isReplaced));
+        EXPECT_EQ(after.st_mode & 07777,
+                  isAddress || (each.user != 0 && each.owner != each.user) ? each.mode : 0775U);
+    }
+}
+
+// A program that another thread starts then inherits nothing of a save.
+TEST_F(Disk, LeavesNothingToAProgramThatStartsMeanwhile) {
+    int programs = 0;
+    onStep = [&] {
+        const std::string look = "find /proc/self/fd -lname '" + directory.string() + "*'";
+        FILE* const found = popen(look.c_str(), "r");
+        EXPECT_EQ(std::fgetc(found), EOF) << steps.back().what;
+        EXPECT_EQ(pclose(found), 0);
+        ++programs;
+    };
+    begin();
+    perform(kOperations[0]);
+    onStep = nullptr;
+    EXPECT_GT(programs, 18);
 }
 
 TEST_F(Disk, FollowsLinksAlsoThoseThatDangle) {

@@ -1,9 +1,11 @@
 // Values of every kind in both spaces against a small model of the slots, and the bytes of every type.
 #include "ParamSystem/kepl/ValueType.h"
+#include "ParamSystem/os/Files.h"
 #include "ParamSystem/store/Values.h"
 #include "tests/Store.h"
 
 #include <cmath>
+#include <unistd.h>
 
 namespace {
 
@@ -55,6 +57,20 @@ Value anyValue(Random& random) {
 int anyId(Random& random) {
     const auto& block = talux_test::kBlocks[random.below(std::size(talux_test::kBlocks))];
     return random.below(8) == 0 ? random.below(25000) : block.first - 1 + random.below(block.count + 2);
+}
+
+TEST(Inside, ALinkFitsItsRoomOrIsCut) {
+    for (const int length : {31, 32, 33, 34}) {
+        const std::string target(static_cast<std::size_t>(length), 'x'),
+            link = "/tmp/link" + std::to_string(length);
+        ASSERT_EQ(symlink(target.c_str(), link.c_str()), 0);
+        char room[34];
+        std::memset(room, '#', sizeof room);
+        EXPECT_EQ(os::readLink(link.c_str(), room, 33), length < 33);
+        EXPECT_EQ(room, target.substr(0, 32));
+        EXPECT_EQ(room[33], '#');
+        unlink(link.c_str());
+    }
 }
 
 TEST(Inside, AValueReadsAsItsSlotKeepsIt) {
