@@ -19,7 +19,7 @@ _talux() {
   elif [ -z "$command" ]; then
     words=$(talux --help | sed -nE 's/^  (-.,)?(--)?([a-z]+) .*/\2\3/p')
   elif [ "${current#-}" != "$current" ]; then
-    words=$(talux "$command" --help | grep -oE -- '--[a-z]+')
+    words=$(talux "$command" --help | grep -oE -- '--[a-z-]+')
   else
     case $command in
       explain | help | list | watch) words=$(talux list --of default | cut -d ' ' -f 1) ;;

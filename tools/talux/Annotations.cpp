@@ -137,8 +137,10 @@ Status run(const Context& context) {
 
 } // namespace
 
-void addAnnotations(CLI::App& app, Commands& commands) {
-    Subcommand command(app, "annotations", "a Lua file that tells editors functions and names");
+void addAnnotations(CommandLine& line, Commands& commands) {
+    Subcommand command(line, "annotations",
+                       {"a Lua file with functions and names for editors",
+                        "Lua-Datei mit Funktionen und Namen für Editoren"});
     commands.push_back({command, [](const Context& context) { return run(context); }});
 }
 

@@ -183,12 +183,18 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addBoot(CLI::App& app, Commands& commands) {
+void addBoot(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "boot", "what a boot script does: defaults, then the three files");
-    command.flag("--apply", options->apply, "apply network and clock on any processor");
-    command.flag("--again", options->again, "also on a device that runs");
-    command.flag("--fallback", options->fallback, "load the newest dated copy in place of an unusable file");
+    Subcommand command(line, "boot",
+                       {"what a boot script does: defaults, then the three files",
+                        "Gerätestart: Werkseinstellung, dann die drei Dateien"});
+    command.flag(
+        "--apply", options->apply,
+        {"apply network and clock on any processor", "Netzwerk und Uhr auf jedem Prozessor einstellen"});
+    command.flag("--again", options->again, {"also on a running device", "auch auf einem laufenden Gerät"});
+    command.flag("--fallback", options->fallback,
+                 {"load the newest dated copy in place of an unusable file",
+                  "die neueste datierte Kopie laden, wenn eine Datei unbrauchbar ist"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

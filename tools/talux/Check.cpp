@@ -113,16 +113,18 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addCheck(CLI::App& app, Commands& commands) {
+void addCheck(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(
-        app, "check",
-        "what a file contains, line by line, compared with the factory settings or another source");
-    command.option("FILE", options->files, "parameter files").required();
+    Subcommand command(line, "check",
+                       {"check the lines of a file, compare them with a source",
+                        "Zeilen einer Datei prüfen und vergleichen"});
+    command.argument({"FILE", "DATEI"}, options->files, {"parameter files", "Parameterdateien"}).required();
     command.option("--against", options->against,
-                   "what to compare with: default (factory settings), live, staged, a file or a folder; "
-                   "default if not given");
-    command.flag("--json", options->json, "print JSON");
+                   {"what to compare with: default (factory settings), live, staged, a file or a folder; "
+                    "default if not given",
+                    "womit verglichen wird: default (Werkseinstellung), live, staged, eine Datei oder ein "
+                    "Ordner; sonst mit default"});
+    command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }
 

@@ -47,26 +47,26 @@ struct Command {
 };
 using Commands = std::vector<Command>;
 
-// Each stands in the file of the command.
-void addExplain(CLI::App& app, Commands& commands);
-void addList(CLI::App& app, Commands& commands);
-void addCheck(CLI::App& app, Commands& commands);
-void addDiff(CLI::App& app, Commands& commands);
-void addStatus(CLI::App& app, Commands& commands);
-void addFingerprint(CLI::App& app, Commands& commands);
-void addReport(CLI::App& app, Commands& commands);
-void addShell(CLI::App& app, Commands& commands);
-void addLint(CLI::App& app, Commands& commands);
-void addAnnotations(CLI::App& app, Commands& commands);
-void addBoot(CLI::App& app, Commands& commands);
-void addWatch(CLI::App& app, Commands& commands);
-void addSet(CLI::App& app, Commands& commands);
-void addApply(CLI::App& app, Commands& commands);
-void addUndo(CLI::App& app, Commands& commands);
-void addDiscard(CLI::App& app, Commands& commands);
-void addHistory(CLI::App& app, Commands& commands);
-void addRestore(CLI::App& app, Commands& commands);
-void addClone(CLI::App& app, Commands& commands);
+// Each is in the file of the command.
+void addExplain(CommandLine& line, Commands& commands);
+void addList(CommandLine& line, Commands& commands);
+void addCheck(CommandLine& line, Commands& commands);
+void addDiff(CommandLine& line, Commands& commands);
+void addStatus(CommandLine& line, Commands& commands);
+void addFingerprint(CommandLine& line, Commands& commands);
+void addReport(CommandLine& line, Commands& commands);
+void addShell(CommandLine& line, Commands& commands);
+void addLint(CommandLine& line, Commands& commands);
+void addAnnotations(CommandLine& line, Commands& commands);
+void addBoot(CommandLine& line, Commands& commands);
+void addWatch(CommandLine& line, Commands& commands);
+void addSet(CommandLine& line, Commands& commands);
+void addApply(CommandLine& line, Commands& commands);
+void addUndo(CommandLine& line, Commands& commands);
+void addDiscard(CommandLine& line, Commands& commands);
+void addHistory(CommandLine& line, Commands& commands);
+void addRestore(CommandLine& line, Commands& commands);
+void addClone(CommandLine& line, Commands& commands);
 
 } // namespace talux::tool
 

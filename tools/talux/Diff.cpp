@@ -50,6 +50,8 @@ void printDifferences(const std::vector<Difference>& found, const Source& a, con
 }
 
 Status run(const Options& options, const Context& context) {
+    if (options.sources.size() > 2)
+        throw CouldNot(context.say("more than two sources", "mehr als zwei Quellen"));
     const bool hasBoth = options.sources.size() == 2;
     const Source a = Source::open(hasBoth ? options.sources[0] : "live", context);
     const Source b = Source::open(options.sources.back(), context);
@@ -63,15 +65,16 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addDiff(CLI::App& app, Commands& commands) {
+void addDiff(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "diff", "in which settings two sources differ");
+    Subcommand command(line, "diff",
+                       {"in which settings two sources differ", "worin sich zwei Quellen unterscheiden"});
     command
-        .option("SOURCE", options->sources,
-                "[A] B, each default, live, staged, a file or a folder; A is live")
-        .required()
-        .expected(1, 2);
-    command.flag("--json", options->json, "print JSON");
+        .argument({"SOURCE", "QUELLE"}, options->sources,
+                  {"[A] B, each default, live, staged, a file or a folder; A is live if not given",
+                   "[A] B, je default, live, staged, eine Datei oder ein Ordner; A ist sonst live"})
+        .required();
+    command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }
 

@@ -75,14 +75,19 @@ std::string fingerprintOf(const Listing& listing) {
     return digits;
 }
 
-void addFingerprint(CLI::App& app, Commands& commands) {
+void addFingerprint(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "fingerprint", "a number that tells whether settings are the same");
-    command.option("SOURCE", options->source, "live if not given");
-    command.option("--file", options->file, "only the settings of the file whose name begins so");
+    Subcommand command(line, "fingerprint",
+                       {"a checksum: are settings the same?", "Prüfsumme: sind Einstellungen gleich?"});
+    command.argument({"SOURCE", "QUELLE"}, options->source, {"live if not given", "sonst live"});
+    command.option("--file", options->file,
+                   {"only the settings of the file whose name begins with this",
+                    "nur die Einstellungen der Datei, deren Name so beginnt"});
     command.flag("--shared", options->shared,
-                 "without what belongs to the single device: see list --individual");
-    command.flag("--listing", options->listing, "print what it is the SHA-256 of");
+                 {"without what belongs to the single device: see list --individual",
+                  "ohne was zum einzelnen Gerät gehört: siehe list --individual"});
+    command.flag("--listing", options->listing,
+                 {"print the text that the SHA-256 is made of", "ausgeben, wovon die SHA-256 gebildet wird"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

@@ -344,16 +344,23 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addLint(CLI::App& app, Commands& commands) {
+void addLint(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "lint", "every line of a KEPL or Lua script, without running it");
+    Subcommand command(line, "lint",
+                       {"check every line of a script without running it",
+                        "jede Zeile eines Skripts prüfen, ohne es auszuführen"});
     command
-        .option(
-            "FILE", options->files,
-            "scripts, or folders with them; *.lua are Lua, of *.md the Lua blocks are read, all others are "
-            "lines of KEPL")
+        .argument(
+            {"FILE", "DATEI"}, options->files,
+            {"scripts or folders with scripts; *.lua is Lua, *.md is read for its Lua blocks, all others "
+             "are lines of KEPL",
+             "Skripte oder Ordner mit Skripten; *.lua ist Lua, aus *.md werden die Lua-Blöcke gelesen, alles "
+             "andere sind KEPL-Zeilen"})
         .required();
-    command.option("--level", options->level, "rights that lines of KEPL have, 0 to 3; 3 if not given")
+    command
+        .option("--level", options->level,
+                {"rights level of KEPL lines, 0 to 3; 3 if not given",
+                 "Rechtestufe der KEPL-Zeilen, 0 bis 3; sonst 3"})
         .inRange(0, 3);
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }

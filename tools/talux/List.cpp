@@ -118,18 +118,25 @@ Status run(Options& options, const Context& context) {
 
 } // namespace
 
-void addList(CLI::App& app, Commands& commands) {
+void addList(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "list", "names and values");
-    command.option("FILTER", options->filter.names, "parts of names, or patterns with * and ?");
-    command.option("--of", options->source, "whose values: default, live, staged, a file or a folder");
-    command.flag("--families", options->families, "the names of the families");
-    command.flag("--methods", options->methods, "the names of the detection methods");
-    command.flag("--changed", options->changed, "only what is not the factory default");
-    command.option("--uses", options->uses,
-                   "only what is set to this output function, by its number, or to a choice with this text");
+    Subcommand command(line, "list", {"names and values", "Namen und Werte"});
+    command.argument({"FILTER", "FILTER"}, options->filter.names,
+                     {"parts of names, or patterns with * and ?", "Teile von Namen oder Muster mit * und ?"});
+    command.option("--of", options->source,
+                   {"whose values: default, live, staged, a file or a folder",
+                    "wessen Werte: default, live, staged, eine Datei oder ein Ordner"});
+    command.flag("--families", options->families, {"the names of the families", "die Namen der Familien"});
+    command.flag("--methods", options->methods,
+                 {"the names of the detection methods", "die Namen der Erfassungsverfahren"});
+    command.flag("--changed", options->changed,
+                 {"only what is not the factory default", "nur was nicht der Werkseinstellung entspricht"});
+    command.option(
+        "--uses", options->uses,
+        {"only what is set to this output function (number) or to a choice with this text",
+         "nur was auf diese Ausgangsfunktion (Nummer) oder eine Auswahl mit diesem Text eingestellt ist"});
     options->filter.addTo(command);
-    command.flag("--json", options->json, "print JSON");
+    command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }
 

@@ -186,13 +186,20 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addReport(CLI::App& app, Commands& commands) {
+void addReport(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "report", "a settings record to print and sign, as HTML");
-    command.option("SOURCE", options->source, "live, staged, default, a file or a folder").required();
-    command.option("-o,--output", options->output, "write it to this file");
-    command.option("--title", options->title, "title of the record");
-    command.flag("--changed", options->changed, "only what is not the factory setting");
+    Subcommand command(line, "report",
+                       {"a settings record to print and sign, as HTML",
+                        "Einstellprotokoll zum Drucken und Unterschreiben (HTML)"});
+    command
+        .argument({"SOURCE", "QUELLE"}, options->source,
+                  {"live, staged, default, a file or a folder",
+                   "live, staged, default, eine Datei oder ein Ordner"})
+        .required();
+    command.option("-o,--output", options->output, {"write to this file", "in diese Datei schreiben"});
+    command.option("--title", options->title, {"title of the record", "Titel des Protokolls"});
+    command.flag("--changed", options->changed,
+                 {"only what is not the factory setting", "nur was nicht der Werkseinstellung entspricht"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

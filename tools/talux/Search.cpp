@@ -66,15 +66,32 @@ std::vector<const Parameter*> search(const std::vector<std::string>& words) {
 }
 
 void Filter::addTo(Subcommand& command) {
-    command.option("--family", family, "only families whose name contains this, in English or German");
+    command.option("--family", family,
+                   {"only families whose name contains this, in English or German",
+                    "nur Familien, deren Name dies enthält, englisch oder deutsch"});
     command.option("--file", file,
-                   "only settings saved in the file whose name begins so: parameter, sec, ip");
-    command.option("--level", level, "only parameters that need this rights level to write: 1, 2 or 3");
-    command.option("--method", method,
-                   "only what belongs to the detection method whose name contains this: qu2, wattmetric");
-    command.flag("--individual", individual, "only what belongs to the single device: name, addresses, ..");
-    command.flag("--no-limits", noLimits, "only settings whose numbers no limits are specified for");
-    command.option("--search", words, "only parameters whose texts contain all of these words").divided(' ');
+                   {"only settings saved in the file whose name begins with this: parameter, sec, ip",
+                    "nur Einstellungen, die in der Datei liegen, deren Name so beginnt: parameter, sec, ip"});
+    command
+        .option("--level", level,
+                {"only parameters that need this rights level to write: 1, 2 or 3",
+                 "nur Parameter, deren Schreiben diese Rechtestufe braucht: 1, 2 oder 3"})
+        .inRange(1, 3);
+    command.option(
+        "--method", method,
+        {"only what belongs to the detection method whose name contains this: qu2, wattmetric",
+         "nur was zu dem Erfassungsverfahren gehört, dessen Name dies enthält: qu2, wattmetrisch"});
+    command.flag("--individual", individual,
+                 {"only what belongs to the single device: name, addresses, ..",
+                  "nur was zum einzelnen Gerät gehört: Name, Adressen, .."});
+    command.flag("--no-limits", noLimits,
+                 {"only settings without specified limits",
+                  "nur Einstellungen, für deren Zahlen keine Grenzen festgelegt sind"});
+    command
+        .option("--search", words,
+                {"only parameters whose texts contain all of these words",
+                 "nur Parameter, deren Texte alle diese Wörter enthalten"})
+        .divided(' ');
 }
 
 void Filter::check(const Context& context) {

@@ -171,10 +171,15 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addShell(CLI::App& app, Commands& commands) {
+void addShell(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "shell", "the command language with completion, history, help");
-    command.option("--level", options->level, "rights, 0 to 3; 2 if not given").inRange(0, 3);
+    Subcommand command(line, "shell",
+                       {"the command language with completion, history, help",
+                        "Befehlssprache mit Ergänzung, Verlauf und Hilfe"});
+    command
+        .option("--level", options->level,
+                {"rights level, 0 to 3; 2 if not given", "Rechtestufe, 0 bis 3; sonst 2"})
+        .inRange(0, 3);
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

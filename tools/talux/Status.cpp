@@ -173,10 +173,12 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addStatus(CLI::App& app, Commands& commands) {
+void addStatus(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "status", "what update and save would change on this device");
-    command.flag("--json", options->json, "print JSON");
+    Subcommand command(line, "status",
+                       {"what update and save would change on this device",
+                        "was update und save an diesem Gerät ändern würden"});
+    command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "ParamSystem/TALUX_ParamStrings.h"
+
 namespace CLI {
 class App;
 class Option;
@@ -14,33 +16,71 @@ class Option;
 
 namespace talux::tool {
 
+// A text for people. One without its German does not compile.
+class Wording {
+public:
+    consteval Wording(const char* inEnglish, const char* inGerman) : english(inEnglish), german(inGerman) {}
+    const char* in(ParamLanguage language) const { return language == kGerman ? german : english; }
+
+private:
+    const char* english;
+    const char* german;
+};
+
 class Argument {
 public:
-    explicit Argument(CLI::Option* given) : option(given) {}
+    Argument(CLI::Option* given, ParamLanguage speech) : option(given), language(speech) {}
 
     Argument& required();
-    Argument& expected(int least, int most); // how many values
-    Argument& inRange(int least, int most);
-    Argument& inRange(double least, double most);
+    Argument& inRange(double minimum, double maximum);
     Argument& divided(char delimiter); // a value is several
     Argument& oneOf(const std::vector<std::string>& values);
 
 private:
+    friend class Subcommand;
+    Argument& isNumber(bool isWhole);
+
     CLI::Option* option;
+    ParamLanguage language;
+};
+
+// What is typed after the program's name.
+class CommandLine {
+public:
+    CommandLine(const char* program, ParamLanguage speech, Wording about);
+    ~CommandLine();
+
+    Argument option(const char* name, std::string& value, Wording help);
+
+    std::string help() const; // as --help prints it
+
+    // Whether a command was chosen; otherwise help was printed. Throws CouldNot for arguments that are wrong.
+    bool parse(int argc, char** argv);
+
+private:
+    friend class Subcommand;
+    std::string refusal(const std::string& reason) const;
+
+    std::unique_ptr<CLI::App> app;
+    ParamLanguage language;
 };
 
 class Subcommand {
 public:
-    Subcommand(CLI::App& program, const char* name, const char* help);
+    Subcommand(CommandLine& line, const char* name, Wording help);
 
-    // A name that begins with "-" is that of an option, any other stands for what is typed in its place. The
-    // variable has the value that counts if none is typed.
-    Argument option(const char* name, std::string& value, const char* help);
-    Argument option(const char* name, std::vector<std::string>& values, const char* help);
-    Argument option(const char* name, int& value, const char* help);
-    Argument option(const char* name, long& value, const char* help);
-    Argument option(const char* name, double& value, const char* help);
-    void flag(const char* name, bool& value, const char* help);
+    // What is typed without a name, in the order of the calls. The variable has the value that counts if
+    // nothing is typed.
+    Argument argument(Wording name, std::string& value, Wording help);
+    Argument argument(Wording name, std::vector<std::string>& values, Wording help);
+
+    // Names begin with "-".
+    Argument option(const char* name, std::string& value, Wording help);
+    Argument option(const char* name, std::vector<std::string>& values, Wording help);
+    Argument option(const char* name, int& value, Wording help);
+    Argument option(const char* name, long& value, Wording help);
+    Argument option(const char* name, double& value, Wording help);
+    void flag(const char* name, bool& value, Wording help);
 
     bool isChosen() const;
     std::string name() const;
@@ -48,25 +88,7 @@ public:
 
 private:
     CLI::App* app;
-};
-
-// What is typed behind the program's name.
-class CommandLine {
-public:
-    CommandLine(const char* program, const char* about);
-    ~CommandLine();
-
-    CLI::App& program() const { return *app; }
-    Argument option(const char* name, std::string& value, const char* help);
-
-    std::string help() const;
-
-    // Help goes to standard output, what is wrong to the error stream.
-    enum class Outcome { command, helped, refused };
-    Outcome parse(int argc, char** argv);
-
-private:
-    std::unique_ptr<CLI::App> app;
+    ParamLanguage language;
 };
 
 } // namespace talux::tool

@@ -14,10 +14,12 @@ namespace {
 
 using namespace talux::tool;
 
-constexpr const char* kAbout =
-    "Settings of the relay: what they mean, what a file changes, what is pending.\n"
-    "SOURCE: live, staged, default, a parameter file, or a folder with the three.\n"
-    "Exit status: 0 nothing to tell, 1 findings or differences, 2 could not.";
+constexpr Wording kAbout{"Settings of the relay: what they mean, what a file changes, what is pending.\n"
+                         "SOURCE: live, staged (pending), default, a parameter file, or a folder of them.\n"
+                         "Exit status: 0 nothing found, 1 findings or differences, 2 the command failed.",
+                         "Einstellungen des Relais: was sie bedeuten, was eine Datei ändert, was aussteht.\n"
+                         "QUELLE: live (gültig), staged (ausstehend), default, eine Datei oder ein Ordner.\n"
+                         "Rückgabewert: 0 kein Befund, 1 Befunde oder Unterschiede, 2 Befehl gescheitert."};
 
 // As the usual variables of the environment say it.
 ParamLanguage languageOfEnvironment() {
@@ -29,18 +31,42 @@ ParamLanguage languageOfEnvironment() {
     return kEnglish;
 }
 
-void addCommands(CLI::App& app, Commands& commands) {
+// Known before the arguments are parsed, so that help and refusals are in it, too.
+ParamLanguage languageOf(int argc, char** argv) {
+    constexpr std::string_view kOption = "--language";
+    ParamLanguage language = languageOfEnvironment();
+    for (int i = 1; i < argc && std::string_view(argv[i]) != "--"; ++i) {
+        std::string_view word = argv[i];
+        if (!word.starts_with(kOption)) continue;
+        word.remove_prefix(kOption.size());
+        if (word.empty() && i + 1 < argc) word = argv[i + 1];
+        if (word == "de" || word == "=de") language = kGerman;
+        if (word == "en" || word == "=en") language = kEnglish;
+    }
+    return language;
+}
+
+void addCommands(CommandLine& line, Commands& commands) {
     for (const auto add : {addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport,
                            addWatch, addSet, addApply, addUndo, addDiscard, addHistory, addRestore, addClone,
                            addShell, addLint, addBoot, addAnnotations})
-        add(app, commands);
+        add(line, commands);
+}
+
+Status written(Status status, const Context& context) {
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+        throw CouldNot(context.say("the output cannot be written", "die Ausgabe lässt sich nicht schreiben"));
+    return status;
 }
 
 // Of the program, a command or a parameter.
-void addHelp(const CommandLine& line, Commands& commands) {
+void addHelp(CommandLine& line, Commands& commands) {
     const auto names = std::make_shared<std::vector<std::string>>();
-    Subcommand help(line.program(), "help", "this, the options of a command, or what a name stands for");
-    help.option("NAME", *names, "a command, or a name as explain takes it");
+    Subcommand help(line, "help",
+                    {"this help, that of a command, or what a name means",
+                     "diese Hilfe, die eines Befehls oder was ein Name bedeutet"});
+    help.argument({"NAME", "NAME"}, *names,
+                  {"a command, or a name as explain takes it", "ein Befehl oder ein Name wie bei explain"});
     commands.push_back({help, [names, &line, &commands](const Context& context) {
                             if (names->empty()) print(line.help());
                             for (const std::string& name : *names) {
@@ -61,44 +87,39 @@ Status runChosen(const Commands& commands, const Context& context) {
     std::optional<Pager> pager;
     if (chosen->isPaged) pager.emplace();
     try {
-        const Status status = chosen->run(context);
-        if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
-            throw CouldNot(
-                context.say("the output cannot be written", "die Ausgabe lässt sich nicht schreiben"));
-        return status;
+        return written(chosen->run(context), context);
     } catch (const CouldNot& error) {
         report(error);
         return kCouldNot;
     }
 }
 
-int run(int argc, char** argv) {
-    LoadDefParamProperties();
-    Context context;
-    context.language = languageOfEnvironment();
-
-    CommandLine line("talux", kAbout);
+Status run(int argc, char** argv, Context& context) {
+    CommandLine line("talux", context.language, kAbout);
     std::string language;
-    line.option("--language", language, "de or en; by default that of the environment").oneOf({"de", "en"});
-    line.option("--directory", context.directory, "where the device keeps its files; by default /");
+    line.option("--language", language,
+                {"de or en; by default that of the environment", "de oder en; sonst die der Umgebung"})
+        .oneOf({"de", "en"});
+    line.option("--directory", context.directory,
+                {"where the device keeps its files; by default /", "Ordner der Parameterdateien; sonst /"});
     Commands commands;
-    addCommands(line.program(), commands);
+    addCommands(line, commands);
     addHelp(line, commands);
-
-    const auto outcome = line.parse(argc, argv);
-    if (outcome != CommandLine::Outcome::command)
-        return outcome == CommandLine::Outcome::helped ? kNothing : kCouldNot;
-    if (!language.empty()) context.language = language == "de" ? kGerman : kEnglish;
-    return runChosen(commands, context);
+    return line.parse(argc, argv) ? runChosen(commands, context) : written(kNothing, context);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     try {
-        return run(argc, argv);
+        LoadDefParamProperties();
+        Context context;
+        context.language = languageOf(argc, argv);
+        return run(argc, argv, context);
+    } catch (const CouldNot& error) {
+        report(error);
     } catch (const std::exception& error) { // of memory, for instance
         std::fprintf(stderr, "talux: %s\n", error.what());
-        return kCouldNot;
     }
+    return kCouldNot;
 }

@@ -210,12 +210,19 @@ private:
 } // namespace
 
 void Order::takeOptions(Subcommand& command) {
-    command.flag("--live", live, "make it live, with everything else that is pending");
-    command.flag("--save", save, "make it live and save the files it belongs to");
-    command.flag("--yes", yes, "write without asking");
-    command.flag("--dry-run", dryRun, "only show what it would change");
-    command.option("--protocol", protocol, "a file for the record: before, after, who, when");
-    command.flag("--json", json, "print JSON");
+    command.flag("--live", live,
+                 {"make it live, with everything else that is pending",
+                  "gültig machen, mit allem anderen Ausstehenden"});
+    command.flag("--save", save,
+                 {"make it live and save the files it belongs to",
+                  "gültig machen und die zugehörigen Dateien speichern"});
+    command.flag("--yes", yes, {"write without asking", "ohne Rückfrage schreiben"});
+    command.flag("--dry-run", dryRun,
+                 {"only show what it would change", "nur zeigen, was sich ändern würde"});
+    command.option("--protocol", protocol,
+                   {"a file for the record: before, after, who, when",
+                    "Datei für das Protokoll: vorher, nachher, wer, wann"});
+    command.flag("--json", json, {"print JSON", "als JSON ausgeben"});
 }
 
 void attachToWrite(const Context& context) {

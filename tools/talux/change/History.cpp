@@ -156,28 +156,42 @@ Status clone(const Options& options, const Context& context) {
 
 } // namespace
 
-void addHistory(CLI::App& app, Commands& commands) {
+void addHistory(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "history", "the dated copies and the files: when, and how many changes");
-    command.option("NAME", options->name, "of one parameter the values");
-    command.flag("--json", options->json, "print JSON");
+    Subcommand command(line, "history",
+                       {"the dated copies and the files: when, and how many changes",
+                        "datierte Kopien und Dateien: wann, wie viele Änderungen"});
+    command.argument({"NAME", "NAME"}, options->name,
+                     {"the values of one parameter", "die Werte eines Parameters"});
+    command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
     commands.push_back(
         {command, [options](const Context& context) { return history(*options, context); }, true});
 }
 
-void addRestore(CLI::App& app, Commands& commands) {
+void addRestore(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "restore", "write the settings of a dated copy or a file again");
-    command.option("WHEN", options->name, "a file, yesterday, 2026-11-20, or -3 for the third last")
+    Subcommand command(line, "restore",
+                       {"write back the settings of a dated copy or a file",
+                        "Einstellungen einer Kopie oder Datei zurückschreiben"});
+    command
+        .argument({"WHEN", "WANN"}, options->name,
+                  {"a file, yesterday, 2026-11-20, or -3 for the third last",
+                   "eine Datei, yesterday (gestern), 2026-11-20 oder -3 für die drittletzte"})
         .required();
     options->order.takeOptions(command);
     commands.push_back({command, [options](const Context& context) { return restore(*options, context); }});
 }
 
-void addClone(CLI::App& app, Commands& commands) {
+void addClone(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "clone", "take over what does not belong to the single device");
-    command.option("SOURCE", options->name, "a folder with the files of another relay, or a file").required();
+    Subcommand command(line, "clone",
+                       {"take over another relay's settings, not its identity",
+                        "Einstellungen eines anderen Relais ohne dessen Gerätedaten"});
+    command
+        .argument({"SOURCE", "QUELLE"}, options->name,
+                  {"a folder with the files of another relay, or a file",
+                   "ein Ordner mit den Dateien eines anderen Relais oder eine Datei"})
+        .required();
     options->order.takeOptions(command);
     commands.push_back({command, [options](const Context& context) { return clone(*options, context); }});
 }

@@ -108,36 +108,51 @@ Status discard(const Options& options, const Context& context) {
 
 } // namespace
 
-void addUndo(CLI::App& app, Commands& commands) {
+void addUndo(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "undo", "take back the last change, or that of a record");
-    command.option("PROTOCOL", options->file, "the last change of this device if not given");
+    Subcommand command(line, "undo",
+                       {"take back the last change, or that of a record",
+                        "die letzte Änderung oder die eines Protokolls zurücknehmen"});
+    command.argument(
+        {"RECORD", "PROTOKOLL"}, options->file,
+        {"the last change of this device if not given", "sonst die letzte Änderung dieses Geräts"});
     options->order.takeOptions(command);
     commands.push_back({command, [options](const Context& context) { return undo(*options, context); }});
 }
 
-void addDiscard(CLI::App& app, Commands& commands) {
+void addDiscard(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "discard", "give pending settings up: they become what is live");
+    Subcommand command(line, "discard",
+                       {"give up pending settings: they become what is live",
+                        "Ausstehendes verwerfen: es gilt wieder das Gültige"});
     options->order.takeOptions(command);
     commands.push_back({command, [options](const Context& context) { return discard(*options, context); }});
 }
 
-void addSet(CLI::App& app, Commands& commands) {
+void addSet(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "set", "change settings, all or none, and read them back");
+    Subcommand command(line, "set",
+                       {"change settings, all or none, and read them back",
+                        "Einstellungen ändern, alle oder keine, und rücklesen"});
     command
-        .option("NAME=VALUE", options->assignments,
-                "a number, a choice by number or text, a text; NAME[3] for an element or one of a series")
+        .argument({"NAME=VALUE", "NAME=WERT"}, options->assignments,
+                  {"a number, a choice by number or text, a text; NAME[3] for an element or one of a series",
+                   "eine Zahl, eine Auswahl als Zahl oder Text, ein Text; NAME[3] für ein Element oder eines "
+                   "einer Reihe"})
         .required();
     options->order.takeOptions(command);
     commands.push_back({command, [options](const Context& context) { return set(*options, context); }});
 }
 
-void addApply(CLI::App& app, Commands& commands) {
+void addApply(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
-    Subcommand command(app, "apply", "the same from a file with lines NAME=VALUE");
-    command.option("PLAN", options->file, "a first line '# for: Feeder 7' is checked against Name")
+    Subcommand command(
+        line, "apply",
+        {"the same from a file with lines NAME=VALUE", "dasselbe aus einer Datei mit Zeilen NAME=WERT"});
+    command
+        .argument({"PLAN", "PLAN"}, options->file,
+                  {"a first line '# for: Feeder 7' is checked against Name",
+                   "eine erste Zeile '# for: Abgang 7' wird mit Name verglichen"})
         .required();
     options->order.takeOptions(command);
     commands.push_back({command, [options](const Context& context) { return apply(*options, context); }});
