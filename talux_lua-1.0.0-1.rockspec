@@ -18,6 +18,7 @@ build = {
     lua = {
       talux = "lua/talux.lua",
       ["talux.checks"] = "lua/talux/checks.lua",
+      ["talux.clock"] = "lua/talux/clock.lua",
       ["talux.dictionary"] = "lua/talux/dictionary.lua",
       ["talux.files"] = "lua/talux/files.lua",
       ["talux.numbers"] = "lua/talux/numbers.lua",
@@ -26,6 +27,7 @@ build = {
       ["talux.parameters_en"] = "build-rock/generated/lua/talux/parameters_en.lua",
       ["talux.protocol"] = "lua/talux/protocol.lua",
       ["talux.records"] = "build-rock/generated/lua/talux/records.lua",
+      ["talux.sources"] = "lua/talux/sources.lua",
       ["talux.stopwatch"] = "lua/talux/stopwatch.lua",
     },
   },

@@ -6,6 +6,7 @@ local dictionary = require "talux.dictionary"
 local files = require "talux.files"
 local numbers = require "talux.numbers"
 local protocol = require "talux.protocol"
+local sources = require "talux.sources"
 local stopwatch = require "talux.stopwatch"
 
 local command, find, abs, tonumber, type = talux_command, string.find, math.abs, tonumber, type
@@ -85,7 +86,7 @@ local function range(name, first, last)
   return (row and elements or series)(row or tostring(name), first, last)
 end
 
--- Lines that read, by the names that have been read: what is no name is no line either.
+-- Lines that read, by the names that have been read.
 local lines = {}
 
 ---The value of a parameter: a number, for a choice its number, or a text. With `first` that element of an
@@ -320,6 +321,27 @@ function talux.load(file) loadFile("load", file) end
 function talux.load_ip(file) loadFile("load_ip", file) end
 function talux.load_sec() loadFile("load_sec") end
 
+-- ---- Without loading ----
+
+local function settingsOf(source)
+  if type(source) == "table" then return source end
+  local settings, reason = sources.read(tostring(source), function(name) return valueOf(command("TLX_" .. name)) end)
+  if not settings then error(reason, 3) end
+  return settings
+end
+
+---The settings of a file, or of a folder with the three files, as a load would keep them, by name. Also those of
+---the factory ("default") and of the working copy ("staged"). Changes nothing.
+---@param source string
+---@return table<string, any>
+function talux.read(source) return (settingsOf(source)) end
+
+---In which settings that both hold b differs from a: sources as read takes them, or tables of settings.
+---@param a string|table<string, any>
+---@param b string|table<string, any>
+---@return talux.Change[]
+function talux.differences(a, b) return (sources.differences(settingsOf(a), settingsOf(b))) end
+
 -- ---- In words ----
 
 local languages = {"de", "en"} -- as the parameter Language counts them
@@ -339,6 +361,7 @@ end
 ---@class talux.Parameter: talux.Row
 ---@field de? talux.Texts
 ---@field en? talux.Texts
+---@field members? {name: string, kind: string, unit?: string, de: string, en: string}[] of a record
 
 ---What is known of a parameter, with its texts in both languages or in one.
 ---@param name string
@@ -353,6 +376,7 @@ function talux.parameter(name, language)
     local texts = textsIn(known)[row.name]
     parameter[known] = {title = texts[1], description = texts[2], choices = texts[3]}
   end
+  parameter.members = row.kind == "record" and (require "talux.records")[row.name] or nil
   return parameter
 end
 
@@ -380,6 +404,32 @@ function talux.protocol(changes, language)
   end
   local text = protocol(changes, textsIn(language)) -- no tail call, which would hide the caller's line
   return text
+end
+
+talux.now = require "talux.clock"
+
+---Waits until a function gives something that is true: that, or nil when it has not by then. It is asked every
+---20 ms, and at least once.
+---@param condition fun(): any
+---@param seconds number
+---@return any
+function talux.wait(condition, seconds)
+  if type(condition) ~= "function" then error("a function expected", 2) end
+  if type(seconds) ~= "number" then error("a number of seconds expected", 2) end
+  local elapsed, found = stopwatch()
+  talux.every(20, function()
+    found = condition() or nil
+    return not found and elapsed() < seconds
+  end)
+  return found
+end
+
+---Whether the device program works: the counter of its records goes on within so many seconds.
+---@param seconds? number 2 if not given
+---@return boolean
+function talux.alive(seconds)
+  local before = talux.record "MessRecord01".Cnt
+  return talux.wait(function() return talux.record "MessRecord01".Cnt ~= before end, seconds or 2) or false
 end
 
 ---Calls a function at once and then every so many milliseconds, without drift, until it returns false. The

@@ -180,6 +180,7 @@ case("the cases that the program talux has, too: the same is refused, the same i
       end
     end
   end
+  os.remove "/tmp/ntp.conf" -- of the addresses
 end)
 
 case("every name that is none is refused with the nearest one", function()
@@ -300,6 +301,61 @@ case("files: an error when they fail, silently too", function()
   os.execute "rm /parameter.ini /sec_parameter.ini; mkdir /parameter.ini; ln -s /dev/null /sec_parameter.ini"
   refused("save: error: can't save parameter", talux.save)
   refused("save_sec: sec_parameter.ini does not hold Firewall_dis", talux.save_sec)
+end)
+
+case("what a file holds is what a load keeps of it", function()
+  local first, restored = talux.read "staged", {}
+  local pieces = {"=", "==", " = ", " ", '"', "a", "#", ";", "//", "\t", "ä", "7", "12.75", "-3", "1e2", "0x1F", "7,5", "5 6", "", "1e40", "\r"}
+  for _ = 1, isolated and 20 or 0 do
+    local lines = {}
+    for k = 1, 300 do
+      local row, line = rows[random(#rows)], {}
+      if row.default then
+        for piece = 1, random(4) do line[piece] = pieces[random(#pieces)] end
+        if random() < 0.02 then line[#line + 1] = ("x"):rep(random(300)) end
+        lines[k] = (random() < 0.1 and " tlx_" or "TLX_") .. row.name .. (random() < 0.8 and "=" or "") .. table.concat(line)
+      else lines[k] = "# " .. row.name end
+    end
+    assert(io.open("/random.ini", "w")):write(table.concat(lines, "\n")):close()
+    talux.update()
+    local before, held = talux.read "staged", talux.read "/random.ini"
+    talux.load "random.ini"
+    local after = talux.read "staged"
+    for _, change in ipairs(talux.differences(before, after)) do
+      equal(held[change.name] ~= nil, true, change.name)
+    end
+    for name, value in pairs(held) do
+      local row = talux.parameter(name)
+      local isClock, found = row.kind:find "clock", row.kind == "double" and value or after[name]
+      if not isClock and math.abs(tonumber(value) or 0) < 1e9 then
+        equal(row.kind == "float" and math.abs(found - value) < 1e-5 * math.max(1, math.abs(value)) or found == value, true,
+          ("%s = %s, file %s"):format(name, tostring(found), tostring(value)))
+      end
+    end
+  end
+  for name, value in pairs(first) do restored[#restored + 1] = ("TLX_%s=%s\n"):format(name, type(value) == "string" and '"' .. value .. '"' or numbers.write(value)) end
+  if isolated then
+    assert(io.open("/random.ini", "w")):write(table.concat(restored)):close()
+    talux.load "random.ini"
+    equal(#talux.differences(first, "staged"), 0, "restored")
+  end
+  equal(#talux.differences("default", {Uearth = 30 + 1e-9, Name = "x"}), 1, "floats as they are stored")
+  for _, path in ipairs {"/nothing", "/proc"} do
+    local _, reason = pcall(talux.differences, "default", path)
+    equal(reason:find(path .. ": ", 1, true) ~= nil, true, reason)
+  end
+end)
+
+case("the clock has fractions, a condition is waited for, and the device program is missed", function()
+  local start, last = talux.now(), 0
+  equal(math.abs(start - os.time()) < 1.2, true, "now " .. start)
+  equal(talux.wait(function() last = last + 1 return last == 4 and "four" end, 5), "four", "came true")
+  equal(talux.wait(function() return false end, 0.1), nil, "never")
+  local passed = talux.now() - start
+  equal(passed > 0.1 and passed < 3, true, "passed " .. passed)
+  equal(talux.alive(0.1), false, "nobody counts")
+  equal(talux.parameter("MessRecord01").members[4].unit, "kV", "unit of U1p")
+  equal(pcall(talux.wait, 5, 5), false, "no function")
 end)
 
 case("changes are told with title, unit and choice in either language", function()

@@ -4,6 +4,7 @@
 
 #include "tools/Strings.h"
 #include "tools/generator/Tables.h"
+#include "tools/pages/Records.h"
 #include "tools/reference/Reference.h"
 
 namespace talux::generator {
@@ -92,15 +93,27 @@ std::string texts(const Model& model, ParamLanguage language) {
 
 // ---- Records ------------------------------------------------------------------------------------------
 
+std::string unitOf(const Model& model, std::string_view name) {
+    for (const Parameter parameter : model.rows)
+        if (parameter.name() == name) return parameter.unit();
+    return {};
+}
+
 // The members in their order.
 std::string records(const Model& model) {
     std::string text = joined({kHead, "return {\n"});
-    forEachNamed(model, [&text](const Parameter& parameter) {
+    forEachNamed(model, [&](const Parameter& parameter) {
         if (parameter.type().nature != Nature::record) return;
         std::vector<std::string> members;
-        for (const StructMemberProperties_t& member : reference::members(parameter))
-            members.push_back(joined(
-                {"{name = ", quoted(member.aszMemberName), ", kind = ", quoted(member.szMemberType), "}"}));
+        const auto texts = pages::memberTextsOf(parameter);
+        for (const StructMemberProperties_t& member : reference::members(parameter)) {
+            const pages::MemberTexts& own = texts.at(member.aszMemberName);
+            const std::string unit = unitOf(model, own.twin);
+            members.push_back(
+                joined({"{name = ", quoted(member.aszMemberName), ", kind = ", quoted(member.szMemberType),
+                        unit.empty() ? "" : ", unit = ", unit.empty() ? unit : quoted(unit),
+                        ", de = ", quoted(own.de), ", en = ", quoted(own.en), "}"}));
+        }
         text += joined({parameter.name(), " = ", braced(members), ",\n"});
     });
     return text + "}\n";

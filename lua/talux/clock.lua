@@ -1,0 +1,33 @@
+-- The clock of the device with fractions of a second, which Lua does not have: what another program shows once,
+-- and the time that has passed since.
+local numbers = require "talux.numbers"
+local stopwatch = require "talux.stopwatch"
+
+local elapsed, start
+
+-- Where the program `date` knows no fractions, the moment when the seconds change.
+local function set()
+  elapsed = stopwatch()
+  local pipe = io.popen "date +%s.%N"
+  local shown = pipe and pipe:read "*l" or ""
+  if pipe then pipe:close() end
+  start = shown:find "^%d+%.%d+$" and numbers.read(shown)
+  if start then
+    start = start - elapsed()
+  else
+    local before = os.time()
+    repeat talux_usleep(2000) until os.time() ~= before
+    start = os.time() - elapsed()
+  end
+end
+
+---Seconds since 1970, to a hundredth; the clock may be set meanwhile.
+---@return number
+return function()
+  local now = start and start + elapsed()
+  if not now or math.abs(now - os.time() - 0.5) > 0.6 then
+    set()
+    now = start + elapsed()
+  end
+  return now
+end
