@@ -155,6 +155,7 @@ private:
         }
         if (!lookAtStack(piece)) return false;
         if (decision.isVariable) lookAtVariable(piece);
+        if (decision.action == Action::command) lookAtCommand(piece);
         numberWritten =
             decision.action == Action::write && !isText(*decision.row) ? parameterOf(decision) : nullptr;
         written = decision.variable.value.value_or("");
@@ -215,6 +216,28 @@ private:
         }
         depth -= operands - 1;
         return true;
+    }
+
+    // Only the beginning of a command counts, and only two of them take a file name, up to a blank.
+    void lookAtCommand(const Piece& piece) {
+        const kepl::CommandRow& row = rowOf(kepl::kCommands, piece.decision.command);
+        std::string_view rest = piece.term;
+        const std::string_view word = kepl::takeWord(rest, ' ');
+        if (word.size() > row.word.size())
+            add(placeOf(piece), fill(context.say("{} is carried out as {}: what follows does not count",
+                                                 "{} wird als {} ausgeführt: was folgt, zählt nicht"),
+                                     {printable(word), row.word}));
+        const std::string_view file = row.takesFile ? kepl::takeWord(rest, ' ') : "";
+        const std::string_view ignored = kepl::withoutLeading(rest, ' ');
+        if (ignored.empty()) return;
+        add(placeOf(piece),
+            file.empty() ? fill(context.say("{} takes no file name: {} is ignored",
+                                            "{} nimmt keinen Dateinamen: {} bleibt unbeachtet"),
+                                {row.word, printable(ignored)})
+                         : fill(context.say("loads {}: a blank ends the file name, {} is ignored",
+                                            "lädt {}: ein Leerzeichen beendet den Dateinamen, {} bleibt "
+                                            "unbeachtet"),
+                                {printable(file), printable(ignored)}));
     }
 
     void lookAtVariable(const Piece& piece) {

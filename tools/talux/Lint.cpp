@@ -18,6 +18,7 @@
 #include "tools/talux/LuaTokens.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
+#include "tools/talux/change/Plan.h"
 
 namespace talux::tool {
 
@@ -108,8 +109,12 @@ public:
                 lintCommand(k + 1);
             else if (isArrayGet(k))
                 lintArray(k + 3, tokens[k].text);
-            else if (isLayerCall(k))
-                lintLayer(k + 3);
+            else if (at(k).is("talux") && isOwn(k) && at(k + 1).is("."))
+                lintLayer(k + 2);
+            else if (at(k).is("while") || at(k).is("repeat"))
+                lintLoop(k);
+            else
+                lintName(k);
         }
     }
 
@@ -141,14 +146,6 @@ private:
     bool isArrayGet(std::size_t k) const {
         return (at(k).is("talux_longarray") || at(k).is("talux_doublearray")) && at(k + 1).is(".") &&
                at(k + 2).is("get") && at(k + 3).is("(");
-    }
-
-    // talux.get "Uearth", talux.set("Uearth", 35), ..
-    bool isLayerCall(std::size_t k) const {
-        constexpr std::string_view kFunctions[] = {"get", "set", "record", "parameter"};
-        return at(k).is("talux") && isOwn(k) && at(k + 1).is(".") &&
-               std::ranges::find(kFunctions, at(k + 2).text) != std::end(kFunctions) &&
-               (at(k + 3).is("(") || isText(k + 3));
     }
 
     // The constant that begins at token k, which is behind a "(" or a text in its place; nothing when what
@@ -244,17 +241,110 @@ private:
     }
 
     // The layer takes "prio_list" for prio_list_1, prio_list_2, ..
-    static bool isNameOrSeries(std::string_view name) {
-        return std::ranges::any_of(reference::parameters(), [name](const Parameter& parameter) {
-            return !parameter.isTemplate() && startsIgnoringCase(parameter.name(), name);
-        });
+    static bool isNameOrSeries(const std::string& name) {
+        return !named(name).empty() || !named(name + "_").empty();
     }
 
+    // A call of the layer; `k`: the function's name.
     void lintLayer(std::size_t k) {
-        const auto constant = argumentAt(k);
-        if (!constant || !constant->isWhole || isNameOrSeries(constant->text)) return;
-        findings.add(constant->where.empty() ? at(k).at : constant->where[0],
-                     unknownName(constant->text, context));
+        constexpr std::string_view kNamed[] = {"get", "set", "record", "parameter"};
+        constexpr std::string_view kOthers[] = {"try",         "apply",   "update",   "save",     "save_sec",
+                                                "save_ip",     "load",    "load_ip",  "load_sec", "read",
+                                                "differences", "changed", "protocol", "now",      "wait",
+                                                "alive",       "every"};
+        const std::string& function = at(k).text;
+        const std::size_t argument = k + 1;
+        if (!at(argument).is("(") && !at(argument).is("{") && !isText(argument)) return;
+        const bool takesName = std::ranges::find(kNamed, function) != std::end(kNamed);
+        if (!takesName && std::ranges::find(kOthers, function) == std::end(kOthers) && !isMade(k - 2))
+            findings.add(
+                at(k).at,
+                fill(context.say("talux has no function {}", "talux hat keine Funktion {}"), {function}));
+        if (function == "apply") lintTable(at(argument).is("(") ? argument + 1 : argument, {});
+        const auto constant = takesName ? argumentAt(argument) : std::nullopt;
+        if (!constant || !constant->isWhole) return;
+        std::size_t value = argument + 1;
+        if (!isNameOrSeries(constant->text))
+            findings.add(constant->where.empty() ? at(argument).at : constant->where[0],
+                         unknownName(constant->text, context));
+        else if (function == "set" && skipArgument(value))
+            lintValue(value, constant->text);
+    }
+
+    // "function talux_mine(", "talux_mine = .."
+    bool isMade(std::size_t k) const { return k > 0 && at(k - 1).is("function"); }
+
+    // {Uearth = 35, BAassign = {[3] = "qu2 ->F"}, ["Name"] = "x"}; `k`: the "{".
+    void lintTable(std::size_t k, const std::string& series) {
+        if (!at(k).is("{")) return;
+        std::size_t entry = k + 1;
+        do {
+            const bool isKey = at(entry).is("[") && at(entry + 2).is("]") && at(entry + 3).is("=");
+            const bool isField = isName(entry) && at(entry + 1).is("=");
+            if (!isKey && !isField) continue;
+            const std::string& key = at(isKey ? entry + 1 : entry).text;
+            if (isKey && isName(entry + 1)) continue; // [x] = ..
+            lintValue(entry + (isKey ? 4 : 2), series.empty() ? key : fill("{}[{}]", {series, key}));
+        } while (skipArgument(entry) && !at(entry).is("}"));
+    }
+
+    // A constant that talux.set or talux.apply is to write. `k`: where it begins.
+    void lintValue(std::size_t k, const std::string& label) {
+        if (at(k).is("{")) return lintTable(k, label);
+        const bool isNegative = at(k).is("-");
+        const LuaToken& token = at(isNegative ? k + 1 : k);
+        const LuaToken& next = at(isNegative ? k + 2 : k + 1);
+        const bool isWhole = next.is(",") || next.is(")") || next.is("}") || next.is(";");
+        const bool isFlag = token.is("true") || token.is("false");
+        if (!isWhole || (token.kind != LuaToken::Kind::number && !isText(k) && !isFlag)) return;
+        const std::string text = isFlag ? (token.is("true") ? "1" : "0") : token.text;
+        if (text.starts_with("0x") || text.starts_with("0X")) return;
+        Plan plan(context, false);
+        plan.take(label, isNegative ? "-" + text : text);
+        for (const std::string& refusal : plan.refusals())
+            findings.add(at(k).at, refusal);
+        if (plan.refusals().empty() && isText(k) && text.find_first_of(",=\"") != text.npos)
+            findings.add(at(k).at,
+                         fill(context.say("{}: a line carries no comma, equals sign or double quote",
+                                          "{}: eine Zeile kann kein Komma, Gleichheitszeichen "
+                                          "oder Anführungszeichen enthalten"),
+                              {label}));
+    }
+
+    // "while true do" and "repeat .. until false" that nothing in them ends or holds up. `k`: the first word.
+    void lintLoop(std::size_t k) {
+        const bool isWhile = at(k).is("while");
+        if (isWhile &&
+            !((at(k + 1).is("true") || at(k + 1).kind == LuaToken::Kind::number) && at(k + 2).is("do")))
+            return;
+        constexpr std::string_view kEnds[] = {"break", "return", "goto",  "error", "exit",         "assert",
+                                              "every", "wait",   "yield", "read",  "talux_usleep", "sleep"};
+        int depth = 0;
+        for (std::size_t word = k + (isWhile ? 2 : 0); word + 1 < tokens.size(); ++word) {
+            const LuaToken& token = at(word);
+            if (std::ranges::find(kEnds, token.text) != std::end(kEnds) && isName(word)) return;
+            if (token.is("do") || token.is("then") || token.is("function") || token.is("repeat")) ++depth;
+            if (token.is("elseif")) --depth; // its "then" follows
+            if (token.is("end") || token.is("until")) --depth;
+            if (depth > 0) continue;
+            if (isWhile || at(word + 1).is("false"))
+                findings.add(at(k).at,
+                             context.say("never ends and never pauses: talux.every and talux_usleep do",
+                                         "endet nie und macht keine Pause: talux.every und "
+                                         "talux_usleep tun es"));
+            return;
+        }
+    }
+
+    // A misspelt function of the module.
+    void lintName(std::size_t k) {
+        const std::string& name = at(k).text;
+        const bool isCall = isName(k) && (at(k + 1).is("(") || isText(k + 1)) && isOwn(k) && !isMade(k);
+        if (isCall && name.starts_with("talux_") && name != "talux_getlasterror" && name != "talux_usleep" &&
+            !aliases.contains(name))
+            findings.add(at(k).at,
+                         fill(context.say("the module has no function {}", "das Modul hat keine Funktion {}"),
+                              {name}));
     }
 
     // Moves behind the next comma of the argument list; false when the list ends before.

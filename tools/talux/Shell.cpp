@@ -1,6 +1,7 @@
 // talux shell: the command language with completion, history and help.
 #include "tools/talux/Shell.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -133,13 +134,13 @@ private:
         char terminator[] = "\n";
         char answer[kKeplTextSize + sizeof terminator] = "";
         char error[128] = "";
+        warn(line);
         const int result = interpreter.ProcessLine(copy.data(), showOutput, answer, terminator, level);
         if (result == kLineEmpty) return true;
         interpreter.GetError(error, sizeof error);
         if (result == kLineError) return refuse(error, line);
         if (answer == std::string(kepl::textOf(kepl::Refusal::rightsTooLow)) + terminator)
             return refuse(kepl::textOf(kepl::Refusal::rightsTooLow), line);
-        warn(line);
         if (answer != std::string_view(terminator)) print(answer);
         return true;
     }
@@ -156,10 +157,14 @@ private:
         return false;
     }
 
-    // What went through in silence and was perhaps not meant.
+    // What goes through in silence and is perhaps not meant, before it does; nothing of a line that is
+    // refused.
     void warn(const std::string& line) const {
         std::fflush(stdout);
-        for (const LineFinding& finding : checkLine(line, {.uid = level}, context))
+        const auto findings = checkLine(line, {.uid = level}, context);
+        if (std::ranges::any_of(findings, [](const LineFinding& finding) { return finding.isRefusal; }))
+            return;
+        for (const LineFinding& finding : findings)
             std::fprintf(stderr, "  %s\n", finding.text.c_str());
     }
 };

@@ -140,7 +140,7 @@ void Plan::refuse(const std::string& place, std::string_view label, std::string_
 
 void Plan::add(const Parameter& parameter, int index, const Value& value, const std::string& place) {
     Write write{&parameter, index, {}, value};
-    write.from = present(parameter, write.id());
+    if (onDevice) write.from = present(parameter, write.id());
     const auto kept = storedAs(write.id(), value);
     if (!ids.insert(write.id()).second)
         return refuse(place, write.label(), context.say("is named twice", "ist zweimal genannt"));
@@ -184,7 +184,7 @@ void Plan::take(std::string_view typed, std::string_view value, const std::strin
     const std::string_view element = label.index.empty() ? "" : isIndex(label.index) ? label.index : "?";
     const kepl::Decision decision = kepl::decideVariable(
         joined({parameter->name(), element.empty() ? "" : " ", element, "=", *meant}), kAllRights);
-    if (decision.refusal == kepl::Refusal::readOnly && isPresent(*parameter, value)) return;
+    if (decision.refusal == kepl::Refusal::readOnly && onDevice && isPresent(*parameter, value)) return;
     if (decision.isRefused()) return refuse(place, typed, reasonOf(decision, context));
     if (isClock && !isMoment(value, decision))
         return refuse(place, typed,

@@ -33,7 +33,8 @@ std::optional<Value> present(const Parameter& parameter, int id);
 
 class Plan {
 public:
-    explicit Plan(const Context& person) : context(person) {}
+    // Without the device it only says what cannot be written.
+    explicit Plan(const Context& person, bool isOnDevice = true) : context(person), onDevice(isOnDevice) {}
 
     // A value as it is typed: a number, the number or text of a choice, a text. `place` stands in front of
     // what is said about it.
@@ -61,6 +62,7 @@ public:
 
 private:
     const Context& context;
+    const bool onDevice;
     Writes planned;
     std::set<int> ids;
     std::vector<std::string> refused;
