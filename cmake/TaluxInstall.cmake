@@ -8,12 +8,16 @@ include(CMakePackageConfigHelpers)
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
 set(talux_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/talux_lua)
 
-# Consumers get talux_lua::lib_talux_lua, and talux_lua::talux with the handles besides.
+# Consumers get talux_lua::lib_talux_lua, and talux_lua::talux with the handles besides, by add_subdirectory too. A
+# program that uses nothing of the C++ libraries does not ask for them: a device has none.
 target_compile_features(lib_talux_lua INTERFACE cxx_std_17)
+target_link_options(lib_talux_lua INTERFACE -static-libgcc -Wl,--as-needed)
 add_library(talux_handles INTERFACE)
 set_target_properties(talux_handles PROPERTIES EXPORT_NAME talux)
 target_compile_features(talux_handles INTERFACE cxx_std_20)
 target_link_libraries(talux_handles INTERFACE lib_talux_lua)
+add_library(talux_lua::lib_talux_lua ALIAS lib_talux_lua)
+add_library(talux_lua::talux ALIAS talux_handles)
 
 # talux_install(COMPONENT TARGETS|FILES|..): what lies at the same place in both layouts.
 function(talux_install component)

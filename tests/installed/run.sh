@@ -10,7 +10,7 @@ shift 4
 project=$(cd "$(dirname "$0")/../.." && pwd)
 work=$build/tests/installed sysroot=${TALUX_BUILD_DIR:-$project}/build-sysroot/$architecture
 [ -w "$build" ] || { echo 'skipped: the build folder is closed to this user'; exit 77; }
-for command in qemu-arm:qemu-user pkg-config:pkg-config dpkg-deb:dpkg apt-get:apt; do
+for command in qemu-arm:qemu-user readelf:binutils pkg-config:pkg-config dpkg-deb:dpkg apt-get:apt; do
   command -v "${command%:*}" >/dev/null || { echo "skipped: needs the package ${command#*:}"; exit 77; }
 done
 "$project/scripts/isolated.sh" -- test -w / || { echo 'skipped: this root cannot be written'; exit 77; }
@@ -85,21 +85,38 @@ flags=$(PKG_CONFIG_LIBDIR=$work/tree/usr/local/lib/pkgconfig pkg-config --cflags
 answer=$(inside tree 'echo "6,7,*" | $run $programs/by-hand')
 [ "$answer" = 42.000000 ] || fail "entry built with pkg-config: $answer"
 
-# What the page tells of programs for a device, with the compiler of this architecture.
-page_block() { # WAY KIND: the block of that kind behind "**With WAY"
-  awk -v way="$1" -v fence="\`\`\`$2" '/^\*\*With / { on = index($0, way) } /^```$/ { block = 0 } block
+# What the page tells of programs for a device, with the compiler of this architecture: its program, and those with a
+# group, run where nothing but the C library is.
+page_block() { # LINE KIND: the first block of that kind behind a line that begins so
+  awk -v line="$1" -v fence="\`\`\`$2" 'index($0, line) == 1 { on = 1 } /^```$/ { if (block) exit }
+    block
     on && $0 == fence { block = 1 }' "$project/docs/linking.md"
 }
+bare=$work/bare
+rm -rf "$bare"
+mkdir -p "$bare/usr/lib"
+(cd "$sysroot" && find . \( -name 'ld-linux*' -o -name libc.so.6 -o -name libm.so.6 \) | tar -c -T -) | tar -x -C "$bare"
+cp -a "$work"/tree/usr/local/lib/lib_talux_lua.so.1 "$bare/usr/lib"
+page_block '## Groups' cpp >"$work/writer.cpp"
+page_block 'and the reader' cpp >"$work/reader.cpp"
 for way in CMake pkg-config; do
   rm -rf "$work/programs"
   mkdir "$work/programs"
-  cp "$project/examples/programs/station.cpp" "$work/programs"
-  page_block "$way" cmake >"$work/programs/CMakeLists.txt"
-  page_block "$way" sh | sed "s,arm-linux-gnueabihf,$multiarch,g; s,^tree=.*,tree=$work/tree/usr/local," >"$work/block.sh"
-  (cd "$work/programs" && CMAKE_GENERATOR=Ninja sh -eu "$work/block.sh" >/dev/null)
-  answer=$(inside tree '$run -E LD_LIBRARY_PATH=/usr/local/lib $programs/build/station Süd')
+  page_block "**With $way" cmake >"$work/programs/CMakeLists.txt"
+  page_block "**With $way" sh | sed "s,arm-linux-gnueabihf,$multiarch,g; s,^tree=.*,tree=$work/tree/usr/local," \
+    >"$work/block.sh"
+  for source in "$project/examples/programs/station.cpp" "$work/writer.cpp" "$work/reader.cpp"; do
+    program=$work/programs/${source##*/}
+    cp "$source" "$work/programs/station.cpp"
+    (cd "$work/programs" && CMAKE_GENERATOR=Ninja sh -eu "$work/block.sh" >/dev/null)
+    mv "$work/programs/build/station" "${program%.cpp}"
+    readelf -d "${program%.cpp}" | grep NEEDED | grep -Ev '\[(lib_talux_lua.so.1|lib[cm].so.6|ld-linux[^]]*)\]' &&
+      fail "$program by $way needs more than the C library"
+  done
+  answer=$(inside bare '$run $programs/station Süd; $run $programs/writer; $run $programs/reader')
   [ "$answer" = 'Name was ""
-Name is "Süd"' ] || fail "station by $way as docs/linking.md tells: $answer"
+Name is "Süd"
+cycle 7: 50.01 Hz' ] || fail "programs by $way as docs/linking.md tells: $answer"
 done
 
 # The packages: the first one alone is enough for scripts, and both hold what the tree holds, in the folders of
