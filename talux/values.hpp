@@ -2,6 +2,7 @@
 #ifndef TALUX_VALUES_HPP
 #define TALUX_VALUES_HPP
 
+#include <cstring>
 #include <string_view>
 
 #include "ParamSystem/TALUX_ParamStrings.h"
@@ -54,6 +55,8 @@ enum class Reason : unsigned char {
     notCarried, // a double quote, an equals sign, a line end: no parameter file brings them back
     readOnly,
     tooMany, // settings in one change
+    notSaved,
+    notLoaded,
 };
 
 // What came of a write: true when it was done.
@@ -141,6 +144,10 @@ constexpr std::string_view wordsOf(Reason reason) {
         return "VARIABLE IS READ ONLY";
     case Reason::tooMany:
         return "TOO MANY SETTINGS IN ONE CHANGE";
+    case Reason::notSaved:
+        return "NOT SAVED";
+    case Reason::notLoaded:
+        return "THE FILE CANNOT BE OPENED";
     }
     return {};
 }
@@ -186,6 +193,9 @@ inline Text Result::text() const {
         writer.put(" (up to ");
         writer.put(high);
         writer.put(" characters)");
+    } else if (cause == Reason::notSaved) {
+        writer.put(": ");
+        writer.put(std::strerror(static_cast<int>(low)));
     }
     return text;
 }

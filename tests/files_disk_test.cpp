@@ -216,6 +216,37 @@ TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
     EXPECT_GT(faults, 400);
 }
 
+// A save that says it worked has put file and copy in place; one that says it did not has told why.
+template <SavedFile file>
+int saveTruly() {
+    const int error = VarSaveError(file);
+    errno = error;
+    return error == 0 ? 1 : 0;
+}
+
+TEST_F(Disk, AnErrorIsGivenWheneverSomethingWasNotSaved) {
+    const Operation operations[] = {{saveTruly<SavedFile::parameters>, 8000, kOperations[0].files, ""},
+                                    {saveTruly<SavedFile::security>, 8002, kOperations[1].files, ""},
+                                    {saveTruly<SavedFile::addresses>, 8001, kOperations[3].files, ""}};
+    int refusals = 0;
+    for (const Operation& operation : operations) {
+        learn(operation);
+        for (const int error : {kShort, ENOSPC, EACCES})
+            for (int after = 0;; ++after) {
+                begin();
+                const auto [result, output, errors] = perform(operation, error, after);
+                if (*failedCall == '\0') break;
+                SCOPED_TRACE(operation.files[0] + ": " + failedCall + " " + std::to_string(error));
+                const bool isTold =
+                    holds(output + errors, "Can't open") || holds(output + errors, "Can't write");
+                EXPECT_EQ(result == 0, isTold) << output << errors;
+                EXPECT_TRUE(result == 0 || isFresh(operation));
+                refusals += 1 - result;
+            }
+    }
+    EXPECT_GT(refusals, 20);
+}
+
 // ---- The power fails ----
 
 // The disk after some steps. Changes of names reach it in their order, at the latest with a sync of the

@@ -50,17 +50,16 @@ public:
         }
     }
 
-    // 0 when the file cannot be created or is not surely kept. A failed write counts as done, with a message;
-    // the old file stays.
-    int writeTo(const char* filename, const Rights* rights) const {
+    // What failed is reported; a write that failed leaves the old file.
+    Replacement writeTo(const char* filename, const Rights* rights) const {
         if (!talux::areParametersLoaded()) {
             std::fprintf(stderr, "Error (TALUX_Var): no parameters loaded, '%s' stays as it is \n", filename);
-            return 0;
+            return {Written::notOpened, true, "", EINVAL};
         }
-        const Replacement replacement = fits ? talux::replaceFile(filename, {contents, length}, rights)
-                                             : Replacement{Written::notWritten, true, "write", EFBIG};
+        Replacement replacement = fits ? talux::replaceFile(filename, {contents, length}, rights)
+                                       : Replacement{Written::notWritten, true, "write", EFBIG};
         if (replacement.written != Written::done) report(filename, replacement);
-        return replacement.written == Written::done || replacement.written == Written::notWritten ? 1 : 0;
+        return replacement;
     }
 
 private:
@@ -69,54 +68,65 @@ private:
     bool fits = true;
 };
 
-// Writes the file and, with the same bytes, its dated copy. `first` is the result of the file: without it
-// there is no copy.
+// A failed write counts as done for those who ask for no reason.
+bool counts(const Replacement& replacement) {
+    return replacement.written == Written::done || replacement.written == Written::notWritten;
+}
+
+// Writes the file and, with the same bytes, its dated copy. Without the file there is no copy.
 struct Saved {
-    int first, copy;
+    Replacement file, copy;
+    bool isThere() const { return counts(file); }
+    int result() const { return isThere() && counts(copy) ? 1 : 0; }
 };
 Saved saveWithCopy(ParameterFile file) {
     const auto& row = talux::rowOf(talux::kParameterFiles, file);
     const Draft draft(file);
-    if (draft.writeTo(Path(file).get(), row.rights) != 1) return {0, 0};
-    return {1, draft.writeTo(Path::dated(row.stem).get(), row.rights)};
+    Saved saved{draft.writeTo(Path(file).get(), row.rights), {}};
+    if (saved.isThere()) saved.copy = draft.writeTo(Path::dated(row.stem).get(), row.rights);
+    return saved;
 }
 
 // A copy that fails still raises the flag: the file itself has been written.
-int commitAndSave(ParameterFile file) {
+Saved commitAndSave(ParameterFile file) {
     VarUpdateGlobalSpace();
     const Saved saved = saveWithCopy(file);
-    if (saved.first != 1) return 0;
-    talux::raise(talux::rowOf(talux::kParameterFiles, file).flag);
-    return saved.copy;
+    if (saved.isThere()) talux::raise(talux::rowOf(talux::kParameterFiles, file).flag);
+    return saved;
 }
 
-int saveAs(const char* filename, ParameterFile file) {
+Replacement saveAs(const char* filename, ParameterFile file) {
     return Draft(file).writeTo(filename, talux::rowOf(talux::kParameterFiles, file).rights);
+}
+
+Replacement commitAndSaveAddresses(const char* filename) {
+    VarUpdateGlobalSpace();
+    if (*filename == '\0') return {Written::notOpened, true, "", ENOENT};
+    const Replacement replacement = saveAs(filename, ParameterFile::address);
+    if (counts(replacement)) talux::raise(ChangeFlag::ip);
+    return replacement;
 }
 
 } // namespace
 
 int VarSaveParamFile(char* filename) {
-    return saveAs(filename, ParameterFile::normal);
+    return counts(saveAs(filename, ParameterFile::normal)) ? 1 : 0;
 }
 
 int VarSaveSecParamFile(char* filename) {
-    return saveAs(filename, ParameterFile::security);
+    return counts(saveAs(filename, ParameterFile::security)) ? 1 : 0;
 }
 
 int VarSaveIPConfigFile(char* filename) {
-    VarUpdateGlobalSpace();
-    if (*filename == '\0' || saveAs(filename, ParameterFile::address) != 1) return 0;
-    talux::raise(ChangeFlag::ip);
-    return 1;
+    return counts(commitAndSaveAddresses(filename)) ? 1 : 0;
 }
 
 int VarSaveParams(void) {
-    return commitAndSave(ParameterFile::normal);
+    return commitAndSave(ParameterFile::normal).result();
 }
 
 int VarSaveSecParams(void) {
-    return commitAndSave(ParameterFile::security);
+    return commitAndSave(ParameterFile::security).result();
 }
 
 int VarSaveIPConfig(void) {
@@ -125,6 +135,13 @@ int VarSaveIPConfig(void) {
 
 int VarSaveAll(void) {
     for (const ParameterFile file : {ParameterFile::normal, ParameterFile::security})
-        if (saveWithCopy(file).copy != 1) return 0;
+        if (saveWithCopy(file).result() != 1) return 0;
     return VarSaveIPConfig();
+}
+
+int VarSaveError(SavedFile file) {
+    if (file == SavedFile::addresses) return commitAndSaveAddresses(Path(ParameterFile::address).get()).error;
+    const Saved saved =
+        commitAndSave(file == SavedFile::security ? ParameterFile::security : ParameterFile::normal);
+    return saved.file.error != 0 ? saved.file.error : saved.copy.error;
 }
