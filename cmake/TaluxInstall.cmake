@@ -67,7 +67,11 @@ foreach(headers ParamSystem/*.h MenuSystem/TALUX_*.h talux/*.hpp)
 endforeach()
 talux_install(development FILES ${talux_generated}/talux/parameters.hpp ${talux_generated}/talux/records.hpp
   DESTINATION ${talux_include_dir}/talux)
-talux_install(development FILES src/talux_interpreter.h src/lib_talux_lua.h DESTINATION ${talux_include_dir}/src)
+talux_install(development FILES src/talux_interpreter.h src/talux_store.h src/lib_talux_lua.h
+  DESTINATION ${talux_include_dir}/src)
+
+# By which programs run on a PC.
+talux_install(development PROGRAMS scripts/isolated.sh DESTINATION ${CMAKE_INSTALL_DATADIR}/talux-lua-dev/scripts)
 
 # Pages and examples, beside each other as in the project so that their links hold.
 set(talux_doc_dir ${CMAKE_INSTALL_DATADIR}/doc/talux-lua-dev)

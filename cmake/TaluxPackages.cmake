@@ -30,6 +30,7 @@ controller.")
 set(CPACK_DEBIAN_DEB_DEVELOPMENT_PACKAGE_NAME talux-lua-dev)
 set(CPACK_DEBIAN_DEB_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEB_DEVELOPMENT_PACKAGE_DEPENDS "talux-lua (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_DEB_DEVELOPMENT_PACKAGE_SUGGESTS "bubblewrap")
 set(CPACK_COMPONENT_DEB_DEVELOPMENT_DESCRIPTION "Relay controller parameters, headers and documentation
 What it takes to build C and C++ programs against lib_talux_lua: headers, and
 the files by which CMake and pkg-config find the library; pages about

@@ -13,6 +13,10 @@
 #ifndef TALUX_TALUX_HPP
 #define TALUX_TALUX_HPP
 
+#if __cplusplus <= 201703L
+#error "talux/talux.hpp takes C++20: compile with -std=c++20, or take ParamSystem/TALUX_Var.h"
+#else // nothing but that is complained of
+
 #include "talux/change.hpp"
 #include "talux/group.hpp"
 
@@ -58,4 +62,5 @@ private:
 
 } // namespace talux
 
+#endif
 #endif

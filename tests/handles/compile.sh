@@ -27,6 +27,10 @@ printf '#include <talux/talux.hpp>\nconstexpr talux::Setting<float> threshold{"U
 [ "$(grep -o 'error: .*' "$work/messages" | cut -d: -f2)" = ' #error "no talux/parameters.hpp
  talux/records.hpp' ] || fail 'alone:' "$(cat "$work/messages")"
 
+# An older standard is named, before anything else.
+"${compile[@]}" -std=c++17 -fsyntax-only "$work/alone.cpp" 2>&1 | grep -m 1 'error:' | grep -q 'takes C++20' ||
+  fail 'C++17 is not refused'
+
 # A run that does not fit is seen while compiling, or where the optimiser sees it.
 for run in 'auto f() { return last.run<3>().get(); }' 'void f(std::span<float, 3> to) { last.get_run(to); }'; do
   echo "#include <talux/talux.hpp>

@@ -13,6 +13,7 @@ fail() { echo "$*"; exit 1; }
 
 awk -v work="$work" '
   /^```cpp$/ { out = work "/" ++count ".cpp"; printf "" >(work "/" count ".text"); next }
+  /^```python$/ { out = work "/" ++count ".py"; printf "" >(work "/" count ".text"); next }
   /^```text$/ { out = work "/" count ".text"; next }
   /^```/ { out = ""; next }
   out { print >out }' "$page"
@@ -28,7 +29,13 @@ for block in *.cpp; do
     "${compile[@]}" -std=c++17 -fsyntax-only inside.cc
   fi || fail "$page, block ${block%.cpp} does not compile"
 done
-"$project/scripts/isolated.sh" --read "$work" -- sh -euc 'for program in "$1"/*.program; do
+if [ -z "$emulator" ] && [ -x /usr/bin/python3 ]; then # else nobody runs them
+  for block in *.py; do
+    { echo '#!/usr/bin/python3'; cat "$block"; } >"${block%.py}.program"
+    chmod +x "${block%.py}.program"
+  done
+fi
+LD_LIBRARY_PATH=${library%/*} "$project/scripts/isolated.sh" --read "$work" -- sh -euc 'for program in "$1"/*.program; do
   echo "@ ${program%.program}.text"; $0 "$program"; done' "$emulator" "$work" >all || fail "a program of $page fails"
 awk '/^@ / { out = $2 ".new"; printf "" >out; next } { print >out }' all
 for program in *.program; do
@@ -38,7 +45,7 @@ for program in *.program; do
   awk -v block="${text%.text}" -v new="$text.new" '
     /^```/ { skips = 0 }
     !skips
-    /^```cpp$/ { ++count }
+    /^```(cpp|python)$/ { ++count }
     /^```text$/ && count == block { skips = 1; while ((getline line <new) > 0) print line }' "$page" >renewed
   cp renewed "$page"
 done

@@ -16,14 +16,14 @@ compile() { # HEADER COMPILER..
   echo "#include \"$header\"" >alone
   "$@" -Wall -Wextra -pedantic-errors -Werror -I. -fsyntax-only alone || { echo "$header: $*"; status=1; }
 }
-for header in ParamSystem/*.h MenuSystem/TALUX_*.h src/lib_talux_lua.h src/talux_interpreter.h; do
+for header in ParamSystem/*.h MenuSystem/TALUX_*.h src/lib_talux_lua.h src/talux_*.h; do
   for compiler in "$@"; do
     for standard in c++17 c++20; do
       compile "$header" "$compiler" -x c++ -std="$standard"
     done
   done
 done
-for header in ParamSystem/TALUX_Funcs.h src/talux_interpreter.h; do
+for header in ParamSystem/TALUX_Funcs.h src/talux_*.h; do
   for compiler in "$@"; do
     compile "$header" "$compiler" -x c -std=c99
   done

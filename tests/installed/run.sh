@@ -47,6 +47,10 @@ fresh_root tree
 DESTDIR=$work/tree "$cmake" --install "$build" --prefix /usr/local >/dev/null
 try_script tree
 
+# On a PC they run in the isolation that comes with them.
+isolation=$("$work/tree/usr/local/share/talux-lua-dev/scripts/isolated.sh" -- printenv TALUX_ISOLATION)
+[ "$isolation" = "$("$project/scripts/isolated.sh" -- printenv TALUX_ISOLATION)" ] || fail "isolated.sh: '$isolation'"
+
 # Programs that know the installed tree only, found by CMake and by pkg-config. The standards that they need come
 # with the targets. Only a device's processor sees addresses set, unless --apply is said.
 rm -rf "$work/programs"
@@ -142,6 +146,6 @@ for package in "$work"/*.deb; do
   [ "$(dpkg-deb -f "$package" Multi-Arch)" = "$multi" ] || fail "$package has a wrong Multi-Arch"
   dpkg-deb --fsys-tarfile "$package" | tar -t
 done | sed -nE "/\/$/d; s,^\./usr/lib/$multiarch/,./lib/,p
-  s,^\./usr/(bin|include|share/man|share/bash-completion|share/lua|share/doc/talux-lua-dev/(docs|examples|README))(.*),./\1\3,p" |
+  s,^\./usr/(bin|include|share/man|share/bash-completion|share/lua|share/talux-lua-dev|share/doc/talux-lua-dev/(docs|examples|README))(.*),./\1\3,p" |
   LC_ALL=C sort | diff "$work/tree.list" - || fail 'packages and installed tree differ'
 echo 'installed tree, programs and packages work'
