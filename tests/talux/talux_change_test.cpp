@@ -307,4 +307,91 @@ TEST_F(TaluxChange, KilledAtAnyMomentItIsWholeOrKnownAndMended) {
     EXPECT_GT(none, 0);
 }
 
+// On real interfaces, which the kernel has.
+class TaluxAddress : public TaluxChange {
+protected:
+    void SetUp() override {
+        TaluxChange::SetUp();
+        if (!isolated() ||
+            run("ip link add eth0 type veth peer name peer0 2>&1 && ip link set peer0 up").status != 0)
+            GTEST_SKIP() << "no pair of virtual interfaces can be made";
+        EXPECT_EQ(talux("boot --again --apply >/dev/null").status, 0);
+        EXPECT_EQ(network(), "192.168.55.127/16");
+        old = file("ip_config.ini");
+    }
+    void TearDown() override {
+        run("ip link del eth0 2>&1; rm -f /tmp/ntp.conf");
+        TaluxChange::TearDown();
+    }
+    static std::string network() {
+        const std::string line = run("ip -o -4 address show eth0 | sed 's/.*inet \\([^ ]*\\).*/\\1/'").output;
+        return line.substr(0, line.find('\n'));
+    }
+    static bool becomes(const std::string& address) {
+        for (int tries = 0; tries < 200 && network() != address; ++tries)
+            usleep(50000);
+        return network() == address;
+    }
+    // All over: the record is gone, and so is the guard.
+    void waitForTheEnd() const {
+        const auto guards = [] { return run("grep -l address-guard /proc/[0-9]*/comm 2>/dev/null").output; };
+        for (int tries = 0; tries < 200 && !guards().empty(); ++tries)
+            usleep(50000);
+        EXPECT_FALSE(std::filesystem::exists(directory / "address_change.tsv"));
+    }
+    void startChange(const char* seconds) {
+        const std::string folder = "--directory=" + directory.string();
+        start({folder.c_str(), "address", "ETH0_IP=10.1.2.3", "ETH0_MASK=255.255.255.0", "--yes", "--confirm",
+               seconds});
+        EXPECT_TRUE(waitFor("applied; `talux confirm`"));
+        EXPECT_EQ(network(), "10.1.2.3/24");
+        EXPECT_EQ(file("ip_config.ini"), old) << "with the supply gone now, the old ones are there";
+    }
+    std::string old;
+};
+
+TEST_F(TaluxAddress, StaysWhenItIsConfirmed) {
+    startChange("30");
+    for (const char* other : {"set Uearth=35 --yes", "address ETH0_IP=10.9.9.9 --yes"})
+        EXPECT_EQ(talux(other).status, 2) << "one at a time";
+    EXPECT_NE(talux("status").output.find("talux confirm"), std::string::npos);
+    EXPECT_EQ(talux("confirm").status, 0);
+    EXPECT_TRUE(waitFor("confirmed and saved"));
+    EXPECT_EQ(ended(), 0);
+    waitForTheEnd();
+    EXPECT_EQ(network(), "10.1.2.3/24");
+    EXPECT_NE(file("ip_config.ini").find("TLX_ETH0_IP=\"10.1.2.3\""), std::string::npos);
+    EXPECT_EQ(talux("confirm").status, 2) << "nothing waits";
+}
+
+TEST_F(TaluxAddress, IsTakenBackWhenNobodyConfirms) {
+    const auto isBack = [this] {
+        EXPECT_TRUE(becomes("192.168.55.127/16"));
+        waitForTheEnd();
+        EXPECT_EQ(file("ip_config.ini"), old);
+        EXPECT_EQ(value("ETH0_IP") + value("ETH0_MASK"), "\"192.168.55.127\"\"255.255.0.0\"");
+    };
+    startChange("1"); // the time passes
+    EXPECT_TRUE(waitFor("the old addresses are back"));
+    EXPECT_EQ(ended(), 1);
+    isBack();
+    startChange("2"); // the terminal and the command are gone
+    kill(child, SIGKILL);
+    close(terminal);
+    waitpid(std::exchange(child, 0), nullptr, 0);
+    isBack();
+    startChange("30"); // somebody takes it back
+    EXPECT_EQ(talux("undo --yes >/dev/null").status, 0);
+    EXPECT_TRUE(waitFor("the old addresses are back"));
+    EXPECT_EQ(ended(), 1);
+    isBack();
+    startChange("30"); // the supply fails
+    run("kill -9 $(grep -l address-guard /proc/[0-9]*/comm | cut -d/ -f3); ip address flush dev eth0");
+    EXPECT_TRUE(waitFor("the guard is gone"));
+    EXPECT_EQ(ended(), 2);
+    VarClean();
+    EXPECT_EQ(talux("boot --apply >/dev/null").status, 1);
+    isBack();
+}
+
 } // namespace

@@ -6,11 +6,13 @@
 #include <sys/utsname.h>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Os.h"
 #include "tools/talux/Command.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/StoredFile.h"
 #include "tools/talux/Text.h"
+#include "tools/talux/change/Confirm.h"
 
 namespace talux::tool {
 
@@ -59,7 +61,9 @@ public:
         say(context.say("factory defaults are live", "Werkseinstellungen sind aktiv"));
         load(reference::File::normal, VarLoadParams);
         load(reference::File::security, VarLoadSecParams);
-        if (applies)
+        if (os::exists(openAddress(context).c_str()))
+            takeBack();
+        else if (applies)
             loadAndApplyAddresses();
         else
             load(reference::File::address, [] { return VarLoadFile(addressFile().data(), 0); });
@@ -164,6 +168,14 @@ private:
         const int mode = reference::find("sec_mode")->row().id;
         VarSetBoolValue(mode, 1);
         VarSetGlobalBoolValue(mode, 1);
+    }
+
+    // The supply failed before somebody confirmed the new ones.
+    void takeBack() {
+        load(reference::File::address, [] { return VarLoadFile(addressFile().data(), 0); });
+        takeAddressBack(applies, context);
+        remember(kFound, context.say("an address was not confirmed: the old one is back",
+                                     "eine Adresse wurde nicht bestätigt: die alte gilt wieder"));
     }
 
     // Without a file the factory addresses are applied.

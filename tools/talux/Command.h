@@ -67,6 +67,8 @@ void addDiscard(CommandLine& line, Commands& commands);
 void addHistory(CommandLine& line, Commands& commands);
 void addRestore(CommandLine& line, Commands& commands);
 void addClone(CommandLine& line, Commands& commands);
+void addAddress(CommandLine& line, Commands& commands);
+void addConfirm(CommandLine& line, Commands& commands);
 
 } // namespace talux::tool
 

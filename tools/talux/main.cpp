@@ -47,9 +47,10 @@ ParamLanguage languageOf(int argc, char** argv) {
 }
 
 void addCommands(CommandLine& line, Commands& commands) {
-    for (const auto add : {addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport,
-                           addWatch, addSet, addApply, addUndo, addDiscard, addHistory, addRestore, addClone,
-                           addShell, addLint, addBoot, addAnnotations})
+    for (const auto add :
+         {addExplain, addList,    addCheck,   addDiff,  addStatus,  addFingerprint, addReport,
+          addWatch,   addSet,     addApply,   addUndo,  addDiscard, addHistory,     addRestore,
+          addClone,   addAddress, addConfirm, addShell, addLint,    addBoot,        addAnnotations})
         add(line, commands);
 }
 

@@ -60,27 +60,6 @@ std::string notInFile(const Writes& writes, reference::File file, const Context&
     return {};
 }
 
-void save(const Writes& writes, const Context& context) {
-    using reference::File;
-    constexpr struct {
-        File file;
-        int (*save)();
-    } kSaves[] = {
-        {File::normal, VarSaveParams}, {File::security, VarSaveSecParams}, {File::address, VarSaveIPConfig}};
-    for (const auto& each : kSaves) {
-        const File file = each.file;
-        if (std::ranges::none_of(writes,
-                                 [file](const Write& write) { return write.parameter->file() == file; }))
-            continue;
-        const bool isSaved = each.save() == 1;
-        if (const std::string lost = notInFile(writes, file, context); !lost.empty()) throw CouldNot(lost);
-        if (!isSaved)
-            throw CouldNot(fill(context.say("{}: saved, but without its dated copy",
-                                            "{}: gespeichert, aber ohne datierte Kopie"),
-                                {pathOf(file, context)}));
-    }
-}
-
 // From the first write to the last what ends the terminal or the reader of the output does not end it.
 // Programs that are started meanwhile have the usual handlers.
 class Undisturbed {
@@ -130,7 +109,9 @@ private:
     Journal journal;
 
     const Writes& writes() const { return journal.writes; }
-    bool actsAtOnce() const { return order.applies && std::ranges::any_of(writes(), &Write::actsAtOnce); }
+    bool isApplied() const {
+        return order.apply && (order.appliesAll || std::ranges::any_of(writes(), &Write::actsAtOnce));
+    }
 
     void show() const {
         if (order.json) return showJson();
@@ -158,14 +139,14 @@ private:
         std::string text = fill(context.say("Write {}?", "{} schreiben?"),
                                 {counted(writes().size(), context.say(" setting", " Einstellung"),
                                          context.say(" settings", " Einstellungen"))});
-        if (actsAtOnce())
+        if (isApplied() && !order.appliesAll)
             text += context.say(" The address is applied at once and may cut you off: `talux address` takes "
                                 "it back by itself.",
                                 " Die Adresse wird sofort angewendet und kann die Verbindung trennen: `talux "
                                 "address` nimmt sie "
                                 "selbst zurück.");
         const int others = pendingSettings(context);
-        if ((actsAtOnce() || order.reach() != Reach::pending) && others > 0)
+        if ((isApplied() || order.reach() != Reach::pending) && others > 0)
             text += fill(context.say(" Other pending settings become live, too: {}.",
                                      " Weitere anstehende Einstellungen werden gültig: {}."),
                          {std::to_string(others)});
@@ -183,7 +164,7 @@ private:
             writeOne(write, context);
             if (!isThere(write)) takeBack(write);
         }
-        if (actsAtOnce()) VarSetSystemIPs();
+        if (isApplied()) order.apply(journal);
         journal.isDone = true;
         if (!writes().empty()) keep();
         os::logInfo("talux %s: %zu settings by %s", printable(journal.what).c_str(), writes().size(),
@@ -208,6 +189,31 @@ private:
 };
 
 } // namespace
+
+void applyAtOnce(const Journal& /*journal*/) {
+    VarSetSystemIPs();
+}
+
+void save(const Writes& writes, const Context& context) {
+    using reference::File;
+    constexpr struct {
+        File file;
+        int (*save)();
+    } kSaves[] = {
+        {File::normal, VarSaveParams}, {File::security, VarSaveSecParams}, {File::address, VarSaveIPConfig}};
+    for (const auto& each : kSaves) {
+        const File file = each.file;
+        if (std::ranges::none_of(writes,
+                                 [file](const Write& write) { return write.parameter->file() == file; }))
+            continue;
+        const bool isSaved = each.save() == 1;
+        if (const std::string lost = notInFile(writes, file, context); !lost.empty()) throw CouldNot(lost);
+        if (!isSaved)
+            throw CouldNot(fill(context.say("{}: saved, but without its dated copy",
+                                            "{}: gespeichert, aber ohne datierte Kopie"),
+                                {pathOf(file, context)}));
+    }
+}
 
 void Order::takeOptions(Subcommand& command) {
     command.flag("--live", live,

@@ -3,17 +3,23 @@
 #ifndef TALUX_TOOLS_TALUX_CHANGE_APPLY_H
 #define TALUX_TOOLS_TALUX_CHANGE_APPLY_H
 
+#include <functional>
+
 #include "tools/talux/change/Journal.h"
 
 namespace talux::tool {
+
+void applyAtOnce(const Journal& journal);
 
 // What the commands that change settings take.
 struct Order {
     std::string what; // the command, for the record and the system log
     bool live = false, save = false, yes = false, dryRun = false, json = false;
     std::string protocol; // a file for the record; empty: none
-    bool applies = true;  // addresses to the system
-    bool mends = false;   // a change that was interrupted
+    // Applies addresses to the system; none: leaves them.
+    std::function<void(const Journal&)> apply = applyAtOnce;
+    bool appliesAll = false; // netmasks and gateways, too
+    bool mends = false;      // a change that was interrupted
 
     Reach reach() const { return save ? Reach::saved : live ? Reach::live : Reach::pending; }
     void takeOptions(Subcommand& command);
@@ -28,6 +34,9 @@ Status carryOut(const Plan& plan, const Order& order, const Context& context);
 
 // The same of values that were on the device before: without the checks of a plan.
 Status carryOut(const Writes& writes, const Order& order, const Context& context);
+
+// Saves the files of these settings. Throws CouldNot if one does not hold them then.
+void save(const Writes& writes, const Context& context);
 
 // Asks on the terminal; true if the answer is yes. Throws CouldNot where there is none to ask at.
 bool isAgreed(const std::string& question, const Context& context);

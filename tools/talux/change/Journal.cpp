@@ -166,6 +166,10 @@ std::string openAddress(const Context& context) {
 }
 
 std::string interruption(const Context& context) {
+    if (const auto open = Journal::read(openAddress(context), context))
+        return fill(context.say("'{}' of {} by {} waits for `talux confirm` or `talux undo`",
+                                "'{}' vom {} durch {} wartet auf `talux confirm` oder `talux undo`"),
+                    {open->what, open->when, open->who});
     const auto journal = Journal::read(lastChange(context), context);
     if (!journal || journal->isDone) return {};
     const Writes half = journal->written();

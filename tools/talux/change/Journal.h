@@ -37,7 +37,7 @@ struct Journal {
 std::string lastChange(const Context& context);
 std::string openAddress(const Context& context);
 
-// What a change that did not come to its end left half, and how to mend it; empty when nothing is.
+// What a change that has not come to its end left half or open, and how to end it; empty when nothing is.
 std::string interruption(const Context& context);
 
 // The user and, over the network, from where.

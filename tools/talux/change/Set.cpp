@@ -1,9 +1,11 @@
 // talux set, apply, undo, discard: settings changed all or none, and back.
 #include <memory>
 
+#include "ParamSystem/os/Files.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 #include "tools/talux/change/Apply.h"
+#include "tools/talux/change/Confirm.h"
 
 namespace talux::tool {
 
@@ -76,6 +78,12 @@ Writes backwards(const Writes& writes) {
 
 Status undo(const Options& options, const Context& context) {
     attachToWrite(context);
+    if (options.file.empty() && os::exists(openAddress(context).c_str())) {
+        if (!options.order.yes &&
+            !isAgreed(context.say("Take the address back?", "Adresse zurücknehmen?"), context))
+            return kFound;
+        return takeAddressBack(true, context) ? kNothing : kFound;
+    }
     const std::string path = options.file.empty() ? lastChange(context) : options.file;
     const auto journal = Journal::read(path, context);
     if (!journal)
@@ -102,7 +110,7 @@ Status discard(const Options& options, const Context& context) {
     }
     Order order = options.order;
     order.what = "discard";
-    order.applies = false; // what is live has been applied
+    order.apply = nullptr; // what is live has been applied
     return carryOut(writes, order, context);
 }
 
