@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "tools/pages/Facts.h"
+#include "tools/pages/Glossary.h"
 #include "tools/pages/Names.h"
 #include "tools/pages/Records.h"
 
@@ -56,6 +57,8 @@ void checkMembers(Faults& faults) {
 
 std::vector<std::string> faults() {
     Faults faults;
+    for (const Synonym& synonym : kSynonyms)
+        expectNames(faults, synonym.parameters);
     checkMethods(faults);
     checkMembers(faults);
     return faults;

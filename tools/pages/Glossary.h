@@ -275,6 +275,25 @@ inline constexpr Word kDeviceWords[] = {
      "Language in which scripts and programs read and write parameters."},
 };
 
+// What people look for under words that no title has, in both languages.
+struct Synonym {
+    std::string_view words;
+    std::string_view parameters; // names and patterns of series
+};
+
+inline constexpr Synonym kSynonyms[] = {
+    {"acknowledge acknowledgement quittieren Quittierung Rücksetzen", "BE_Reset_Button qu2_MsgResetEf"},
+    {"phase rotation phase sequence Drehfeld Drehsinn", "mw_phi_U{1..3} phiUI{1..3} MessRecord01"},
+    {"reversed CT polarity Wandlerpolung vertauscht", "phiUI{0..3} phi_corr_I{0..3} MessRecord01"},
+    {"Holmgreen residual connection Summenschaltung", "3Io_calc kni0"},
+    {"open delta offenes Dreieck", "Uen_calc knu0"},
+    {"daylight saving summer time Sommerzeit Winterzeit", "TIMEZONE"},
+    {"password Passwort Kennwort login Anmeldung",
+     "panel_users_active r{o,w}_pin_active RO_Pin_change RW_Pin_change sec_mode"},
+    {"pick-up Ansprechwert Ansprechschwelle", "Uearth"},
+    {"drop-out Rückfall", "Uearth_SigDur"},
+};
+
 } // namespace talux::pages
 
 #endif

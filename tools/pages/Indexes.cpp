@@ -18,7 +18,7 @@ Every parameter of the device, in English and German.
 
 | | |
 |---|---|
-| [parameters.html](parameters.html) | **all parameters on one page, to search as you type**, German or English. One file that needs no server and no network: copy it to a phone or a laptop, print from it |
+| [parameters.html](parameters.html) | **all parameters on one page, to search as you type**, German or English. One file that needs no server and no network: copy it to a phone or a laptop, print from it. A click copies a name, ticked rows make a plan for `talux apply` |
 | `parameters.csv` | the same as a table, for other programs (RFC 4180, UTF-8): beside this page in the package `talux-lua-dev`, in `generated/docs/parameters/` of a build folder |
 | [Detection methods](detection-methods.md) | which method for which neutral earthing; switch, thresholds, times, logs, outputs of each method |
 | [Records](records.md) | the members of the three records |

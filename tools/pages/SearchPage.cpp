@@ -5,7 +5,9 @@
 #include "tools/Strings.h"
 #include "tools/pages/Facts.h"
 #include "tools/pages/Glossary.h"
+#include "tools/pages/Names.h"
 #include "tools/pages/Pages.h"
+#include "tools/pages/Records.h"
 
 namespace talux::pages {
 
@@ -84,6 +86,19 @@ void addValue(Json& object, const Parameter& parameter) {
     if (parameter.row().val_len > 0) object.set("meant", parameter.row().val_len);
 }
 
+Json membersOf(const Parameter& record) {
+    Json members;
+    const auto texts = memberTextsOf(record);
+    for (const StructMemberProperties_t& member : reference::members(record)) {
+        const MemberTexts& text = texts.at(member.aszMemberName);
+        const Parameter* const twin = reference::find(text.twin);
+        Json own{{"name", member.aszMemberName}, {"de", text.de}, {"en", text.en}};
+        addText(own, "unit", twin == nullptr ? "" : twin->unit());
+        members.add(std::move(own));
+    }
+    return members;
+}
+
 Json objectOf(const Parameter& parameter) {
     Json object, notes;
     object.set("name", parameter.name());
@@ -102,6 +117,7 @@ Json objectOf(const Parameter& parameter) {
     addText(object, "shared", parameter.templateName());
     if (parameter.templateName().empty() && !parameter.choiceItems().empty())
         object.set("choices", ownChoices(parameter));
+    if (parameter.type().nature == Nature::record) object.set("members", membersOf(parameter));
     for (const int note : parameter.notes())
         notes.add(note);
     addList(object, "notes", std::move(notes));
@@ -139,6 +155,13 @@ std::string glossary() {
     });
 }
 
+Json synonymOf(const Synonym& synonym) {
+    Json names;
+    for (const std::string& name : namesOf(synonym.parameters))
+        names.add(name);
+    return {{"words", synonym.words}, {"names", std::move(names)}};
+}
+
 std::string data() {
     std::vector<Parameter> named;
     for (const Parameter& parameter : reference::parameters())
@@ -146,7 +169,8 @@ std::string data() {
     return joined({"{\"families\":", array(reference::model().families, familyOf, ","),
                    ",\"methods\":", array(reference::model().methods, bothTexts),
                    ",\"notes\":", array(reference::model().notes, noteOf), ",\"words\":", glossary(),
-                   ",\"shared\":", sharedChoices().line(), ",\"parameters\":", array(named, objectOf), "}"});
+                   ",\"synonyms\":", array(kSynonyms, synonymOf), ",\"shared\":", sharedChoices().line(),
+                   ",\"parameters\":", array(named, objectOf), "}"});
 }
 
 // Nothing in the data ends the element around them.
