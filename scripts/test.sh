@@ -24,6 +24,7 @@ packages      all     1        build armv7 armv5te lintian
 clang         all     3        build run tests clang
 threads       all     1        build run tests
 models        all     1        build spin
+crowd         all     1        build run
 commands      all     1        build run
 browser       all     1        build browser
 bench         all     1        build run bench
@@ -133,6 +134,14 @@ browser() {
     [[ $result = 'all right'* ]] || status=1
   done
   return "$status"
+}
+
+# As many programs as a device has in one store, killed and without room on the disk: CROWD_SECONDS long.
+crowd() {
+  [ "$(isolation)" != none ] || skip 'there are no namespaces to make a small disk with'
+  build release || return
+  tests/crowd/run.sh "${CROWD_SECONDS:-20}" |
+    awk -v notes="$results/notes" '{ print; fflush() } /^(crowd|FAULT)/ { print >>notes }'
 }
 
 # Without options and test packages there is the module and nothing else.

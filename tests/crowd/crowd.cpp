@@ -1,0 +1,373 @@
+// A crowd works in one store: device program, scripts, shell, savers, loaders, the tool. Every 50 ms one of
+// them is killed, and the disk fills and empties. Whoever reads a parameter file finds it whole, nobody
+// stands still for ten seconds, groups and locks recover, and at the end files and store agree.
+//
+//   crowd SECONDS DEVICE TALUX LUA SCRIPT     alone in an isolated root on a small disk
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <random>
+#include <regex>
+#include <sstream>
+#include <string>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+#include <ParamSystem/TALUX_Var.h>
+#include <fcntl.h>
+#include <talux/talux.hpp>
+
+#include "tools/Strings.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
+using namespace std::chrono_literals;
+using Command = std::vector<std::string>;
+
+constexpr auto kLongest = 10s;                             // without a sign of life
+constexpr auto kPatience = 3s;                             // after which a program is no longer killed
+const std::regex kAnswer("^(done$|refused: |Uearth is )"); // a sign of life
+// What the others and the disk bring about.
+const std::regex
+    kRefusal("^refused: .*(does not hold|No space left on device|can't save parameter|"
+             "changed since by something else|was interrupted|no change to take back|NOT STORED)");
+
+// ---- What was found ----
+
+std::mutex mutex;
+std::map<std::string, int> faults, answers;
+
+void fault(const std::string& text) {
+    const std::lock_guard lock(mutex);
+    if (faults[text]++ == 0) std::printf("crowd: %s\n", text.c_str());
+}
+
+// ---- The actors ----
+
+struct Actor {
+    std::string name;
+    Command command;
+    int pid = 0, output = -1, rounds = 0, kills = 0, longest = 0;
+    Clock::time_point since = Clock::now();
+    std::string line = {}, last = {};
+
+    void alive() {
+        const auto waited = Clock::now() - since;
+        longest = std::max(longest, static_cast<int>(waited / 1ms));
+        since = Clock::now();
+        ++rounds;
+    }
+};
+
+std::vector<char*> asArguments(Command& command) {
+    std::vector<char*> arguments;
+    for (std::string& word : command)
+        arguments.push_back(word.data());
+    arguments.push_back(nullptr);
+    return arguments;
+}
+
+void start(Actor& actor) {
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0) std::abort();
+    const auto arguments = asArguments(actor.command);
+    actor.pid = fork();
+    if (actor.pid == 0) {
+        setpgid(0, 0);
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        dup2(ends[1], 1);
+        dup2(ends[1], 2);
+        execvp(arguments[0], arguments.data());
+        _exit(127);
+    }
+    setpgid(actor.pid, actor.pid);
+    close(ends[1]);
+    fcntl(ends[0], F_SETFL, O_NONBLOCK);
+    actor.output = ends[0];
+}
+
+void answered(Actor& actor, const std::string& text) {
+    actor.alive();
+    const std::string plain = actor.name + ": " + std::regex_replace(text, std::regex("[0-9]+"), "#");
+    if (text.starts_with("refused: ") && !std::regex_search(text, kRefusal)) fault(plain);
+    const std::lock_guard lock(mutex);
+    ++answers[plain];
+}
+
+void heard(Actor& actor) {
+    char block[4096];
+    for (ssize_t size = 0; (size = read(actor.output, block, sizeof block)) > 0;)
+        for (const char c : std::string_view(block, static_cast<std::size_t>(size))) {
+            if (c != '\n') {
+                actor.line += c;
+                continue;
+            }
+            if (std::regex_search(actor.line, kAnswer)) answered(actor, actor.line);
+            actor.last = std::move(actor.line);
+            actor.line.clear();
+        }
+}
+
+// What ends by itself ends with a status that is one of its own.
+void ended(Actor& actor, int status) {
+    heard(actor);
+    close(actor.output);
+    actor.line.clear();
+    if (WIFEXITED(status) && WEXITSTATUS(status) <= 2) {
+        answered(actor, WEXITSTATUS(status) == 0 ? "ended" : "refused: " + actor.last);
+    } else if (!WIFSIGNALED(status) || WTERMSIG(status) != SIGKILL) {
+        fault(actor.name + " ended with " + std::to_string(status));
+    }
+}
+
+void stop(Actor& actor) {
+    int status = 0;
+    kill(-actor.pid, SIGKILL);
+    waitpid(actor.pid, &status, 0);
+    ended(actor, status);
+    ++actor.kills;
+}
+
+// ---- The readers ----
+
+std::string contents(const fs::path& path) {
+    std::ifstream file(path);
+    std::stringstream all;
+    all << file.rdbuf();
+    return all.str();
+}
+
+// The names of its lines; of a torn file other ones.
+std::string namesOf(const std::string& text) {
+    std::stringstream lines(text);
+    std::string names;
+    for (std::string line; std::getline(lines, line);)
+        names += line.substr(0, line.find('=')) + (line.find('=') == line.npos ? "?\n" : "\n");
+    return text.ends_with('\n') ? names : names + "torn";
+}
+
+struct Whole {
+    const char* start; // of the name
+    std::string names;
+};
+
+// Which of the three files this is, or a copy of.
+bool isRead(const std::vector<Whole>& files, const fs::path& path, int& seen) {
+    const std::string name = path.filename();
+    for (const Whole& file : files) {
+        if (!name.starts_with(file.start) || !name.ends_with(".ini")) continue;
+        const std::string text = contents(path);
+        if (text.empty() && !fs::exists(path)) return true; // removed since it was listed
+        ++seen;
+        return namesOf(text) == file.names;
+    }
+    return true;
+}
+
+void readFiles(const std::vector<Whole>& files, const std::atomic<bool>& goesOn, int& seen) {
+    while (goesOn) {
+        std::error_code ignored;
+        for (const auto& entry : fs::directory_iterator("/", ignored))
+            if (!isRead(files, entry.path(), seen)) fault("torn: " + entry.path().filename().string());
+        std::this_thread::sleep_for(1ms);
+    }
+}
+
+// The device writes record and values together.
+void readGroup(const std::atomic<bool>& goesOn, int& seen) {
+    constexpr talux::Measured<float> kPhases{"U1_prim"}, kFrequency{"f_grid"};
+    const talux::Group group("measurements", kPhases.run<3>(), kFrequency,
+                             talux::Record<talux::MessRecord01>{});
+    auto last = Clock::now();
+    std::uint32_t count = 0;
+    while (goesOn) {
+        std::array<float, 3> phases{};
+        float frequency = 0;
+        talux::MessRecord01 record{};
+        if (group.read(phases, frequency, record)) {
+            if (record.U1p != phases[0] || record.U3p != phases[2] || record.f_grid != frequency)
+                fault("torn group");
+            if (static_cast<std::uint32_t>(record.Cnt) != count) last = Clock::now(), ++seen;
+            count = static_cast<std::uint32_t>(record.Cnt);
+        }
+        if (Clock::now() - last > kLongest) fault("the group does not recover"), last = Clock::now();
+        std::this_thread::sleep_for(1ms);
+    }
+}
+
+// ---- The disk ----
+
+void removeCopies() {
+    std::error_code ignored;
+    for (const auto& entry : fs::directory_iterator("/", ignored))
+        if (entry.path().filename().string().find("param_2") != std::string::npos)
+            fs::remove(entry.path(), ignored);
+}
+
+void fillAndEmpty(const std::atomic<bool>& goesOn, int& fills) {
+    while (goesOn) {
+        const int file = open("/filler", O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
+        const std::string block(1024, '#');
+        while (write(file, block.data(), block.size()) > 0) {
+        }
+        fills += errno == ENOSPC;
+        std::this_thread::sleep_for(200ms);
+        close(file);
+        fs::remove("/filler");
+        removeCopies();
+        std::this_thread::sleep_for(400ms);
+    }
+}
+
+// ---- The play ----
+
+void play(std::vector<Actor>& actors, std::chrono::seconds length) {
+    std::mt19937 random{std::random_device{}()};
+    for (Actor& actor : actors)
+        start(actor);
+    auto nextKill = Clock::now() + 50ms, nextLine = Clock::now() + 10s;
+    for (const auto end = Clock::now() + length; Clock::now() < end;) {
+        std::this_thread::sleep_for(5ms);
+        for (Actor& actor : actors) {
+            heard(actor);
+            int status = 0;
+            if (waitpid(actor.pid, &status, WNOHANG) == actor.pid) ended(actor, status), start(actor);
+            if (Clock::now() - actor.since > kLongest) {
+                fault(actor.name + " stands still");
+                actor.since = Clock::now();
+            }
+        }
+        if (Clock::now() > nextLine) std::puts("  at work"), nextLine += 10s;
+        if (Clock::now() < nextKill) continue;
+        nextKill += 50ms;
+        Actor& actor = actors[random() % actors.size()];
+        if (Clock::now() - actor.since > kPatience) continue;
+        stop(actor);
+        start(actor);
+    }
+    for (Actor& actor : actors)
+        stop(actor);
+}
+
+// The first word that a command prints.
+std::string answer(Command command) {
+    Actor actor{"the end", std::move(command)};
+    start(actor);
+    fcntl(actor.output, F_SETFL, 0);
+    alarm(10);
+    char block[4096];
+    std::string text;
+    for (ssize_t size = 0; (size = read(actor.output, block, sizeof block)) > 0;)
+        text.append(block, static_cast<std::size_t>(size));
+    waitpid(actor.pid, nullptr, 0);
+    close(actor.output);
+    alarm(0);
+    return text.substr(0, text.find_first_of(" \n"));
+}
+
+void compareAtTheEnd(const std::string& talux) {
+    removeCopies();
+    std::ofstream("/last") << "Uearth=42\nName=\"last\"\n";
+    answer({talux, "undo", "--yes"}); // what was interrupted
+    answer({talux, "apply", "--save", "--yes", "/last"});
+    const std::string file = contents("/parameter.ini");
+    if (file.find("TLX_Name=\"last\"\n") == file.npos) fault("the last change is not in the file");
+    if (VarSaveAll() != 1) fault("the last save failed");
+    const std::string live = answer({talux, "fingerprint", "live"});
+    std::printf("crowd: at the end %s\n", live.c_str());
+    if (live.size() < 16 || answer({talux, "fingerprint", "/"}) != live)
+        fault("the files are not what is live");
+    answer({talux, "boot"});
+    if (answer({talux, "fingerprint", "live"}) != live) fault("a boot brings back something else");
+    for (const auto& entry : fs::directory_iterator("/"))
+        if (entry.path().extension() == ".tmp") fault("left: " + entry.path().string());
+}
+
+int report(const std::vector<Actor>& actors) {
+    for (const Actor& actor : actors)
+        std::printf("  %-10s %6d rounds, %4d kills, longest wait %d ms\n", actor.name.c_str(), actor.rounds,
+                    actor.kills, actor.longest);
+    for (const auto& [text, count] : answers)
+        std::printf("  %6d %s\n", count, text.c_str());
+    for (const auto& [text, count] : faults)
+        std::printf("FAULT %d times: %s\n", count, text.c_str());
+    return faults.empty() ? 0 : 1;
+}
+
+// The three files as they are at the beginning.
+std::vector<Whole> wholeFiles() {
+    char root[] = "";
+    VarInit(root);
+    LoadDefParamProperties();
+    VarSetDefault();
+    VarUpdateGlobalSpace();
+    if (VarSaveAll() != 1) fault("nothing can be saved");
+    return {{"param", namesOf(contents("/parameter.ini"))},
+            {"sec_param", namesOf(contents("/sec_parameter.ini"))},
+            {"ip_config", namesOf(contents("/ip_config.ini"))}};
+}
+
+std::vector<Actor> actorsWith(const std::string& device, const std::string& talux, const Command& script) {
+    const auto does = [&](const char* work) {
+        Command command = script;
+        command.emplace_back(work);
+        return command;
+    };
+    const auto shell = [&](std::initializer_list<std::string_view> pieces) {
+        return Command{"sh", "-c", talux::joined(pieces)};
+    };
+    std::vector<Actor> actors;
+    for (const auto& [name, command] : {
+             std::pair<std::string, Command>{"device", {device}},
+             {"set", does("set")},
+             {"change", does("change")},
+             {"save", does("save")},
+             {"save all", does("save_all")},
+             {"load", does("load")},
+             {"shell", shell({"printf 'TLX_Uearth=40\\nupdate\\nTLX_Uearth\\nsave\\n' | ", talux, " shell"})},
+             {"apply", shell({talux, " apply --save --yes /plan || ", talux, " undo --yes"})},
+         })
+        actors.push_back({name, command});
+    return actors;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const long length = argc > 5 ? std::strtol(argv[1], nullptr, 10) : 0;
+    if (length <= 0) return std::fputs("crowd SECONDS DEVICE TALUX LUA SCRIPT\n", stderr), 2;
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+    const std::vector<Whole> files = wholeFiles();
+    std::ofstream("/plan") << "Uearth=35\nqu2_Ice=7\n";
+    std::vector<Actor> actors = actorsWith(argv[2], argv[3], {argv[4], argv[5]});
+
+    std::atomic<bool> goesOn = true;
+    int filesSeen = 0, groupsSeen = 0, fills = 0;
+    std::thread disk([&] { fillAndEmpty(goesOn, fills); });
+    std::thread fileReader([&] { readFiles(files, goesOn, filesSeen); });
+    std::thread groupReader([&] { readGroup(goesOn, groupsSeen); });
+    play(actors, std::chrono::seconds(length));
+    goesOn = false;
+    for (std::thread* const each : {&disk, &fileReader, &groupReader})
+        each->join();
+    compareAtTheEnd(argv[3]);
+    std::printf("crowd: %d files and %d writes of the group read, the disk was full %d times\n", filesSeen,
+                groupsSeen, fills);
+    if (filesSeen == 0 || groupsSeen == 0 || fills == 0) fault("something was never seen");
+    return report(actors);
+}
