@@ -50,18 +50,34 @@ std::string kindText(const Parameter& parameter, const Context& context) {
             fill(context.say(", elements {} to {}", ", Elemente {} bis {}"),
                  {std::to_string(parameter.row().val_min_id), std::to_string(parameter.row().val_max_id)});
     if (parameter.row().val_len > 0 && parameter.textRoom() > 0)
-        text += fill(context.say(", at most {} characters", ", höchstens {} Zeichen"),
-                     {std::to_string(std::min(parameter.row().val_len, parameter.textRoom()))});
+        text +=
+            fill(context.say(", meant for at most {} characters", ", vorgesehen für höchstens {} Zeichen"),
+                 {std::to_string(std::min(parameter.row().val_len, parameter.textRoom()))});
+    if (parameter.textRoom() > 0 && parameter.writeLevel() > 0)
+        text += fill(context.say("; a line holds {} bytes", "; eine Zeile fasst {} Bytes"),
+                     {std::to_string(parameter.lineRoom())});
     if (parameter.row().is_volatile == 1) text += context.say(", run-time value", ", Laufzeitwert");
     return text;
 }
 
 std::string rightsOf(const Parameter& parameter, const Context& context) {
     const int level = parameter.writeLevel();
-    if (level == 0) return context.say("read-only, read at level 1", "nur lesen, ab Stufe 1");
+    if (level == 0)
+        return parameter.row().val_access == kReadOnly
+                   ? context.say("read-only, read at level 1", "nur lesen, ab Stufe 1")
+                   : context.say("read at level 1; a write has no effect",
+                                 "lesen ab Stufe 1; Schreiben bewirkt nichts");
     return fill(
         context.say("read at level 1, written at level {}", "lesen ab Stufe 1, schreiben ab Stufe {}"),
         {std::to_string(level)});
+}
+
+// Many choices have no specified minimum: what a write accepts below the first of them is not refused.
+std::string rangeText(const Parameter& parameter, const Context& context) {
+    std::string text = range(parameter, context.language);
+    if (parameter.type().kind == Kind::Enum && !parameter.hasMinimum())
+        text += context.say("; 0 and below are not refused", "; 0 und kleiner werden nicht abgelehnt");
+    return text;
 }
 
 std::string defaultText(const Parameter& parameter, const Context& context) {
@@ -77,7 +93,7 @@ public:
         addTexts(context.language);
         addTexts(context.otherLanguage());
         add(context.say("kind", "Art"), kindText(parameter, context));
-        add(context.say("range", "Bereich"), range(parameter, context.language));
+        add(context.say("range", "Bereich"), rangeText(parameter, context));
         add(context.say("default", "Werkseinst."), defaultText(parameter, context));
         add(context.say("choices", "Auswahl"), choices());
         if (parameter.type().nature == Nature::record) add(context.say("members", "Felder"), memberTexts());
