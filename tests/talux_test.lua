@@ -207,7 +207,7 @@ case("what cannot be read or written says why", function()
   for _, row in ipairs {
     {"MAC_adress", "x", "VARIABLE IS READ ONLY"}, {"Logout", 1, "A COMMAND KEEPS NO VALUE"},
     {"MessRecord01", 1, "A RECORD KEEPS NO VALUE"}, {"vBE", 1, "INDEX REQUIRED (1 to 96)"},
-    {"ETH0_MASK", "255.0.255.0", "NO NETMASK (ones in front of zeros as in 255.255.255.0)"},
+    {"ETH0_MASK", "255.0.255.0", "NO NETMASK (ones before zeros as in 255.255.255.0)"},
     {"ETH0_IP", "192.168.1", "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)"},
     {"Date", "2024-02-30", "NO DATE (as 2024-05-17)"}, {"Time", "24:00:00", "NO TIME (as 10:20:30)"},
     {"Time", "10:20:60", "NO TIME (as 10:20:30)"},

@@ -72,7 +72,7 @@ local forms = {
   address = address,
   ["interface address"] = address,
   ["interface gateway"] = address,
-  ["interface netmask"] = {isMask, "NO NETMASK (ones in front of zeros as in 255.255.255.0)"},
+  ["interface netmask"] = {isMask, "NO NETMASK (ones before zeros as in 255.255.255.0)"},
   ["date of the clock"] = {isDate, "NO DATE (as 2024-05-17)"},
   ["time of the clock"] = {isTime, "NO TIME (as 10:20:30)"},
 }

@@ -65,7 +65,7 @@ private:
 std::optional<Finding> wouldNotComeBack(const Parameter& parameter, const Value& value,
                                         const Context& context);
 
-// Four numbers of 0 to 255; of a netmask, ones in front of zeros.
+// Four numbers of 0 to 255; of a netmask, ones before zeros.
 bool isAddressText(std::string_view text);
 bool isNetmask(std::string_view text);
 
