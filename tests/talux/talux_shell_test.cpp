@@ -79,9 +79,34 @@ TEST_F(TaluxShell, ReadsAPipe) {
         run("printf '# note\\n\\nTLX_Name=\"x\"\\r\\nTLX_Name\\nquit\\nnonsense\\n' | talux shell 2>&1");
     EXPECT_EQ(fine.output, "\"x\"\n");
     EXPECT_EQ(fine.status, 0);
-    const Ended refused = run("printf 'TLX_Uearth=95\\n1,1,+\\nTLX_\\0Name' | talux shell 2>/dev/null");
+    const std::string lines = "printf 'TLX_U123ok=70\\nTLX_Uearth=95\\n1,1,+\\nTLX_\\0Name' | talux shell ";
+    const Ended refused = run(lines + "--keep-going 2>/dev/null");
     EXPECT_EQ(refused.output, "2.000000\n");
     EXPECT_EQ(refused.status, 1);
+    const Ended stopped =
+        run(lines + "2>&1 | tail -1; printf 'discard\\nTLX_U123ok\\n' | talux shell | tail -1");
+    EXPECT_EQ(stopped.output,
+              "  stopped here; pending settings: 2, see talux status\n80.000000\n");
+}
+
+TEST_F(TaluxShell, AsksBeforeAnAddressActsAndTakesChangesBack) {
+    const std::string address = "TLX_ETH0_IP=10.1.2.3";
+    EXPECT_EQ(run("talux set Uearth=35 --yes").status, 0);
+    start();
+    for (const std::string& line : {address, "TLX_Uearth=33," + address, std::string("load_ip")}) {
+        type(line + "\r");
+        EXPECT_TRUE(waitFor("[y/N] "));
+        EXPECT_TRUE(answers("n", ""));
+    }
+    EXPECT_TRUE(answers("TLX_ETH0_IP", "192.168.55.127"));
+    EXPECT_TRUE(answers("Uearth=33", "TLX_Uearth=33"));
+    type("undo\r");
+    EXPECT_TRUE(waitFor("[y/N] "));
+    EXPECT_TRUE(answers("y", ""));
+    EXPECT_TRUE(answers("TLX_Uearth", "30.000000"));
+    type("exit\r");
+    EXPECT_EQ(ended(), 0);
+    run("rm -f /last_change.tsv /.talux_lock");
 }
 
 } // namespace

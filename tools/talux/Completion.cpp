@@ -60,7 +60,7 @@ private:
 
     void firstWords(std::string_view typed, bool beginsLine) {
         if (beginsLine)
-            for (const std::string_view word : {kHelpWord, kQuitWord})
+            for (const std::string_view word : {kHelpWord, kQuitWord, kUndoWord, kDiscardWord})
                 offer(typed, std::string(word));
         for (const kepl::CommandRow& word : kepl::kCommands)
             offer(typed, std::string(word.word));

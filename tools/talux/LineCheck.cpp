@@ -40,7 +40,7 @@ std::string syntaxReason(const Decision& decision, const Context& context) {
         if (const Parameter* parameter = reference::find(name); parameter != nullptr && !name.empty())
             return fill(context.say("parameters are written with a prefix: TLX_{}",
                                     "Parameter stehen mit Vorsatz: TLX_{}"),
-                        {parameter->name()});
+                        {joined({parameter->name(), printable(decision.term.substr(name.size()))})});
         return fill(context.say("'{}' is no number, command, parameter, operator or function",
                                 "'{}' ist weder Zahl noch Befehl, Parameter, Operator oder Funktion"),
                     {term});

@@ -16,6 +16,7 @@
 #include "tools/talux/LineReader.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
+#include "tools/talux/change/Apply.h"
 
 namespace talux::tool {
 
@@ -23,6 +24,7 @@ namespace {
 
 struct Options {
     int level = 2;
+    bool keepGoing = false;
 };
 
 constexpr const char* kHelpEnglish =
@@ -37,6 +39,8 @@ constexpr const char* kHelpEnglish =
   update                     make everything pending live
   + - * / sin cos tan deg rad sqr sqrt    operands first: TLX_U12,1000,/
   system COMMAND             run a shell command (level 3)
+  undo, discard              take back the last change of talux set, apply ..; give up what is
+                             pending
   help NAME                  explain a parameter
   quit                       end, like ctrl-D; ctrl-C discards the line, Tab completes
 )";
@@ -53,6 +57,8 @@ constexpr const char* kHelpGerman =
   update                     alles Ausstehende gültig machen
   + - * / sin cos tan deg rad sqr sqrt    Operanden zuerst: TLX_U12,1000,/
   system BEFEHL              einen Shell-Befehl ausführen (Stufe 3)
+  undo, discard              die letzte Änderung mit talux set, apply .. zurücknehmen; Ausstehendes
+                             aufgeben
   help NAME                  einen Parameter erklären
   quit                       Ende, wie Strg-D; Strg-C verwirft die Zeile, Tab ergänzt
 )";
@@ -82,11 +88,11 @@ std::string historyFile() {
 
 class Shell {
 public:
-    Shell(const Options& options, const Context& person)
-        : context(person), level(options.level), directory(person.directory), interpreter(directory.data()) {}
+    Shell(const Options& given, const Context& person)
+        : options(given), context(person), level(given.level), directory(person.directory),
+          interpreter(directory.data()) {}
 
     Status run() {
-        const bool isPerson = isatty(STDIN_FILENO) == 1;
         const auto reader = isPerson ? terminalReader(historyFile(), context) : pipeReader();
         bool refused = false;
         if (isPerson)
@@ -95,19 +101,62 @@ public:
                               "Die Befehlssprache des Geräts: help zeigt sie, help NAME einen Parameter.\n"
                               "quit beendet.\n"));
         while (auto line = reader->next()) {
-            if (isPerson && *line == "?") line = kHelpWord;
-            if (*line == kQuitWord || (isPerson && *line == "exit")) break;
-            refused |= !take(*line);
+            if (*line == kQuitWord || *line == "exit") break;
+            const bool isTaken = take(*line == "?" ? std::string(kHelpWord) : *line);
+            refused |= !isTaken;
             std::fflush(stdout);
+            if (!isTaken && !isPerson && !options.keepGoing) return stopped(reader->next().has_value());
         }
         return refused && !isPerson ? kFound : kNothing;
     }
 
 private:
+    const Options& options;
     const Context& context;
     const int level;
+    const bool isPerson = isatty(STDIN_FILENO) == 1;
     std::string directory;
     KEPL_Interpreter interpreter;
+
+    Status stopped(bool isMoreToCome) const {
+        const int pending = pendingSettings(context);
+        if (isMoreToCome || pending > 0)
+            std::fprintf(stderr,
+                         context.say("  stopped here; pending settings: %d, see talux status\n",
+                                     "  hier angehalten; anstehende Einstellungen: %d, siehe talux status\n"),
+                         pending);
+        return kFound;
+    }
+
+    // A line from a pipe has been thought of before.
+    bool change(Status (*command)(bool isAgreed, const Context& context)) const {
+        try {
+            return command(!isPerson, context) != kCouldNot;
+        } catch (const CouldNot& error) {
+            report(error);
+            return false;
+        }
+    }
+
+    // Of what acts on the network at once.
+    bool isWanted(const std::string& line) const {
+        std::string_view rest = line, term;
+        while (isPerson && kepl::takeTerm(rest, term)) {
+            const kepl::Decision decision = kepl::decide(term, level);
+            const bool isAddress =
+                decision.action == kepl::Action::write && decision.row->type == kTypeIpAddress;
+            const bool isLoad = decision.action == kepl::Action::command && decision.words.empty() &&
+                                decision.command == kepl::Command::loadAddresses;
+            if (isAddress || isLoad)
+                return isAgreed(
+                    context.say("This applies the network at once and can cut you off; `talux address` "
+                                "takes an address back by itself. Go on?",
+                                "Das wendet das Netzwerk sofort an und kann die Verbindung trennen; `talux "
+                                "address` nimmt eine Adresse selbst zurück. Weiter?"),
+                    context);
+        }
+        return true;
+    }
 
     // False when the line was refused. Lines that begin with a hash mark are comments of scripts.
     bool take(const std::string& line) {
@@ -115,7 +164,9 @@ private:
         if (line == kHelpWord) return print(context.say(kHelpEnglish, kHelpGerman)), true;
         if (line.starts_with(kHelpWord) && line[kHelpWord.size()] == ' ')
             return explainName(line.substr(kHelpWord.size() + 1));
-        return evaluate(line);
+        if (line == kUndoWord) return change(undoLast);
+        if (line == kDiscardWord) return change(discardPending);
+        return !isWanted(line) || evaluate(line);
     }
 
     bool explainName(const std::string& name) const {
@@ -185,6 +236,9 @@ void addShell(CommandLine& line, Commands& commands) {
         .option("--level", options->level,
                 {"rights level, 0 to 3; 2 if not given", "Rechtestufe, 0 bis 3; sonst 2"})
         .inRange(0, 3);
+    command.flag(
+        "--keep-going", options->keepGoing,
+        {"go on after a refused line of a pipe", "nach einer abgelehnten Zeile aus einer Pipe weitermachen"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 

@@ -6,7 +6,9 @@
 
 namespace talux::tool {
 
-inline constexpr std::string_view kHelpWord = "help", kQuitWord = "quit";
+// Its own words, besides those of the language.
+inline constexpr std::string_view kHelpWord = "help", kQuitWord = "quit", kUndoWord = "undo",
+                                  kDiscardWord = "discard";
 
 } // namespace talux::tool
 

@@ -46,20 +46,6 @@ void writeOne(const Write& write, const Context& context) {
     KEPL_Interpreter(directory.data()).ProcessLine(line.data(), nullptr, answer, end, 3);
 }
 
-// Empty when it holds all of these settings.
-std::string notInFile(const Writes& writes, reference::File file, const Context& context) {
-    const std::string path = pathOf(file, context);
-    const Source saved = Source::open(path, context);
-    for (const Write& write : writes)
-        if (const auto found = saved.value(*write.parameter);
-            write.parameter->file() == file && !write.setsClock() &&
-            (!found || fileForm(*write.parameter, *found) != fileForm(*write.parameter, write.to)))
-            return fill(context.say("{} is written, but {} does not hold it",
-                                    "{} ist geschrieben, steht aber nicht in {}"),
-                        {write.label(), path});
-    return {};
-}
-
 // From the first write to the last what ends the terminal or the reader of the output does not end it.
 // Programs that are started meanwhile have the usual handlers.
 class Undisturbed {
@@ -196,22 +182,17 @@ void applyAtOnce(const Journal& /*journal*/) {
 
 void save(const Writes& writes, const Context& context) {
     using reference::File;
-    constexpr struct {
-        File file;
-        int (*save)();
-    } kSaves[] = {
-        {File::normal, VarSaveParams}, {File::security, VarSaveSecParams}, {File::address, VarSaveIPConfig}};
+    constexpr std::pair<File, SavedFile> kSaves[] = {{File::normal, SavedFile::parameters},
+                                                     {File::security, SavedFile::security},
+                                                     {File::address, SavedFile::addresses}};
     for (const auto& each : kSaves) {
-        const File file = each.file;
-        if (std::ranges::none_of(writes,
-                                 [file](const Write& write) { return write.parameter->file() == file; }))
-            continue;
-        const bool isSaved = each.save() == 1;
-        if (const std::string lost = notInFile(writes, file, context); !lost.empty()) throw CouldNot(lost);
-        if (!isSaved)
-            throw CouldNot(fill(context.say("{}: saved, but without its dated copy",
-                                            "{}: gespeichert, aber ohne datierte Kopie"),
-                                {pathOf(file, context)}));
+        const auto isIn = [&each](const Write& write) { return write.parameter->file() == each.first; };
+        if (std::ranges::none_of(writes, isIn)) continue;
+        if (const int error = VarSaveError(each.second); error != 0)
+            throw CouldNot(
+                fill(context.say("the settings are written, but {} is not saved: {}",
+                                 "die Einstellungen sind geschrieben, aber {} ist nicht gespeichert: {}"),
+                     {pathOf(each.first, context), std::generic_category().message(error)}));
     }
 }
 

@@ -35,6 +35,10 @@ Status carryOut(const Plan& plan, const Order& order, const Context& context);
 // The same of values that were on the device before: without the checks of a plan.
 Status carryOut(const Writes& writes, const Order& order, const Context& context);
 
+// The last change is taken back; pending settings become what is live. Both ask unless that is agreed.
+Status undoLast(bool isAgreed, const Context& context);
+Status discardPending(bool isAgreed, const Context& context);
+
 // Saves the files of these settings. Throws CouldNot if one does not hold them then.
 void save(const Writes& writes, const Context& context);
 

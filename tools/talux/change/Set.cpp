@@ -116,6 +116,18 @@ Status discard(const Options& options, const Context& context) {
 
 } // namespace
 
+Status undoLast(bool isAgreed, const Context& context) {
+    Options options;
+    options.order.yes = isAgreed;
+    return undo(options, context);
+}
+
+Status discardPending(bool isAgreed, const Context& context) {
+    Options options;
+    options.order.yes = isAgreed;
+    return discard(options, context);
+}
+
 void addUndo(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
     Subcommand command(line, "undo",
