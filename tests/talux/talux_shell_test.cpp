@@ -45,7 +45,10 @@ TEST_F(TaluxShell, CompletesNamesValuesOptionsAndWords) {
 
 TEST_F(TaluxShell, SaysWhyALineIsRefused) {
     start();
-    EXPECT_TRUE(answers("TLX_Uearth=95", "95 is out of range: 1 to 90 %"));
+    EXPECT_TRUE(answers("TLX_Uearth=95", "Uearth: 95 is out of range: 1 to 90 %"));
+    EXPECT_TRUE(answers("TLX_BAassign3=qu2 ->F", "the number of this choice is 28"));
+    EXPECT_TRUE(answers("BAassign3=28", "TLX_BAassign3"));
+    EXPECT_TRUE(answers("update now", "update takes no file name: now is ignored"));
     EXPECT_TRUE(answers("TLX_Uerth", "the nearest name is Uearth"));
     EXPECT_TRUE(answers("Uearth", "TLX_Uearth"));
     EXPECT_TRUE(answers("TLX_vBE=1", "elements are 1 to 96"));
@@ -72,6 +75,17 @@ TEST_F(TaluxShell, KeepsItsHistoryAndGivesALineUp) {
     EXPECT_EQ(end(), 0);
     EXPECT_EQ(std::filesystem::status(directory / "talux/history").permissions(),
               std::filesystem::perms(0600));
+}
+
+TEST_F(TaluxShell, WatchShowsWhatFitsAndScrolls) {
+    OnTerminal::start({"watch", "MessRecord01", "--period", "60"});
+    EXPECT_TRUE(waitFor("1 to 38 of 59") && waitFor("MessRecord01.TimeStamp") && waitFor("\n"));
+    type("j\033[B");
+    EXPECT_TRUE(waitFor("3 to 40 of 59") && waitFor("MessRecord01.U0p"));
+    type(" ");
+    EXPECT_TRUE(waitFor("22 to 59 of 59"));
+    type("q");
+    EXPECT_EQ(ended(), 0);
 }
 
 TEST_F(TaluxShell, ReadsAPipe) {

@@ -120,10 +120,14 @@ private:
     int depth = 0;                            // values on the stack
     bool saysValue = true;                    // whether the top of the stack is the answer so far
     bool topIsZero = false;                   // a literal 0 lies on top
+    const Parameter* subject = nullptr;       // of a variable term
     const Parameter* numberWritten = nullptr; // by the term before
     std::string_view written;                 // by it
 
+    // Says what it is about.
     void add(std::size_t at, std::string text, bool isRefusal = false) {
+        if (subject != nullptr && text.find(subject->name()) == text.npos)
+            text = joined({subject->name(), ": ", text});
         findings.push_back({at, std::move(text), isRefusal});
     }
     std::size_t placeOf(const Piece& piece) const {
@@ -146,11 +150,12 @@ private:
     // False when the line ends with this term.
     bool lookAt(const Piece& piece) {
         const Decision& decision = piece.decision;
+        subject = parameterOf(decision);
         if (piece.text.size() > kKeplMaxTerm)
             add(placeOf(piece), context.say("more than 127 characters: the term is cut",
                                             "mehr als 127 Zeichen: der Term wird abgeschnitten"));
         if (decision.isRefused()) {
-            add(placeOf(piece), reasonOf(decision, context), true);
+            add(placeOf(piece), reasonOf(decision, context) + choiceMeant(decision), true);
             return false;
         }
         if (!lookAtStack(piece)) return false;
@@ -160,6 +165,18 @@ private:
             decision.action == Action::write && !isText(*decision.row) ? parameterOf(decision) : nullptr;
         written = decision.variable.value.value_or("");
         return true;
+    }
+
+    // The language takes numbers of choices only.
+    std::string choiceMeant(const Decision& decision) const {
+        if (subject == nullptr || !decision.variable.value) return {};
+        for (const Meaning& meaning : meaningsOf(*decision.variable.value, context.language))
+            if (std::ranges::find(meaning.bearers, subject) != meaning.bearers.end() &&
+                std::to_string(meaning.choice.number) != *decision.variable.value)
+                return fill(
+                    context.say("; the number of this choice is {}", "; die Nummer dieser Auswahl ist {}"),
+                    {std::to_string(meaning.choice.number)});
+        return {};
     }
 
     bool lookAtStack(const Piece& piece) {
@@ -316,6 +333,7 @@ private:
     // that may be written.
     bool lookAtHead(const Piece& piece) {
         const std::string_view term = piece.term;
+        subject = parameterOf(piece.decision);
         if (!piece.decision.isVariable) return true; // a number or a command may become anything
         const std::string_view name = piece.decision.variable.name;
         const std::string_view behind = term.substr(std::min(term.find_first_of(" =\r\n", 4), term.size()));
