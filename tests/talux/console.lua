@@ -1,18 +1,49 @@
--- Runs what is typed in a document's ```console blocks and compares what comes back, error stream included.
+-- Runs what is typed in a document's ```console blocks and compares what comes back: the lines that complain come from
+-- the error stream, the others from the standard output. Status 2 and a complaint of talux go together, and a watch takes
+-- the time of its periods.
 -- "$ " stands in front of a command, "> " in front of its further lines. "..." stands for anything, alone on a line
 -- for any number of lines; how many settings a save would write is left to the catalogue. All commands share one device
 -- root; what they leave in its / is removed at the end. With TALUX_ACCEPT set, the document gets what comes back.
 local text, project, accepts = assert(io.open(arg[1])):read "*a", arg[2], os.getenv "TALUX_ACCEPT"
-local scratch = os.tmpname()
+local scratch, complaints = os.tmpname(), os.tmpname()
+
+local function contents(path)
+  local file = assert(io.open(path))
+  local all = file:read "*a"
+  file:close()
+  return all
+end
 
 local function run(command)
   local input = assert(io.open(scratch, "w"))
   input:write("project=", project, "\n", command, "\n")
   input:close()
-  local pipe = io.popen("cd / && sh " .. scratch .. " 2>&1 </dev/null")
+  local pipe = io.popen("cd / && sh " .. scratch .. " 2>" .. complaints .. " </dev/null")
   local output = pipe:read "*a"
-  pipe:close()
-  return output
+  local _, _, status = pipe:close()
+  return output, contents(complaints), status
+end
+
+-- What is expected of either stream; an indented line explains the complaint before it.
+local function streamsOf(expected, command)
+  if command:find("2>&1 |", 1, true) then return expected, "" end
+  local streams, complains = {"", ""}, false
+  for line in expected:gmatch "[^\n]*\n" do
+    complains = line:find "^talux: " or line:find "^<< " or complains and line:find "^ "
+    local stream = complains and 2 or 1
+    streams[stream] = streams[stream] .. line
+  end
+  return streams[1], streams[2]
+end
+
+local function uptime() return tonumber(contents("/proc/uptime"):match "%S+") end
+
+-- A complaint without status 2 or the reverse, and a watch of the wrong length; a script of several commands shows both.
+local function misbehaves(command, errors, status, seconds)
+  local count, period = command:match "^talux watch.*%-%-count (%d+).*%-%-period ([%d.]+)"
+  local least = count and (count - 1) * period
+  return not command:find "[;|&\n]" and (status == 2) ~= (errors:find "^talux: " ~= nil) and "status " .. status
+    or least and (seconds < least or seconds > 2 * least + 2) and seconds .. " seconds"
 end
 
 local function files()
@@ -47,10 +78,15 @@ end
 
 local count, wrong, before = 0, 0, files()
 local function try(command, expected)
-  local output = run(command)
+  local start = uptime()
+  local output, errors, status = run(command)
+  local fault = misbehaves(command, errors, status, uptime() - start)
+  local out, err = streamsOf(expected, command)
   count = count + 1
-  if ("\n" .. output):find(pattern(expected)) then return expected end
+  if not fault and ("\n" .. output):find(pattern(out)) and ("\n" .. errors):find(pattern(err)) then return expected end
   wrong = wrong + 1
+  output = output .. errors
+  if fault then print(fault) end
   print(("$ %s\n---- expected\n%s---- found\n%s----"):format(command, expected, output))
   return renewed(expected, output)
 end
@@ -78,6 +114,7 @@ end
 
 local accepted = text:gsub("(\n```console\n)(.-)(```)", function(open, block, close) return open .. follow(block) .. close end)
 os.remove(scratch)
+os.remove(complaints)
 for name in pairs(files()) do
   if not before[name] then os.remove(name) end
 end
