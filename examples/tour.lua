@@ -42,7 +42,7 @@ local function pass_two_cycles()
   wait_for("no new cycle", function() return device_cycle() >= start + 2 end)
 end
 
--- The last thing the device program told about its setting.
+-- The last thing the device program reported about its setting.
 local function device_says()
   local last
   for text in io.lines("/tmp/device.log") do last = text end

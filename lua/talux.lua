@@ -1,5 +1,5 @@
 -- The parameters of the relay as Lua values: read as numbers and texts, written with checks and all or none,
--- told in words. A layer over the module lib_talux_lua that keeps nothing of its own.
+-- described in words. A layer over the module lib_talux_lua that keeps nothing of its own.
 require "lib_talux_lua"
 local checks = require "talux.checks"
 local dictionary = require "talux.dictionary"
@@ -182,7 +182,7 @@ local function plan(settings)
   return #faults == 0 and entries, table.concat(faults, "\n")
 end
 
--- A 32-bit float with all its digits, of which the language prints six behind the point: asks for a multiple.
+-- A 32-bit float with all its digits, of which the language prints six after the point: asks for a multiple.
 local function float(line)
   local value = numbers.single(numbers.read(command(line .. ",0x1p40,*")) / 2 ^ 40)
   if abs(value) > 1e-9 then return value end
@@ -380,7 +380,7 @@ function talux.parameter(name, language)
   return parameter
 end
 
----The settings whose value in the working copy is not the factory default, which stands as the old value.
+---The settings whose value in the working copy is not the factory default, which is the old value.
 ---@return talux.Change[]
 function talux.changed()
   local changes = {}

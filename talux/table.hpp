@@ -1,4 +1,4 @@
-// What the compiler knows of a parameter. The rows stand in the generated talux/parameters.hpp.
+// What the compiler knows of a parameter. The rows are in the generated talux/parameters.hpp.
 #ifndef TALUX_TABLE_HPP
 #define TALUX_TABLE_HPP
 
