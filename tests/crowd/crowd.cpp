@@ -43,9 +43,9 @@ constexpr auto kLongest = 10s;                             // without a sign of 
 constexpr auto kPatience = 3s;                             // after which a program is no longer killed
 const std::regex kAnswer("^(done$|refused: |Uearth is )"); // a sign of life
 // What the others and the disk bring about.
-const std::regex
-    kRefusal("^refused: .*(does not hold|No space left on device|can't save parameter|"
-             "changed since by something else|was interrupted|no change to take back|NOT STORED)");
+const std::regex kRefusal("^refused: .*(does not hold|No space left on device|can't save parameter|"
+                          "changed since by something else|was interrupted|no change to take back|NOT STORED|"
+                          "another change is being made)");
 
 // ---- What was found ----
 
@@ -188,18 +188,33 @@ void readFiles(const std::vector<Whole>& files, const std::atomic<bool>& goesOn,
     }
 }
 
-// The device writes record and values together.
+// The group of the device: it writes record and values together.
+constexpr talux::Measured<float> kPhases{"U1_prim"}, kFrequency{"f_grid"};
+const auto& measurements() {
+    static const talux::Group group("measurements", kPhases.run<3>(), kFrequency,
+                                    talux::Record<talux::MessRecord01>{});
+    return group;
+}
+
+// Another writer, so busy that it is often killed inside.
+int publish() {
+    talux::MessRecord01 record{};
+    for (;; std::puts("done"), std::fflush(stdout), std::this_thread::sleep_for(5ms))
+        for (int k = 0; k < 2000; ++k) {
+            const auto value = static_cast<float>(++record.Cnt % 100000);
+            record.U1p = record.U2p = record.U3p = record.f_grid = value;
+            if (!measurements().write({value, value, value}, value, record)) return 3;
+        }
+}
+
 void readGroup(const std::atomic<bool>& goesOn, int& seen) {
-    constexpr talux::Measured<float> kPhases{"U1_prim"}, kFrequency{"f_grid"};
-    const talux::Group group("measurements", kPhases.run<3>(), kFrequency,
-                             talux::Record<talux::MessRecord01>{});
     auto last = Clock::now();
     std::uint32_t count = 0;
     while (goesOn) {
         std::array<float, 3> phases{};
         float frequency = 0;
         talux::MessRecord01 record{};
-        if (group.read(phases, frequency, record)) {
+        if (measurements().read(phases, frequency, record)) {
             if (record.U1p != phases[0] || record.U3p != phases[2] || record.f_grid != frequency)
                 fault("torn group");
             if (static_cast<std::uint32_t>(record.Cnt) != count) last = Clock::now(), ++seen;
@@ -334,6 +349,7 @@ std::vector<Actor> actorsWith(const std::string& device, const std::string& talu
     std::vector<Actor> actors;
     for (const auto& [name, command] : {
              std::pair<std::string, Command>{"device", {device}},
+             {"publisher", {"/proc/self/exe", "publish"}},
              {"set", does("set")},
              {"change", does("change")},
              {"save", does("save")},
@@ -349,6 +365,7 @@ std::vector<Actor> actorsWith(const std::string& device, const std::string& talu
 } // namespace
 
 int main(int argc, char** argv) {
+    if (argc == 2 && argv[1] == std::string_view("publish")) return publish();
     const long length = argc > 5 ? std::strtol(argv[1], nullptr, 10) : 0;
     if (length <= 0) return std::fputs("crowd SECONDS DEVICE TALUX LUA SCRIPT\n", stderr), 2;
     std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
