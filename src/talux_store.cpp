@@ -38,17 +38,17 @@ TALUX_VALUE(Text, char*, char*)
 TALUX_VALUE(Id, char*, char*)
 TALUX_VALUE(Ip, char*, char*)
 
-#define TALUX_RUN(Kind, Type)                                                                                \
-    void VarSetGlobal##Kind##ValueArray(int id, Type* values, unsigned long count) {                         \
+#define TALUX_RUN(Kind, Values)                                                                              \
+    void VarSetGlobal##Kind##ValueArray(int id, Values values, unsigned long count) {                        \
         ::VarSetGlobal##Kind##ValueArray(id, values, count);                                                 \
     }                                                                                                        \
-    void VarGetGlobal##Kind##ValueArray(int id, Type* values, unsigned long count) {                         \
+    void VarGetGlobal##Kind##ValueArray(int id, Values values, unsigned long count) {                        \
         ::VarGetGlobal##Kind##ValueArray(id, values, count);                                                 \
     }
-TALUX_RUN(Float, float)
-TALUX_RUN(Double, double)
-TALUX_RUN(Long, VarLong)
-TALUX_RUN(Int, short)
+TALUX_RUN(Float, float*)
+TALUX_RUN(Double, double*)
+TALUX_RUN(Long, VarLong*)
+TALUX_RUN(Int, short*)
 
 void VarSetGlobalStructValue(int id, void* record, VarLong size) {
     ::VarSetGlobalStructValue(id, record, size);

@@ -41,13 +41,13 @@ TALUX_VALUE(Ip, char*, char*)   /* for 20 */
 #undef TALUX_VALUE
 
 /* Measured values with consecutive ids, and one of the three records, in one piece. */
-#define TALUX_RUN(Kind, Type)                                                                                \
-    TALUX_API void VarSetGlobal##Kind##ValueArray(int id, Type* values, unsigned long count);                \
-    TALUX_API void VarGetGlobal##Kind##ValueArray(int id, Type* values, unsigned long count);
-TALUX_RUN(Float, float)
-TALUX_RUN(Double, double)
-TALUX_RUN(Long, VarLong)
-TALUX_RUN(Int, short)
+#define TALUX_RUN(Kind, Values)                                                                              \
+    TALUX_API void VarSetGlobal##Kind##ValueArray(int id, Values values, unsigned long count);               \
+    TALUX_API void VarGetGlobal##Kind##ValueArray(int id, Values values, unsigned long count);
+TALUX_RUN(Float, float*)
+TALUX_RUN(Double, double*)
+TALUX_RUN(Long, VarLong*)
+TALUX_RUN(Int, short*)
 #undef TALUX_RUN
 TALUX_API void VarSetGlobalStructValue(int id, void* record, VarLong size);
 TALUX_API void VarGetGlobalStructValue(int id, void* record, VarLong size);

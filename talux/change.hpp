@@ -29,6 +29,11 @@ public:
         const Result result = setting.check(text, checked);
         return add(setting, result, [&](Value& value) { value = checked; });
     }
+    template <class Value, table::Kind kind>
+    ChangeOf& stage(const Setting<Value>& setting,
+                    const StoredText<kind>& text) requires(detail::kIsText<Value>) {
+        return stage(setting, text.view());
+    }
 
     // Stages everything and makes it live, with whatever else is pending in the working copy. With a refusal
     // nothing is staged, and the first one is the result.

@@ -5,8 +5,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <span>
 #include <type_traits>
@@ -174,21 +172,6 @@ Result copyText(std::string_view from, double most, Value& to) {
     return {};
 }
 
-// A mistake of the program, like an id of the wrong kind.
-[[noreturn, gnu::cold, gnu::noinline]] inline void stop(const char* why) {
-    std::fputs(why, stderr);
-    std::abort();
-}
-
-// Where the compiler sees such a mistake, it does not compile.
-[[gnu::error("the run is longer than the values that follow one another")]] void runIsTooLong();
-
-inline void expectRun(std::size_t count, int most) {
-    const bool tooLong = count > static_cast<std::size_t>(most);
-    if (__builtin_constant_p(tooLong) && tooLong) runIsTooLong();
-    if (tooLong) stop("talux: the run is longer than the values that follow one another\n");
-}
-
 } // namespace detail
 
 // A number of measured values that follow one another, as one.
@@ -228,48 +211,62 @@ public:
 
     [[nodiscard]] constexpr int id() const { return first; }
 
+    // False of an element that does not exist; it reads as 0 or empty, and a write of it does nothing.
+    constexpr explicit operator bool() const { return first != 0; }
+
     [[nodiscard]] Value get() const {
-        return detail::read<Value>(detail::AccessorsOf<Value>::getLive, first);
+        return first == 0 ? Value{} : detail::read<Value>(detail::AccessorsOf<Value>::getLive, first);
     }
     void get(Value& value) const { value = get(); }
     void set(Value value) const requires(!detail::kIsText<Value>) {
-        detail::write(detail::AccessorsOf<Value>::setLive, first, value);
+        if (first != 0) detail::write(detail::AccessorsOf<Value>::setLive, first, value);
     }
     Result set(std::string_view text) const requires(detail::kIsText<Value>) {
         Value value;
         const Result result = detail::copyText(text, length, value);
-        if (result) detail::write(detail::AccessorsOf<Value>::setLive, first, value);
+        if (result) set(value);
         return result.of(first);
     }
 
     void set(const Value& text) const // what the store gave, it takes
         requires(detail::kIsText<Value>) {
-        detail::write(detail::AccessorsOf<Value>::setLive, first, text);
+        if (first != 0) detail::write(detail::AccessorsOf<Value>::setLive, first, text);
     }
 
-    // An element of an indexed parameter, counted from 1.
+    // An element of an indexed parameter, counted from 1. An index outside gives a handle that is false; in a
+    // constant, and with at<index>(), it does not compile.
     [[nodiscard]] constexpr Measured at(int elementIndex) const {
-        if (elementIndex < 1 || elementIndex > elements)
-            detail::stop("talux: the index is outside its range\n");
+        const bool outside = elementIndex < 1 || elementIndex > elements;
+        if (__builtin_is_constant_evaluated() && outside)
+            table::stop(table::mistake.the_index_is_outside_its_range);
         Measured element = *this;
-        element.first += elementIndex - 1;
-        element.following -= elementIndex - 1;
+        element.first = outside ? 0 : first + elementIndex - 1;
+        element.following = outside ? 0 : following - (elementIndex - 1);
         element.elements = 0;
         return element;
     }
 
-    // This value and those that follow it, in one piece: elements, or parameters with consecutive ids.
-    void get_run(std::span<Value> values) const {
-        detail::expectRun(values.size(), following);
-        detail::getRun(first, values.data(), values.size());
+    template <int elementIndex>
+    [[nodiscard]] consteval Measured at() const {
+        return at(elementIndex);
     }
-    void set_run(std::span<const Value> values) const {
-        detail::expectRun(values.size(), following);
+
+    // This value and those that follow it, in one piece: elements, or parameters with consecutive ids. False,
+    // and nothing is read or written, when that many do not follow.
+    bool get_run(std::span<Value> values) const {
+        if (values.size() > static_cast<std::size_t>(following)) return false;
+        detail::getRun(first, values.data(), values.size());
+        return true;
+    }
+    bool set_run(std::span<const Value> values) const {
+        if (values.size() > static_cast<std::size_t>(following)) return false;
         detail::setRun(first, values.data(), values.size());
+        return true;
     }
     template <std::size_t count>
     [[nodiscard]] consteval Run<Value, count> run() const {
-        if (count < 1 || count > static_cast<std::size_t>(following)) table::the_run_is_too_long();
+        if (count < 1 || count > static_cast<std::size_t>(following))
+            table::stop(table::mistake.the_run_is_too_long);
         return Run<Value, count>(first);
     }
 
@@ -315,6 +312,17 @@ public:
         const Result result = check(text, value);
         if (result) detail::write(detail::AccessorsOf<Value>::setStaged, place, value);
         return result;
+    }
+    template <table::Kind kind>
+    Result stage(const StoredText<kind>& text) const requires(detail::kIsText<Value>) {
+        return stage(text.view());
+    }
+
+    // A constant that is checked while compiling, for stage().
+    template <class Given>
+    [[nodiscard]] consteval Value valid(Given value) const requires(!detail::kIsText<Value>) {
+        if (!check(value)) table::stop(table::mistake.the_value_is_outside_its_range);
+        return static_cast<Value>(value);
     }
 
     // What stage() would answer.

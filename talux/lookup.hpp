@@ -1,5 +1,5 @@
-// Finds parameters by name while compiling. A handle that cannot be made does not compile, and the functions
-// named below say why; the compiler names the parameter with them.
+// Finds parameters by name while compiling. A handle that cannot be made does not compile: the compiler shows
+// the program's line and names one of the reasons below.
 #ifndef TALUX_LOOKUP_HPP
 #define TALUX_LOOKUP_HPP
 
@@ -13,26 +13,33 @@
 
 namespace talux::table {
 
-// None of these can be called while compiling.
-void no_parameter_has_this_name();
-void it_is_a_setting_take_talux_Setting();
-void it_is_measured_take_talux_Measured();
-void it_is_a_record_take_talux_Record();
-void it_is_the_clock_of_the_system();
-void it_is_a_command_without_a_value();
-void its_values_are_float();
-void its_values_are_double();
-void its_values_are_std_int32_t();
-void its_values_are_short();
-void its_values_are_bool();
-void its_values_are_choices();
-void its_values_are_talux_Text();
-void its_values_are_talux_Identifier();
-void its_values_are_talux_Address();
-void its_choices_have_another_enum();
-void it_has_no_index();
-void the_index_is_outside_its_range();
-void the_run_is_too_long();
+// What cannot be read while compiling. Of a member of a union that has no value compilers say the name, in an
+// error at the line of the program; of a function that cannot be called they say where it would have been.
+union Mistakes {
+    char nothing;
+    char no_parameter_has_this_name;
+    char it_is_a_setting_take_talux_Setting;
+    char it_is_measured_take_talux_Measured;
+    char it_is_a_record_take_talux_Record;
+    char it_is_the_clock_of_the_system;
+    char it_is_a_command_without_a_value;
+    char its_values_are_float;
+    char its_values_are_double;
+    char its_values_are_std_int32_t;
+    char its_values_are_short;
+    char its_values_are_bool;
+    char its_values_are_choices;
+    char its_values_are_talux_Text;
+    char its_values_are_talux_Identifier;
+    char its_values_are_talux_Address;
+    char its_choices_have_another_enum;
+    char it_has_no_index;
+    char the_index_is_outside_its_range;
+    char the_run_is_too_long;
+    char the_value_is_outside_its_range;
+};
+inline constexpr Mistakes mistake{.nothing = 1};
+constexpr void stop(char) {}
 
 constexpr const Row& find(std::string_view name) {
     std::size_t first = 0, last = std::size(kRows);
@@ -44,7 +51,7 @@ constexpr const Row& find(std::string_view name) {
         else
             first = middle + 1;
     }
-    no_parameter_has_this_name();
+    stop(mistake.no_parameter_has_this_name);
     return kRows[0];
 }
 
@@ -69,29 +76,29 @@ constexpr void expectKind(const Row& row, Kind kind) {
     if (row.kind == kind) return;
     switch (row.kind) {
     case Kind::f32:
-        return its_values_are_float();
+        return stop(mistake.its_values_are_float);
     case Kind::f64:
-        return its_values_are_double();
+        return stop(mistake.its_values_are_double);
     case Kind::i32:
-        return its_values_are_std_int32_t();
+        return stop(mistake.its_values_are_std_int32_t);
     case Kind::i16:
-        return its_values_are_short();
+        return stop(mistake.its_values_are_short);
     case Kind::flag:
-        return its_values_are_bool();
+        return stop(mistake.its_values_are_bool);
     case Kind::choice:
-        return its_values_are_choices();
+        return stop(mistake.its_values_are_choices);
     case Kind::text:
-        return its_values_are_talux_Text();
+        return stop(mistake.its_values_are_talux_Text);
     case Kind::identifier:
-        return its_values_are_talux_Identifier();
+        return stop(mistake.its_values_are_talux_Identifier);
     case Kind::address:
-        return its_values_are_talux_Address();
+        return stop(mistake.its_values_are_talux_Address);
     case Kind::record:
-        return it_is_a_record_take_talux_Record();
+        return stop(mistake.it_is_a_record_take_talux_Record);
     case Kind::clock:
-        return it_is_the_clock_of_the_system();
+        return stop(mistake.it_is_the_clock_of_the_system);
     case Kind::command:
-        return it_is_a_command_without_a_value();
+        return stop(mistake.it_is_a_command_without_a_value);
     }
 }
 
@@ -101,15 +108,15 @@ constexpr const Row& resolve(std::string_view name, bool measured) {
     static_assert(kindOf<Value>() != Kind::command, "no parameter has values of this type");
     const Row& row = find(name);
     expectKind(row, kindOf<Value>());
-    if (measured && row.use != Use::measured) it_is_a_setting_take_talux_Setting();
-    if (!measured && row.use == Use::measured) it_is_measured_take_talux_Measured();
-    if (kChoices<Value> != 0 && kChoices<Value> != row.choices) its_choices_have_another_enum();
+    if (measured && row.use != Use::measured) stop(mistake.it_is_a_setting_take_talux_Setting);
+    if (!measured && row.use == Use::measured) stop(mistake.it_is_measured_take_talux_Measured);
+    if (kChoices<Value> != 0 && kChoices<Value> != row.choices) stop(mistake.its_choices_have_another_enum);
     return row;
 }
 
 constexpr void expectIndex(const Row& row, int index) {
-    if (row.elements == 0) it_has_no_index();
-    if (index < 1 || index > row.elements) the_index_is_outside_its_range();
+    if (row.elements == 0) stop(mistake.it_has_no_index);
+    if (index < 1 || index > row.elements) stop(mistake.the_index_is_outside_its_range);
 }
 
 } // namespace talux::table

@@ -25,10 +25,13 @@ public:
         characters[length] = '\0';
     }
 
-    [[nodiscard]] std::string_view view() const { return characters; }
+    // A view of a text that is gone after the line does not compile.
+    [[nodiscard]] std::string_view view() const& { return characters; }
+    std::string_view view() const&& = delete;
     [[nodiscard]] const char* c_str() const { return characters; }
     [[nodiscard]] bool empty() const { return characters[0] == '\0'; }
-    operator std::string_view() const { return view(); }
+    operator std::string_view() const& { return view(); }
+    operator std::string_view() const&& = delete;
     friend bool operator==(const StoredText& a, std::string_view b) { return a.view() == b; }
 
     // What accessors read and write.

@@ -100,7 +100,7 @@ TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
           name.stage("a\0b"sv), name.stage("say \"hi\""), name.stage("a=b"), name.stage("a\nb"),
           mark.stage("B: A"), version.stage("2")}) {
         EXPECT_FALSE(refused);
-        texts.emplace_back(refused.text().view());
+        texts.emplace_back(refused.text().c_str());
     }
     EXPECT_EQ(texts,
               std::vector<std::string>(
@@ -178,7 +178,15 @@ TEST_F(Handles, MeasuredValuesAreLiveAtOnce) {
     std::array<float, 2> two{};
     phases.get_run(two);
     EXPECT_EQ(two[1], 11.25f);
-    EXPECT_DEATH(std::ignore = word.at(97), "the index is outside its range");
+
+    // What does not exist reads as nothing, and a write of it does nothing.
+    for (volatile const int index : {0, 97}) {
+        const auto element = word.at(index);
+        element.set(7.0);
+        EXPECT_TRUE(!element && element.get() == 0.0 && !element.set_run(std::array{7.0}));
+    }
+    EXPECT_FALSE(word.set_run(std::vector<double>(97, 7.0)));
+    EXPECT_TRUE(fifth && fifth.get() == 0.5 && word.at(96).get() == 9.0);
 }
 
 } // namespace

@@ -1,5 +1,4 @@
-// Handles that must not compile. Behind each: what the compiler has to say of it besides the parameter's
-// name.
+// What must not compile. Behind each: what the compiler has to say of it besides its line.
 #include <talux/talux.hpp>
 
 using namespace talux;
@@ -19,3 +18,13 @@ constexpr Setting<Text> case12{"ETH0_IP"};             // its_values_are_talux_A
 constexpr Setting<Text> case13{"Date"};                // it_is_the_clock_of_the_system
 constexpr Measured<float> case14{"VarSaveParams"};     // it_is_a_command_without_a_value
 constexpr Measured<float> case15{"MessRecord01"};      // it_is_a_record_take_talux_Record
+
+constexpr Measured<double> word{"vMWR"};
+constexpr Measured<float> last{"mw_BE_AC_2"};
+constexpr Setting<float> threshold{"Uearth"};
+constexpr Setting<Text> name{"Name"};
+constexpr auto case16 = word.at(97);          // the_index_is_outside_its_range
+constexpr auto case17 = last.run<3>();        // the_run_is_too_long
+constexpr auto case18 = threshold.valid(0.5); // the_value_is_outside_its_range
+const std::string_view case19 = name.live();  // deleted
+const auto case20 = word.at<97>().get();      // the_index_is_outside_its_range
