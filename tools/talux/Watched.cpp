@@ -1,12 +1,11 @@
 #include "tools/talux/Watched.h"
 
 #include <charconv>
-#include <cmath>
 #include <cstdio>
 #include <cstring>
-#include <functional>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/support/Parse.h"
 #include "tools/talux/Text.h"
 
 namespace talux::tool {
@@ -27,13 +26,6 @@ double memberNumber(const Watched& item) {
 Watched watchedMember(const Member& member, ParamLanguage language) {
     return {member.name(),     member.record,          member.record->row().id,
             member.properties, member.title(language), member.unit()};
-}
-
-std::optional<double> numberIn(std::string_view text) {
-    double number = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool isWhole = read.ec == std::errc() && read.ptr == text.data() + text.size();
-    return isWhole ? std::optional(number) : std::nullopt;
 }
 
 // Elements first to last of "NAME FIRST" or "NAME FIRST.LAST", counted from 1 in the list of all.
