@@ -326,8 +326,7 @@ function talux.load_sec() loadFile("load_sec") end
 local function settingsOf(source)
   if type(source) == "table" then return source end
   local settings, reason = sources.read(tostring(source), function(name) return valueOf(command("TLX_" .. name)) end)
-  if not settings then error(reason, 3) end
-  return settings
+  return settings or error(reason, 3)
 end
 
 ---The settings of a file, or of a folder with the three files, as a load would keep them, by name. Also those of

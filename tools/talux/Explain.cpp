@@ -220,8 +220,8 @@ void explain(const Member& member, const Context& context) {
     const auto add = [&table](const char* label, const std::string& text) {
         if (!text.empty()) table.add({label, text});
     };
-    add("English", member.texts.en);
-    add("Deutsch", member.texts.de);
+    for (const ParamLanguage language : {context.language, context.otherLanguage()})
+        add(language == kGerman ? "Deutsch" : "English", member.title(language));
     const std::string unit = member.unit();
     add(context.say("kind", "Art"), member.properties->szMemberType + (unit.empty() ? unit : " in " + unit));
     add(context.say("same as", "wie"), member.texts.twin);
