@@ -70,7 +70,7 @@ TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
         for (const std::string& assignment : pieces(line.substr(0, tab), '|')) {
             assignments += " '" + assignment + "'";
             const auto equals = assignment.find('=');
-            plan += assignment.substr(0, equals) + "=\"" + assignment.substr(equals + 1) + "\" ; c\n";
+            plan += assignment.substr(0, equals) + " = \"" + assignment.substr(equals + 1) + "\" ; c\n";
         }
         const std::string wanted = line.substr(tab + 1);
         if (wanted.starts_with('!')) {

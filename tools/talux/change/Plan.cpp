@@ -202,11 +202,15 @@ void Plan::checkDevice(std::string_view line, const std::string& path) const {
              {path, printable(line), here ? printable(here->text()) : "-"}));
 }
 
-void Plan::readLine(std::string line, const std::string& place) {
-    std::string whole = line;
+void Plan::readLine(std::string_view line, const std::string& place) {
+    if (withoutBlanks(line).empty()) return;
+    const auto equals = std::min(line.find('='), line.size());
+    const std::string_view right = line.substr(std::min(equals + 1, line.size()));
+    std::string whole = joined({withoutBlanks(line.substr(0, equals)), "=", withoutBlanks(right)});
+    const std::string prefixed = joined({kKeyPrefix, whole});
     Entry entry = parseEntry(whole.data());
     if (entry.form == LineForm::foreign) {
-        whole = joined({kKeyPrefix, withoutBlanks(line)});
+        whole = prefixed;
         entry = parseEntry(whole.data());
     }
     if (entry.form != LineForm::entry) return;
@@ -232,7 +236,7 @@ void Plan::read(const std::string& path) {
         const std::string_view line = rest.substr(0, end);
         rest.remove_prefix(std::min(end + 1, rest.size()));
         if (number == 1 && line.starts_with(kFor)) checkDevice(withoutBlanks(line.substr(kFor.size())), path);
-        readLine(std::string(line), fill("{}:{}: ", {printable(path), std::to_string(number)}));
+        readLine(line, fill("{}:{}: ", {printable(path), std::to_string(number)}));
     }
 }
 

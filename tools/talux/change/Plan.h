@@ -40,8 +40,9 @@ public:
     // what is said about it.
     void take(std::string_view label, std::string_view value, const std::string& place = "");
 
-    // A file of such lines, in the form of parameter files; the prefix TLX_ may be missing. As a load does,
-    // it leaves the clock alone. Throws CouldNot when it is for another device than this one.
+    // A file of such lines, in the form of parameter files; the prefix TLX_ may be missing, blanks may be
+    // around "=". As a load does, it leaves the clock alone. Throws CouldNot when it is for another device
+    // than this one.
     void read(const std::string& path);
 
     // The settings of a source that differ, without those that `leaves`.
@@ -67,7 +68,7 @@ private:
     std::set<int> ids;
     std::vector<std::string> refused;
 
-    void readLine(std::string line, const std::string& place);
+    void readLine(std::string_view line, const std::string& place);
     void checkDevice(std::string_view line, const std::string& path) const;
     std::optional<std::string> number(const Parameter& parameter, std::string_view text,
                                       const std::string& place, std::string_view label);
