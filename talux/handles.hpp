@@ -340,9 +340,45 @@ private:
     bool readOnly;
     detail::Limits limits;
 
+    template <class>
+    friend class Series;
+    constexpr Setting(int id, bool isStatus, detail::Limits range)
+        : place(id), readOnly(isStatus), limits(range) {}
     constexpr explicit Setting(const table::Row& tableRow)
         : place(tableRow.id),
           readOnly(tableRow.use == table::Use::status), limits{tableRow.min, tableRow.max} {}
+};
+
+// Settings whose names differ in their number, BAassign1, BAassign2 ..; counted from 1.
+template <class Value>
+class Series {
+public:
+    static constexpr int kMost = 64;
+
+    consteval Series(const char* nameWithoutNumber) {
+        for (; const table::Row* const row = table::findNumbered(nameWithoutNumber, count + 1); ++count) {
+            const Setting<Value> each(row->name);
+            if (count == 0) first = each;
+            if (each.limits.min != first.limits.min || each.limits.max != first.limits.max ||
+                each.readOnly != first.readOnly || count == kMost)
+                table::stop(table::mistake.its_settings_are_no_series);
+            ids[static_cast<std::size_t>(count)] = static_cast<std::uint16_t>(each.id());
+        }
+        if (count == 0) table::stop(table::mistake.no_parameter_has_this_name);
+    }
+
+    [[nodiscard]] constexpr int size() const { return count; }
+
+    // Of a number outside 1 to size() the nearest one.
+    [[nodiscard]] constexpr Setting<Value> operator[](int number) const {
+        const int near = number < 1 ? 1 : number > count ? count : number;
+        return {ids[static_cast<std::size_t>(near - 1)], first.readOnly, first.limits};
+    }
+
+private:
+    int count = 0;
+    Setting<Value> first{0, false, {}};
+    std::array<std::uint16_t, kMost> ids{};
 };
 
 // One of the three records.

@@ -37,22 +37,40 @@ union Mistakes {
     char the_index_is_outside_its_range;
     char the_run_is_too_long;
     char the_value_is_outside_its_range;
+    char its_settings_are_no_series;
 };
 inline constexpr Mistakes mistake{.nothing = 1};
 constexpr void stop(char) {}
 
-constexpr const Row& find(std::string_view name) {
+constexpr const Row* look(std::string_view name) {
     std::size_t first = 0, last = std::size(kRows);
     while (first < last) {
         const std::size_t middle = (first + last) / 2;
-        if (name == kRows[middle].name) return kRows[middle];
+        if (name == kRows[middle].name) return &kRows[middle];
         if (name < kRows[middle].name)
             last = middle;
         else
             first = middle + 1;
     }
-    stop(mistake.no_parameter_has_this_name);
-    return kRows[0];
+    return nullptr;
+}
+
+constexpr const Row& find(std::string_view name) {
+    const Row* const row = look(name);
+    if (row == nullptr) stop(mistake.no_parameter_has_this_name);
+    return *row;
+}
+
+// The row of a name followed by a number of one or two digits, or null.
+constexpr const Row* findNumbered(std::string_view name, int number) {
+    char text[64] = {};
+    if (name.size() + 2 > sizeof text) return nullptr;
+    std::size_t length = 0;
+    for (const char c : name)
+        text[length++] = c;
+    if (number >= 10) text[length++] = static_cast<char>('0' + number / 10);
+    text[length++] = static_cast<char>('0' + number % 10);
+    return look({text, length});
 }
 
 template <class>

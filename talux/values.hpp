@@ -159,10 +159,13 @@ constexpr std::string_view wordsOf(Reason reason) {
 
 namespace detail {
 
-// The unit of a parameter, empty when it has none.
-inline std::string_view unitOf(int id) {
-    for (const stParamText* row = DefParamText + 1; row->id != 0; ++row)
-        if (row->id == id && row->type == kTextUnit) return row->txt;
+// A text of a parameter, or of the template whose texts it shares; empty when it has none.
+inline std::string_view textOf(const stParamProperties& row, int type, int language, int item = -1) {
+    for (const int id : {row.id, row.id_template})
+        for (const stParamText* text = DefParamText + 1; id != 0 && text->id != 0; ++text)
+            if (text->id == id && text->type == type && text->language == language &&
+                (item == -1 || (text->id_group == 0 && text->id_item == item)))
+                return text->txt;
     return {};
 }
 
@@ -187,7 +190,8 @@ inline Text Result::text() const {
         writer.put(low);
         writer.put(" to ");
         writer.put(high);
-        if (const auto unit = detail::unitOf(parameter); !unit.empty()) {
+        const auto unit = row == nullptr ? "" : detail::textOf(*row, kTextUnit, kEnglish);
+        if (!unit.empty()) {
             writer.put(" ");
             writer.put(unit);
         }

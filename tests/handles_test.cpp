@@ -1,10 +1,12 @@
 // Typed handles beside the language: what one takes the other takes, and both find it in the same place.
 #include "src/talux_interpreter.h"
+#include "talux/about.hpp"
 #include "talux/talux.hpp"
 
 #include <cmath>
 #include <gtest/gtest.h>
 #include <random>
+#include <set>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -187,6 +189,31 @@ TEST_F(Handles, MeasuredValuesAreLiveAtOnce) {
     }
     EXPECT_FALSE(word.set_run(std::vector<double>(97, 7.0)));
     EXPECT_TRUE(fifth && fifth.get() == 0.5 && word.at(96).get() == 9.0);
+}
+
+TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
+    constexpr Series<choice::BAassign> relays{"BAassign"};
+    EXPECT_EQ(About(relays[2]).name(), "BAassign2");
+    EXPECT_EQ(relays[99].id(), relays[relays.size()].id());
+    EXPECT_TRUE(relays[2].stage(choice::BAassign{1}) && !relays[2].stage(choice::BAassign{129}));
+
+    LoadDefParamStrings();
+    std::set<std::string> found;
+    for (const ParamLanguage language : {kGerman, kEnglish}) {
+        VarSetEnumValue(10000, static_cast<short>(language));
+        for (const About parameter : parameters()) {
+            const std::string_view known = GetParamString(parameter.id(), kTextTitle)->txt;
+            const std::string_view title = parameter.title(language);
+            EXPECT_EQ(title, known == "***" ? "" : known) << parameter.name();
+            if (!title.empty() && !parameter.unit(language).empty()) found.emplace(parameter.name());
+        }
+    }
+    EXPECT_GT(found.size(), 200U);
+    for (const table::Row& row : table::kRows)
+        EXPECT_TRUE(row.kind != table::Kind::f32 || About(row.id).min().value_or(kNoMin) == row.min)
+            << row.name;
+    EXPECT_EQ(About("uearth").title(kGerman), "Schwelle Erdschluss U0");
+    EXPECT_FALSE(About("Uearht") || About(0) || About(-1));
 }
 
 } // namespace
