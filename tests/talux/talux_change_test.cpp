@@ -141,6 +141,12 @@ TEST_F(TaluxChange, UndoAndDiscardKnowWhatOthersChanged) {
     EXPECT_EQ(talux("undo --yes").status, 0); // of the discard
     EXPECT_EQ(value("Uearth"), "36.000000");
     EXPECT_EQ(talux("discard --yes").status + talux("discard").status, 0);
+    // What is there already is saved, too; a record that cannot be written keeps all of it back.
+    EXPECT_EQ(talux("set --yes Uearth=44").status, 0);
+    EXPECT_EQ(talux("set --yes --save Uearth=44").status, 0);
+    EXPECT_NE(file("parameter.ini").find("TLX_Uearth=44.0"), std::string::npos);
+    EXPECT_EQ(talux("set --yes Uearth=45 --protocol /nowhere/record").status, 2);
+    EXPECT_EQ(value("Uearth"), "44.000000");
     EXPECT_EQ(talux("undo " + write("none", "TLX_Uearth=35\n") + " --yes").status, 2);
 }
 

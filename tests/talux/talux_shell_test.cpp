@@ -99,8 +99,7 @@ TEST_F(TaluxShell, ReadsAPipe) {
     EXPECT_EQ(refused.status, 1);
     const Ended stopped =
         run(lines + "2>&1 | tail -1; printf 'discard\\nTLX_U123ok\\n' | talux shell | tail -1");
-    EXPECT_EQ(stopped.output,
-              "  stopped here; pending settings: 2, see talux status\n80.000000\n");
+    EXPECT_EQ(stopped.output, "  stopped here; pending settings: 2, see talux status\n80.000000\n");
 }
 
 TEST_F(TaluxShell, AsksBeforeAnAddressActsAndTakesChangesBack) {

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "ParamSystem/files/ParameterFile.h"
 #include "tools/talux/Command.h"
 
 namespace talux::tool {
@@ -13,7 +14,8 @@ namespace talux::tool {
 std::string contentsOf(const std::string& path, const Context& context);
 
 // What was there stays if the new text cannot be written. Throws CouldNot with the reason.
-void replace(const std::string& path, const std::string& text, const Context& context);
+void replace(const std::string& path, const std::string& text, const Context& context,
+             const Rights* rights = nullptr);
 
 } // namespace talux::tool
 

@@ -85,7 +85,6 @@ public:
         const OneAtATime guard(context);
         writeAll();
         if (order.json) show();
-        if (!order.protocol.empty()) replace(order.protocol, journal.text(context), context);
         return kNothing;
     }
 
@@ -139,24 +138,42 @@ private:
         return text;
     }
 
-    void keep() const { replace(lastChange(context), journal.text(context), context); }
+    // A record that cannot be written is known before the first value is.
+    void keep() const {
+        constexpr mode_t kOwnerAlone = 0600; // there may be passwords in it
+        const Rights rights{getuid(), getgid(), kOwnerAlone};
+        if (!order.protocol.empty()) replace(order.protocol, journal.text(context), context, &rights);
+        if (!writes().empty()) replace(lastChange(context), journal.text(context), context, &rights);
+    }
+
+    void demandUnchanged() const {
+        for (const Write& write : writes())
+            if (!write.setsClock() && !sameValue(present(*write.parameter, write.id()), write.from))
+                throw CouldNot(fill(context.say("nothing is written: {} has changed meanwhile",
+                                                "nichts ist geschrieben: {} hat sich inzwischen geändert"),
+                                    {write.label()}));
+    }
 
     void writeAll() {
         if (const std::string half = interruption(context); !order.mends && !half.empty())
             throw CouldNot(half);
+        demandUnchanged();
         const Undisturbed undisturbed;
-        if (!writes().empty()) keep();
+        keep();
         for (const Write& write : writes()) {
             writeOne(write, context);
             if (!isThere(write)) takeBack(write);
         }
         if (isApplied()) order.apply(journal);
         journal.isDone = true;
-        if (!writes().empty()) keep();
+        keep();
         os::logInfo("talux %s: %zu settings by %s", printable(journal.what).c_str(), writes().size(),
                     journal.who.c_str());
         if (order.reach() == Reach::live) VarUpdateGlobalSpace();
-        if (order.reach() == Reach::saved) save(writes(), context);
+        if (order.reach() != Reach::saved) return;
+        std::set<reference::File> files = order.files;
+        files.merge(filesOf(writes()));
+        save(files, context);
     }
 
     [[noreturn]] void takeBack(const Write& failed) {
@@ -180,19 +197,25 @@ void applyAtOnce(const Journal& /*journal*/) {
     VarSetSystemIPs();
 }
 
-void save(const Writes& writes, const Context& context) {
+std::set<reference::File> filesOf(const Writes& writes) {
+    std::set<reference::File> files;
+    for (const Write& write : writes)
+        files.insert(write.parameter->file());
+    return files;
+}
+
+void save(const std::set<reference::File>& files, const Context& context) {
     using reference::File;
-    constexpr std::pair<File, SavedFile> kSaves[] = {{File::normal, SavedFile::parameters},
-                                                     {File::security, SavedFile::security},
-                                                     {File::address, SavedFile::addresses}};
-    for (const auto& each : kSaves) {
-        const auto isIn = [&each](const Write& write) { return write.parameter->file() == each.first; };
-        if (std::ranges::none_of(writes, isIn)) continue;
-        if (const int error = VarSaveError(each.second); error != 0)
+    for (const File file : files) {
+        const int error = file == File::normal     ? VarSaveError(SavedFile::parameters)
+                          : file == File::security ? VarSaveError(SavedFile::security)
+                          : file == File::address  ? VarSaveError(SavedFile::addresses)
+                                                   : 0;
+        if (error != 0)
             throw CouldNot(
                 fill(context.say("the settings are written, but {} is not saved: {}",
                                  "die Einstellungen sind geschrieben, aber {} ist nicht gespeichert: {}"),
-                     {pathOf(each.first, context), std::generic_category().message(error)}));
+                     {pathOf(file, context), std::generic_category().message(error)}));
     }
 }
 
@@ -260,7 +283,9 @@ Status carryOut(const Plan& plan, const Order& order, const Context& context) {
     for (const std::string& refusal : plan.refusals())
         report(CouldNot(refusal));
     if (!plan.refusals().empty()) throw CouldNot(context.say("nothing is written", "nichts ist geschrieben"));
-    return carryOut(plan.writes(), order, context);
+    Order all = order;
+    all.files = plan.files();
+    return carryOut(plan.writes(), all, context);
 }
 
 Status carryOut(const Writes& writes, const Order& order, const Context& context) {

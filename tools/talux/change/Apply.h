@@ -18,8 +18,9 @@ struct Order {
     std::string protocol; // a file for the record; empty: none
     // Applies addresses to the system; none: leaves them.
     std::function<void(const Journal&)> apply = applyAtOnce;
-    bool appliesAll = false; // netmasks and gateways, too
-    bool mends = false;      // a change that was interrupted
+    bool appliesAll = false;         // netmasks and gateways, too
+    std::set<reference::File> files; // to save, besides those of what is written
+    bool mends = false;              // a change that was interrupted
 
     Reach reach() const { return save ? Reach::saved : live ? Reach::live : Reach::pending; }
     void takeOptions(Subcommand& command);
@@ -39,8 +40,9 @@ Status carryOut(const Writes& writes, const Order& order, const Context& context
 Status undoLast(bool isAgreed, const Context& context);
 Status discardPending(bool isAgreed, const Context& context);
 
-// Saves the files of these settings. Throws CouldNot if one does not hold them then.
-void save(const Writes& writes, const Context& context);
+// Throws CouldNot if one is not surely on the disk.
+void save(const std::set<reference::File>& files, const Context& context);
+std::set<reference::File> filesOf(const Writes& writes);
 
 // Asks on the terminal; true if the answer is yes. Throws CouldNot where there is none to ask at.
 bool isAgreed(const std::string& question, const Context& context);

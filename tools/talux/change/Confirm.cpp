@@ -206,7 +206,7 @@ Status confirm(const Context& context) {
     if (!journal)
         throw CouldNot(
             context.say("no address waits to be confirmed", "keine Adresse wartet auf Bestätigung"));
-    save(journal->writes, context);
+    save(filesOf(journal->writes), context);
     os::removeFile(openAddress(context).c_str());
     os::logInfo("talux confirm: %s by %s", inWords(*journal, context).c_str(), whoAmI().c_str());
     print(fill(context.say("confirmed and saved: {}\n", "bestätigt und gespeichert: {}\n"),

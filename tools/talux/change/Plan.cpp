@@ -240,6 +240,13 @@ void Plan::read(const std::string& path) {
     }
 }
 
+std::set<reference::File> Plan::files() const {
+    std::set<reference::File> all;
+    for (const int id : ids)
+        all.insert(fileOf(*GetParamProperties(id)));
+    return all;
+}
+
 Writes Plan::writes() const {
     Writes ordered = planned;
     const auto rank = [](const Write& write) {

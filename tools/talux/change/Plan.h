@@ -57,6 +57,9 @@ public:
     // One for each value that cannot be written.
     const std::vector<std::string>& refusals() const { return refused; }
 
+    // Those of all settings that are named, whether they differ or not.
+    std::set<reference::File> files() const;
+
     // What differs from what is there, in the order in which it has to be written: the clock and then the
     // addresses last, since they cannot be taken back.
     Writes writes() const;
