@@ -20,7 +20,7 @@ public:
     // that is set, with its NUL. Needed before the first SetString; changes nothing else.
     void SetBuffer(char* buf);
 
-    // The same for a buffer of `size` bytes (at most 65534 are used): a string that it does not hold is
+    // The same for a buffer of `size` bytes (at most 65534 are used): a string that does not fit is
     // refused.
     void SetBuffer(char* buf, UINT size);
 
@@ -42,7 +42,7 @@ public:
     // kMaxDelimiters is cut.
     char* nextToken(const char* delim);
 
-    // How many tokens nextToken() would still return; moves nothing.
+    // How many tokens nextToken() would still return; changes nothing.
     UINT countTokens();
 
 protected:
@@ -53,7 +53,7 @@ protected:
     BOOL retTokens;
 
 private:
-    // These lie in the padding after retTokens.
+    // These are in the padding after retTokens.
     char endedBy; // with retTokens: the character under the NUL that ended the last token
     unsigned short bufferSize;
 

@@ -27,7 +27,7 @@ enum KeplResult : int {
 class TALUX_API KEPL_Interpreter {
 public:
     // Attaches the store (VarInit) with `inipath` as the directory of the parameter files; of the path,
-    // the first 254 characters serve for named files of the load commands. No trailing slash.
+    // load commands with a file name use the first 254 characters. No trailing slash.
     explicit KEPL_Interpreter(char* inipath);
 
     // The tokenizers point to the object's own buffers.
@@ -36,8 +36,8 @@ public:
 
     /*
      * Evaluates a line.
-     * szLine:     the line, at most kKeplMaxLine characters; a longer one is refused whole.
-     * DataOut:    receives the output of shell terms; null: it goes nowhere.
+     * szLine:     the line, at most kKeplMaxLine characters; a longer one is refused as a whole.
+     * DataOut:    receives the output of shell terms; null discards it.
      * szResult:   the answer; kKeplTextSize bytes plus the terminator's length are always enough.
      * terminator: appended to every answer but the empty one after a shell term.
      * uid:        rights of the caller, 0 (lowest) to 3 (all).
@@ -59,7 +59,7 @@ public:
     int GetNewValType(int type1, int type2);
 
     /*
-     * Carries out one variable term, given without its prefix (at most kKeplMaxTerm characters).
+     * Executes one variable term, given without its prefix (at most kKeplMaxTerm characters).
      * txt: answer text, kKeplTextSize bytes. adStack, aiType: kKeplStackSize values and their type codes;
      * a value that was read is stored at index *iSP, which stays as it is.
      * Returns 1 read (txt empty: the value is in the slot), 0 written, -1 refused (text for GetError).
@@ -67,7 +67,7 @@ public:
     int ProcessCommand(const char* theCommand, char* txt, double* adStack, int* aiType, int* iSP, int uid);
 
 private:
-    // Programs hold objects of this layout: what is no longer needed stays.
+    // Programs contain objects of this layout, so unused members remain.
     char szIniPath[255];
     char strTokenBuffer[255]; // the line
     char strSubTokenBuffer[255];

@@ -37,8 +37,7 @@ extern TALUX_API const int DefParamTextCount; // kDefParamTextRows
 /*
  * The working table, which every look-up reads. Row 0 stands for "not found"; after it the first row with id
  * 0 ends the table. A program may change rows and add some at the end, before it starts a second thread.
- * Texts of an id that has compiled-in ones are looked for beside those and in the rows from kDefParamTextRows
- * - 1 on.
+ * For an id with compiled-in texts, those and the rows from kDefParamTextRows - 1 on are searched.
  */
 extern TALUX_API stParamText ParamText[kParamTextRows];
 
@@ -48,15 +47,15 @@ extern TALUX_API const stParamSymbol DefParamTextSymbols[];
 // Row found by the last First or Next look-up: the one cursor of the process.
 extern TALUX_API int iLastEntry;
 
-// Copies DefParamText into the working table, again at every call; what a program wrote into the rows after
-// them stays. Returns 1. Called at start-up before any look-up.
+// Copies DefParamText into the working table, again at every call; rows that a program wrote after
+// them remain. Returns 1. Called at start-up before any look-up.
 TALUX_API int LoadDefParamStrings();
 
 /*
  * Replaces the working table by the texts of a tab-separated file, one text per line of at most 253
  * characters: symbol, language, type, group, item, "text". Empty lines are skipped. The first text takes the
- * place of row 0, which look-ups return for "not found"; the table ends after the last one. The texts lie in
- * the string space of the field reader, which the caller resets with Data_StringReset before. Returns 1; any
+ * place of row 0, which look-ups return for "not found"; the table ends after the last one. The texts are in
+ * the string space of the field reader, which the caller first resets with Data_StringReset. Returns 1; any
  * error prints its message to standard output and ends the process with exit status 2. Call it before any
  * look-up in a second thread.
  */
@@ -68,7 +67,7 @@ TALUX_API int ResolveParamTextSymbol(char* name, VarLong* lvalue);
 /*
  * The look-ups search in the language of the parameter `Language` (temporary space) and return the first
  * text in table order that matches; all but the Next functions fall back to English. They never return
- * null: a text that is not there is row 0, whose txt is "***". An id below 1 aborts. The First and Next
+ * null: a missing text is row 0, whose txt is "***". An id below 1 aborts. The First and Next
  * functions move the one cursor of the process and belong to one thread.
  */
 TALUX_API const stParamText* GetParamString(int id, int type);

@@ -80,7 +80,7 @@ inline constexpr int kSpareParamRows = 98;
 /*
  * The working table, which every look-up, the store and the command language read: kSpareParamRows rows more
  * than DefParamProperties. After row 0 the first row with id 0 ends it. Before it starts a second thread, a
- * program may change rows (access, range, type, level) and fill the first spare one. The texts of a row are
+ * program may change rows (access, range, type, level) and fill the first spare row. The texts of a row are
  * never null, and its name has at most 127 characters.
  */
 extern TALUX_API stParamProperties ParamProperties[];
@@ -101,7 +101,7 @@ extern TALUX_API const stParamSymbol DefParamSymbols[];
 /*
  * Copies DefParamProperties into the working table, again at every call; spare rows stay as they are. Before,
  * the look-ups find nothing. Returns 1. Called at start-up, before any look-up and any second thread; the
- * look-ups are then thread-safe, and the rows that they hand out stay valid for the life of the process.
+ * look-ups are then thread-safe, and the rows that they return stay valid for the life of the process.
  */
 TALUX_API int LoadDefParamProperties();
 
@@ -109,8 +109,8 @@ TALUX_API int LoadDefParamProperties();
 TALUX_API int LoadParamProperties(char* sourcefile);
 
 // The first row in table order with this id, or null. Aborts on a negative id. A compiled-in row that still
-// has its id is found at its place, also when a program gave the id to a row before it or cleared one; names
-// alike.
+// has its id is found at its place, even if a program gave the id to an earlier row or cleared one; the same
+// applies to names.
 TALUX_API const stParamProperties* GetParamProperties(int id);
 
 // The row at a table position: 0 the opening sentinel, the parameters from 1 on. Null after the last of them,

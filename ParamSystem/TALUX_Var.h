@@ -11,8 +11,8 @@
 /*
  * Two spaces hold the values. The global space has the live values that all programs of the device use;
  * the temporary space is the working copy of the settings, which reaches the global space with the commit
- * (VarUpdateGlobalSpace). Run-time values live in the global space alone. Three structured records lie in
- * a segment of their own.
+ * (VarUpdateGlobalSpace). Run-time values live in the global space alone. Three structured records are in
+ * a separate segment.
  *
  * All three are System V shared memory. Accessors lock the kind and space that they touch against the
  * threads of this process; other processes take no lock.
@@ -75,15 +75,15 @@ extern TALUX_API int mutex_init;
 
 // ---- Start-up and clean-up ----------------------------------------------------------------------------
 
-// Sets the directory of the parameter files (its first 255 characters count), creates the locks once and
+// Sets the directory of the parameter files (its first 255 characters are used), creates the locks once and
 // attaches the segments, creating them zero-filled when no program has yet. Call before anything else
 // here and before a second thread. A failure prints the system error and ends the process with status 1.
 // A later call, from any thread, sets the directory anew, and the three pointers to the attached segments.
-// Segments that are attached stay where they are, so that other threads may be inside an accessor; one that
-// was removed and made anew meanwhile is attached in its place.
+// Attached segments stay where they are, so other threads may be inside an accessor; a segment that was
+// removed and created again meanwhile is attached in its place.
 TALUX_API void VarInit(char* inipath);
 
-// What VarInit does besides the path.
+// What VarInit does, except for the path.
 TALUX_API void VarAlloc(void);
 
 // Fills the global and the temporary space with zero bytes. Takes no lock; the records stay.
@@ -261,8 +261,8 @@ TALUX_API int VarUpdateGlobalSpace(void);
  * They are written from the global space and loaded into the temporary space, then committed. Messages go
  * to the error stream or standard output, see docs/architecture.md; docs/files.md describes the format.
  *
- * A save replaces the file as a whole: whoever reads it, also after a cut of the power, finds the old one or
- * the new one. Several processes and threads may save at once; the last one counts. A save needs 48 kB of
+ * A save replaces the file as a whole: whoever reads it, also after a power cut, finds the old one or
+ * the new one. Several processes and threads may save at once; the last one wins. A save needs 48 kB of
  * stack and no heap.
  */
 

@@ -20,7 +20,7 @@ TALUX_API void talux_interpreter_Init(void);
 /*
  * Evaluates one line with full rights.
  * szLine:     at most 254 characters, NUL-terminated.
- * DataOut:    receives the output of shell terms; null: it goes nowhere.
+ * DataOut:    receives the output of shell terms; null discards it.
  * szResult:   buffer for the answer: 3000 bytes plus the terminator's length are always enough.
  * terminator: appended to every answer but the empty one after a shell term, often "\n" or "".
  * Returns 1: answer in szResult; 0: empty line, nothing written; -1: error, fetch it with

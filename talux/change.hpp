@@ -18,7 +18,7 @@ namespace talux {
 template <std::size_t capacity = 32>
 class ChangeOf {
 public:
-    // Checks the value and keeps it; nothing is written yet. What is refused is kept as a refusal.
+    // Checks and stores the value; nothing is written yet. A refused value is listed in refusals().
     template <class Value, class Given>
     ChangeOf& stage(const Setting<Value>& setting, Given given) requires(!detail::kIsText<Value>) {
         return add(setting, setting.check(given), [&](Value& value) { value = static_cast<Value>(given); });

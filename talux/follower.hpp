@@ -170,10 +170,10 @@ private:
 // A snapshot of settings: one copy of the space, 19500 bytes.
 class Settings {
 public:
-    // What is live now. A commit that is just running can be seen half; a Follower never hands that out.
+    // What is live now. A running commit can be seen half done; a Follower never returns that.
     Settings() : Settings(*pVarGlobal) {}
 
-    // Those of a space that lies elsewhere.
+    // Those of a space in other memory.
     explicit Settings(const stVarSpace& from) { std::memcpy(space.data(), &from, sizeof from); }
 
     // The value that a setting had.
@@ -212,14 +212,14 @@ private:
 
 // Gives one settled snapshot of the live settings after another. For one thread; three snapshots of memory.
 //
-// A commit makes settings live one by one, and nobody says when it is done. Settled is what two looks in a
-// row have found, when nothing is pending (the working copy agrees with it, so that no commit can have more
-// to do), else what all looks for a quarter of a second have found. A program that is stopped inside a commit
-// for longer while something else is pending can still be seen half.
+// A commit makes settings live one by one, and does not report when it is done. Settings are settled when two
+// looks in a row agree and nothing is pending (the working copy is the same, so no commit can have more to
+// do), else when all looks for a quarter of a second agree. A program that is stopped inside a commit for
+// longer while something else is pending can still be seen half.
 class Follower {
 public:
-    // A look every so many milliseconds while `wait` waits; at least 1. Waits for settings that are settled,
-    // half a second at most.
+    // A look every so many milliseconds while `wait` waits; at least 1. Waits up to half a second for
+    // settled settings.
     explicit Follower(int periodMilliseconds = 10)
         : period(std::max(periodMilliseconds, 1) * std::int64_t{1000000}) {
         const std::int64_t end = detail::monotonic() + 500000000;
@@ -234,8 +234,8 @@ public:
     [[nodiscard]] const Settings& before() const { return previous; }
     [[nodiscard]] Differences changes() const { return current.changes(previous); }
 
-    // One look, without waiting. True when other settings than the last ones are settled, which `settings`
-    // then gives.
+    // One look, without waiting. True when other settings than the last ones are settled; `settings` then
+    // returns them.
     [[nodiscard]] bool poll() {
         if (current.isLive()) {
             isWatching = false;
@@ -247,7 +247,7 @@ public:
         return true;
     }
 
-    // Looks again and again until other settings are settled, for `milliseconds` at most, whatever signals
+    // Looks again and again until other settings are settled, for at most `milliseconds`, also if signals
     // arrive.
     [[nodiscard]] bool wait(int milliseconds) {
         const std::int64_t end = detail::monotonic() + std::int64_t{milliseconds} * 1000000;

@@ -48,13 +48,13 @@ public:
             [&] { std::apply([&](const Elements&... each) { (each.set(values), ...); }, elements); });
     }
 
-    // What is not whole is not to be used: the variables may hold parts of several writes.
+    // Do not use values that are not whole: they may be parts of several writes.
     [[nodiscard]] Reading read(typename Elements::Value&... values) const {
         return place.read(
             [&] { std::apply([&](const Elements&... each) { (each.get(values), ...); }, elements); });
     }
 
-    // Waits until a write after `last` is done, for `milliseconds` at most, whatever signals arrive. True
+    // Waits until a write after `last` is done, for at most `milliseconds`, also if signals arrive. True
     // when there is one; the next read may find a later one. Writers wake a sleeper only when there is one.
     [[nodiscard]] bool wait(const Reading& last, int milliseconds) const {
         return place.wait(last.number(), milliseconds);

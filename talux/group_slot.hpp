@@ -1,7 +1,7 @@
 // The counters of groups: a segment beside the store, with one slot for each group.
 //
-// A slot has a counter that is odd while a writer is inside, or after it died there. A reader takes the
-// values between two looks at the counter, and again when it was odd or has moved. Semaphores keep writers
+// A slot has a counter that is odd while a writer is inside, or after it died there. A reader copies the
+// values between two looks at the counter, and again if it was odd or has changed. Semaphores keep writers
 // apart and count the programs that use a slot; the kernel takes back what a program that dies has added.
 // Readers hold nothing and delay no writer. tests/models/group.pml is this protocol as a model.
 #ifndef TALUX_GROUP_SLOT_HPP

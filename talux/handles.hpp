@@ -1,4 +1,4 @@
-// Handles of parameters: found by name while compiling, no more than an id at run time.
+// Handles of parameters: found by name at compile time, just an id at run time.
 #ifndef TALUX_HANDLES_HPP
 #define TALUX_HANDLES_HPP
 
@@ -291,7 +291,7 @@ public:
 
     [[nodiscard]] constexpr int id() const { return place; }
 
-    // What the device works with, and what the next commit makes of it.
+    // The live value, and the pending one that the next commit makes live.
     [[nodiscard]] Value live() const {
         return detail::read<Value>(detail::AccessorsOf<Value>::getLive, place);
     }
@@ -300,7 +300,7 @@ public:
     }
 
     // Nothing is stored when the value is refused: outside the range or the choices, a text that is too long
-    // or that no file brings back, a parameter that nobody changes.
+    // or that no file can restore, a read-only parameter.
     template <class Given>
     Result stage(Given value) const requires(!detail::kIsText<Value>) {
         const Result result = check(value);

@@ -41,13 +41,13 @@ public:
     void commit() { VarUpdateGlobalSpace(); }
 
     // A commit, then parameter.ini, sec_parameter.ini or ip_config.ini. True when the file and its dated copy
-    // are surely on the disk, whatever other programs save meanwhile.
+    // are on the disk, whatever other programs save meanwhile.
     Result save() { return saved(SavedFile::parameters); }
     Result save_sec() { return saved(SavedFile::security); }
     Result save_ip() { return saved(SavedFile::addresses); }
 
     // Load a file and make it live; the last one applies the network settings too. False when it cannot be
-    // opened, for instance because it was never saved; lines that say nothing are skipped.
+    // opened, for instance because it was never saved; lines without a setting are skipped.
     Result load() { return loaded(VarLoadParams()); }
     Result load_sec() { return loaded(VarLoadSecParams()); }
     Result load_ip() { return loaded(VarLoadIPConfig()); }

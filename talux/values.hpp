@@ -10,14 +10,14 @@
 
 namespace talux {
 
-// A text as the store keeps it: NUL-terminated, at most kRoom bytes.
+// A text as the store holds it: NUL-terminated, at most kRoom bytes.
 template <table::Kind kind>
 class StoredText {
 public:
     static constexpr std::size_t kRoom = kind == table::Kind::text ? 127 : 19;
 
     constexpr StoredText() { characters[0] = '\0'; }
-    // Up to a NUL; of what is longer the first kRoom bytes, as the store keeps it.
+    // Up to a NUL; a longer text is cut to kRoom bytes, as in the store.
     explicit constexpr StoredText(std::string_view givenText) {
         std::size_t length = 0;
         for (; length < givenText.size() && length < kRoom && givenText[length] != '\0'; ++length)
@@ -62,7 +62,7 @@ enum class Reason : unsigned char {
     notLoaded,
 };
 
-// What came of a write: true when it was done.
+// The result of a write: true if it was done.
 class [[nodiscard]] Result {
 public:
     constexpr Result() = default;
