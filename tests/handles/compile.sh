@@ -25,10 +25,11 @@ while IFS=: read -r line text; do
   for compiler in "${compilers[@]}"; do
     message=$(awk -v place="wrong.hpp:$line:" 'index($0, place) && / error: / { on = 1 } / error: / && !index($0, place) { on = 0 }
       on' "$work/$compiler")
-    first=$(head -n 1 <<<"$message")
-    [ "$compiler" = g++ ] || first=$(sed 's,// .*,,' <<<"$message")
-    grep -qF "$reason" <<<"$first" && grep -qF "${text%% *//*}" <<<"$message" ||
+    said=$(head -n 1 <<<"$message")
+    [ "$compiler" = g++ ] || said=${message//\/\/ $reason/}
+    if ! grep -qF "$reason" <<<"$said" || ! grep -qF "${text%% *//*}" <<<"$message"; then
       fail "$compiler, line $line: $reason is not said:" "$message"
+    fi
   done
 done < <(grep -n '// [a-z]' "$here/wrong.hpp" | grep -v ':// ')
 

@@ -1,12 +1,12 @@
 #!/bin/bash
 # The C++ blocks of a page compile. Those with a `main` are run one after the other on one store, and print what the
-# text block after them shows, or nothing. The others are what a C++17 program has inside a function. With TALUX_ACCEPT
-# set, the page gets what they print.
+# text block after them shows, or nothing. Those with GoogleTest are linked with it alone and pass. The others are what a
+# C++17 program has inside a function. With TALUX_ACCEPT set, the page gets what they print.
 #
-#   page.sh PAGE LIBRARY EMULATOR COMPILER..
+#   page.sh PAGE LIBRARY "GOOGLETEST-LIBRARIES" EMULATOR COMPILER..
 # shellcheck disable=SC2016 # a text for the inner shell
 set -eu
-page=$1 library=$2 emulator=$3; shift 3
+page=$1 library=$2 gtest=$3 emulator=$4; shift 4
 project=$(cd "$(dirname "$0")/../.." && pwd)
 work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
 fail() { echo "$*"; exit 1; }
@@ -20,7 +20,12 @@ awk -v work="$work" '
 compile=("$@" -Wall -Wextra -Wconversion -Wshadow -Werror -I"$project")
 cd "$work"
 for block in *.cpp; do
-  if grep -q 'int main()' "$block"; then
+  if grep -q 'gtest/gtest.h' "$block"; then # a test without library and store, so without isolation
+    # shellcheck disable=SC2086 # words
+    "${compile[@]}" -std=c++20 "$block" $gtest -pthread -o test
+    # shellcheck disable=SC2086
+    $emulator ./test >test.out || { cat test.out; false; }
+  elif grep -q 'int main()' "$block"; then
     "${compile[@]}" -std=c++20 -O2 "$block" "$library" -Wl,-rpath,"${library%/*}" -o "${block%.cpp}.program"
   else
     { echo '#include <cstdio>'; grep '^#include' "$block"

@@ -1,0 +1,172 @@
+// A store in private memory, for unit tests of programs with handles: no library, no shared memory, no
+// isolation. Include it in one source of the test, and do not link the library: this defines its functions
+// that handles, changes and followers call.
+//
+//   talux::Fake fake; // everything is 0 or empty, the factory defaults too
+//   CHECK(threshold.stage(35));
+//
+// It has no files, no language and of the dictionary the names. A talux::Group makes its own shared memory,
+// so that a test with groups still needs isolation.
+#ifndef TALUX_FAKE_HPP
+#define TALUX_FAKE_HPP
+
+#include <algorithm>
+#include <iterator>
+
+#include "talux/follower.hpp"
+#include "talux/talux.hpp"
+
+namespace talux {
+
+namespace detail::fake {
+
+inline stVarSpace live, staged;
+alignas(8) inline char records[3][1024];
+static_assert(sizeof(MessRecord01) <= 1024 && sizeof(MessRecord02) <= 1024 && sizeof(StatRecord_c0) <= 1024);
+inline int saveError = 0;
+
+template <table::Kind kind>
+char* placeOf(stVarSpace& space, int id) {
+    return reinterpret_cast<char*>(&space) + bytesOf(kind, id).offset;
+}
+
+template <table::Kind kind, class Value>
+void put(stVarSpace& space, int id, const Value* values, unsigned long count = 1) {
+    std::memcpy(placeOf<kind>(space, id), values, count * sizeof *values);
+}
+template <table::Kind kind, class Value>
+void get(stVarSpace& space, int id, Value* values, unsigned long count = 1) {
+    std::memcpy(values, placeOf<kind>(space, id), count * sizeof *values);
+}
+
+template <table::Kind kind>
+void putText(stVarSpace& space, int id, const char* text) {
+    const std::size_t room = bytesOf(kind, id).size - 1;
+    char* const place = placeOf<kind>(space, id);
+    const std::size_t length = strnlen(text, room);
+    std::memcpy(place, text, length);
+    place[length] = '\0';
+}
+template <table::Kind kind>
+void getText(stVarSpace& space, int id, char* text) {
+    std::memcpy(text, placeOf<kind>(space, id), bytesOf(kind, id).size);
+}
+
+// Of the dictionary the names, until the next look-up of the thread.
+template <class Wanted>
+const stParamProperties* find(Wanted wanted) {
+    thread_local stParamProperties found{};
+    const auto* const row = std::find_if(std::begin(table::kRows), std::end(table::kRows), wanted);
+    if (row == std::end(table::kRows)) return nullptr;
+    found.id = row->id;
+    found.name = row->name;
+    return &found;
+}
+
+} // namespace detail::fake
+
+// Begins with an empty store; one at a time.
+class Fake {
+public:
+    Fake() {
+        detail::fake::live = detail::fake::staged = {};
+        std::memset(detail::fake::records, 0, sizeof detail::fake::records);
+        detail::fake::saveError = 0;
+    }
+
+    // From now on a save fails with this errno, such as ENOSPC; 0: it works, and writes nothing.
+    void fail_saves(int error) { detail::fake::saveError = error; }
+};
+
+} // namespace talux
+
+stVarSpace* pVarGlobal = &talux::detail::fake::live;
+stVarSpace* pVarTemp = &talux::detail::fake::staged;
+void* pVarStruct = talux::detail::fake::records;
+const stParamText DefParamText[kDefParamTextRows] = {};
+
+#define TALUX_FAKE(kind, Name, Type)                                                                         \
+    void VarSet##Name##Value(int id, Type value) {                                                           \
+        talux::detail::fake::put<talux::table::Kind::kind>(*pVarTemp, id, &value);                           \
+    }                                                                                                        \
+    void VarSetGlobal##Name##Value(int id, Type value) {                                                     \
+        talux::detail::fake::put<talux::table::Kind::kind>(*pVarGlobal, id, &value);                         \
+    }                                                                                                        \
+    void VarGet##Name##Value(int id, Type* value) {                                                          \
+        talux::detail::fake::get<talux::table::Kind::kind>(*pVarTemp, id, value);                            \
+    }                                                                                                        \
+    void VarGetGlobal##Name##Value(int id, Type* value) {                                                    \
+        talux::detail::fake::get<talux::table::Kind::kind>(*pVarGlobal, id, value);                          \
+    }                                                                                                        \
+    void VarSetGlobal##Name##ValueArray(int id, Type* values, unsigned long count) {                         \
+        talux::detail::fake::put<talux::table::Kind::kind>(*pVarGlobal, id, values, count);                  \
+    }                                                                                                        \
+    void VarGetGlobal##Name##ValueArray(int id, Type* values, unsigned long count) {                         \
+        talux::detail::fake::get<talux::table::Kind::kind>(*pVarGlobal, id, values, count);                  \
+    }
+TALUX_FAKE(f32, Float, float)
+TALUX_FAKE(f64, Double, double)
+TALUX_FAKE(i32, Long, VarLong)
+TALUX_FAKE(i16, Int, short)
+TALUX_FAKE(flag, Bool, char)
+TALUX_FAKE(choice, Enum, short)
+#undef TALUX_FAKE
+
+#define TALUX_FAKE(kind, Name)                                                                               \
+    void VarSet##Name##Value(int id, char* text) {                                                           \
+        talux::detail::fake::putText<talux::table::Kind::kind>(*pVarTemp, id, text);                         \
+    }                                                                                                        \
+    void VarSetGlobal##Name##Value(int id, char* text) {                                                     \
+        talux::detail::fake::putText<talux::table::Kind::kind>(*pVarGlobal, id, text);                       \
+    }                                                                                                        \
+    void VarGet##Name##Value(int id, char* text) {                                                           \
+        talux::detail::fake::getText<talux::table::Kind::kind>(*pVarTemp, id, text);                         \
+    }                                                                                                        \
+    void VarGetGlobal##Name##Value(int id, char* text) {                                                     \
+        talux::detail::fake::getText<talux::table::Kind::kind>(*pVarGlobal, id, text);                       \
+    }
+TALUX_FAKE(text, Text)
+TALUX_FAKE(identifier, Id)
+TALUX_FAKE(address, Ip)
+#undef TALUX_FAKE
+
+void VarSetGlobalStructValue(int id, void* record, VarLong size) {
+    std::memcpy(talux::detail::fake::records[id - kFirstStruct], record, static_cast<std::size_t>(size));
+}
+void VarGetGlobalStructValue(int id, void* record, VarLong size) {
+    std::memcpy(record, talux::detail::fake::records[id - kFirstStruct], static_cast<std::size_t>(size));
+}
+
+void VarInit(char*) {}
+void VarSetDefault() {}
+int VarUpdateGlobalSpace() {
+    for (const auto& [id, offset, size] : talux::detail::kSettings)
+        std::memcpy(reinterpret_cast<char*>(pVarGlobal) + offset, reinterpret_cast<char*>(pVarTemp) + offset,
+                    size);
+    return 1;
+}
+int VarSaveError(SavedFile) {
+    VarUpdateGlobalSpace();
+    return talux::detail::fake::saveError;
+}
+int VarLoadParams() {
+    return 0;
+}
+int VarLoadSecParams() {
+    return 0;
+}
+int VarLoadIPConfig() {
+    return 0;
+}
+int LoadDefParamProperties() {
+    return 1;
+}
+const stParamProperties* GetParamProperties(int id) {
+    return talux::detail::fake::find([id](const talux::table::Row& row) { return row.id == id; });
+}
+const stParamProperties* GetParamPropertiesByName(char* name) {
+    return talux::detail::fake::find(
+        [wanted = std::string_view(name)](const talux::table::Row& row) { return row.name == wanted; });
+}
+
+#endif
