@@ -167,8 +167,8 @@ private:
         if (isApplied()) order.apply(journal);
         journal.isDone = true;
         keep();
-        os::logInfo("talux %s: %zu settings by %s", printable(journal.what).c_str(), writes().size(),
-                    journal.who.c_str());
+        os::logInfo("talux %s: %s by %s", printable(journal.what).c_str(),
+                    counted(writes().size(), " setting", " settings").c_str(), journal.who.c_str());
         if (order.reach() == Reach::live) VarUpdateGlobalSpace();
         if (order.reach() != Reach::saved) return;
         std::set<reference::File> files = order.files;

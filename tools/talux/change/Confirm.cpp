@@ -180,7 +180,7 @@ Status address(const Options& options, const Context& context) {
     demandInterfaces(plan.writes(), context);
     int pipe = -1;
     Order order = options.order;
-    order.what = "address " + list(options.assignments, " ");
+    order.what = "address " + namesIn(options.assignments);
     order.appliesAll = true;
     order.apply = [&](const Journal& journal) { pipe = Guard(journal, options.seconds, context).start(); };
     const Status status = carryOut(plan, order, context);

@@ -117,6 +117,10 @@ std::string whoAmI() {
     return printable(who);
 }
 
+std::string namesIn(const std::vector<std::string>& assignments) {
+    return list(assignments, " ", [](const std::string& each) { return each.substr(0, each.find('=')); });
+}
+
 Journal Journal::begun(std::string command, Reach reach, Writes writes) {
     return {false, std::move(command), timeNow(), whoAmI(), reach, std::move(writes)};
 }

@@ -29,7 +29,7 @@ Status set(const Options& options, const Context& context) {
         plan.take(assignment.substr(0, equals), assignment.substr(equals + 1));
     }
     Order order = options.order;
-    order.what = "set " + list(options.assignments, " ");
+    order.what = "set " + namesIn(options.assignments);
     return carryOut(plan, order, context);
 }
 
