@@ -357,7 +357,7 @@ public:
 
     consteval Series(const char* nameWithoutNumber) {
         for (; const table::Row* const row = table::findNumbered(nameWithoutNumber, count + 1); ++count) {
-            const Setting<Value> each(row->name);
+            const Setting<Value> each(table::resolve<Value>(row->name, false));
             if (count == 0) first = each;
             if (each.limits.min != first.limits.min || each.limits.max != first.limits.max ||
                 each.readOnly != first.readOnly || count == kMost)

@@ -23,8 +23,9 @@ constexpr Measured<double> word{"vMWR"};
 constexpr Measured<float> last{"mw_BE_AC_2"};
 constexpr Setting<float> threshold{"Uearth"};
 constexpr Setting<Text> name{"Name"};
-constexpr auto case16 = word.at(97);          // the_index_is_outside_its_range
-constexpr auto case17 = last.run<3>();        // the_run_is_too_long
-constexpr auto case18 = threshold.valid(0.5); // the_value_is_outside_its_range
-const std::string_view case19 = name.live();  // deleted
-const auto case20 = word.at<97>().get();      // the_index_is_outside_its_range
+constexpr auto case16 = word.at(97);                  // the_index_is_outside_its_range
+constexpr auto case17 = last.run<3>();                // the_run_is_too_long
+constexpr auto case18 = threshold.valid(0.5);         // the_value_is_outside_its_range
+const std::string_view case19 = name.live();          // deleted
+const auto case20 = word.at<97>().get();              // the_index_is_outside_its_range
+constexpr Series<choice::BAassign> case21{"BAasign"}; // no_parameter_has_this_name
