@@ -3,6 +3,7 @@
 #include "Program.h"
 
 #include "ParamSystem/KEPL_Interpreter.h"
+#include "tools/talux/PlausibilityRules.h"
 
 namespace {
 
@@ -197,6 +198,63 @@ TEST_F(TaluxStore, FingerprintsKnowSettingsAlone) {
     EXPECT_EQ(digest("TLX_phi_corr_U0=-0\n"), digest("TLX_phi_corr_U0=0\n"));
     for (const char* change : {"TLX_Uearth=30.5\n", "TLX_Name=\"x\"\n", "TLX_Language=2\n"})
         EXPECT_NE(digest(joined("\n") + change), wanted) << change;
+}
+
+TEST_F(TaluxStore, EachRuleOfPlausibilityHasSettingsThatBreakIt) {
+    // The codes of the broken rules, blanks around each.
+    const auto broken = [this](const std::string& settings) {
+        VarSetDefault();
+        std::string file = write("set.ini", settings);
+        VarLoadFile(file.data(), 0);
+        return " " + run("talux status --plausible --json | sed -n 's/.*\"code\": \"\\(.*\\)\".*/\\1/p' | "
+                         "sort -u | tr '\\n' ' '")
+                         .output;
+    };
+    const std::string factory = broken("");
+    const std::pair<std::string, const char*> kSettings[] = {
+        {"range", "TLX_Uearth=95\n"},
+        {"choice", "TLX_BAassign3=0\n"},
+        {"time", "TLX_sc_T_min_1=-5\n"},
+        {"current", "TLX_qu2_Ice=700000\n"},
+        {"magnitude", "TLX_harm1_Umin=-1\n"},
+        {"angle", "TLX_cos_w_min=400\n"},
+        {"count", "TLX_cos_cycle=-1\n"},
+        {"ratio", "TLX_I1_sek_ref=-1\n"},
+        {"tcp-port", "TLX_T104_port=70000\n"},
+        {"register", "TLX_vBEmo=65536\n"},
+        {"registers-overlap", "TLX_vBEmo=200\n"},
+        {"coils-overlap", "TLX_vBEmoc=3199\n"},
+        {"drop-out", "TLX_BE_DC_on_1=100\nTLX_BE_DC_off_1=101\n"},
+        {"phase", "TLX_U123erd=81\n"},
+        {"band", "TLX_adm_fu=75\n"},
+        {"pulses", "TLX_p50_P_min=6\n"},
+        {"ftp-ports", "TLX_ftp_min_passive=60000\nTLX_ftp_max_passive=59999\n"},
+        {"t2", "TLX_T104_T2=15\n"},
+        {"window", "TLX_T104_W=9\n"},
+        {"method-off", "TLX_qu2_active=0\nTLX_BAassign3=28\n"},
+        {"no-function", "TLX_LEDassign1=100\n"},
+        {"time-zone", "TLX_TIMEZONE=\"/usr/share/zoneinfo/Mars\"\n"},
+        {"mask", "TLX_FW_ETH0_MASK=\"255.0.255.0\"\n"},
+        {"gateway", "TLX_ETH0_GATEWAY=\"10.1.1.1\"\n"},
+        {"one-network", "TLX_eth1_active=1\nTLX_ETH1_IP=\"192.168.1.1\"\n"},
+        {"serial-port", "TLX_VELMO_activ=1\nTLX_DCF77_activ=1\nTLX_VELMO_port=3\n"},
+        {"tcp-twice", "TLX_modbus_active=1\nTLX_T104_active=1\nTLX_Modbus_Port=2404\n"}};
+    for (const auto& [code, settings] : kSettings) {
+        EXPECT_EQ(factory.find(" " + code + " "), factory.npos) << code;
+        EXPECT_NE(broken(settings).find(" " + code + " "), factory.npos) << code;
+    }
+    for (const talux::tool::PlausibilityRule& rule : talux::tool::kPlausibilityRules) {
+        const std::string code = rule.code;
+        EXPECT_EQ(factory.find(" " + code + " ") != factory.npos, rule.isBrokenByFactory) << code;
+        EXPECT_TRUE(rule.isBrokenByFactory || code == "individual" ||
+                    std::ranges::count(kSettings, code, &std::pair<std::string, const char*>::first) == 1)
+            << code;
+    }
+    VarSetDefault();
+    char name[] = "Feeder 6";
+    VarSetValue(GetParamPropertiesByName(const_cast<char*>("Name"))->id, asValue(name));
+    EXPECT_NE(run("talux check " + write("other.ini", "TLX_Name=\"Feeder 7\"\n")).output.find("one device"),
+              factory.npos);
 }
 
 TEST_F(TaluxStore, LintFindsWhatTheInterpreterRefuses) {

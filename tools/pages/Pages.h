@@ -13,6 +13,7 @@ void addFamilies(Pages& pages); // one page per menu family
 void addIndexes(Pages& pages);  // entry page
 void addMethods(Pages& pages);
 void addGlossary(Pages& pages);
+void addPlausibility(Pages& pages);
 
 // All parameters on one page to search: `page` with new data.
 void addSearchPage(Pages& pages, std::string page);

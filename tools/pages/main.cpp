@@ -23,6 +23,7 @@ pages::Pages allPages(const path& folder) {
     pages::addIndexes(pages);
     pages::addMethods(pages);
     pages::addGlossary(pages);
+    pages::addPlausibility(pages);
     pages::addSearchPage(pages, contentOf(folder / "parameters.html"));
     return pages;
 }

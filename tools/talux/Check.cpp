@@ -1,8 +1,10 @@
-// talux check: what a file contains, line by line, compared with the factory settings or another source.
+// talux check: what a load of a file would change, line by line, and whether what it leaves is plausible.
+#include <map>
 #include <memory>
 
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
+#include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
@@ -10,37 +12,72 @@ namespace talux::tool {
 
 namespace {
 
-constexpr std::size_t kMostTold = 1000; // lines of a file about which something is said
+constexpr std::size_t kMostLines = 1000; // of a file about which something is said
 
 struct Options {
     std::vector<std::string> files;
-    std::string against = "default";
+    std::string against; // empty: the working copy where there is a device
     bool json = false;
 };
 
-// What is told about one file.
-struct Told {
-    std::vector<Judgement> judgements;
+// What is reported about one file.
+struct FileReport {
+    std::string path, baseline;
+    std::vector<Judgement> judgements{};
+    std::vector<Implausible> implausible{};
+    std::vector<const Parameter*>
+        others{}; // pending, not in the file, and committed by its load all the same
     int settings = 0;
     int changes = 0;
     int findings = 0;
-    std::size_t untold = 0;
+    std::size_t omitted = 0;
+
+    bool found() const { return changes > 0 || findings > 0 || omitted > 0; }
 };
 
-Told judgeFile(const std::string& path, const Source& before, const Context& context) {
+using Loaded = std::map<int, Value>; // by id
+
+// The rules on what a load leaves, where the file has a part in it. Its lines have said what is odd about one
+// value alone.
+void addImplausible(FileReport& report, const Loaded& loaded, const Source& before, const Context& context) {
+    const auto isLoaded = [&](const Parameter& parameter) { return loaded.contains(parameter.row().id); };
+    const auto after = [&](const Parameter& parameter) {
+        return isLoaded(parameter) ? std::optional(loaded.at(parameter.row().id)) : before.value(parameter);
+    };
+    const auto own = [&](const Parameter& parameter) { return before.value(parameter); };
+    findImplausible(after, own, context, [&](const Implausible& found) {
+        if (found.isSaidOfLines() || !found.concerns(isLoaded)) return;
+        report.findings += found.isFault() ? 1 : 0;
+        report.implausible.push_back(found);
+    });
+}
+
+void addOthers(FileReport& report, const Loaded& loaded, const Source& staged, const Context& context) {
+    const Source live = Source::open("live", context);
+    for (const Parameter& parameter : reference::parameters())
+        if (parameter.isSetting() && !isOfClock(parameter) && !loaded.contains(parameter.row().id) &&
+            !sameValue(live.value(parameter), staged.value(parameter)))
+            report.others.push_back(&parameter);
+}
+
+FileReport judgeFile(const std::string& path, const Source& before, const Context& context) {
     Judge judge(path, before, context);
-    Told told;
+    FileReport report{.path = path, .baseline = before.called(context)};
+    Loaded loaded;
     readEntries(path, context, [&](const Entry& entry) {
         Judgement judgement = judge.judge(entry);
-        told.settings += judgement.to ? 1 : 0;
-        told.changes += judgement.isChange() ? 1 : 0;
-        told.findings += static_cast<int>(judgement.findings.size());
-        if (judgement.isUntold || told.judgements.size() >= kMostTold)
-            ++told.untold;
+        report.settings += judgement.to ? 1 : 0;
+        report.changes += judgement.isChange() ? 1 : 0;
+        report.findings += static_cast<int>(judgement.findings.size());
+        if (judgement.to) loaded.insert_or_assign(judgement.parameter->row().id, *judgement.to);
+        if (judgement.isUntold || report.judgements.size() >= kMostLines)
+            ++report.omitted;
         else if (judgement.changes() || !judgement.findings.empty())
-            told.judgements.push_back(std::move(judgement));
+            report.judgements.push_back(std::move(judgement));
     });
-    return told;
+    addImplausible(report, loaded, before, context);
+    if (before.kind() == Source::Kind::staged) addOthers(report, loaded, before, context);
+    return report;
 }
 
 void printJudgement(const std::string& path, const Judgement& judgement, const Context& context) {
@@ -57,20 +94,30 @@ void printJudgement(const std::string& path, const Judgement& judgement, const C
     if (judgement.isChange() || !judgement.findings.empty()) print(text + "\n");
 }
 
-void printText(const std::string& path, const Told& told, const Context& context) {
-    for (const Judgement& judgement : told.judgements)
+void printText(const FileReport& report, const Context& context) {
+    const Paint paint;
+    const std::string path = printable(report.path);
+    const std::string head = fill(context.say("{} against {}", "{} gegenüber {}"), {path, report.baseline});
+    print(head + ":\n");
+    for (const Judgement& judgement : report.judgements)
         printJudgement(path, judgement, context);
-    if (told.untold > 0)
+    if (report.omitted > 0)
         print(fill(
             context.say("{}: {} more lines are not listed\n", "{}: {} weitere Zeilen sind nicht genannt\n"),
-            {path, std::to_string(told.untold)}));
-    print(fill(
-        "{}: {}, {}, {}\n",
-        {path,
-         counted(told.settings, context.say(" setting", " Einstellung"),
-                 context.say(" settings", " Einstellungen")),
-         counted(told.changes, context.say(" change", " Änderung"), context.say(" changes", " Änderungen")),
-         counted(told.findings, context.say(" finding", " Befund"), context.say(" findings", " Befunde"))}));
+            {path, std::to_string(report.omitted)}));
+    for (const Implausible& found : report.implausible)
+        print(joined({path, ": ", found.isFault() ? paint.bad(found.text) : found.text, "\n"}));
+    if (!report.others.empty())
+        print(fill(context.say("{}: a load also makes live what else is pending: {}\n",
+                               "{}: Laden macht auch gültig, was sonst noch aussteht: {}\n"),
+                   {path, list(report.others, ", ", [](const Parameter* other) { return other->name(); })}));
+    print(fill("{}: {}, {}, {}\n", {head,
+                                    counted(report.settings, context.say(" setting", " Einstellung"),
+                                            context.say(" settings", " Einstellungen")),
+                                    counted(report.changes, context.say(" change", " Änderung"),
+                                            context.say(" changes", " Änderungen")),
+                                    counted(report.findings, context.say(" finding", " Befund"),
+                                            context.say(" findings", " Befunde"))}));
 }
 
 Json described(const Judgement& judgement, const Context& context) {
@@ -84,28 +131,38 @@ Json described(const Judgement& judgement, const Context& context) {
     return object;
 }
 
-Json described(const std::string& path, const Told& told, const Context& context) {
-    Json lines = Json::array();
-    for (const Judgement& judgement : told.judgements)
+Json described(const FileReport& report, const Context& context) {
+    Json lines = Json::array(), implausible = Json::array(), others = Json::array();
+    for (const Judgement& judgement : report.judgements)
         lines.add(described(judgement, context));
-    return {{"file", path},
-            {"settings", told.settings},
-            {"changes", told.changes},
-            {"findings", told.findings},
-            {"untold", static_cast<std::int64_t>(told.untold)},
-            {"lines", std::move(lines)}};
+    for (const Implausible& found : report.implausible)
+        implausible.add(described(found));
+    for (const Parameter* const other : report.others)
+        others.add(other->name());
+    return {{"file", report.path},
+            {"settings", report.settings},
+            {"changes", report.changes},
+            {"findings", report.findings},
+            {"untold", static_cast<std::int64_t>(report.omitted)},
+            {"lines", std::move(lines)},
+            {"implausible", std::move(implausible)},
+            {"also_committed", std::move(others)}};
 }
 
 Status run(const Options& options, const Context& context) {
-    const Source before = Source::open(options.against, context);
+    const char* const usual = isDeviceThere() ? "staged" : "default";
+    const Source before = Source::open(options.against.empty() ? usual : options.against, context);
     Json all = Json::array();
-    const Status status = forEachFile(options.files, [&](const std::string& path) {
-        const Told told = judgeFile(path, before, context);
+    const auto checkFile = [&](const std::string& path) {
+        const FileReport report = judgeFile(path, before, context);
         if (options.json)
-            all.add(described(path, told, context));
+            all.add(described(report, context));
         else
-            printText(printable(path), told, context);
-        return told.changes > 0 || told.findings > 0 || told.untold > 0 ? kFound : kNothing;
+            printText(report, context);
+        return report.found() ? kFound : kNothing;
+    };
+    const Status status = forEachFile(options.files, [&](const std::string& path) {
+        return isFolder(path) ? forEachFile(filesIn(path, context), checkFile) : checkFile(path);
     });
     if (options.json) print(all.text());
     return status;
@@ -116,14 +173,19 @@ Status run(const Options& options, const Context& context) {
 void addCheck(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
     Subcommand command(line, "check",
-                       {"check the lines of a file, compare them with a source",
-                        "Zeilen einer Datei prüfen und vergleichen"});
-    command.argument({"FILE", "DATEI"}, options->files, {"parameter files", "Parameterdateien"}).required();
-    command.option("--against", options->against,
-                   {"what to compare with: default (factory settings), live, staged, a file or a folder; "
-                    "default if not given",
-                    "womit verglichen wird: default (Werkseinstellung), live, staged, eine Datei oder ein "
-                    "Ordner; sonst mit default"});
+                       {"what a load of a file would change, and what is odd",
+                        "was Laden einer Datei ändern würde und was auffällt"});
+    command
+        .argument({"FILE", "DATEI"}, options->files,
+                  {"parameter files, or folders with the three of them",
+                   "Parameterdateien oder Ordner mit den dreien"})
+        .required();
+    command.option(
+        "--against", options->against,
+        {"what to compare with: default (factory settings), live, staged (the working copy), a file or "
+         "a folder; if not given, staged on a device, else default",
+         "womit verglichen wird: default (Werkseinstellung), live, staged (Arbeitskopie), eine Datei "
+         "oder ein Ordner; sonst auf einem Gerät staged, am Schreibtisch default"});
     command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }

@@ -20,11 +20,6 @@ std::string reason(int error) {
     return std::generic_category().message(error);
 }
 
-bool isFolder(const std::string& path) {
-    struct stat info;
-    return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
-}
-
 bool isThere(const std::string& path) {
     struct stat info;
     return stat(path.c_str(), &info) == 0;
@@ -34,6 +29,11 @@ constexpr reference::File kFiles[] = {reference::File::normal, reference::File::
                                       reference::File::address};
 
 } // namespace
+
+bool isFolder(const std::string& path) {
+    struct stat info;
+    return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
 
 void readEntries(const std::string& path, const Context& context,
                  const std::function<void(const Entry&)>& visit) {
@@ -64,20 +64,37 @@ Source Source::open(const std::string& name, const Context& context) {
     return source;
 }
 
-void Source::readFolder(const std::string& folder, const Context& context) {
-    bool found = false;
-    for (const reference::File file : kFiles) {
-        const std::string path = folder + "/" + std::string(reference::fileName(file));
-        if (!isThere(path)) continue;
-        readFile(path, context);
-        found = true;
-    }
-    if (!found)
+std::vector<std::string> filesIn(const std::string& folder, const Context& context) {
+    std::vector<std::string> found;
+    for (const reference::File file : kFiles)
+        if (std::string path = joined({folder, "/", reference::fileName(file)}); isThere(path))
+            found.push_back(std::move(path));
+    if (found.empty())
         throw CouldNot(
             fill(context.say("{}: none of parameter.ini, sec_parameter.ini, ip_config.ini is there",
                              "{}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini "
                              "ist da"),
                  {folder}));
+    return found;
+}
+
+std::string Source::called(const Context& context) const {
+    switch (kind_) {
+    case Kind::defaults:
+        return context.say("the factory settings", "der Werkseinstellung");
+    case Kind::live:
+        return context.say("the live settings", "den gültigen Einstellungen");
+    case Kind::staged:
+        return context.say("the working copy", "der Arbeitskopie");
+    case Kind::file:
+        break;
+    }
+    return printable(name_);
+}
+
+void Source::readFolder(const std::string& folder, const Context& context) {
+    for (const std::string& path : filesIn(folder, context))
+        readFile(path, context);
 }
 
 void Source::readFile(const std::string& path, const Context& context) {

@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "ParamSystem/files/Reader.h"
 #include "ParamSystem/store/Spaces.h"
@@ -29,6 +30,9 @@ public:
 
     // A file that is not there.
     static Source nothing(const std::string& path) { return Source(Kind::file, path); }
+
+    // As people call it: "the working copy".
+    std::string called(const Context& context) const;
 
     // Whether the name stands for the device.
     static bool isDevice(std::string_view name) { return name == "live" || name == "staged"; }
@@ -60,6 +64,11 @@ void attachDevice(Attachment attachment, const Context& context);
 
 // Whether the device's segments are there; looks without attaching.
 bool isDeviceThere();
+
+// The parameter files of a folder that are there. Throws CouldNot when there is none.
+std::vector<std::string> filesIn(const std::string& folder, const Context& context);
+
+bool isFolder(const std::string& path);
 
 // Path of one of the parameter files in the folder of the device.
 std::string pathOf(reference::File file, const Context& context);

@@ -1,4 +1,5 @@
 // talux status: what update and save would change, and which of it reaches the network.
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <unistd.h>
@@ -6,6 +7,7 @@
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Network.h"
+#include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 #include "tools/talux/change/Journal.h"
@@ -17,7 +19,7 @@ namespace {
 using reference::File;
 
 struct Options {
-    bool json = false;
+    bool json = false, plausible = false;
 };
 
 struct Pending {
@@ -43,6 +45,7 @@ struct Report {
     std::string interruption;
     std::vector<std::string> flags;
     std::vector<std::pair<const Parameter*, Finding>> losses; // what a save would write and not bring back
+    std::vector<Implausible> implausible;                     // of the working copy
 };
 
 // Calls differs(parameter, before, after) for every setting.
@@ -74,7 +77,7 @@ Change saveChange(const char* command, File file, const Source& staged, const Co
     return {command, path, isThere, pendingIn(before, staged, differs)};
 }
 
-Report reportOn(const Context& context) {
+Report reportOn(const Options& options, const Context& context) {
     const Source live = Source::open("live", context), staged = Source::open("staged", context);
     Report report;
     report.interruption = interruption(context);
@@ -90,6 +93,9 @@ Report reportOn(const Context& context) {
             value && parameter.isSetting() && !isOfClock(parameter))
             if (auto finding = wouldNotComeBack(parameter, *value, context))
                 report.losses.emplace_back(&parameter, std::move(*finding));
+    if (options.plausible)
+        findImplausible(staged, context,
+                        [&](const Implausible& found) { report.implausible.push_back(found); });
     return report;
 }
 
@@ -129,6 +135,9 @@ void printText(const Report& report, const Context& context) {
             "WLAN0_IP tut es\n"));
     for (const auto& [parameter, finding] : report.losses)
         print(fill("{}: {}\n", {parameter->name(), finding.text}));
+    const Paint paint;
+    for (const Implausible& found : report.implausible)
+        print((found.isFault() ? paint.bad(found.text) : found.text) + "\n");
     for (const std::string& flag : report.flags)
         print(
             fill(context.say("{} is set: another program has not yet taken up the change\n",
@@ -156,11 +165,15 @@ void printReport(const Report& report, const Context& context) {
     all.set("interrupted", report.interruption);
     all.set("flags", std::move(flags));
     all.set("not_back", std::move(losses));
+    Json implausible = Json::array();
+    for (const Implausible& found : report.implausible)
+        implausible.add(described(found));
+    all.set("implausible", std::move(implausible));
     print(all.text());
 }
 
 Status run(const Options& options, const Context& context) {
-    const Report report = reportOn(context);
+    const Report report = reportOn(options, context);
     if (options.json)
         printReport(report, context);
     else
@@ -168,6 +181,7 @@ Status run(const Options& options, const Context& context) {
     bool found = !report.losses.empty() || !report.interruption.empty();
     for (const Change& change : report.changes)
         found = found || !change.pending.empty();
+    found = found || std::ranges::any_of(report.implausible, &Implausible::isFault);
     return found ? kFound : kNothing;
 }
 
@@ -178,6 +192,9 @@ void addStatus(CommandLine& line, Commands& commands) {
     Subcommand command(line, "status",
                        {"what update and save would change on this device",
                         "was update und save an diesem Gerät ändern würden"});
+    command.flag("--plausible", options->plausible,
+                 {"also what can hardly be meant in the working copy: see parameters/plausibility.md",
+                  "auch was in der Arbeitskopie kaum gemeint sein kann: siehe parameters/plausibility.md"});
     command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }

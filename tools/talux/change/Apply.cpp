@@ -12,6 +12,7 @@
 #include "ParamSystem/os/Os.h"
 #include "tools/talux/Files.h"
 #include "tools/talux/Network.h"
+#include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
@@ -107,6 +108,8 @@ private:
                        paint.changed(change(*write.parameter, write.from, write.to, context)),
                        paint.dim(write.parameter->title(context.language))});
         print(writes().empty() ? context.say("nothing to change\n", "nichts zu ändern\n") : table.text());
+        for (const Implausible& found : implausible())
+            print((found.isFault() ? paint.bad(found.text) : found.text) + "\n");
         std::fflush(stdout);
     }
 
@@ -117,7 +120,33 @@ private:
                          {"from", json(*write.parameter, write.from)},
                          {"to", json(*write.parameter, write.to)},
                          {"network", reachesNetwork(*write.parameter)}});
-        print(Json{{"written", journal.isDone}, {"changes", std::move(changes)}}.text());
+        Json found = Json::array();
+        for (const Implausible& each : implausible())
+            found.add(described(each));
+        print(Json{
+            {"written", journal.isDone}, {"changes", std::move(changes)}, {"implausible", std::move(found)}}
+                  .text());
+    }
+
+    // What the settings would be that are hardly meant, as far as these writes have a part in it.
+    std::vector<Implausible> implausible() const {
+        const auto writeOf = [this](const Parameter& parameter) {
+            return std::ranges::find_if(writes(), [&](const Write& write) {
+                return write.index == 0 && write.parameter == &parameter;
+            });
+        };
+        const auto isWritten = [&](const Parameter& parameter) {
+            return writeOf(parameter) != writes().end();
+        };
+        const auto after = [&](const Parameter& parameter) {
+            return isWritten(parameter) ? std::optional(writeOf(parameter)->to)
+                                        : present(parameter, parameter.row().id);
+        };
+        std::vector<Implausible> all;
+        findImplausible(after, {}, context, [&](const Implausible& found) {
+            if (found.concerns(isWritten)) all.push_back(found);
+        });
+        return all;
     }
 
     std::string question() const {

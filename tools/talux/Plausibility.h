@@ -1,0 +1,43 @@
+// Settings that the device accepts and that can hardly be meant; see PlausibilityRules.h. Needs no device.
+#ifndef TALUX_TOOLS_TALUX_PLAUSIBILITY_H
+#define TALUX_TOOLS_TALUX_PLAUSIBILITY_H
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tools/Json.h"
+#include "tools/talux/PlausibilityRules.h"
+#include "tools/talux/Source.h"
+
+namespace talux::tool {
+
+struct Implausible {
+    const PlausibilityRule* rule;
+    std::vector<const Parameter*> parameters;
+    std::string text; // "ETH0_GATEWAY 10.0.0.1, ETH0_IP ..: the gateway is outside its network"
+
+    // Whether a line of a file is reported for it already.
+    bool isSaidOfLines() const;
+    bool isFault() const { return rule->gravity == Gravity::fault; }
+    bool concerns(const std::function<bool(const Parameter&)>& isMeant) const;
+};
+
+// A set of values. What it does not hold breaks no rule.
+using Values = std::function<std::optional<Value>(const Parameter&)>;
+
+// Calls report(found) for every rule that the values break. `before`: what they would replace; without it
+// the rule on values of one device is left out.
+void findImplausible(const Values& values, const Values& before, const Context& context,
+                     const std::function<void(const Implausible&)>& report);
+
+// Of what is pending on a device, or of any other complete source.
+void findImplausible(const Source& source, const Context& context,
+                     const std::function<void(const Implausible&)>& report);
+
+Json described(const Implausible& found);
+
+} // namespace talux::tool
+
+#endif
