@@ -165,8 +165,14 @@ TEST_F(Handles, MeasuredValuesAreLiveAtOnce) {
     word.at(96).set(9.0);
     inputs.set_run(std::vector<std::int32_t>(96, 3));
     changed.set(true);
+    for (const std::size_t bytes : {126U, 127U, 128U, 129U}) { // of characters of two bytes and of one
+        std::string text(bytes % 2, 'x');
+        while (text.size() < bytes)
+            text += "ä";
+        EXPECT_EQ(file.set(text).reason(), bytes > 127 ? Reason::tooLong : Reason::none) << bytes;
+        EXPECT_EQ(file.set(std::string(bytes, 'x')).reason(), bytes > 127 ? Reason::tooLong : Reason::none);
+    }
     EXPECT_TRUE(file.set("/tmp/samples"));
-    EXPECT_EQ(file.set(std::string(128, 'x')).reason(), Reason::tooLong);
     MessRecord02 values{};
     values.y_BAF_04 = -4;
     record.set(values);
