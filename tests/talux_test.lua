@@ -134,6 +134,28 @@ case("1,000 random tables are applied as a whole or refused as a whole", functio
   equal(io.open "/canary", nil, "no text is a command")
 end)
 
+case("every index and every length of a text is tried at its edges", function()
+  for _, row in ipairs(rows) do
+    for index, wanted in pairs(row.first and {[row.first - 1] = "INDEX TOO LOW", [row.first] = false, [row.last] = false,
+                                              [row.last + 1] = "INDEX TOO HIGH"} or {}) do
+      local good, reason = pcall(talux.get, row.name, index)
+      equal(not good and reason:match "INDEX TOO %u+", wanted, row.name .. "[" .. index .. "]")
+    end
+  end
+  for _, row in ipairs(writable) do
+    local most = not row.kind:find "address" and not row.kind:find "gateway" and not row.kind:find "mask" and row.length
+    for bytes = 1, most and 2 or 0 do
+      local fitting = math.min(most, math.floor((120 - #row.name) / bytes))
+      for length = fitting - 1, fitting + 1 do
+        local text = (bytes == 1 and "x" or "ä"):rep(length)
+        local good = pcall(talux.set, row.name, text)
+        equal(good, length <= fitting, row.name .. " of " .. length .. " characters")
+        if good then equal(talux.get(row.name), text, row.name) end
+      end
+    end
+  end
+end)
+
 case("factory defaults can be applied, and then nothing is changed but addresses", function()
   local defaults, names = {}, {}
   for _, row in ipairs(writable) do defaults[row.name] = row.default end
