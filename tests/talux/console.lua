@@ -36,6 +36,7 @@ local function streamsOf(expected, command)
   return streams[1], streams[2]
 end
 
+-- In hundredths of a second.
 local function uptime() return tonumber(contents("/proc/uptime"):match "%S+") end
 
 -- A complaint without status 2 or the reverse, and a watch of the wrong length; a script of several commands shows both.
@@ -43,7 +44,7 @@ local function misbehaves(command, errors, status, seconds)
   local count, period = command:match "^talux watch.*%-%-count (%d+).*%-%-period ([%d.]+)"
   local least = count and (count - 1) * period
   return not command:find "[;|&\n]" and (status == 2) ~= (errors:find "^talux: " ~= nil) and "status " .. status
-    or least and (seconds < least or seconds > 2 * least + 2) and seconds .. " seconds"
+    or least and (seconds < least - 0.02 or seconds > 2 * least + 2) and seconds .. " seconds"
 end
 
 local function files()

@@ -1,6 +1,8 @@
 #include "tools/talux/Screen.h"
 
 #include <algorithm>
+#include <climits>
+#include <cstdint>
 #include <cstdio>
 #include <ctime>
 #include <poll.h>
@@ -62,12 +64,12 @@ void Screen::show(const std::string& head, const std::vector<std::vector<std::st
 
 Screen::Woken Screen::waitUntil(std::chrono::steady_clock::time_point moment) {
     const auto left =
-        std::chrono::duration_cast<std::chrono::nanoseconds>(moment - std::chrono::steady_clock::now());
-    if (left.count() <= 0) return Woken::moment;
-    const timespec pause{static_cast<time_t>(left.count() / 1000000000),
-                         static_cast<long>(left.count() % 1000000000)};
+        std::chrono::ceil<std::chrono::milliseconds>(moment - std::chrono::steady_clock::now()).count();
+    if (left <= 0) return Woken::moment;
+    // Not ppoll: where the processor has 32 bits, its checked form takes the wide time for a narrow one.
     pollfd keys{STDIN_FILENO, POLLIN, 0};
-    if (ppoll(&keys, hasKeys ? 1 : 0, &pause, nullptr) <= 0) return Woken::moment;
+    if (poll(&keys, hasKeys ? 1 : 0, static_cast<int>(std::min<std::int64_t>(left, INT_MAX))) <= 0)
+        return Woken::moment;
     char typed[16];
     const ssize_t size = read(STDIN_FILENO, typed, sizeof typed);
     if (size <= 0) return Woken::end; // nobody is there any more
