@@ -253,8 +253,11 @@ TEST_F(TaluxStore, EachRuleOfPlausibilityHasSettingsThatBreakIt) {
     VarSetDefault();
     char name[] = "Feeder 6";
     VarSetValue(GetParamPropertiesByName(const_cast<char*>("Name"))->id, asValue(name));
-    EXPECT_NE(run("talux check " + write("other.ini", "TLX_Name=\"Feeder 7\"\n")).output.find("one device"),
-              factory.npos);
+    EXPECT_EQ(run("talux check " +
+                  write("other.ini", "TLX_Name=\"Feeder 7\"\nTLX_knuV1=203\nTLX_Abg=\"A\"\n") +
+                  " | grep -c 'one device'")
+                  .output,
+              "2\n");
 }
 
 TEST_F(TaluxStore, LintFindsWhatTheInterpreterRefuses) {

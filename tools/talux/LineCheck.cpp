@@ -1,12 +1,14 @@
 #include "tools/talux/LineCheck.h"
 
 #include <algorithm>
+#include <map>
 
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/kepl/Words.h"
 #include "ParamSystem/support/Text.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Lookup.h"
+#include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
@@ -105,6 +107,10 @@ public:
             const bool isHead = piece.isLast && !asked.isWhole;
             if (isHead ? !lookAtHead(piece) : !lookAt(piece)) return findings;
         }
+        findFaults(values, context, [this](const Implausible& found) {
+            subject = nullptr;
+            add(places[found.parameters.front()], found.text);
+        });
         if (asked.isWhole && !findings.empty()) return findings;
         if (asked.isWhole && !line.empty() && saysValue && depth == 0)
             add(0, context.say("the line has no value to answer", "die Zeile hat keinen Wert zu antworten"),
@@ -117,6 +123,8 @@ private:
     const LineAsked& asked;
     const Context& context;
     std::vector<LineFinding> findings;
+    std::map<const Parameter*, Value> values; // that the line writes
+    std::map<const Parameter*, std::size_t> places;
     int depth = 0;                            // values on the stack
     bool saysValue = true;                    // whether the top of the stack is the answer so far
     bool topIsZero = false;                   // a literal 0 lies on top
@@ -276,6 +284,8 @@ private:
     void lookAtWrite(const Piece& piece, const Parameter& parameter) {
         const Value& given = *piece.decision.value;
         const std::size_t at = placeOf(piece);
+        values.insert_or_assign(&parameter, given);
+        places.insert_or_assign(&parameter, at);
         if (!given.isText()) {
             if (!isInRange(parameter, given.number()))
                 add(at, fill(context.say("choices of {} are {}", "die Auswahl von {} ist {}"),

@@ -16,6 +16,7 @@
 #include "tools/talux/LineCheck.h"
 #include "tools/talux/Lookup.h"
 #include "tools/talux/LuaTokens.h"
+#include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 #include "tools/talux/change/Plan.h"
@@ -303,6 +304,9 @@ private:
         plan.take(label, isNegative ? "-" + text : text);
         for (const std::string& refusal : plan.refusals())
             findings.add(at(k).at, refusal);
+        for (const Write& write : plan.writes())
+            findFaults({{write.parameter, write.to}}, context,
+                       [&](const Implausible& found) { findings.add(at(k).at, found.text); });
         if (plan.refusals().empty() && isText(k) && text.find_first_of(",=\"") != text.npos)
             findings.add(at(k).at,
                          fill(context.say("{}: a line carries no comma, equals sign or double quote",

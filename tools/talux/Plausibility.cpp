@@ -226,11 +226,13 @@ private:
         }
     }
 
-    // A factory value has not been given to the device.
+    // What differs from the factory value was given to this device; factors can be calibrated all the same.
     bool isOfAnother(const Parameter& parameter, const Value& value) const {
         if (!parameter.model().has(parameters::kIndividual)) return false;
         const auto own = before(parameter);
-        return own && !sameValue(own, value) && !sameValue(own, defaultOf(parameter.row()));
+        const bool isGiven =
+            parameter.type().kind == Kind::Float || !sameValue(own, defaultOf(parameter.row()));
+        return own && isGiven && !sameValue(own, value);
     }
 
     // Where this machine has no zones, any absolute path may be one.
@@ -347,6 +349,18 @@ Json described(const Implausible& found) {
             {"fault", found.isFault()},
             {"parameters", std::move(names)},
             {"text", found.text}};
+}
+
+void findFaults(const std::map<const Parameter*, Value>& written, const Context& context,
+                const std::function<void(const Implausible&)>& report) {
+    if (written.empty()) return;
+    const auto values = [&written](const Parameter& parameter) {
+        const auto found = written.find(&parameter);
+        return found == written.end() ? std::nullopt : std::optional(found->second);
+    };
+    findImplausible(values, {}, context, [&report](const Implausible& found) {
+        if (found.isFault() && !found.isSaidOfLines()) report(found);
+    });
 }
 
 void findImplausible(const Source& source, const Context& context,

@@ -3,6 +3,7 @@
 #define TALUX_TOOLS_TALUX_PLAUSIBILITY_H
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -31,6 +32,10 @@ using Values = std::function<std::optional<Value>(const Parameter&)>;
 // the rule on values of one device is left out.
 void findImplausible(const Values& values, const Values& before, const Context& context,
                      const std::function<void(const Implausible&)>& report);
+
+// The faults of a few values that are about to be written; what refuses or names their ranges says so.
+void findFaults(const std::map<const Parameter*, Value>& written, const Context& context,
+                const std::function<void(const Implausible&)>& report);
 
 // Of what is pending on a device, or of any other complete source.
 void findImplausible(const Source& source, const Context& context,
