@@ -110,7 +110,7 @@ public:
                 lintCommand(k + 1);
             else if (isArrayGet(k))
                 lintArray(k + 3, tokens[k].text);
-            else if (at(k).is("talux") && isOwn(k) && at(k + 1).is("."))
+            else if (isName(k) && layers.contains(at(k).text) && isOwn(k) && at(k + 1).is("."))
                 lintLayer(k + 2);
             else if (at(k).is("while") || at(k).is("repeat"))
                 lintLoop(k);
@@ -123,7 +123,7 @@ private:
     const std::deque<LuaToken> tokens;
     Findings& findings;
     const Context& context;
-    std::set<std::string> aliases{"talux_command"};
+    std::set<std::string> aliases{"talux_command"}, layers{"talux"};
 
     const LuaToken& at(std::size_t k) const { return tokens[std::min(k, tokens.size() - 1)]; }
     bool isText(std::size_t k) const { return at(k).kind == LuaToken::Kind::text; }
@@ -132,11 +132,14 @@ private:
     // A field or a method of the same name is another function.
     bool isOwn(std::size_t k) const { return k == 0 || (!at(k - 1).is(".") && !at(k - 1).is(":")); }
 
-    // "local ask = talux_command"
+    // "local ask = talux_command", "local t = require "talux""
     void rememberAlias(std::size_t k) {
-        const bool isPlain =
-            at(k).is("local") && isName(k + 1) && at(k + 2).is("=") && at(k + 3).is("talux_command");
-        if (isPlain && !at(k + 4).is("(") && !isText(k + 4)) aliases.insert(at(k + 1).text);
+        if (!at(k).is("local") || !isName(k + 1) || !at(k + 2).is("=")) return;
+        const std::string& name = at(k + 1).text;
+        if (at(k + 3).is("talux_command") && !at(k + 4).is("(") && !isText(k + 4)) aliases.insert(name);
+        const LuaToken& module = at(at(k + 4).is("(") ? k + 5 : k + 4);
+        if (at(k + 3).is("require") && module.kind == LuaToken::Kind::text && module.text == "talux")
+            layers.insert(name);
     }
 
     bool isCommand(std::size_t k) const {
