@@ -356,6 +356,7 @@ end
 ---@field title string
 ---@field description string
 ---@field choices? table<integer, string>
+---@field notes? {kind: "warning"|"unknown"|"advice", text: string}[]
 
 ---@class talux.Parameter: talux.Row
 ---@field de? talux.Texts
@@ -369,13 +370,12 @@ end
 function talux.parameter(name, language)
   local row = dictionary.row(name)
   if not row then error(("%s: %s"):format(tostring(name), dictionary.unknown(name)), 2) end
-  local parameter = {}
+  local parameter = {members = row.kind == "record" and (require "talux.records")[row.name] or nil}
   for key, value in pairs(row) do parameter[key] = value end
   for _, known in ipairs {language or "de", not language and "en" or nil} do
     local texts = textsIn(known)[row.name]
-    parameter[known] = {title = texts[1], description = texts[2], choices = texts[3]}
+    parameter[known] = {title = texts[1], description = texts[2], choices = texts[3], notes = texts.notes}
   end
-  parameter.members = row.kind == "record" and (require "talux.records")[row.name] or nil
   return parameter
 end
 

@@ -2,7 +2,7 @@
 #ifndef TALUX_TABLE_HPP
 #define TALUX_TABLE_HPP
 
-#include "ParamSystem/rules/Rules.h"
+#include "ParamSystem/TALUX_Params.h"
 
 namespace talux::table {
 
@@ -38,7 +38,6 @@ struct Row {
     short choices = 0;   // which list of choices
     double min = kNoMin; // what may be staged; of a text 0 and its longest length in characters
     double max = kNoMax;
-    rules::Form form = rules::Form::none; // where it is stricter than that of the kind
 };
 
 } // namespace talux::table

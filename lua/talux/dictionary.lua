@@ -8,9 +8,7 @@ local dictionary = {}
 ---@field unit? string
 ---@field min? number
 ---@field max? number
----@field length? integer longest text in characters
----@field bytes? integer and in bytes, which the slot keeps and a line carries
----@field form? "address"|"netmask"|"date"|"time" of a text
+---@field length? integer longest text in bytes
 ---@field first? integer first and last element of an indexed parameter
 ---@field last? integer
 ---@field default? number|string factory default of a setting
@@ -48,11 +46,11 @@ function dictionary.place(row) return places[row] end
 ---Whether a parameter is the clock's, whatever is stored: Date and Time.
 ---@param row talux.Row
 ---@return boolean
-function dictionary.isClock(row) return row.form == "date" or row.form == "time" end
+function dictionary.isClock(row) return row.kind:find("of the clock", 1, true) ~= nil end
 
----Titles, descriptions and choices by the name of the parameter.
+---Titles, descriptions, choices and notes by the name of the parameter.
 ---@param language "de"|"en"
----@return table<string, {[1]: string, [2]: string, [3]: table<integer, string>?}>
+---@return table<string, {[1]: string, [2]: string, [3]: table<integer, string>?, notes: table?}>
 function dictionary.texts(language) return require("talux.parameters_" .. language) end
 
 -- The numbers of choices by their texts, made for each list when it is first asked for; false where a text

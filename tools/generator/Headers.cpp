@@ -116,7 +116,7 @@ std::string_view kindOf(const Parameter& parameter) {
 
 std::string_view useOf(const Parameter& parameter) {
     if (parameter.row().is_volatile != 0) return "measured";
-    return parameter.facts().isReadOnly ? "status" : "setting";
+    return parameter.row().val_access == kReadOnly ? "status" : "setting";
 }
 
 // The ids of the scalars that are measured.
@@ -144,10 +144,9 @@ private:
 };
 
 std::string limitsOf(const Parameter& parameter) {
-    if (parameter.textRoom() > 0) {
-        const bool isMask = parameter.facts().form == rules::Form::netmask;
-        return joined(
-            {", 0, ", std::to_string(parameter.textLength()), isMask ? ", rules::Form::netmask" : ""});
+    if (const int room = parameter.textRoom(); room > 0) {
+        const int length = parameter.row().val_len;
+        return joined({", 0, ", std::to_string(length >= 0 ? std::min(length, room) : room)});
     }
     if (!parameter.hasMinimum() && !parameter.hasMaximum()) return {};
     return joined({", ", reference::shortNumber(parameter.leastNumber()), ", ",

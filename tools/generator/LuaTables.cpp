@@ -27,25 +27,10 @@ void forEachNamed(const Model& model, Visit visit) {
 
 // ---- What holds in every language ---------------------------------------------------------------------
 
-const char* formOf(rules::Form form) {
-    switch (form) {
-    case rules::Form::address:
-        return "address";
-    case rules::Form::netmask:
-        return "netmask";
-    case rules::Form::date:
-        return "date";
-    case rules::Form::time:
-        return "time";
-    case rules::Form::none:
-    case rules::Form::number:
-    case rules::Form::whole:
-    case rules::Form::choice:
-    case rules::Form::flag:
-    case rules::Form::text:
-        break;
-    }
-    return ""; // the kind says it
+// The longest text in characters that the parameter is meant for and its slot keeps.
+int longest(const Parameter& parameter) {
+    const int meant = parameter.row().val_len;
+    return meant > 0 ? std::min(meant, parameter.textRoom()) : parameter.textRoom();
 }
 
 std::string factsOf(const Parameter& parameter) {
@@ -57,13 +42,11 @@ std::string factsOf(const Parameter& parameter) {
     };
     const std::string unit = parameter.unit();
     add(!unit.empty(), "unit", quoted(unit));
-    const double least = parameter.leastNumber(), most = parameter.mostNumber();
+    const bool isFlag = parameter.type().kind == Kind::Bool;
+    const double least = isFlag ? 0 : parameter.leastNumber(), most = isFlag ? 1 : row.val_max;
     add(parameter.hasNumber() && least != kNoMin, "min", reference::shortNumber(least));
     add(parameter.hasNumber() && most != kNoMax, "max", reference::shortNumber(most));
-    add(parameter.textRoom() > 0, "length", std::to_string(parameter.textLength()));
-    add(parameter.textRoom() > 0, "bytes", std::to_string(parameter.lineRoom()));
-    const char* const form = formOf(parameter.facts().form);
-    add(*form != '\0', "form", quoted(form));
+    add(parameter.textRoom() > 0, "length", std::to_string(longest(parameter)));
     add(parameter.isIndexed(), "first", std::to_string(row.val_min_id));
     add(parameter.isIndexed(), "last", std::to_string(row.val_max_id));
     add(parameter.isSetting(), "default",
@@ -88,7 +71,12 @@ std::string choicesOf(const Parameter& parameter, ParamLanguage language) {
     return items.empty() ? std::string() : braced(items);
 }
 
-// Each list of choices is there once, before the parameters.
+std::string noteOf(const model::Note& note, ParamLanguage language) {
+    return joined({"{kind = ", quoted(model::kNoteKinds[note.kind]),
+                   ", text = ", quoted(note.text.in(language)), "},\n"});
+}
+
+// Each list of choices and each note is there once, before the parameters.
 std::string texts(const Model& model, ParamLanguage language) {
     std::vector<std::string> lists;
     std::string rows;
@@ -100,11 +88,17 @@ std::string texts(const Model& model, ParamLanguage language) {
             if (known == lists.end()) known = lists.insert(known, choices);
             row.push_back(joined({"choices[", std::to_string(known - lists.begin() + 1), "]"}));
         }
+        const auto note = [](int place) { return joined({"notes[", std::to_string(place + 1), "]"}); };
+        if (const auto notes = parameter.notes(); !notes.empty())
+            row.push_back(joined({"notes = {", list(notes, ", ", note), "}"}));
         rows += joined({"[", quoted(parameter.name()), "] = ", braced(row), ",\n"});
     });
     std::string text = joined({kHead, "local choices = {\n"});
     for (const std::string& choices : lists)
         text += choices + ",\n";
+    text += "}\nlocal notes = {\n";
+    for (const model::Note& note : model.notes)
+        text += noteOf(note, language);
     return joined({text, "}\nreturn {\n", rows, "}\n"});
 }
 

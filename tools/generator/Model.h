@@ -49,7 +49,6 @@ struct Row {
     parameters::MethodId method; // place in the model's, or -1
     parameters::Role role;       // of a setting of a method
     unsigned is;                 // traits
-    rules::Form form;            // of the value
     parameters::Effect effect;   // of a write
 
     bool has(parameters::Trait trait) const { return (is & trait) != 0; }
@@ -57,6 +56,8 @@ struct Row {
     bool isIndexed() const { return properties->val_max_id > 0; }
     int elements() const { return isIndexed() ? properties->val_max_id - properties->val_min_id + 1 : 1; }
 };
+
+constexpr std::string_view kNoteKinds[] = {"warning", "unknown", "advice"}; // for programs, by NoteKind
 
 struct Note {
     Both text;

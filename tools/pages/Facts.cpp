@@ -16,10 +16,6 @@ bool hasLimits(const Parameter& parameter) {
     return parameter.hasNumber() && (parameter.hasMinimum() || parameter.hasMaximum());
 }
 
-const model::Note& noteAt(int place) {
-    return reference::model().notes[static_cast<std::size_t>(place)];
-}
-
 const Method* methodOf(const Parameter& parameter) {
     const parameters::MethodId method = parameter.model().method;
     return method < 0 ? nullptr : &kMethods[method];

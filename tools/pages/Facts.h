@@ -11,7 +11,7 @@
 namespace talux::pages {
 
 using parameters::kMethods, parameters::Method;
-using reference::Parameter;
+using reference::noteAt, reference::Parameter;
 
 inline int firstId(const Parameter& parameter) {
     return parameter.row().id;
@@ -25,7 +25,7 @@ inline bool isCommand(const Parameter& parameter) {
 }
 // Whether a write is accepted and has no effect.
 inline bool ignoresWrites(const Parameter& parameter) {
-    return !parameter.facts().isReadOnly &&
+    return parameter.row().val_access != kReadOnly &&
            (isCommand(parameter) || parameter.type().nature == Nature::record);
 }
 inline bool isChoice(const Parameter& parameter) {
@@ -41,8 +41,6 @@ inline bool refusesBelowOne(const Parameter& parameter) {
 
 // The family's name in German.
 std::string_view germanName(const stParamFamily& family);
-
-const model::Note& noteAt(int place);
 
 // The detection method to which a setting belongs, or null.
 const Method* methodOf(const Parameter& parameter);

@@ -26,9 +26,8 @@ Every parameter of the device, in English and German.
 | [Glossary](glossary.md) | words of the trade and of the device in both languages |
 | the pages of the families, below | every parameter in the order of the menus |
 
-At the relay `talux explain NAME` shows titles, range, file and, with `--live`, the value; the remarks in italics are
-only here and in `parameters.html`. [Commissioning](../commissioning.md) shows how settings are changed, made live and
-saved, [KEPL](../kepl.md) is the language of the lines.
+At the relay `talux explain NAME` shows the same, with `--live` also the value. [Commissioning](../commissioning.md)
+shows how settings are changed, made live and saved, [KEPL](../kepl.md) is the language of the lines.
 
 ## How to read a row
 

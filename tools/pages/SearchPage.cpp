@@ -70,7 +70,7 @@ void addLimits(Json& object, const Parameter& parameter) {
     if (!parameter.hasNumber()) return;
     if (parameter.leastNumber() != kNoMin) object.set("min", number(parameter.leastNumber()));
     if (isChoice(parameter) && !refusesBelowOne(parameter)) object.set("lax", 1);
-    if (parameter.mostNumber() != kNoMax) object.set("max", number(parameter.mostNumber()));
+    if (parameter.hasMaximum()) object.set("max", number(parameter.row().val_max));
 }
 
 void addValue(Json& object, const Parameter& parameter) {
@@ -130,8 +130,7 @@ std::string array(const Items& items, Make make, std::string_view between = ",\n
 }
 
 Json noteOf(const model::Note& note) {
-    constexpr std::string_view kKinds[] = {"warning", "unknown", "advice"};
-    return {{"kind", kKinds[note.kind]}, {"de", note.text.de}, {"en", note.text.en}};
+    return {{"kind", model::kNoteKinds[note.kind]}, {"de", note.text.de}, {"en", note.text.en}};
 }
 
 Json bothTexts(const model::Both& text) {

@@ -4,6 +4,7 @@
 
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
+#include "tools/talux/Notes.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -17,6 +18,7 @@ constexpr std::size_t kMostLines = 1000; // of a file about which something is s
 struct Options {
     std::vector<std::string> files;
     std::string against; // empty: the working copy where there is a device
+    bool notes = false;
     bool json = false;
 };
 
@@ -94,17 +96,22 @@ void printJudgement(const std::string& path, const Judgement& judgement, const C
     if (judgement.isChange() || !judgement.findings.empty()) print(text + "\n");
 }
 
-void printText(const FileReport& report, const Context& context) {
+void printText(const FileReport& report, bool withNotes, const Context& context) {
     const Paint paint;
     const std::string path = printable(report.path);
     const std::string head = fill(context.say("{} against {}", "{} gegenüber {}"), {path, report.baseline});
     print(head + ":\n");
-    for (const Judgement& judgement : report.judgements)
+    Parameters noted;
+    for (const Judgement& judgement : report.judgements) {
         printJudgement(path, judgement, context);
+        if (withNotes && judgement.isChange()) noted.push_back(judgement.parameter);
+    }
     if (report.omitted > 0)
         print(fill(
             context.say("{}: {} more lines are not listed\n", "{}: {} weitere Zeilen sind nicht genannt\n"),
             {path, std::to_string(report.omitted)}));
+    for (const std::string& text : noteTexts(noted, context))
+        print(joined({path, ": ", text, "\n"}));
     for (const Implausible& found : report.implausible)
         print(joined({path, ": ", found.isFault() ? paint.bad(found.text) : found.text, "\n"}));
     if (!report.others.empty())
@@ -120,10 +127,11 @@ void printText(const FileReport& report, const Context& context) {
                                             context.say(" findings", " Befunde"))}));
 }
 
-Json described(const Judgement& judgement, const Context& context) {
+Json described(const Judgement& judgement, bool withNotes, const Context& context) {
     Json object{{"name", judgement.name}};
     if (judgement.to) object = changeJson(*judgement.parameter, judgement.from, judgement.to, context);
     object.set("line", judgement.line);
+    if (withNotes && judgement.isChange()) addNotes(object, *judgement.parameter);
     Json findings = Json::array();
     for (const Finding& finding : judgement.findings)
         findings.add({{"code", finding.code}, {"text", finding.text}});
@@ -131,10 +139,10 @@ Json described(const Judgement& judgement, const Context& context) {
     return object;
 }
 
-Json described(const FileReport& report, const Context& context) {
+Json described(const FileReport& report, bool withNotes, const Context& context) {
     Json lines = Json::array(), implausible = Json::array(), others = Json::array();
     for (const Judgement& judgement : report.judgements)
-        lines.add(described(judgement, context));
+        lines.add(described(judgement, withNotes, context));
     for (const Implausible& found : report.implausible)
         implausible.add(described(found));
     for (const Parameter* const other : report.others)
@@ -156,9 +164,9 @@ Status run(const Options& options, const Context& context) {
     const auto checkFile = [&](const std::string& path) {
         const FileReport report = judgeFile(path, before, context);
         if (options.json)
-            all.add(described(report, context));
+            all.add(described(report, options.notes, context));
         else
-            printText(report, context);
+            printText(report, options.notes, context);
         return report.found() ? kFound : kNothing;
     };
     const Status status = forEachFile(options.files, [&](const std::string& path) {
@@ -186,6 +194,7 @@ void addCheck(CommandLine& line, Commands& commands) {
          "a folder; if not given, staged on a device, else default",
          "womit verglichen wird: default (Werkseinstellung), live, staged (Arbeitskopie), eine Datei "
          "oder ein Ordner; sonst auf einem Gerät staged, am Schreibtisch default"});
+    command.flag("--notes", options->notes, kNotesHelp);
     command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "tools/talux/Command.h"
+#include "tools/talux/Notes.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
@@ -11,6 +12,7 @@ namespace {
 
 struct Options {
     std::vector<std::string> sources;
+    bool notes = false;
     bool json = false;
 };
 
@@ -32,20 +34,28 @@ std::vector<Difference> differences(const Source& a, const Source& b) {
     return found;
 }
 
-void printText(const std::vector<Difference>& found, const Context& context) {
+void printText(const std::vector<Difference>& found, bool withNotes, const Context& context) {
     const Paint paint;
     Table table;
-    for (const auto& [parameter, from, to] : found)
+    Parameters noted;
+    for (const auto& [parameter, from, to] : found) {
+        if (withNotes) noted.push_back(parameter);
         table.add({paint.bold(std::string(parameter->name())), change(*parameter, from, to, context),
                    paint.dim(parameter->title(context.language))});
+    }
     print(table.text());
+    for (const std::string& text : noteTexts(noted, context))
+        print(text + "\n");
 }
 
-void printDifferences(const std::vector<Difference>& found, const Source& a, const Source& b,
+void printDifferences(const std::vector<Difference>& found, const Source& a, const Source& b, bool withNotes,
                       const Context& context) {
     Json list = Json::array();
-    for (const auto& [parameter, from, to] : found)
-        list.add(changeJson(*parameter, from, to, context));
+    for (const auto& [parameter, from, to] : found) {
+        Json change = changeJson(*parameter, from, to, context);
+        if (withNotes) addNotes(change, *parameter);
+        list.add(std::move(change));
+    }
     print(Json{{"from", a.name()}, {"to", b.name()}, {"differences", std::move(list)}}.text());
 }
 
@@ -57,9 +67,9 @@ Status run(const Options& options, const Context& context) {
     const Source b = Source::open(options.sources.back(), context);
     const auto found = differences(a, b);
     if (options.json)
-        printDifferences(found, a, b, context);
+        printDifferences(found, a, b, options.notes, context);
     else
-        printText(found, context);
+        printText(found, options.notes, context);
     return found.empty() ? kNothing : kFound;
 }
 
@@ -74,6 +84,7 @@ void addDiff(CommandLine& line, Commands& commands) {
                   {"[A] B, each default, live, staged, a file or a folder; A is live if not given",
                    "[A] B, je default, live, staged, eine Datei oder ein Ordner; A ist sonst live"})
         .required();
+    command.flag("--notes", options->notes, kNotesHelp);
     command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
 }

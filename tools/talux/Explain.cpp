@@ -9,6 +9,7 @@
 #include "tools/pages/Names.h"
 #include "tools/talux/Command.h"
 #include "tools/talux/Lookup.h"
+#include "tools/talux/Notes.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -212,6 +213,9 @@ void explain(const Parameters& series, const Places& places, const Context& cont
         for (const std::string& text : together(texts, series))
             table.add({std::exchange(label, {}), text});
     }
+    std::string label = context.say("notes", "Hinweise");
+    for (const std::string& text : noteTexts(series, context))
+        table.add({std::exchange(label, {}), text});
     print(Paint().bold(inShort(series)) + "\n" + table.text("  "));
 }
 
@@ -306,6 +310,7 @@ Json described(const Parameter& parameter, const Places& places) {
             members.add(described(member));
         object.set("members", std::move(members));
     }
+    addNotes(object, parameter);
     if (Json values = valuesOf(parameter, places); !values.isNull()) object.set("values", std::move(values));
     return object;
 }

@@ -1,4 +1,5 @@
 // talux report: a record of the settings to print and sign. One HTML page that needs nothing else.
+#include <algorithm>
 #include <cstdlib>
 #include <ctime>
 #include <memory>
@@ -8,6 +9,7 @@
 #include "tools/talux/Files.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Listing.h"
+#include "tools/talux/Notes.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
@@ -36,29 +38,17 @@ thead th{border-bottom:1px solid #000}thead{display:table-header-group}tr{break-
 .mark{width:1em;padding-right:0}.name{width:13em}.value{width:14em}.default{width:12em;color:#444}
 td{overflow-wrap:anywhere}.changed td{font-weight:bold}.changed .default{font-weight:normal}
 .remark{display:block;font-weight:normal;font-style:italic}
+.warning{font-weight:bold}
 .sign{display:flex;gap:2em;margin-top:4em;break-inside:avoid}.sign div{flex:1;border-top:1px solid #000;padding-top:.2em}
 @page{size:A4;margin:18mm 15mm}@media print{body{margin:0;max-width:none;padding:0}}
 )";
 
 std::string escaped(std::string_view text) {
+    constexpr std::string_view kSpecial = "&<>\"", kEntities[] = {"&amp;", "&lt;", "&gt;", "&quot;"};
     std::string html;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            html += "&amp;";
-            break;
-        case '<':
-            html += "&lt;";
-            break;
-        case '>':
-            html += "&gt;";
-            break;
-        case '"':
-            html += "&quot;";
-            break;
-        default:
-            html += c;
-        }
+    for (const char& c : text) {
+        const std::size_t special = kSpecial.find(c);
+        html += special == kSpecial.npos ? std::string_view(&c, 1) : kEntities[special];
     }
     return html;
 }
@@ -85,7 +75,7 @@ public:
         return fill("<!DOCTYPE html>\n<html lang=\"{}\">\n<head>\n<meta charset=\"utf-8\">\n"
                     "<title>{}</title>\n<style>{}</style>\n</head>\n<body>\n<h1>{}</h1>\n",
                     {context.say("en", "de"), escaped(title), kStyle, escaped(title)}) +
-               facts() + families + signature() + "</body>\n</html>\n";
+               facts() + families + noteList() + signature() + "</body>\n</html>\n";
     }
 
 private:
@@ -94,6 +84,7 @@ private:
     const Context& context;
     const Source defaults = Source::defaults();
     int changedCount = 0;
+    std::vector<int> notes{}; // of the rows so far: footnotes, counted from 1
 
     static std::string fact(std::string_view label, const std::string& value) {
         return fill("<tr><th>{}</th><td>{}</td></tr>\n", {escaped(label), escaped(value)});
@@ -148,11 +139,34 @@ private:
         changedCount += changed ? 1 : 0;
         if (options.changed && !changed) return {};
         return fill(
-            "<tr{}><td class=\"mark\">{}</td><td class=\"name\">{}</td><td>{}</td><td class=\"value\">{}{}"
+            "<tr{}><td class=\"mark\">{}</td><td class=\"name\">{}</td><td>{}{}</td><td class=\"value\">{}{}"
             "</td><td class=\"default\">{}</td></tr>\n",
             {changed ? " class=\"changed\"" : "", changed ? "●" : "", escaped(parameter.name()),
-             escaped(parameter.title(context.language)), escaped(shown(parameter, value, context)),
-             remark(parameter, *value), escaped(shown(parameter, factory, context))});
+             escaped(parameter.title(context.language)), noteSigns(parameter),
+             escaped(shown(parameter, value, context)), remark(parameter, *value),
+             escaped(shown(parameter, factory, context))});
+    }
+
+    std::string noteSigns(const Parameter& parameter) {
+        const auto sign = [this](int note) {
+            auto known = std::ranges::find(notes, note);
+            if (known == notes.end()) known = notes.insert(known, note);
+            return std::to_string(known - notes.begin() + 1);
+        };
+        const std::string signs = list(parameter.notes(), ", ", sign);
+        return signs.empty() ? signs : fill(" <sup>{}</sup>", {signs});
+    }
+
+    std::string noteList() const {
+        const auto item = [this](int place) {
+            const model::Note& note = reference::noteAt(place);
+            return fill("<li class=\"{}\">{} {}</li>\n",
+                        {model::kNoteKinds[note.kind], noteLabel(note, context),
+                         escaped(note.text.in(context.language))});
+        };
+        if (notes.empty()) return {};
+        return fill("<h2>{}</h2>\n<ol>\n{}</ol>\n",
+                    {context.say("Notes", "Hinweise"), list(notes, "", item)});
     }
 
     std::string remark(const Parameter& parameter, const Value& value) const {
