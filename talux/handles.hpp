@@ -356,8 +356,10 @@ public:
     static constexpr int kMost = 64;
 
     consteval Series(const char* nameWithoutNumber) {
-        for (; const table::Row* const row = table::findNumbered(nameWithoutNumber, count + 1); ++count) {
-            const Setting<Value> each(table::resolve<Value>(row->name, false));
+        for (;; ++count) {
+            const std::size_t place = table::findNumbered(nameWithoutNumber, count + 1);
+            if (place == table::kNoRow) break;
+            const Setting<Value> each(table::resolve<Value>(table::kRows[place].name, false));
             if (count == 0) first = each;
             if (each.limits.min != first.limits.min || each.limits.max != first.limits.max ||
                 each.readOnly != first.readOnly || count == kMost)

@@ -42,29 +42,32 @@ union Mistakes {
 inline constexpr Mistakes mistake{.nothing = 1};
 constexpr void stop(char) {}
 
-constexpr const Row* look(std::string_view name) {
+inline constexpr std::size_t kNoRow = std::size(kRows);
+
+// The place of a row, or kNoRow. No pointer: compared with null, a sanitizer's is no constant.
+constexpr std::size_t look(std::string_view name) {
     std::size_t first = 0, last = std::size(kRows);
     while (first < last) {
         const std::size_t middle = (first + last) / 2;
-        if (name == kRows[middle].name) return &kRows[middle];
+        if (name == kRows[middle].name) return middle;
         if (name < kRows[middle].name)
             last = middle;
         else
             first = middle + 1;
     }
-    return nullptr;
+    return kNoRow;
 }
 
 constexpr const Row& find(std::string_view name) {
-    const Row* const row = look(name);
-    if (row == nullptr) stop(mistake.no_parameter_has_this_name);
-    return *row;
+    const std::size_t place = look(name);
+    if (place == kNoRow) stop(mistake.no_parameter_has_this_name);
+    return kRows[place];
 }
 
-// The row of a name followed by a number of one or two digits, or null.
-constexpr const Row* findNumbered(std::string_view name, int number) {
+// The place of a name followed by a number of one or two digits, or kNoRow.
+constexpr std::size_t findNumbered(std::string_view name, int number) {
     char text[64] = {};
-    if (name.size() + 2 > sizeof text) return nullptr;
+    if (name.size() + 2 > sizeof text) return kNoRow;
     std::size_t length = 0;
     for (const char c : name)
         text[length++] = c;

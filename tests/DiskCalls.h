@@ -70,8 +70,14 @@ inline bool fails(const char* call, const std::string& what = {}, std::size_t* m
     return fault != kShort;
 }
 
+// The C library's own. Where a processor has 32 bits, our names are those of its calls with wide sizes and
+// times.
 template <typename Function>
 Function* next(Function* /*own*/, const char* name) {
+    const std::string_view call = name;
+    const bool isNarrow = sizeof(long) < sizeof(off_t);
+    if (isNarrow && call == "ftruncate") name = "ftruncate64";
+    if (isNarrow && call == "clock_gettime") name = "__clock_gettime64";
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 

@@ -17,7 +17,8 @@ struct Ended {
 
 // `command` is a line of the shell in which talux is found; error stream included where it says so.
 inline Ended run(const std::string& command) {
-    FILE* const pipe = popen(("ulimit -n 24; PATH=" TALUX_BIN ":$PATH; LANG=C; export LANG; " + command).c_str(), "r");
+    FILE* const pipe =
+        popen(("ulimit -n 24; PATH=" TALUX_BIN ":$PATH; LANG=C; export LANG; " + command).c_str(), "r");
     Ended result{-1, {}};
     char block[4096];
     for (std::size_t size; (size = std::fread(block, 1, sizeof block, pipe)) > 0;)
