@@ -6,9 +6,10 @@ set(talux_tables
   ${talux_generated}/ParamSystem/dictionary/SymbolTable.cpp
   ${talux_generated}/ParamSystem/texts/TextTable.cpp)
 set(talux_generated_headers
-  ${talux_generated}/ParamSystem/dictionary/NamedIds.inc
   ${talux_generated}/talux/parameters.hpp
-  ${talux_generated}/talux/records.hpp)
+  ${talux_generated}/talux/records.hpp
+  ${talux_generated}/talux/default_table.hpp
+  ${talux_generated}/talux/note_table.hpp)
 set(talux_lua_tables parameters parameters_de parameters_en records)
 list(TRANSFORM talux_lua_tables REPLACE "(.+)" "${talux_generated}/lua/talux/\\1.lua")
 set(talux_csv ${talux_generated}/docs/parameters/parameters.csv)
@@ -34,7 +35,8 @@ add_custom_command(OUTPUT ${talux_generated}/stamp
   COMMAND ${talux_generator} ${talux_generated}
   COMMAND ${CMAKE_COMMAND} -E touch ${talux_generated}/stamp
   DEPENDS ${talux_generator}
-  BYPRODUCTS ${talux_csv} ${talux_tables} ${talux_generated_headers} ${talux_lua_tables} ${talux_model_table}
+  BYPRODUCTS ${talux_csv} ${talux_tables} ${talux_generated}/ParamSystem/dictionary/NamedIds.inc
+    ${talux_generated_headers} ${talux_lua_tables} ${talux_model_table}
   COMMENT "Making the tables of the dictionary"
   VERBATIM)
 add_custom_target(talux_dictionary DEPENDS ${talux_generated}/stamp)

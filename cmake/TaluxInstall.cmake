@@ -65,8 +65,7 @@ foreach(headers ParamSystem/*.h MenuSystem/TALUX_*.h talux/*.hpp)
   get_filename_component(folder ${headers} DIRECTORY)
   talux_install(development FILES ${files} DESTINATION ${talux_include_dir}/${folder})
 endforeach()
-talux_install(development FILES ${talux_generated}/talux/parameters.hpp ${talux_generated}/talux/records.hpp
-  DESTINATION ${talux_include_dir}/talux)
+talux_install(development FILES ${talux_generated_headers} DESTINATION ${talux_include_dir}/talux)
 talux_install(development FILES src/talux_interpreter.h src/talux_store.h src/lib_talux_lua.h
   DESTINATION ${talux_include_dir}/src)
 

@@ -86,7 +86,10 @@ public:
     class iterator {
     public:
         explicit iterator(int tablePosition)
-            : position(tablePosition), row(GetParamPropertiesByOrder(position)) {}
+            : position(tablePosition), row(GetParamPropertiesByOrder(position)) {
+            while (row != nullptr && *row->name == '\0') // a template
+                row = GetParamPropertiesByOrder(++position);
+        }
         About operator*() const { return About(row); }
         iterator& operator++() { return *this = iterator(position + 1); }
         friend bool operator==(const iterator& at, std::nullptr_t) { return at.row == nullptr; }

@@ -2,17 +2,18 @@
 // isolation. Include it in one source of the test, and do not link the library: this defines its functions
 // that handles, changes and followers call.
 //
-//   talux::Fake fake; // everything is 0 or empty, the factory defaults too
+//   talux::Fake fake; // settings have their factory defaults, measured values are 0 or empty
 //   CHECK(threshold.stage(35));
 //
-// It has no files, no language and of the dictionary the names. A talux::Group makes its own shared memory,
-// so that a test with groups still needs isolation.
+// It has no files, no language and of the dictionary the names. Its groups are those of the threads of this
+// program.
 #ifndef TALUX_FAKE_HPP
 #define TALUX_FAKE_HPP
 
 #include <algorithm>
 #include <iterator>
 
+#include "talux/default_table.hpp"
 #include "talux/follower.hpp"
 #include "talux/talux.hpp"
 
@@ -52,6 +53,38 @@ void getText(stVarSpace& space, int id, char* text) {
     std::memcpy(text, placeOf<kind>(space, id), bytesOf(kind, id).size);
 }
 
+inline void stageDefault(const table::Default& setting) {
+    const int id = setting.id;
+    char* const text = const_cast<char*>(setting.text);
+    switch (setting.kind) {
+    case table::Kind::f32:
+        return VarSetFloatValue(id, static_cast<float>(setting.number));
+    case table::Kind::f64:
+        return VarSetDoubleValue(id, setting.number);
+    case table::Kind::i32:
+        return VarSetLongValue(id, static_cast<VarLong>(setting.number));
+    case table::Kind::i16:
+        return VarSetIntValue(id, static_cast<short>(setting.number));
+    case table::Kind::flag:
+        return VarSetBoolValue(id, setting.number != 0.0);
+    case table::Kind::choice:
+        return VarSetEnumValue(id, static_cast<short>(setting.number));
+    case table::Kind::text:
+        return VarSetTextValue(id, text);
+    case table::Kind::identifier:
+        return VarSetIdValue(id, text);
+    case table::Kind::address:
+        return VarSetIpValue(id, text);
+    default: // not in the store
+        return;
+    }
+}
+
+inline void forgetWrites(GroupSlot& slot) {
+    slot.written = 0;
+    __atomic_store_n(&slot.sequence, 0U, __ATOMIC_RELEASE);
+}
+
 // Of the dictionary the names, until the next look-up of the thread.
 template <class Wanted>
 const stParamProperties* find(Wanted wanted) {
@@ -65,13 +98,18 @@ const stParamProperties* find(Wanted wanted) {
 
 } // namespace detail::fake
 
-// Begins with an empty store; one at a time.
+// Begins with a store of which nothing is known but the factory defaults, and with groups that nobody has
+// written; one at a time.
 class Fake {
 public:
     Fake() {
         detail::fake::live = detail::fake::staged = {};
         std::memset(detail::fake::records, 0, sizeof detail::fake::records);
         detail::fake::saveError = 0;
+        VarSetDefault();
+        VarUpdateGlobalSpace();
+        for (detail::GroupSlot& each : detail::privateGroups.slots)
+            detail::fake::forgetWrites(each);
     }
 
     // From now on a save fails with this errno, such as ENOSPC; 0: it works, and writes nothing.
@@ -84,6 +122,7 @@ stVarSpace* pVarGlobal = &talux::detail::fake::live;
 stVarSpace* pVarTemp = &talux::detail::fake::staged;
 void* pVarStruct = talux::detail::fake::records;
 const stParamText DefParamText[kDefParamTextRows] = {};
+talux::detail::PrivateGroups talux::detail::privateGroups;
 
 #define TALUX_FAKE(kind, Name, Type)                                                                         \
     void VarSet##Name##Value(int id, Type value) {                                                           \
@@ -138,7 +177,12 @@ void VarGetGlobalStructValue(int id, void* record, VarLong size) {
 }
 
 void VarInit(char*) {}
-void VarSetDefault() {}
+void VarSetDefault() {
+    for (const auto& [id, offset, size] : talux::detail::kSettings)
+        std::memset(reinterpret_cast<char*>(pVarTemp) + offset, 0, size);
+    for (const talux::table::Default& each : talux::table::kDefaults)
+        talux::detail::fake::stageDefault(each);
+}
 int VarUpdateGlobalSpace() {
     for (const auto& [id, offset, size] : talux::detail::kSettings)
         std::memcpy(reinterpret_cast<char*>(pVarGlobal) + offset, reinterpret_cast<char*>(pVarTemp) + offset,

@@ -3,7 +3,8 @@
 // A slot has a counter that is odd while a writer is inside, or after it died there. A reader copies the
 // values between two looks at the counter, and again if it was odd or has changed. Semaphores keep writers
 // apart and count the programs that use a slot; the kernel takes back what a program that dies has added.
-// Readers hold nothing and delay no writer. tests/models/group.pml is this protocol as a model.
+// Readers hold nothing and delay no writer. In a unit test with talux/fake.hpp both are private memory of the
+// program. tests/models/group.pml is this protocol as a model.
 #ifndef TALUX_GROUP_SLOT_HPP
 #define TALUX_GROUP_SLOT_HPP
 
@@ -90,6 +91,17 @@ static_assert(__atomic_always_lock_free(sizeof(std::uint32_t), nullptr)); // bet
 inline constexpr unsigned short kClaims = kGroupSlots, kUsers = kGroupSlots + 1;
 inline constexpr int kSemaphores = kUsers + kGroupSlots;
 
+// Slots and semaphores of a program that is linked with talux/fake.hpp; nobody else defines them.
+struct PrivateGroups {
+    GroupSlot slots[kGroupSlots];
+    std::uint32_t semaphores[kSemaphores];
+};
+extern PrivateGroups privateGroups __attribute__((weak));
+
+inline bool arePrivate() {
+    return &privateGroups != nullptr;
+}
+
 class GroupPlace {
 public:
     GroupPlace(std::string_view name, std::uint32_t memberList) : members(memberList), owner(getpid()) {
@@ -106,7 +118,7 @@ public:
     ~GroupPlace() {
         // A child made by fork has not been counted.
         if (slot != nullptr && owner == getpid()) count(kUsers, -1);
-        if (slots != nullptr) shmdt(slots);
+        if (slots != nullptr && !arePrivate()) shmdt(slots);
     }
     GroupPlace(const GroupPlace&) = delete;
     GroupPlace& operator=(const GroupPlace&) = delete;
@@ -175,6 +187,10 @@ private:
     std::uint32_t load(int order) const { return __atomic_load_n(&slot->sequence, order); }
 
     bool attach() {
+        if (arePrivate()) {
+            slots = privateGroups.slots;
+            return true;
+        }
         const int segment = shmget(kGroupsKey, kGroupSlots * sizeof(GroupSlot), IPC_CREAT | 0666);
         void* const memory = shmat(segment, nullptr, 0);
         if (reinterpret_cast<std::intptr_t>(memory) == -1) return false;
@@ -200,7 +216,7 @@ private:
     // Odd with nobody inside.
     bool isAbandoned() const {
         const std::uint32_t seen = load(__ATOMIC_RELAXED);
-        return seen % 2 == 1 && semctl(semaphores, index(), GETVAL) == 0 && load(__ATOMIC_RELAXED) == seen;
+        return seen % 2 == 1 && valueOf(index()) == 0 && load(__ATOMIC_RELAXED) == seen;
     }
 
     // Between the new counter and the look at `awaited` nothing may move: a reader that sets `awaited` later
@@ -219,23 +235,41 @@ private:
         const std::int64_t end = monotonic() + 100000000;
         for (std::int64_t left = 100000000; left > 0; left = end - monotonic()) {
             const timespec time{0, static_cast<long>(left)};
-            if (semtimedop(semaphores, raise, 2, &time) == 0) return true;
-            if (errno != EINTR) break;
+            if (arePrivate()) {
+                if (enterPrivate(number)) return true;
+                sleepFor(100000);
+            } else {
+                if (semtimedop(semaphores, raise, 2, &time) == 0) return true;
+                if (errno != EINTR) break;
+            }
         }
         return false;
+    }
+    static bool enterPrivate(unsigned short number) {
+        std::uint32_t none = 0;
+        return __atomic_compare_exchange_n(&privateGroups.semaphores[number], &none, 1U, false,
+                                           __ATOMIC_ACQUIRE, __ATOMIC_RELAXED);
     }
     void leave(unsigned short number) const { add(number, -1); }
     void count(unsigned short first, short by) const {
         add(static_cast<unsigned short>(first + index()), by);
     }
     void add(unsigned short number, short by) const {
+        if (arePrivate()) {
+            __atomic_fetch_add(&privateGroups.semaphores[number], static_cast<std::uint32_t>(by),
+                               __ATOMIC_RELEASE);
+            return;
+        }
         sembuf operation{number, by, SEM_UNDO | IPC_NOWAIT};
         semop(semaphores, &operation, 1);
     }
 
-    bool isUsed(const GroupSlot* each) const {
-        return semctl(semaphores, kUsers + static_cast<int>(each - slots), GETVAL) > 0;
+    int valueOf(int number) const {
+        return arePrivate()
+                   ? static_cast<int>(__atomic_load_n(&privateGroups.semaphores[number], __ATOMIC_ACQUIRE))
+                   : semctl(semaphores, number, GETVAL);
     }
+    bool isUsed(const GroupSlot* each) const { return valueOf(kUsers + static_cast<int>(each - slots)) > 0; }
     static bool isNamed(const GroupSlot* each, std::string_view name) {
         return name == std::string_view(each->name, strnlen(each->name, sizeof each->name));
     }

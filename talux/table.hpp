@@ -1,4 +1,5 @@
-// What the compiler knows of a parameter. The rows are in the generated talux/parameters.hpp.
+// What the compiler knows of a parameter. The rows are in the generated talux/parameters.hpp,
+// default_table.hpp and note_table.hpp.
 #ifndef TALUX_TABLE_HPP
 #define TALUX_TABLE_HPP
 
@@ -38,6 +39,28 @@ struct Row {
     short choices = 0;   // which list of choices
     double min = kNoMin; // what may be staged; of a text 0 and its longest length in characters
     double max = kNoMax;
+};
+
+// The factory default of a setting.
+struct Default {
+    Kind kind;
+    int id;
+    double number;
+    const char* text = "";
+};
+
+// Of warnings, what is unknown and advice (talux/notes.hpp).
+enum class NoteKind : unsigned char { warning, unknown, advice };
+
+struct Note {
+    NoteKind kind;
+    const char *de, *en;
+};
+
+// A parameter and one of its notes.
+struct NoteOf {
+    const char* name;
+    short note;
 };
 
 } // namespace talux::table

@@ -1,11 +1,14 @@
 // Typed handles beside the language: what one takes the other takes, and both find it in the same place.
 #include "src/talux_interpreter.h"
-#include "talux/about.hpp"
+#include "talux/default_table.hpp"
+#include "talux/notes.hpp"
 #include "talux/talux.hpp"
 
 #include <cmath>
+#include <fstream>
 #include <gtest/gtest.h>
-#include <random>
+#include <map>
+#include <regex>
 #include <set>
 #include <string>
 #include <tuple>
@@ -220,6 +223,57 @@ TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
             << row.name;
     EXPECT_EQ(About("uearth").title(kGerman), "Schwelle Erdschluss U0");
     EXPECT_FALSE(About("Uearht") || About(0) || About(-1));
+}
+
+// What a store for unit tests begins with, is what the device has after a reset.
+TEST_F(Handles, TheDefaultsOfTestsAreThoseOfTheDevice) {
+    std::map<int, std::pair<double, std::string>> defaults;
+    for (const table::Default& each : table::kDefaults)
+        defaults[each.id] = {each.number, each.text};
+    int compared = 0;
+    for (const About parameter : parameters()) {
+        const bool isClock = parameter.type() >= kTypeDate && parameter.type() <= kTypeSysTime;
+        if (!parameter.is_setting() || isClock) continue;
+        const auto& [number, text] = defaults[parameter.id()];
+        EXPECT_EQ(number, parameter.default_number()) << parameter.name();
+        EXPECT_EQ(text, parameter.default_text()) << parameter.name();
+        ++compared;
+    }
+    EXPECT_GT(compared, 600);
+}
+
+// As a field of the list of parameters.
+std::string field(const std::string& text) {
+    if (text.find_first_of(",\"") == text.npos) return text;
+    return '"' + std::regex_replace(text, std::regex("\""), "\"\"") + '"';
+}
+
+TEST_F(Handles, NotesAreThoseOfTheListOfParameters) {
+    std::string kinds;
+    for (const char* name : {"U1_prim", "ParamMagic", "UEARTH", "Firewall_dis"})
+        for (const Note note : notes(name))
+            kinds += "wua"[static_cast<int>(note.kind())];
+    EXPECT_EQ(kinds, "auuw");
+    EXPECT_TRUE(notes("Uearht").empty());
+
+    std::ifstream list(TALUX_CSV);
+    std::string line;
+    std::getline(list, line); // what the columns are
+    int found = 0;
+    while (std::getline(list, line)) {
+        const About parameter(line.substr(0, line.find(',')).c_str());
+        if (!parameter) continue;
+        std::string texts[2];
+        for (const Note note : notes(parameter))
+            for (const ParamLanguage language : {kEnglish, kGerman}) {
+                std::string& text = texts[language == kGerman];
+                (text += text.empty() ? "" : " ") += note.text(language);
+                ++found;
+            }
+        const std::string end = ',' + field(texts[0]) + ',' + field(texts[1]) + '\r';
+        EXPECT_TRUE(line.ends_with(end)) << line << '\n' << end;
+    }
+    EXPECT_GT(found, 1000);
 }
 
 } // namespace

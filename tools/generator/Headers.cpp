@@ -1,4 +1,5 @@
-// The generated headers of talux/: the parameters with their choices, and the records.
+// The generated headers of talux/: the parameters with their choices, the records, factory defaults and
+// notes.
 #include <algorithm>
 #include <map>
 #include <set>
@@ -6,6 +7,7 @@
 #include <vector>
 
 #include "tools/Strings.h"
+#include "tools/generator/Sources.h"
 #include "tools/generator/Tables.h"
 #include "tools/reference/Reference.h"
 
@@ -195,6 +197,78 @@ inline constexpr short kChoices = 0; // no list
     return joined({text, "};\n\n} // namespace talux::table\n\n#endif\n"});
 }
 
+// ---- Defaults and notes -------------------------------------------------------------------------------
+
+std::string printTable(std::string_view guard, std::string_view contents) {
+    return fill(R"(// Made by tools/generator from the dictionary.
+#ifndef {}
+#define {}
+
+#include "talux/table.hpp"
+
+// clang-format off
+namespace talux::table {
+{}
+} // namespace talux::table
+
+#endif
+)",
+                {guard, guard, contents});
+}
+
+std::string printDefaults(const Model& model) {
+    std::string rows;
+    for (const Parameter parameter : model.rows) {
+        const bool isText = parameter.textRoom() > 0;
+        const stParamProperties& row = parameter.row();
+        if (parameter.isTemplate() || !parameter.isSetting() || kindOf(parameter) == "clock") continue;
+        if (isText ? *row.val_def_text == '\0' : row.val_def == 0.0) continue;
+        rows += joined({"    {Kind::", kindOf(parameter), ", ", std::to_string(row.id), ", ",
+                        isText ? "0, " + quoted(row.val_def_text) : number(row.val_def), "},\n"});
+    }
+    return printTable("TALUX_DEFAULT_TABLE_HPP", fill(R"(
+// In menu order; all others are 0 or empty.
+inline constexpr Default kDefaults[] = {
+{}};
+)",
+                                                      {rows}));
+}
+
+std::string_view nameOf(parameters::NoteKind kind) {
+    switch (kind) {
+    case parameters::kWarning:
+        return "warning";
+    case parameters::kUnknown:
+        return "unknown";
+    case parameters::kAdvice:
+        break;
+    }
+    return "advice";
+}
+
+std::string printNotes(const Model& model) {
+    std::string notes;
+    for (const model::Note& note : model.notes)
+        notes += joined({"    {NoteKind::", nameOf(note.kind), ",\n     ", quoted(note.text.de), ",\n     ",
+                         quoted(note.text.en), "},\n"});
+    std::map<std::string_view, std::string> places; // in the order of the look-up
+    for (const Parameter parameter : model.rows)
+        if (!parameter.isTemplate())
+            for (const int note : parameter.notes())
+                places[parameter.name()] +=
+                    joined({"    {", quoted(parameter.name()), ", ", std::to_string(note), "},\n"});
+    return printTable("TALUX_NOTE_TABLE_HPP",
+                      fill(R"(
+inline constexpr Note kNotes[] = {
+{}};
+
+// Sorted by name.
+inline constexpr NoteOf kNotesOf[] = {
+{}};
+)",
+                           {notes, list(places, "", [](const auto& of) { return of.second; })}));
+}
+
 // ---- Records ------------------------------------------------------------------------------------------
 
 std::string printRecord(const Parameter& record) {
@@ -238,6 +312,8 @@ inline constexpr int kRecordId = 0; // no record
 void addHeaders(Sources& sources, const Model& model) {
     sources["talux/parameters.hpp"] = printParameters(model);
     sources["talux/records.hpp"] = printRecords(model);
+    sources["talux/default_table.hpp"] = printDefaults(model);
+    sources["talux/note_table.hpp"] = printNotes(model);
 }
 
 } // namespace talux::generator
