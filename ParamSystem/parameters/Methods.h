@@ -146,14 +146,14 @@ inline constexpr Method kMethods[] = {
      .measured = "f_grid",
      .functions = "82..84",
      .deRemark = "freq_U0_active bis freq_U3_active gehören zur Frequenzmessung, nicht hierher.",
-     .enRemark = "freq_U0_active to freq_U3_active belong to the measurement of the frequency, not here."},
+     .enRemark = "freq_U0_active to freq_U3_active belong to the frequency measurement, not to this method."},
     {.id = kOtherFunctions,
      .de = "Ohne Verfahren",
      .en = "Without a method",
      .functions = "2..4 8..15 81",
-     .deRemark = "Programm, Status, Fehler, die acht Funktionen des Benutzers und Ferroresonanz, zu der es "
+     .deRemark = "Programm, Status, Fehler, die acht Benutzerfunktionen und Ferroresonanz, zu der es "
                  "keine Einstellung gibt.",
-     .enRemark = "Program, status, error, the eight functions of the user, and ferroresonance, which has no "
+     .enRemark = "Program, status, error, the eight user functions, and ferroresonance, which has no "
                  "setting."},
 };
 

@@ -255,7 +255,7 @@ TEST_F(TaluxStore, EachRuleOfPlausibilityHasSettingsThatBreakIt) {
     VarSetValue(GetParamPropertiesByName(const_cast<char*>("Name"))->id, asValue(name));
     EXPECT_EQ(run("talux check " +
                   write("other.ini", "TLX_Name=\"Feeder 7\"\nTLX_knuV1=203\nTLX_Abg=\"A\"\n") +
-                  " | grep -c 'one device'")
+                  " | grep -c 'this device alone'")
                   .output,
               "2\n");
 }

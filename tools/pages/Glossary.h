@@ -103,8 +103,8 @@ inline constexpr Word kTradeWords[] = {
     {"Ansprechen, Rückfallen", "pick-up, drop-out",
      "Überschreiten einer Schwelle, bei dem etwas als vorhanden gilt, und Unterschreiten, bei dem es nicht mehr "
      "gilt.",
-     "Pick-up: a threshold is exceeded and the condition counts as present. Drop-out: a threshold is fallen below "
-     "and it no longer does."},
+     "Pick-up: the value exceeds a threshold and the condition counts as present. Drop-out: it falls below a "
+     "threshold and the condition no longer counts as present."},
     {"Ruhestrom", "normally energised",
      "Ein Relais im Ruhestrom ist angezogen, solange nichts zu melden ist, und meldet so auch den Ausfall der "
      "Versorgung.",
@@ -190,7 +190,7 @@ inline constexpr Word kDeviceWords[] = {
      "Output functions over all methods: Sum combines the direction signals, Prio follows the priority list."},
     {"BE (englisch BI, DI)", "BE, BI, DI", "Binäreingang. BE1 und BE2 messen auch ihre Spannung.",
      "Binary input (German Binäreingang). Inputs 1 and 2 measure their voltage too."},
-    {"BA, REL", "BA, REL", "Binärausgang, also Ausgangsrelais.", "Binary output, that is output relay."},
+    {"BA, REL", "BA, REL", "Binärausgang, also Ausgangsrelais.", "Binary output, that is, an output relay."},
     {"BEF (englisch BIF)", "BEF, BIF",
      "Eingangsfunktion: was ein Eingang im Gerät auslöst. BEFassign wählt den Eingang; was die 16 Funktionen "
      "auslösen, ist nicht dokumentiert.",
@@ -198,9 +198,9 @@ inline constexpr Word kDeviceWords[] = {
      "trigger is not documented."},
     {"BAF (englisch BOF)", "BAF, BOF",
      "Ausgangsfunktion: eine Meldung der Verfahren, die Relais und LEDs zugeordnet werden kann. uBAF und user_BAF "
-     "sind die acht des Benutzers.",
+     "sind die acht Benutzerfunktionen.",
      "Output function: a signal of the methods that relays and LEDs can be assigned to. uBAF and user_BOF are the "
-     "eight of the user."},
+     "eight user functions."},
     {"PROG, NC, n.n., frei", "PROG, NC, n.n.",
      "Wahlen in der Liste der Ausgangsfunktionen. NC, deutsch frei: ohne Funktion. Was PROG und 50Hz n.n. melden, "
      "ist nicht dokumentiert.",
@@ -244,7 +244,7 @@ inline constexpr Word kDeviceWords[] = {
     {"_a, _re, _im, _w", "_a, _re, _im, _w", "Betrag, Realteil, Imaginärteil und Winkel eines Zeigers.",
      "Magnitude, real part, imaginary part and angle of a phasor."},
     {"MW", "MW", "Messwert. mw_... ist die Momentaufnahme der Messwerte, die mw_req anfordert.",
-     "Measured value. mw_... is the snapshot of the measured values that mw_req asks for."},
+     "Measured value. mw_... is the snapshot of the measured values that mw_req requests."},
     {"OVR", "OVR",
      "Simulation (override): Werte, die statt der gemessenen gelten. ..._enable gibt frei, ..._val ist der Wert.",
      "Override for simulation: values used instead of the measured ones. ..._enable switches it on, ..._val is the value."},

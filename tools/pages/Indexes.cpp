@@ -22,7 +22,7 @@ Every parameter of the device, in English and German.
 | `parameters.csv` | the same as a table, for other programs (RFC 4180, UTF-8): beside this page in the package `talux-lua-dev`, in `generated/docs/parameters/` of a build folder |
 | [Detection methods](detection-methods.md) | which method for which neutral earthing; switch, thresholds, times, logs, outputs of each method |
 | [Records](records.md) | the members of the three records |
-| [Plausibility](plausibility.md) | what `talux` says of settings that the device accepts and that can hardly be meant |
+| [Plausibility](plausibility.md) | rules by which `talux` reports settings that the device accepts but that are implausible |
 | [Glossary](glossary.md) | words of the trade and of the device in both languages |
 | the pages of the families, below | every parameter in the order of the menus |
 

@@ -59,7 +59,7 @@ void addMethod(std::string& page, const Method& method) {
 void addEarthings(std::string& page) {
     page +=
         "\n## Which method for which neutral earthing · Welches Verfahren für welche Sternpunktbehandlung\n\n"
-        "As usual in the trade; what this device does in detail is not documented. *on*: the method works with "
+        "This is common practice; what this device does in detail is not documented. *on*: the method works with "
         "the factory settings. · *Wie im Fach üblich; was dieses Gerät im Einzelnen tut, ist nicht "
         "dokumentiert.*\n\n"
         "| Method · Verfahren | Neutral earthing | Sternpunkt | Factory |\n|---|---|---|---|\n";
@@ -77,7 +77,7 @@ void addEarthings(std::string& page) {
 void addMethods(Pages& pages) {
     std::string page = joined(
         {kGenerated, "# Detection methods\n\n[All parameters](README.md)\n\n",
-         "What belongs together, with the factory defaults. A method works when its first switch is 1; further "
+         "The settings and signals of each method, with the factory defaults. A method works when its first switch is 1; further "
          "switches enable parts of it. It signals on the outputs to which one of its *output functions* is "
          "assigned: write their numbers to `BAassign{1..8}` for relays and to `LEDassign{1..10}` for LEDs "
          "([BA_FUNCTION](templates.md#BA_FUNCTION) is the whole list), those of its *priorities* to "

@@ -32,11 +32,12 @@ std::string parametersOf(const tool::PlausibilityRule& rule) {
 void addPlausibility(Pages& pages) {
     std::string page = joined(
         {kGenerated, "# Plausibility\n\n[All parameters](README.md)\n\n",
-         "What `talux check`, `talux lint` and `talux status --plausible` say of settings that the device "
-         "accepts. Nothing is refused for it. A *fault* cannot be right; a *doubt* may be meant, and the exit "
-         "status says nothing of it. What is not documented has no rule. The factory settings break the rules "
-         "marked *factory*, no others.\n\n"
-         "*Was `talux` zu Einstellungen sagt, die das Gerät annimmt. Abgelehnt wird deshalb nichts. Ein "
+         "These rules are for settings that the device accepts, so nothing is refused because of them. `talux check`, "
+         "`talux lint`, `talux status --plausible`, the shell and every change of settings report them. A *fault* "
+         "cannot be right; a *doubt* may be intended and does not affect the exit status. Where the meaning of a "
+         "setting is not documented there is no rule. The factory settings break only the rules marked "
+         "*factory*.\n\n"
+         "*Die Regeln gelten für Einstellungen, die das Gerät annimmt; ihretwegen wird nichts abgelehnt. Ein "
          "`fault` kann nicht richtig sein, ein `doubt` kann gewollt sein. Die Werkseinstellungen verletzen "
          "nur die mit `factory` bezeichneten Regeln.*\n\n"
          "| Rule | | English | Deutsch | Parameters |\n|---|---|---|---|---|\n"});

@@ -1,4 +1,4 @@
-// Settings that the device accepts and that can hardly be meant; see PlausibilityRules.h. Needs no device.
+// Settings that the device accepts but that are implausible; see PlausibilityRules.h. Needs no device.
 #ifndef TALUX_TOOLS_TALUX_PLAUSIBILITY_H
 #define TALUX_TOOLS_TALUX_PLAUSIBILITY_H
 

@@ -1,4 +1,4 @@
-// What is said of settings that the device accepts and that can hardly be meant: one row a rule. Nothing is
+// What is reported of settings that the device accepts but that are implausible: one row a rule. Nothing is
 // refused for it. What is not documented has no rule.
 #ifndef TALUX_TOOLS_TALUX_PLAUSIBILITYRULES_H
 #define TALUX_TOOLS_TALUX_PLAUSIBILITYRULES_H
@@ -134,8 +134,8 @@ inline constexpr PlausibilityRule kPlausibilityRules[] = {
      "modbus_active Modbus_Port T104_active T104_port DNP3_active DNP3_PORT", "two services use one TCP port",
      "zwei Dienste benutzen einen TCP-Port"},
     {"individual", Gravity::doubt, Test::individual, "",
-     "replaces a value of this one device: is it that of another?",
-     "ersetzt einen Wert dieses einen Gerätes: ist es der eines anderen?"},
+     "replaces a value that belongs to this device alone: does it come from another?",
+     "ersetzt einen Wert, der nur zu diesem Gerät gehört: stammt er von einem anderen?"},
 };
 
 } // namespace talux::tool

@@ -193,7 +193,7 @@ void addStatus(CommandLine& line, Commands& commands) {
                        {"what update and save would change on this device",
                         "was update und save an diesem Gerät ändern würden"});
     command.flag("--plausible", options->plausible,
-                 {"also what can hardly be meant in the working copy: see parameters/plausibility.md",
+                 {"also what is implausible in the working copy: see parameters/plausibility.md",
                   "auch was in der Arbeitskopie kaum gemeint sein kann: siehe parameters/plausibility.md"});
     command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
     commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
