@@ -147,7 +147,7 @@ Operation group(const std::string& name, Elements... elements) {
                 [elements...] { std::apply([&](auto&... value) { (elements.get(value), ...); }, values); })},
         "C++",
         "bare C++",
-        1.3,
+        1.1,
         200};
 }
 
