@@ -54,7 +54,7 @@ TEST_F(TaluxShell, SaysWhyALineIsRefused) {
     EXPECT_TRUE(answers("TLX_vBE=1", "elements are 1 to 96"));
     EXPECT_TRUE(answers("system ls", "talux shell --level 3"));
     EXPECT_TRUE(answers("TLX_FW_BLOCK=5", "needs rights level 3"));
-    EXPECT_TRUE(answers("TLX_Name=\"a,b\"", "is no number"));
+    EXPECT_TRUE(answers("TLX_Name=\"a,b\"", "is not a number"));
     EXPECT_TRUE(answers("help Uearth", "threshold"));
     EXPECT_TRUE(answers("?", "Tab completes"));
     EXPECT_EQ(end(), 0);

@@ -31,7 +31,7 @@ std::string contentsOf(const std::string& path, const Context& context) {
     if (size > kLargest)
         cannotRead(
             path,
-            context.say("more than 1 MB is no script or plan", "mehr als 1 MB ist kein Skript oder Plan"),
+            context.say("larger than 1 MB: not a script or plan", "mehr als 1 MB ist kein Skript oder Plan"),
             context);
     contents.resize(size);
     return contents;

@@ -43,7 +43,7 @@ std::string syntaxReason(const Decision& decision, const Context& context) {
             return fill(context.say("parameters are written with a prefix: TLX_{}",
                                     "Parameter stehen mit Vorsatz: TLX_{}"),
                         {joined({parameter->name(), printable(decision.term.substr(name.size()))})});
-        return fill(context.say("'{}' is no number, command, parameter, operator or function",
+        return fill(context.say("'{}' is not a number, command, parameter, operator or function",
                                 "'{}' ist weder Zahl noch Befehl, Parameter, Operator oder Funktion"),
                     {term});
     }
@@ -52,11 +52,12 @@ std::string syntaxReason(const Decision& decision, const Context& context) {
     if (value.empty()) return context.say("there is no value after =", "hinter = steht kein Wert");
     switch (typeOf(*decision.row).nature) {
     case Nature::date:
-        return fill(context.say("'{}' is no date: YYYY-MM-DD", "'{}' ist kein Datum: JJJJ-MM-TT"), {value});
+        return fill(context.say("'{}' is not a date: YYYY-MM-DD", "'{}' ist kein Datum: JJJJ-MM-TT"),
+                    {value});
     case Nature::time:
-        return fill(context.say("'{}' is no time: HH:MM:SS", "'{}' ist keine Uhrzeit: HH:MM:SS"), {value});
+        return fill(context.say("'{}' is not a time: HH:MM:SS", "'{}' ist keine Uhrzeit: HH:MM:SS"), {value});
     default:
-        return fill(context.say("'{}' is no number", "'{}' ist keine Zahl"), {value});
+        return fill(context.say("'{}' is not a number", "'{}' ist keine Zahl"), {value});
     }
 }
 
@@ -309,7 +310,7 @@ private:
                                      "der Text wird nach {} Zeichen abgeschnitten"),
                          {std::to_string(room)}));
         if (isAddress(parameter.row()) && !isAddressText(text))
-            add(at, fill(context.say("'{}' is no address", "'{}' ist keine Adresse"), {printable(text)}));
+            add(at, fill(context.say("'{}' is not an address", "'{}' ist keine Adresse"), {printable(text)}));
     }
 
     // Characters of the answer when every value is as short as can be.

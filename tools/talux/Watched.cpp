@@ -135,9 +135,10 @@ Condition::Condition(const std::string& text, const Context& context) : relation
         for (const Parameter* bearer : meaning.bearers)
             if (!number && bearer == what.parameter) number = meaning.choice.number;
     if (!number)
-        throw CouldNot(fill(context.say("'{}': {} is no number with a decimal point and no choice of {}",
-                                        "'{}': {} ist keine Zahl mit Dezimalpunkt und keine Auswahl von {}"),
-                            {printable(text), printable(right), what.label}));
+        throw CouldNot(
+            fill(context.say("'{}': {} is neither a number with a decimal point nor a choice of {}",
+                             "'{}': {} ist keine Zahl mit Dezimalpunkt und keine Auswahl von {}"),
+                 {printable(text), printable(right), what.label}));
     limit = *number;
 }
 

@@ -151,7 +151,7 @@ void demandInterfaces(const Writes& writes, const Context& context) {
         const int type = write.parameter->row().type;
         if (type != kTypeIpAddress && type != kTypeIpMask && type != kTypeIpGateway)
             throw CouldNot(
-                fill(context.say("{}: is no address, netmask or gateway of an interface",
+                fill(context.say("{}: is not an address, netmask or gateway of an interface",
                                  "{}: ist weder Adresse noch Netzmaske noch Gateway einer Schnittstelle"),
                      {write.label()}));
     }
@@ -232,7 +232,7 @@ bool takeAddressBack(bool applies, const Context& context) {
 void addAddress(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
     Subcommand command(line, "address",
-                       {"change an address that returns unless confirmed",
+                       {"change an address; the old one returns unless this is confirmed",
                         "Adresse ändern, die ohne Bestätigung zurückkehrt"});
     command
         .argument({"NAME=VALUE", "NAME=WERT"}, options->assignments,

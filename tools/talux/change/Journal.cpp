@@ -139,7 +139,8 @@ std::optional<Journal> Journal::read(const std::string& path, const Context& con
     }
     if (isWhole) return journal;
     throw CouldNot(fill(
-        context.say("{}: is no whole record of a change", "{}: ist kein ganzes Änderungsprotokoll"), {path}));
+        context.say("{}: is not a complete record of a change", "{}: ist kein ganzes Änderungsprotokoll"),
+        {path}));
 }
 
 std::string Journal::text(const Context& context) const {

@@ -99,9 +99,9 @@ std::string textObjection(const Parameter& parameter, const Value& value, const 
                     {std::to_string(width(text)), std::to_string(most)});
     if (!isUtf8(text)) return context.say("the text is not UTF-8", "der Text ist nicht UTF-8");
     if (isAddress(parameter.row()) && !isAddressText(text))
-        return fill(context.say("'{}' is no address", "'{}' ist keine Adresse"), {printable(text)});
+        return fill(context.say("'{}' is not an address", "'{}' ist keine Adresse"), {printable(text)});
     if (parameter.row().type == kTypeIpMask && !isNetmask(text))
-        return fill(context.say("'{}' is no netmask", "'{}' ist keine Netzmaske"), {printable(text)});
+        return fill(context.say("'{}' is not a netmask", "'{}' ist keine Netzmaske"), {printable(text)});
     const auto finding = wouldNotComeBack(parameter, value, context);
     return finding ? finding->text : "";
 }
@@ -129,7 +129,7 @@ std::string objection(const Parameter& parameter, const Value& value, const Cont
         return fill(context.say("{} is out of range: {}", "{} liegt außerhalb: {}"),
                     {plain(parameter, value), range(parameter, context.language)});
     if (parameter.type().fileDecimals == 0 && kept->number() != value.number())
-        return fill(context.say("{} is no whole number", "{} ist keine ganze Zahl"),
+        return fill(context.say("{} is not a whole number", "{} ist keine ganze Zahl"),
                     {reference::shortNumber(value.number())});
     return {};
 }
@@ -160,7 +160,7 @@ std::optional<std::string> Plan::number(const Parameter& parameter, std::string_
         numbers.size() > 1 ? context.say("'{}' stands for several choices, give the number",
                                          "'{}' heißt mehr als eine Auswahl, die Nummer ist nötig")
         : parameter.type().kind == Kind::Enum ? context.say("has no choice '{}'", "hat keine Auswahl '{}'")
-                                              : context.say("'{}' is no number", "'{}' ist keine Zahl"),
+                                              : context.say("'{}' is not a number", "'{}' ist keine Zahl"),
         {printable(text)});
     if (text.find(',') != text.npos)
         reason += context.say("; decimals need a point", "; Dezimalen brauchen einen Punkt");
