@@ -232,7 +232,7 @@ bool takeAddressBack(bool applies, const Context& context) {
 void addAddress(CommandLine& line, Commands& commands) {
     const auto options = std::make_shared<Options>();
     Subcommand command(line, "address",
-                       {"change an address; the old one returns unless this is confirmed",
+                       {"change an address; undone unless it is confirmed",
                         "Adresse ändern, die ohne Bestätigung zurückkehrt"});
     command
         .argument({"NAME=VALUE", "NAME=WERT"}, options->assignments,
