@@ -114,62 +114,50 @@ void write(Set set, int id, const Value& value) {
         set(id, static_cast<typename AccessorsOf<Value>::Raw>(value));
 }
 
-// What a write may set.
-struct Limits {
-    double min, max;
-};
-
-// A float that is the nearest one to its limit is inside, though the limit itself may have no float.
-constexpr Result checkFloat(double value, Limits limits) {
-    const double least = static_cast<float>(limits.min), most = static_cast<float>(limits.max);
-    if (value != value) return Reason::notANumber;
-    if (value < limits.min && value < least) return {Reason::tooLow, limits.min, limits.max};
-    if (value > limits.max && value > most) return {Reason::tooHigh, limits.min, limits.max};
-    return {};
-}
-
-template <class Integer>
-constexpr Result checkInteger(Integer value, Limits limits) {
-    if (std::cmp_less(value, static_cast<long long>(limits.min)))
-        return {Reason::tooLow, limits.min, limits.max};
-    if (std::cmp_greater(value, static_cast<long long>(limits.max)))
-        return {Reason::tooHigh, limits.min, limits.max};
-    return {};
+// A float that is the nearest one to a limit means the limit, which may have no float.
+constexpr double meant(double value, const rules::Facts& facts) {
+    if (value < facts.min && value >= static_cast<double>(static_cast<float>(facts.min))) return facts.min;
+    if (value > facts.max && value <= static_cast<double>(static_cast<float>(facts.max))) return facts.max;
+    return value;
 }
 
 // Whether a setting of this type takes what is given without a change of its own.
 template <class Value, class Given>
-constexpr Result check(Given given, Limits limits) {
+[[gnu::always_inline]] constexpr Result check(Given given, const rules::Facts& facts) {
+    double number = 0;
     if constexpr (std::is_enum_v<Value>) {
         static_assert(std::is_same_v<Given, Value>, "the setting takes one of its choices");
-        return checkInteger(static_cast<short>(given), limits);
+        number = static_cast<short>(given);
     } else if constexpr (std::is_same_v<Value, bool>) {
         static_assert(std::is_same_v<Given, bool>, "the setting takes true or false");
-        return {};
+        number = given;
     } else if constexpr (std::is_floating_point_v<Value>) {
         static_assert(std::is_arithmetic_v<Given> && !std::is_same_v<Given, bool>,
                       "the setting takes a number");
-        return checkFloat(static_cast<double>(given), limits);
+        number = meant(static_cast<double>(given), facts);
     } else {
         static_assert(std::is_integral_v<Given> && !std::is_same_v<Given, bool>,
                       "the setting takes a whole number");
-        return checkInteger(given, limits);
+        number = static_cast<double>(given);
     }
+    return {rules::check(facts, number), facts};
 }
 
-// Copies a text of at most `most` characters of UTF-8.
+// Copies a text that nothing speaks against.
 template <class Value>
-Result copyText(std::string_view from, double most, Value& to) {
-    int characters = 0;
-    for (const char c : from) {
-        if (c == '\0') return Reason::holdsNul;
-        if (c == '"' || c == '=' || static_cast<unsigned char>(c) < ' ') return Reason::notCarried;
-        if ((static_cast<unsigned char>(c) & 0xC0U) != 0x80U) ++characters;
-    }
-    if (characters > most || from.size() > Value::kRoom) return {Reason::tooLong, 0.0, most};
+Result copyText(std::string_view from, const rules::Facts& facts, Value& to) {
+    const rules::Objection objection = rules::check(facts, from);
+    if (objection) return {objection, facts};
     std::memcpy(to.data(), from.data(), from.size());
     to.data()[from.size()] = '\0';
     return {};
+}
+
+// Longest text that a value holds.
+template <class Value>
+constexpr int roomOf() {
+    if constexpr (kIsText<Value>) return static_cast<int>(Value::kRoom);
+    return 0;
 }
 
 } // namespace detail
@@ -223,7 +211,9 @@ public:
     }
     Result set(std::string_view text) const requires(detail::kIsText<Value>) {
         Value value;
-        const Result result = detail::copyText(text, length, value);
+        const Result result = detail::copyText(
+            text, {.form = rules::Form::text, .characters = length, .bytes = static_cast<int>(Value::kRoom)},
+            value);
         if (result) set(value);
         return result.of(first);
     }
@@ -300,9 +290,9 @@ public:
     }
 
     // Nothing is stored when the value is refused: outside the range or the choices, a text that is too long
-    // or that no file can restore, a read-only parameter.
+    // or that no file can restore, an address or netmask that is none, a read-only parameter.
     template <class Given>
-    Result stage(Given value) const requires(!detail::kIsText<Value>) {
+    [[gnu::always_inline]] Result stage(Given value) const requires(!detail::kIsText<Value>) {
         const Result result = check(value);
         if (result) detail::write(detail::AccessorsOf<Value>::setStaged, place, static_cast<Value>(value));
         return result;
@@ -327,26 +317,23 @@ public:
 
     // What stage() would answer.
     template <class Given>
-    [[nodiscard]] constexpr Result check(Given value) const requires(!detail::kIsText<Value>) {
-        if (readOnly) return Result(Reason::readOnly).of(place);
-        return detail::check<Value>(value, limits).of(place, static_cast<double>(value));
+    [[nodiscard, gnu::always_inline]] constexpr Result check(Given value) const
+        requires(!detail::kIsText<Value>) {
+        return detail::check<Value>(value, facts).of(place, static_cast<double>(value));
     }
     Result check(std::string_view text, Value& value) const requires(detail::kIsText<Value>) {
-        return (readOnly ? Result(Reason::readOnly) : detail::copyText(text, limits.max, value)).of(place);
+        return detail::copyText(text, facts, value).of(place);
     }
 
 private:
     int place;
-    bool readOnly;
-    detail::Limits limits;
+    rules::Facts facts;
 
     template <class>
     friend class Series;
-    constexpr Setting(int id, bool isStatus, detail::Limits range)
-        : place(id), readOnly(isStatus), limits(range) {}
+    constexpr Setting(int id, const rules::Facts& known) : place(id), facts(known) {}
     constexpr explicit Setting(const table::Row& tableRow)
-        : place(tableRow.id),
-          readOnly(tableRow.use == table::Use::status), limits{tableRow.min, tableRow.max} {}
+        : place(tableRow.id), facts(table::factsOf(tableRow, detail::roomOf<Value>())) {}
 };
 
 // Settings whose names differ in their number, BAassign1, BAassign2 ..; counted from 1.
@@ -361,8 +348,7 @@ public:
             if (place == table::kNoRow) break;
             const Setting<Value> each(table::resolve<Value>(table::kRows[place].name, false));
             if (count == 0) first = each;
-            if (each.limits.min != first.limits.min || each.limits.max != first.limits.max ||
-                each.readOnly != first.readOnly || count == kMost)
+            if (!(each.facts == first.facts) || count == kMost)
                 table::stop(table::mistake.its_settings_are_no_series);
             ids[static_cast<std::size_t>(count)] = static_cast<std::uint16_t>(each.id());
         }
@@ -374,12 +360,12 @@ public:
     // Of a number outside 1 to size() the nearest one.
     [[nodiscard]] constexpr Setting<Value> operator[](int number) const {
         const int near = number < 1 ? 1 : number > count ? count : number;
-        return {ids[static_cast<std::size_t>(near - 1)], first.readOnly, first.limits};
+        return {ids[static_cast<std::size_t>(near - 1)], first.facts};
     }
 
 private:
     int count = 0;
-    Setting<Value> first{0, false, {}};
+    Setting<Value> first{0, {}};
     std::array<std::uint16_t, kMost> ids{};
 };
 

@@ -135,6 +135,20 @@ constexpr const Row& resolve(std::string_view name, bool measured) {
     return row;
 }
 
+// What the rules need to know. `bytes`: room of a text.
+constexpr rules::Facts factsOf(const Row& row, int bytes) {
+    using rules::Form;
+    constexpr Form kForms[] = {Form::number, Form::number, Form::whole, Form::whole,  Form::whole,
+                               Form::choice, Form::text,   Form::text,  Form::address};
+    const bool isText = row.kind >= Kind::text;
+    return {.form = row.form != Form::none ? row.form : kForms[static_cast<int>(row.kind)],
+            .isReadOnly = row.use == Use::status,
+            .min = row.min,
+            .max = row.max,
+            .characters = isText ? static_cast<int>(row.max) : rules::kAnyLength,
+            .bytes = bytes};
+}
+
 constexpr void expectIndex(const Row& row, int index) {
     if (row.elements == 0) stop(mistake.it_has_no_index);
     if (index < 1 || index > row.elements) stop(mistake.the_index_is_outside_its_range);

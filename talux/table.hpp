@@ -3,7 +3,7 @@
 #ifndef TALUX_TABLE_HPP
 #define TALUX_TABLE_HPP
 
-#include "ParamSystem/TALUX_Params.h"
+#include "ParamSystem/rules/Rules.h"
 
 namespace talux::table {
 
@@ -39,6 +39,7 @@ struct Row {
     short choices = 0;   // which list of choices
     double min = kNoMin; // what may be staged; of a text 0 and its longest length in characters
     double max = kNoMax;
+    rules::Form form = rules::Form::none; // where it is stricter than that of the kind
 };
 
 // The factory default of a setting.

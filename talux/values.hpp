@@ -48,25 +48,22 @@ using Address = StoredText<table::Kind::address>;
 // A choice whose texts are not all known; talux::choice has the others.
 enum class Choice : short {};
 
-enum class Reason : unsigned char {
-    none,
-    tooLow,
-    tooHigh,
-    notANumber,
-    tooLong,
-    holdsNul,
-    notCarried, // a double quote, an equals sign, a line end: no parameter file brings them back
-    readOnly,
-    tooMany, // settings in one change
-    notSaved,
-    notLoaded,
-};
+namespace detail {
+
+constexpr bool isRange(Reason reason) {
+    return reason == Reason::tooLow || reason == Reason::tooHigh || reason == Reason::noChoice;
+}
+
+} // namespace detail
 
 // The result of a write: true if it was done.
 class [[nodiscard]] Result {
 public:
     constexpr Result() = default;
     constexpr Result(Reason why, double min = 0.0, double max = 0.0) : cause(why), low(min), high(max) {}
+    constexpr Result(const rules::Objection& objection, const rules::Facts& facts)
+        : Result(objection.reason == Reason::tooManyBytes ? Reason::tooLong : objection.reason, facts.least(),
+                 detail::isRange(objection.reason) ? facts.most() : objection.limit) {}
 
     constexpr explicit operator bool() const { return cause == Reason::none; }
     [[nodiscard]] constexpr Reason reason() const { return cause; }
@@ -131,20 +128,35 @@ constexpr std::string_view wordsOf(Reason reason) {
     switch (reason) {
     case Reason::none:
         break;
+    case Reason::readOnly:
+        return "VARIABLE IS READ ONLY";
+    case Reason::noValue:
+        return "NO VALUE IS KEPT";
+    case Reason::noNumber:
+    case Reason::notANumber:
+        return "NOT A NUMBER";
     case Reason::tooLow:
+    case Reason::noChoice:
         return "VALUE TOO LOW";
     case Reason::tooHigh:
         return "VALUE TOO HIGH";
-    case Reason::notANumber:
-        return "NOT A NUMBER";
-    case Reason::tooLong:
-        return "TEXT TOO LONG";
+    case Reason::notWhole:
+        return "NOT A WHOLE NUMBER";
     case Reason::holdsNul:
         return "TEXT WITH A NUL";
     case Reason::notCarried:
         return "A FILE CANNOT CARRY THE TEXT";
-    case Reason::readOnly:
-        return "VARIABLE IS READ ONLY";
+    case Reason::tooLong:
+    case Reason::tooManyBytes:
+        return "TEXT TOO LONG";
+    case Reason::noAddress:
+        return "NO ADDRESS";
+    case Reason::noNetmask:
+        return "NO NETMASK";
+    case Reason::noDate:
+        return "NO DATE";
+    case Reason::noTime:
+        return "NO TIME";
     case Reason::tooMany:
         return "TOO MANY SETTINGS IN ONE CHANGE";
     case Reason::notSaved:
@@ -175,7 +187,7 @@ inline Text Result::text() const {
     Text text;
     detail::Writer writer(text.data());
     const stParamProperties* const row = parameter > 0 ? GetParamProperties(parameter) : nullptr;
-    const bool isRange = cause == Reason::tooLow || cause == Reason::tooHigh;
+    const bool isRange = detail::isRange(cause);
     if (row != nullptr) {
         writer.put(row->name);
         if (isRange) {

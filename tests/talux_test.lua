@@ -32,13 +32,13 @@ end
 local function permitted(row)
   local kind, least, most = row.kind, row.min or -999999999, row.max or 999999999
   if row.length then
-    if kind:find "address" or kind:find "gateway" then
+    if row.form == "address" then
       local address = ("%d.%d.%d.%d"):format(random(0, 255), random(0, 255), random(0, 255), random(0, 255))
       return address, address
     end
-    if kind:find "mask" then return "255.255.240.0", "255.255.240.0" end
+    if row.form == "netmask" then return "255.255.240.0", "255.255.240.0" end
     local characters = {}
-    for k = 1, random(0, math.min(row.length, 120 - #row.name)) do characters[k] = ("aZ09 .;#/'<>\\\195\164%%-"):sub(random(18), -1):sub(1, 1) end
+    for k = 1, random(0, math.min(row.length, row.bytes)) do characters[k] = ("aZ09 .;#/'<>\\\195\164%%-"):sub(random(18), -1):sub(1, 1) end
     return table.concat(characters), table.concat(characters)
   end
   if kind == "bool" then
@@ -67,11 +67,10 @@ local function forbidden(row)
                              ["\n"] = "A CONTROL CHARACTER", ["\0"] = "A CONTROL CHARACTER"} do
       add("x" .. sign .. "system touch /canary", "A LINE CANNOT CARRY " .. name)
     end
-    local room = 120 - #row.name
-    local characters, sign = math.min(row.length, room) + 1, row.length > room and "x" or "ä"
-    add(sign:rep(characters), row.length > room and ("TEXT TOO LONG (%d bytes, at most %d in a line)"):format(characters, room)
+    local characters, sign = math.min(row.length, row.bytes) + 1, row.length > row.bytes and "x" or "ä"
+    add(sign:rep(characters), row.length > row.bytes and ("TEXT TOO LONG (%d bytes, at most %d)"):format(characters, row.bytes)
       or ("TEXT TOO LONG (%d characters, at most %d)"):format(characters, row.length))
-    for _, address in ipairs(row.kind == "address" and {"", "1.2.3", "1.2.3.256", "01.2.3.4", "hello", "1.2.3.4 "} or {}) do
+    for _, address in ipairs(row.form == "address" and {"", "1.2.3", "1.2.3.256", "01.2.3.4", "hello", "1.2.3.4 "} or {}) do
       add(address, "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)")
     end
   else

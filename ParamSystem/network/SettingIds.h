@@ -5,18 +5,44 @@
 
 namespace talux::network {
 
-extern const int kChannel, kEssid, kKey, kRate, kWlan0Type;
-extern const int kEth1Active, kWlan0Active;
-extern const int kEth0Address, kEth0Netmask, kEth0Gateway;
-extern const int kEth1Address, kEth1Netmask, kEth1Gateway;
-extern const int kWlan0Address, kWlan0Netmask, kWlan0Gateway;
-extern const int kDns, kTimeZone, kNtp1, kNtp2, kNtpRtc, kDcf77Active;
-
-// Of the telecontrol link: its interface, and of the first of its aliases. The ids of the next are
+// Each with its constant. Of the aliases of the telecontrol link the first: the ids of the next are
 // kIdsPerAlias higher.
-extern const int kT104Ethernet;
-extern const int kT104Address1, kT104Netmask1, kT104Gateway1;
+#define TALUX_NETWORK_SETTINGS(SETTING)                                                                      \
+    SETTING(kChannel, "channel")                                                                             \
+    SETTING(kEssid, "essid")                                                                                 \
+    SETTING(kKey, "key")                                                                                     \
+    SETTING(kRate, "rate")                                                                                   \
+    SETTING(kWlan0Type, "VarSetWLAN0TypeDev")                                                                \
+    SETTING(kEth1Active, "eth1_active")                                                                      \
+    SETTING(kWlan0Active, "wlan0_active")                                                                    \
+    SETTING(kEth0Address, "ETH0_IP")                                                                         \
+    SETTING(kEth0Netmask, "ETH0_MASK")                                                                       \
+    SETTING(kEth0Gateway, "ETH0_GATEWAY")                                                                    \
+    SETTING(kEth1Address, "ETH1_IP")                                                                         \
+    SETTING(kEth1Netmask, "ETH1_MASK")                                                                       \
+    SETTING(kEth1Gateway, "ETH1_GATEWAY")                                                                    \
+    SETTING(kWlan0Address, "WLAN0_IP")                                                                       \
+    SETTING(kWlan0Netmask, "WLAN0_MASK")                                                                     \
+    SETTING(kWlan0Gateway, "WLAN0_GATEWAY")                                                                  \
+    SETTING(kDns, "DNS")                                                                                     \
+    SETTING(kTimeZone, "TIMEZONE")                                                                           \
+    SETTING(kNtp1, "NTP1")                                                                                   \
+    SETTING(kNtp2, "NTP2")                                                                                   \
+    SETTING(kNtpRtc, "NTP_RTC")                                                                              \
+    SETTING(kDcf77Active, "DCF77_activ")                                                                     \
+    SETTING(kT104Ethernet, "T104_ethernet")                                                                  \
+    SETTING(kT104Address1, "T104_ETH_IP_1")                                                                  \
+    SETTING(kT104Netmask1, "T104_ETH_MA_1")                                                                  \
+    SETTING(kT104Gateway1, "T104_ETH_GW_1")
+
+#define TALUX_DECLARE(constant, name) extern const int constant;
+TALUX_NETWORK_SETTINGS(TALUX_DECLARE)
+#undef TALUX_DECLARE
+
 inline constexpr int kAliasCount = 4, kIdsPerAlias = 4;
+
+// Whether applying the network settings hands this one to the operating system.
+bool reachesSystem(int id);
 
 } // namespace talux::network
 

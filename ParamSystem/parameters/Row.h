@@ -26,6 +26,7 @@
 #include "ParamSystem/TALUX_Params.h"
 #include "ParamSystem/dictionary/SourceLine.h"
 #include "ParamSystem/parameters/Traits.h"
+#include "ParamSystem/rules/Facts.h"
 
 namespace talux::parameters {
 
@@ -89,6 +90,7 @@ struct Row {
     const char* unit = "";
     Place of{};
     unsigned is = 0;
+    Form form = Form::none; // of the value
     Effect effect = kNoEffect;
     Texts texts{};
     Where where{};
@@ -98,6 +100,7 @@ constexpr Row plainRow(int id, const char* name, int type, unsigned is, Where wh
     Row row;
     row.where = where;
     row.is = is;
+    row.form = rules::formOf(typeOf(type));
     for (const char* c = name; *c != '\0'; ++c)
         if (*c == '{') row.series = Row::kNamed;
     row.properties = {.id = id,
@@ -269,6 +272,7 @@ struct Text {
     int length = kNoLength;
     const char* def = "";
     const char* init = nullptr; // the default where nothing else is said
+    Form form = kOfItsType;
     Place of{};
     unsigned is = 0;
 };
@@ -279,6 +283,7 @@ constexpr Row textual(int id, const char* name, int type, const Text& facts, con
     row.properties.val_len = facts.length;
     row.properties.val_def_text = facts.def;
     row.properties.val_init_text = facts.init != nullptr ? facts.init : facts.def;
+    if (facts.form != kOfItsType) row.form = facts.form;
     row.of = facts.of;
     return saying(row, words);
 }

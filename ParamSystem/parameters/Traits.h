@@ -2,7 +2,13 @@
 #ifndef TALUX_PARAMETERS_TRAITS_H
 #define TALUX_PARAMETERS_TRAITS_H
 
+#include "ParamSystem/rules/Rules.h"
+
 namespace talux::parameters {
+
+// Of a text or an address whose form is stricter than that of its type.
+using rules::Form;
+inline constexpr Form kOfItsType = Form::none, kNetmask = Form::netmask;
 
 // Combined with |.
 enum Trait : unsigned {

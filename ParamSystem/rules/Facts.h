@@ -16,6 +16,7 @@ constexpr Form formOf(const Type& type) {
     case Nature::number:
         return type.kind == Kind::Float || type.kind == Kind::Double ? Form::number
                : type.kind == Kind::Enum                             ? Form::choice
+               : type.kind == Kind::Bool                             ? Form::flag
                                                                      : Form::whole;
     case Nature::text:
         return Form::text;

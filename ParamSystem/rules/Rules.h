@@ -5,7 +5,6 @@
 #ifndef TALUX_RULES_RULES_H
 #define TALUX_RULES_RULES_H
 
-#include <algorithm>
 #include <climits>
 #include <concepts>
 #include <optional>
@@ -24,7 +23,7 @@ enum class Reason : unsigned char {
     notANumber, // NaN
     tooLow,
     tooHigh,
-    noChoice, // choices count from 1, also where the row has no minimum
+    noChoice, // choices count from 1, a switch is 0 or 1, also where the row has no limits
     notWhole,
     holdsNul,
     notCarried,   // a double quote, an equals sign, a control character: no parameter file brings them back
@@ -34,7 +33,9 @@ enum class Reason : unsigned char {
     noNetmask,
     noDate,
     noTime,
-    tooMany, // settings in one change
+    tooMany, // settings in one change; this one and the next are not about a value
+    notSaved,
+    notLoaded,
 };
 
 namespace rules {
@@ -45,6 +46,7 @@ enum class Form : unsigned char {
     number,
     whole,
     choice,
+    flag,
     text,
     address, // four numbers from 0 to 255 with points between them, without leading zeros
     netmask, // an address that is ones before zeros
@@ -62,7 +64,11 @@ struct Facts {
     int characters = kAnyLength;       // longest text that is intended
     int bytes = kAnyLength;            // longest text that whoever asks can keep
 
-    constexpr double least() const { return form == Form::choice && min == kNoMin ? 1 : min; }
+    bool operator==(const Facts&) const = default;
+    constexpr double least() const {
+        return min != kNoMin ? min : form == Form::choice ? 1 : form == Form::flag ? 0 : min;
+    }
+    constexpr double most() const { return form == Form::flag && max == kNoMax ? 1 : max; }
 };
 
 class Reasons {
@@ -154,12 +160,16 @@ constexpr bool isTime(std::string_view text) {
 
 // Characters of UTF-8.
 constexpr int charactersIn(std::string_view text) {
-    return static_cast<int>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+    int count = 0;
+    for (const char c : text)
+        count += (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
+    return count;
 }
 
-constexpr bool isCarried(char c) {
-    return c != '"' && c != '=' && static_cast<unsigned char>(c) >= ' ';
+constexpr bool isCarried(std::string_view text) {
+    for (const char c : text)
+        if (c == '"' || c == '=' || static_cast<unsigned char>(c) < ' ') return false;
+    return true;
 }
 
 constexpr bool isWhole(double number) {
@@ -170,51 +180,66 @@ constexpr bool isWhole(double number) {
 
 // ---- Check --------------------------------------------------------------------------------------------
 
-struct Rule {
-    Reason reason;
-    bool isBroken;
-    double limit = 0;
-};
+// Finds the first of the reasons asked for that speaks against a value. No loop: what is known while
+// compiling costs nothing, nor does what nobody asked for.
+class First {
+public:
+    constexpr explicit First(Reasons reasons) : asked(reasons) {}
 
-// Without a loop: where the reasons are constant, nothing is computed that nobody asked for.
-constexpr Objection firstBroken(Reasons asked, const std::same_as<Rule> auto&... rules) {
-    Objection found;
-    const auto isFound = [&](const Rule& rule) {
-        if (!asked.has(rule.reason) || !rule.isBroken) return false;
-        found = {rule.reason, rule.limit};
-        return true;
-    };
-    static_cast<void>((... || isFound(rules)));
-    return found;
-}
+    constexpr First& where(bool isBroken, Reason reason, double limit = 0) {
+        if (!objection && isBroken && asked.has(reason)) objection = {reason, limit};
+        return *this;
+    }
+    constexpr operator Objection() const { return objection; }
+
+private:
+    Reasons asked;
+    Objection objection;
+};
 
 // The first of the reasons asked for that speaks against a number, if any. `number`: none for a text that is
 // none.
-constexpr Objection check(const Facts& facts, std::optional<double> number, Reasons asked = Reasons::all()) {
+[[gnu::always_inline]] constexpr Objection check(const Facts& facts, std::optional<double> number,
+                                                 Reasons asked = Reasons::all()) {
     const double value = number.value_or(0);
-    return firstBroken(asked, Rule{Reason::readOnly, facts.isReadOnly},
-                       Rule{Reason::noValue, facts.form == Form::none}, Rule{Reason::noNumber, !number},
-                       Rule{Reason::notANumber, value != value},
-                       Rule{Reason::tooLow, !(value >= facts.min), facts.min},
-                       Rule{Reason::tooHigh, !(value <= facts.max), facts.max},
-                       Rule{Reason::noChoice, !(value >= facts.least()), facts.least()},
-                       Rule{Reason::notWhole, facts.form != Form::number && !isWhole(value)});
+    const bool isNumber = number && value == value;
+    return First(asked)
+        .where(facts.isReadOnly, Reason::readOnly)
+        .where(facts.form == Form::none, Reason::noValue)
+        .where(!number, Reason::noNumber)
+        .where(number && !isNumber, Reason::notANumber)
+        .where(isNumber && !(value >= facts.min), Reason::tooLow, facts.min)
+        .where(isNumber && !(value <= facts.max), Reason::tooHigh, facts.max)
+        .where(isNumber && value >= facts.min && value < facts.least(), Reason::noChoice, facts.least())
+        .where(isNumber && value <= facts.max && value > facts.most(), Reason::noChoice, facts.most())
+        .where(isNumber && facts.form != Form::number && !isWhole(value), Reason::notWhole);
 }
 
 // The same of a text.
 constexpr Objection check(const Facts& facts, std::string_view text, Reasons asked = Reasons::all()) {
     const bool isMask = facts.form == Form::netmask;
-    const auto isAll = [text](auto holds) { return std::all_of(text.begin(), text.end(), holds); };
-    return firstBroken(
-        asked, Rule{Reason::readOnly, facts.isReadOnly}, Rule{Reason::noValue, facts.form == Form::none},
-        Rule{Reason::holdsNul, !isAll([](char c) { return c != '\0'; })},
-        Rule{Reason::notCarried, !isAll(isCarried)},
-        Rule{Reason::tooLong, charactersIn(text) > facts.characters, double(facts.characters)},
-        Rule{Reason::tooManyBytes, text.size() > std::size_t(facts.bytes), double(facts.bytes)},
-        Rule{Reason::noAddress, (isMask || facts.form == Form::address) && !addressIn(text)},
-        Rule{Reason::noNetmask, isMask && !isNetmask(text)},
-        Rule{Reason::noDate, facts.form == Form::date && !isDate(text)},
-        Rule{Reason::noTime, facts.form == Form::time && !isTime(text)});
+    const bool isAddress = addressIn(text).has_value();
+    return First(asked)
+        .where(facts.isReadOnly, Reason::readOnly)
+        .where(facts.form == Form::none, Reason::noValue)
+        .where(text.find('\0') != text.npos, Reason::holdsNul)
+        .where(!isCarried(text), Reason::notCarried)
+        .where(charactersIn(text) > facts.characters, Reason::tooLong, static_cast<double>(facts.characters))
+        .where(text.size() > static_cast<std::size_t>(facts.bytes), Reason::tooManyBytes,
+               static_cast<double>(facts.bytes))
+        .where((isMask || facts.form == Form::address) && !isAddress, Reason::noAddress)
+        .where(isMask && isAddress && !isNetmask(text), Reason::noNetmask)
+        .where(facts.form == Form::date && !isDate(text), Reason::noDate)
+        .where(facts.form == Form::time && !isTime(text), Reason::noTime);
+}
+
+// Calls each(objection) for all of the reasons asked for that speak against a number or a text.
+template <class Given, class Each>
+constexpr void forEachObjection(const Facts& facts, const Given& given, Reasons asked, Each each) {
+    for (auto reason = Reason::readOnly; reason < Reason::tooMany;
+         reason = static_cast<Reason>(static_cast<int>(reason) + 1))
+        if (asked.has(reason))
+            if (const Objection objection = check(facts, given, {reason})) each(objection);
 }
 
 } // namespace rules

@@ -25,7 +25,6 @@ local function numberOf(row, text)
   return text:find "^%s*[-+]?%.?%d[%d.eE+-]*%s*$" and numbers.read(text), "NOT A NUMBER"
 end
 
-
 local function checkNumber(row, value)
   if type(value) == "boolean" and row.kind == "bool" then value = value and 1 or 0 end
   if type(value) == "string" then
@@ -67,14 +66,11 @@ local function isTime(text)
   return hour and tonumber(hour) < 24 and tonumber(minute) < 60 and tonumber(second) < 60
 end
 
-local address = {isAddress, "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)"}
 local forms = {
-  address = address,
-  ["interface address"] = address,
-  ["interface gateway"] = address,
-  ["interface netmask"] = {isMask, "NO NETMASK (ones before zeros as in 255.255.255.0)"},
-  ["date of the clock"] = {isDate, "NO DATE (as 2024-05-17)"},
-  ["time of the clock"] = {isTime, "NO TIME (as 10:20:30)"},
+  address = {isAddress, "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)"},
+  netmask = {isMask, "NO NETMASK (ones before zeros as in 255.255.255.0)"},
+  date = {isDate, "NO DATE (as 2024-05-17)"},
+  time = {isTime, "NO TIME (as 10:20:30)"},
 }
 local signs = {[","] = "A COMMA", ["="] = "AN EQUALS SIGN", ['"'] = "A DOUBLE QUOTE"}
 
@@ -84,14 +80,13 @@ local signs = {[","] = "A COMMA", ["="] = "AN EQUALS SIGN", ['"'] = "A DOUBLE QU
 ---@return string? quoted
 ---@return string? reason
 function checks.carried(row, text)
-  local odd = text:match '[,="%c]'
+  local odd = text:match '[,="%z\1-\31]'
   if odd then return nil, "A LINE CANNOT CARRY " .. (signs[odd] or "A CONTROL CHARACTER") end
   local characters = select(2, text:gsub("[^\128-\191]", ""))
-  local room = 120 - #row.name -- 127 bytes of a term, less TLX_, name, = and quotes
   if characters > row.length then
     return nil, ("TEXT TOO LONG (%d characters, at most %d)"):format(characters, row.length)
-  elseif #text > room then
-    return nil, ("TEXT TOO LONG (%d bytes, at most %d in a line)"):format(#text, room)
+  elseif #text > row.bytes then
+    return nil, ("TEXT TOO LONG (%d bytes, at most %d)"):format(#text, row.bytes)
   end
   return '"' .. text .. '"'
 end
@@ -100,7 +95,7 @@ local function checkText(row, value)
   if type(value) ~= "string" then return nil, "NOT A TEXT" end
   local quoted, reason = checks.carried(row, value)
   if not quoted then return nil, reason end
-  local form = forms[row.kind]
+  local form = forms[row.form]
   if form and not form[1](value) then return nil, form[2] end
   return quoted, value
 end

@@ -8,7 +8,9 @@ local dictionary = {}
 ---@field unit? string
 ---@field min? number
 ---@field max? number
----@field length? integer longest text in bytes
+---@field length? integer longest text in characters
+---@field bytes? integer and in bytes, which the slot keeps and a line carries
+---@field form? "address"|"netmask"|"date"|"time" of a text
 ---@field first? integer first and last element of an indexed parameter
 ---@field last? integer
 ---@field default? number|string factory default of a setting
@@ -46,7 +48,7 @@ function dictionary.place(row) return places[row] end
 ---Whether a parameter is the clock's, whatever is stored: Date and Time.
 ---@param row talux.Row
 ---@return boolean
-function dictionary.isClock(row) return row.kind:find("of the clock", 1, true) ~= nil end
+function dictionary.isClock(row) return row.form == "date" or row.form == "time" end
 
 ---Titles, descriptions, choices and notes by the name of the parameter.
 ---@param language "de"|"en"

@@ -60,7 +60,8 @@ struct Wrong {
     const char* row = subject; // that is named
 };
 
-constexpr char kRange[] = "default lies outside", kLevel[] = "takes user level 3, any other setting 1";
+constexpr char kRange[] = "the default is out of range: ",
+               kLevel[] = "takes user level 3, any other setting 1";
 constexpr char kTemplate[] = "template is of another kind or range",
                kUntidy[] = "blanks at an end or two in a";
 constexpr char kNumbers[] = "from a number to a number", kSeries[] = "REL{1..8}";
@@ -91,7 +92,9 @@ const Wrong kWrong[] = {
     {"Modbustime_reg", kRange, [](Data& d) { d["Modbustime_reg"].val_def = 28000; }},
     {"Uearth", kRange, [](Data& d) { d["Uearth"].val_def = 0.5; }},
     {"Uearth", "names its method", [](Data& d) { d.row("Uearth").of = {}; }},
-    {"Kenn", "longer than the text may be", [](Data& d) { d["Kenn"].val_def_text = "ABCD"; }},
+    {"Kenn", "the default has more than 3 characters", [](Data& d) { d["Kenn"].val_def_text = "ABCD"; }},
+    {"DNS", "the default is not an address", [](Data& d) { d["DNS"].val_def_text = "8.8.8.08"; }},
+    {"FW_ETH0_MASK", "the default is not a netmask", [](Data& d) { d["FW_ETH0_MASK"].val_def_text = "255.0.255.0"; }},
     {"ro_pin_active", kLevel, [](Data& d) { d["ro_pin_active"].userlevel = 1; }},
     {"Name", kLevel, [](Data& d) { d["Name"].userlevel = 2; }},
     {"Logbook", "the user level is 1, 2 or 3", [](Data& d) { d["Logbook"].userlevel = 4; }},

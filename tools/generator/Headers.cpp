@@ -118,7 +118,7 @@ std::string_view kindOf(const Parameter& parameter) {
 
 std::string_view useOf(const Parameter& parameter) {
     if (parameter.row().is_volatile != 0) return "measured";
-    return parameter.row().val_access == kReadOnly ? "status" : "setting";
+    return parameter.facts().isReadOnly ? "status" : "setting";
 }
 
 // The ids of the scalars that are measured.
@@ -146,9 +146,10 @@ private:
 };
 
 std::string limitsOf(const Parameter& parameter) {
-    if (const int room = parameter.textRoom(); room > 0) {
-        const int length = parameter.row().val_len;
-        return joined({", 0, ", std::to_string(length >= 0 ? std::min(length, room) : room)});
+    if (parameter.textRoom() > 0) {
+        const bool isMask = parameter.facts().form == rules::Form::netmask;
+        return joined(
+            {", 0, ", std::to_string(parameter.textLength()), isMask ? ", rules::Form::netmask" : ""});
     }
     if (!parameter.hasMinimum() && !parameter.hasMaximum()) return {};
     return joined({", ", reference::shortNumber(parameter.leastNumber()), ", ",

@@ -27,10 +27,25 @@ void forEachNamed(const Model& model, Visit visit) {
 
 // ---- What holds in every language ---------------------------------------------------------------------
 
-// The longest text in characters that the parameter is meant for and its slot keeps.
-int longest(const Parameter& parameter) {
-    const int meant = parameter.row().val_len;
-    return meant > 0 ? std::min(meant, parameter.textRoom()) : parameter.textRoom();
+const char* formOf(rules::Form form) {
+    switch (form) {
+    case rules::Form::address:
+        return "address";
+    case rules::Form::netmask:
+        return "netmask";
+    case rules::Form::date:
+        return "date";
+    case rules::Form::time:
+        return "time";
+    case rules::Form::none:
+    case rules::Form::number:
+    case rules::Form::whole:
+    case rules::Form::choice:
+    case rules::Form::flag:
+    case rules::Form::text:
+        break;
+    }
+    return ""; // the kind says it
 }
 
 std::string factsOf(const Parameter& parameter) {
@@ -42,11 +57,13 @@ std::string factsOf(const Parameter& parameter) {
     };
     const std::string unit = parameter.unit();
     add(!unit.empty(), "unit", quoted(unit));
-    const bool isFlag = parameter.type().kind == Kind::Bool;
-    const double least = isFlag ? 0 : parameter.leastNumber(), most = isFlag ? 1 : row.val_max;
+    const double least = parameter.leastNumber(), most = parameter.mostNumber();
     add(parameter.hasNumber() && least != kNoMin, "min", reference::shortNumber(least));
     add(parameter.hasNumber() && most != kNoMax, "max", reference::shortNumber(most));
-    add(parameter.textRoom() > 0, "length", std::to_string(longest(parameter)));
+    add(parameter.textRoom() > 0, "length", std::to_string(parameter.textLength()));
+    add(parameter.textRoom() > 0, "bytes", std::to_string(parameter.lineRoom()));
+    const char* const form = formOf(parameter.facts().form);
+    add(*form != '\0', "form", quoted(form));
     add(parameter.isIndexed(), "first", std::to_string(row.val_min_id));
     add(parameter.isIndexed(), "last", std::to_string(row.val_max_id));
     add(parameter.isSetting(), "default",

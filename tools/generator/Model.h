@@ -49,6 +49,7 @@ struct Row {
     parameters::MethodId method; // place in the model's, or -1
     parameters::Role role;       // of a setting of a method
     unsigned is;                 // traits
+    rules::Form form;            // of the value
     parameters::Effect effect;   // of a write
 
     bool has(parameters::Trait trait) const { return (is & trait) != 0; }

@@ -109,7 +109,8 @@ private:
             row.shared == nullptr ? "nullptr" : place("rows", row.shared - model.rows.data()),
             both(row.title), both(row.description), pool.view(row.unit),
             joined({"{", list(groups, ","), "}"}), noteRuns.add(notes), coded("MethodId", row.method),
-            coded("Role", row.role), number(static_cast<int>(row.is)), coded("Effect", row.effect));
+            coded("Role", row.role), number(static_cast<int>(row.is)),
+            fill("rules::Form{{}}", {number(static_cast<int>(row.form))}), coded("Effect", row.effect));
     }
 };
 

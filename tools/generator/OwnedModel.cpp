@@ -70,6 +70,7 @@ void OwnedModel::addRow(const Parameter& parameter, const stParamFamily& family,
     row.method = parameter.row->of.method;
     row.role = parameter.row->of.role;
     row.is = parameter.row->is;
+    row.form = parameter.row->form;
     row.effect = parameter.row->effect;
 }
 

@@ -5,9 +5,11 @@
 #include <set>
 
 #include "ParamSystem/dictionary/Ids.h"
+#include "ParamSystem/rules/Facts.h"
 #include "ParamSystem/store/Kinds.h"
 #include "ParamSystem/support/Text.h"
 #include "tools/generator/TextPattern.h"
+#include "tools/reference/Reference.h"
 
 namespace talux::generator {
 namespace {
@@ -177,18 +179,6 @@ constexpr Rule kRules[] = {
          const stParamProperties& row = p.properties();
          return row.type != kTypeEnum || !p.hasValue() || (row.val_max >= 2 && row.val_max != kNoMax);
      }},
-    {"the default lies outside the range",
-     [](const auto& p, const auto&) {
-         const stParamProperties& row = p.properties();
-         const double least = row.type == kTypeEnum ? std::max(1.0, row.val_min) : row.val_min;
-         return !isNumber(p) || !p.isSetting() || (row.val_def >= least && row.val_def <= row.val_max);
-     }},
-    {"the default is longer than the text may be",
-     [](const auto& p, const auto&) {
-         const stParamProperties& row = p.properties();
-         return row.val_len == parameters::kNoLength ||
-                std::string_view(row.val_def_text).size() <= static_cast<std::size_t>(row.val_len);
-     }},
     {"a number in a security family takes user level 3, any other setting 1",
      [](const auto& p, const auto&) {
          return !p.isSetting() || p.properties().userlevel == levelOfSetting(p);
@@ -205,12 +195,27 @@ constexpr Rule kRules[] = {
      }},
 };
 
+// The default is a value like any other; that of the clock stands for none.
+std::string objectToDefault(const Parameter& p) {
+    const stParamProperties& row = p.properties();
+    const Kind kind = typeOf(row).kind;
+    if (!p.isSetting() || kind == Kind::SysDate || kind == Kind::SysTime) return {};
+    rules::Facts facts = rules::factsOf(row, p.row->form);
+    facts.isReadOnly = false;
+    if (isText(row)) facts.bytes = static_cast<int>(talux::blockOf(kind).slot) - 1;
+    const auto objection = isText(row) ? rules::check(facts, std::string_view(row.val_def_text))
+                                       : rules::check(facts, row.val_def);
+    const std::string limits =
+        reference::shortNumber(facts.least()) + " to " + reference::shortNumber(facts.most());
+    return objection ? "the default " + reference::describe(objection, limits, kEnglish) : "";
+}
+
 std::string objectTo(const Parameter& p, const Register& all) {
     if (std::string objection = objectToName(p, all); !objection.empty()) return objection;
     if (std::string objection = objectToId(p, all); !objection.empty()) return objection;
     const auto* const broken = std::find_if(std::begin(kRules), std::end(kRules),
                                             [&](const Rule& rule) { return !rule.holds(p, all); });
-    return broken == std::end(kRules) ? "" : broken->text;
+    return broken == std::end(kRules) ? objectToDefault(p) : broken->text;
 }
 
 // A name that no parameter or template has, or nothing.

@@ -25,7 +25,7 @@ inline bool isCommand(const Parameter& parameter) {
 }
 // Whether a write is accepted and has no effect.
 inline bool ignoresWrites(const Parameter& parameter) {
-    return parameter.row().val_access != kReadOnly &&
+    return !parameter.facts().isReadOnly &&
            (isCommand(parameter) || parameter.type().nature == Nature::record);
 }
 inline bool isChoice(const Parameter& parameter) {

@@ -70,7 +70,7 @@ void addLimits(Json& object, const Parameter& parameter) {
     if (!parameter.hasNumber()) return;
     if (parameter.leastNumber() != kNoMin) object.set("min", number(parameter.leastNumber()));
     if (isChoice(parameter) && !refusesBelowOne(parameter)) object.set("lax", 1);
-    if (parameter.hasMaximum()) object.set("max", number(parameter.row().val_max));
+    if (parameter.mostNumber() != kNoMax) object.set("max", number(parameter.mostNumber()));
 }
 
 void addValue(Json& object, const Parameter& parameter) {

@@ -30,12 +30,14 @@ bool Parameter::isSetting() const {
     return row().is_volatile == 0 && holds(type().kind, row().id);
 }
 
-double Parameter::leastNumber() const {
-    return type().kind == Kind::Enum && !hasMinimum() ? 1 : row().val_min;
+rules::Facts Parameter::facts() const {
+    rules::Facts facts = rules::factsOf(row(), of->form);
+    if (textRoom() > 0) facts.bytes = textRoom();
+    return facts;
 }
 
 int Parameter::writeLevel() const {
-    if (!holds(type().kind, row().id) || row().val_access == kReadOnly) return 0;
+    if (!holds(type().kind, row().id) || facts().isReadOnly) return 0;
     if (type().nature == Nature::record) return 0;
     if (name() == kepl::kOpenToReaders) return row().userlevel;
     return std::max(kepl::kWriteLevel, row().userlevel);
@@ -103,12 +105,13 @@ std::string shortNumber(double value) {
 }
 
 std::string rangeText(const Parameter& parameter, ParamLanguage language) {
-    const std::string least = shortNumber(parameter.row().val_min);
-    const std::string most = shortNumber(parameter.row().val_max);
     const bool german = language == kGerman;
-    if (parameter.hasMinimum() && parameter.hasMaximum()) return least + (german ? " bis " : " to ") + most;
-    if (parameter.hasMaximum()) return (german ? "bis " : "up to ") + most;
-    return parameter.hasMinimum() ? (german ? "ab " : "from ") + least : std::string();
+    const bool hasLeast = parameter.leastNumber() != kNoMin, hasMost = parameter.mostNumber() != kNoMax;
+    const std::string least = shortNumber(parameter.leastNumber()),
+                      most = shortNumber(parameter.mostNumber());
+    if (hasLeast && hasMost) return least + (german ? " bis " : " to ") + most;
+    if (hasMost) return (german ? "bis " : "up to ") + most;
+    return hasLeast ? (german ? "ab " : "from ") + least : std::string();
 }
 
 std::span<const StructMemberProperties_t> members(const Parameter& record) {

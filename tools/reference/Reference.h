@@ -3,6 +3,7 @@
 #ifndef TALUX_TOOLS_REFERENCE_H
 #define TALUX_TOOLS_REFERENCE_H
 
+#include <algorithm>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,6 +11,7 @@
 
 #include "ParamSystem/dictionary/Types.h"
 #include "ParamSystem/files/Line.h"
+#include "ParamSystem/rules/Facts.h"
 #include "tools/generator/Model.h"
 
 namespace talux::reference {
@@ -43,14 +45,17 @@ public:
     bool hasNumber() const { return type().nature == Nature::number; }
     bool hasMinimum() const { return row().val_min != kNoMin; }
     bool hasMaximum() const { return row().val_max != kNoMax; }
-    // The least number with a meaning: choices count from 1 unless a minimum is specified. A write does not
-    // check it.
-    double leastNumber() const;
+    // What the rules know of it; of a text, its slot.
+    rules::Facts facts() const;
+    double leastNumber() const { return facts().least(); }
+    double mostNumber() const { return facts().most(); }
     File file() const { return fileOf(row()); }
     // Rights level that a write takes; 0 where nothing can be written.
     int writeLevel() const;
     // Longest text that the store keeps, in bytes; 0 for numbers.
     int textRoom() const;
+    // Longest text that is intended and kept, in characters; 0 for numbers.
+    int textLength() const { return std::min(facts().characters, textRoom()); }
     // Longest text, in bytes, that a line of the language can write: a term has 127 characters, of which
     // prefix, name,
     // "=" and two quotes take some.
@@ -83,8 +88,15 @@ private:
 // A number without needless digits: "0.1", "20000".
 std::string shortNumber(double value);
 
-// "1 to 90", "from 0", "up to 5"; empty without limits.
+// "1 to 90", "from 0", "up to 5"; empty without limits and for texts.
 std::string rangeText(const Parameter& parameter, ParamLanguage language);
+
+// What speaks against a value of the parameter, for people: "is out of range: 1 to 90 %".
+std::string describe(const rules::Objection& objection, const Parameter& parameter, ParamLanguage language);
+std::string describe(const rules::Objection& objection, const std::string& range, ParamLanguage language);
+
+// The same for programs: "range". Never changes.
+const char* codeOf(Reason reason);
 
 // The three records, their members and the kind of each: see ARR_StructMemberProperties.
 std::span<const StructMemberProperties_t> members(const Parameter& record);

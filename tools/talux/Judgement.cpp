@@ -1,7 +1,6 @@
 #include "tools/talux/Judgement.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstring>
 #include <filesystem>
@@ -17,6 +16,12 @@ namespace talux::tool {
 namespace {
 
 constexpr int kMostStrangers = 100; // of a file are judged
+
+// What else speaks against a value shows in what is stored and comes back. A file may bring what nobody else
+// writes.
+constexpr rules::Reasons kReported{Reason::notANumber, Reason::tooLow,   Reason::tooHigh,
+                                   Reason::noChoice,   Reason::tooLong,  Reason::tooManyBytes,
+                                   Reason::noAddress,  Reason::noNetmask};
 
 std::optional<reference::File> fileNamedBy(const std::string& path) {
     const std::string name = path.substr(path.find_last_of('/') + 1);
@@ -35,20 +40,6 @@ bool beginsWithMark(const std::string& path) {
     return std::string_view(mark, sizeof mark) == "\xEF\xBB\xBF";
 }
 
-std::optional<std::uint32_t> addressOf(std::string_view text) {
-    std::uint32_t address = 0;
-    for (int part = 0; part < 4; ++part) {
-        unsigned number = 256;
-        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-        if (error != std::errc() || number > 255 || end - text.data() > 3) return {};
-        text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-        if (part < 3 && !text.starts_with('.')) return {};
-        if (part < 3) text.remove_prefix(1);
-        address = address << 8 | number;
-    }
-    return text.empty() ? std::optional(address) : std::nullopt;
-}
-
 // Words behind the first one of a number, which are not read.
 std::string_view wordsBehind(std::string_view text) {
     const auto first = text.find_first_not_of(" \t");
@@ -62,15 +53,6 @@ bool isWhole(const Parameter& parameter) {
 }
 
 } // namespace
-
-bool isAddressText(std::string_view text) {
-    return addressOf(text).has_value();
-}
-
-bool isNetmask(std::string_view text) {
-    const auto mask = addressOf(text);
-    return mask && (~*mask & (~*mask + 1)) == 0;
-}
 
 std::optional<Finding> wouldNotComeBack(const Parameter& parameter, const Value& value,
                                         const Context& context) {
@@ -114,6 +96,18 @@ Judgement Judge::judge(const Entry& entry) {
     else
         judgeSkipped(entry, effect, judgement);
     return judgement;
+}
+
+template <class Given>
+void Judge::addObjections(const Parameter& parameter, const Given& given, Judgement& judgement) const {
+    rules::forEachObjection(parameter.facts(), given, kReported, [&](const rules::Objection& objection) {
+        std::string text = describe(objection, parameter, context.language);
+        if (objection.reason == Reason::tooManyBytes)
+            text += context.say(" and is cut", " und wird abgeschnitten");
+        else if (!judgement.to->isText())
+            text += context.say(", is loaded all the same", ", wird trotzdem geladen");
+        add(judgement, reference::codeOf(objection.reason), std::move(text));
+    });
 }
 
 // What is odd whatever the line is about.
@@ -215,11 +209,7 @@ void Judge::judgeNumber(const Entry& entry, double given, Judgement& judgement) 
         add(judgement, "tail",
             fill(context.say("'{}' after the number is not read", "'{}' nach der Zahl wird nicht gelesen"),
                  {printable(words)}));
-    if (!isInRange(parameter, given))
-        add(judgement, "range",
-            fill(context.say("out of range ({}), is loaded all the same",
-                             "außerhalb des Bereichs ({}), wird trotzdem geladen"),
-                 {range(parameter, context.language)}));
+    addObjections(parameter, given, judgement);
     const double kept = judgement.to->number();
     const double lost = std::abs(kept - given);
     if (isWhole(parameter) ? kept != given : lost > 1e-6 * std::abs(given))
@@ -231,7 +221,6 @@ void Judge::judgeNumber(const Entry& entry, double given, Judgement& judgement) 
 void Judge::judgeText(const Entry& entry, Judgement& judgement) const {
     const Parameter& parameter = *judgement.parameter;
     const std::string_view given = entry.value, kept = judgement.to->text();
-    const int meant = parameter.row().val_len;
     if (entry.isQuoted && !entry.isClosed)
         add(judgement, "unclosed",
             context.say("there is no closing quote before the end of the line or a second =",
@@ -244,27 +233,11 @@ void Judge::judgeText(const Entry& entry, Judgement& judgement) const {
         add(judgement, "blank",
             context.say("the blanks at the end become part of the text",
                         "die Leerzeichen am Ende werden Teil des Textes"));
-    if (kept.size() < given.size())
-        add(judgement, "cut",
-            fill(context.say("is cut at {} characters", "wird nach {} Zeichen abgeschnitten"),
-                 {std::to_string(kept.size())}));
-    else if (meant > 0 && width(kept) > static_cast<std::size_t>(meant))
-        add(judgement, "long",
-            fill(context.say("{} characters; intended for at most {}",
-                             "{} Zeichen; vorgesehen sind höchstens {}"),
-                 {std::to_string(width(kept)), std::to_string(meant)}));
+    addObjections(parameter, given, judgement);
     if (!isUtf8(kept))
         add(judgement, "encoding",
             context.say("is not UTF-8 and will not be displayed correctly",
                         "ist kein UTF-8-Text und wird nicht richtig angezeigt"));
-    if (isAddress(parameter.row()) && !isAddressText(kept))
-        add(judgement, "address",
-            context.say("is not an address: four numbers of 0 to 255 with points between them",
-                        "ist keine Adresse: vier Zahlen von 0 bis 255 mit Punkten dazwischen"));
-    else if (parameter.row().type == kTypeIpMask && !isNetmask(kept))
-        add(judgement, "netmask",
-            context.say("is not a netmask: its ones are not contiguous",
-                        "ist keine Netzmaske: die Einsen sind nicht zusammenhängend"));
 }
 
 void Judge::judgePlace(Judgement& judgement) const {

@@ -58,16 +58,14 @@ private:
     void judgeNumber(const Entry& entry, double given, Judgement& judgement) const;
     void judgeText(const Entry& entry, Judgement& judgement) const;
     void judgePlace(Judgement& judgement) const;
+    template <class Given>
+    void addObjections(const Parameter& parameter, const Given& given, Judgement& judgement) const;
     void add(Judgement& judgement, const char* code, std::string text) const;
 };
 
 // What a save would write for a value and a load would make of that: nothing when it is the value again.
 std::optional<Finding> wouldNotComeBack(const Parameter& parameter, const Value& value,
                                         const Context& context);
-
-// Four numbers of 0 to 255; of a netmask, ones before zeros.
-bool isAddressText(std::string_view text);
-bool isNetmask(std::string_view text);
 
 } // namespace talux::tool
 

@@ -20,13 +20,18 @@ using kepl::Action;
 using kepl::Decision;
 using kepl::Refusal;
 
+// What the language stores and says nothing of.
+constexpr rules::Reasons kUnnoticed{Reason::noChoice, Reason::notWhole,     Reason::notCarried,
+                                    Reason::tooLong,  Reason::tooManyBytes, Reason::noAddress,
+                                    Reason::noNetmask};
+
 const Parameter* parameterOf(const Decision& decision) {
     return decision.row == nullptr ? nullptr : reference::find(decision.row->name);
 }
 
-std::string unitBehind(const Parameter& parameter) {
-    const std::string unit = unitOf(parameter);
-    return unit.empty() ? unit : " " + unit;
+std::string objectionTo(const std::string& value, const rules::Objection& objection,
+                        const Parameter& parameter, const Context& context) {
+    return value + " " + describe(objection, parameter, context.language);
 }
 
 std::string nameReason(std::string_view name, const Context& context) {
@@ -50,15 +55,11 @@ std::string syntaxReason(const Decision& decision, const Context& context) {
     if (decision.row == nullptr) return nameReason(decision.variable.name, context);
     const std::string value = printable(decision.variable.value.value_or(""));
     if (value.empty()) return context.say("there is no value after =", "hinter = steht kein Wert");
-    switch (typeOf(*decision.row).nature) {
-    case Nature::date:
-        return fill(context.say("'{}' is not a date: YYYY-MM-DD", "'{}' ist kein Datum: JJJJ-MM-TT"),
-                    {value});
-    case Nature::time:
-        return fill(context.say("'{}' is not a time: HH:MM:SS", "'{}' ist keine Uhrzeit: HH:MM:SS"), {value});
-    default:
-        return fill(context.say("'{}' is not a number", "'{}' ist keine Zahl"), {value});
-    }
+    const Nature nature = typeOf(*decision.row).nature;
+    const Reason reason = nature == Nature::date   ? Reason::noDate
+                          : nature == Nature::time ? Reason::noTime
+                                                   : Reason::noNumber;
+    return objectionTo("'" + value + "'", {reason}, *parameterOf(decision), context);
 }
 
 std::string rightsReason(const Decision& decision, const Context& context) {
@@ -287,12 +288,14 @@ private:
         const std::size_t at = placeOf(piece);
         values.insert_or_assign(&parameter, given);
         places.insert_or_assign(&parameter, at);
-        if (!given.isText()) {
-            if (!isInRange(parameter, given.number()))
-                add(at, fill(context.say("choices of {} are {}", "die Auswahl von {} ist {}"),
-                             {parameter.name(), range(parameter, context.language)}));
-            return;
-        }
+        const auto addObjection = [&](const std::string& value) {
+            return [&, value](const rules::Objection& objection) {
+                add(at, objectionTo(value, objection, parameter, context));
+            };
+        };
+        if (!given.isText())
+            return rules::forEachObjection(parameter.facts(), given.number(), kUnnoticed,
+                                           addObjection(reference::shortNumber(given.number())));
         const std::string_view value = *piece.decision.variable.value;
         if (value.starts_with('"') && (value.size() < 2 || !value.ends_with('"')))
             add(at,
@@ -303,14 +306,9 @@ private:
                           "das keines ist")
                     : context.say("a comma always ends the text, even in quotes",
                                   "ein Komma beendet den Text, was auch immer ihn umgibt"));
-        const auto room = static_cast<std::size_t>(parameter.textRoom());
         const std::string_view text = given.text();
-        if (text.size() > room)
-            add(at, fill(context.say("the text is cut at {} characters",
-                                     "der Text wird nach {} Zeichen abgeschnitten"),
-                         {std::to_string(room)}));
-        if (isAddress(parameter.row()) && !isAddressText(text))
-            add(at, fill(context.say("'{}' is not an address", "'{}' ist keine Adresse"), {printable(text)}));
+        rules::forEachObjection(parameter.facts(), text, kUnnoticed,
+                                addObjection("'" + printable(text) + "'"));
     }
 
     // Characters of the answer when every value is as short as can be.
@@ -391,11 +389,8 @@ std::string elementsReason(const Decision& decision, const Context& context) {
 }
 
 std::string rangeReason(const Decision& decision, const Context& context) {
-    const Parameter& parameter = *parameterOf(decision);
-    std::string limits = range(parameter, context.language);
-    if (limits.empty()) limits = context.say("nine digits", "neun Stellen");
-    return fill(context.say("{} is out of range: {}{}", "{} liegt außerhalb: {}{}"),
-                {reference::shortNumber(decision.value->number()), limits, unitBehind(parameter)});
+    const double number = decision.value->number();
+    return objectionTo(reference::shortNumber(number), {Reason::tooLow}, *parameterOf(decision), context);
 }
 
 // Of what shows only when a line is carried out.
@@ -412,11 +407,11 @@ constexpr char kReadOnly[] = "{} can only be read", kReadOnlyDe[] = "{} kann nur
 constexpr char kWriteOnly[] = "{} can only be written", kWriteOnlyDe[] = "{} kann nur geschrieben werden";
 
 // Why a term is refused, for people.
-struct Reason {
+struct Explanation {
     Refusal refusal;
     std::string (*say)(const Decision& decision, const Context& context);
 };
-constexpr Reason kReasons[] = {
+constexpr Explanation kReasons[] = {
     {Refusal::none, laterReason},
     {Refusal::indexNotANumber,
      [](const Decision&, const Context& context) -> std::string {
@@ -447,7 +442,8 @@ constexpr Reason kReasons[] = {
     {Refusal::negativeRoot, laterReason},
     {Refusal::typeUnknown, laterReason},
 };
-static_assert(hasRowForEach<&Reason::refusal>(kReasons), "each enumerator has its row, in the same order");
+static_assert(hasRowForEach<&Explanation::refusal>(kReasons),
+              "each enumerator has its row, in the same order");
 
 } // namespace
 

@@ -62,14 +62,8 @@ std::string_view familyName(const Parameter& parameter, ParamLanguage language) 
 }
 
 bool isInRange(const Parameter& parameter, double number) {
-    return number >= parameter.leastNumber() && number <= parameter.row().val_max; // false for not-a-number
-}
-
-std::string range(const Parameter& parameter, ParamLanguage language) {
-    if (!parameter.hasNumber()) return {};
-    if (parameter.leastNumber() == parameter.row().val_min) return reference::rangeText(parameter, language);
-    return fill(language == kGerman ? "1 bis {}" : "1 to {}",
-                {reference::shortNumber(parameter.row().val_max)});
+    constexpr rules::Reasons kOutside{Reason::notANumber, Reason::tooLow, Reason::tooHigh, Reason::noChoice};
+    return !rules::check(parameter.facts(), number, kOutside);
 }
 
 std::string change(const Parameter& parameter, const std::optional<Value>& from,

@@ -31,7 +31,9 @@ std::string_view familyName(const Parameter& parameter, ParamLanguage language);
 bool isInRange(const Parameter& parameter, double number);
 
 // "1 to 90"; empty for texts and without limits.
-std::string range(const Parameter& parameter, ParamLanguage language);
+inline std::string range(const Parameter& parameter, ParamLanguage language) {
+    return rangeText(parameter, language);
+}
 
 // "30 -> 35 %"
 std::string change(const Parameter& parameter, const std::optional<Value>& from,

@@ -1,12 +1,12 @@
 // talux status: what update and save would change, and which of it reaches the network.
 #include <algorithm>
-#include <array>
 #include <memory>
 #include <unistd.h>
 
+#include "ParamSystem/network/SettingIds.h"
+#include "ParamSystem/store/ChangeFlags.h"
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
-#include "tools/talux/Network.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -35,10 +35,6 @@ struct Change {
     bool isThere;
     std::vector<Pending> pending;
 };
-
-// The change flags that other programs wait for.
-constexpr std::array<const char*, 4> kFlags{"ParamChanged", "IpParamChanged", "SecParamChanged",
-                                            "StmParamChanged"};
 
 struct Report {
     std::vector<Change> changes;
@@ -85,9 +81,11 @@ Report reportOn(const Options& options, const Context& context) {
     report.changes.push_back(saveChange("save", File::normal, staged, context));
     report.changes.push_back(saveChange("save_sec", File::security, staged, context));
     report.changes.push_back(saveChange("save_ip", File::address, staged, context));
-    for (const char* name : kFlags)
-        if (const auto flag = live.value(*reference::find(name)); flag && flag->number() != 0)
-            report.flags.emplace_back(name);
+    for (const int id : kChangeFlagIds) {
+        const Parameter& flag = *reference::find(GetParamProperties(id)->name);
+        if (const auto value = live.value(flag); value && value->number() != 0)
+            report.flags.emplace_back(flag.name());
+    }
     for (const Parameter& parameter : reference::parameters())
         if (const auto value = staged.value(parameter);
             value && parameter.isSetting() && !isOfClock(parameter))
@@ -114,7 +112,7 @@ void printChange(const Change& change, const Context& context) {
     Table table;
     for (const auto& [parameter, from, to] : change.pending)
         table.add({std::string(parameter->name()), paint.changed(tool::change(*parameter, from, to, context)),
-                   reachesNetwork(*parameter) ? context.say("network", "Netzwerk") : ""});
+                   network::reachesSystem(parameter->row().id) ? context.say("network", "Netzwerk") : ""});
     print(table.text("  "));
 }
 
@@ -124,7 +122,7 @@ void printText(const Report& report, const Context& context) {
     for (const Change& change : report.changes) {
         printChange(change, context);
         for (const Pending& pending : change.pending)
-            network = network || reachesNetwork(*pending.parameter);
+            network = network || network::reachesSystem(pending.parameter->row().id);
     }
     if (network)
         print(context.say(
@@ -151,7 +149,7 @@ void printReport(const Report& report, const Context& context) {
         Json list = Json::array();
         for (const auto& [parameter, from, to] : change.pending) {
             Json entry = changeJson(*parameter, from, to, context);
-            entry.set("network", reachesNetwork(*parameter));
+            entry.set("network", network::reachesSystem(parameter->row().id));
             list.add(std::move(entry));
         }
         all.set(change.command,

@@ -8,10 +8,10 @@
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/network/SettingIds.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Os.h"
 #include "tools/talux/Files.h"
-#include "tools/talux/Network.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -119,7 +119,7 @@ private:
             changes.add({{"name", write.label()},
                          {"from", json(*write.parameter, write.from)},
                          {"to", json(*write.parameter, write.to)},
-                         {"network", reachesNetwork(*write.parameter)}});
+                         {"network", network::reachesSystem(write.parameter->row().id)}});
         Json found = Json::array();
         for (const Implausible& each : implausible())
             found.add(described(each));

@@ -91,21 +91,6 @@ bool isMoment(std::string_view text, const kepl::Decision& decision) {
            clockText(time, nature) == text;
 }
 
-std::string textObjection(const Parameter& parameter, const Value& value, const Context& context) {
-    const std::string_view text = value.text();
-    const auto most = static_cast<std::size_t>(std::max(parameter.row().val_len, 0));
-    if (most > 0 && width(text) > most)
-        return fill(context.say("{} characters; at most {}", "{} Zeichen; höchstens {}"),
-                    {std::to_string(width(text)), std::to_string(most)});
-    if (!isUtf8(text)) return context.say("the text is not UTF-8", "der Text ist nicht UTF-8");
-    if (isAddress(parameter.row()) && !isAddressText(text))
-        return fill(context.say("'{}' is not an address", "'{}' ist keine Adresse"), {printable(text)});
-    if (parameter.row().type == kTypeIpMask && !isNetmask(text))
-        return fill(context.say("'{}' is not a netmask", "'{}' ist keine Netzmaske"), {printable(text)});
-    const auto finding = wouldNotComeBack(parameter, value, context);
-    return finding ? finding->text : "";
-}
-
 } // namespace
 
 std::string Write::label() const {
@@ -124,14 +109,15 @@ std::optional<Value> present(const Parameter& parameter, int id) {
 std::string objection(const Parameter& parameter, const Value& value, const Context& context) {
     const auto kept = storedAs(parameter.row().id, value);
     if (!kept) return context.say("holds no value", "hat keinen speicherbaren Wert");
-    if (value.isText()) return textObjection(parameter, value, context);
-    if (!isInRange(parameter, value.number()))
-        return fill(context.say("{} is out of range: {}", "{} liegt außerhalb: {}"),
-                    {plain(parameter, value), range(parameter, context.language)});
-    if (parameter.type().fileDecimals == 0 && kept->number() != value.number())
-        return fill(context.say("{} is not a whole number", "{} ist keine ganze Zahl"),
-                    {reference::shortNumber(value.number())});
-    return {};
+    const std::string_view text = value.text();
+    const rules::Objection against = value.isText() ? rules::check(parameter.facts(), text)
+                                                    : rules::check(parameter.facts(), value.number());
+    if (against)
+        return joined({plain(parameter, value), " ", describe(against, parameter, context.language)});
+    if (!value.isText()) return {};
+    if (!isUtf8(text)) return context.say("the text is not UTF-8", "der Text ist nicht UTF-8");
+    const auto finding = wouldNotComeBack(parameter, value, context);
+    return finding ? finding->text : "";
 }
 
 void Plan::refuse(const std::string& place, std::string_view label, std::string_view reason) {

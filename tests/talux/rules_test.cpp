@@ -1,0 +1,325 @@
+// May a parameter take a value? Seven ways ask the same rules. Each sees the reasons that its row does not
+// name; the row says why it leaves those out. Parameters and values are random, around what the row allows.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <random>
+#include <set>
+
+#include "ParamSystem/files/Effect.h"
+#include "ParamSystem/kepl/Decision.h"
+#include "ParamSystem/support/Parse.h"
+#include "talux/handles.hpp"
+#include "tools/generator/Data.h"
+#include "tools/generator/RowRules.h"
+#include "tools/talux/Judgement.h"
+#include "tools/talux/LineCheck.h"
+#include "tools/talux/Plausibility.h"
+
+using namespace talux;
+using namespace std::literals;
+using enum Reason;
+using reference::Parameter, rules::Form;
+
+namespace {
+
+enum Way { language, load, check, lint, handles, scripts, generator, wayCount };
+struct WayRow {
+    const char* name;
+    rules::Reasons unseen;
+    const char* why;
+};
+constexpr std::array<WayRow, wayCount> kWays{{
+    {"language",
+     {noChoice, notWhole, holdsNul, notCarried, tooLong, tooManyBytes, noAddress, noNetmask},
+     "stores them cut or rounded, and texts as they are"},
+    {"load",
+     {readOnly, notANumber, tooLow, tooHigh, noChoice, notWhole, notCarried, tooLong, tooManyBytes, noAddress,
+      noNetmask},
+     "stores whatever can be read: files come from other versions"},
+    {"check", {readOnly, notCarried}, "a file brings what nobody else writes; finds what does not come back"},
+    {"lint", {}, ""},
+    {"handles", {}, ""},
+    {"scripts", {}, ""},
+    {"generator", {readOnly}, "the default is what nobody writes"},
+}};
+
+// A value as it is typed, and the number that it is.
+struct Case {
+    Parameter parameter;
+    std::string text;
+    std::optional<double> number;
+
+    bool isText() const { return talux::isText(parameter.row()); }
+    bool has(std::string_view signs) const { return text.find_first_of(signs) != text.npos; }
+    std::string term() const {
+        return std::string(parameter.name()) + "=" + (isText() ? '"' + text + '"' : text);
+    }
+};
+
+// What a way makes of it: nothing where the way cannot be given the value.
+struct Verdict {
+    bool isRefused;
+    std::optional<Value> stored{};
+};
+
+class Random {
+public:
+    explicit Random(unsigned seed) : numbers(seed) {}
+    template <class Items>
+    auto one(const Items& items) {
+        return items[numbers() % std::size(items)];
+    }
+    int below(int limit) { return static_cast<int>(numbers() % static_cast<unsigned>(limit)); }
+
+private:
+    std::mt19937 numbers;
+};
+
+std::string repeated(std::string_view sign, int count) {
+    std::string text;
+    for (int k = 0; k < count; ++k)
+        text += sign;
+    return text;
+}
+
+std::string anyNumber(const Parameter& parameter, Random& random) {
+    static constexpr const char* kOdd[] = {"nan", "inf", "-inf", "-0", "abc", "0x1F", "1e30", "1e-40", "0.5"};
+    if (random.below(4) == 0) return random.one(kOdd);
+    const rules::Facts facts = parameter.facts();
+    const double bases[] = {facts.min, facts.max, facts.least(), 0, parameter.row().val_def};
+    static constexpr double kSteps[] = {-1000, -1, -0.25, 0, 0, 0.25, 1, 1000};
+    char text[32];
+    std::snprintf(text, sizeof text, "%.17g", random.one(bases) + random.one(kSteps));
+    return text;
+}
+
+std::string anyText(const Parameter& parameter, Random& random) {
+    static constexpr const char* kForms[] = {"1.2.3.4",
+                                             "255.255.255.0",
+                                             "255.0.255.0",
+                                             "0.0.0.0",
+                                             "255.255.255.255",
+                                             "008.008.008.008",
+                                             "1.2.3.256",
+                                             "1.2.3",
+                                             "1.2.3.4 ",
+                                             "1.2.3.4.5",
+                                             "01.2.3.4",
+                                             "",
+                                             "a=b",
+                                             "say \"hi\"",
+                                             "a\tb",
+                                             "a\x7F"
+                                             "b",
+                                             "a, b",
+                                             "1..2.3"};
+    if (random.below(2) == 0) return random.one(kForms);
+    const int lengths[] = {parameter.textLength(), parameter.textRoom(), parameter.lineRoom(), 30};
+    const char* const sign = random.below(2) == 0 ? "x" : "ü";
+    return repeated(sign, (random.one(lengths) + random.below(3) - 1) / (random.below(2) + 1));
+}
+
+Case anyCase(Random& random) {
+    for (;;) {
+        const Parameter& parameter = random.one(reference::parameters());
+        if (parameter.isTemplate() || !parameter.isSetting() || tool::isOfClock(parameter)) continue;
+        if (isText(parameter.row())) return {parameter, anyText(parameter, random), {}};
+        const std::string text = anyNumber(parameter, random);
+        return {parameter, text, numberIn(text)};
+    }
+}
+
+// ---- The ways -----------------------------------------------------------------------------------------
+
+using Answer = std::optional<Verdict>;
+
+// A term ends at a comma and after 127 characters, a value at a second "=".
+bool isTerm(const Case& given) {
+    return !given.has(",=") && kepl::kPrefixLength + given.term().size() <= kKeplMaxTerm;
+}
+
+Answer byLanguage(const Case& given) {
+    if (!isTerm(given)) return {};
+    const kepl::Decision decision = kepl::decide("TLX_" + given.term(), 3);
+    if (decision.isRefused()) return Verdict{true};
+    return Verdict{false, storedAs(decision.id, *decision.value)};
+}
+
+Answer byLoad(const Case& given) {
+    if (given.has("\"=")) return {};
+    std::string line = "TLX_" + given.term();
+    const Effect effect = effectOf(parseEntry(line.data()));
+    if (effect.outcome != Outcome::stored) return Verdict{true};
+    return Verdict{false, storedAs(effect.row->id, *effect.value)};
+}
+
+Answer byCheck(const Case& given) {
+    if (given.has("\"=")) return {};
+    static const tool::Context context{};
+    static const tool::Source nothing = tool::Source::nothing("");
+    tool::Judge judge("", nothing, context);
+    std::string line = "TLX_" + given.term();
+    for (const tool::Finding& finding : judge.judge(parseEntry(line.data())).findings)
+        for (const std::string_view code :
+             {"no-number", "range", "long", "cut", "address", "netmask", "rounded"})
+            if (code == finding.code && (code != "rounded" || given.parameter.facts().form != Form::number))
+                return Verdict{true};
+    return Verdict{false};
+}
+
+// Without what is only implausible, which the language stores and which is nothing about one value.
+Answer byLint(const Case& given) {
+    if (!isTerm(given)) return {};
+    const std::string line = "TLX_" + given.term();
+    const kepl::Decision decision = kepl::decide(line, 3);
+    std::set<std::string> implausible;
+    if (!decision.isRefused())
+        tool::findFaults({{reference::find(given.parameter.name()), *decision.value}}, {},
+                         [&](const tool::Implausible& found) { implausible.insert(found.text); });
+    const auto findings = tool::checkLine(line, {}, {});
+    return Verdict{std::ranges::any_of(
+        findings, [&](const tool::LineFinding& finding) { return !implausible.contains(finding.text); })};
+}
+
+// Of the type that the setting has, as far as the value has one.
+Answer byHandle(const Case& given) {
+    using table::Kind;
+    const auto& row = *std::ranges::find(table::kRows, given.parameter.name(),
+                                         [](const auto& each) { return std::string_view(each.name); });
+    const rules::Facts facts = table::factsOf(row, given.parameter.textRoom());
+    const auto text = [&]<Kind kind>() -> Answer {
+        StoredText<kind> to;
+        if (!detail::copyText(given.text, facts, to)) return Verdict{true};
+        return Verdict{false, Value(to.view())};
+    };
+    if (row.kind == Kind::text) return text.operator()<Kind::text>();
+    if (row.kind == Kind::identifier) return text.operator()<Kind::identifier>();
+    if (row.kind == Kind::address) return text.operator()<Kind::address>();
+    if (!given.number) return {};
+    const double number = *given.number;
+    if (row.kind == Kind::f32) {
+        const bool maySeemItsLimit = detail::meant(number, facts) != number;
+        if (maySeemItsLimit) return {};
+        return Verdict{!detail::check<float>(number, facts), Value(static_cast<float>(number))};
+    }
+    const bool isShort = rules::isWhole(number) && number > -32768 && number < 32767;
+    if (row.kind == Kind::i32 && rules::isWhole(number) && number > -1e15 && number < 1e15)
+        return Verdict{!detail::check<std::int32_t>(static_cast<long long>(number), facts), Value(number)};
+    if (row.kind == Kind::choice && isShort)
+        return Verdict{!detail::check<Choice>(static_cast<Choice>(number), facts), Value(number)};
+    return {};
+}
+
+// What the layer for scripts says, all cases in one run of Lua. A comma ends what a line can carry.
+std::vector<Answer> byScripts(const std::vector<Case>& cases) {
+    std::ofstream out("/tmp/cases");
+    for (const Case& given : cases) {
+        out << given.parameter.name() << ' ';
+        for (const char c : given.text)
+            out << "0123456789abcdef"[static_cast<unsigned char>(c) / 16] << "0123456789abcdef"[c & 15];
+        out << (given.isText() ? " T\n" : " N\n");
+    }
+    out.close();
+    EXPECT_EQ(std::system(TALUX_LUA " </tmp/cases >/tmp/verdicts"), 0);
+    std::ifstream in("/tmp/verdicts");
+    std::vector<Answer> answers;
+    std::string line;
+    for (const Case& given : cases) {
+        std::getline(in, line);
+        if (given.isText() && given.has(","))
+            answers.emplace_back();
+        else if (line == "-")
+            answers.push_back(Verdict{true});
+        else if (given.isText())
+            answers.push_back(Verdict{false, Value(std::string_view(line).substr(1, line.size() - 2))});
+        else
+            answers.push_back(Verdict{false, Value(numberIn(line).value_or(0))});
+    }
+    std::filesystem::remove("/tmp/cases");
+    std::filesystem::remove("/tmp/verdicts");
+    return answers;
+}
+
+// As the default of its row, beside the template that the row needs.
+Answer byGenerator(const Case& given) {
+    static generator::Faults faults;
+    static const auto all = generator::expand(generator::familyData(), faults);
+    if (!given.isText() && !given.number) return {};
+    static const auto byName = [] {
+        std::map<std::string, const generator::Parameter*> known;
+        for (const generator::Parameter& each : all)
+            known.emplace(each.name, &each);
+        return known;
+    }();
+    generator::Parameter parameter = *byName.at(std::string(given.parameter.name()));
+    parameters::Row row = *parameter.row;
+    row.properties.val_def_text = given.text.c_str();
+    row.properties.val_def = given.number.value_or(0);
+    parameter.row = &row;
+    std::vector<generator::Parameter> some{parameter};
+    for (const generator::Parameter& each : all)
+        if (each.isTemplate() && each.id() == row.properties.id_template) some.push_back(each);
+    generator::Faults found;
+    generator::checkRows(some, found);
+    for (const generator::Fault& fault : found)
+        if (fault.rule.starts_with("the default ")) return Verdict{true};
+    return Verdict{false};
+}
+
+// ---- Comparison ---------------------------------------------------------------------------------------
+
+bool sees(Way way, const Case& given) {
+    rules::Facts facts = given.parameter.facts();
+    if (way == scripts && given.isText()) facts.bytes = given.parameter.lineRoom();
+    bool isSeen = false;
+    const auto look = [&](const rules::Objection& objection) {
+        isSeen = isSeen || !kWays[way].unseen.has(objection.reason);
+    };
+    if (given.isText())
+        rules::forEachObjection(facts, std::string_view(given.text), rules::Reasons::all(), look);
+    else
+        rules::forEachObjection(facts, given.number, rules::Reasons::all(), look);
+    return isSeen;
+}
+
+TEST(Rules, AreTheSameOnEveryWay) {
+    LoadDefParamProperties();
+    Random random(20261126);
+    std::vector<Case> cases;
+    for (int k = 0; k < 20'000; ++k)
+        cases.push_back(anyCase(random));
+    const std::vector<Answer> ofScripts = byScripts(cases);
+    int compared[wayCount][2] = {};
+    for (std::size_t k = 0; k < cases.size(); ++k) {
+        const Case& given = cases[k];
+        const Answer answers[] = {byLanguage(given), byLoad(given), byCheck(given),    byLint(given),
+                                  byHandle(given),   ofScripts[k],  byGenerator(given)};
+        std::optional<Value> stored;
+        if (given.isText() || given.number)
+            stored = storedAs(given.parameter.row().id,
+                              given.number ? Value(*given.number) : Value(std::string_view(given.text)));
+        for (int way = 0; way < wayCount; ++way) {
+            if (!answers[way]) continue;
+            const bool isRefused = answers[way]->isRefused;
+            ++compared[way][isRefused];
+            EXPECT_EQ(isRefused, sees(static_cast<Way>(way), given))
+                << kWays[way].name << ": " << given.term();
+            if (!isRefused && answers[way]->stored) {
+                EXPECT_TRUE(tool::sameValue(answers[way]->stored, stored))
+                    << kWays[way].name << " stores something else: " << given.term();
+            }
+            if (testing::Test::HasFailure()) return;
+        }
+    }
+    for (int way = 0; way < wayCount; ++way)
+        EXPECT_TRUE(compared[way][false] > 2000 && (compared[way][true] > 1000 || way == load))
+            << kWays[way].name;
+}
+
+} // namespace
