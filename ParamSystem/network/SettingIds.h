@@ -35,6 +35,7 @@ namespace talux::network {
     SETTING(kT104Netmask1, "T104_ETH_MA_1")                                                                  \
     SETTING(kT104Gateway1, "T104_ETH_GW_1")
 
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a declared name
 #define TALUX_DECLARE(constant, name) extern const int constant;
 TALUX_NETWORK_SETTINGS(TALUX_DECLARE)
 #undef TALUX_DECLARE
