@@ -124,7 +124,7 @@ protected:
 
 inline std::function<void(const std::string& line)> onPrinted;
 
-// A stream into a text. As a real one may, it leaves another errno behind.
+// A stream into a text. As a real one may, it changes errno.
 inline FILE* streamInto(std::string& text) {
     const auto put = [](void* to, const char* from, std::size_t size) -> ssize_t {
         static_cast<std::string*>(to)->append(from, size);

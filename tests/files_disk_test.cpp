@@ -216,7 +216,7 @@ TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
     EXPECT_GT(faults, 400);
 }
 
-// A save that says it worked has put file and copy in place; one that says it did not has told why.
+// A save that says it worked has put file and copy in place; one that says it did not has given the reason.
 template <SavedFile file>
 int saveTruly() {
     const int error = VarSaveError(file);

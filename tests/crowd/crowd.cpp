@@ -1,6 +1,6 @@
 // A crowd works in one store: device program, scripts, shell, savers, loaders, the tool. Every 50 ms one of
 // them is killed, and the disk fills and empties. Whoever reads a parameter file finds it whole, nobody
-// stands still for ten seconds, groups and locks recover, and at the end files and store agree.
+// hangs for ten seconds, groups and locks recover, and at the end files and store agree.
 //
 //   crowd SECONDS DEVICE TALUX LUA SCRIPT     alone in an isolated root on a small disk
 #include <algorithm>
@@ -263,7 +263,7 @@ void play(std::vector<Actor>& actors, std::chrono::seconds length) {
             int status = 0;
             if (waitpid(actor.pid, &status, WNOHANG) == actor.pid) ended(actor, status), start(actor);
             if (Clock::now() - actor.since > kLongest) {
-                fault(actor.name + " stands still");
+                fault(actor.name + " hangs");
                 actor.since = Clock::now();
             }
         }

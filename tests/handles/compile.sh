@@ -12,7 +12,7 @@ status=0
 fail() { printf '%s\n' "$@"; status=1; }
 
 # Every wrong line is refused by an error in that line of the program, which shows it, and gives the reason: g++ in the
-# error itself, clang behind it.
+# error itself, clang after it.
 compilers=(g++)
 "${compile[@]}" -fsyntax-only -x c++ "$here/wrong.hpp" >"$work/g++" 2>&1 && fail 'wrong handles compile'
 if command -v clang++ >/dev/null && [ "$("$@" -dumpmachine)" = "$(gcc -dumpmachine)" ]; then

@@ -1,4 +1,4 @@
-// What must not compile. Behind each: what the compiler has to say of it besides its line.
+// What must not compile. After each: what the compiler must print besides its line.
 #include <talux/talux.hpp>
 
 using namespace talux;

@@ -89,9 +89,9 @@ flags=$(PKG_CONFIG_LIBDIR=$work/tree/usr/local/lib/pkgconfig pkg-config --cflags
 answer=$(inside tree 'echo "6,7,*" | $run $programs/by-hand')
 [ "$answer" = 42.000000 ] || fail "entry built with pkg-config: $answer"
 
-# What the page tells of programs for a device, with the compiler of this architecture: its program, and those with a
+# What the page says of programs for a device, with the compiler of this architecture: its program, and those with a
 # group, run where nothing but the C library is.
-page_block() { # LINE KIND: the first block of that kind behind a line that begins so
+page_block() { # LINE KIND: the first block of that kind after a line that begins so
   awk -v line="$1" -v fence="\`\`\`$2" 'index($0, line) == 1 { on = 1 } /^```$/ { if (block) exit }
     block
     on && $0 == fence { block = 1 }' "$project/docs/linking.md"
@@ -120,7 +120,7 @@ for way in CMake pkg-config; do
   answer=$(inside bare '$run $programs/station Süd; $run $programs/writer; $run $programs/reader')
   [ "$answer" = 'Name was ""
 Name is "Süd"
-cycle 7: 50.01 Hz' ] || fail "programs by $way as docs/linking.md tells: $answer"
+cycle 7: 50.01 Hz' ] || fail "programs by $way as docs/linking.md says: $answer"
 done
 
 # The packages: the first one alone is enough for scripts, and both hold what the tree holds, in the folders of

@@ -35,7 +35,7 @@ protected:
         KEPL_Interpreter(nowhere).ProcessLine(line.data(), nullptr, answer, end, 3);
         return answer;
     }
-    // Everything in front of the first tab or blank, line by line.
+    // Everything before the first tab or blank, line by line.
     static std::vector<std::string> pieces(const std::string& text, char end) {
         std::vector<std::string> all;
         std::istringstream stream(text);
@@ -271,7 +271,7 @@ TEST_F(TaluxChange, KilledAtAnyMomentItIsWholeOrKnownAndMended) {
         reset();
         std::filesystem::remove(directory / "last_change.tsv");
     };
-    // After each system call, from the first behind which the record is there.
+    // After each system call, from the first after which the record is there.
     const auto isBegun = [this] { return std::filesystem::exists(directory / "last_change.tsv"); };
     const auto skipTo = [&](const Victim& victim, int call) {
         bool isRunning = true;

@@ -44,7 +44,7 @@ private:
     const Source& before;
     const Context& context;
     std::optional<reference::File> expected; // the file that the path is named after
-    bool hasMark;                            // a byte order mark in front of the first line
+    bool hasMark;                            // a byte order mark before the first line
     int strangers = 0;                       // lines so far that are no parameter's
     struct Seen {
         Value value;

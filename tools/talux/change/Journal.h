@@ -40,7 +40,7 @@ std::string openAddress(const Context& context);
 // What a change that has not come to its end left half or open, and how to end it; empty when nothing is.
 std::string interruption(const Context& context);
 
-// What stands left of "=": values may be passwords, which no log shows.
+// What precedes "=": values may be passwords, which no log shows.
 std::string namesIn(const std::vector<std::string>& assignments);
 
 // The user and, over the network, from where.

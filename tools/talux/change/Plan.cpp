@@ -28,7 +28,7 @@ std::string_view withoutBlanks(std::string_view text) {
 
 struct Label {
     std::string_view name;
-    std::string_view index; // what stands in brackets
+    std::string_view index; // the text in brackets
 };
 
 Label labelIn(std::string_view text) {
@@ -46,7 +46,8 @@ const Parameter* inSeries(const Label& label) {
 
 bool isNumber(std::string_view text) {
     double number = 0;
-    return std::from_chars(text.data(), text.data() + text.size(), number).ptr == text.data() + text.size();
+    const char* const end = text.data() + text.size();
+    return !text.empty() && std::from_chars(text.data(), end, number).ptr == end;
 }
 
 bool isIndex(std::string_view text) {
@@ -143,7 +144,7 @@ std::optional<std::string> Plan::number(const Parameter& parameter, std::string_
     const auto numbers = choicesCalled(text, parameter);
     if (numbers.size() == 1) return std::to_string(*numbers.begin());
     std::string reason = fill(
-        numbers.size() > 1 ? context.say("'{}' stands for several choices, give the number",
+        numbers.size() > 1 ? context.say("several choices are called '{}', give the number",
                                          "'{}' heißt mehr als eine Auswahl, die Nummer ist nötig")
         : parameter.type().kind == Kind::Enum ? context.say("has no choice '{}'", "hat keine Auswahl '{}'")
                                               : context.say("'{}' is not a number", "'{}' ist keine Zahl"),

@@ -36,7 +36,7 @@ public:
     // Without the device it only says what cannot be written.
     explicit Plan(const Context& person, bool isOnDevice = true) : context(person), onDevice(isOnDevice) {}
 
-    // A value as it is typed: a number, the number or text of a choice, a text. `place` stands in front of
+    // A value as it is typed: a number, the number or text of a choice, a text. `place` precedes
     // what is said about it.
     void take(std::string_view label, std::string_view value, const std::string& place = "");
 

@@ -53,7 +53,7 @@ Status mend(const Journal& journal, Order order, const Context& context) {
     return carryOut(back, order, context);
 }
 
-// What stands in the way: settings that something else has changed since.
+// What prevents it: settings that something else has changed since.
 void demandUnchanged(const Journal& journal, const Context& context) {
     std::string changed;
     for (const Write& write : journal.writes)
