@@ -100,7 +100,7 @@ inline std::string octal(mode_t mode) {
         using namespace talux_test;                                                                          \
         if (fails(#function, what)) return -1;                                                               \
         const int result = next(&function, #function) arguments;                                             \
-        if (!std::string(what).empty() && result == 0) note(what, ##__VA_ARGS__);                            \
+        if (!std::string(what).empty() && result == 0) note(what __VA_OPT__(, ) __VA_ARGS__);                \
         return result;                                                                                       \
     }
 

@@ -193,7 +193,7 @@ void readThrough(Space space, int id, double* value) {
     const auto read = talux::readValue(space, id);
     if (!read) return;
     if (read->isText())
-        std::strcpy(reinterpret_cast<char*>(value), read->text());
+        std::memcpy(value, read->text(), std::strlen(read->text()) + 1);
     else
         *value = read->number();
 }

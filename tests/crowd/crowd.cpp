@@ -43,9 +43,10 @@ constexpr auto kLongest = 10s;                             // without a sign of 
 constexpr auto kPatience = 3s;                             // after which a program is no longer killed
 const std::regex kAnswer("^(done$|refused: |Uearth is )"); // a sign of life
 // What the others and the disk bring about.
-const std::regex kRefusal("^refused: .*(does not hold|No space left on device|can't save parameter|"
-                          "changed since by something else|was interrupted|no change to take back|NOT STORED|"
-                          "another change is being made)");
+const std::regex kRefusal(
+    "^refused: .*(does not hold|No space left on device|can't save parameter|"
+    "changed since by something else|has changed meanwhile|was interrupted|no change to take back|NOT STORED|"
+    "another change is being made)");
 
 // ---- What was found ----
 
