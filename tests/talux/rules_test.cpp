@@ -304,7 +304,7 @@ TEST(Rules, AreTheSameOnEveryWay) {
         if (given.isText() || given.number)
             stored = storedAs(given.parameter.row().id,
                               given.number ? Value(*given.number) : Value(std::string_view(given.text)));
-        for (int way = 0; way < wayCount; ++way) {
+        for (std::size_t way = 0; way < wayCount; ++way) {
             if (!answers[way]) continue;
             const bool isRefused = answers[way]->isRefused;
             ++compared[way][isRefused];
@@ -317,7 +317,7 @@ TEST(Rules, AreTheSameOnEveryWay) {
             if (testing::Test::HasFailure()) return;
         }
     }
-    for (int way = 0; way < wayCount; ++way)
+    for (std::size_t way = 0; way < wayCount; ++way)
         EXPECT_TRUE(compared[way][false] > 2000 && (compared[way][true] > 1000 || way == load))
             << kWays[way].name;
 }
