@@ -216,7 +216,7 @@ TEST_F(Handles, NotesAreThoseOfTheListOfParameters) {
     for (const char* name : {"U1_prim", "ParamMagic", "UEARTH", "Firewall_dis"})
         for (const Note note : notes(name))
             kinds += "wua"[static_cast<int>(note.kind())];
-    EXPECT_EQ(kinds, "auuw");
+    EXPECT_EQ(kinds, "auww");
     EXPECT_TRUE(notes("Uearht").empty());
 
     std::ifstream list(TALUX_CSV);

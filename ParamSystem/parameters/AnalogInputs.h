@@ -212,7 +212,7 @@ inline constexpr Note kAnalogInputsNotes[] = {
             "von einem anderen Gerät übernehmen.",
             "Whether the factor is calibrated for the individual device is not documented; do not copy it "
             "from another device unchecked."),
-    unknown(
+    warning(
         "phi_corr_{U,I}{0..3}",
         "Das Vorzeichen ist nicht dokumentiert; ein falsches verdoppelt den Fehler. Durch Einspeisen prüfen.",
         "The sign is not documented; a wrong sign doubles the error. Check by injection."),

@@ -485,7 +485,7 @@ inline constexpr Note kEarthFaultNotes[] = {
             "dokumentiert. Muss zur Stromeinspeisung passen.",
             "0 to 6, passed on to the pulse locating; which pattern has which number is not documented. Must "
             "match the current injection."),
-    unknown("U123ok U123erd Uearth U_Hz_proz harm1_Umin harm2_Umin adm_U_min pHPCI_U_min",
+    warning("U123ok U123erd Uearth U_Hz_proz harm1_Umin harm2_Umin adm_U_min pHPCI_U_min",
             "Worauf sich die Prozente beziehen (Außenleiter- oder Leiter-Erde-Spannung, Nennwert oder "
             "Messbereich), ist nicht dokumentiert; der Unterschied kann den Faktor 1,73 ausmachen. Vor dem "
             "Einstellen durch Prüfung mit Sekundärwerten klären.",

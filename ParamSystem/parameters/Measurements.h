@@ -143,7 +143,7 @@ inline constexpr Row kMeasurementsRows[] = {
 };
 
 inline constexpr Note kMeasurementsNotes[] = {
-    unknown("U0_prim U0",
+    warning("U0_prim U0",
             "Ob der Wert die Verlagerungsspannung (ein Drittel der Summe der Leiter-Erde-Spannungen) oder "
             "die Summe ist, ist nicht dokumentiert; der Werkswert von knu0 spricht für das Drittel. Durch "
             "Einspeisen prüfen (Faktor 3).",
