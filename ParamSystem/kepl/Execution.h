@@ -56,9 +56,8 @@ TermResult compute(Operation operation, ValueStack& stack);
 
 // Each of these leaves a text in `txt`, which has kKeplTextSize bytes, if that is the answer of the term.
 
-// `value`: the number that is read, if the term answers one. Of other terms the last element that they read
-// or the type of a text, which a caller of ProcessCommand finds beside the answer; none where the term leaves
-// nothing.
+// `value`: the number that was read, if the term answers one. Other terms leave there what a caller of
+// ProcessCommand finds beside the answer: the last element, or 0 with the type of a text. Else none.
 TermResult accessVariable(const Decision& decision, char* txt, std::optional<TypedNumber>& value);
 
 TermResult runCommand(const Decision& decision, const char* iniPath, char* txt);

@@ -36,8 +36,7 @@ public:
     // Without the device it only says what cannot be written.
     explicit Plan(const Context& person, bool isOnDevice = true) : context(person), onDevice(isOnDevice) {}
 
-    // A value as it is typed: a number, the number or text of a choice, a text. `place` precedes
-    // what is said about it.
+    // A value as it is typed: a number, the number or text of a choice, a text. Refusals begin with `place`.
     void take(std::string_view label, std::string_view value, const std::string& place = "");
 
     // A file of such lines, in the form of parameter files; the prefix TLX_ may be missing, blanks may be
