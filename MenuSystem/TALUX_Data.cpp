@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "MenuSystem/Fields.h"
-#include "ParamSystem/TALUX_Funcs.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Parse.h"
+#include "support/Text.h"
 
 using namespace talux::fields;
 
@@ -17,9 +17,9 @@ constinit char acDataStringSpace[kDataStringSpaceSize];
 constinit char* pSpacePtr = nullptr; // first free byte; null until the first reset
 
 template <typename Number>
-Number takeNumber(const FieldSource& source, int (*parse)(const char*, Number*)) {
+Number takeNumber(const FieldSource& source, talux::ParseResult (*parse)(std::string_view, Number*)) {
     Number number{};
-    if (parse(takeField(source), &number) != 1) endWithInvalidValue(source);
+    if (parse(takeField(source), &number) != talux::kParsed) endWithInvalidValue(source);
     return number;
 }
 
@@ -63,12 +63,12 @@ char* Data_StringSave(char* txt) {
 
 void Data_SetInt(const char* modulename, int* field, const char* fieldname, StringTokenizer* pTokenizer,
                  FILE* fd_src) {
-    *field = static_cast<int>(takeNumber({modulename, fieldname, pTokenizer, fd_src}, MakeLong));
+    *field = static_cast<int>(takeNumber({modulename, fieldname, pTokenizer, fd_src}, talux::parseLong));
 }
 
 void Data_SetDouble(const char* modulename, double* field, const char* fieldname, StringTokenizer* pTokenizer,
                     FILE* fd_src) {
-    *field = takeNumber({modulename, fieldname, pTokenizer, fd_src}, MakeDouble);
+    *field = takeNumber({modulename, fieldname, pTokenizer, fd_src}, talux::parseDouble);
 }
 
 void Data_SetText(const char* modulename, char** field, const char* fieldname, StringTokenizer* pTokenizer,

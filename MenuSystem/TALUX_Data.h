@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "MenuSystem/TALUX_StringTokenizer.h"
-#include "ParamSystem/TALUX_Types.h"
+#include "support/Types.h"
 
 // Bytes of the string space, terminating NULs included.
 inline constexpr int kDataStringSpaceSize = 40000;

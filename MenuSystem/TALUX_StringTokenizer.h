@@ -2,7 +2,7 @@
 #ifndef TALUX_STRINGTOKENIZER_H
 #define TALUX_STRINGTOKENIZER_H
 
-#include "ParamSystem/TALUX_Types.h"
+#include "support/Types.h"
 
 /*
  * Tokens are pointers into the caller's buffer, each ended by a NUL written over its delimiter. They stay

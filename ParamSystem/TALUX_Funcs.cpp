@@ -5,7 +5,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "ParamSystem/support/Parse.h"
+#include "support/Parse.h"
 
 namespace {
 

@@ -60,7 +60,7 @@ talux_install_library(deb_ lib/${CMAKE_LIBRARY_ARCHITECTURE} EXCLUDE_FROM_ALL)
 talux_install(runtime DIRECTORY lua/ DESTINATION ${CMAKE_INSTALL_DATADIR}/lua/5.2)
 talux_install(runtime FILES ${talux_lua_tables} DESTINATION ${CMAKE_INSTALL_DATADIR}/lua/5.2/talux)
 
-foreach(headers ParamSystem/*.h ParamSystem/rules/Rules.h MenuSystem/TALUX_*.h talux/*.hpp)
+foreach(headers support/Types.h ParamSystem/*.h ParamSystem/rules/Rules.h MenuSystem/TALUX_*.h talux/*.hpp)
   file(GLOB files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${headers})
   get_filename_component(folder ${headers} DIRECTORY)
   talux_install(development FILES ${files} DESTINATION ${talux_include_dir}/${folder})

@@ -10,7 +10,7 @@ has_history || fail "no git checkout, which says what belongs to the project"
 
 mapfile -t formatted < <(git ls-files '*.h' '*.hpp' '*.cpp')
 mapfile -t sources < <(case ${1-} in
-  --shipped) git ls-files 'ParamSystem/*.cpp' 'MenuSystem/*.cpp' 'src/*.cpp' ;;
+  --shipped) git ls-files {support,MenuSystem,ParamSystem,src}/'*.cpp' ;;
   '') git ls-files '*.cpp' ;;
   *) printf '%s\n' "$@" ;;
 esac)
@@ -20,19 +20,20 @@ status=0
 clang-format --dry-run -Werror "${formatted[@]}" || status=1
 shellcheck -x -P SCRIPTDIR "${shell[@]}" || status=1
 # Only ParamSystem/os reaches the operating system beyond shared memory and locks.
-mapfile -t inside < <(git ls-files ParamSystem MenuSystem src | grep -v '^ParamSystem/os/')
+mapfile -t inside < <(git ls-files support MenuSystem ParamSystem src | grep -v '^ParamSystem/os/')
 calls='system|popen|exec[lv]p?e?|posix_spawnp?|v?syslog|clock_settime|settimeofday|u?sleep|nanosleep'
 calls+='|socket|ioctl|fopen|remove|openat?|readlink(at)?|access|rename(at)?|unlink(at)?|f?l?chown|f?chmod|f?sync|flock'
 ! grep -nE "(^|[^a-zA-Z_>.])(::|std::)?($calls)\(" "${inside[@]}" || status=1
-# Nothing points back through the rooms: neither an include nor, since public headers serve several rooms, a call.
-rooms=(ParamSystem/{support,os,dictionary,rules,store} MenuSystem ParamSystem/{texts,files,network,kepl} src)
-for room in "${!rooms[@]}"; do
-  later=$(IFS='|'; echo "${rooms[*]:room+1}")
-  [ -z "$later" ] || ! grep -rnE "#include \"($later)/" "${rooms[room]}" || status=1
+# Dependencies between folders point one way, to the left: neither an include nor, since public headers serve several
+# folders, a call points to the right. ParamSystem itself holds the public headers.
+folders=(support MenuSystem ParamSystem ParamSystem/{os,dictionary,rules,store,texts,files,network,kepl} src)
+for folder in "${!folders[@]}"; do
+  later=$(IFS='|'; echo "${folders[*]:folder+1}")
+  [ -z "$later" ] || ! grep -nE -d skip "#include \"($later)/" "${folders[folder]}"/* || status=1
 done
 build release talux_objects
 (cd "$builds/build-release/CMakeFiles/talux_objects.dir" && find . -name '*.o' -print0 | xargs -0 nm -AC) |
-  awk -v rooms="${rooms[*]}" -f scripts/rooms.awk || status=1
+  awk -v folders="${folders[*]}" -f scripts/dependencies.awk || status=1
 # Without the headers that g++ compiles beforehand, which clang cannot read; sources have to name what they use.
 claim "$builds/build-lint"
 quiet cmake --preset release -B "$builds/build-lint" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DTALUX_BUILD_BENCH=ON

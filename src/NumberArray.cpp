@@ -10,8 +10,8 @@
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/kepl/Decision.h"
-#include "ParamSystem/support/Number.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Number.h"
+#include "support/Text.h"
 
 namespace talux {
 namespace {

@@ -4,10 +4,10 @@
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/support/Number.h"
 #include "src/LuaApi.h"
 #include "src/NumberArray.h"
 #include "src/talux_interpreter.h"
+#include "support/Number.h"
 
 namespace {
 

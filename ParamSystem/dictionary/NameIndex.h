@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux {
 

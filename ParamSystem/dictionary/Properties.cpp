@@ -5,8 +5,8 @@
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/dictionary/Tables.h"
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/support/Assertion.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Assertion.h"
+#include "support/Text.h"
 
 namespace talux {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/rules/Facts.h"
-#include "ParamSystem/support/Parse.h"
+#include "support/Parse.h"
 
 namespace talux {
 

@@ -5,9 +5,9 @@
 
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/support/Address.h"
-#include "ParamSystem/support/FixedPoint.h"
-#include "ParamSystem/support/Number.h"
+#include "support/Address.h"
+#include "support/FixedPoint.h"
+#include "support/Number.h"
 
 namespace talux {
 

@@ -7,7 +7,7 @@
 
 #include "ParamSystem/store/ChangeFlags.h"
 #include "ParamSystem/store/Kinds.h"
-#include "ParamSystem/support/EnumRows.h"
+#include "support/EnumRows.h"
 
 namespace talux {
 

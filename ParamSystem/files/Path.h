@@ -6,7 +6,7 @@
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/files/Line.h"
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux {
 

@@ -6,7 +6,7 @@
 
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/os/Files.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux {
 

@@ -11,7 +11,7 @@
 
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux {
 

@@ -6,7 +6,7 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "ParamSystem/support/FixedPoint.h"
+#include "support/FixedPoint.h"
 
 namespace talux::kepl {
 

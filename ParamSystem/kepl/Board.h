@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "ParamSystem/support/EnumRows.h"
+#include "support/EnumRows.h"
 
 namespace talux::kepl {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "ParamSystem/TALUX_Var.h"
-#include "ParamSystem/support/EnumRows.h"
+#include "support/EnumRows.h"
 
 namespace talux::kepl {
 

@@ -2,7 +2,7 @@
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/kepl/Execution.h"
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux::kepl {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "ParamSystem/kepl/Words.h"
-#include "ParamSystem/support/Parse.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Parse.h"
+#include "support/Text.h"
 
 namespace talux::kepl {
 

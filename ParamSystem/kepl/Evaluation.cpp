@@ -4,7 +4,7 @@
 
 #include "ParamSystem/dictionary/Types.h"
 #include "ParamSystem/kepl/Answer.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux::kepl {
 

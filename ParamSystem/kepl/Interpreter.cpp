@@ -6,7 +6,7 @@
 #include "ParamSystem/kepl/Evaluation.h"
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 using namespace talux;
 using kepl::Refusal;

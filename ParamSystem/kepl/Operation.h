@@ -6,7 +6,7 @@
 #include <numbers>
 #include <string_view>
 
-#include "ParamSystem/support/EnumRows.h"
+#include "support/EnumRows.h"
 
 namespace talux::kepl {
 

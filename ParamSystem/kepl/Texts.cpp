@@ -1,7 +1,7 @@
 // The two-language texts of the refusals. German is UTF-8.
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/kepl/Refusal.h"
-#include "ParamSystem/support/EnumRows.h"
+#include "support/EnumRows.h"
 
 KeplText szIndexNotANumber = {"<< INDEX MUSS EINE ZAHL SEIN >>", "<< INDEX MUST BE A NUMBER >>"};
 KeplText szSyntaxError = {"<< SYNTAX ERROR >>", "<< SYNTAX ERROR >>"};

@@ -6,7 +6,7 @@
 #include <type_traits>
 
 #include "ParamSystem/dictionary/Types.h"
-#include "ParamSystem/support/Number.h"
+#include "support/Number.h"
 
 namespace talux::kepl {
 

@@ -8,7 +8,7 @@
 #include "ParamSystem/kepl/Execution.h"
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux::kepl {
 

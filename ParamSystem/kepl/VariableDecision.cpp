@@ -5,8 +5,8 @@
 #include "ParamSystem/kepl/Decision.h"
 #include "ParamSystem/kepl/Words.h"
 #include "ParamSystem/rules/Facts.h"
-#include "ParamSystem/support/Parse.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Parse.h"
+#include "support/Text.h"
 
 namespace talux::kepl {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux::kepl {
 

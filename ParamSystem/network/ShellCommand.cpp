@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "ParamSystem/os/Os.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux::network {
 

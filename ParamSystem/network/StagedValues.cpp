@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "ParamSystem/support/Address.h"
+#include "support/Address.h"
 
 namespace talux::network {
 

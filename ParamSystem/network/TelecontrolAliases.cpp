@@ -7,7 +7,7 @@
 #include "ParamSystem/network/ShellCommand.h"
 #include "ParamSystem/network/StagedValues.h"
 #include "ParamSystem/os/Interfaces.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 using namespace talux::network;
 

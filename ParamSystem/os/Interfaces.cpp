@@ -8,7 +8,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux::os {
 

@@ -11,7 +11,7 @@
 #include <syslog.h>
 #include <unistd.h>
 
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux::os {
 

@@ -1,7 +1,7 @@
 // The accessors: single values and runs of every kind, in both spaces and directions, and values of any kind.
 #include "ParamSystem/store/Slots.h"
 #include "ParamSystem/store/Values.h"
-#include "ParamSystem/support/Assertion.h"
+#include "support/Assertion.h"
 
 #define TALUX_UNIT "ParamSystem/TALUX_Var"
 

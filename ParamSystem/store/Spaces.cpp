@@ -14,7 +14,7 @@
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/store/Locks.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 constinit stVarSpace* pVarGlobal = nullptr;
 constinit stVarSpace* pVarTemp = nullptr;

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "ParamSystem/store/Slots.h"
-#include "ParamSystem/support/Number.h"
+#include "support/Number.h"
 
 namespace talux {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "ParamSystem/store/Kinds.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux {
 

@@ -5,8 +5,8 @@
 #include "ParamSystem/TALUX_ParamStrings.h"
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/dictionary/IdOf.h"
-#include "ParamSystem/support/Assertion.h"
 #include "ParamSystem/texts/Tables.h"
+#include "support/Assertion.h"
 
 int iLastEntry = 0;
 

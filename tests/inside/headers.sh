@@ -8,7 +8,7 @@ project=$1; shift
 git -C "$project" rev-parse --verify -q HEAD >/dev/null 2>&1 || { echo 'skipped: this is no checkout'; exit 77; }
 fresh=$(mktemp -d); trap 'rm -rf "$fresh"' EXIT
 cd "$project"
-git ls-files -z ParamSystem MenuSystem src | xargs -0 cp -p --parents -t "$fresh"
+git ls-files -z support ParamSystem MenuSystem src | xargs -0 cp -p --parents -t "$fresh"
 cd "$fresh"
 status=0
 compile() { # HEADER COMPILER..

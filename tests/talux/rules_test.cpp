@@ -13,7 +13,7 @@
 
 #include "ParamSystem/files/Effect.h"
 #include "ParamSystem/kepl/Decision.h"
-#include "ParamSystem/support/Parse.h"
+#include "support/Parse.h"
 #include "talux/handles.hpp"
 #include "tools/generator/Data.h"
 #include "tools/generator/RowRules.h"

@@ -7,7 +7,7 @@
 #include "ParamSystem/dictionary/Ids.h"
 #include "ParamSystem/rules/Facts.h"
 #include "ParamSystem/store/Kinds.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 #include "tools/generator/TextPattern.h"
 #include "tools/reference/Reference.h"
 

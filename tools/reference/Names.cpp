@@ -3,7 +3,7 @@
 #include <numeric>
 
 #include "ParamSystem/kepl/Decision.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 #include "tools/reference/Reference.h"
 
 namespace talux::reference {

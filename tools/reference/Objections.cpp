@@ -1,5 +1,5 @@
 // What speaks against a value, in words.
-#include "ParamSystem/support/EnumRows.h"
+#include "support/EnumRows.h"
 #include "tools/Strings.h"
 #include "tools/reference/Reference.h"
 

@@ -4,7 +4,7 @@
 
 #include "ParamSystem/kepl/Decision.h"
 #include "ParamSystem/kepl/Words.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 #include "tools/talux/Shell.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"

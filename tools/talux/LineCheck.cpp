@@ -5,7 +5,7 @@
 
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/kepl/Words.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Lookup.h"
 #include "tools/talux/Plausibility.h"

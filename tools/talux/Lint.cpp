@@ -10,7 +10,7 @@
 #include <set>
 #include <system_error>
 
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 #include "tools/talux/Command.h"
 #include "tools/talux/Files.h"
 #include "tools/talux/LineCheck.h"

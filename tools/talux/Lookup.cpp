@@ -5,7 +5,7 @@
 #include <map>
 #include <optional>
 
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 #include "tools/pages/Facts.h"
 #include "tools/pages/Names.h"
 #include "tools/talux/Text.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 #include "tools/talux/Lookup.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"

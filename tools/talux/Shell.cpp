@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "ParamSystem/KEPL_Interpreter.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 #include "tools/talux/Command.h"
 #include "tools/talux/Explain.h"
 #include "tools/talux/LineCheck.h"

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdio>
 
-#include "ParamSystem/support/Number.h"
+#include "support/Number.h"
 #include "tools/talux/Text.h"
 
 namespace talux::tool {

@@ -7,7 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux::tool {
 

@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "ParamSystem/TALUX_Var.h"
-#include "ParamSystem/support/Parse.h"
+#include "support/Parse.h"
 #include "tools/talux/Text.h"
 
 namespace talux::tool {

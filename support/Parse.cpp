@@ -1,4 +1,4 @@
-#include "ParamSystem/support/Parse.h"
+#include "support/Parse.h"
 
 #include <algorithm>
 #include <cfloat>
@@ -7,8 +7,8 @@
 #include <cstring>
 #include <limits>
 
-#include "ParamSystem/support/Locale.h"
-#include "ParamSystem/support/Text.h"
+#include "support/Locale.h"
+#include "support/Text.h"
 
 namespace talux {
 

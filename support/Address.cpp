@@ -1,4 +1,4 @@
-#include "ParamSystem/support/Address.h"
+#include "support/Address.h"
 
 #include <algorithm>
 #include <charconv>
@@ -7,7 +7,7 @@
 #include <iterator>
 #include <limits>
 
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux {
 

@@ -1,11 +1,11 @@
-#include "ParamSystem/support/FixedPoint.h"
+#include "support/FixedPoint.h"
 
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <iterator>
 
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 namespace talux {
 

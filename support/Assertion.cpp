@@ -1,4 +1,4 @@
-#include "ParamSystem/support/Assertion.h"
+#include "support/Assertion.h"
 
 #include <cstdio>
 #include <cstdlib>

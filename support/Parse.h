@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "ParamSystem/TALUX_Types.h"
+#include "support/Types.h"
 
 namespace talux {
 

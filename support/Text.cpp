@@ -1,10 +1,10 @@
-#include "ParamSystem/support/Text.h"
+#include "support/Text.h"
 
 #include <clocale>
 #include <cstdio>
 #include <cstring>
 
-#include "ParamSystem/support/Locale.h"
+#include "support/Locale.h"
 
 namespace talux {
 
