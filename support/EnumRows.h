@@ -16,6 +16,15 @@ consteval bool isEnumerator() {
     return at != text.npos && text[at + 8] != '(';
 }
 
+// How many enumerators there are, counted from 0.
+template <class Enum, std::size_t count = 0>
+consteval std::size_t enumeratorsOf() {
+    if constexpr (isEnumerator<static_cast<Enum>(count)>())
+        return enumeratorsOf<Enum, count + 1>();
+    else
+        return count;
+}
+
 // For a static_assert: row k belongs to enumerator k, and no enumerator has no row. `member` says to which
 // one a row belongs.
 template <auto member, class Row, std::size_t count>

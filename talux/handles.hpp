@@ -245,7 +245,7 @@ public:
     // and nothing is read or written, when that many do not follow.
     bool get_run(std::span<Value> values) const {
         if (values.size() > static_cast<std::size_t>(following)) return false;
-        detail::getRun(first, values.data(), values.size());
+        if (!values.empty()) detail::getRun(first, values.data(), values.size()); // no element, no run
         return true;
     }
     bool set_run(std::span<const Value> values) const {

@@ -188,13 +188,18 @@ TEST_F(Save, IsDatedInTheZoneOfTheMoment) {
     EXPECT_EQ(namesIn(directory), names);
 }
 
-// The first characters of a path that is too long count.
+// The first characters of a path that is too long count: of `parameter.ini` all, and one less, and five.
 TEST_F(Save, CutsPathsAt255Characters) {
-    std::string deep = directory / std::string(248 - directory.string().size(), 'd');
-    fs::create_directory(deep);
-    VarInit(deep.data());
-    EXPECT_EQ(VarSaveParams(), 1);
-    EXPECT_EQ(namesIn(deep), std::vector<std::string>{"param"});
+    moment = kMoment;
+    for (const std::size_t length : {241U, 242U, 249U}) {
+        std::string deep = directory / std::string(length - 1 - directory.string().size(), 'd');
+        fs::create_directory(deep);
+        VarInit(deep.data());
+        EXPECT_EQ(VarSaveParams(), 1);
+        const std::string dated = kDatedCopy.substr(0, 254 - length),
+                          whole = std::string("parameter.ini").substr(0, 254 - length);
+        EXPECT_EQ(namesIn(deep), dated == whole ? std::vector{whole} : std::vector({dated, whole})) << length;
+    }
 }
 
 } // namespace

@@ -214,8 +214,10 @@ TEST_F(Groups, HaveOneMeaningPerName) {
     EXPECT_EQ(attachment("group", kFirst), Attachment::otherElements);
     EXPECT_EQ(Group("group", kFirst).read(value), Reading::detached);
     EXPECT_FALSE(Group("group", kFirst).write(1));
-    EXPECT_EQ(attachment(std::string(56, 'x').c_str(), kFirst), Attachment::wrongName);
-    EXPECT_EQ(attachment("", kFirst), Attachment::wrongName);
+    for (const std::size_t bytes : {0U, 1U, 54U, 55U, 56U, 57U})
+        EXPECT_EQ(attachment(std::string(bytes, 'x').c_str(), kFirst),
+                  bytes < 1 || bytes > 55 ? Attachment::wrongName : Attachment::attached)
+            << bytes;
     const Group two("runs", kFirst.run<2>());
     EXPECT_EQ(attachment("runs", kFirst.run<3>()), Attachment::otherElements);
 }

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <map>
+#include <numeric>
 #include <regex>
 #include <set>
 #include <string>
@@ -152,15 +153,39 @@ TEST_F(Handles, MeasuredValuesAreLiveAtOnce) {
     std::array<float, 2> two{};
     phases.get_run(two);
     EXPECT_EQ(two[1], 11.25f);
+}
 
-    // What does not exist reads as nothing, and a write of it does nothing.
-    for (volatile const int index : {0, 97}) {
-        const auto element = word.at(index);
-        element.set(7.0);
-        EXPECT_TRUE(!element && element.get() == 0.0 && !element.set_run(std::array{7.0}));
+// Of an indexed parameter; what does not exist reads as nothing, and a write of it does nothing.
+template <std::size_t place>
+void tryEdges() {
+    constexpr const table::Row& row = table::kRows[place];
+    if constexpr (row.elements > 0) {
+        using Whole = std::conditional_t<row.kind == table::Kind::i32, std::int32_t, double>;
+        using Value = std::conditional_t<row.kind == table::Kind::f32, float, Whole>;
+        constexpr Measured<Value> measured{row.name};
+        std::vector<Value> values(row.run), tooMany(row.run + 1U), read(row.run);
+        std::iota(values.begin(), values.end(), static_cast<Value>(1));
+        EXPECT_TRUE(measured.set_run(values) && !measured.set_run(tooMany) && !measured.get_run(tooMany));
+        for (const int index : {0, 1, row.elements - 1, row.elements + 0, row.elements + 1}) {
+            const bool exists = index >= 1 && index <= row.elements;
+            const Measured<Value> element = measured.at(index);
+            if (!exists) element.set(7);
+            EXPECT_EQ(element.get(), exists ? static_cast<Value>(index) : 0) << row.name << index;
+            const auto left = static_cast<std::size_t>(exists ? row.run - index + 1 : 0);
+            EXPECT_TRUE(static_cast<bool>(element) == exists &&
+                        element.get_run(std::span(read).first(left)) &&
+                        !element.set_run(std::span(tooMany).first(left + 1)))
+                << row.name << index;
+        }
+        EXPECT_TRUE(measured.get_run(read) && read == values) << row.name;
     }
-    EXPECT_FALSE(word.set_run(std::vector<double>(97, 7.0)));
-    EXPECT_TRUE(fifth && fifth.get() == 0.5 && word.at(96).get() == 9.0);
+}
+
+TEST_F(Handles, ElementsAndRunsEndAtTheirEdges) {
+    [&]<std::size_t... places>(std::index_sequence<places...>) {
+        [[maybe_unused]] const int tried[] = {(tryEdges<places>(), 0)...};
+    }
+    (std::make_index_sequence<std::size(table::kRows)>());
 }
 
 TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {

@@ -1,6 +1,8 @@
 // Random lines and terms against the model: answers, errors, logs, effects in their order, both spaces.
 #include "KeplModel.h"
 #include "ParamSystem/KEPL_Interpreter.h"
+#include "ParamSystem/kepl/Command.h"
+#include "ParamSystem/kepl/Refusal.h"
 
 #include <dlfcn.h>
 #include <map>
@@ -150,7 +152,10 @@ struct Speaker {
         const int kind = random.below(20);
         if (kind < 10) return of("TLX_|TLX_|tlx_|LVR_|lVr_") + variable();
         if (kind < 14) return oneIn(3) ? number() : expression();
-        if (kind < 16) return of(" |save|SAVE x|save_ip|save_sec|update|updated|\x7f");
+        if (kind == 14) return of(" |SAVE x|updated|\x7f");
+        if (kind == 15) // a command word
+            return std::string(
+                talux::kepl::kCommands[1 + random.below(std::size(talux::kepl::kCommands) - 1)].word);
         if (kind < 18)
             return of("load|loading|load_ip|Load_Sec x") +
                    any({"", " ", " x.ini", "  a/b.ini c", " " + std::string(115, 'n') + times(9, 'n')});
@@ -275,7 +280,8 @@ TEST_F(KeplModel, AnswersLines) {
         ASSERT_TRUE(got == wanted) << line << " uid " << uid;
         ++counts[expected.error.empty() ? std::to_string(expected.result) : expected.error];
     }
-    EXPECT_EQ(counts.size(), 23u) << "a way that no line takes any more, or a new one";
+    constexpr std::size_t kRefusals = talux::enumeratorsOf<talux::kepl::Refusal>() - 1; // without `none`
+    EXPECT_EQ(counts.size(), 3 + kRefusals) << "a way that no line takes any more, or a new one";
     for (const auto& [way, times] : counts)
         EXPECT_GT(times, 2) << way;
 }

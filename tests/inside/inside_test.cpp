@@ -1,16 +1,22 @@
 // Values of every kind in both spaces against a small model of the slots, and the bytes of every type.
+#include "ParamSystem/kepl/Command.h"
+#include "ParamSystem/kepl/Refusal.h"
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/store/Values.h"
 #include "tests/Store.h"
 
 #include <cmath>
+#include <fstream>
+#include <iterator>
+#include <regex>
 #include <unistd.h>
 
 namespace {
 
 using namespace talux;
 using talux_test::Random;
+using namespace std::literals;
 
 // "-" for nothing, "=..." for a text, the bits of a number.
 std::string shown(const std::optional<Value>& value) {
@@ -103,6 +109,35 @@ TEST(Inside, NumbersKeepTheWidthOfTheirType) {
                                                        {2007, 8}, {2008, 2}, {2009, 1}, {2010, 1}, {2011, 0}};
     for (const auto& [type, width] : kWidths)
         EXPECT_EQ(kepl::encode(1, type).size, width) << type;
+}
+
+TEST(Inside, RefusalsAndCommandWordsAreOnTheirPageAndKnownToScripts) {
+    const auto contents = [](const char* path) {
+        std::ifstream file(path);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    const std::string page = contents(TALUX_PROJECT "/docs/kepl.md"),
+                      layer = contents(TALUX_PROJECT "/lua/talux.lua");
+    const std::string patterns = layer.substr(layer.find("local refusals"), 400);
+    const auto isRefusal = [&](const std::string& answer) {
+        const std::regex start("\"\\^([^\"$]+)");
+        for (std::sregex_iterator at(patterns.begin(), patterns.end(), start), end; at != end; ++at)
+            if (answer.starts_with((*at)[1].str())) return true;
+        return false;
+    };
+    const auto isShown = [&](const std::string& text) { return page.find("`" + text) != page.npos; };
+    for (std::size_t k = 1; k < enumeratorsOf<kepl::Refusal>(); ++k) {
+        const std::string text = kepl::textOf(static_cast<kepl::Refusal>(k));
+        const std::string bare = std::regex_replace(text, std::regex("<< (.*) >>"), "$1");
+        EXPECT_TRUE(isShown(bare) || isShown(bare.substr(0, 7) + " ..`"))
+            << text << " is not in docs/kepl.md";
+        EXPECT_TRUE(isRefusal(text)) << text << " is no refusal in lua/talux.lua";
+    }
+    for (const kepl::CommandRow& row : kepl::kCommands) {
+        EXPECT_TRUE(isShown(std::string(row.word))) << row.word << " is not in docs/kepl.md";
+        EXPECT_TRUE(row.failure == ""sv || isRefusal(row.failure))
+            << row.failure << " is no refusal in lua/talux.lua";
+    }
 }
 
 } // namespace
