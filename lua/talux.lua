@@ -42,6 +42,8 @@ local function valueOf(answer)
   return numbers.read(answer)
 end
 
+local function read(line) return valueOf(command(line)) end
+
 local arrays = {long = talux_longarray, double = talux_doublearray}
 
 -- Elements of an indexed parameter by their numbers; long and double ones are read in one piece.
@@ -52,8 +54,8 @@ local function elements(row, first, last)
     array.get(buffer, "TLX_" .. row.name, first, last)
     for k = first, last do values[k] = array.getitem(buffer, k - first) end
   else
-    local bytes = command(("TLX_%s %d.%d -h"):format(row.name, first, last)):gsub("^ARRAY:", "")
-    for k, value in ipairs(numbers.fromBytes(bytes)) do values[first + k - 1] = value end
+    local floats = numbers.fromBytes(command(("TLX_%s %d.%d -h"):format(row.name, first, last)))
+    for k = first, last do values[k] = floats[k - first + 1] end
   end
   return values
 end
@@ -64,7 +66,7 @@ local function series(name, first, last)
   for k = first, last do
     local row = dictionary.rowInSeries(name, k)
     if not row then return nil, dictionary.unknown(name .. tostring(k)) end
-    values[k] = valueOf(command("TLX_" .. row.name))
+    values[k] = read("TLX_" .. row.name)
   end
   return values
 end
@@ -106,7 +108,7 @@ function talux.get(name, first, last)
     value, reason = range(name, first, last or first)
     if value and not last then value = value[first] end
   else
-    value = type(name) == "string" and find(name, "^[%w_]+$") and valueOf(command("TLX_" .. name)) or nil
+    value = type(name) == "string" and find(name, "^[%w_]+$") and read("TLX_" .. name) or nil
     if value then lines[name] = "TLX_" .. name else reason = whyNot(name) end
   end
   if value == nil then error(("%s: %s"):format(tostring(name), reason), 2) end
@@ -119,10 +121,7 @@ end
 function talux.record(name)
   local members = (require "talux.records")[name]
   if not members then error(("%s: NO SUCH RECORD"):format(tostring(name)), 2) end
-  local bytes = command(("TLX_%s -h"):format(name)):gsub("^STRUCT:", "")
-  local record = {}
-  for k, value in ipairs(numbers.fromBytes(bytes, members)) do record[members[k].name] = value end
-  return record
+  return numbers.fromBytes(command("TLX_" .. name .. " -h"), members)
 end
 
 -- ---- Writing ----
@@ -136,36 +135,50 @@ end
 -- What cannot be taken back comes last: the clock, then an address, which is applied and saved by its write.
 local rank = {["date of the clock"] = 1, ["time of the clock"] = 1, ["interface address"] = 2}
 
-local function lineOf(name, index) return index and ("TLX_%s %d"):format(name, index) or "TLX_" .. name end
-local function labelOf(name, index) return index and ("%s[%s]"):format(name, tostring(index)) or name end
+local function labelOf(row, index) return index and ("%s[%s]"):format(row.name, tostring(index)) or row.name end
+
+-- A value to write, or nil and the reason why it cannot be. The language prints six digits after the point, so that a
+-- float is read as a multiple.
+local function entryFor(row, index, value)
+  local text, new = nil, checks.index(row, index)
+  if not new then text, new = checks.value(row, value) end
+  if not text then return nil, new end
+  local line = index and ("TLX_%s %d"):format(row.name, index) or "TLX_" .. row.name
+  local query = row.kind == "float" and line .. ",0x1p40,*" or line
+  return {row = row, index = index, line = line, query = query, text = text, new = new}
+end
 
 -- A nearest name takes milliseconds to find: only the first of many unknown names get one.
 local nearest = 4
 
--- One entry for each value to write, or the reasons, one in a line, why some of them cannot be.
+-- All reasons why settings cannot be written, one in a line.
+local function reasonsOf(faults, unknown)
+  table.sort(unknown, function(a, b) return a[1] < b[1] end)
+  for k, fault in ipairs(unknown) do
+    local reason = k <= nearest and dictionary.unknown(fault[1]) or "NO SUCH PARAMETER"
+    faults[#faults + 1] = ("%s = %s: %s"):format(fault[1], tostring(fault[2]), reason)
+  end
+  table.sort(faults)
+  return table.concat(faults, "\n")
+end
+
+-- One entry for each value to write, in the order of the writes, or nil and the reasons.
 local function plan(settings)
   local entries, faults, unknown, taken = {}, {}, {}, {}
   local function add(name, row, index, value)
-    local text, new
-    if not row then
-      unknown[#unknown + 1] = {name, value}
-      return
-    end
-    new = checks.index(row, index)
-    if not new then text, new = checks.value(row, value) end
-    local id = text and row.id + (index or 1) - 1
-    if taken[id] then text, new = nil, "NAMED TWICE" end
-    if text then
-      taken[id] = true
-      entries[#entries + 1] = {row = row, index = index, line = lineOf(row.name, index), text = text, new = new}
+    if not row then unknown[#unknown + 1] = {name, value} return end
+    local entry, reason = entryFor(row, index, value)
+    local id = entry and row.id + (index or 1) - 1
+    if entry and not taken[id] then
+      taken[id], entries[#entries + 1] = true, entry
+      entry.order = ((rank[row.kind] or 0) * 10000 + dictionary.place(row)) * 1000 + (index or 0)
     else
-      faults[#faults + 1] = ("%s = %s: %s"):format(labelOf(row.name, index), tostring(value), new)
+      faults[#faults + 1] = ("%s = %s: %s"):format(labelOf(row, index), tostring(value), reason or "NAMED TWICE")
     end
   end
   for name, value in pairs(settings) do
     local row = dictionary.row(name)
-    if type(value) ~= "table" then
-      add(tostring(name), row, nil, value)
+    if type(value) ~= "table" then add(tostring(name), row, nil, value)
     else
       for k, element in pairs(value) do
         if row then add(name, row, k, element)
@@ -173,40 +186,24 @@ local function plan(settings)
       end
     end
   end
-  table.sort(unknown, function(a, b) return a[1] < b[1] end)
-  for k, fault in ipairs(unknown) do
-    local reason = k <= nearest and dictionary.unknown(fault[1]) or "NO SUCH PARAMETER"
-    faults[#faults + 1] = ("%s = %s: %s"):format(fault[1], tostring(fault[2]), reason)
+  if #faults + #unknown > 0 then return nil, reasonsOf(faults, unknown) end
+  table.sort(entries, function(a, b) return a.order < b.order end)
+  return entries
+end
+
+-- The value in the store, after a term that writes it if one is given; nil and the answer when that is refused.
+local function stored(entry, writing)
+  local row, index = entry.row, entry.index
+  if index then
+    local refusal = writing and command(writing) or ""
+    if refusal ~= "" then return nil, refusal end
+    return elements(row, index, index)[index]
   end
-  table.sort(faults)
-  return #faults == 0 and entries, table.concat(faults, "\n")
-end
-
--- A 32-bit float with all its digits, of which the language prints six after the point: asks for a multiple.
-local function float(line)
-  local value = numbers.single(numbers.read(command(line .. ",0x1p40,*")) / 2 ^ 40)
-  if abs(value) > 1e-9 then return value end
-  return numbers.read(command(line .. ",0x1p149,*")) / 2 ^ 149
-end
-
--- The value in the store.
-local function stored(entry)
-  if entry.index then return elements(entry.row, entry.index, entry.index)[entry.index] end
-  if entry.row.kind == "float" then return float(entry.line) end
-  return valueOf(command(entry.line))
-end
-
--- Notes what is there and how it could be written again.
-local function keepOld(entry)
-  local row, old = entry.row, stored(entry)
-  entry.old, entry.rank = old, rank[row.kind] or 0
-  entry.back = type(old) == "number" and numbers.write(old) or row.length and checks.carried(row, old)
-end
-
-local function goesFirst(a, b)
-  if a.rank ~= b.rank then return a.rank < b.rank end
-  if a.row ~= b.row then return dictionary.place(a.row) < dictionary.place(b.row) end
-  return (a.index or 0) < (b.index or 0)
+  local answer = command(writing and writing .. "," .. entry.query or entry.query)
+  local value = valueOf(answer)
+  if not value or row.kind ~= "float" then return value, answer end
+  if abs(value) > 1e7 then return value / 0x1p40 end
+  return numbers.read(command(entry.line .. ",0x1p149,*")) / 0x1p149 -- a small one has digits left
 end
 
 local function seconds(time)
@@ -216,10 +213,9 @@ end
 
 -- Writes an entry; gives the reason when it is not there afterwards.
 local function write(entry)
-  local answer = command(entry.line .. "=" .. entry.text)
-  if answer ~= "" then return bare(answer) end
-  local found, new = stored(entry), entry.new
+  local new, found, answer = entry.new, stored(entry, entry.line .. "=" .. entry.text)
   if found == new then return end
+  if found == nil then return bare(answer) end
   if entry.row.kind == "time of the clock" and (seconds(found) - seconds(new)) % 86400 < 5 then return end
   return ("NOT STORED (reads %s)"):format(tostring(found))
 end
@@ -229,39 +225,27 @@ local function takeBack(entries, last)
   local lost = {}
   for k = last, 1, -1 do
     local entry = entries[k]
-    if entry.rank == 0 and entry.back then command(entry.line .. "=" .. entry.back) end
-    if stored(entry) ~= entry.old then lost[#lost + 1] = labelOf(entry.row.name, entry.index) end
+    local row, old = entry.row, entry.old
+    local text = type(old) == "number" and numbers.write(old) or row.length and checks.carried(row, old)
+    if text and not rank[row.kind] then command(entry.line .. "=" .. text) end
+    if stored(entry) ~= old then lost[#lost + 1] = labelOf(row, entry.index) end
   end
   return #lost > 0 and "; not taken back: " .. table.concat(lost, ", ") or ""
 end
 
--- What changed, floats as they are usually written.
-local function changesOf(entries)
-  local changes = {}
-  for _, entry in ipairs(entries) do
-    local old, new = entry.old, entry.new
-    if old ~= new then
-      if entry.row.kind == "float" then old, new = numbers.shortest(old), numbers.shortest(new) end
-      changes[#changes + 1] = {name = entry.row.name, index = entry.index, old = old, new = new}
-    end
-  end
-  return changes
-end
-
--- Carries settings out, all or none. Gives the changes in the order of the writes, or nil and the reason.
-local function carryOut(settings)
-  local entries, reasons = plan(settings)
+-- Carries a plan out, all or none; nil and the reason when it fails.
+local function carryOut(entries, reasons)
   if not entries then return nil, reasons end
-  for _, entry in ipairs(entries) do keepOld(entry) end
-  table.sort(entries, goesFirst)
-  for k, entry in ipairs(entries) do
+  for k = 1, #entries do entries[k].old = stored(entries[k]) end
+  for k = 1, #entries do
+    local entry = entries[k]
     local reason = write(entry)
     if reason then
-      local label = labelOf(entry.row.name, entry.index)
-      return nil, ("%s = %s: %s%s"):format(label, tostring(entry.new), reason, takeBack(entries, k))
+      reason = reason .. takeBack(entries, k)
+      return nil, ("%s = %s: %s"):format(labelOf(entry.row, entry.index), tostring(entry.new), reason)
     end
   end
-  return changesOf(entries)
+  return entries
 end
 
 ---Writes a value: checked before, read back afterwards. An error says why not. Numbers with all their digits;
@@ -270,18 +254,28 @@ end
 ---@param value any
 function talux.set(name, value)
   if value == nil then error(("%s = nil: NO VALUE"):format(tostring(name)), 2) end
-  local changes, reason = carryOut {[tostring(name)] = value}
-  if not changes then error(reason, 2) end
+  local row = type(value) ~= "table" and dictionary.row(name)
+  local entry, done, reason = row and entryFor(row, nil, value)
+  if entry then done, reason = carryOut {entry} else done, reason = carryOut(plan {[tostring(name)] = value}) end
+  if not done then error(reason, 2) end
 end
 
 ---Writes all values or none; an error names everything that is refused. Interface addresses go last, since
 ---writing one applies and saves it, which cannot be taken back.
 ---@param settings table<string, any>
----@return talux.Change[]
+---@return talux.Change[] without unchanged values; floats as they are usually written
 function talux.apply(settings)
   if type(settings) ~= "table" then error("a table of settings expected", 2) end
-  local changes, reason = carryOut(settings)
-  if not changes then error(reason, 2) end
+  local entries, reason = carryOut(plan(settings))
+  if not entries then error(reason, 2) end
+  local changes = {}
+  for _, entry in ipairs(entries) do
+    local old, new = entry.old, entry.new
+    if old ~= new then
+      if entry.row.kind == "float" then old, new = numbers.shortest(old), numbers.shortest(new) end
+      changes[#changes + 1] = {name = entry.row.name, index = entry.index, old = old, new = new}
+    end
+  end
   return changes
 end
 
@@ -325,7 +319,7 @@ function talux.load_sec() loadFile("load_sec") end
 
 local function settingsOf(source)
   if type(source) == "table" then return source end
-  local settings, reason = sources.read(tostring(source), function(name) return valueOf(command("TLX_" .. name)) end)
+  local settings, reason = sources.read(tostring(source), read)
   return settings or error(reason, 3)
 end
 
@@ -379,14 +373,19 @@ function talux.parameter(name, language)
   return parameter
 end
 
+-- How settings were answered that had their factory defaults.
+local defaultAnswers = {}
+
 ---The settings whose value in the working copy is not the factory default, which is the old value.
 ---@return talux.Change[]
 function talux.changed()
-  local changes = {}
-  for _, row in ipairs(require "talux.parameters") do
-    local now = row.default and not dictionary.isClock(row) and valueOf(command("TLX_" .. row.name))
-    if now and now ~= row.default then
-      changes[#changes + 1] = {name = row.name, old = row.default, new = now}
+  local changes, settings, lines = {}, dictionary.settings()
+  for k = 1, #settings do
+    local row, answer = settings[k], command(lines[k])
+    if answer ~= defaultAnswers[k] then
+      local now = valueOf(answer)
+      if now == row.default then defaultAnswers[k] = answer
+      else changes[#changes + 1] = {name = row.name, old = row.default, new = now} end
     end
   end
   return changes
@@ -401,8 +400,7 @@ function talux.protocol(changes, language)
   for _, change in ipairs(changes) do
     if type(change) ~= "table" then error("a table of changes expected", 2) end
   end
-  local text = protocol(changes, textsIn(language)) -- no tail call, which would hide the caller's line
-  return text
+  return (protocol(changes, textsIn(language))) -- no tail call, which would hide the caller's line
 end
 
 talux.now = require "talux.clock"

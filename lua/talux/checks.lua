@@ -18,27 +18,23 @@ function checks.range(least, most, unit)
   return (" (%s%s)"):format(text, unit and " " .. unit or "")
 end
 
--- The number that a text stands for.
-local function numberOf(row, text)
-  if row.kind == "enum" then return dictionary.choice(row, text) end
-  if text:find "," then return nil, "NOT A NUMBER (a number has a point)" end
-  return text:find "^%s*[-+]?%.?%d[%d.eE+-]*%s*$" and numbers.read(text), "NOT A NUMBER"
+-- The number that a choice, a switch or a text stands for, or nil and the reason.
+local function numberOf(row, value)
+  if type(value) == "boolean" and row.kind == "bool" then return value and 1 or 0 end
+  if type(value) ~= "string" then return nil, "NOT A NUMBER" end
+  if row.kind == "enum" then return dictionary.choice(row, value) end
+  if value:find "," then return nil, "NOT A NUMBER (a number has a point)" end
+  return value:find "^%s*[-+]?%.?%d[%d.eE+-]*%s*$" and numbers.read(value), "NOT A NUMBER"
 end
 
 local function checkNumber(row, value)
-  if type(value) == "boolean" and row.kind == "bool" then value = value and 1 or 0 end
-  if type(value) == "string" then
-    local reason
-    value, reason = numberOf(row, value)
-    if not value then return nil, reason end
-  end
-  if type(value) ~= "number" or value ~= value then return nil, "NOT A NUMBER" end
-  local least, most = row.min, row.max
-  local isFloat = row.kind == "float"
-  local reason = value < (least or -999999999) and "VALUE TOO LOW" or value > (most or 999999999) and "VALUE TOO HIGH"
-    or not isFloat and row.kind ~= "double" and value % 1 ~= 0 and "NOT A WHOLE NUMBER"
-  if reason then return nil, reason .. checks.range(least, most, row.unit) end
-  return numbers.write(value), isFloat and numbers.single(value) or value
+  local least, most, kind, reason = row.min or -999999999, row.max or 999999999, row.kind
+  if type(value) ~= "number" then value, reason = numberOf(row, value) end
+  if not value or value ~= value then return nil, reason or "NOT A NUMBER" end
+  reason = value < least and "VALUE TOO LOW" or value > most and "VALUE TOO HIGH"
+    or value % 1 ~= 0 and kind ~= "float" and kind ~= "double" and "NOT A WHOLE NUMBER"
+  if reason then return nil, reason .. checks.range(row.min, row.max, row.unit) end
+  return numbers.write(value), kind == "float" and numbers.single(value) or value
 end
 
 local function isAddress(text)

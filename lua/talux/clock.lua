@@ -11,14 +11,13 @@ local function set()
   local pipe = io.popen "date +%s.%N"
   local shown = pipe and pipe:read "*l" or ""
   if pipe then pipe:close() end
-  start = shown:find "^%d+%.%d+$" and numbers.read(shown)
-  if start then
-    start = start - elapsed()
-  else
+  local now = shown:find "^%d+%.%d+$" and numbers.read(shown)
+  if not now then
     local before = os.time()
     repeat talux_usleep(2000) until os.time() ~= before
-    start = os.time() - elapsed()
+    now = os.time()
   end
+  start = now - elapsed()
 end
 
 ---Seconds since 1970, to a hundredth; the clock may be set meanwhile.

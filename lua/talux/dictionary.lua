@@ -17,12 +17,16 @@ local dictionary = {}
 ---@field file? string that keeps the setting
 ---@field level? integer rights that a write takes; absent where nothing can be written
 
-local byName, places
+-- Rows by their names in lower case and as they have been asked for, their places in the menus, settings.
+local byName, places, settings, lines
 
 local function load()
-  byName, places = {}, {}
+  byName, places, settings, lines = {}, {}, {}, {}
   for place, row in ipairs(require "talux.parameters") do
     byName[row.name:lower()], places[row] = row, place
+    if row.default and row.form ~= "date" and row.form ~= "time" then
+      settings[#settings + 1], lines[#lines + 1] = row, "TLX_" .. row.name
+    end
   end
 end
 
@@ -31,7 +35,16 @@ end
 ---@return talux.Row?
 function dictionary.row(name)
   if not byName then load() end
-  return type(name) == "string" and byName[name:lower()] or nil
+  if not byName[name] and type(name) == "string" then byName[name] = byName[name:lower()] end
+  return byName[name]
+end
+
+---The settings without the clock, which shows its time whatever is stored.
+---@return talux.Row[]
+---@return string[] lines that read them
+function dictionary.settings()
+  if not settings then load() end
+  return settings, lines
 end
 
 ---The row of NAME[index] where it is a parameter of its own: BAassign3, prio_list_3.
@@ -44,11 +57,6 @@ end
 ---@param row talux.Row
 ---@return integer
 function dictionary.place(row) return places[row] end
-
----Whether a parameter is the clock's, whatever is stored: Date and Time.
----@param row talux.Row
----@return boolean
-function dictionary.isClock(row) return row.form == "date" or row.form == "time" end
 
 ---Titles, descriptions, choices and notes by the name of the parameter.
 ---@param language "de"|"en"

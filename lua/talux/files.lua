@@ -12,24 +12,19 @@ local function agree(a, b)
   return value and value == numbers.read(b) or asInFile(a) == asInFile(b)
 end
 
-local function linesOf(path)
-  local file, values = assert(io.open(path)), {}
-  for line in file:lines() do
-    local name, value = line:match "^TLX_([%w_]+)=(.*)$"
-    if name then values[name] = value end
-  end
-  file:close()
-  return values
-end
-
 ---The first setting that a file does not hold as it is now.
 ---@param name string
 ---@return string?
 function files.lost(name)
-  local held = linesOf("/" .. name)
-  for _, row in ipairs(require "talux.parameters") do
-    if row.file == name and not dictionary.isClock(row)
-      and not agree(talux_command("TLX_" .. row.name), held[row.name] or "") then return row.name end
+  local file, held = assert(io.open("/" .. name)), {}
+  for line in file:lines() do
+    local parameter, value = line:match "^TLX_([%w_]+)=(.*)$"
+    if parameter then held[parameter] = value end
+  end
+  file:close()
+  local settings, lines = dictionary.settings()
+  for k, row in ipairs(settings) do
+    if row.file == name and not agree(talux_command(lines[k]), held[row.name] or "") then return row.name end
   end
 end
 

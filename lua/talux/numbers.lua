@@ -2,7 +2,7 @@
 -- process, and many parameters are 32-bit floats.
 local numbers = {}
 
-local find, floor, frexp, ldexp, max = string.find, math.floor, math.frexp, math.ldexp, math.max
+local byte, find, floor, frexp, max = string.byte, string.find, math.floor, math.frexp, math.max
 
 local notFinite = {inf = 1 / 0, ["-inf"] = -1 / 0, nan = 0 / 0}
 
@@ -58,21 +58,28 @@ local function asFloat(bits)
   local fraction = bits % 0x800000
   local exponent = (bits - fraction) / 0x800000
   if exponent == 255 then return fraction == 0 and sign / 0 or 0 / 0 end
-  if exponent == 0 then return sign * ldexp(fraction, -149) end
-  return sign * ldexp(fraction + 0x800000, exponent - 150)
+  if exponent == 0 then return sign * fraction * 2 ^ -149 end
+  return sign * (fraction + 0x800000) * 2 ^ (exponent - 150)
 end
 
----What the option -h shows of 32-bit numbers, the lowest byte first: floats, and longs where the members are.
----@param hex string
----@param members? {kind: string}[]
----@return number[]
-function numbers.fromBytes(hex, members)
-  local values, k = {}, 0
-  for word in hex:gsub("(%x%x)(%x%x)(%x%x)(%x%x)", "%4%3%2%1 "):gmatch "%x+" do
-    local bits = tonumber(word, 16)
-    k = k + 1
-    if not members or members[k].kind == "float" then values[k] = asFloat(bits)
-    else values[k] = bits < 0x80000000 and bits or bits - 0x100000000 end
+-- The values of hexadecimal digits by their codes; a list without gaps is faster.
+local digits = {}
+for code = 1, 70 do digits[code] = tonumber(string.char(code), 16) or 0 end
+
+---What the option -h shows of 32-bit numbers, the lowest byte first: floats as a list, or the members of a record.
+---@param answer string
+---@param members? {name: string, kind: string}[]
+---@return table<integer|string, number>
+function numbers.fromBytes(answer, members)
+  local values, start = {}, (find(answer, "\n", 1, true) or 0) - 7 -- a line before the digits says what they are
+  for k = 1, (#answer - start - 7) / 8 do
+    local a, b, c, d, e, f, g, h = byte(answer, start + 8 * k, start + 8 * k + 7)
+    local low = ((digits[c] * 16 + digits[d]) * 16 + digits[a]) * 16 + digits[b]
+    local bits = (((digits[g] * 16 + digits[h]) * 16 + digits[e]) * 16 + digits[f]) * 0x10000 + low
+    local member = members and members[k]
+    if not member then values[k] = asFloat(bits)
+    elseif member.kind == "float" then values[member.name] = asFloat(bits)
+    else values[member.name] = bits < 0x80000000 and bits or bits - 0x100000000 end
   end
   return values
 end

@@ -53,17 +53,14 @@ end
 
 ---The settings that a source holds: "default", "staged", the path of a file or of a folder with the three.
 ---@param source string
----@param read fun(name: string): any of a setting in the working copy
+---@param read fun(line: string): any by which a setting of the working copy is read
 ---@return table<string, any>? settings by name
 ---@return string? reason
 function sources.read(source, read)
   local settings = {}
   if source == "default" or source == "staged" then
-    for _, row in ipairs(require "talux.parameters") do
-      if row.default and not dictionary.isClock(row) then
-        settings[row.name] = source == "default" and row.default or read(row.name)
-      end
-    end
+    local rows, lines = dictionary.settings()
+    for k, row in ipairs(rows) do settings[row.name] = source == "default" and row.default or read(lines[k]) end
     return settings
   end
   local found, reason = readFile(source, settings)
@@ -80,9 +77,9 @@ end
 ---@return talux.Change[]
 function sources.differences(a, b)
   local changes = {}
-  for _, row in ipairs(require "talux.parameters") do
+  for _, row in ipairs(dictionary.settings()) do
     local old, new = a[row.name], b[row.name]
-    if row.default and old ~= nil and new ~= nil and old ~= new and not dictionary.isClock(row) then
+    if old ~= nil and new ~= nil and old ~= new then
       local isSame = row.kind == "float" and numbers.single(old) == numbers.single(new)
       if not isSame then changes[#changes + 1] = {name = row.name, old = old, new = new} end
     end
