@@ -4,6 +4,7 @@
 #define TALUX_TOOLS_JSON_H
 
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <string>
@@ -29,6 +30,14 @@ public:
     Json(std::initializer_list<Member> members); // in this order
 
     static Json array();
+    // Of what `print` makes of each item.
+    template <class Items, class Print = std::identity>
+    static Json array(const Items& items, Print print = {}) {
+        Json all = array();
+        for (const auto& item : items)
+            all.add(std::invoke(print, item));
+        return all;
+    }
 
     Json(Json&&) noexcept;
     Json& operator=(Json&&) noexcept;

@@ -1,7 +1,5 @@
 // talux annotations: a Lua file for editors with language servers, which then know the functions of the
 // module and every parameter.
-#include <memory>
-
 #include "tools/talux/Command.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -137,11 +135,10 @@ Status run(const Context& context) {
 
 } // namespace
 
-void addAnnotations(CommandLine& line, Commands& commands) {
-    Subcommand command(line, "annotations",
-                       {"a Lua file with functions and names for editors",
-                        "Lua-Datei mit Funktionen und Namen für Editoren"});
-    commands.push_back({command, [](const Context& context) { return run(context); }});
+void addAnnotations(CommandLine& line) {
+    line.add("annotations", run,
+             {"a Lua file with functions and names for editors",
+              "Lua-Datei mit Funktionen und Namen für Editoren"});
 }
 
 } // namespace talux::tool

@@ -1,7 +1,6 @@
 // talux boot: what a boot script does once, before any other program of the device.
 #include <algorithm>
 #include <cstdio>
-#include <memory>
 #include <sys/stat.h>
 #include <sys/utsname.h>
 
@@ -12,7 +11,7 @@
 #include "tools/talux/Show.h"
 #include "tools/talux/StoredFile.h"
 #include "tools/talux/Text.h"
-#include "tools/talux/change/Confirm.h"
+#include "tools/talux/change/Apply.h"
 
 namespace talux::tool {
 
@@ -195,19 +194,17 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addBoot(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "boot",
-                       {"what a boot script does: defaults, then the three files",
-                        "Gerätestart: Werkseinstellung, dann die drei Dateien"});
+void addBoot(CommandLine& line) {
+    const auto [command, options] = line.add("boot", run,
+                                             {"what a boot script does: defaults, then the three files",
+                                              "Gerätestart: Werkseinstellung, dann die drei Dateien"});
     command.flag(
-        "--apply", options->apply,
+        "--apply", options.apply,
         {"apply network and clock on any processor", "Netzwerk und Uhr auf jedem Prozessor einstellen"});
-    command.flag("--again", options->again, {"also on a running device", "auch auf einem laufenden Gerät"});
-    command.flag("--fallback", options->fallback,
+    command.flag("--again", options.again, {"also on a running device", "auch auf einem laufenden Gerät"});
+    command.flag("--fallback", options.fallback,
                  {"load the newest dated copy in place of an unusable file",
                   "die neueste datierte Kopie laden, wenn eine Datei unbrauchbar ist"});
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 
 } // namespace talux::tool

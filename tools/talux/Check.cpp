@@ -1,6 +1,5 @@
 // talux check: what a load of a file would change, line by line, and whether what it leaves is plausible.
 #include <map>
-#include <memory>
 
 #include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
@@ -178,25 +177,24 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addCheck(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "check",
-                       {"what a load of a file would change, and what is odd",
-                        "was Laden einer Datei ändern würde und was auffällt"});
+void addCheck(CommandLine& line) {
+    const auto [command, options] = line.add("check", run,
+                                             {"what a load of a file would change, and what is odd",
+                                              "was Laden einer Datei ändern würde und was auffällt"});
     command
-        .argument({"FILE", "DATEI"}, options->files,
+        .argument({"FILE", "DATEI"}, options.files,
                   {"parameter files, or folders with the three of them",
                    "Parameterdateien oder Ordner mit den dreien"})
         .required();
     command.option(
-        "--against", options->against,
+        "--against", options.against,
         {"what to compare with: default (factory settings), live, staged (the working copy), a file or "
          "a folder; if not given, staged on a device, else default",
          "womit verglichen wird: default (Werkseinstellung), live, staged (Arbeitskopie), eine Datei "
          "oder ein Ordner; sonst auf einem Gerät staged, am Schreibtisch default"});
-    command.flag("--notes", options->notes, kNotesHelp);
-    command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
+    command.flag("--notes", options.notes, kNotesHelp);
+    command.json(options.json);
+    command.isPaged = true;
 }
 
 } // namespace talux::tool

@@ -4,9 +4,29 @@
 #include <cstdio>
 #include <new>
 
+#include <CLI/CLI.hpp>
+
 #include "tools/talux/Text.h"
 
 namespace talux::tool {
+
+namespace {
+
+// Refuses values in words of our own: "--level 9: must be .."
+void check(CLI::Option* option, std::string must, const std::function<bool(const std::string&)>& accepts) {
+    option->check([=](const std::string& value) {
+        if (!accepts(value)) throw CouldNot(option->get_name() + " " + value + ": " + must);
+        return std::string();
+    });
+}
+
+std::string shortNumber(double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%g", value);
+    return text;
+}
+
+} // namespace
 
 void report(const CouldNot& error) {
     std::fflush(stdout);
@@ -28,6 +48,153 @@ Status forEachFile(const std::vector<std::string>& paths,
         }
     }
     return status;
+}
+
+Argument& Argument::required() {
+    option->required();
+    return *this;
+}
+
+Argument& Argument::number(bool isWhole) {
+    constexpr Wording kWhole{"must be a whole number", "erwartet wird eine ganze Zahl"};
+    constexpr Wording kNumber{"must be a number", "erwartet wird eine Zahl"};
+    option->type_name(Wording("NUMBER", "ZAHL").in(language));
+    check(option, (isWhole ? kWhole : kNumber).in(language), [isWhole](const std::string& text) {
+        long whole{};
+        double number{};
+        return isWhole ? CLI::detail::lexical_cast(text, whole) : CLI::detail::lexical_cast(text, number);
+    });
+    return *this;
+}
+
+Argument& Argument::inRange(double minimum, double maximum) {
+    constexpr Wording kRange{"must be {} to {}", "zulässig ist {} bis {}"};
+    check(option, fill(kRange.in(language), {shortNumber(minimum), shortNumber(maximum)}),
+          [minimum, maximum](const std::string& text) {
+              double value{};
+              return CLI::detail::lexical_cast(text, value) && value >= minimum && value <= maximum;
+          });
+    return *this;
+}
+
+Argument& Argument::divided(char delimiter) {
+    option->delimiter(delimiter);
+    return *this;
+}
+
+Argument& Argument::oneOf(const std::vector<std::string>& values) {
+    constexpr Wording kOneOf{"must be one of {}", "zulässig ist {}"};
+    check(option, fill(kOneOf.in(language), {list(values)}),
+          [values](const std::string& text) { return std::ranges::find(values, text) != values.end(); });
+    return *this;
+}
+
+template <class Value>
+Argument Command::argument(Wording name, Value& value, Wording help) {
+    return {app->add_option(name.in(language), value, help.in(language))->type_name(""), language};
+}
+
+// Of one value the last that is typed counts.
+template <class Value>
+Argument Command::option(const char* name, Value& value, Wording help) {
+    CLI::Option* const option = app->add_option(name, value, help.in(language));
+    if constexpr (!std::is_same_v<Value, std::vector<std::string>>)
+        option->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    Argument argument(option, language);
+    if constexpr (std::is_arithmetic_v<Value>) argument.number(std::is_integral_v<Value>);
+    return argument;
+}
+
+template Argument Command::argument(Wording, std::string&, Wording);
+template Argument Command::argument(Wording, std::vector<std::string>&, Wording);
+template Argument Command::option(const char*, std::string&, Wording);
+template Argument Command::option(const char*, std::vector<std::string>&, Wording);
+template Argument Command::option(const char*, int&, Wording);
+template Argument Command::option(const char*, long&, Wording);
+template Argument Command::option(const char*, double&, Wording);
+
+void Command::flag(const char* name, bool& value, Wording help) {
+    app->add_flag(name, value, help.in(language));
+}
+
+void Command::json(bool& value) {
+    flag("--json", value, {"print JSON", "als JSON ausgeben"});
+}
+
+std::string Command::name() const {
+    return app->get_name();
+}
+
+// The library's own function would give that of the command that was parsed.
+std::string Command::help() const {
+    const std::string before = app->get_parent() == nullptr ? "" : app->get_parent()->get_name() + " ";
+    return app->get_formatter()->make_help(app, before + name(), CLI::AppFormatMode::Normal);
+}
+
+CommandLine::CommandLine(const char* name, ParamLanguage speech, Wording about)
+    : app(std::make_unique<CLI::App>(about.in(speech), name)), language(speech) {
+    const auto format = app->get_formatter();
+    format->column_width(22);
+    format->label("Usage", Wording("Usage", "Aufruf").in(language));
+    format->label("OPTIONS", Wording("OPTIONS", "OPTIONEN").in(language));
+    format->label("SUBCOMMAND", Wording("COMMAND", "BEFEHL").in(language));
+    format->label("Positionals", Wording("Arguments", "Argumente").in(language));
+    format->label("REQUIRED", "");
+    app->option_defaults()->group(Wording("Options", "Optionen").in(language));
+    app->set_help_flag("-h,--help", Wording("show this help", "diese Hilfe").in(language));
+    app->set_version_flag("--version",
+                          std::string(name) + " " TALUX_VERSION "\nlibrary lib_talux_lua " TALUX_VERSION
+                                              ", linked in\nbuild " TALUX_BUILD,
+                          Wording("show the version", "die Version").in(language));
+    app->require_subcommand(1);
+    app->fallthrough();
+}
+
+CommandLine::~CommandLine() = default;
+
+Command& CommandLine::add(const char* name, Command::Run run, Wording help) {
+    CLI::App* const added = app->add_subcommand(name, help.in(language));
+    added->group(Wording("Commands", "Befehle").in(language));
+    added->get_help_ptr()->group(Wording("Options", "Optionen").in(language));
+    return commands.emplace_back(added, language, std::move(run));
+}
+
+const Command* CommandLine::find(std::string_view name) const {
+    const auto found = std::ranges::find(commands, name, &Command::name);
+    return found == commands.end() ? nullptr : &*found;
+}
+
+// The texts of CLI11 begin with the name of what they are about.
+std::string CommandLine::refusal(const std::string& reason) const {
+    const auto say = [this](Wording pattern, const std::string& name) {
+        return fill(pattern.in(language), {name});
+    };
+    const auto unexpected = app->remaining(true);
+    const bool hasCommand = !app->get_subcommands().empty();
+    if (!unexpected.empty()) {
+        if (hasCommand || unexpected.front().starts_with('-'))
+            return say({"{} is not expected here", "{} ist hier nicht vorgesehen"}, unexpected.front());
+        return say({"{} is not a command", "{} ist kein Befehl"}, unexpected.front());
+    }
+    const std::string name = reason.substr(0, reason.find_first_of(": "));
+    if (name.starts_with('-')) return say({"{} needs a value", "{} braucht einen Wert"}, name);
+    if (!hasCommand) return Wording("the command is missing", "der Befehl fehlt").in(language);
+    return say({"{} is missing", "{} fehlt"}, name);
+}
+
+const Command* CommandLine::parse(int argc, char** argv) {
+    try {
+        app->parse(argc, argv);
+        return find(app->get_subcommands().front()->get_name());
+    } catch (const CLI::Success& asked) {
+        app->exit(asked);
+        return nullptr;
+    } catch (const CLI::ParseError& error) {
+        const auto chosen = app->get_subcommands();
+        const std::string command = chosen.empty() ? "" : " " + chosen.front()->get_name();
+        throw CouldNot(refusal(error.what()) + Wording("; see talux", "; Hilfe: talux").in(language) +
+                       command + " --help");
+    }
 }
 
 } // namespace talux::tool

@@ -1,15 +1,26 @@
-// What the commands of talux share: how they are registered, in which language they speak, how they end.
+// What the commands of talux share: how they are registered and what they take, in which language they speak,
+// how they end. The header of CLI11, which does the work, costs seconds in each source that reads it: only
+// Command.cpp does.
 #ifndef TALUX_TOOLS_TALUX_COMMAND_H
 #define TALUX_TOOLS_TALUX_COMMAND_H
 
+#include <concepts>
+#include <deque>
 #include <functional>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "ParamSystem/TALUX_ParamStrings.h"
-#include "tools/talux/Subcommand.h"
+#include "tools/Strings.h"
+
+namespace CLI {
+class App;
+class Option;
+} // namespace CLI
 
 namespace talux::tool {
 
@@ -21,6 +32,32 @@ struct CouldNot : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+// On the error stream, where control characters of file names cannot forge findings.
+void report(const CouldNot& error);
+
+// Calls look(path) for each; one that could not be looked at is reported and does not keep from the others.
+Status forEachFile(const std::vector<std::string>& paths,
+                   const std::function<Status(const std::string&)>& look);
+
+// A text for people. One without its German does not compile.
+class Wording {
+public:
+    consteval Wording(const char* inEnglish, const char* inGerman) : english(inEnglish), german(inGerman) {}
+    const char* in(ParamLanguage language) const { return language == kGerman ? german : english; }
+
+private:
+    const char* english;
+    const char* german;
+};
+
+// A piece of a message.
+inline std::string_view asText(std::string_view text) {
+    return text;
+}
+std::string asText(std::integral auto number) {
+    return std::to_string(number);
+}
+
 // What the person asked for besides the command.
 struct Context {
     ParamLanguage language = kEnglish;
@@ -30,45 +67,112 @@ struct Context {
     const char* say(const char* english, const char* german) const {
         return language == kGerman ? german : english;
     }
+    // The same with texts and numbers in its gaps "{}".
+    template <class... Pieces>
+    requires(sizeof...(Pieces) > 0) std::string
+        say(const char* english, const char* german, const Pieces&... pieces)
+    const { return fill(say(english, german), {asText(pieces)...}); }
     ParamLanguage otherLanguage() const { return language == kGerman ? kEnglish : kGerman; }
 };
 
-// On the error stream, where control characters of file names cannot forge findings.
-void report(const CouldNot& error);
+class Argument {
+public:
+    Argument(CLI::Option* given, ParamLanguage speech) : option(given), language(speech) {}
 
-// Calls look(path) for each; one that could not be looked at is reported and does not keep from the others.
-Status forEachFile(const std::vector<std::string>& paths,
-                   const std::function<Status(const std::string&)>& look);
+    Argument& required();
+    Argument& number(bool isWhole);
+    Argument& inRange(double minimum, double maximum);
+    Argument& divided(char delimiter); // a value is several
+    Argument& oneOf(const std::vector<std::string>& values);
 
-struct Command {
-    Subcommand given;
-    std::function<Status(const Context&)> run;
-    bool isPaged = false;
+private:
+    CLI::Option* option;
+    ParamLanguage language;
 };
-using Commands = std::vector<Command>;
+
+// A command, or the program itself.
+class Command {
+public:
+    using Run = std::function<Status(const Context&)>;
+    Command(CLI::App* given, ParamLanguage speech, Run whatItDoes = {})
+        : run(std::move(whatItDoes)), app(given), language(speech) {}
+
+    Run run;
+    bool isPaged = false;
+
+    // What is typed without a name, in the order of the calls: a text or several.
+    template <class Value>
+    Argument argument(Wording name, Value& value, Wording help);
+    // Names begin with "-". A text, several texts or a number.
+    template <class Value>
+    Argument option(const char* name, Value& value, Wording help);
+    void flag(const char* name, bool& value, Wording help);
+    void json(bool& value); // --json
+
+    std::string name() const;
+    std::string help() const; // as --help prints it
+
+private:
+    CLI::App* app;
+    ParamLanguage language;
+};
+
+// A command with what is typed for it.
+template <class Options>
+struct Added {
+    Command& command;
+    Options& options;
+};
+
+// What is typed: what the program takes, and its commands.
+class CommandLine {
+public:
+    CommandLine(const char* name, ParamLanguage speech, Wording about);
+    ~CommandLine();
+
+    // Adds a command. Its options keep what they have if nothing is typed.
+    template <class Options>
+    Added<std::remove_const_t<Options>> add(const char* name, Status (*run)(Options&, const Context&),
+                                            Wording help) {
+        const auto options = std::make_shared<std::remove_const_t<Options>>();
+        const auto runIt = [=](const Context& context) { return run(*options, context); };
+        return {add(name, runIt, help), *options};
+    }
+    Command& add(const char* name, Command::Run run, Wording help);
+
+    const Command* find(std::string_view name) const; // null when there is none
+
+    // The command that is typed; null when help was printed instead. Throws CouldNot for arguments that are
+    // wrong.
+    const Command* parse(int argc, char** argv);
+
+    // The program itself, with what all commands take.
+    Command program() const { return {app.get(), language}; }
+
+private:
+    std::string refusal(const std::string& reason) const;
+
+    std::unique_ptr<CLI::App> app;
+    ParamLanguage language;
+    std::deque<Command> commands;
+};
 
 // Each is in the file of the command.
-void addExplain(CommandLine& line, Commands& commands);
-void addList(CommandLine& line, Commands& commands);
-void addCheck(CommandLine& line, Commands& commands);
-void addDiff(CommandLine& line, Commands& commands);
-void addStatus(CommandLine& line, Commands& commands);
-void addFingerprint(CommandLine& line, Commands& commands);
-void addReport(CommandLine& line, Commands& commands);
-void addShell(CommandLine& line, Commands& commands);
-void addLint(CommandLine& line, Commands& commands);
-void addAnnotations(CommandLine& line, Commands& commands);
-void addBoot(CommandLine& line, Commands& commands);
-void addWatch(CommandLine& line, Commands& commands);
-void addSet(CommandLine& line, Commands& commands);
-void addApply(CommandLine& line, Commands& commands);
-void addUndo(CommandLine& line, Commands& commands);
-void addDiscard(CommandLine& line, Commands& commands);
-void addHistory(CommandLine& line, Commands& commands);
-void addRestore(CommandLine& line, Commands& commands);
-void addClone(CommandLine& line, Commands& commands);
-void addAddress(CommandLine& line, Commands& commands);
-void addConfirm(CommandLine& line, Commands& commands);
+void addExplain(CommandLine& line);
+void addList(CommandLine& line);
+void addCheck(CommandLine& line);
+void addDiff(CommandLine& line);
+void addStatus(CommandLine& line);
+void addFingerprint(CommandLine& line);
+void addReport(CommandLine& line);
+void addWatch(CommandLine& line);
+void addChanges(CommandLine& line);  // set, apply, undo, discard
+void addVersions(CommandLine& line); // history, restore, clone
+void addAddress(CommandLine& line);  // address, confirm
+void addShell(CommandLine& line);
+void addLint(CommandLine& line);
+void addBoot(CommandLine& line);
+void addAnnotations(CommandLine& line);
 
 } // namespace talux::tool
 

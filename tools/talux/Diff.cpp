@@ -1,5 +1,4 @@
 // talux diff: in what two sources differ.
-#include <memory>
 
 #include "tools/talux/Command.h"
 #include "tools/talux/Notes.h"
@@ -75,18 +74,17 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addDiff(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "diff",
-                       {"in which settings two sources differ", "worin sich zwei Quellen unterscheiden"});
+void addDiff(CommandLine& line) {
+    const auto [command, options] = line.add(
+        "diff", run, {"in which settings two sources differ", "worin sich zwei Quellen unterscheiden"});
     command
-        .argument({"SOURCE", "QUELLE"}, options->sources,
+        .argument({"SOURCE", "QUELLE"}, options.sources,
                   {"[A] B, each default, live, staged, a file or a folder; A is live if not given",
                    "[A] B, je default, live, staged, eine Datei oder ein Ordner; A ist sonst live"})
         .required();
-    command.flag("--notes", options->notes, kNotesHelp);
-    command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
+    command.flag("--notes", options.notes, kNotesHelp);
+    command.json(options.json);
+    command.isPaged = true;
 }
 
 } // namespace talux::tool

@@ -2,7 +2,6 @@
 #include "tools/talux/Explain.h"
 
 #include <algorithm>
-#include <memory>
 #include <sys/stat.h>
 #include <utility>
 
@@ -415,22 +414,21 @@ void explain(const std::string& name, const Context& context) {
     run({.words = {name}, .live = isDeviceThere()}, context);
 }
 
-void addExplain(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "explain",
-                       {"what a name, an id, a choice or a word means",
-                        "was ein Name, eine Id, eine Auswahl oder ein Wort bedeutet"});
+void addExplain(CommandLine& line) {
+    const auto [command, options] = line.add("explain", run,
+                                             {"what a name, an id, a choice or a word means",
+                                              "was ein Name, eine Id, eine Auswahl oder ein Wort bedeutet"});
     command
-        .argument({"NAME|WORD", "NAME|WORT"}, options->words,
+        .argument({"NAME|WORD", "NAME|WORT"}, options.words,
                   {"names of parameters, series (BAassign) or members of records (MessRecord01.U1p), ids, "
                    "choices by number or text, or words to look for in the texts",
                    "Namen von Parametern, Reihen (BAassign) oder Feldern von Datensätzen (MessRecord01.U1p), "
                    "Ids, Auswahlen als Zahl oder Text oder Wörter, die in den Texten gesucht werden"})
         .required();
-    command.flag("--live", options->live,
+    command.flag("--live", options.live,
                  {"also the values of the running device", "auch die Werte des laufenden Geräts"});
-    command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
+    command.json(options.json);
+    command.isPaged = true;
 }
 
 } // namespace talux::tool

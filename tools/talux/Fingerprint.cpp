@@ -2,7 +2,6 @@
 #include "tools/talux/Listing.h"
 
 #include <algorithm>
-#include <memory>
 #include <sys/types.h>
 
 #include <sha2.h>
@@ -75,20 +74,18 @@ std::string fingerprintOf(const Listing& listing) {
     return digits;
 }
 
-void addFingerprint(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "fingerprint",
-                       {"a checksum: are settings the same?", "Prüfsumme: sind Einstellungen gleich?"});
-    command.argument({"SOURCE", "QUELLE"}, options->source, {"live if not given", "sonst live"});
-    command.option("--file", options->file,
+void addFingerprint(CommandLine& line) {
+    const auto [command, options] = line.add(
+        "fingerprint", run, {"a checksum: are settings the same?", "Prüfsumme: sind Einstellungen gleich?"});
+    command.argument({"SOURCE", "QUELLE"}, options.source, {"live if not given", "sonst live"});
+    command.option("--file", options.file,
                    {"only the settings of the file whose name begins with this",
                     "nur die Einstellungen der Datei, deren Name so beginnt"});
-    command.flag("--shared", options->shared,
+    command.flag("--shared", options.shared,
                  {"without what belongs to the single device: see list --individual",
                   "ohne was zum einzelnen Gerät gehört: siehe list --individual"});
-    command.flag("--listing", options->listing,
+    command.flag("--listing", options.listing,
                  {"print the text that the SHA-256 is made of", "ausgeben, wovon die SHA-256 gebildet wird"});
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 
 } // namespace talux::tool

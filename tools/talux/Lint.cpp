@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <filesystem>
 #include <iterator>
-#include <memory>
 #include <optional>
 #include <set>
 #include <system_error>
@@ -441,25 +440,24 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addLint(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "lint",
-                       {"check every line of a script without running it",
-                        "jede Zeile eines Skripts prüfen, ohne es auszuführen"});
+void addLint(CommandLine& line) {
+    const auto [command, options] = line.add("lint", run,
+                                             {"check every line of a script without running it",
+                                              "jede Zeile eines Skripts prüfen, ohne es auszuführen"});
     command
         .argument(
-            {"FILE", "DATEI"}, options->files,
+            {"FILE", "DATEI"}, options.files,
             {"scripts or folders with scripts; *.lua is Lua, *.md is read for its Lua blocks, all others "
              "are lines of KEPL",
              "Skripte oder Ordner mit Skripten; *.lua ist Lua, aus *.md werden die Lua-Blöcke gelesen, alles "
              "andere sind KEPL-Zeilen"})
         .required();
     command
-        .option("--level", options->level,
+        .option("--level", options.level,
                 {"rights level of KEPL lines, 0 to 3; 3 if not given",
                  "Rechtestufe der KEPL-Zeilen, 0 bis 3; sonst 3"})
         .inRange(0, 3);
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
+    command.isPaged = true;
 }
 
 } // namespace talux::tool

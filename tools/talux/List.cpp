@@ -1,6 +1,5 @@
 // talux list: names and values.
 #include <algorithm>
-#include <memory>
 
 #include "tools/talux/Command.h"
 #include "tools/talux/Lookup.h"
@@ -118,26 +117,25 @@ Status run(Options& options, const Context& context) {
 
 } // namespace
 
-void addList(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "list", {"names and values", "Namen und Werte"});
-    command.argument({"FILTER", "FILTER"}, options->filter.names,
+void addList(CommandLine& line) {
+    const auto [command, options] = line.add("list", run, {"names and values", "Namen und Werte"});
+    command.argument({"FILTER", "FILTER"}, options.filter.names,
                      {"parts of names, or patterns with * and ?", "Teile von Namen oder Muster mit * und ?"});
-    command.option("--of", options->source,
+    command.option("--of", options.source,
                    {"whose values: default, live, staged, a file or a folder",
                     "wessen Werte: default, live, staged, eine Datei oder ein Ordner"});
-    command.flag("--families", options->families, {"the names of the families", "die Namen der Familien"});
-    command.flag("--methods", options->methods,
+    command.flag("--families", options.families, {"the names of the families", "die Namen der Familien"});
+    command.flag("--methods", options.methods,
                  {"the names of the detection methods", "die Namen der Erfassungsverfahren"});
-    command.flag("--changed", options->changed,
+    command.flag("--changed", options.changed,
                  {"only what is not the factory default", "nur was nicht der Werkseinstellung entspricht"});
     command.option(
-        "--uses", options->uses,
+        "--uses", options.uses,
         {"only what is set to this output function (number) or to a choice with this text",
          "nur was auf diese Ausgangsfunktion (Nummer) oder eine Auswahl mit diesem Text eingestellt ist"});
-    options->filter.addTo(command);
-    command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }, true});
+    options.filter.addTo(command);
+    command.json(options.json);
+    command.isPaged = true;
 }
 
 } // namespace talux::tool

@@ -7,7 +7,6 @@
 
 #include "tools/Json.h"
 #include "tools/talux/Lookup.h"
-#include "tools/talux/Subcommand.h"
 
 namespace talux::tool {
 

@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
-#include <memory>
 #include <utility>
 
 #include "tools/talux/Command.h"
@@ -200,21 +199,19 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addReport(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "report",
-                       {"a settings record to print and sign, as HTML",
-                        "Einstellprotokoll zum Drucken und Unterschreiben (HTML)"});
+void addReport(CommandLine& line) {
+    const auto [command, options] = line.add("report", run,
+                                             {"a settings record to print and sign, as HTML",
+                                              "Einstellprotokoll zum Drucken und Unterschreiben (HTML)"});
     command
-        .argument({"SOURCE", "QUELLE"}, options->source,
+        .argument({"SOURCE", "QUELLE"}, options.source,
                   {"live, staged, default, a file or a folder",
                    "live, staged, default, eine Datei oder ein Ordner"})
         .required();
-    command.option("-o,--output", options->output, {"write to this file", "in diese Datei schreiben"});
-    command.option("--title", options->title, {"title of the record", "Titel des Protokolls"});
-    command.flag("--changed", options->changed,
+    command.option("-o,--output", options.output, {"write to this file", "in diese Datei schreiben"});
+    command.option("--title", options.title, {"title of the record", "Titel des Protokolls"});
+    command.flag("--changed", options.changed,
                  {"only what is not the factory setting", "nur was nicht der Werkseinstellung entspricht"});
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 
 } // namespace talux::tool

@@ -65,7 +65,7 @@ std::vector<const Parameter*> search(const std::vector<std::string>& words) {
     return found;
 }
 
-void Filter::addTo(Subcommand& command) {
+void Filter::addTo(Command& command) {
     command.option("--family", family,
                    {"only families whose name contains this, in English or German",
                     "nur Familien, deren Name dies enthält, englisch oder deutsch"});

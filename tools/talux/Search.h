@@ -24,7 +24,7 @@ struct Filter {
     bool individual = false;        // only what belongs to the single device
     bool noLimits = false;          // only settings whose numbers are not limited
 
-    void addTo(Subcommand& command);
+    void addTo(Command& command);
     // The words of the person stand for something; throws CouldNot otherwise. Before accepts().
     void check(const Context& context);
     bool isEmpty() const { // accepts everything

@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <memory>
 #include <unistd.h>
 
 #include "ParamSystem/KEPL_Interpreter.h"
@@ -119,7 +118,7 @@ private:
     KEPL_Interpreter interpreter;
 
     Status stopped(bool isMoreToCome) const {
-        const int pending = pendingSettings(context);
+        const int pending = static_cast<int>(pendingSettings(context));
         if (isMoreToCome || pending > 0)
             std::fprintf(stderr,
                          context.say("  stopped here; pending settings: %d, see talux status\n",
@@ -129,9 +128,11 @@ private:
     }
 
     // A line from a pipe has been thought of before.
-    bool change(Status (*command)(bool isAgreed, const Context& context)) const {
+    bool change(ChangeCommand command) const {
         try {
-            return command(!isPerson, context) != kCouldNot;
+            Order order;
+            order.yes = !isPerson;
+            return command(order, context) != kCouldNot;
         } catch (const CouldNot& error) {
             report(error);
             return false;
@@ -164,8 +165,8 @@ private:
         if (line == kHelpWord) return print(context.say(kHelpEnglish, kHelpGerman)), true;
         if (line.starts_with(kHelpWord) && line[kHelpWord.size()] == ' ')
             return explainName(line.substr(kHelpWord.size() + 1));
-        if (line == kUndoWord) return change(undoLast);
-        if (line == kDiscardWord) return change(discardPending);
+        if (line == kUndoWord) return change(undo);
+        if (line == kDiscardWord) return change(discard);
         return !isWanted(line) || evaluate(line);
     }
 
@@ -227,19 +228,17 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addShell(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "shell",
-                       {"the command language with completion, history, help",
-                        "Befehlssprache mit Ergänzung, Verlauf und Hilfe"});
+void addShell(CommandLine& line) {
+    const auto [command, options] = line.add("shell", run,
+                                             {"the command language with completion, history, help",
+                                              "Befehlssprache mit Ergänzung, Verlauf und Hilfe"});
     command
-        .option("--level", options->level,
+        .option("--level", options.level,
                 {"rights level, 0 to 3; 2 if not given", "Rechtestufe, 0 bis 3; sonst 2"})
         .inRange(0, 3);
     command.flag(
-        "--keep-going", options->keepGoing,
+        "--keep-going", options.keepGoing,
         {"go on after a refused line of a pipe", "nach einer abgelehnten Zeile aus einer Pipe weitermachen"});
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 
 } // namespace talux::tool

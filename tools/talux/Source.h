@@ -5,6 +5,7 @@
 
 #include <map>
 #include <optional>
+#include <ranges>
 #include <string>
 #include <vector>
 
@@ -79,6 +80,13 @@ void readEntries(const std::string& path, const Context& context,
 
 // The two that show the clock: kept in files, never part of a comparison.
 bool isOfClock(const Parameter& parameter);
+
+// All settings but those two, in menu order.
+inline auto settings() {
+    return reference::parameters() | std::views::filter([](const Parameter& parameter) {
+               return parameter.isSetting() && !isOfClock(parameter);
+           });
+}
 
 // Belongs to the single device: its name, addresses, station numbers and calibration.
 inline bool isIndividual(const Parameter& parameter) {

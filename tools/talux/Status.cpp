@@ -1,6 +1,5 @@
 // talux status: what update and save would change, and which of it reaches the network.
 #include <algorithm>
-#include <memory>
 #include <unistd.h>
 
 #include "ParamSystem/network/SettingIds.h"
@@ -185,16 +184,14 @@ Status run(const Options& options, const Context& context) {
 
 } // namespace
 
-void addStatus(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "status",
-                       {"what update and save would change on this device",
-                        "was update und save an diesem Gerät ändern würden"});
-    command.flag("--plausible", options->plausible,
+void addStatus(CommandLine& line) {
+    const auto [command, options] = line.add("status", run,
+                                             {"what update and save would change on this device",
+                                              "was update und save an diesem Gerät ändern würden"});
+    command.flag("--plausible", options.plausible,
                  {"also what is implausible in the working copy: see parameters/plausibility.md",
                   "auch was in der Arbeitskopie kaum gemeint sein kann: siehe parameters/plausibility.md"});
-    command.flag("--json", options->json, {"print JSON", "als JSON ausgeben"});
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
+    command.json(options.json);
 }
 
 } // namespace talux::tool

@@ -91,6 +91,29 @@ std::vector<std::string> linesOf(std::string_view text) {
     return lines;
 }
 
+std::string_view takeUpTo(std::string_view& text, char end) {
+    const auto at = std::min(text.find(end), text.size());
+    const auto piece = text.substr(0, at);
+    text.remove_prefix(std::min(at + 1, text.size()));
+    return piece;
+}
+
+std::string_view withoutBlanks(std::string_view text) {
+    constexpr const char* kBlanks = " \t\r";
+    const auto first = text.find_first_not_of(kBlanks);
+    return first == text.npos ? "" : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::string timeText(const std::tm& time, const char* format) {
+    char text[32];
+    return {text, std::strftime(text, sizeof text, format, &time)};
+}
+
+std::string localTimeText(std::time_t seconds, const char* format) {
+    std::tm local{};
+    return localtime_r(&seconds, &local) == nullptr ? std::string() : timeText(local, format);
+}
+
 bool isUtf8(std::string_view text) {
     while (!text.empty()) {
         const std::size_t length = characterAt(text);

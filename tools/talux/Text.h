@@ -2,6 +2,7 @@
 #ifndef TALUX_TOOLS_TALUX_TEXT_H
 #define TALUX_TOOLS_TALUX_TEXT_H
 
+#include <ctime>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,15 @@ std::string padded(std::string text, std::size_t columns);
 std::string cut(const std::string& line, std::size_t columns);
 
 std::vector<std::string> linesOf(std::string_view text);
+
+// The piece in front of `end`, which is taken off with it; all of it where there is none.
+std::string_view takeUpTo(std::string_view& text, char end);
+
+// Without blanks at both ends, a carriage return included.
+std::string_view withoutBlanks(std::string_view text);
+
+std::string timeText(const std::tm& time, const char* format = "%Y-%m-%d %H:%M:%S");
+std::string localTimeText(std::time_t seconds, const char* format = "%Y-%m-%d %H:%M:%S");
 
 bool containsIgnoringCase(std::string_view text, std::string_view part);
 

@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <ctime>
 #include <iterator>
-#include <memory>
 
 #include "tools/talux/Command.h"
 #include "tools/talux/Screen.h"
@@ -223,34 +222,32 @@ Status run(Options& options, const Context& context) {
 
 } // namespace
 
-void addWatch(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "watch",
-                       {"live values, updated in place", "gültige Werte, laufend aktualisiert"});
+void addWatch(CommandLine& line) {
+    const auto [command, options] =
+        line.add("watch", run, {"live values, updated in place", "gültige Werte, laufend aktualisiert"});
     command.argument(
-        {"NAME", "NAME"}, options->names,
+        {"NAME", "NAME"}, options.names,
         {"parameters, series (BAassign), patterns (U*_prim), records, members of records; 'NAME I' or "
          "'NAME I.J' for elements",
          "Parameter, Reihen (BAassign), Muster (U*_prim), Datensätze, Felder von Datensätzen; 'NAME I' oder "
          "'NAME I.J' für Elemente"});
-    options->filter.addTo(command);
-    command.option("--until", options->until,
+    options.filter.addTo(command);
+    command.option("--until", options.until,
                    {"end when this holds: 'U0_prim > 5'; exit status 1 if it ends before",
                     "enden, sobald dies gilt: 'U0_prim > 5'; Rückgabewert 1, wenn es vorher endet"});
-    command.flag("--min-max", options->minMax,
+    command.flag("--min-max", options.minMax,
                  {"also minimum and maximum so far", "auch bisheriges Minimum und Maximum"});
     command
         .option(
-            "--period", options->period,
+            "--period", options.period,
             {"seconds between two readings; 1 if not given", "Sekunden zwischen zwei Ablesungen; sonst 1"})
         .inRange(0.01, 86400.0);
-    command.option("--count", options->count,
+    command.option("--count", options.count,
                    {"end after this many readings", "nach so vielen Ablesungen enden"});
-    command.flag("--csv", options->csv,
+    command.flag("--csv", options.csv,
                  {"one row per reading, for spreadsheets", "eine Zeile je Ablesung, für Tabellenprogramme"});
-    command.flag("--decimal-comma", options->decimalComma,
+    command.flag("--decimal-comma", options.decimalComma,
                  {"CSV with decimal commas and semicolons", "CSV mit Dezimalkomma und Semikolon"});
-    commands.push_back({command, [options](const Context& context) { return run(*options, context); }});
 }
 
 } // namespace talux::tool

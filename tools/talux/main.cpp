@@ -1,5 +1,4 @@
 // talux: one program for the person at the relay and at the desk.
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -46,67 +45,50 @@ ParamLanguage languageOf(int argc, char** argv) {
     return language;
 }
 
-void addCommands(CommandLine& line, Commands& commands) {
-    for (const auto add :
-         {addExplain, addList,    addCheck,   addDiff,  addStatus,  addFingerprint, addReport,
-          addWatch,   addSet,     addApply,   addUndo,  addDiscard, addHistory,     addRestore,
-          addClone,   addAddress, addConfirm, addShell, addLint,    addBoot,        addAnnotations})
-        add(line, commands);
-}
-
-Status written(Status status, const Context& context) {
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
-        throw CouldNot(context.say("the output cannot be written", "die Ausgabe lässt sich nicht schreiben"));
-    return status;
-}
-
 // Of the program, a command or a parameter.
-void addHelp(CommandLine& line, Commands& commands) {
+void addHelp(CommandLine& line) {
     const auto names = std::make_shared<std::vector<std::string>>();
-    Subcommand help(line, "help",
-                    {"this help, that of a command, or what a name means",
-                     "diese Hilfe, die eines Befehls oder was ein Name bedeutet"});
-    help.argument({"NAME", "NAME"}, *names,
+    const auto help = [names, &line](const Context& context) {
+        if (names->empty()) print(line.program().help());
+        for (const std::string& name : *names)
+            if (const Command* const command = line.find(name))
+                print(command->help());
+            else
+                explain(name, context);
+        return kNothing;
+    };
+    line.add("help", help,
+             {"this help, that of a command, or what a name means",
+              "diese Hilfe, die eines Befehls oder was ein Name bedeutet"})
+        .argument({"NAME", "NAME"}, *names,
                   {"a command, or a name as explain takes it", "ein Befehl oder ein Name wie bei explain"});
-    commands.push_back({help, [names, &line, &commands](const Context& context) {
-                            if (names->empty()) print(line.help());
-                            for (const std::string& name : *names) {
-                                const auto command = std::ranges::find(
-                                    commands, name, [](const Command& known) { return known.given.name(); });
-                                if (command != commands.end())
-                                    print(command->given.help());
-                                else
-                                    explain(name, context);
-                            }
-                            return kNothing;
-                        }});
-}
-
-Status runChosen(const Commands& commands, const Context& context) {
-    const auto chosen =
-        std::ranges::find_if(commands, [](const Command& command) { return command.given.isChosen(); });
-    std::optional<Pager> pager;
-    if (chosen->isPaged) pager.emplace();
-    try {
-        return written(chosen->run(context), context);
-    } catch (const CouldNot& error) {
-        report(error);
-        return kCouldNot;
-    }
 }
 
 Status run(int argc, char** argv, Context& context) {
     CommandLine line("talux", context.language, kAbout);
     std::string language;
-    line.option("--language", language,
+    line.program()
+        .option("--language", language,
                 {"de or en; by default that of the environment", "de oder en; sonst die der Umgebung"})
         .oneOf({"de", "en"});
-    line.option("--directory", context.directory,
-                {"where the device keeps its files; by default /", "Ordner der Parameterdateien; sonst /"});
-    Commands commands;
-    addCommands(line, commands);
-    addHelp(line, commands);
-    return line.parse(argc, argv) ? runChosen(commands, context) : written(kNothing, context);
+    line.program().option(
+        "--directory", context.directory,
+        {"where the device keeps its files; by default /", "Ordner der Parameterdateien; sonst /"});
+    for (const auto add :
+         {addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport, addWatch, addChanges,
+          addVersions, addAddress, addShell, addLint, addBoot, addAnnotations, addHelp})
+        add(line);
+    std::optional<Pager> pager;
+    try {
+        const Command* const command = line.parse(argc, argv);
+        if (command != nullptr && command->isPaged) pager.emplace();
+        const Status status = command == nullptr ? kNothing : command->run(context);
+        if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
+        throw CouldNot(context.say("the output cannot be written", "die Ausgabe lässt sich nicht schreiben"));
+    } catch (const CouldNot& error) {
+        report(error);
+        return kCouldNot;
+    }
 }
 
 } // namespace
@@ -117,10 +99,8 @@ int main(int argc, char** argv) {
         Context context;
         context.language = languageOf(argc, argv);
         return run(argc, argv, context);
-    } catch (const CouldNot& error) {
-        report(error);
     } catch (const std::exception& error) { // of memory, for instance
         std::fprintf(stderr, "talux: %s\n", error.what());
+        return kCouldNot;
     }
-    return kCouldNot;
 }

@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdio>
 #include <ctime>
+#include <iostream>
 #include <unistd.h>
 
 #include "ParamSystem/KEPL_Interpreter.h"
@@ -11,6 +12,7 @@
 #include "ParamSystem/network/SettingIds.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Os.h"
+#include "tools/talux/Difference.h"
 #include "tools/talux/Files.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
@@ -20,14 +22,16 @@ namespace talux::tool {
 
 namespace {
 
+using reference::File;
+
 constexpr int kClockTolerance = 5; // seconds between the write and the look
 
-void store(const Parameter& parameter, int id, const Value& value) {
-    writeValue(parameter.row().is_volatile == 1 ? Space::global : Space::temp, id, value);
+void store(const Write& write, const Value& value) {
+    writeValue(write.parameter->row().is_volatile == 1 ? Space::global : Space::temp, write.id(), value);
 }
 
-bool isThere(const Write& write) {
-    const auto found = present(*write.parameter, write.id());
+bool hasArrived(const Write& write) {
+    const auto found = write.present();
     if (!write.setsClock() || write.parameter->type().nature == Nature::date || !found)
         return sameValue(found, write.to);
     const auto seconds = [](const char* text) {
@@ -41,7 +45,7 @@ bool isThere(const Write& write) {
 // Addresses are only stored here.
 void writeOne(const Write& write, const Context& context) {
     if (write.parameter->row().userlevel > 2) os::logInfo("sec param: %s", write.label().c_str());
-    if (!write.setsClock()) return store(*write.parameter, write.id(), write.to);
+    if (!write.setsClock()) return store(write, write.to);
     std::string directory = context.directory, line = fill("TLX_{}={}", {write.label(), write.to.text()});
     char answer[kKeplTextSize + 2] = "", end[] = "";
     KEPL_Interpreter(directory.data()).ProcessLine(line.data(), nullptr, answer, end, 3);
@@ -73,73 +77,63 @@ private:
 class Change {
 public:
     Change(const Writes& planned, const Order& given, const Context& person)
-        : order(given), context(person), journal(Journal::begun(given.what, given.reach(), planned)) {}
+        : order(given), context(person), journal(Journal::begun(given.what, given.reach(), planned)),
+          writes(journal.writes) {}
 
     Status run() {
-        if (journal.writes.empty() && order.reach() == Reach::pending) return show(), kNothing;
-        if (order.dryRun) return show(), journal.writes.empty() ? kNothing : kFound;
+        if (order.dryRun || (writes.empty() && order.reach() == Reach::pending))
+            return show(), writes.empty() ? kNothing : kFound;
         if (!order.json) show();
         if (!order.yes && !isAgreed(question(), context)) {
             std::fputs(context.say("nothing is written\n", "nichts ist geschrieben\n"), stderr);
             return kFound;
         }
-        const OneAtATime guard(context);
         writeAll();
+        isConfirmed = !order.isConfirmed || order.isConfirmed();
         if (order.json) show();
-        return kNothing;
+        return isConfirmed ? kNothing : kFound;
     }
 
 private:
     const Order& order;
     const Context& context;
     Journal journal;
+    const Writes& writes;
+    bool isConfirmed = false;
 
-    const Writes& writes() const { return journal.writes; }
     bool isApplied() const {
-        return order.apply && (order.appliesAll || std::ranges::any_of(writes(), &Write::actsAtOnce));
+        return order.apply && (order.appliesAll || std::ranges::any_of(writes, &Write::actsAtOnce));
     }
 
     void show() const {
         if (order.json) return showJson();
         const Paint paint;
         Table table;
-        for (const Write& write : writes())
-            table.add({paint.bold(write.label()),
-                       paint.changed(change(*write.parameter, write.from, write.to, context)),
+        for (const Write& write : writes)
+            table.add({paint.bold(write.label()), paint.changed(write.change(context)),
                        paint.dim(write.parameter->title(context.language))});
-        print(writes().empty() ? context.say("nothing to change\n", "nichts zu ändern\n") : table.text());
+        print(writes.empty() ? context.say("nothing to change\n", "nichts zu ändern\n") : table.text());
         for (const Implausible& found : implausible())
             print((found.isFault() ? paint.bad(found.text) : found.text) + "\n");
         std::fflush(stdout);
     }
 
     void showJson() const {
-        Json changes = Json::array();
-        for (const Write& write : writes())
-            changes.add({{"name", write.label()},
-                         {"from", json(*write.parameter, write.from)},
-                         {"to", json(*write.parameter, write.to)},
-                         {"network", network::reachesSystem(write.parameter->row().id)}});
-        Json found = Json::array();
-        for (const Implausible& each : implausible())
-            found.add(described(each));
-        print(Json{
-            {"written", journal.isDone}, {"changes", std::move(changes)}, {"implausible", std::move(found)}}
-                  .text());
+        Json all{{"written", journal.isDone},
+                 {"changes", changesJson(writes)},
+                 {"implausible", Json::array(implausible(), described)}};
+        if (order.isConfirmed) all.set("confirmed", isConfirmed);
+        print(all.text());
     }
 
     // What the settings would be that are hardly meant, as far as these writes have a part in it.
     std::vector<Implausible> implausible() const {
-        const auto writeOf = [this](const Parameter& parameter) {
-            return std::ranges::find_if(writes(), [&](const Write& write) {
-                return write.index == 0 && write.parameter == &parameter;
-            });
-        };
-        const auto isWritten = [&](const Parameter& parameter) {
-            return writeOf(parameter) != writes().end();
-        };
+        std::map<const Parameter*, Value> written;
+        for (const Write& write : writes)
+            if (write.index == 0) written.emplace(write.parameter, write.to);
+        const auto isWritten = [&](const Parameter& parameter) { return written.contains(&parameter); };
         const auto after = [&](const Parameter& parameter) {
-            return isWritten(parameter) ? std::optional(writeOf(parameter)->to)
+            return isWritten(parameter) ? std::optional(written.at(&parameter))
                                         : present(parameter, parameter.row().id);
         };
         std::vector<Implausible> all;
@@ -150,20 +144,19 @@ private:
     }
 
     std::string question() const {
-        std::string text = fill(context.say("Write {}?", "{} schreiben?"),
-                                {counted(writes().size(), context.say(" setting", " Einstellung"),
-                                         context.say(" settings", " Einstellungen"))});
+        std::string text = context.say("Write {}?", "{} schreiben?",
+                                       counted(writes.size(), context.say(" setting", " Einstellung"),
+                                               context.say(" settings", " Einstellungen")));
         if (isApplied() && !order.appliesAll)
             text += context.say(" The address is applied at once and may cut you off: `talux address` takes "
                                 "it back by itself.",
                                 " Die Adresse wird sofort angewendet und kann die Verbindung trennen: `talux "
                                 "address` nimmt sie "
                                 "selbst zurück.");
-        const int others = pendingSettings(context);
+        const auto others = pendingSettings(context);
         if ((isApplied() || order.reach() != Reach::pending) && others > 0)
-            text += fill(context.say(" Other pending settings become live, too: {}.",
-                                     " Weitere anstehende Einstellungen werden gültig: {}."),
-                         {std::to_string(others)});
+            text += context.say(" Other pending settings become live, too: {}.",
+                                " Weitere anstehende Einstellungen werden gültig: {}.", others);
         return text;
     }
 
@@ -172,49 +165,49 @@ private:
         constexpr mode_t kOwnerAlone = 0600; // there may be passwords in it
         const Rights rights{getuid(), getgid(), kOwnerAlone};
         if (!order.protocol.empty()) replace(order.protocol, journal.text(context), context, &rights);
-        if (!writes().empty()) replace(lastChange(context), journal.text(context), context, &rights);
+        if (!writes.empty()) replace(lastChange(context), journal.text(context), context, &rights);
     }
 
     void demandUnchanged() const {
-        for (const Write& write : writes())
-            if (!write.setsClock() && !sameValue(present(*write.parameter, write.id()), write.from))
-                throw CouldNot(fill(context.say("nothing is written: {} has changed meanwhile",
-                                                "nichts ist geschrieben: {} hat sich inzwischen geändert"),
-                                    {write.label()}));
+        for (const Write& write : writes)
+            if (!write.setsClock() && !sameValue(write.present(), write.from))
+                throw CouldNot(context.say("nothing is written: {} has changed meanwhile",
+                                           "nichts ist geschrieben: {} hat sich inzwischen geändert",
+                                           write.label()));
     }
 
     void writeAll() {
+        const OneAtATime guard(context);
         if (const std::string half = interruption(context); !order.mends && !half.empty())
             throw CouldNot(half);
         demandUnchanged();
         const Undisturbed undisturbed;
         keep();
-        for (const Write& write : writes()) {
+        for (const Write& write : writes) {
             writeOne(write, context);
-            if (!isThere(write)) takeBack(write);
+            if (!hasArrived(write)) takeBack(write);
         }
         if (isApplied()) order.apply(journal);
         journal.isDone = true;
         keep();
         os::logInfo("talux %s: %s by %s", printable(journal.what).c_str(),
-                    counted(writes().size(), " setting", " settings").c_str(), journal.who.c_str());
+                    counted(writes.size(), " setting", " settings").c_str(), journal.who.c_str());
         if (order.reach() == Reach::live) VarUpdateGlobalSpace();
         if (order.reach() != Reach::saved) return;
-        std::set<reference::File> files = order.files;
-        files.merge(filesOf(writes()));
+        std::set<File> files = order.files;
+        files.merge(filesOf(writes));
         save(files, context);
     }
 
     [[noreturn]] void takeBack(const Write& failed) {
-        const auto found = present(*failed.parameter, failed.id());
-        std::string text = fill(context.say("{}: the value does not arrive (reads {}); nothing is changed",
-                                            "{}: der Wert kommt nicht an (gelesen: {}); nichts ist geändert"),
-                                {failed.label(), found ? plain(*failed.parameter, *found) : "-"});
+        const auto found = failed.present();
+        std::string text = context.say("{}: the value does not arrive (reads {}); nothing is changed",
+                                       "{}: der Wert kommt nicht an (gelesen: {}); nichts ist geändert",
+                                       failed.label(), found ? plain(*failed.parameter, *found) : "-");
         for (const Write& write : journal.written())
-            if (write.from) store(*write.parameter, write.id(), *write.from);
+            if (write.from) store(write, *write.from);
         if (const Writes lost = journal.written(); !lost.empty())
-            text += fill(context.say(" but {}", " außer {}"),
-                         {list(lost, ", ", [](const Write& write) { return write.label(); })});
+            text += context.say(" but {}", " außer {}", list(lost, ", ", std::mem_fn(&Write::label)));
         os::removeFile(lastChange(context).c_str());
         throw CouldNot(text);
     }
@@ -226,42 +219,55 @@ void applyAtOnce(const Journal& /*journal*/) {
     VarSetSystemIPs();
 }
 
-std::set<reference::File> filesOf(const Writes& writes) {
-    std::set<reference::File> files;
+std::set<File> filesOf(const Writes& writes) {
+    std::set<File> files;
     for (const Write& write : writes)
         files.insert(write.parameter->file());
     return files;
 }
 
-void save(const std::set<reference::File>& files, const Context& context) {
-    using reference::File;
-    for (const File file : files) {
-        const int error = file == File::normal     ? VarSaveError(SavedFile::parameters)
-                          : file == File::security ? VarSaveError(SavedFile::security)
-                          : file == File::address  ? VarSaveError(SavedFile::addresses)
-                                                   : 0;
-        if (error != 0)
-            throw CouldNot(
-                fill(context.say("the settings are written, but {} is not saved: {}",
-                                 "die Einstellungen sind geschrieben, aber {} ist nicht gespeichert: {}"),
-                     {pathOf(file, context), std::generic_category().message(error)}));
-    }
+Json changesJson(const Writes& writes) {
+    return Json::array(writes, [](const Write& write) {
+        return Json{{"name", write.label()},
+                    {"from", json(*write.parameter, write.from)},
+                    {"to", json(*write.parameter, write.to)},
+                    {"network", network::reachesSystem(write.parameter->row().id)}};
+    });
 }
 
-void Order::takeOptions(Subcommand& command) {
-    command.flag("--live", live,
+void save(const std::set<File>& files, const Context& context) {
+    constexpr std::pair<File, SavedFile> kSaved[] = {{File::normal, SavedFile::parameters},
+                                                     {File::security, SavedFile::security},
+                                                     {File::address, SavedFile::addresses}};
+    for (const auto& [file, saved] : kSaved)
+        if (const int error = files.contains(file) ? VarSaveError(saved) : 0; error != 0)
+            throw CouldNot(
+                context.say("the settings are written, but {} is not saved: {}",
+                            "die Einstellungen sind geschrieben, aber {} ist nicht gespeichert: {}",
+                            pathOf(file, context), std::generic_category().message(error)));
+}
+
+Added<Order> addChange(CommandLine& line, const char* name, ChangeCommand change, Wording help) {
+    const auto order = std::make_shared<Order>();
+    const auto run = [=](const Context& context) {
+        attachToWrite(context);
+        return change(*order, context);
+    };
+    Command& command = line.add(name, run, help);
+    command.flag("--live", order->live,
                  {"make it live, with everything else that is pending",
                   "gültig machen, mit allem anderen Ausstehenden"});
-    command.flag("--save", save,
+    command.flag("--save", order->save,
                  {"make it live and save the files it belongs to",
                   "gültig machen und die zugehörigen Dateien speichern"});
-    command.flag("--yes", yes, {"write without asking", "ohne Rückfrage schreiben"});
-    command.flag("--dry-run", dryRun,
+    command.flag("--yes", order->yes, kYesHelp);
+    command.flag("--dry-run", order->dryRun,
                  {"only show what it would change", "nur zeigen, was sich ändern würde"});
-    command.option("--protocol", protocol,
+    command.option("--protocol", order->protocol,
                    {"a file for the record: before, after, who, when",
                     "Datei für das Protokoll: vorher, nachher, wer, wann"});
-    command.flag("--json", json, {"print JSON", "als JSON ausgeben"});
+    command.json(order->json);
+    return {command, *order};
 }
 
 void attachToWrite(const Context& context) {
@@ -276,28 +282,24 @@ bool isAgreed(const std::string& question, const Context& context) {
             context.say("nothing is written: there is no terminal to ask at; --yes writes without asking",
                         "nichts ist geschrieben: kein Terminal zum Fragen; --yes schreibt ohne Frage"));
     std::fprintf(stderr, "%s %s ", question.c_str(), context.say("[y/N]", "[j/N]"));
-    std::string answer;
-    for (int c = std::getchar(); c != '\n' && c != EOF; c = std::getchar())
-        answer += static_cast<char>(c);
-    if (std::feof(stdin)) std::fputc('\n', stderr);
     constexpr std::string_view kYes[] = {"y", "Y", "yes", "j", "J", "ja"};
-    return !std::feof(stdin) && std::ranges::find(kYes, answer) != std::end(kYes);
+    std::string answer;
+    if (std::getline(std::cin, answer) && !std::cin.eof())
+        return std::ranges::find(kYes, answer) != std::end(kYes);
+    std::fputc('\n', stderr);
+    return false;
 }
 
-int pendingSettings(const Context& context) {
-    const Source live = Source::open("live", context), staged = Source::open("staged", context);
-    return static_cast<int>(std::ranges::count_if(reference::parameters(), [&](const Parameter& parameter) {
-        return parameter.isSetting() && !isOfClock(parameter) &&
-               !sameValue(live.value(parameter), staged.value(parameter));
-    }));
+std::size_t pendingSettings(const Context& context) {
+    return differences(Source::open("live", context), Source::open("staged", context)).size();
 }
 
 OneAtATime::OneAtATime(const Context& context) {
     const std::string path = context.directory + "/.talux_lock";
     descriptor = os::openOrMake(path.c_str());
     if (descriptor < 0)
-        throw CouldNot(fill(context.say("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}"),
-                            {path, std::generic_category().message(errno)}));
+        throw CouldNot(context.say("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}", path,
+                                   std::generic_category().message(errno)));
     if (os::tryLockFile(descriptor)) return;
     os::closeFile(descriptor);
     throw CouldNot(context.say("another change is being made at this moment",
@@ -308,13 +310,12 @@ OneAtATime::~OneAtATime() {
     os::closeFile(descriptor);
 }
 
-Status carryOut(const Plan& plan, const Order& order, const Context& context) {
+Status carryOut(const Plan& plan, Order& order, const Context& context) {
     for (const std::string& refusal : plan.refusals())
         report(CouldNot(refusal));
     if (!plan.refusals().empty()) throw CouldNot(context.say("nothing is written", "nichts ist geschrieben"));
-    Order all = order;
-    all.files = plan.files();
-    return carryOut(plan.writes(), all, context);
+    order.files = plan.files();
+    return carryOut(plan.writes(), order, context);
 }
 
 Status carryOut(const Writes& writes, const Order& order, const Context& context) {

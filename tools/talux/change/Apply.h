@@ -5,50 +5,66 @@
 
 #include <functional>
 
+#include "tools/Json.h"
 #include "tools/talux/change/Journal.h"
 
 namespace talux::tool {
 
 void applyAtOnce(const Journal& journal);
 
-// What the commands that change settings take.
+// What the commands that change settings take, and what they add to it.
 struct Order {
-    std::string what; // the command, for the record and the system log
+    std::vector<std::string> assignments; // NAME=VALUE
+    std::string operand;                  // a file, a moment, a source
     bool live = false, save = false, yes = false, dryRun = false, json = false;
     std::string protocol; // a file for the record; empty: none
+
+    std::string what; // the command, for the record and the system log
     // Applies addresses to the system; none: leaves them.
     std::function<void(const Journal&)> apply = applyAtOnce;
-    bool appliesAll = false;         // netmasks and gateways, too
-    std::set<reference::File> files; // to save, besides those of what is written
-    bool mends = false;              // a change that was interrupted
+    bool appliesAll = false;             // netmasks and gateways, too
+    std::function<bool()> isConfirmed{}; // asked afterwards; none: nobody has to confirm it
+    std::set<reference::File> files{};   // to save, besides those of what is written
+    bool mends = false;                  // a change that was interrupted or whose record is damaged
 
     Reach reach() const { return save ? Reach::saved : live ? Reach::live : Reach::pending; }
-    void takeOptions(Subcommand& command);
 };
+using ChangeCommand = Status (*)(Order&, const Context&);
+
+constexpr Wording kYesHelp{"write without asking", "ohne Rückfrage schreiben"};
+
+// Adds a command that changes settings, with the options of all of them. It runs with the device attached.
+Added<Order> addChange(CommandLine& line, const char* name, ChangeCommand change, Wording help);
 
 // Attaches the device to change it. Throws CouldNot when there is none.
 void attachToWrite(const Context& context);
 
 // All of the plan or nothing. Throws CouldNot when nothing could be written and says what is there if the old
 // values did not come back.
-Status carryOut(const Plan& plan, const Order& order, const Context& context);
+Status carryOut(const Plan& plan, Order& order, const Context& context);
 
 // The same of values that were on the device before: without the checks of a plan.
 Status carryOut(const Writes& writes, const Order& order, const Context& context);
 
-// The last change is taken back; pending settings become what is live. Both ask unless that is agreed.
-Status undoLast(bool isAgreed, const Context& context);
-Status discardPending(bool isAgreed, const Context& context);
+// The last change is taken back; pending settings become what is live.
+Status undo(Order& order, const Context& context);
+Status discard(Order& order, const Context& context);
+
+// Puts the addresses back that wait to be confirmed: into working copy, live values and file, and `applies`
+// them to the system. False when none waits.
+bool takeAddressBack(bool applies, const Context& context);
 
 // Throws CouldNot if one is not surely on the disk.
 void save(const std::set<reference::File>& files, const Context& context);
 std::set<reference::File> filesOf(const Writes& writes);
 
+Json changesJson(const Writes& writes);
+
 // Asks on the terminal; true if the answer is yes. Throws CouldNot where there is none to ask at.
 bool isAgreed(const std::string& question, const Context& context);
 
 // Settings of the working copy that are not live.
-int pendingSettings(const Context& context);
+std::size_t pendingSettings(const Context& context);
 
 // One change at a time: until it goes out of scope. Throws CouldNot while another process has it.
 class OneAtATime {

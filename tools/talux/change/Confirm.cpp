@@ -1,13 +1,14 @@
-// talux address, confirm.
-#include "tools/talux/change/Confirm.h"
-
+// talux address, confirm: an address that is taken back by itself unless somebody who reaches the device
+// confirms it.
+//
+// The old addresses stand in a record beside the parameter files (openAddress) as long as nobody has
+// confirmed the new ones, and ip_config.ini keeps the old ones until then: what starts without talux has
+// them, too. A process of its own, which neither the terminal nor the command takes with it, waits for the
+// time to pass.
 #include <algorithm>
-#include <cctype>
 #include <csignal>
 #include <fcntl.h>
-#include <memory>
 #include <sys/prctl.h>
-#include <sys/wait.h>
 #include <time.h>
 #include <unistd.h>
 
@@ -24,10 +25,8 @@ namespace talux::tool {
 
 namespace {
 
-struct Options {
-    std::vector<std::string> assignments;
-    int seconds = 120;
-    Order order;
+struct AddressOrder : Order {
+    int seconds = 120; // to wait for the confirmation
 };
 
 // What the guard reports to the command that started it.
@@ -48,12 +47,6 @@ void say(int descriptor, Report report) {
     os::writeFile(descriptor, {&letter, 1});
 }
 
-std::string inWords(const Journal& journal, const Context& context) {
-    return list(journal.writes, ", ", [&](const Write& write) {
-        return joined({write.label(), " ", change(*write.parameter, write.from, write.to, context)});
-    });
-}
-
 // Applies the addresses, waits, and takes them back if they are still open then.
 class Guard {
 public:
@@ -63,20 +56,13 @@ public:
     // Gives the end of a pipe on which the guard reports, once the addresses are applied.
     int start() {
         journal.isDone = false;
-        const std::string path = pathOf(reference::File::address, context);
-        const bool hadFile = os::exists(path.c_str());
-        const std::string before = hadFile ? contentsOf(path, context) : "";
+        const std::string before = os::exists(path.c_str()) ? contentsOf(path, context) : "";
         replace(openAddress(context), journal.text(context), context);
         int ends[2];
         if (pipe2(ends, O_CLOEXEC) != 0) throw CouldNot("pipe");
         std::fflush(nullptr);
         const pid_t child = fork();
-        if (child == 0) {
-            setsid();
-            if (fork() == 0) detach(ends[1]), run(ends[1], path, hadFile, before);
-            _exit(0);
-        }
-        waitpid(child, nullptr, 0);
+        if (child == 0) detach(ends[1]), run(ends[1], before);
         close(ends[1]);
         char report = 0;
         if (child < 0 || read(ends[0], &report, 1) != 1)
@@ -90,9 +76,11 @@ private:
     Journal journal;
     const int seconds;
     const Context& context;
+    const std::string path = pathOf(reference::File::address, context);
 
     // Holds nothing of the command's but the pipe; killing all processes called talux spares it.
     static void detach(int pipe) {
+        setsid();
         prctl(PR_SET_NAME, "address-guard");
         for (const int signal : {SIGHUP, SIGINT, SIGPIPE})
             std::signal(signal, SIG_IGN);
@@ -104,13 +92,13 @@ private:
             if (descriptor != pipe) close(descriptor);
     }
 
-    [[noreturn]] void run(int pipe, const std::string& path, bool hadFile, const std::string& before) {
+    [[noreturn]] void run(int pipe, const std::string& before) {
         const double end = now() + seconds;
         os::logInfo("talux address: %s: applied, waits %d s for `talux confirm`",
-                    inWords(journal, context).c_str(), seconds);
+                    journal.inWords(context).c_str(), seconds);
         VarSetSystemIPs();
         try {
-            hadFile ? replace(path, before, context) : os::removeFile(path.c_str());
+            before.empty() ? os::removeFile(path.c_str()) : replace(path, before, context);
         } catch (const CouldNot& error) {
             os::logError("talux address: %s", error.what());
         }
@@ -118,7 +106,7 @@ private:
         while (os::exists(openAddress(context).c_str()) && now() < end && isAskedToEnd == 0)
             os::sleepMicroseconds(100000);
         const bool isKept = !takesBack() && std::ranges::all_of(journal.writes, [](const Write& write) {
-            return sameValue(present(*write.parameter, write.id()), write.to);
+            return sameValue(write.present(), write.to);
         });
         say(pipe, isKept ? kConfirmed : kTakenBack);
         _exit(0);
@@ -140,66 +128,75 @@ private:
 
 // "eth0" of ETH0_IP.
 std::string interfaceOf(const Write& write) {
-    std::string name(write.parameter->name().substr(0, write.parameter->name().find('_')));
-    std::ranges::transform(name, name.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return name;
+    std::string_view name = write.parameter->name();
+    std::string interface(takeUpTo(name, '_'));
+    std::ranges::transform(interface, interface.begin(), lowerAscii);
+    return interface;
 }
 
 void demandInterfaces(const Writes& writes, const Context& context) {
     for (const Write& write : writes) {
         const int type = write.parameter->row().type;
         if (type != kTypeIpAddress && type != kTypeIpMask && type != kTypeIpGateway)
-            throw CouldNot(
-                fill(context.say("{}: is not an address, netmask or gateway of an interface",
-                                 "{}: ist weder Adresse noch Netzmaske noch Gateway einer Schnittstelle"),
-                     {write.label()}));
+            throw CouldNot(context.say(
+                "{}: is not an address, netmask or gateway of an interface",
+                "{}: ist weder Adresse noch Netzmaske noch Gateway einer Schnittstelle", write.label()));
     }
 }
 
-Status waitFor(int pipe, const Context& context) {
+void reportMissing(const Writes& writes, const Context& context) {
+    for (const Write& write : writes) {
+        const std::string interface = interfaceOf(write);
+        if (write.actsAtOnce() &&
+            write.to.text() != std::string_view(os::addressOf(interface.c_str()).address))
+            report(
+                CouldNot(context.say("{} has not got the address", "{} hat die Adresse nicht", interface)));
+    }
+}
+
+bool isConfirmed(int pipe, const Context& context) {
     char report = 0;
     const bool isThere = read(pipe, &report, 1) == 1;
     close(pipe);
-    if (!isThere)
-        throw CouldNot(context.say(
-            "the guard is gone; `talux confirm` keeps the addresses, `talux undo` takes them back",
-            "der Wächter ist weg; `talux confirm` behält die Adressen, `talux undo` nimmt sie zurück"));
-    print(report == kConfirmed ? context.say("confirmed and saved\n", "bestätigt und gespeichert\n")
-                               : context.say("not confirmed: the old addresses are back\n",
-                                             "nicht bestätigt: die alten Adressen gelten wieder\n"));
-    return report == kConfirmed ? kNothing : kFound;
+    if (isThere) return report == kConfirmed;
+    throw CouldNot(context.say(
+        "the guard is gone; `talux confirm` keeps the addresses, `talux undo` takes them back",
+        "der Wächter ist weg; `talux confirm` behält die Adressen, `talux undo` nimmt sie zurück"));
 }
 
-Status address(const Options& options, const Context& context) {
+Status address(AddressOrder& order, const Context& context) {
     attachToWrite(context);
     Plan plan(context);
-    for (const std::string& assignment : options.assignments)
-        plan.take(assignment.substr(0, assignment.find('=')),
-                  assignment.substr(std::min(assignment.find('=') + 1, assignment.size())));
-    demandInterfaces(plan.writes(), context);
+    for (std::string_view value : order.assignments) {
+        const std::string_view label = takeUpTo(value, '=');
+        plan.take(label, value);
+    }
+    const Writes writes = plan.writes();
+    demandInterfaces(writes, context);
+    const auto tell = [&order](const std::string& text) {
+        if (!order.json) print(text);
+        std::fflush(stdout);
+    };
     int pipe = -1;
-    Order order = options.order;
-    order.what = "address " + namesIn(options.assignments);
+    order.what = "address " + namesIn(order.assignments);
     order.appliesAll = true;
-    order.apply = [&](const Journal& journal) { pipe = Guard(journal, options.seconds, context).start(); };
-    const Status status = carryOut(plan, order, context);
-    if (pipe < 0) return status;
-    for (const Write& write : plan.writes())
-        if (const auto there = os::addressOf(interfaceOf(write).c_str());
-            write.actsAtOnce() && write.to.text() != std::string_view(there.address))
-            report(CouldNot(fill(context.say("{} has not got the address", "{} hat die Adresse nicht"),
-                                 {interfaceOf(write)})));
-    print(fill(
-        context.say(
+    order.apply = [&](const Journal& journal) { pipe = Guard(journal, order.seconds, context).start(); };
+    order.isConfirmed = [&] {
+        reportMissing(writes, context);
+        tell(context.say(
             "applied; `talux confirm` within {} s keeps it, from the new address, too\n",
-            "angewendet; `talux confirm` innerhalb von {} s behält sie, auch von der neuen Adresse aus\n"),
-        {std::to_string(options.seconds)}));
-    std::fflush(stdout);
-    return waitFor(pipe, context);
+            "angewendet; `talux confirm` innerhalb von {} s behält sie, auch von der neuen Adresse aus\n",
+            order.seconds));
+        const bool isKept = isConfirmed(pipe, context);
+        tell(isKept ? context.say("confirmed and saved\n", "bestätigt und gespeichert\n")
+                    : context.say("not confirmed: the old addresses are back\n",
+                                  "nicht bestätigt: die alten Adressen gelten wieder\n"));
+        return isKept;
+    };
+    return carryOut(plan, order, context);
 }
 
-Status confirm(const Context& context) {
+Status confirm(Order& order, const Context& context) {
     attachToWrite(context);
     const OneAtATime guard(context);
     const auto journal = Journal::read(openAddress(context), context);
@@ -208,9 +205,12 @@ Status confirm(const Context& context) {
             context.say("no address waits to be confirmed", "keine Adresse wartet auf Bestätigung"));
     save(filesOf(journal->writes), context);
     os::removeFile(openAddress(context).c_str());
-    os::logInfo("talux confirm: %s by %s", inWords(*journal, context).c_str(), whoAmI().c_str());
-    print(fill(context.say("confirmed and saved: {}\n", "bestätigt und gespeichert: {}\n"),
-               {inWords(*journal, context)}));
+    const std::string changes = journal->inWords(context);
+    os::logInfo("talux confirm: %s by %s", changes.c_str(), whoAmI().c_str());
+    if (order.json)
+        print(Json{{"confirmed", true}, {"changes", changesJson(journal->writes)}}.text());
+    else
+        print(context.say("confirmed and saved: {}\n", "bestätigt und gespeichert: {}\n", changes));
     return kNothing;
 }
 
@@ -225,32 +225,28 @@ bool takeAddressBack(bool applies, const Context& context) {
     VarSaveIPConfig();
     os::removeFile(openAddress(context).c_str());
     os::logError("talux address: %s: not confirmed, the old addresses are back",
-                 inWords(*journal, context).c_str());
+                 journal->inWords(context).c_str());
     return true;
 }
 
-void addAddress(CommandLine& line, Commands& commands) {
-    const auto options = std::make_shared<Options>();
-    Subcommand command(line, "address",
-                       {"change an address; undone unless it is confirmed",
-                        "Adresse ändern, die ohne Bestätigung zurückkehrt"});
+void addAddress(CommandLine& line) {
+    const auto [command, order] = line.add("address", address,
+                                           {"change an address; undone unless it is confirmed",
+                                            "Adresse ändern, die ohne Bestätigung zurückkehrt"});
     command
-        .argument({"NAME=VALUE", "NAME=WERT"}, options->assignments,
+        .argument({"NAME=VALUE", "NAME=WERT"}, order.assignments,
                   {"ETH0_IP=.. ETH0_MASK=.. ETH0_GATEWAY=..", "ETH0_IP=.. ETH0_MASK=.. ETH0_GATEWAY=.."})
         .required();
     command
-        .option("--confirm", options->seconds,
+        .option("--confirm", order.seconds,
                 {"seconds to wait; 120 if not given", "Wartezeit in Sekunden, sonst 120"})
         .inRange(1, 3600);
-    command.flag("--yes", options->order.yes, {"write without asking", "ohne Rückfrage schreiben"});
-    commands.push_back({command, [options](const Context& context) { return address(*options, context); }});
-}
-
-void addConfirm(CommandLine& line, Commands& commands) {
-    Subcommand command(line, "confirm",
-                       {"keep the address that `talux address` applied",
-                        "die von `talux address` gesetzte Adresse behalten"});
-    commands.push_back({command, confirm});
+    command.flag("--yes", order.yes, kYesHelp);
+    command.json(order.json);
+    const auto confirming = line.add("confirm", confirm,
+                                     {"keep the address that `talux address` applied",
+                                      "die von `talux address` gesetzte Adresse behalten"});
+    confirming.command.json(confirming.options.json);
 }
 
 } // namespace talux::tool

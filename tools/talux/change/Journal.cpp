@@ -61,47 +61,28 @@ std::optional<Value> decoded(std::string_view text) {
     return Value(bytes);
 }
 
-std::string_view takeUpTo(std::string_view& rest, char end) {
-    const auto at = std::min(rest.find(end), rest.size());
-    const auto piece = rest.substr(0, at);
-    rest.remove_prefix(std::min(at + 1, rest.size()));
-    return piece;
-}
-
 // Whether the line is one of those that begin with "#".
 bool takeHead(Journal& journal, std::string_view line) {
-    const auto takes = [line](std::string_view key, std::string& text) {
-        if (line.starts_with(key)) text = line.substr(key.size());
-    };
     std::string reach;
-    takes(kWhen, journal.when);
-    takes(kWho, journal.who);
-    takes(kWhat, journal.what);
-    takes(kReach, reach);
+    const std::pair<std::string_view, std::string*> kKeys[] = {
+        {kWhen, &journal.when}, {kWho, &journal.who}, {kWhat, &journal.what}, {kReach, &reach}};
+    for (const auto& [key, text] : kKeys)
+        if (line.starts_with(key)) *text = line.substr(key.size());
     if (const auto* found = std::ranges::find(kReaches, reach); found != kReaches.end())
         journal.reach = static_cast<Reach>(found - kReaches.begin());
     return line.starts_with('#');
 }
 
 bool takeWrite(Journal& journal, std::string_view line) {
-    const std::string_view label = takeUpTo(line, '\t');
-    const auto open = std::min(label.find('['), label.size());
-    Write write{reference::find(label.substr(0, open)), 0, decoded(takeUpTo(line, '\t')), Value(0.0)};
+    std::string_view index = takeUpTo(line, '\t');
+    Write write{reference::find(takeUpTo(index, '[')), 0, decoded(takeUpTo(line, '\t')), Value(0.0)};
     const auto to = decoded(takeUpTo(line, '\t'));
-    if (open < label.size())
-        std::from_chars(label.data() + open + 1, label.data() + label.size(), write.index);
+    std::from_chars(index.data(), index.data() + index.size(), write.index);
     if (write.parameter == nullptr || !to || !storedAs(write.id(), *to)) return false;
     write.to = *storedAs(write.id(), *to);
     if (write.from) write.from = storedAs(write.id(), *write.from);
     journal.writes.push_back(write);
     return true;
-}
-
-std::string timeNow() {
-    std::tm now{};
-    os::localTime(now);
-    char text[32];
-    return {text, std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &now)};
 }
 
 } // namespace
@@ -122,7 +103,9 @@ std::string namesIn(const std::vector<std::string>& assignments) {
 }
 
 Journal Journal::begun(std::string command, Reach reach, Writes writes) {
-    return {false, std::move(command), timeNow(), whoAmI(), reach, std::move(writes)};
+    std::tm now{};
+    os::localTime(now);
+    return {false, std::move(command), timeText(now), whoAmI(), reach, std::move(writes)};
 }
 
 std::optional<Journal> Journal::read(const std::string& path, const Context& context) {
@@ -130,17 +113,17 @@ std::optional<Journal> Journal::read(const std::string& path, const Context& con
     const std::string contents = contentsOf(path, context);
     std::string_view rest = contents;
     const std::string_view mark = takeUpTo(rest, '\n');
-    bool isWhole = mark.starts_with(kMark) && contents.ends_with('\n');
     Journal journal;
     journal.isDone = mark.ends_with(kDone);
-    while (isWhole && !rest.empty()) {
+    bool isKnown = mark.starts_with(kMark);
+    int number = 1;
+    for (; isKnown && !rest.empty(); ++number) {
         const std::string_view line = takeUpTo(rest, '\n');
-        isWhole = takeHead(journal, line) || takeWrite(journal, line);
+        isKnown = takeHead(journal, line) || takeWrite(journal, line);
     }
-    if (isWhole) return journal;
-    throw CouldNot(fill(
-        context.say("{}: is not a complete record of a change", "{}: ist kein ganzes Änderungsprotokoll"),
-        {path}));
+    if (isKnown && contents.ends_with('\n')) return journal;
+    throw CouldNot(context.say("{}: is not a complete record of a change: see line {}",
+                               "{}: ist kein ganzes Änderungsprotokoll: siehe Zeile {}", path, number));
 }
 
 std::string Journal::text(const Context& context) const {
@@ -150,15 +133,20 @@ std::string Journal::text(const Context& context) const {
     for (const Write& write : writes)
         text += joined({write.label(), "\t", encoded(*write.parameter, write.from), "\t",
                         encoded(*write.parameter, write.to), "\t", write.parameter->title(context.language),
-                        ": ", change(*write.parameter, write.from, write.to, context), "\n"});
+                        ": ", write.change(context), "\n"});
     return text;
+}
+
+std::string Journal::inWords(const Context& context) const {
+    return list(writes, ", ", [&](const Write& write) {
+        return joined({write.label(), " ", write.change(context)});
+    });
 }
 
 Writes Journal::written() const {
     Writes found;
     for (const Write& write : writes)
-        if (!write.setsClock() && !sameValue(present(*write.parameter, write.id()), write.from))
-            found.push_back(write);
+        if (!write.setsClock() && !sameValue(write.present(), write.from)) found.push_back(write);
     return found;
 }
 
@@ -170,25 +158,29 @@ std::string openAddress(const Context& context) {
     return context.directory + "/address_change.tsv";
 }
 
-std::string interruption(const Context& context) {
+std::string interruption(const Context& context) try {
     if (const auto open = Journal::read(openAddress(context), context))
-        return fill(context.say("'{}' of {} by {} waits for `talux confirm` or `talux undo`",
-                                "'{}' vom {} durch {} wartet auf `talux confirm` oder `talux undo`"),
-                    {open->what, open->when, open->who});
+        return context.say("'{}' of {} by {} waits for `talux confirm` or `talux undo`",
+                           "'{}' vom {} durch {} wartet auf `talux confirm` oder `talux undo`", open->what,
+                           open->when, open->who);
     const auto journal = Journal::read(lastChange(context), context);
     if (!journal || journal->isDone) return {};
     const Writes half = journal->written();
     const auto isThere = [](const Write& write) {
-        return write.setsClock() || sameValue(present(*write.parameter, write.id()), write.to);
+        return write.setsClock() || sameValue(write.present(), write.to);
     };
     if (half.empty() || std::ranges::all_of(journal->writes, isThere)) return {};
-    return fill(
-        context.say(
-            "'{}' of {} by {} was interrupted and is half written: {}; `talux undo` takes it back",
-            "'{}' vom {} durch {} wurde unterbrochen und ist halb geschrieben: {}; `talux undo` nimmt "
-            "es zurück"),
-        {journal->what, journal->when, journal->who,
-         list(half, ", ", [](const Write& write) { return write.label(); })});
+    return context.say(
+        "'{}' of {} by {} was interrupted and is half written: {}; `talux undo` takes it back",
+        "'{}' vom {} durch {} wurde unterbrochen und ist halb geschrieben: {}; `talux undo` nimmt "
+        "es zurück",
+        journal->what, journal->when, journal->who, list(half, ", ", std::mem_fn(&Write::label)));
+} catch (const CouldNot& damage) {
+    return damage.what() + std::string(context.say("; it cannot be taken back: remove the file to change "
+                                                   "settings, `talux discard` gives up what is pending",
+                                                   "; zurücknehmen lässt sich damit nichts: zum Ändern die "
+                                                   "Datei entfernen, `talux discard` verwirft "
+                                                   "Ausstehendes"));
 }
 
 } // namespace talux::tool

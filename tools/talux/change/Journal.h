@@ -27,6 +27,7 @@ struct Journal {
     static std::optional<Journal> read(const std::string& path, const Context& context);
 
     std::string text(const Context& context) const;
+    std::string inWords(const Context& context) const; // "ETH0_IP "10.0.0.1" -> "10.0.0.2", .."
 
     // Of an unfinished one: what is not as it was before. As long as the texts of a process that was killed
     // can be in pieces, that is all it can have written.

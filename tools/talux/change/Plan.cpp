@@ -21,11 +21,6 @@ namespace {
 
 constexpr int kAllRights = 3;
 
-std::string_view withoutBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t\r");
-    return first == text.npos ? "" : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
-}
-
 struct Label {
     std::string_view name;
     std::string_view index; // the text in brackets
@@ -77,19 +72,17 @@ bool isOnlyText(std::string_view value, const Parameter& parameter) {
            !choicesCalled(value, parameter).empty();
 }
 
-// What the local clock shows at a moment, as the clock's parameters do.
-std::string clockText(const std::tm& time, Nature nature) {
-    char text[16];
-    return {text, std::strftime(text, sizeof text, nature == Nature::date ? "%Y-%m-%d" : "%H:%M:%S", &time)};
+// How the clock's parameters show it.
+const char* formatOf(Nature nature) {
+    return nature == Nature::date ? "%Y-%m-%d" : "%H:%M:%S";
 }
 
 // Whether the clock has the moment. Of the numbers in the text any would do for the clock itself.
 bool isMoment(std::string_view text, const kepl::Decision& decision) {
     const Nature nature = typeOf(*decision.row).nature;
     std::time_t seconds = 0;
-    std::tm time{};
-    return kepl::clockSetTo(decision.clock, nature, seconds) && localtime_r(&seconds, &time) != nullptr &&
-           clockText(time, nature) == text;
+    return kepl::clockSetTo(decision.clock, nature, seconds) &&
+           localTimeText(seconds, formatOf(nature)) == text;
 }
 
 } // namespace
@@ -104,7 +97,15 @@ std::optional<Value> present(const Parameter& parameter, int id) {
         return readValue(parameter.row().is_volatile == 1 ? Space::global : Space::temp, id);
     std::tm now{};
     os::localTime(now);
-    return Value(clockText(now, parameter.type().nature));
+    return Value(timeText(now, formatOf(parameter.type().nature)));
+}
+
+std::string Write::change(const Context& context) const {
+    return tool::change(*parameter, from, to, context);
+}
+
+std::optional<Value> Write::present() const {
+    return tool::present(*parameter, id());
 }
 
 std::string objection(const Parameter& parameter, const Value& value, const Context& context) {
@@ -127,7 +128,7 @@ void Plan::refuse(const std::string& place, std::string_view label, std::string_
 
 void Plan::add(const Parameter& parameter, int index, const Value& value, const std::string& place) {
     Write write{&parameter, index, {}, value};
-    if (onDevice) write.from = present(parameter, write.id());
+    if (onDevice) write.from = write.present();
     const auto kept = storedAs(write.id(), value);
     if (!ids.insert(write.id()).second)
         return refuse(place, write.label(), context.say("is named twice", "ist zweimal genannt"));
@@ -143,12 +144,13 @@ std::optional<std::string> Plan::number(const Parameter& parameter, std::string_
                                         const std::string& place, std::string_view label) {
     const auto numbers = choicesCalled(text, parameter);
     if (numbers.size() == 1) return std::to_string(*numbers.begin());
-    std::string reason = fill(
-        numbers.size() > 1 ? context.say("several choices are called '{}', give the number",
-                                         "'{}' heißt mehr als eine Auswahl, die Nummer ist nötig")
-        : parameter.type().kind == Kind::Enum ? context.say("has no choice '{}'", "hat keine Auswahl '{}'")
-                                              : context.say("'{}' is not a number", "'{}' ist keine Zahl"),
-        {printable(text)});
+    const std::string called = printable(text);
+    std::string reason = numbers.size() > 1
+                             ? context.say("several choices are called '{}', give the number",
+                                           "'{}' heißt mehr als eine Auswahl, die Nummer ist nötig", called)
+                         : parameter.type().kind == Kind::Enum
+                             ? context.say("has no choice '{}'", "hat keine Auswahl '{}'", called)
+                             : context.say("'{}' is not a number", "'{}' ist keine Zahl", called);
     if (text.find(',') != text.npos)
         reason += context.say("; decimals need a point", "; Dezimalen brauchen einen Punkt");
     refuse(place, label, reason);
@@ -158,10 +160,7 @@ std::optional<std::string> Plan::number(const Parameter& parameter, std::string_
 void Plan::take(std::string_view typed, std::string_view value, const std::string& place) {
     Label label = labelIn(typed);
     const Parameter* parameter = reference::find(label.name);
-    if (parameter == nullptr && !label.index.empty()) {
-        parameter = inSeries(label);
-        if (parameter != nullptr) label.index = {};
-    }
+    if (parameter == nullptr && (parameter = inSeries(label)) != nullptr) label.index = {};
     if (parameter == nullptr) return refuse(place, typed, unknownName(label.name, context));
     const bool isClock = isOfClock(*parameter), isText = talux::isText(parameter->row()) && !isClock;
     std::optional<std::string> meant(isText ? "x" : value);
@@ -175,7 +174,7 @@ void Plan::take(std::string_view typed, std::string_view value, const std::strin
     if (decision.isRefused()) return refuse(place, typed, reasonOf(decision, context));
     if (isClock && !isMoment(value, decision))
         return refuse(place, typed,
-                      fill(context.say("the clock has no {}", "die Uhr kennt kein {}"), {printable(value)}));
+                      context.say("the clock has no {}", "die Uhr kennt kein {}", printable(value)));
     add(*parameter, static_cast<int>(decision.variable.first),
         isText || isClock ? Value(value) : *decision.value, place);
 }
@@ -184,16 +183,16 @@ void Plan::checkDevice(std::string_view line, const std::string& path) const {
     const Parameter& name = *reference::find("Name");
     const auto here = present(name, name.row().id);
     if (here && line == here->text()) return;
-    throw CouldNot(
-        fill(context.say("{}: is for '{}'; this device is '{}'", "{}: ist für '{}'; dieses Gerät heißt '{}'"),
-             {path, printable(line), here ? printable(here->text()) : "-"}));
+    throw CouldNot(context.say("{}: is for '{}'; this device is '{}'",
+                               "{}: ist für '{}'; dieses Gerät heißt '{}'", path, printable(line),
+                               here ? printable(here->text()) : "-"));
 }
 
 void Plan::readLine(std::string_view line, const std::string& place) {
     if (withoutBlanks(line).empty()) return;
-    const auto equals = std::min(line.find('='), line.size());
-    const std::string_view right = line.substr(std::min(equals + 1, line.size()));
-    std::string whole = joined({withoutBlanks(line.substr(0, equals)), "=", withoutBlanks(right)});
+    std::string_view right = line;
+    const std::string_view left = withoutBlanks(takeUpTo(right, '='));
+    std::string whole = joined({left, "=", withoutBlanks(right)});
     const std::string prefixed = joined({kKeyPrefix, whole});
     Entry entry = parseEntry(whole.data());
     if (entry.form == LineForm::foreign) {
@@ -213,15 +212,12 @@ void Plan::readLine(std::string_view line, const std::string& place) {
 void Plan::read(const std::string& path) {
     std::string contents = contentsOf(path, context);
     if (contents.find('\0') != contents.npos)
-        throw CouldNot(
-            fill(context.say("{}: contains a NUL character", "{}: enthält ein NUL-Zeichen"), {path}));
+        throw CouldNot(context.say("{}: contains a NUL character", "{}: enthält ein NUL-Zeichen", path));
     std::string_view rest = contents;
     constexpr std::string_view kMark = "\xEF\xBB\xBF", kFor = "# for:";
     if (rest.starts_with(kMark)) rest.remove_prefix(kMark.size());
     for (int number = 1; !rest.empty(); ++number) {
-        const auto end = std::min(rest.find('\n'), rest.size());
-        const std::string_view line = rest.substr(0, end);
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+        const std::string_view line = takeUpTo(rest, '\n');
         if (number == 1 && line.starts_with(kFor)) checkDevice(withoutBlanks(line.substr(kFor.size())), path);
         readLine(line, fill("{}:{}: ", {printable(path), std::to_string(number)}));
     }

@@ -20,7 +20,9 @@ struct Write {
     Value to;
 
     int id() const { return parameter->row().id + (index > 0 ? index - 1 : 0); }
-    std::string label() const; // NAME or NAME[3]
+    std::string label() const;                        // NAME or NAME[3]
+    std::string change(const Context& context) const; // "30 -> 35 %"
+    std::optional<Value> present() const;             // what is there now
     bool setsClock() const { return isOfClock(*parameter); }
     // Whether writing it is applied to the system and saved at once, with everything else that is pending.
     bool actsAtOnce() const { return parameter->row().type == kTypeIpAddress && index == 0; }
@@ -47,9 +49,8 @@ public:
     // The settings of a source that differ, without those that `leaves`.
     template <class Leaves>
     void copy(const Source& source, Leaves leaves) {
-        for (const Parameter& parameter : reference::parameters())
-            if (const auto value = source.value(parameter);
-                value && parameter.isSetting() && !isOfClock(parameter) && !leaves(parameter))
+        for (const Parameter& parameter : settings())
+            if (const auto value = source.value(parameter); value && !leaves(parameter))
                 add(parameter, 0, *value, "");
     }
 
