@@ -30,12 +30,12 @@ public:
     Json(std::initializer_list<Member> members); // in this order
 
     static Json array();
-    // Of what `print` makes of each item.
-    template <class Items, class Print = std::identity>
-    static Json array(const Items& items, Print print = {}) {
+    // What `make` makes of the items.
+    template <class Items, class Make = std::identity>
+    static Json arrayOf(Items&& items, Make make = {}) {
         Json all = array();
         for (const auto& item : items)
-            all.add(std::invoke(print, item));
+            all.add(make(item));
         return all;
     }
 

@@ -121,7 +121,7 @@ private:
     void showJson() const {
         Json all{{"written", journal.isDone},
                  {"changes", changesJson(writes)},
-                 {"implausible", Json::array(implausible(), described)}};
+                 {"implausible", Json::arrayOf(implausible(), described)}};
         if (order.isConfirmed) all.set("confirmed", isConfirmed);
         print(all.text());
     }
@@ -227,7 +227,7 @@ std::set<File> filesOf(const Writes& writes) {
 }
 
 Json changesJson(const Writes& writes) {
-    return Json::array(writes, [](const Write& write) {
+    return Json::arrayOf(writes, [](const Write& write) {
         return Json{{"name", write.label()},
                     {"from", json(*write.parameter, write.from)},
                     {"to", json(*write.parameter, write.to)},

@@ -80,7 +80,7 @@ Status history(const Options& options, const Context& context) {
         Json object{
             {"when", copy.when},
             {"file", copy.path},
-            {"changed", Json::array(changed, [](const auto& each) { return each.parameter->name(); })}};
+            {"changed", Json::arrayOf(changed, [](const auto& each) { return each.parameter->name(); })}};
         if (one != nullptr) object.set("value", json(*one, value));
         all.add(std::move(object));
     }
