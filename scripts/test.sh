@@ -26,6 +26,7 @@ threads       all     1        build run tests
 models        all     1        build spin
 crowd         all     1        build run
 commands      all     1        build run
+places        all     1        build run
 browser       all     1        build browser
 bench         all     1        build run bench
 lint          all     2        build bench lint history
@@ -112,6 +113,11 @@ threads() {
 # The scripts as their user meets them.
 commands() {
   (build release talux talux-desk) && tests/scripts/commands.sh
+}
+
+places() {
+  [ "$(isolation)" != none ] || skip 'there are no namespaces to put a copy in the place of the project'
+  build release && tests/scripts/places.sh
 }
 
 newcomer() {
