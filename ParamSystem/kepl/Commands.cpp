@@ -21,12 +21,11 @@ int loadNamed(const char* iniPath, std::string_view name) {
 
 } // namespace
 
-TermResult runCommand(const Decision& decision, const char* iniPath, char* txt) {
-    const CommandRow& row = rowOf(kCommands, decision.command);
-    const int result = decision.words.empty() ? row.carryOut() : loadNamed(iniPath, decision.words);
+TermResult runCommand(const RunCommand& command, std::string_view term, const char* iniPath, char* txt) {
+    const CommandRow& row = rowOf(kCommands, command.command);
+    const int result = command.file.empty() ? row.carryOut() : loadNamed(iniPath, command.file);
     copyText(txt, kKeplTextSize, result == 1 ? row.success : row.failure);
-    if (row.isLogged)
-        os::logInfo(" %.*s %s", static_cast<int>(decision.term.size()), decision.term.data(), txt);
+    if (row.isLogged) os::logInfo(" %.*s %s", static_cast<int>(term.size()), term.data(), txt);
     return answering(Output::text);
 }
 

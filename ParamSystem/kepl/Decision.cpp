@@ -10,6 +10,8 @@ namespace talux::kepl {
 
 namespace {
 
+using Action = decltype(Decision::action);
+
 bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
@@ -25,41 +27,26 @@ std::span<const std::string_view> forbiddenOn(int board) {
     return board == kOtherBoard ? std::span<const std::string_view>() : rowOf(kBoards, board).forbidden;
 }
 
-void decideShell(Decision& decision, std::string_view term, int uid, int board) {
-    if (!mayRun(term, uid)) {
-        decision.refusal = Refusal::rightsTooLow;
-        return;
-    }
-    decision.isNoted = true;
+Action decideShell(std::string_view term, int uid, int board) {
+    if (!mayRun(term, uid)) return RightsTooLow{kShellLevel};
     takeWord(term, ' ');
-    decision.words = withoutLeading(term, ' ');
-    const auto forbidden = [&](std::string_view part) { return contains(decision.words, part); };
-    if (decision.words.empty())
-        decision.action = Action::askForShell;
-    else
-        decision.action =
-            std::ranges::any_of(forbiddenOn(board), forbidden) ? Action::endProcess : Action::shell;
+    const std::string_view command = withoutLeading(term, ' ');
+    const auto isInside = [=](std::string_view part) { return contains(command, part); };
+    return RunShell{command, std::ranges::any_of(forbiddenOn(board), isInside)};
 }
 
-void decideFile(Decision& decision, std::string_view term, int uid, const CommandRow& word) {
-    if (uid < word.lowestUid) {
-        decision.refusal = Refusal::rightsTooLow;
-        return;
-    }
-    decision.action = Action::command;
-    if (!word.takesFile) return;
+Action decideCommand(std::string_view term, int uid, int board, const CommandRow& word) {
+    if (word.command == Command::shell) return decideShell(term, uid, board);
+    if (uid < word.lowestUid) return RightsTooLow{word.lowestUid};
+    if (!word.takesFile) return RunCommand{word.command, {}};
     takeWord(term, ' ');
-    decision.words = takeWord(term, ' ');
+    return RunCommand{word.command, takeWord(term, ' ')};
 }
 
-void decideNumber(Decision& decision, std::string_view term) {
+Action decideNumber(std::string_view term) {
     const std::optional<double> number = numberIn(term);
-    if (!number) {
-        decision.refusal = Refusal::syntaxError;
-        return;
-    }
-    decision.action = Action::push;
-    decision.value.emplace(*number);
+    if (!number) return SyntaxError{};
+    return PushNumber{*number};
 }
 
 bool beginsWithDigit(std::string_view term) {
@@ -78,33 +65,18 @@ const OperationRow* operationOf(std::string_view term) {
     return found == std::end(kOperations) ? nullptr : found;
 }
 
-void decideCommand(Decision& decision, std::string_view term, int uid, int board, const CommandRow& word) {
-    decision.command = word.command;
-    if (word.command == Command::shell)
-        decideShell(decision, term, uid, board);
-    else
-        decideFile(decision, term, uid, word);
-}
-
-Decision decideOther(std::string_view term, int uid, int board) {
-    Decision decision;
-    decision.term = term;
-    const bool mayBeWord = !beginsWithDigit(term); // as no word does
-    if (const OperationRow* const operation = mayBeWord ? operationOf(term) : nullptr) {
-        decision.action = Action::compute;
-        decision.operation = operation->operation;
-    } else if (const CommandRow* const command = mayBeWord ? commandOf(term) : nullptr) {
-        decideCommand(decision, term, uid, board, *command);
-    } else {
-        decideNumber(decision, term);
-    }
-    return decision;
+Action decideOther(std::string_view term, int uid, int board) {
+    if (beginsWithDigit(term)) return decideNumber(term); // as no word does
+    if (const OperationRow* const operation = operationOf(term)) return Compute{operation->operation};
+    if (const CommandRow* const command = commandOf(term)) return decideCommand(term, uid, board, *command);
+    return decideNumber(term);
 }
 
 } // namespace
 
 Decision decide(std::string_view term, int uid, int board) {
-    return hasPrefix(term) ? decideVariable(after(term, kPrefixLength), uid) : decideOther(term, uid, board);
+    if (hasPrefix(term)) return {term, decideVariable(after(term, kPrefixLength), uid)};
+    return {term, decideOther(term, uid, board)};
 }
 
 bool hasPrefix(std::string_view term) {

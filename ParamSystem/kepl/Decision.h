@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <variant>
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/dictionary/Lookup.h"
@@ -15,24 +16,8 @@
 #include "ParamSystem/kepl/Operation.h"
 #include "ParamSystem/kepl/Refusal.h"
 #include "ParamSystem/kepl/Words.h"
-#include "ParamSystem/store/Values.h"
 
 namespace talux::kepl {
-
-enum class Action : unsigned char {
-    refuse,
-    push,         // `value`, a number
-    compute,      // `operation` on the upper values of the stack
-    readScalar,   // `row`
-    readElements, // elements variable.first to variable.last of `row`
-    readRecord,   // `row`
-    write,        // `value` into the slot of `id`
-    setClock,     // from `clock`, and the text variable.value into the slot of `id`
-    command,      // `command`, with the file `words` if that is not empty
-    shell,        // `words` in the shell
-    askForShell,  // answer that a command is missing
-    endProcess,   // the board forbids the shell command `words`
-};
 
 // How the elements of a range or the members of a record are answered.
 enum class Style : unsigned char {
@@ -55,8 +40,9 @@ static_assert(hasRowForEach<&StyleRow::style>(kStyles), "each enumerator has its
 
 // The parts of a variable term, NAME [INDEX[.INDEX]] [OPTION] [= VALUE]. The texts are parts of the term.
 struct VariableTerm {
-    std::string_view name = "???";         // stays when there is none
-    std::optional<std::string_view> value; // what follows "=", without leading blanks; none: a read
+    std::string_view text;                      // all of it
+    std::string_view name = "???";              // stays when there is none
+    std::optional<std::string_view> value = {}; // what follows "=", without leading blanks; none: a read
     Style style = Style::plain;
     int indices = 0; // how many were given, 0 to 2
     bool indicesAreNumbers = true;
@@ -64,33 +50,76 @@ struct VariableTerm {
     VarLong last = 0; // with one index the same
 };
 
+// ---- What a term does, one type for each ---------------------------------------------------------------
+
+struct Refused {
+    Refusal refusal;
+};
+
+// A number or a text, or nothing for commands, which have no value.
+struct ReadScalar {};
+struct ReadElements {
+    int id; // of the first; the parts of the term say how many, and how they are answered
+};
+struct ReadRecord {};
+struct WriteNumber {
+    int id;
+    double number;
+};
+struct WriteText {
+    int id;
+    std::string_view text; // without the quotes
+};
+struct SetClock {
+    int id;
+    VarLong numbers[3]; // year, month, day or hour, minute, second
+};
+
+struct VariableDecision {
+    VariableTerm term;
+    const stParamProperties* row = nullptr; // of the parameter's first element; null: refused, no such name
+    bool isNoted = false;                   // in the system log as touching security, also when it is refused
+    std::variant<Refused, ReadScalar, ReadElements, ReadRecord, WriteNumber, WriteText, SetClock> action = {};
+
+    template <class Action>
+    const Action* get() const { // null: it is another one
+        return std::get_if<Action>(&action);
+    }
+    bool isRefused() const { return get<Refused>() != nullptr; }
+};
+
+struct SyntaxError {}; // neither a word nor a number
+struct RightsTooLow {
+    int level; // that the command takes
+};
+struct PushNumber {
+    double number;
+};
+struct Compute {
+    Operation operation; // on the upper values of the stack
+};
+struct RunCommand {
+    Command command;
+    std::string_view file; // empty: the usual one
+};
+struct RunShell {
+    std::string_view command; // empty: it is asked for
+    bool isForbidden;         // the board's process ends instead
+};
+
 struct Decision {
-    Action action = Action::refuse;
-    Refusal refusal = Refusal::none; // none unless `action` is refuse
+    std::string_view term;
+    std::variant<SyntaxError, RightsTooLow, PushNumber, Compute, RunCommand, RunShell, VariableDecision>
+        action;
 
-    std::string_view term; // of a variable term what follows its prefix
-
-    // Noted in the system log as touching security, before it is carried out or refused.
-    bool isNoted = false;
-    // Whether the term begins with TLX_ or LVR_.
-    bool isVariable = false;
-
-    Operation operation{};
-    Command command{}; // of all terms that begin with a command word, the refused ones, too
-    std::string_view words;
-
-    // Of variable terms, the refused ones too as far as it was found out.
-    VariableTerm variable;
-    const stParamProperties* row = nullptr; // of the parameter's first element; null: no such name
-    int id = 0;                             // of what is read or written first
-
-    std::optional<Value> value; // to push or write; of a refused number, too, if it is one
-    VarLong clock[3] = {};      // year, month, day or hour, minute, second
-
-    bool isRefused() const { return action == Action::refuse; }
-    bool isLogged() const { return isNoted || refusal == Refusal::rightsTooLow; }
-    // Lack of rights for a command is no error but the answer of the line. Either ends the line.
-    bool isAnswer() const { return refusal == Refusal::rightsTooLow && !isVariable; }
+    template <class Action>
+    const Action* get() const {
+        return std::get_if<Action>(&action);
+    }
+    bool isRefused() const {
+        if (const auto* const variable = get<VariableDecision>()) return variable->isRefused();
+        return get<SyntaxError>() != nullptr || get<RightsTooLow>() != nullptr;
+    }
 };
 
 // The next term of a line, false when none is left. Commas separate terms. Of each the first
@@ -111,7 +140,7 @@ inline bool takeTerm(std::string_view& rest, std::string_view& term) {
 Decision decide(std::string_view term, int uid, int board = kOtherBoard);
 
 // The same for a variable term without its prefix. One with more than kKeplMaxTerm characters has no parts.
-Decision decideVariable(std::string_view term, int uid);
+VariableDecision decideVariable(std::string_view term, int uid);
 
 // ---- For completion and help ---------------------------------------------------------------------------
 

@@ -4,57 +4,43 @@
 
 #include "ParamSystem/dictionary/Types.h"
 #include "ParamSystem/kepl/Answer.h"
+#include "support/Overloaded.h"
 #include "support/Text.h"
 
 namespace talux::kepl {
 
-namespace {
-
-// A literal number leaves the answer to other terms.
-TermResult push(double number, ValueStack& stack) {
-    return {stack.push({number, kTypeDouble}).refusal, Output::keep};
-}
-
-// A number that is read is pushed.
-TermResult carryOutVariable(const Decision& decision, char* txt, ValueStack& stack) {
-    std::optional<TypedNumber> value;
-    const TermResult result = accessVariable(decision, txt, value);
-    return result.output == Output::topOfStack ? stack.push(*value) : result;
-}
-
-} // namespace
-
 Refusal Evaluation::take(const Decision& decision) {
     const TermResult result = carryOut(decision);
-    if (result.refusal != Refusal::none || result.output == Output::keep) return result.refusal;
-    output = result.output;
-    // A text that was read stays in the result should a later term fail.
-    if (decision.isVariable && output == Output::text) copyText(caller.result, kKeplTextSize, txt);
-    return Refusal::none;
+    if (result.output != Output::keep) output = result.output;
+    return result.refusal;
 }
 
 TermResult Evaluation::carryOut(const Decision& decision) {
-    switch (decision.action) {
-    case Action::refuse:
-        return refused(decision.refusal);
-    case Action::push:
-        return push(decision.value->number(), stack);
-    case Action::compute:
-        return compute(decision.operation, stack);
-    case Action::command:
-        return runCommand(decision, iniPath, txt);
-    case Action::shell:
-    case Action::askForShell:
-    case Action::endProcess:
-        return runShellTerm(decision, caller.dataOut, caller.terminator, txt);
-    case Action::readScalar:
-    case Action::readElements:
-    case Action::readRecord:
-    case Action::write:
-    case Action::setClock:
-        break;
-    }
-    return carryOutVariable(decision, txt, stack);
+    return std::visit(
+        Overloaded{
+            [](const SyntaxError&) { return refused(Refusal::syntaxError); },
+            [&](const RightsTooLow&) { return refusedForRights(decision.term); },
+            [&](const PushNumber& push) -> TermResult {
+                // A literal number leaves the answer to other terms.
+                return {stack.push({push.number, kTypeDouble}).refusal, Output::keep};
+            },
+            [&](const Compute& operate) { return compute(operate.operation, stack); },
+            [&](const RunCommand& command) { return runCommand(command, decision.term, iniPath, txt); },
+            [&](const RunShell& shell) {
+                logNoted(decision.term);
+                return runShell(shell, caller.dataOut, caller.terminator, txt);
+            },
+            [&](const VariableDecision& variable) { return access(variable); },
+        },
+        decision.action);
+}
+
+// A number that is read is pushed; a text stays in the result should a later term fail.
+TermResult Evaluation::access(const VariableDecision& variable) {
+    std::optional<TypedNumber> value;
+    const TermResult result = accessVariable(variable, txt, value);
+    if (result.output == Output::text) copyText(caller.result, kKeplTextSize, txt);
+    return result.output == Output::topOfStack ? stack.push(*value) : result;
 }
 
 Refusal Evaluation::finish() {

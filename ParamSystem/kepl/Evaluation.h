@@ -36,6 +36,7 @@ private:
     char txt[kKeplTextSize]; // the text of a term
 
     TermResult carryOut(const Decision& decision);
+    TermResult access(const VariableDecision& variable);
 };
 
 } // namespace talux::kepl

@@ -4,11 +4,13 @@
 
 namespace talux::kepl {
 
-void log(const Decision& decision) {
-    const int length = static_cast<int>(decision.term.size());
-    if (decision.isNoted) os::logInfo("sec param: %.*s", length, decision.term.data());
-    if (decision.refusal == Refusal::rightsTooLow)
-        os::logError("%.*s %s", length, decision.term.data(), textOf(decision.refusal));
+void logNoted(std::string_view term) {
+    os::logInfo("sec param: %.*s", static_cast<int>(term.size()), term.data());
+}
+
+TermResult refusedForRights(std::string_view term) {
+    os::logError("%.*s %s", static_cast<int>(term.size()), term.data(), textOf(Refusal::rightsTooLow));
+    return refused(Refusal::rightsTooLow);
 }
 
 } // namespace talux::kepl

@@ -49,8 +49,11 @@ struct ValueStack {
     }
 };
 
-// Leaves the traces of a decision in the system log.
-void log(const Decision& decision);
+// Leaves in the system log that a term touches security.
+void logNoted(std::string_view term);
+
+// The same for a term that the caller has no rights to, which is the refusal.
+TermResult refusedForRights(std::string_view term);
 
 TermResult compute(Operation operation, ValueStack& stack);
 
@@ -58,12 +61,12 @@ TermResult compute(Operation operation, ValueStack& stack);
 
 // `value`: the number that was read, if the term answers one. Other terms leave there what a caller of
 // ProcessCommand finds beside the answer: the last element, or 0 with the type of a text. Else none.
-TermResult accessVariable(const Decision& decision, char* txt, std::optional<TypedNumber>& value);
+TermResult accessVariable(const VariableDecision& decision, char* txt, std::optional<TypedNumber>& value);
 
-TermResult runCommand(const Decision& decision, const char* iniPath, char* txt);
+TermResult runCommand(const RunCommand& command, std::string_view term, const char* iniPath, char* txt);
 
 // Streams the output of a shell command to the caller, the terminator last.
-TermResult runShellTerm(const Decision& decision, fnDataOut dataOut, char* terminator, char* txt);
+TermResult runShell(const RunShell& shell, fnDataOut dataOut, char* terminator, char* txt);
 
 } // namespace talux::kepl
 

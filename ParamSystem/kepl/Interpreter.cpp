@@ -50,12 +50,13 @@ int KEPL_Interpreter::GetResult(char* expression, fnDataOut DataOut, char* resul
     kepl::Evaluation evaluation({DataOut != nullptr ? DataOut : discard, result, terminator}, szIniPath);
     for (std::string_view term; kepl::takeTerm(rest, term);) {
         const kepl::Decision decision = kepl::decide(term, uid, machine);
-        if (decision.isLogged()) kepl::log(decision);
         const Refusal refusal = evaluation.take(decision);
         if (refusal == Refusal::none) continue;
         // What ends the line is also its answer, but for syntax errors and errors of arithmetic.
-        if (decision.isVariable || decision.isAnswer()) evaluation.answer(kepl::textOf(refusal));
-        return decision.isAnswer() ? kLineDone : fail(szError, refusal);
+        const bool isVariable = decision.get<kepl::VariableDecision>() != nullptr;
+        const bool isNoError = decision.get<kepl::RightsTooLow>() != nullptr;
+        if (isVariable || isNoError) evaluation.answer(kepl::textOf(refusal));
+        return isNoError ? kLineDone : fail(szError, refusal);
     }
     const Refusal refusal = evaluation.finish();
     return refusal == Refusal::none ? kLineDone : fail(szError, refusal);
@@ -82,8 +83,7 @@ int KEPL_Interpreter::GetNewValType(int type1, int type2) {
 int KEPL_Interpreter::ProcessCommand(const char* theCommand, char* txt, double* adStack, int* aiType,
                                      int* iSP, int uid) {
     *txt = '\0';
-    const kepl::Decision decision = kepl::decideVariable(theCommand, uid);
-    if (decision.isLogged()) kepl::log(decision);
+    const kepl::VariableDecision decision = kepl::decideVariable(theCommand, uid);
     const bool isPlace = *iSP >= 0 && *iSP < kKeplStackSize;
     std::optional<kepl::TypedNumber> value;
     const kepl::TermResult result = kepl::accessVariable(decision, txt, value);
@@ -93,5 +93,5 @@ int KEPL_Interpreter::ProcessCommand(const char* theCommand, char* txt, double* 
     }
     if (result.refusal != Refusal::none) return fail(szError, result.refusal);
     if (result.output == kepl::Output::topOfStack && !isPlace) return fail(szError, Refusal::syntaxError);
-    return decision.variable.value ? 0 : 1;
+    return decision.term.value ? 0 : 1;
 }

@@ -45,14 +45,14 @@ void streamOutput(const char* command, fnDataOut dataOut, char* terminator) {
 
 } // namespace
 
-TermResult runShellTerm(const Decision& decision, fnDataOut dataOut, char* terminator, char* txt) {
-    if (decision.action == Action::askForShell) {
+TermResult runShell(const RunShell& shell, fnDataOut dataOut, char* terminator, char* txt) {
+    if (shell.command.empty()) {
         copyText(txt, kKeplTextSize, "command required\n");
         return answering(Output::text);
     }
     char command[kKeplMaxTerm + 1];
-    copyText(command, decision.words);
-    if (decision.action == Action::endProcess) endProcess(command);
+    copyText(command, shell.command);
+    if (shell.isForbidden) endProcess(command);
     streamOutput(command, dataOut, terminator);
     return answering(Output::empty);
 }

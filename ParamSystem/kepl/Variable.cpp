@@ -8,6 +8,7 @@
 #include "ParamSystem/kepl/Execution.h"
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/os/Os.h"
+#include "ParamSystem/store/Values.h"
 #include "support/Text.h"
 
 namespace talux::kepl {
@@ -48,25 +49,30 @@ std::string_view quote(QuotedText& quoted, const stParamProperties& row, int id)
 // One variable term; its text grows in `answer`.
 class VariableAccess {
 public:
-    VariableAccess(const Decision& made, char* txt, std::optional<TypedNumber>& left)
-        : decision(made), row(*made.row), answer(txt), value(left) {}
+    VariableAccess(const VariableDecision& made, char* txt, std::optional<TypedNumber>& left)
+        : decision(made), term(made.term), answer(txt), value(left) {}
 
-    TermResult readScalar() {
-        if (isText(row)) {
+    TermResult operator()(const Refused& refusal) {
+        const Refusal why = refusal.refusal;
+        return why == Refusal::rightsTooLow ? refusedForRights(term.text) : refused(why);
+    }
+
+    TermResult operator()(const ReadScalar& /*read*/) {
+        if (isText(row())) {
             QuotedText quoted;
-            answer.append({quote(quoted, row, row.id)});
+            answer.append({quote(quoted, row(), row().id)});
             leave(0.0);
             return answering(Output::text);
         }
-        leave(numberOf(row, row.id));
+        leave(numberOf(row(), row().id));
         return answering(Output::topOfStack);
     }
 
-    TermResult readRecord() {
-        const int record = row.id - kFirstStruct;
+    TermResult operator()(const ReadRecord& /*read*/) {
+        const int record = row().id - kFirstStruct;
         const VarLong size = ARR_StructSize[record];
         char bytes[kLargestRecord];
-        VarGetGlobalStructValue(row.id, bytes, size);
+        VarGetGlobalStructValue(row().id, bytes, size);
         answer.append({"STRUCT:\n"});
 
         const StructMemberProperties_t* member = ARR_StructMemberProperties + ARR_MemberOffset[record];
@@ -80,30 +86,33 @@ public:
         return answering(Output::text);
     }
 
-    TermResult readElements() {
-        const VarLong first = decision.variable.first;
-        const VarLong last = decision.variable.last;
-        if (last - first > 1) answer.append({"ARRAY:\n"});
-        for (VarLong index = first; index <= last; ++index) {
-            const Refusal refusal = dumpElement(index, decision.id + static_cast<int>(index - first));
+    TermResult operator()(const ReadElements& read) {
+        if (term.last - term.first > 1) answer.append({"ARRAY:\n"});
+        for (VarLong index = term.first; index <= term.last; ++index) {
+            const Refusal refusal = dumpElement(index, read.id + static_cast<int>(index - term.first));
             if (refusal != Refusal::none) return refused(refusal);
         }
         return answering(Output::text);
     }
 
-    TermResult write() {
-        writeValue(spaceOf(row), decision.id, *decision.value);
-        if (row.type == kTypeIpAddress && decision.variable.indices == 0) {
+    TermResult operator()(const WriteNumber& write) {
+        writeValue(spaceOf(row()), write.id, Value(write.number));
+        return answering(Output::terminator);
+    }
+
+    TermResult operator()(const WriteText& write) {
+        writeValue(spaceOf(row()), write.id, Value(write.text));
+        if (row().type == kTypeIpAddress && term.indices == 0) {
             VarSetSystemIPs();
             leave(0.0);
         }
         return answering(Output::terminator);
     }
 
-    TermResult setClock() {
-        writeValue(spaceOf(row), decision.id, Value(*decision.variable.value));
+    TermResult operator()(const SetClock& set) {
+        writeValue(spaceOf(row()), set.id, Value(*term.value));
         std::time_t seconds = 0;
-        if (!clockSetTo(decision.clock, typeOf(row).nature, seconds)) return refused(Refusal::syntaxError);
+        if (!clockSetTo(set.numbers, typeOf(row()).nature, seconds)) return refused(Refusal::syntaxError);
         os::setClock(seconds);
         os::runShell("hwclock --systohc --utc --noadjfile");
         leave(0.0);
@@ -111,71 +120,52 @@ public:
     }
 
 private:
-    const Decision& decision;
-    const stParamProperties& row;
+    const VariableDecision& decision;
+    const VariableTerm& term;
     Answer answer;
     std::optional<TypedNumber>& value;
 
-    void leave(double number) { value.emplace(TypedNumber{number, row.type}); }
+    const stParamProperties& row() const { return *decision.row; } // of all but a refused one
+
+    void leave(double number) { value.emplace(TypedNumber{number, row().type}); }
 
     Refusal dumpMember(const StructMemberProperties_t& member, std::string_view bytes, bool isFirst) {
         const int type = memberType(member.szMemberType);
         if (type == kTypeNone) return Refusal::typeUnknown;
         const NumberText text(decode(bytes.data(), type), typeOf(type).shownDecimals);
-        return show(decision.variable.style, {".", member.aszMemberName, text.view(), bytes, isFirst});
+        return show(term.style, {".", member.aszMemberName, text.view(), bytes, isFirst});
     }
 
     Refusal dumpElement(VarLong index, int id) {
         const NumberText label(index, 0);
-        const bool isSingle = decision.variable.indices == 1;
-        const Style asked = decision.variable.style;
+        const bool isSingle = term.indices == 1;
+        const Style asked = term.style;
         const Style style = isSingle && asked == Style::plain ? Style::lines : asked;
-        if (isText(row)) {
+        if (isText(row())) {
             QuotedText quoted;
-            const std::string_view text = quote(quoted, row, id);
+            const std::string_view text = quote(quoted, row(), id);
             leave(0.0);
             return show(style,
                         {" ", label.view(), text, after(text.substr(0, text.size() - 1), 1), index == 1});
         }
-        const double number = numberOf(row, id);
+        const double number = numberOf(row(), id);
         leave(number);
-        const NumberText text(number, typeOf(row).shownDecimals);
-        const NumberBytes bytes = encode(number, row.type);
+        const NumberText text(number, typeOf(row()).shownDecimals);
+        const NumberBytes bytes = encode(number, row().type);
         if (style == Style::hex && bytes.size == 0) return Refusal::typeUnknown;
         return show(style, {" ", label.view(), text.view(), bytes.view(), index == 1});
     }
 
     Refusal show(Style style, const DumpItem& item) {
-        return dump(answer, style, row.name, item) ? Refusal::none : Refusal::bufferOverflow;
+        return dump(answer, style, row().name, item) ? Refusal::none : Refusal::bufferOverflow;
     }
 };
 
 } // namespace
 
-TermResult accessVariable(const Decision& decision, char* txt, std::optional<TypedNumber>& value) {
-    if (decision.isRefused()) return refused(decision.refusal); // has no row
-    VariableAccess variable(decision, txt, value);
-    switch (decision.action) {
-    case Action::readScalar:
-        return variable.readScalar();
-    case Action::readElements:
-        return variable.readElements();
-    case Action::readRecord:
-        return variable.readRecord();
-    case Action::write:
-        return variable.write();
-    case Action::setClock:
-        return variable.setClock();
-    case Action::refuse: // and what is no variable
-    case Action::push:
-    case Action::compute:
-    case Action::command:
-    case Action::shell:
-    case Action::askForShell:
-    case Action::endProcess:
-        break;
-    }
-    return refused(decision.refusal);
+TermResult accessVariable(const VariableDecision& decision, char* txt, std::optional<TypedNumber>& value) {
+    if (decision.isNoted) logNoted(decision.term.text);
+    return std::visit(VariableAccess(decision, txt, value), decision.action);
 }
 
 } // namespace talux::kepl

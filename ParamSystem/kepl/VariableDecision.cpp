@@ -5,6 +5,7 @@
 #include "ParamSystem/kepl/Decision.h"
 #include "ParamSystem/kepl/Words.h"
 #include "ParamSystem/rules/Facts.h"
+#include "ParamSystem/store/Kinds.h"
 #include "support/Parse.h"
 #include "support/Text.h"
 
@@ -45,47 +46,54 @@ std::string_view takeBlankSeparated(std::string_view& rest) {
     return takeWordOf(rest, [](char c) { return c == ' ' || c == '\r' || c == '\n'; });
 }
 
-void takeParts(std::string_view term, VariableTerm& parts) {
-    if (term.size() > kKeplMaxTerm) return;
+VariableTerm partsOf(std::string_view term) {
+    VariableTerm parts{term};
+    if (term.size() > kKeplMaxTerm) return parts;
     std::string_view left = takeWord(term, '=');
     const std::string_view right = takeWord(term, '=');
     if (!right.empty()) parts.value = withoutLeading(right, ' ');
 
     const std::string_view name = takeBlankSeparated(left);
     if (!name.empty()) parts.name = name;
-    if (left.empty()) return;
+    if (left.empty()) return parts;
     const std::string_view second = takeBlankSeparated(left);
     takeSecondAndThird(second, takeBlankSeparated(left), parts);
+    return parts;
 }
 
 // ---- Checks -------------------------------------------------------------------------------------------
 
-// Each check is true when it allows the term, and otherwise names the refusal: the first one of
-// read() or write() that fails decides.
+// Each check is true when it allows the term, and otherwise refuses it: the first one of read() or write()
+// that fails decides.
 class Checks {
 public:
-    Checks(Decision& made, int callersUid) : decision(made), parts(made.variable), uid(callersUid) {}
+    Checks(VariableDecision& made, int callersUid) : decision(made), parts(made.term), uid(callersUid) {}
 
-    bool read() {
-        return indicesAreNumbers() && mayRead() && isKnown() && isReadable() && indexIsWanted() &&
-               (parts.indices < 2 ? indexFits() : rangeFits());
+    void read() {
+        const bool isAllowed = indicesAreNumbers() && mayRead() && isKnown() && isReadable() &&
+                               indexIsWanted() && (parts.indices < 2 ? indexFits() : rangeFits());
+        if (isAllowed) allowRead();
     }
 
-    bool write() {
-        return indicesAreNumbers() && mayWrite() && hasValue() && isKnown() && note() && isWritable() &&
-               hasLevel() && indexIsWanted() && indexFits() && valueFits();
+    void write() {
+        const bool isAllowed = indicesAreNumbers() && mayWrite() && hasValue() && isKnown() && note() &&
+                               isWritable() && hasLevel() && indexIsWanted() && indexFits();
+        if (isAllowed) checkValue();
     }
 
 private:
-    Decision& decision;
+    VariableDecision& decision;
     const VariableTerm& parts;
     const int uid;
 
     const stParamProperties& row() const { return *decision.row; }
 
+    // Of what is read or written first.
+    int id() const { return row().id + (parts.indices == 0 ? 0 : static_cast<int>(parts.first) - 1); }
+
     // Whether it holds; if not, that is the refusal.
     bool demand(bool holds, Refusal refusal) {
-        if (!holds) decision.refusal = refusal;
+        if (!holds) decision.action = Refused{refusal};
         return holds;
     }
 
@@ -136,41 +144,50 @@ private:
                demand(parts.first <= parts.last, Refusal::index1GreaterThanIndex2);
     }
 
-    bool valueFits() {
+    void allowRead() {
+        if (parts.indices > 0)
+            decision.action = ReadElements{id()};
+        else if (typeOf(row()).nature == Nature::record && holds(Kind::Struct, row().id))
+            decision.action = ReadRecord{};
+        else
+            decision.action = ReadScalar{};
+    }
+
+    void checkValue() {
         switch (typeOf(row()).nature) {
         case Nature::text:
         case Nature::address:
-            decision.value.emplace(unquoted(*parts.value));
-            return true;
+            decision.action = WriteText{id(), unquoted(*parts.value)};
+            return;
         case Nature::date:
-            return clockFits('-');
+            return checkClock('-');
         case Nature::time:
-            return clockFits(':');
+            return checkClock(':');
         case Nature::none: // commands and records: the number is checked, the store keeps nothing
         case Nature::record:
         case Nature::number:
-            break;
+            return checkNumber();
         }
-        return numberFits();
     }
 
     // Three numbers, whatever they are; double quotes may enclose them.
-    bool clockFits(char separator) {
+    void checkClock(char separator) {
         std::string_view rest = *parts.value;
         const auto takeNumber = [&](VarLong& number) {
             const auto ends = [=](char c) { return c == separator || c == '"'; };
             return parseLong(takeWordOf(rest, ends), &number) == kParsed;
         };
-        return demand(std::ranges::all_of(decision.clock, takeNumber), Refusal::syntaxError);
+        SetClock set{id(), {}};
+        if (demand(std::ranges::all_of(set.numbers, takeNumber), Refusal::syntaxError)) decision.action = set;
     }
 
-    bool numberFits() {
+    void checkNumber() {
         const std::optional<double> number = numberIn(*parts.value);
-        if (number) decision.value.emplace(*number);
         const Reason reason = rules::check(rules::factsOf(row()), number, rules::kLanguageRefuses).reason;
-        return demand(reason == Reason::none, reason == Reason::tooLow    ? Refusal::valueTooLow
-                                              : reason == Reason::tooHigh ? Refusal::valueTooHigh
-                                                                          : Refusal::syntaxError);
+        if (demand(reason == Reason::none, reason == Reason::tooLow    ? Refusal::valueTooLow
+                                           : reason == Reason::tooHigh ? Refusal::valueTooHigh
+                                                                       : Refusal::syntaxError))
+            decision.action = WriteNumber{id(), *number};
     }
 
     // A text that begins with a double quote loses its first and its last character.
@@ -181,32 +198,16 @@ private:
     }
 };
 
-Action readOf(const Decision& decision) {
-    if (decision.variable.indices > 0) return Action::readElements;
-    const bool isRecord =
-        typeOf(*decision.row).nature == Nature::record && holds(Kind::Struct, decision.row->id);
-    return isRecord ? Action::readRecord : Action::readScalar;
-}
-
-Action writeOf(const Decision& decision) {
-    const Nature nature = typeOf(*decision.row).nature;
-    return nature == Nature::date || nature == Nature::time ? Action::setClock : Action::write;
-}
-
 } // namespace
 
-Decision decideVariable(std::string_view term, int uid) {
-    Decision decision;
-    decision.term = term;
-    decision.isVariable = true;
-    takeParts(term, decision.variable);
-    decision.row = findParameter(decision.variable.name);
-    const bool isWrite = decision.variable.value.has_value();
+VariableDecision decideVariable(std::string_view term, int uid) {
+    VariableDecision decision{partsOf(term)};
+    decision.row = findParameter(decision.term.name);
     Checks checks(decision, uid);
-    if (!(isWrite ? checks.write() : checks.read())) return decision;
-    decision.action = isWrite ? writeOf(decision) : readOf(decision);
-    const int element = decision.variable.indices == 0 ? 0 : static_cast<int>(decision.variable.first) - 1;
-    decision.id = decision.row->id + element;
+    if (decision.term.value)
+        checks.write();
+    else
+        checks.read();
     return decision;
 }
 

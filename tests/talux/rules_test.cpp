@@ -145,11 +145,21 @@ bool isTerm(const Case& given) {
     return !given.has(",=") && kepl::kPrefixLength + given.term().size() <= kKeplMaxTerm;
 }
 
+// Where the language writes what; nothing when it refuses.
+std::optional<std::pair<int, Value>> writeOf(const std::string& line) {
+    const kepl::Decision decision = kepl::decide(line, 3);
+    const auto* const variable = decision.get<kepl::VariableDecision>();
+    if (const auto* const write = variable->get<kepl::WriteNumber>())
+        return {{write->id, Value(write->number)}};
+    if (const auto* const write = variable->get<kepl::WriteText>()) return {{write->id, Value(write->text)}};
+    return {};
+}
+
 Answer byLanguage(const Case& given) {
     if (!isTerm(given)) return {};
-    const kepl::Decision decision = kepl::decide("TLX_" + given.term(), 3);
-    if (decision.isRefused()) return Verdict{true};
-    return Verdict{false, storedAs(decision.id, *decision.value)};
+    const auto write = writeOf("TLX_" + given.term());
+    if (!write) return Verdict{true};
+    return Verdict{false, storedAs(write->first, write->second)};
 }
 
 Answer byLoad(const Case& given) {
@@ -178,10 +188,9 @@ Answer byCheck(const Case& given) {
 Answer byLint(const Case& given) {
     if (!isTerm(given)) return {};
     const std::string line = "TLX_" + given.term();
-    const kepl::Decision decision = kepl::decide(line, 3);
     std::set<std::string> implausible;
-    if (!decision.isRefused())
-        tool::findFaults({{reference::find(given.parameter.name()), *decision.value}}, {},
+    if (const auto write = writeOf(line))
+        tool::findFaults({{reference::find(given.parameter.name()), write->second}}, {},
                          [&](const tool::Implausible& found) { implausible.insert(found.text); });
     const auto findings = tool::checkLine(line, {}, {});
     return Verdict{std::ranges::any_of(

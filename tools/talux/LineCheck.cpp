@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/kepl/Words.h"
+#include "support/Parse.h"
 #include "support/Text.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Lookup.h"
@@ -16,16 +18,16 @@ namespace talux::tool {
 
 namespace {
 
-using kepl::Action;
 using kepl::Decision;
 using kepl::Refusal;
+using kepl::VariableDecision;
 
 // What the language stores and says nothing of.
 constexpr rules::Reasons kUnnoticed{Reason::noChoice, Reason::notWhole,     Reason::notCarried,
                                     Reason::tooLong,  Reason::tooManyBytes, Reason::noAddress,
                                     Reason::noNetmask};
 
-const Parameter* parameterOf(const Decision& decision) {
+const Parameter* parameterOf(const VariableDecision& decision) {
     return decision.row == nullptr ? nullptr : reference::find(decision.row->name);
 }
 
@@ -40,20 +42,21 @@ std::string nameReason(std::string_view name, const Context& context) {
     return unknownName(name, context);
 }
 
-std::string syntaxReason(const Decision& decision, const Context& context) {
-    const std::string term = printable(decision.term);
-    if (!decision.isVariable) {
-        const std::string_view name = decision.term.substr(0, decision.term.find_first_of(" ="));
-        if (const Parameter* parameter = reference::find(name); parameter != nullptr && !name.empty())
-            return fill(context.say("parameters are written with a prefix: TLX_{}",
-                                    "Parameter stehen mit Vorsatz: TLX_{}"),
-                        {joined({parameter->name(), printable(decision.term.substr(name.size()))})});
-        return fill(context.say("'{}' is not a number, command, parameter, operator or function",
-                                "'{}' ist weder Zahl noch Befehl, Parameter, Operator oder Funktion"),
-                    {term});
-    }
-    if (decision.row == nullptr) return nameReason(decision.variable.name, context);
-    const std::string value = printable(decision.variable.value.value_or(""));
+// Of what is neither a variable nor a word nor a number.
+std::string termReason(std::string_view term, const Context& context) {
+    const std::string_view name = term.substr(0, term.find_first_of(" ="));
+    if (const Parameter* parameter = reference::find(name); parameter != nullptr && !name.empty())
+        return fill(context.say("parameters are written with a prefix: TLX_{}",
+                                "Parameter stehen mit Vorsatz: TLX_{}"),
+                    {joined({parameter->name(), printable(term.substr(name.size()))})});
+    return fill(context.say("'{}' is not a number, command, parameter, operator or function",
+                            "'{}' ist weder Zahl noch Befehl, Parameter, Operator oder Funktion"),
+                {printable(term)});
+}
+
+std::string syntaxReason(const VariableDecision& decision, const Context& context) {
+    if (decision.row == nullptr) return nameReason(decision.term.name, context);
+    const std::string value = printable(decision.term.value.value_or(""));
     if (value.empty()) return context.say("there is no value after =", "hinter = steht kein Wert");
     const Nature nature = typeOf(*decision.row).nature;
     const Reason reason = nature == Nature::date   ? Reason::noDate
@@ -62,17 +65,14 @@ std::string syntaxReason(const Decision& decision, const Context& context) {
     return objectionTo("'" + value + "'", {reason}, *parameterOf(decision), context);
 }
 
-std::string rightsReason(const Decision& decision, const Context& context) {
-    int level = kepl::kShellLevel;
-    if (decision.isVariable && !decision.variable.value) {
-        level = kepl::kReadLevel;
-    } else if (decision.isVariable) {
-        level = std::max(kepl::kWriteLevel, decision.row != nullptr ? decision.row->userlevel : 0);
-    } else {
-        const bool isShell = decision.command == kepl::Command::shell;
-        if (!isShell) level = rowOf(kepl::kCommands, decision.command).lowestUid;
-    }
+std::string levelReason(int level, const Context& context) {
     return fill(context.say("needs rights level {}", "verlangt Rechtestufe {}"), {std::to_string(level)});
+}
+
+std::string rightsReason(const VariableDecision& decision, const Context& context) {
+    const int rowLevel = decision.row != nullptr ? decision.row->userlevel : 0;
+    return levelReason(decision.term.value ? std::max(kepl::kWriteLevel, rowLevel) : kepl::kReadLevel,
+                       context);
 }
 
 std::string elementsOf(const stParamProperties& row, const Context& context) {
@@ -89,6 +89,9 @@ struct Piece {
     std::string_view term;
     Decision decision;
     bool isLast;
+
+    const VariableDecision* variable() const { return decision.get<VariableDecision>(); }
+    const Parameter* parameter() const { return variable() != nullptr ? parameterOf(*variable()) : nullptr; }
 };
 
 class Look {
@@ -159,30 +162,31 @@ private:
 
     // False when the line ends with this term.
     bool lookAt(const Piece& piece) {
-        const Decision& decision = piece.decision;
-        subject = parameterOf(decision);
+        const VariableDecision* const variable = piece.variable();
+        subject = piece.parameter();
         if (piece.text.size() > kKeplMaxTerm)
             add(placeOf(piece), context.say("more than 127 characters: the term is cut",
                                             "mehr als 127 Zeichen: der Term wird abgeschnitten"));
-        if (decision.isRefused()) {
-            add(placeOf(piece), reasonOf(decision, context) + choiceMeant(decision), true);
+        if (piece.decision.isRefused()) {
+            add(placeOf(piece), reasonOf(piece.decision, context) + choiceMeant(variable), true);
             return false;
         }
         if (!lookAtStack(piece)) return false;
-        if (decision.isVariable) lookAtVariable(piece);
-        if (decision.action == Action::command) lookAtCommand(piece);
-        numberWritten =
-            decision.action == Action::write && !isText(*decision.row) ? parameterOf(decision) : nullptr;
-        written = decision.variable.value.value_or("");
+        if (variable != nullptr) lookAtVariable(piece, *variable);
+        if (const auto* const run = piece.decision.get<kepl::RunCommand>()) lookAtCommand(piece, *run);
+        const bool writesNumber = variable != nullptr && variable->get<kepl::WriteNumber>() != nullptr;
+        numberWritten = writesNumber ? subject : nullptr;
+        written = writesNumber ? *variable->term.value : "";
         return true;
     }
 
     // The language takes numbers of choices only.
-    std::string choiceMeant(const Decision& decision) const {
-        if (subject == nullptr || !decision.variable.value) return {};
-        for (const Meaning& meaning : meaningsOf(*decision.variable.value, context.language))
+    std::string choiceMeant(const VariableDecision* variable) const {
+        if (subject == nullptr || !variable->term.value) return {};
+        const std::string_view value = *variable->term.value;
+        for (const Meaning& meaning : meaningsOf(value, context.language))
             if (std::ranges::find(meaning.bearers, subject) != meaning.bearers.end() &&
-                std::to_string(meaning.choice.number) != *decision.variable.value)
+                std::to_string(meaning.choice.number) != value)
                 return fill(
                     context.say("; the number of this choice is {}", "; die Nummer dieser Auswahl ist {}"),
                     {std::to_string(meaning.choice.number)});
@@ -190,45 +194,34 @@ private:
     }
 
     bool lookAtStack(const Piece& piece) {
-        const Decision& decision = piece.decision;
-        const bool wasZero = topIsZero;
-        topIsZero = false;
-        switch (decision.action) {
-        case Action::push:
-            if (numberWritten != nullptr && piece.isLast)
-                add(placeOf(piece),
-                    fill(context.say(
-                             "{} becomes {}: a comma ends the term. For {}.{} write TLX_{}={}.{}",
-                             "{} wird {}: ein Komma beendet den Term. Für {}.{} schreiben Sie TLX_{}={}.{}"),
-                         {numberWritten->name(), written, written, piece.text, numberWritten->name(), written,
-                          piece.text}));
-            ++depth;
-            topIsZero = decision.value->number() == 0;
+        const bool wasZero = std::exchange(topIsZero, false);
+        if (const auto* const push = piece.decision.get<kepl::PushNumber>()) {
+            lookAtNumber(piece, push->number);
             return true;
-        case Action::readScalar:
-            saysValue = !isText(*decision.row);
-            depth += saysValue ? 1 : 0;
-            return true;
-        case Action::compute:
-            return lookAtOperation(piece, wasZero);
-        case Action::write:
-        case Action::setClock:
-        case Action::readElements:
-        case Action::readRecord:
-        case Action::command:
-        case Action::shell:
-        case Action::askForShell:
-        case Action::endProcess:
-            saysValue = false;
-            return true;
-        case Action::refuse:
-            break;
         }
+        if (const auto* const compute = piece.decision.get<kepl::Compute>())
+            return lookAtOperation(piece, compute->operation, wasZero);
+        const VariableDecision* const variable = piece.variable();
+        saysValue =
+            variable != nullptr && variable->get<kepl::ReadScalar>() != nullptr && !isText(*variable->row);
+        depth += saysValue;
         return true;
     }
 
-    bool lookAtOperation(const Piece& piece, bool wasZero) {
-        const int operands = rowOf(kepl::kOperations, piece.decision.operation).operands;
+    void lookAtNumber(const Piece& piece, double number) {
+        if (numberWritten != nullptr && piece.isLast)
+            add(placeOf(piece),
+                fill(context.say(
+                         "{} becomes {}: a comma ends the term. For {}.{} write TLX_{}={}.{}",
+                         "{} wird {}: ein Komma beendet den Term. Für {}.{} schreiben Sie TLX_{}={}.{}"),
+                     {numberWritten->name(), written, written, piece.text, numberWritten->name(), written,
+                      piece.text}));
+        ++depth;
+        topIsZero = number == 0;
+    }
+
+    bool lookAtOperation(const Piece& piece, kepl::Operation operation, bool wasZero) {
+        const int operands = rowOf(kepl::kOperations, operation).operands;
         if (depth < operands) {
             add(placeOf(piece),
                 fill(context.say("takes {} values from the stack, there are {}",
@@ -237,7 +230,7 @@ private:
                 true);
             return false;
         }
-        if (piece.decision.operation == kepl::Operation::divide && wasZero) {
+        if (operation == kepl::Operation::divide && wasZero) {
             add(placeOf(piece), context.say("divides by zero", "teilt durch null"), true);
             return false;
         }
@@ -246,35 +239,35 @@ private:
     }
 
     // Only the beginning of a command counts, and only two of them take a file name, up to a blank.
-    void lookAtCommand(const Piece& piece) {
-        const kepl::CommandRow& row = rowOf(kepl::kCommands, piece.decision.command);
+    void lookAtCommand(const Piece& piece, const kepl::RunCommand& run) {
+        const kepl::CommandRow& row = rowOf(kepl::kCommands, run.command);
         std::string_view rest = piece.term;
         const std::string_view word = kepl::takeWord(rest, ' ');
         if (word.size() > row.word.size())
             add(placeOf(piece), fill(context.say("{} is carried out as {}: what follows does not count",
                                                  "{} wird als {} ausgeführt: was folgt, zählt nicht"),
                                      {printable(word), row.word}));
-        const std::string_view file = row.takesFile ? kepl::takeWord(rest, ' ') : "";
+        if (!run.file.empty()) kepl::takeWord(rest, ' ');
         const std::string_view ignored = kepl::withoutLeading(rest, ' ');
         if (ignored.empty()) return;
         add(placeOf(piece),
-            file.empty() ? fill(context.say("{} takes no file name: {} is ignored",
-                                            "{} nimmt keinen Dateinamen: {} bleibt unbeachtet"),
-                                {row.word, printable(ignored)})
-                         : fill(context.say("loads {}: a blank ends the file name, {} is ignored",
-                                            "lädt {}: ein Leerzeichen beendet den Dateinamen, {} bleibt "
-                                            "unbeachtet"),
-                                {printable(file), printable(ignored)}));
+            run.file.empty() ? fill(context.say("{} takes no file name: {} is ignored",
+                                                "{} nimmt keinen Dateinamen: {} bleibt unbeachtet"),
+                                    {row.word, printable(ignored)})
+                             : fill(context.say("loads {}: a blank ends the file name, {} is ignored",
+                                                "lädt {}: ein Leerzeichen beendet den Dateinamen, {} bleibt "
+                                                "unbeachtet"),
+                                    {printable(run.file), printable(ignored)}));
     }
 
-    void lookAtVariable(const Piece& piece) {
-        const Decision& decision = piece.decision;
-        if (decision.action == Action::write) lookAtWrite(piece, *parameterOf(decision));
+    void lookAtVariable(const Piece& piece, const VariableDecision& variable) {
+        if (const auto* const write = variable.get<kepl::WriteNumber>()) lookAtWrite(piece, write->number);
+        if (const auto* const write = variable.get<kepl::WriteText>()) lookAtWrite(piece, write->text);
         const std::string_view behind =
             kepl::withoutLeading(piece.term.substr(std::min(piece.term.find('='), piece.term.size())), '=');
-        if (decision.variable.value && behind.find('=') != behind.npos)
+        if (variable.term.value && behind.find('=') != behind.npos)
             add(placeOf(piece), context.say("a second = ends the value", "ein zweites = beendet den Wert"));
-        const std::size_t length = leastAnswer(decision);
+        const std::size_t length = leastAnswer(variable);
         if (length > asked.answerRoom)
             add(placeOf(piece),
                 fill(context.say("the answer has at least {} characters, {} fit: read less at once",
@@ -283,22 +276,14 @@ private:
                      {std::to_string(length), std::to_string(asked.answerRoom)}));
     }
 
-    void lookAtWrite(const Piece& piece, const Parameter& parameter) {
-        const Value& given = *piece.decision.value;
-        const std::size_t at = placeOf(piece);
-        values.insert_or_assign(&parameter, given);
-        places.insert_or_assign(&parameter, at);
-        const auto addObjection = [&](const std::string& value) {
-            return [&, value](const rules::Objection& objection) {
-                add(at, objectionTo(value, objection, parameter, context));
-            };
-        };
-        if (!given.isText())
-            return rules::forEachObjection(parameter.facts(), given.number(), kUnnoticed,
-                                           addObjection(reference::shortNumber(given.number())));
-        const std::string_view value = *piece.decision.variable.value;
+    void lookAtWrite(const Piece& piece, double number) {
+        addObjections(piece, number, reference::shortNumber(number));
+    }
+
+    void lookAtWrite(const Piece& piece, std::string_view text) {
+        const std::string_view value = *piece.variable()->term.value;
         if (value.starts_with('"') && (value.size() < 2 || !value.ends_with('"')))
-            add(at,
+            add(placeOf(piece),
                 piece.isLast
                     ? context.say(
                           "the text begins with a quote and loses its last character, which is none",
@@ -306,18 +291,27 @@ private:
                           "das keines ist")
                     : context.say("a comma always ends the text, even in quotes",
                                   "ein Komma beendet den Text, was auch immer ihn umgibt"));
-        const std::string_view text = given.text();
-        rules::forEachObjection(parameter.facts(), text, kUnnoticed,
-                                addObjection("'" + printable(text) + "'"));
+        addObjections(piece, text, "'" + printable(text) + "'");
+    }
+
+    // What speaks against a number or a text, which the line writes.
+    template <class Given>
+    void addObjections(const Piece& piece, Given given, const std::string& shown) {
+        const Parameter& parameter = *subject;
+        values.insert_or_assign(subject, Value(given));
+        places.insert_or_assign(subject, placeOf(piece));
+        rules::forEachObjection(parameter.facts(), given, kUnnoticed, [&](const rules::Objection& objection) {
+            add(placeOf(piece), objectionTo(shown, objection, parameter, context));
+        });
     }
 
     // Characters of the answer when every value is as short as can be.
-    static std::size_t leastAnswer(const Decision& decision) {
-        const bool isRecord = decision.action == Action::readRecord;
-        if (!isRecord && decision.action != Action::readElements) return 0;
+    static std::size_t leastAnswer(const VariableDecision& decision) {
+        const bool isRecord = decision.get<kepl::ReadRecord>() != nullptr;
+        if (!isRecord && decision.get<kepl::ReadElements>() == nullptr) return 0;
         const Parameter& parameter = *parameterOf(decision);
-        const auto style = decision.variable.style;
-        std::size_t length = isRecord ? 8 : decision.variable.last - decision.variable.first > 1 ? 7 : 0;
+        const auto style = decision.term.style;
+        std::size_t length = isRecord ? 8 : decision.term.last - decision.term.first > 1 ? 7 : 0;
         const auto addOne = [&](const Type& type, std::size_t label) {
             const std::size_t value = type.shownDecimals == 0 ? 1 : 8; // "0", "0.000000"
             const std::size_t named =
@@ -332,7 +326,7 @@ private:
                 addOne(typeOf(memberType(member.szMemberType)),
                        std::string_view(member.aszMemberName).size());
         } else {
-            for (VarLong k = decision.variable.first; k <= decision.variable.last; ++k)
+            for (VarLong k = decision.term.first; k <= decision.term.last; ++k)
                 addOne(parameter.type(), std::to_string(k).size());
         }
         return length - (style == kepl::Style::columns ? 1 : 0);
@@ -342,13 +336,12 @@ private:
     // that may be written.
     bool lookAtHead(const Piece& piece) {
         const std::string_view term = piece.term;
-        subject = parameterOf(piece.decision);
-        if (!piece.decision.isVariable) return true; // a number or a command may become anything
-        const std::string_view name = piece.decision.variable.name;
+        subject = piece.parameter();
+        if (piece.variable() == nullptr) return true; // a number or a command may become anything
         const std::string_view behind = term.substr(std::min(term.find_first_of(" =\r\n", 4), term.size()));
         if (behind.empty()) return lookAtUnfinishedName(piece, term.substr(4));
-        if (piece.decision.row == nullptr) {
-            add(placeOf(piece), nameReason(name, context), true);
+        if (subject == nullptr) {
+            add(placeOf(piece), nameReason(piece.variable()->term.name, context), true);
             return false;
         }
         if (behind.find('=') == behind.npos) return true;
@@ -367,7 +360,7 @@ private:
 
     // With a value that would be accepted: whatever is refused then is refused with any value.
     bool lookAtHeadOfWrite(const Piece& piece) {
-        const Parameter& parameter = *parameterOf(piece.decision);
+        const Parameter& parameter = *subject;
         std::string term(piece.term.substr(0, piece.term.find('=')));
         const Nature nature = parameter.type().nature;
         term += nature == Nature::date   ? "=2024-01-01"
@@ -384,22 +377,22 @@ private:
 
 namespace {
 
-std::string elementsReason(const Decision& decision, const Context& context) {
+std::string elementsReason(const VariableDecision& decision, const Context& context) {
     return elementsOf(*decision.row, context);
 }
 
-std::string rangeReason(const Decision& decision, const Context& context) {
-    const double number = decision.value->number();
+std::string rangeReason(const VariableDecision& decision, const Context& context) {
+    const double number = *numberIn(*decision.term.value);
     return objectionTo(reference::shortNumber(number), {Reason::tooLow}, *parameterOf(decision), context);
 }
 
 // Of what shows only when a line is carried out.
-std::string laterReason(const Decision& /*decision*/, const Context& /*context*/) {
+std::string laterReason(const VariableDecision& /*decision*/, const Context& /*context*/) {
     return {};
 }
 
 template <const char* en, const char* de>
-std::string namedReason(const Decision& decision, const Context& context) {
+std::string namedReason(const VariableDecision& decision, const Context& context) {
     return fill(context.say(en, de), {decision.row->name});
 }
 constexpr char kNoElements[] = "{} has no elements", kNoElementsDe[] = "{} hat keine Elemente";
@@ -409,12 +402,12 @@ constexpr char kWriteOnly[] = "{} can only be written", kWriteOnlyDe[] = "{} kan
 // Why a term is refused, for people.
 struct Explanation {
     Refusal refusal;
-    std::string (*say)(const Decision& decision, const Context& context);
+    std::string (*say)(const VariableDecision& decision, const Context& context);
 };
 constexpr Explanation kReasons[] = {
     {Refusal::none, laterReason},
     {Refusal::indexNotANumber,
-     [](const Decision&, const Context& context) -> std::string {
+     [](const VariableDecision&, const Context& context) -> std::string {
          return context.say(
              "after the name comes an index, a range such as 1.5, or an option: -p, -c, -h",
              "hinter dem Namen steht ein Index, ein Bereich wie 1.5 oder eine Option: -p, -c, -h");
@@ -431,7 +424,7 @@ constexpr Explanation kReasons[] = {
     {Refusal::index2TooLow, elementsReason},
     {Refusal::index2TooHigh, elementsReason},
     {Refusal::index1GreaterThanIndex2,
-     [](const Decision&, const Context& context) -> std::string {
+     [](const VariableDecision&, const Context& context) -> std::string {
          return context.say("the range runs backwards", "der Bereich läuft rückwärts");
      }},
     {Refusal::readOnly, namedReason<kReadOnly, kReadOnlyDe>},
@@ -447,8 +440,16 @@ static_assert(hasRowForEach<&Explanation::refusal>(kReasons),
 
 } // namespace
 
+std::string reasonOf(const VariableDecision& decision, const Context& context) {
+    const auto* const refused = decision.get<kepl::Refused>();
+    return refused == nullptr ? "" : rowOf(kReasons, refused->refusal).say(decision, context);
+}
+
 std::string reasonOf(const Decision& decision, const Context& context) {
-    return rowOf(kReasons, decision.refusal).say(decision, context);
+    if (const auto* const variable = decision.get<VariableDecision>()) return reasonOf(*variable, context);
+    if (const auto* const rights = decision.get<kepl::RightsTooLow>())
+        return levelReason(rights->level, context);
+    return decision.isRefused() ? termReason(decision.term, context) : "";
 }
 
 std::vector<LineFinding> checkLine(std::string_view line, const LineAsked& asked, const Context& context) {

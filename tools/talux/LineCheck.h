@@ -30,6 +30,7 @@ std::vector<LineFinding> checkLine(std::string_view line, const LineAsked& asked
 
 // Why a term is refused, in words, with the range or the nearest name.
 std::string reasonOf(const kepl::Decision& decision, const Context& context);
+std::string reasonOf(const kepl::VariableDecision& decision, const Context& context);
 
 } // namespace talux::tool
 

@@ -144,10 +144,12 @@ private:
         std::string_view rest = line, term;
         while (isPerson && kepl::takeTerm(rest, term)) {
             const kepl::Decision decision = kepl::decide(term, level);
-            const bool isAddress =
-                decision.action == kepl::Action::write && decision.row->type == kTypeIpAddress;
-            const bool isLoad = decision.action == kepl::Action::command && decision.words.empty() &&
-                                decision.command == kepl::Command::loadAddresses;
+            const auto* const variable = decision.get<kepl::VariableDecision>();
+            const bool isAddress = variable != nullptr && variable->get<kepl::WriteText>() != nullptr &&
+                                   variable->row->type == kTypeIpAddress;
+            const auto* const run = decision.get<kepl::RunCommand>();
+            const bool isLoad =
+                run != nullptr && run->file.empty() && run->command == kepl::Command::loadAddresses;
             if (isAddress || isLoad)
                 return isAgreed(
                     context.say("This applies the network at once and can cut you off; `talux address` "

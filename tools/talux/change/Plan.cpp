@@ -78,10 +78,10 @@ const char* formatOf(Nature nature) {
 }
 
 // Whether the clock has the moment. Of the numbers in the text any would do for the clock itself.
-bool isMoment(std::string_view text, const kepl::Decision& decision) {
+bool isMoment(std::string_view text, const kepl::VariableDecision& decision) {
     const Nature nature = typeOf(*decision.row).nature;
     std::time_t seconds = 0;
-    return kepl::clockSetTo(decision.clock, nature, seconds) &&
+    return kepl::clockSetTo(decision.get<kepl::SetClock>()->numbers, nature, seconds) &&
            localTimeText(seconds, formatOf(nature)) == text;
 }
 
@@ -168,15 +168,19 @@ void Plan::take(std::string_view typed, std::string_view value, const std::strin
     if (!isKnownNumber) meant = number(*parameter, value, place, typed);
     if (!meant) return;
     const std::string_view element = label.index.empty() ? "" : isIndex(label.index) ? label.index : "?";
-    const kepl::Decision decision = kepl::decideVariable(
-        joined({parameter->name(), element.empty() ? "" : " ", element, "=", *meant}), kAllRights);
-    if (decision.refusal == kepl::Refusal::readOnly && onDevice && isPresent(*parameter, value)) return;
-    if (decision.isRefused()) return refuse(place, typed, reasonOf(decision, context));
+    const std::string term = joined({parameter->name(), element.empty() ? "" : " ", element, "=", *meant});
+    const kepl::VariableDecision decision = kepl::decideVariable(term, kAllRights);
+    if (const auto* const refusal = decision.get<kepl::Refused>()) {
+        const bool isReadOnly = refusal->refusal == kepl::Refusal::readOnly;
+        if (isReadOnly && onDevice && isPresent(*parameter, value)) return;
+        return refuse(place, typed, reasonOf(decision, context));
+    }
     if (isClock && !isMoment(value, decision))
         return refuse(place, typed,
                       context.say("the clock has no {}", "die Uhr kennt kein {}", printable(value)));
-    add(*parameter, static_cast<int>(decision.variable.first),
-        isText || isClock ? Value(value) : *decision.value, place);
+    const auto* const write = decision.get<kepl::WriteNumber>();
+    add(*parameter, static_cast<int>(decision.term.first),
+        write != nullptr ? Value(write->number) : Value(value), place);
 }
 
 void Plan::checkDevice(std::string_view line, const std::string& path) const {
