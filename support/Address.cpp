@@ -4,34 +4,28 @@
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
-#include <iterator>
 #include <limits>
-
-#include "support/Text.h"
 
 namespace talux {
 
-namespace {
-
-// The number that leads the next piece; moves `text` past it.
-int takePiece(const char*& text) {
-    text += std::strspn(text, ".");
-    const long number = std::strtol(text, nullptr, 10);
-    text += std::strcspn(text, ".");
-    return static_cast<int>(
-        std::clamp<long>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+Address addressIn(const char* text) {
+    using Limits = std::numeric_limits<int>;
+    Address address;
+    for (int& part : address.part) {
+        text += std::strspn(text, ".");
+        part =
+            static_cast<int>(std::clamp<long>(std::strtol(text, nullptr, 10), Limits::min(), Limits::max()));
+        text += std::strcspn(text, ".");
+    }
+    return address;
 }
 
-} // namespace
-
-void normaliseAddress(char* dest, std::size_t size, const char* text) {
-    char whole[kWholeAddressSize];
-    char* end = whole;
-    for (int piece = 0; piece < 4; ++piece) {
-        if (piece > 0) *end++ = '.';
-        end = std::to_chars(end, std::end(whole), takePiece(text)).ptr;
+char* appendAddress(char* end, const Address& address) {
+    for (const int& part : address.part) {
+        if (&part != address.part) *end++ = '.';
+        end = std::to_chars(end, end + 11, part).ptr;
     }
-    copyText(dest, size, {whole, end});
+    return end;
 }
 
 } // namespace talux

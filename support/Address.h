@@ -6,18 +6,19 @@
 
 namespace talux {
 
-// Room for any normalised address: four 32-bit numbers, three dots, a NUL.
-inline constexpr std::size_t kWholeAddressSize = 48;
+struct Address {
+    int part[4] = {};
+};
 
-// Rewrites an address without leading zeros: its first four pieces between dots (runs of dots count as
-// one) as decimal numbers, 0 for a piece that is missing or has no number. "192.168.001.010" becomes
-// "192.168.1.10", "" becomes "0.0.0.0". At most size - 1 characters and a NUL are written to `dest`.
-void normaliseAddress(char* dest, std::size_t size, const char* text);
+// The first four pieces between dots, runs of which count as one; a piece that is missing or no number is 0.
+// Numbers are clamped to 32 bits.
+Address addressIn(const char* text);
 
-template <std::size_t N>
-void normaliseAddress(char (&dest)[N], const char* text) {
-    normaliseAddress(dest, N, text);
-}
+// Characters of the longest text of an address: four 32-bit numbers and three dots.
+inline constexpr std::size_t kMaxAddressText = 4 * 11 + 3;
+
+// Writes "192.168.1.10" without a NUL to `end` and returns its end.
+char* appendAddress(char* end, const Address& address);
 
 } // namespace talux
 

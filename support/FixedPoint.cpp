@@ -3,7 +3,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <iterator>
 
 #include "support/Text.h"
 
@@ -52,19 +51,19 @@ char* appendMillionths(char* place, std::uint32_t value) {
 
 } // namespace
 
-std::size_t formatFixedPoint(char (&dest)[kFixedPointSize], double number, int decimals) {
+std::size_t formatFixedPoint(char* dest, double number, int decimals) {
     // Processors differ in the sign of what is no number; it is not shown.
     if (std::isnan(number)) number = std::fabs(number);
     FixedPoint parts{};
     if (!split(std::fabs(number), parts))
-        return static_cast<std::size_t>(formatText(dest, sizeof dest, "%.*f", decimals, number));
+        return static_cast<std::size_t>(formatText(dest, kFixedPointSize, "%.*f", decimals, number));
 
     const std::uint32_t decimalPart = decimals == 0 ? 0 : millionths(parts.fraction);
     parts.whole += decimals == 0 ? roundedUp(parts.whole, parts.fraction, std::uint64_t{1} << 62)
                                  : decimalPart / kMillion;
     char* end = dest;
     if (std::signbit(number)) *end++ = '-';
-    end = std::to_chars(end, std::end(dest), parts.whole).ptr;
+    end = std::to_chars(end, dest + kFixedPointSize, parts.whole).ptr;
     if (decimals != 0) {
         *end++ = '.';
         end = appendMillionths(end, decimalPart % kMillion);

@@ -6,12 +6,13 @@
 
 namespace talux {
 
-// Room for any double with six decimals: sign, 309 digits, point, decimals, NUL.
+// Bytes of any double with six decimals: sign, 309 digits, point, decimals, NUL.
 inline constexpr std::size_t kFixedPointSize = 320;
 
 // The text that printf makes of "%.0f" (`decimals` 0) or "%f" (`decimals` 6) in the C locale, several times
-// faster for ordinary numbers; "nan" for all that is no number. Returns its length.
-std::size_t formatFixedPoint(char (&dest)[kFixedPointSize], double number, int decimals);
+// faster for ordinary numbers; "nan" for all that is no number. `dest` has kFixedPointSize bytes. Returns the
+// length.
+std::size_t formatFixedPoint(char* dest, double number, int decimals);
 
 } // namespace talux
 

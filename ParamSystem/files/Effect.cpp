@@ -8,30 +8,37 @@ namespace talux {
 
 namespace {
 
-Effect keeping(const stParamProperties& row, const Value& value) {
-    return {holds(typeOf(row).kind, row.id) ? Outcome::stored : Outcome::noSlot, &row, value};
+// The value is built in its place, which spares a load two copies of it per line.
+Outcome readText(std::string_view text, int wantedType, Effect& effect) {
+    if (wantedType != 0 && wantedType != effect.row->type) return Outcome::otherType;
+    effect.value.emplace(text);
+    return Outcome::stored;
 }
 
-Effect textEffect(const stParamProperties& row, const char* text, int wantedType) {
-    if (wantedType != 0 && wantedType != row.type) return {Outcome::otherType, &row, {}};
-    return keeping(row, Value(std::string_view(text)));
-}
-
-Effect numberEffect(const stParamProperties& row, const char* text) {
+Outcome readNumber(std::string_view text, Effect& effect) {
     const std::optional<double> number = numberIn(text);
-    if (rules::check(rules::factsOf(row), number, rules::kLoadingRefuses))
-        return {Outcome::notANumber, &row, {}};
-    return keeping(row, Value(*number));
+    if (rules::check(rules::factsOf(*effect.row), number, rules::kLoadingRefuses)) return Outcome::notANumber;
+    effect.value.emplace(*number);
+    return Outcome::stored;
+}
+
+Outcome read(const Entry& entry, int wantedType, Effect& effect) {
+    if (entry.form != LineForm::entry) return Outcome::noEntry;
+    const stParamProperties* const row = effect.row = findParameter(entry.name);
+    if (row == nullptr) return Outcome::unknownName;
+    if (row->is_volatile == 1) return Outcome::runTime;
+    const Type& type = typeOf(*row);
+    const Outcome outcome =
+        isText(type.nature) ? readText(entry.value, wantedType, effect) : readNumber(entry.value, effect);
+    return outcome == Outcome::stored && !holds(type.kind, row->id) ? Outcome::noSlot : outcome;
 }
 
 } // namespace
 
 Effect effectOf(const Entry& entry, int wantedType) {
-    if (entry.form != LineForm::entry) return {};
-    const stParamProperties* const row = findParameter(entry.name);
-    if (row == nullptr) return {Outcome::unknownName, nullptr, {}};
-    if (row->is_volatile == 1) return {Outcome::runTime, row, {}};
-    return isText(*row) ? textEffect(*row, entry.value, wantedType) : numberEffect(*row, entry.value);
+    Effect effect;
+    effect.outcome = read(entry, wantedType, effect);
+    return effect;
 }
 
 void carryOut(const Effect& effect) {

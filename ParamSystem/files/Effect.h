@@ -1,5 +1,5 @@
-// What loading an entry of a parameter file does to the temporary space: found out without touching it, then
-// done.
+// What loading an entry of a parameter file changes in the temporary space: first determined, then carried
+// out.
 #ifndef TALUX_FILES_EFFECT_H
 #define TALUX_FILES_EFFECT_H
 
@@ -11,19 +11,19 @@
 namespace talux {
 
 enum class Outcome {
-    noEntry,     // the line is none
+    noEntry,     // the line is no entry
     unknownName, // skipped: files may come from another version
     runTime,     // skipped: the parameter is no setting
     otherType,   // skipped: a text of another type than the wanted one
     notANumber,  // skipped with a message
-    noSlot,      // a template or a command: nothing is kept of it
+    noSlot,      // a template or a command: it is not stored
     stored,
 };
 
 struct Effect {
     Outcome outcome = Outcome::noEntry;
     const stParamProperties* row = nullptr; // of a known name
-    std::optional<Value> value; // as read, of noSlot and stored; see storedAs for what the slot keeps
+    std::optional<Value> value; // as read, of noSlot and stored; storedAs returns what the slot then has
 };
 
 // `wantedType`: the only text-like type to load, or 0.

@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "ParamSystem/dictionary/Lookup.h"
-#include "ParamSystem/os/Os.h"
 #include "support/Address.h"
 #include "support/FixedPoint.h"
 #include "support/Number.h"
@@ -13,52 +12,39 @@ namespace talux {
 
 namespace {
 
-char* append(char* place, std::string_view text) {
-    std::memcpy(place, text.data(), text.size());
-    return place + text.size();
+static_assert(kKeyPrefix.size() + kTextSize + sizeof "=\n" + kFixedPointSize < kLineSize);
+
+// Each writes to `end` of the line and returns its new end.
+char* append(char* end, std::string_view text) {
+    std::memcpy(end, text.data(), text.size());
+    return end + text.size();
 }
 
 // A text ends before its first line end, so that it never becomes lines of its own.
-char* appendText(char* place, std::string_view text) {
-    *place++ = '"';
-    place = append(place, text.substr(0, text.find_first_of("\r\n")));
-    *place++ = '"';
-    return place;
-}
-
-char* appendAddress(char* place, const char* address) {
-    char normalised[kWholeAddressSize];
-    normaliseAddress(normalised, address);
-    return appendText(place, normalised);
+char* appendText(char* end, std::string_view text) {
+    return append(end, text.substr(0, text.find_first_of("\r\n")));
 }
 
 // Whole numbers as an integer of 32 bits.
-char* appendNumber(char* place, const Type& type, double number) {
-    if (type.fileDecimals == 0) return std::to_chars(place, place + 16, saturated32(number)).ptr;
-    char text[kFixedPointSize];
-    return append(place, {text, formatFixedPoint(text, number, type.fileDecimals)});
+char* appendNumber(char* end, const Type& type, double number) {
+    if (type.fileDecimals == 0) return std::to_chars(end, end + 16, saturated32(number)).ptr;
+    return end + formatFixedPoint(end, number, type.fileDecimals);
 }
 
-char* appendValue(char* place, const Type& type, const Value& value) {
-    if (!value.isText()) return appendNumber(place, type, value.number());
-    return type.nature == Nature::address ? appendAddress(place, value.text())
-                                          : appendText(place, value.text());
+char* appendValue(char* end, const Type& type, const Value& value) {
+    if (!value.isText()) return appendNumber(end, type, value.number());
+    *end++ = '"';
+    end = type.nature == Nature::address ? appendAddress(end, addressIn(value.text()))
+                                         : appendText(end, value.text());
+    *end++ = '"';
+    return end;
 }
 
 } // namespace
 
-Value clockValue(Nature nature, const std::tm& now) {
-    char text[48]; // a clock that was never set may show any number
-    if (nature == Nature::date)
-        formatText(text, sizeof text, "%04lld-%02d-%02d", os::yearOf(now), now.tm_mon + 1, now.tm_mday);
-    else
-        formatText(text, sizeof text, "%02d:%02d:%02d", now.tm_hour, now.tm_min, now.tm_sec);
-    return Value(std::string_view(text));
-}
-
 std::size_t formatLine(char* line, const stParamProperties& row, const Value& value) {
     const Type& type = typeOf(row);
-    // Templates have the type of a value and no slot for one. A name that no term can hold comes from a
+    // Templates have the type of a value but no slot. A name that is too long for a term comes from a
     // program.
     const std::string_view name(row.name);
     if (!holds(type.kind, row.id) || name.size() >= kTextSize || value.isText() != isText(type.nature))
@@ -70,12 +56,6 @@ std::size_t formatLine(char* line, const stParamProperties& row, const Value& va
     *end++ = '\n';
     *end = '\0';
     return static_cast<std::size_t>(end - line);
-}
-
-std::optional<Value> savedValue(const stParamProperties& row, const std::tm& now) {
-    const Nature nature = typeOf(row).nature;
-    if (nature == Nature::date || nature == Nature::time) return clockValue(nature, now);
-    return readValue(Space::global, row.id);
 }
 
 } // namespace talux

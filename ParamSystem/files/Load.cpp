@@ -1,5 +1,4 @@
 // Loads parameter files into the temporary space and commits.
-#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 
@@ -23,16 +22,9 @@ void load(const talux::Entry& entry, int type) {
     talux::carryOut(effect);
 }
 
-void reportMissing(const char* filename) {
-    const int error = errno;
-    std::printf("Error (TALUX_Var): File '%s' not found\n", filename);
-    errno = error;
-    std::perror("fopen");
-}
-
 [[noreturn]] void readFailed(const char* filename) {
     std::printf("\nError (TALUX_Var): Can't read source file '%s'\n", filename);
-    std::exit(2); // NOLINT(concurrency-mt-unsafe): a broken file ends the program
+    std::exit(2); // NOLINT(concurrency-mt-unsafe): a read error ends the program
 }
 
 int loadWhole(ParameterFile file) {
@@ -42,10 +34,11 @@ int loadWhole(ParameterFile file) {
 } // namespace
 
 int VarLoadFile(char* filename, int type) {
-    const auto result = talux::readLines(filename, [type](const talux::Entry& entry) { load(entry, type); });
-    if (result == talux::ReadResult::broken) readFailed(filename);
-    if (result == talux::ReadResult::notOpened) {
-        reportMissing(filename);
+    const auto error = talux::readLines(filename, [type](const talux::Entry& entry) { load(entry, type); });
+    if (error.stage == talux::os::Stage::use) readFailed(filename);
+    if (error) {
+        std::printf("Error (TALUX_Var): File '%s' not found\n", filename);
+        error.print();
         return 0;
     }
     VarUpdateGlobalSpace();

@@ -1,33 +1,26 @@
-// The three parameter files, and which parameter is in which.
+// The three parameter files: names, copies, rights and change flags.
 #ifndef TALUX_FILES_PARAMETERFILE_H
 #define TALUX_FILES_PARAMETERFILE_H
 
 #include <string_view>
-#include <sys/types.h>
 
+#include "ParamSystem/os/Files.h"
 #include "ParamSystem/store/ChangeFlags.h"
-#include "ParamSystem/store/Kinds.h"
 #include "support/EnumRows.h"
 
 namespace talux {
 
 enum class ParameterFile { none, normal, security, address };
 
-struct Rights {
-    uid_t owner;
-    gid_t group;
-    mode_t mode;
-};
-
 // What a save gives to the two that have dated copies; the address file keeps the owner that it has.
-inline constexpr Rights kNormalRights{0, 100, 0775}, kSecurityRights{0, 101, 0775};
+inline constexpr os::Rights kNormalRights{0, 100, 0775}, kSecurityRights{0, 101, 0775};
 
 struct ParameterFileRow {
     ParameterFile file;
-    std::string_view name; // in the directory of VarInit, with a NUL after it
-    const char* stem;      // of the dated copies; empty: there are none
-    const Rights* rights;  // null: those that it has
-    ChangeFlag flag;       // raised by loading and saving it
+    std::string_view name;    // in the directory of VarInit, with a NUL after it
+    const char* stem;         // of the dated copies; empty: there are none
+    const os::Rights* rights; // null: it keeps its own
+    ChangeFlag flag;          // raised by loading and saving it
 };
 
 inline constexpr ParameterFileRow kParameterFiles[] = {
@@ -41,13 +34,6 @@ static_assert(hasRowForEach<&ParameterFileRow::file>(kParameterFiles),
 
 constexpr std::string_view fileName(ParameterFile file) {
     return rowOf(kParameterFiles, file).name;
-}
-
-// The file that keeps a parameter: none for run-time values and for what has no value.
-constexpr ParameterFile fileOf(const stParamProperties& row) {
-    if (row.is_volatile == 1 || kindOf(row.id) == Kind::None) return ParameterFile::none;
-    if (isAddress(row)) return ParameterFile::address;
-    return row.userlevel <= 2 ? ParameterFile::normal : ParameterFile::security;
 }
 
 } // namespace talux

@@ -4,7 +4,7 @@
 #define TALUX_FILES_PATH_H
 
 #include "ParamSystem/TALUX_Var.h"
-#include "ParamSystem/files/Line.h"
+#include "ParamSystem/files/ParameterFile.h"
 #include "ParamSystem/os/Os.h"
 #include "support/Text.h"
 

@@ -1,8 +1,8 @@
 #include "ParamSystem/files/Reader.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
-#include <string_view>
 
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/os/Files.h"
@@ -12,95 +12,104 @@ namespace talux {
 
 namespace {
 
-// The C library's strcspn makes a table of 256 bytes at every call, which is more work than a short line.
-template <class IsEnd>
-char* skipTo(char* text, IsEnd isEnd) {
-    while (*text != '\0' && !isEnd(*text))
-        ++text;
-    return text;
+// Characters with codes below 64, as the bits of a number.
+class CharacterSet {
+public:
+    consteval CharacterSet(std::string_view characters) {
+        for (const char c : characters)
+            bits |= std::uint64_t{1} << c;
+    }
+    constexpr bool holds(char c) const {
+        const auto code = static_cast<unsigned char>(c);
+        return code < 64 && (bits >> code & 1) != 0;
+    }
+
+private:
+    std::uint64_t bits = 0;
+};
+
+constexpr CharacterSet kBlank(" \t"), kSpace(" "), kEndsKey(" =\n"), kEndsValue("=\n"), kEndsQuoted("\"=\n"),
+    kMayEndBare("=\n\r#;/"), kIgnored(" \t\r\n");
+
+std::string_view without(CharacterSet leading, std::string_view text) {
+    const char* place = text.data();
+    const char* const end = place + text.size();
+    while (place != end && leading.holds(*place))
+        ++place;
+    return {place, end};
 }
 
-constexpr bool isBlank(char c) {
-    return c == ' ' || c == '\t';
+// The text up to the first character of a set, from `start` on.
+std::size_t lengthUpTo(CharacterSet set, std::string_view text, std::size_t start = 0) {
+    while (start < text.size() && !set.holds(text[start]))
+        ++start;
+    return start;
 }
 
-constexpr bool endsKey(char c) {
-    return c == ' ' || c == '=' || c == '\n';
+bool beginsComment(std::string_view text) {
+    return text.starts_with('#') || text.starts_with(';') || text.starts_with("//");
 }
 
-constexpr bool endsToken(char c) {
-    return c == '=' || c == '\n';
-}
-
-bool beginsComment(const char* text) {
-    return *text == '#' || *text == ';' || (text[0] == '/' && text[1] == '/');
-}
-
-LineForm formWithoutKey(const char* text) {
-    const bool nothing = *text == '\0' || *text == '\n' || *text == '\r' || *text == '[';
+LineForm formWithoutKey(std::string_view text) {
+    const bool nothing = text.empty() || text[0] == '\n' || text[0] == '\r' || text[0] == '[';
     return nothing || beginsComment(text) ? LineForm::nothing : LineForm::foreign;
 }
 
-Tail tailAt(const char* rest) {
-    while (isBlank(*rest) || *rest == '\r' || *rest == '\n')
-        ++rest;
-    if (*rest == '\0') return Tail::nothing;
+Tail tailIn(std::string_view rest) {
+    rest = without(kIgnored, rest);
+    if (rest.empty()) return Tail::nothing;
     return beginsComment(rest) ? Tail::comment : Tail::text;
 }
 
-// Where the value begins: after the "=" signs, which blanks may precede, or after the one blank
-// that ended the key.
-char* valueBehind(char* key) {
-    char* value = skipTo(key, [](char c) { return c != ' '; });
-    if (*value != '=' && *key != '\0') value = key + 1;
-    return skipTo(value, [](char c) { return !endsToken(c); });
+// What follows the key: after the "=" signs, which spaces may precede, or after the one character that ended
+// it.
+std::string_view valueAfterKey(std::string_view rest) {
+    const std::string_view signs = without(kSpace, rest);
+    return without(kEndsValue, signs.starts_with('=') || rest.empty() ? signs : after(rest, 1));
 }
 
-// Up to the next double quote or the end of the token.
-void takeQuoted(Entry& entry, char* value) {
-    char* const end = skipTo(++value, [](char c) { return c == '"' || endsToken(c); });
+void takeQuoted(Entry& entry, std::string_view text) {
+    const std::size_t length = lengthUpTo(kEndsQuoted, text);
     entry.isQuoted = true;
-    entry.isClosed = *end == '"';
-    entry.tail = tailAt(entry.isClosed ? end + 1 : end);
-    entry.value = value;
-    *end = '\0';
+    entry.isClosed = length < text.size() && text[length] == '"';
+    entry.value = text.substr(0, length);
+    entry.tail = tailIn(after(text, length + entry.isClosed));
 }
 
-// Up to a comment or the end of the token; blanks before a comment belong to the value.
-void takeBare(Entry& entry, char* value) {
-    char* end = value;
-    while (*end != '\0' && *end != '\r' && !endsToken(*end) && !beginsComment(end))
-        ++end;
-    entry.tail = tailAt(end);
-    entry.value = value;
-    *end = '\0';
+// Blanks before a comment belong to the value.
+void takeBare(Entry& entry, std::string_view text) {
+    std::size_t length = lengthUpTo(kMayEndBare, text);
+    while (length < text.size() && text[length] == '/' && !beginsComment(after(text, length)))
+        length = lengthUpTo(kMayEndBare, text, length + 1);
+    entry.value = text.substr(0, length);
+    entry.tail = tailIn(after(text, length));
 }
 
 } // namespace
 
-Entry parseEntry(char* line) {
+Entry parseEntry(std::string_view line) {
     Entry entry;
-    char* const key = skipTo(line, [](char c) { return !isBlank(c); });
-    if (!startsIgnoringCase(key, kKeyPrefix)) { // reads no further than the first difference
-        entry.form = formWithoutKey(key);
+    const std::string_view text = without(kBlank, line);
+    if (!startsIgnoringCase(text, kKeyPrefix)) {
+        entry.form = formWithoutKey(text);
         return entry;
     }
     entry.form = LineForm::entry;
-    entry.name = key + kKeyPrefix.size();
-    char* const end = skipTo(entry.name, endsKey);
-    char* const value = valueBehind(end);
-    entry.hasValue = *value != '\0';
-    if (*value == '"')
-        takeQuoted(entry, value);
+    const std::string_view key = after(text, kKeyPrefix.size());
+    const std::size_t length = lengthUpTo(kEndsKey, key);
+    const std::string_view value = valueAfterKey(after(key, length));
+    entry.name = {key.data(), length};
+    entry.hasValue = !value.empty();
+    if (value.starts_with('"'))
+        takeQuoted(entry, after(value, 1));
     else
         takeBare(entry, value);
-    *end = '\0';
     return entry;
 }
 
 Reader::Reader(const char* filename) : descriptor(os::openToRead(filename)) {
     if (descriptor >= 0) return;
-    state = ReadResult::notOpened;
+    error = os::failed(os::Stage::open, "fopen");
     atEnd = true;
 }
 
@@ -108,44 +117,45 @@ Reader::~Reader() {
     if (descriptor >= 0) os::closeFile(descriptor);
 }
 
-// False at the end, which stays the end, and when the file breaks.
+// More of the file after what is not yet returned. False at the end, which remains the end, and after an
+// error.
 bool Reader::fill() {
     if (atEnd) return false;
-    const auto count = os::readFile(descriptor, block, sizeof block);
-    atEnd = count <= 0;
-    if (count < 0) state = ReadResult::broken;
+    end -= start;
+    std::memmove(block, block + start, end);
     start = 0;
-    end = atEnd ? 0 : static_cast<std::size_t>(count);
+    const auto count = os::readFile(descriptor, block + end, sizeof block - end);
+    atEnd = count <= 0;
+    if (count < 0) error = os::failed(os::Stage::use, "read");
+    if (count > 0) end += static_cast<std::size_t>(count);
     return !atEnd;
 }
 
-// Up to and with the line feed, but no more than one read takes. 0 at the end.
-std::size_t Reader::takeLine() {
-    std::size_t length = 0;
-    while (length < kMaxRead && (start < end || fill())) {
-        const char* const from = block + start;
-        const std::size_t room = std::min(end - start, kMaxRead - length);
-        const auto* const feed = static_cast<const char*>(std::memchr(from, '\n', room));
-        const std::size_t taken = feed != nullptr ? static_cast<std::size_t>(feed + 1 - from) : room;
-        std::memcpy(line + length, from, taken);
-        start += taken;
-        length += taken;
-        if (feed != nullptr) break;
+// Including the line feed, but not more than kMaxRead characters. Empty at the end. Of a longer line the next
+// character is in the block as well.
+std::string_view Reader::takeLine() {
+    static_assert(sizeof block > kMaxRead);
+    for (;;) {
+        const char* const line = block + start;
+        const std::size_t size = std::min(end - start, kMaxRead);
+        const auto* const feed = static_cast<const char*>(std::memchr(line, '\n', size));
+        if (feed == nullptr && end - start <= kMaxRead && fill()) continue;
+        const std::size_t length = feed != nullptr ? static_cast<std::size_t>(feed + 1 - line) : size;
+        start += length;
+        return {line, length};
     }
-    line[length] = '\0';
-    return length;
 }
 
 bool Reader::next(Entry& entry) {
-    const std::size_t length = takeLine();
-    if (length == 0 || state != ReadResult::done) return false;
-    const bool isFull = line[length - 1] != '\n' && (start < end || fill());
-    const bool hasNul = std::strlen(line) < length;
-    entry = parseEntry(line);
+    const std::string_view line = takeLine();
+    if (line.empty() || error) return false;
+    const bool isFull = line.back() != '\n' && start < end;
+    const std::size_t nul = line.find('\0');
+    entry = parseEntry(line.substr(0, nul));
     entry.line = ++lines;
     entry.continues = lastWasFull;
     entry.isCut = isFull && block[start] != '\n';
-    entry.hasNul = hasNul;
+    entry.hasNul = nul != line.npos;
     lastWasFull = isFull;
     return true;
 }

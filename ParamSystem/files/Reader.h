@@ -1,9 +1,22 @@
-// Reads parameter files line by line. docs/files.md describes their form, the writer in files/Line.h what is
-// written.
+// Reads parameter files line by line. The grammar is wider than that of the writer (files/Line.h);
+// docs/files.md explains it to users:
+//
+//     file    = { line }        ends of lines are LF or CR LF; a NUL ends the text of its line
+//     line    = entry | other   "other" is empty, a comment ("#", ";", "//"), a heading ("[") or foreign text
+//     entry   = blanks "TLX_" name separator value     letter case of the prefix is ignored
+//     blanks  = { " " | TAB }
+//     name    = characters up to the first " ", "=" or LF
+//     separator = { " " } "=" { "=" } | " " { "=" }
+//     value   = '"' text [ '"' rest ]   text up to the next '"', "=" or LF
+//             | text [ rest ]           up to "#", ";", "//", "=", CR or LF; blanks belong to it
+//     rest    = what is not read: blanks, a comment or text
 #ifndef TALUX_FILES_READER_H
 #define TALUX_FILES_READER_H
 
 #include <cstddef>
+#include <string_view>
+
+#include "ParamSystem/os/Error.h"
 
 namespace talux {
 
@@ -11,20 +24,20 @@ inline constexpr std::size_t kMaxRead = 254; // characters; a longer line counts
 
 enum class LineForm {
     nothing, // empty, a comment, a heading
-    foreign, // anything else without the key prefix
+    foreign, // anything else without the prefix
     entry,
 };
 
 // What follows the value on its line and is not read.
 enum class Tail { nothing, comment, text };
 
-// One line. The texts are valid until the next one is read.
+// One line. The texts are parts of it.
 struct Entry {
     int line = 0; // number, counted from 1 by reads
     LineForm form = LineForm::nothing;
-    char* name = nullptr;        // of an entry, without prefix
-    const char* value = nullptr; // of an entry, without quotes and comment
-    bool hasValue = false;       // false: the line ends after the key or after "="; the value is empty
+    std::string_view name;  // of an entry, without prefix
+    std::string_view value; // of an entry, without quotes and comment
+    bool hasValue = false;  // false: the line ends after the name or after "="; the value is empty
     bool isQuoted = false;
     bool isClosed = false; // the closing quote is there
     Tail tail = Tail::nothing;
@@ -33,12 +46,10 @@ struct Entry {
     bool hasNul = false;    // what follows a NUL is not read
 };
 
-// Takes a line, which ends in a NUL, apart in place. Sets neither `line` nor the last three members.
-Entry parseEntry(char* line);
+// Parses a line without NULs. Sets neither `line` nor the last three members.
+Entry parseEntry(std::string_view line);
 
-enum class ReadResult { done, notOpened, broken }; // the reason is in errno
-
-// A file being read, without heap. A read that a signal interrupts goes on.
+// A file being read, without heap. A read that a signal interrupts is repeated.
 class Reader {
 public:
     explicit Reader(const char* filename);
@@ -46,29 +57,29 @@ public:
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
 
-    // The next line; false at the end and when the file breaks.
+    // The next line, whose texts are valid until the one after it is read; false at the end and after an
+    // error.
     bool next(Entry& entry);
 
-    ReadResult result() const { return state; }
+    const os::Error& result() const { return error; }
 
 private:
     int descriptor;
-    ReadResult state = ReadResult::done;
+    os::Error error;
     int lines = 0;
     bool lastWasFull = false; // and did not end in a line feed
     bool atEnd = false;
-    char line[kMaxRead + 1];
-    char block[4096]; // as it came from the file, from `start` to `end` not yet handed out
+    char block[4096]; // of the file; from `start` to `end` not yet returned
     std::size_t start = 0;
     std::size_t end = 0;
 
     bool fill();
-    std::size_t takeLine();
+    std::string_view takeLine();
 };
 
 // Calls visit(entry) for every line of a file.
 template <class Visitor>
-ReadResult readLines(const char* filename, Visitor visit) {
+os::Error readLines(const char* filename, Visitor visit) {
     Reader reader(filename);
     for (Entry entry; reader.next(entry);)
         visit(entry);

@@ -17,16 +17,17 @@ namespace talux {
 
 namespace {
 
-Replacement failure(Written written, const char* call, bool isAsBefore = true) {
-    return {written, isAsBefore, call, errno};
-}
+using os::Error;
+using os::failed;
+using os::Rights;
+using os::Stage;
 
-// Nothing can be made or exchanged there.
+// Nothing can be created or renamed there.
 bool isRefused(int error) {
     return error == EACCES || error == EPERM || error == EROFS || error == EBUSY;
 }
 
-// No second file: no inode is left, or no more of the user's share.
+// No inode is left for a second file, or the user's quota is used up.
 bool isUsedUp(int error) {
     return error == ENOSPC || error == EDQUOT;
 }
@@ -52,15 +53,15 @@ private:
 
 // ---- Where a path leads ----
 
-class Place {
+class Target {
 public:
-    // Follows links, to a file that may be missing. False when the path names none or is too long.
+    // Follows links to a file, which may be missing. False when the path names none or is too long.
     bool find(const char* path) {
         if (std::strlen(path) >= sizeof text) return false;
         copyText(text, path);
         char link[PATH_MAX];
         for (int links = 0; os::readLink(text, link, sizeof link); ++links)
-            if (links == kMostLinks || !follow(link)) return false;
+            if (links == kMaxLinks || !follow(link)) return false;
         split();
         return *file != '\0';
     }
@@ -69,7 +70,7 @@ public:
     const char* name() const { return file; }
 
 private:
-    static constexpr int kMostLinks = 40; // as the kernel
+    static constexpr int kMaxLinks = 40; // as the kernel
 
     char text[PATH_MAX];
     const char* folder = ".";
@@ -78,9 +79,9 @@ private:
     bool follow(const char* link) {
         char* const slash = std::strrchr(text, '/');
         char* const start = *link == '/' || slash == nullptr ? text : slash + 1;
-        const auto room = static_cast<std::size_t>(text + sizeof text - start);
-        copyText(start, room, link);
-        return std::strlen(link) < room;
+        const auto size = static_cast<std::size_t>(text + sizeof text - start);
+        copyText(start, size, link);
+        return std::strlen(link) < size;
     }
 
     void split() {
@@ -92,10 +93,27 @@ private:
     }
 };
 
-// ---- The new file while it is being made ----
+// ---- The new file before it is renamed ----
 
-// It lies beside the old one under one of a few names. Its maker holds the lock on it: a file of such a name
-// that nobody has locked was left over when a program or the power failed.
+// It is next to the old one under one of four names, so that four saves can write to one directory at once.
+// Each name is in one of three states:
+//
+//     free       there is no such file
+//     in use     a save has the file locked
+//     left over  nobody has it locked: its save was killed or the power failed
+//
+//     claim       free -> in use       creates the file, which must not exist, then locks it. Before the lock
+//     it looks
+//                                      left over, and another save may remove it: then the name counts as in
+//                                      use.
+//     clear       left over -> free    locks the file, checks that the name is still its name (its save may
+//     have
+//                                      renamed it before the lock), removes it.
+//     placeAs     in use -> free       renames the file.
+//     destructor  in use -> free       removes the file if it was not renamed. Closing it ends the lock.
+//
+// A save clears and claims the first name that is not in use, and waits if all are. Then it clears the names
+// after its own; those before it were in use a moment ago.
 class Draft {
 public:
     explicit Draft(int in) : directory(in) {}
@@ -110,9 +128,8 @@ public:
     int get() const { return descriptor; }
     const struct stat& status() const { return made; }
 
-    // Clears away what was left over. While other saves have all the names it waits for them.
     bool make() {
-        const std::int64_t end = os::monotonicMilliseconds() + kLongestWait;
+        const std::int64_t end = os::monotonicMilliseconds() + kMaxWait;
         while (!claimFirst()) {
             if (errno != EEXIST) return false;
             if (os::monotonicMilliseconds() >= end) {
@@ -121,7 +138,7 @@ public:
             }
             os::sleepMicroseconds(kWait);
         }
-        clearBehind();
+        clearFollowing();
         return true;
     }
 
@@ -134,9 +151,9 @@ private:
     using Name = std::array<char, 20>;
     static constexpr int kNumber = 12;
     static constexpr char kFirst = '0';
-    static constexpr char kEnd = '4';         // four saves of one directory at once
-    static constexpr unsigned kWait = 1000;   // microseconds; a slow kernel makes more of it
-    static constexpr int kLongestWait = 5000; // milliseconds
+    static constexpr char kEnd = '4';
+    static constexpr unsigned kWait = 1000; // microseconds; a slow kernel makes it longer
+    static constexpr int kMaxWait = 5000;   // milliseconds
 
     int directory;
     int descriptor = -1;
@@ -144,7 +161,6 @@ private:
     Name name{".talux-save-0.tmp"};
     struct stat made {};
 
-    // Takes the first name that no other save has at the moment.
     bool claimFirst() {
         for (name[kNumber] = kFirst; name[kNumber] < kEnd; ++name[kNumber]) {
             if (claim() || (errno == EEXIST && (clear(name), claim()))) return true;
@@ -153,7 +169,6 @@ private:
         return false;
     }
 
-    // Another save may take the file for a leftover and remove it before it is locked.
     bool claim() {
         descriptor = os::makeIn(directory, name.data());
         if (descriptor < 0) return false;
@@ -164,8 +179,7 @@ private:
         return false;
     }
 
-    // What concurrent saves left over, in whatever order they were ended.
-    void clearBehind() const {
+    void clearFollowing() const {
         for (Name left = name; ++left[kNumber] < kEnd;)
             clear(left);
     }
@@ -176,7 +190,6 @@ private:
             os::removeIn(directory, left.data());
     }
 
-    // Its maker may have put it in place before it was locked here.
     bool stillNames(const Name& left, int file) const {
         struct stat own {};
         struct stat named {};
@@ -203,21 +216,19 @@ bool isNotAllowed(int error) {
     return error == EPERM || error == EINVAL;
 }
 
-void reportRights(const char* path, const char* call) {
-    const int error = errno;
-    if (isNotAllowed(error)) return;
+void report(const Error& error, const char* path) {
+    if (isNotAllowed(error.number)) return;
     std::fprintf(stderr, "Error (TALUX_Var): Can't set owner and rights of file '%s' \n", path);
-    errno = error;
-    std::perror(call);
+    error.print();
 }
 
-// `now` is what the file has. False when the owner should be another and that is not allowed.
+// `now` is the status of the file. False when it should have another owner and that is not allowed.
 bool setRights(int descriptor, const struct stat& now, const Rights& rights, const char* path) {
-    const bool isGiven = hasOwner(now, rights) || os::giveFile(descriptor, rights.owner, rights.group);
+    const bool isGiven = hasOwner(now, rights) || os::giveFile(descriptor, rights);
     const bool isAllowed = isGiven || !isNotAllowed(errno);
-    if (!isGiven) reportRights(path, "chown");
-    if ((now.st_mode & kAllRights) != rights.mode && !os::allowFile(descriptor, rights.mode))
-        reportRights(path, "chmod");
+    if (!isGiven) report(failed(Stage::keep, "chown"), path);
+    if ((now.st_mode & kAllRights) != rights.mode && !os::allowFile(descriptor, rights))
+        report(failed(Stage::keep, "chmod"), path);
     return isAllowed;
 }
 
@@ -239,71 +250,70 @@ bool setRights(const Draft& draft, const Rights* rights, Old old, const char* pa
            hasOwner(draft.status(), rightsOf(*old));
 }
 
-// Nothing when the file cannot be replaced; all is as before then.
-std::optional<Replacement> replaceWhole(const char* path, std::string_view contents, const Rights* rights,
-                                        Old old) {
-    constexpr auto refusedOr = [](Written written, const char* call) {
-        return isRefused(errno) ? std::optional<Replacement>() : failure(written, call);
+// Nothing when the file cannot be replaced; nothing has changed then.
+std::optional<Error> replaceWhole(const char* path, std::string_view contents, const Rights* rights,
+                                  Old old) {
+    constexpr auto refusedOr = [](Stage stage, const char* call) {
+        return isRefused(errno) ? std::optional<Error>() : failed(stage, call);
     };
-    Place place;
-    if (!place.find(path)) return {};
-    const Descriptor directory(os::openDirectory(place.directory()));
-    if (!directory) return refusedOr(Written::notOpened, "fopen");
+    Target target;
+    if (!target.find(path)) return {};
+    const Descriptor directory(os::openDirectory(target.directory()));
+    if (!directory) return refusedOr(Stage::open, "fopen");
     Draft draft(directory.get());
     if (!draft.make() && isUsedUp(errno)) return {};
-    if (draft.get() < 0) return refusedOr(Written::notOpened, "fopen");
-    // First of all, so that nobody reads meanwhile what only few may read.
+    if (draft.get() < 0) return refusedOr(Stage::open, "fopen");
+    // Before the contents, which perhaps only some users may read.
     if (!setRights(draft, rights, old, path)) return {};
-    if (!os::writeFile(draft.get(), contents)) return failure(Written::notWritten, "write");
-    if (!os::syncFile(draft.get())) return failure(Written::notKept, "fsync");
-    if (!draft.placeAs(place.name())) return refusedOr(Written::notKept, "rename");
-    if (!os::syncFile(directory.get())) return failure(Written::notKept, "fsync", false);
-    return Replacement{};
+    if (!os::writeFile(draft.get(), contents)) return failed(Stage::use, "write");
+    if (!os::syncFile(draft.get())) return failed(Stage::keep, "fsync");
+    if (!draft.placeAs(target.name())) return refusedOr(Stage::keep, "rename");
+    if (!os::syncFile(directory.get())) return failed(Stage::keep, "fsync", false);
+    return Error{};
 }
 
-// Over the old contents. What goes beyond them comes first, so that a full disk takes nothing of them.
-Replacement writeOver(int file, std::string_view contents, off_t oldSize) {
+// Over the old contents. What is longer than these comes first, so that a full disk leaves them as they are.
+Error writeOver(int file, std::string_view contents, off_t oldSize) {
     const std::size_t shared = std::min(contents.size(), static_cast<std::size_t>(oldSize));
     if (!os::writeFile(file, after(contents, shared), oldSize)) {
-        const Replacement failed = failure(Written::notWritten, "write");
+        const Error error = failed(Stage::use, "write");
         os::cutFile(file, oldSize);
-        return failed;
+        return error;
     }
     if (!os::writeFile(file, contents.substr(0, shared), 0) ||
         !os::cutFile(file, static_cast<off_t>(contents.size())))
-        return failure(Written::notWritten, "write", false);
+        return failed(Stage::use, "write", false);
     return {};
 }
 
-Replacement writeInPlace(const char* path, std::string_view contents, const Rights* rights,
-                         Descriptor& file) {
+Error writeInPlace(const char* path, std::string_view contents, const Rights* rights, Descriptor& file) {
     struct stat status {};
-    if (!file || !os::statusOf(file.get(), status)) return failure(Written::notOpened, "fopen");
+    if (!file || !os::statusOf(file.get(), status)) return failed(Stage::open, "fopen");
     const bool isRegular = S_ISREG(status.st_mode);
-    Replacement result;
+    Error error;
     if (isRegular)
-        result = writeOver(file.get(), contents, status.st_size);
+        error = writeOver(file.get(), contents, status.st_size);
     else if (!os::writeFile(file.get(), contents))
-        result = failure(Written::notWritten, "write", false);
+        error = failed(Stage::use, "write", false);
     if (rights != nullptr && isRegular)
         setRights(file.get(), status, *rights, path); // no device is given away
-    if (result.written != Written::done) return result;
-    if (isRegular && !os::syncFile(file.get())) return failure(Written::notKept, "fsync", false);
-    return file.close() ? result : failure(Written::notWritten, "write", false);
+    if (error) return error;
+    if (isRegular && !os::syncFile(file.get())) return failed(Stage::keep, "fsync", false);
+    return file.close() ? Error{} : failed(Stage::use, "write", false);
 }
 
 } // namespace
 
-Replacement replaceFile(const char* path, std::string_view contents, const Rights* rights) {
+Error replaceFile(const char* path, std::string_view contents, const Rights* rights) {
     Descriptor existing(os::openToWrite(path));
-    if (!existing && errno != ENOENT) return failure(Written::notOpened, "fopen");
+    if (!existing && errno != ENOENT) return failed(Stage::open, "fopen");
     struct stat old {};
-    if (existing && !os::statusOf(existing.get(), old)) return failure(Written::notOpened, "fopen");
+    if (existing && !os::statusOf(existing.get(), old)) return failed(Stage::open, "fopen");
     const bool isThere{existing};
     if (!isThere || isReplaceable(old))
-        if (auto replaced = replaceWhole(path, contents, rights, isThere ? &old : nullptr)) {
-            replaced->isAsBefore = replaced->isAsBefore && isThere;
-            return *replaced;
+        if (auto error = replaceWhole(path, contents, rights, isThere ? &old : nullptr)) {
+            error->isUnchanged = error->isUnchanged && isThere;
+            return *error;
         }
     if (existing) return writeInPlace(path, contents, rights, existing);
     Descriptor made(os::openOrMake(path));

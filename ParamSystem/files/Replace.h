@@ -1,37 +1,25 @@
-// A parameter file is replaced as a whole. Whoever reads it at any moment, and whoever looks after the power
-// failed, finds the old file or the new one, never a part.
+// Replaces a file as a whole: every reader finds the old file or the new one, never a part, also after a
+// power cut.
 #ifndef TALUX_FILES_REPLACE_H
 #define TALUX_FILES_REPLACE_H
 
 #include <string_view>
 
-#include "ParamSystem/files/ParameterFile.h"
+#include "ParamSystem/os/Error.h"
+#include "ParamSystem/os/Files.h"
 
 namespace talux {
 
-enum class Written {
-    done,
-    notOpened,  // the file cannot be created or written at all
-    notWritten, // a write failed, for instance on a full disk
-    notKept,    // written, but not surely on the disk or not put in place
-};
-
-struct Replacement {
-    Written written = Written::done;
-    bool isAsBefore = false; // what was there has not changed
-    const char* call = "";   // that failed
-    int error = 0;           // its reason
-};
-
-// Makes the new file beside the old one, syncs it, renames it over the old one and syncs the directory. Links
-// are followed, the last one may dangle. `rights` null: owner and rights of the old file, those that the mask
-// leaves for a new one. Where the process has no right to give files away a new file stays with its writer
-// and an old one with its owner; any other failure of that is reported on the error stream.
+// Creates the new file next to the old one, syncs it, renames it over the old one and syncs the directory.
+// Links are followed; the target of the last one may be missing. `rights` null: owner and rights of the old
+// file; a new one gets those that the mask leaves. If the process may not give files away, a new file belongs
+// to the process and an old one remains with its owner; any other failure to set them is reported on the
+// error stream.
 //
-// Written in place, and then not as a whole, is what cannot be replaced: a device, a FIFO, a file with
-// several names, one in a directory in which nothing can be made or exchanged, be it for want of an inode,
-// one of another owner to whom the new one cannot be given. Only regular files are given away.
-Replacement replaceFile(const char* path, std::string_view contents, const Rights* rights);
+// A file that cannot be replaced is written in place, where a reader may see a part: a device, a FIFO, a file
+// with several names, a file in a directory in which nothing can be created or renamed (for lack of an inode,
+// too), a file of another owner to whom the new one cannot be given. Only regular files are given away.
+os::Error replaceFile(const char* path, std::string_view contents, const os::Rights* rights);
 
 } // namespace talux
 

@@ -1,8 +1,10 @@
 // Writes the parameter files from the global space.
-#include <cerrno>
 #include <cstdio>
+#include <ctime>
 
 #include "ParamSystem/dictionary/Lookup.h"
+#include "ParamSystem/files/ClockText.h"
+#include "ParamSystem/files/FileOf.h"
 #include "ParamSystem/files/Line.h"
 #include "ParamSystem/files/Path.h"
 #include "ParamSystem/files/Replace.h"
@@ -13,26 +15,29 @@ namespace {
 using talux::ChangeFlag;
 using talux::ParameterFile;
 using talux::Path;
-using talux::Replacement;
-using talux::Rights;
-using talux::Written;
+using talux::Value;
+using talux::os::Error;
+using talux::os::Rights;
+using talux::os::Stage;
 
-void printSystemError(const Replacement& replacement) {
-    errno = replacement.error;
-    std::perror(replacement.call);
-}
-
-void report(const char* filename, const Replacement& replacement) {
-    if (replacement.written == Written::notOpened) {
+void report(const char* filename, const Error& error) {
+    if (error.stage == Stage::open) {
         std::fprintf(stderr, "Error (TALUX_Var): Can't open file '%s' \n", filename);
-        return printSystemError(replacement);
+        return error.print();
     }
     std::printf("Error (TALUX_Var): Can't write to file '%s' \n", filename);
-    if (replacement.isAsBefore) std::fprintf(stderr, "Error (TALUX_Var): '%s' stays as it is \n", filename);
-    printSystemError(replacement);
+    if (error.isUnchanged) std::fprintf(stderr, "Error (TALUX_Var): '%s' stays as it is \n", filename);
+    error.print();
 }
 
-// Room for the longest file, whatever its values are, and one line more.
+// The value of the global space; of date and time that of the clock. Nothing for a parameter without a slot.
+std::optional<Value> savedValue(const stParamProperties& row, const std::tm& now) {
+    const talux::Nature nature = talux::typeOf(row).nature;
+    if (talux::showsClock(nature)) return talux::clockText(nature, now);
+    return talux::readValue(talux::Space::global, row.id);
+}
+
+// The longest file, whatever its values are, and one line more.
 using Contents = char[32768];
 
 // The contents of a file at this moment, as a save writes them.
@@ -45,21 +50,21 @@ public:
             if (talux::fileOf(row) != which) continue;
             fits = fits && sizeof contents - length >= talux::kLineSize;
             if (!fits) return;
-            if (const auto value = talux::savedValue(row, now))
+            if (const auto value = savedValue(row, now))
                 length += talux::formatLine(contents + length, row, *value);
         }
     }
 
-    // What failed is reported; a write that failed leaves the old file.
-    Replacement writeTo(const char* filename, const Rights* rights) const {
+    // Reports an error. A write that fails leaves the old file.
+    Error writeTo(const char* filename, const Rights* rights) const {
         if (!talux::areParametersLoaded()) {
             std::fprintf(stderr, "Error (TALUX_Var): no parameters loaded, '%s' stays as it is \n", filename);
-            return {Written::notOpened, true, "", EINVAL};
+            return {Stage::open, "", EINVAL, true};
         }
-        Replacement replacement = fits ? talux::replaceFile(filename, {contents, length}, rights)
-                                       : Replacement{Written::notWritten, true, "write", EFBIG};
-        if (replacement.written != Written::done) report(filename, replacement);
-        return replacement;
+        const Error error = fits ? talux::replaceFile(filename, {contents, length}, rights)
+                                 : Error{Stage::use, "write", EFBIG, true};
+        if (error) report(filename, error);
+        return error;
     }
 
 private:
@@ -68,17 +73,18 @@ private:
     bool fits = true;
 };
 
-// A failed write counts as done for those who ask for no reason.
-bool counts(const Replacement& replacement) {
-    return replacement.written == Written::done || replacement.written == Written::notWritten;
+// The public functions count a failed write as done; VarSaveError returns its reason.
+bool countsAsDone(const Error& error) {
+    return !error || error.stage == Stage::use;
 }
 
-// Writes the file and, with the same bytes, its dated copy. Without the file there is no copy.
+// A file and its dated copy, which has the same bytes. There is no copy without the file.
 struct Saved {
-    Replacement file, copy;
-    bool isThere() const { return counts(file); }
-    int result() const { return isThere() && counts(copy) ? 1 : 0; }
+    Error file, copy;
+    bool isThere() const { return countsAsDone(file); }
+    int result() const { return isThere() && countsAsDone(copy) ? 1 : 0; }
 };
+
 Saved saveWithCopy(ParameterFile file) {
     const auto& row = talux::rowOf(talux::kParameterFiles, file);
     const Draft draft(file);
@@ -95,30 +101,30 @@ Saved commitAndSave(ParameterFile file) {
     return saved;
 }
 
-Replacement saveAs(const char* filename, ParameterFile file) {
+Error saveAs(const char* filename, ParameterFile file) {
     return Draft(file).writeTo(filename, talux::rowOf(talux::kParameterFiles, file).rights);
 }
 
-Replacement commitAndSaveAddresses(const char* filename) {
+Error commitAndSaveAddresses(const char* filename) {
     VarUpdateGlobalSpace();
-    if (*filename == '\0') return {Written::notOpened, true, "", ENOENT};
-    const Replacement replacement = saveAs(filename, ParameterFile::address);
-    if (counts(replacement)) talux::raise(ChangeFlag::ip);
-    return replacement;
+    if (*filename == '\0') return {Stage::open, "", ENOENT};
+    const Error error = saveAs(filename, ParameterFile::address);
+    if (countsAsDone(error)) talux::raise(ChangeFlag::ip);
+    return error;
 }
 
 } // namespace
 
 int VarSaveParamFile(char* filename) {
-    return counts(saveAs(filename, ParameterFile::normal)) ? 1 : 0;
+    return countsAsDone(saveAs(filename, ParameterFile::normal)) ? 1 : 0;
 }
 
 int VarSaveSecParamFile(char* filename) {
-    return counts(saveAs(filename, ParameterFile::security)) ? 1 : 0;
+    return countsAsDone(saveAs(filename, ParameterFile::security)) ? 1 : 0;
 }
 
 int VarSaveIPConfigFile(char* filename) {
-    return counts(commitAndSaveAddresses(filename)) ? 1 : 0;
+    return countsAsDone(commitAndSaveAddresses(filename)) ? 1 : 0;
 }
 
 int VarSaveParams(void) {
@@ -140,8 +146,9 @@ int VarSaveAll(void) {
 }
 
 int VarSaveError(SavedFile file) {
-    if (file == SavedFile::addresses) return commitAndSaveAddresses(Path(ParameterFile::address).get()).error;
+    if (file == SavedFile::addresses)
+        return commitAndSaveAddresses(Path(ParameterFile::address).get()).number;
     const Saved saved =
         commitAndSave(file == SavedFile::security ? ParameterFile::security : ParameterFile::normal);
-    return saved.file.error != 0 ? saved.file.error : saved.copy.error;
+    return saved.file ? saved.file.number : saved.copy.number;
 }

@@ -2,7 +2,7 @@
 #include <cstring>
 
 #include "ParamSystem/TALUX_Var.h"
-#include "ParamSystem/files/Line.h"
+#include "ParamSystem/files/ClockText.h"
 #include "ParamSystem/kepl/Clock.h"
 #include "ParamSystem/kepl/Dump.h"
 #include "ParamSystem/kepl/Execution.h"
@@ -32,10 +32,10 @@ using QuotedText = char[kTextSize + 2];
 std::string_view quote(QuotedText& quoted, const stParamProperties& row, int id) {
     const Nature nature = typeOf(row).nature;
     std::optional<Value> value;
-    if (nature == Nature::date || nature == Nature::time) {
+    if (showsClock(nature)) {
         std::tm now{};
         os::localTime(now);
-        value = clockValue(nature, now);
+        value = clockText(nature, now);
     } else {
         value = readValue(spaceOf(row), id);
     }

@@ -1,8 +1,6 @@
 #include "ParamSystem/network/StagedValues.h"
 
-#include <cstddef>
-
-#include "support/Address.h"
+#include "support/Text.h"
 
 namespace talux::network {
 
@@ -24,11 +22,15 @@ AddressText addressSetting(int id) {
     return address;
 }
 
+AddressText textOf(const Address& address, std::size_t size) {
+    char whole[kMaxAddressText];
+    AddressText text;
+    copyText(text.text, size, {whole, appendAddress(whole, address)});
+    return text;
+}
+
 AddressText normalised(const AddressText& address) {
-    constexpr std::size_t kNormalisedSize = 19; // the slot of an address has one more
-    AddressText result;
-    normaliseAddress(result.text, kNormalisedSize, address.text);
-    return result;
+    return textOf(addressIn(address.text), sizeof address.text - 1);
 }
 
 bool isUnset(const AddressText& address) {

@@ -2,9 +2,11 @@
 #ifndef TALUX_NETWORK_STAGEDVALUES_H
 #define TALUX_NETWORK_STAGEDVALUES_H
 
+#include <cstddef>
 #include <string_view>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "support/Address.h"
 
 namespace talux::network {
 
@@ -20,6 +22,10 @@ int flagSetting(int id);
 int choiceSetting(int id);
 AddressText addressSetting(int id);
 
+// At most size - 1 characters.
+AddressText textOf(const Address& address, std::size_t size = sizeof(AddressText));
+
+// One character shorter than the slot of an address.
 AddressText normalised(const AddressText& address);
 
 // True for a stored address that means "none": empty or all zero in one of its two usual forms.

@@ -1,7 +1,4 @@
 // Up to four extra addresses of the telecontrol link: alias interfaces with a network route each.
-#include <algorithm>
-#include <cstdlib>
-
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/network/SettingIds.h"
 #include "ParamSystem/network/ShellCommand.h"
@@ -35,30 +32,12 @@ Alias readAlias(int number) {
     return alias;
 }
 
-// The four numbers of a normalised address, which lie in the range of int; one that is missing is 0.
-struct Numbers {
-    int part[4] = {};
-};
-
-Numbers numbersOf(const AddressText& address) {
-    Numbers numbers;
-    const char* next = address.text;
-    for (int& part : numbers.part) {
-        char* end = nullptr;
-        part = static_cast<int>(std::strtol(next, &end, 10));
-        if (end == next || *end != '.') break;
-        next = end + 1;
-    }
-    return numbers;
-}
-
 AddressText networkOf(const AddressText& address, const AddressText& netmask) {
-    const Numbers a = numbersOf(address);
-    const Numbers m = numbersOf(netmask);
-    AddressText network;
-    talux::formatText(network.text, sizeof network.text, "%d.%d.%d.%d", a.part[0] & m.part[0],
-                      a.part[1] & m.part[1], a.part[2] & m.part[2], a.part[3] & m.part[3]);
-    return network;
+    talux::Address network = talux::addressIn(address.text);
+    const talux::Address mask = talux::addressIn(netmask.text);
+    for (int k = 0; k < 4; ++k)
+        network.part[k] &= mask.part[k];
+    return textOf(network);
 }
 
 AddressText asText(const char* dotted) {

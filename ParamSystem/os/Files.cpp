@@ -100,12 +100,12 @@ bool syncFile(int descriptor) {
     return untilDone([=] { return fsync(descriptor); }) == 0 || errno == EINVAL;
 }
 
-bool giveFile(int descriptor, uid_t owner, gid_t group) {
-    return fchown(descriptor, owner, group) == 0;
+bool giveFile(int descriptor, const Rights& rights) {
+    return fchown(descriptor, rights.owner, rights.group) == 0;
 }
 
-bool allowFile(int descriptor, mode_t mode) {
-    return fchmod(descriptor, mode) == 0;
+bool allowFile(int descriptor, const Rights& rights) {
+    return fchmod(descriptor, rights.mode) == 0;
 }
 
 bool tryLockFile(int descriptor) {

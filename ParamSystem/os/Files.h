@@ -1,6 +1,5 @@
-// The files of the one door to the operating system. Calls that a signal interrupts are made again; no
-// descriptor is inherited by programs that are started later. A failure, negative or false, has its reason in
-// errno.
+// Files. Calls that a signal interrupts are repeated; programs that are started later inherit no descriptor.
+// After a failure, negative or false, errno is set.
 #ifndef TALUX_OS_FILES_H
 #define TALUX_OS_FILES_H
 
@@ -10,6 +9,12 @@
 #include <sys/types.h>
 
 namespace talux::os {
+
+struct Rights {
+    uid_t owner;
+    gid_t group;
+    mode_t mode;
+};
 
 int openToRead(const char* path);
 int openToWrite(const char* path); // for reading as well; the file must be there
@@ -32,10 +37,10 @@ bool writeFile(int descriptor, std::string_view contents);              // all o
 bool writeFile(int descriptor, std::string_view contents, off_t place); // from there on
 bool cutFile(int descriptor, off_t size);
 bool syncFile(int descriptor); // also of a directory; what cannot be synced counts as synced
-bool giveFile(int descriptor, uid_t owner, gid_t group);
-bool allowFile(int descriptor, mode_t mode);
+bool giveFile(int descriptor, const Rights& rights);  // owner and group
+bool allowFile(int descriptor, const Rights& rights); // mode
 
-// A lock between processes that goes with the descriptor. Where there are no locks all succeed.
+// A lock between processes that ends with the descriptor. Succeeds on file systems without locks.
 bool tryLockFile(int descriptor);
 
 // The target of a link, cut to fit with a NUL; false when it was cut or there is no link, whose target is

@@ -1,7 +1,5 @@
 #include "ParamSystem/store/Locks.h"
 
-#include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 
 namespace talux {
@@ -9,8 +7,8 @@ namespace talux {
 constinit pthread_mutex_t globalLocks[kGlobalLockCount] = {};
 constinit pthread_mutex_t tempLocks[kTempLockCount] = {};
 
-void setUpFailed(const char* what) {
-    std::perror(what);
+void setUpFailed(const os::Error& error) {
+    error.print();
     std::exit(1); // NOLINT(concurrency-mt-unsafe): start-up, before any second thread
 }
 
@@ -18,9 +16,7 @@ namespace {
 
 // The thread functions return the error instead of setting errno.
 void require(int error, const char* what) {
-    if (error == 0) return;
-    errno = error;
-    setUpFailed(what);
+    if (error != 0) setUpFailed({os::Stage::use, what, error});
 }
 
 int makePriorityInheriting(pthread_mutexattr_t& attributes) {
@@ -51,7 +47,7 @@ void makeLocks() {
 
 void createLocks() {
     makeLocks();
-    // A thread that was inside an accessor during a fork does not exist in the child and gives nothing back.
+    // A thread that was inside an accessor during a fork does not exist in the child and unlocks nothing.
     require(pthread_atfork(nullptr, nullptr, makeLocks), "pthread_atfork");
 }
 

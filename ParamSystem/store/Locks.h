@@ -4,6 +4,7 @@
 
 #include <pthread.h>
 
+#include "ParamSystem/os/Error.h"
 #include "ParamSystem/store/Kinds.h"
 
 namespace talux {
@@ -18,8 +19,8 @@ extern pthread_mutex_t tempLocks[kTempLockCount];
 // Creates the locks. A failure prints the system error and ends the process with status 1.
 void createLocks();
 
-// Prints the system error after `what` and ends the process with status 1.
-[[noreturn]] void setUpFailed(const char* what);
+// Prints the error and ends the process with status 1.
+[[noreturn]] void setUpFailed(const os::Error& error);
 
 // Holds the lock of one kind and space for the life of the object.
 template <Kind kind, Space space>

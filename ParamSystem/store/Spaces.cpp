@@ -2,7 +2,6 @@
 #include "ParamSystem/store/Spaces.h"
 
 #include <atomic>
-#include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -24,6 +23,8 @@ constinit int fSave = 0;
 constinit int mutex_init = 0;
 
 namespace {
+
+namespace os = talux::os;
 
 // Created if absent, readable and writable by all programs of the device.
 constexpr int kSegmentFlags = IPC_CREAT | 0666;
@@ -47,38 +48,30 @@ constinit Segment globalSegment{kGlobalSpaceKey, sizeof(stVarSpace),     "global
 constinit Segment tempSegment{kTempSpaceKey, sizeof(stVarSpace),   "temporary space",
                               nullptr,       "shmget (tempspace)", "shmat (tempspace)"};
 
-enum class Failed { nothing, get, attach }; // the reason is in errno
-
 // A segment that is attached already stays where it is, since other threads may be in it. One that was
 // removed and made anew is attached beside it, and the pointer goes from the one to the other. The host may
 // have turned the pointer elsewhere.
 template <typename Memory>
-Failed attachOnce(Segment& segment, Memory*& pointer, int getFlags, int attachFlags) {
+os::Error attachOnce(Segment& segment, Memory*& pointer, int getFlags, int attachFlags) {
     const int id = shmget(segment.key, segment.size, getFlags);
-    if (id == -1) return Failed::get;
+    if (id == -1) return os::failed(os::Stage::open, segment.getFailure);
     if (segment.attached == nullptr || id != segment.attachedId) {
         void* const memory = shmat(id, nullptr, attachFlags);
-        if (reinterpret_cast<std::intptr_t>(memory) == -1) return Failed::attach;
+        if (reinterpret_cast<std::intptr_t>(memory) == -1)
+            return os::failed(os::Stage::use, segment.attachFailure);
         segment.attached = memory;
         segment.attachedId = id;
     }
     std::atomic_ref(pointer).store(static_cast<Memory*>(segment.attached), std::memory_order_relaxed);
-    return Failed::nothing;
-}
-
-[[noreturn]] void getFailed(const Segment& segment) {
-    const int error = errno;
-    if (segment.sizeLabel != nullptr)
-        std::fprintf(stderr, "%s: %d\n", segment.sizeLabel, static_cast<int>(segment.size));
-    errno = error;
-    talux::setUpFailed(segment.getFailure);
+    return {};
 }
 
 template <typename Memory>
 void attachOrMake(Segment& segment, Memory*& pointer) {
-    const Failed failed = attachOnce(segment, pointer, kSegmentFlags, 0);
-    if (failed == Failed::get) getFailed(segment);
-    if (failed == Failed::attach) talux::setUpFailed(segment.attachFailure);
+    const os::Error error = attachOnce(segment, pointer, kSegmentFlags, 0);
+    if (error.stage == os::Stage::open && segment.sizeLabel != nullptr)
+        std::fprintf(stderr, "%s: %d\n", segment.sizeLabel, static_cast<int>(segment.size));
+    if (error) talux::setUpFailed(error);
 }
 
 // Only one thread at a time makes locks and attaches.
@@ -128,9 +121,9 @@ const char* talux::attachExisting(Attachment attachment) {
     const int flags = attachment == Attachment::readOnly ? SHM_RDONLY : 0;
     const SettingUp alone;
     createLocksOnce();
-    if (attachOnce(structSegment, pVarStruct, 0, flags) != Failed::nothing) return structSegment.name;
-    if (attachOnce(globalSegment, pVarGlobal, 0, flags) != Failed::nothing) return globalSegment.name;
-    if (attachOnce(tempSegment, pVarTemp, 0, flags) != Failed::nothing) return tempSegment.name;
+    if (attachOnce(structSegment, pVarStruct, 0, flags)) return structSegment.name;
+    if (attachOnce(globalSegment, pVarGlobal, 0, flags)) return globalSegment.name;
+    if (attachOnce(tempSegment, pVarTemp, 0, flags)) return tempSegment.name;
     return nullptr;
 }
 

@@ -67,9 +67,8 @@ int plot(const desk::Scenario& scenario, const Options& options) {
     for (desk::Cycle cycle; cycles < kLongest && device.step(settings, {}, cycle); ++cycles)
         picture.add(cycle);
     const std::string page = picture.svg(options.scenario.substr(options.scenario.rfind('/') + 1));
-    const talux::Replacement result = talux::replaceFile(options.plot.c_str(), page, nullptr);
-    return result.written == talux::Written::done ? 0
-                                                  : fail(options.plot + ": " + std::strerror(result.error));
+    const auto error = talux::replaceFile(options.plot.c_str(), page, nullptr);
+    return error ? fail(options.plot + ": " + std::strerror(error.number)) : 0;
 }
 
 // Waits for the next cycle: for its time, or for a line on standard input.

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "ParamSystem/dictionary/Types.h"
-#include "ParamSystem/files/Line.h"
+#include "ParamSystem/files/FileOf.h"
 #include "ParamSystem/rules/Facts.h"
 #include "tools/generator/Model.h"
 

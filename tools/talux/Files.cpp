@@ -37,11 +37,12 @@ std::string contentsOf(const std::string& path, const Context& context) {
     return contents;
 }
 
-void replace(const std::string& path, const std::string& text, const Context& context, const Rights* rights) {
-    const Replacement result = replaceFile(path.c_str(), text, rights);
-    if (result.written == Written::done) return;
+void replace(const std::string& path, const std::string& text, const Context& context,
+             const os::Rights* rights) {
+    const os::Error error = replaceFile(path.c_str(), text, rights);
+    if (!error) return;
     throw CouldNot(fill(context.say("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}"),
-                        {path, std::generic_category().message(result.error)}));
+                        {path, std::generic_category().message(error.number)}));
 }
 
 } // namespace talux::tool

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "ParamSystem/files/ParameterFile.h"
+#include "ParamSystem/os/Files.h"
 #include "tools/talux/Command.h"
 
 namespace talux::tool {
@@ -15,7 +15,7 @@ std::string contentsOf(const std::string& path, const Context& context);
 
 // What was there stays if the new text cannot be written. Throws CouldNot with the reason.
 void replace(const std::string& path, const std::string& text, const Context& context,
-             const Rights* rights = nullptr);
+             const os::Rights* rights = nullptr);
 
 } // namespace talux::tool
 

@@ -150,12 +150,12 @@ void Judge::judgeSkipped(const Entry& entry, const Effect& effect, Judgement& ju
                         "ist ein Laufzeitwert, keine Einstellung; wird übergangen"));
         break;
     case Outcome::notANumber: {
-        if (*entry.value == '\0') {
+        if (entry.value.empty()) {
             add(judgement, "no-number",
                 context.say("has no value; is skipped", "hat keinen Wert; wird übergangen"));
             break;
         }
-        const bool hasComma = std::strchr(entry.value, ',') != nullptr;
+        const bool hasComma = entry.value.find(',') != entry.value.npos;
         std::string text =
             fill(context.say("'{}' is not a number; is skipped", "'{}' ist keine Zahl; wird übergangen"),
                  {printable(entry.value)});

@@ -37,17 +37,12 @@ bool isFolder(const std::string& path) {
 
 void readEntries(const std::string& path, const Context& context,
                  const std::function<void(const Entry&)>& visit) {
-    errno = 0;
-    switch (readLines(path.c_str(), [&visit](const Entry& entry) { visit(entry); })) {
-    case ReadResult::done:
-        return;
-    case ReadResult::notOpened:
-        throw CouldNot(fill(context.say("{}: cannot be opened: {}", "{}: lässt sich nicht öffnen: {}"),
-                            {path, reason(errno)}));
-    case ReadResult::broken:
-        throw CouldNot(fill(context.say("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}"),
-                            {path, reason(errno)}));
-    }
+    const os::Error error = readLines(path.c_str(), [&visit](const Entry& entry) { visit(entry); });
+    if (!error) return;
+    const auto text = error.stage == os::Stage::open
+                          ? context.say("{}: cannot be opened: {}", "{}: lässt sich nicht öffnen: {}")
+                          : context.say("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}");
+    throw CouldNot(fill(text, {path, reason(error.number)}));
 }
 
 Source Source::open(const std::string& name, const Context& context) {

@@ -163,7 +163,7 @@ private:
     // A record that cannot be written is known before the first value is.
     void keep() const {
         constexpr mode_t kOwnerAlone = 0600; // there may be passwords in it
-        const Rights rights{getuid(), getgid(), kOwnerAlone};
+        const os::Rights rights{getuid(), getgid(), kOwnerAlone};
         if (!order.protocol.empty()) replace(order.protocol, journal.text(context), context, &rights);
         if (!writes.empty()) replace(lastChange(context), journal.text(context), context, &rights);
     }
