@@ -65,18 +65,20 @@ constexpr bool holds(Kind kind, int id) {
            static_cast<unsigned>(block.count);
 }
 
-// The kind that answers for an id in a value space: of the ids that are int and long, long; None for records
-// and for ids without a slot. No two other blocks share a thousand.
+// The kind of each thousand of ids. No two blocks share one, apart from ints and records.
+inline constexpr auto kThousands = [] {
+    std::array<Kind, 17> kinds{};
+    kinds.fill(Kind::None);
+    for (const Block& block : kBlocks)
+        for (int k = block.first / 1000; k * 1000 < block.first + block.count; ++k)
+            if (block.kind != Kind::Int && block.kind != Kind::Struct)
+                kinds[static_cast<std::size_t>(k)] = block.kind;
+    return kinds;
+}();
+
+// The kind of an id in a value space: of the ids that are int and long, long; None for records and for ids
+// without a slot.
 constexpr Kind kindOf(int id) {
-    constexpr auto kThousands = [] {
-        std::array<Kind, 17> kinds{};
-        kinds.fill(Kind::None);
-        for (const Block& block : kBlocks)
-            for (int k = block.first / 1000; k * 1000 < block.first + block.count; ++k)
-                if (block.kind != Kind::Int && block.kind != Kind::Struct)
-                    kinds[static_cast<std::size_t>(k)] = block.kind;
-        return kinds;
-    }();
     const std::size_t thousand = static_cast<unsigned>(id) / 1000;
     const Kind kind = thousand < kThousands.size() ? kThousands[thousand] : Kind::None;
     return holds(kind, id) ? kind : Kind::None;
