@@ -352,7 +352,7 @@ public:
                 table::stop(table::mistake.its_settings_are_no_series);
             ids[static_cast<std::size_t>(count)] = static_cast<std::uint16_t>(each.id());
         }
-        if (count == 0) table::stop(table::mistake.no_parameter_has_this_name);
+        if (count == 0) table::stopAtName(nameWithoutNumber);
     }
 
     [[nodiscard]] constexpr int size() const { return count; }

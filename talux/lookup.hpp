@@ -8,6 +8,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "talux/nearest.hpp"
 #include "talux/records.hpp"
 #include "talux/values.hpp"
 
@@ -40,9 +41,13 @@ union Mistakes {
     char its_settings_are_no_series;
 };
 inline constexpr Mistakes mistake{.nothing = 1};
-constexpr void stop(char) {}
 
-inline constexpr std::size_t kNoRow = std::size(kRows);
+// That no parameter has a name, with the nearest one if any.
+constexpr void stopAtName(std::string_view wrong) {
+    const std::size_t row = nearest(wrong);
+    stopAtNearest(row);
+    if (row == kNoRow) stop(mistake.no_parameter_has_this_name);
+}
 
 // The place of a row, or kNoRow. No pointer: compared with null, a sanitizer's is no constant.
 constexpr std::size_t look(std::string_view name) {
@@ -60,7 +65,7 @@ constexpr std::size_t look(std::string_view name) {
 
 constexpr const Row& find(std::string_view name) {
     const std::size_t place = look(name);
-    if (place == kNoRow) stop(mistake.no_parameter_has_this_name);
+    if (place == kNoRow) stopAtName(name);
     return kRows[place];
 }
 

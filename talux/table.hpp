@@ -42,6 +42,9 @@ struct Row {
     rules::Form form = rules::Form::none; // where it is stricter than that of the kind
 };
 
+// Called with something that is no constant, it ends the compilation: see talux/lookup.hpp.
+constexpr void stop(char) {}
+
 // The factory default of a setting.
 struct Default {
     Kind kind;

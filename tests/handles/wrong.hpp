@@ -3,8 +3,8 @@
 
 using namespace talux;
 
-constexpr Measured<float> case1{"U0_prin"};            // no_parameter_has_this_name
-constexpr Measured<float> case2{"U0_PRIM"};            // no_parameter_has_this_name
+constexpr Measured<float> case1{"U0_prin"};            // did_you_mean_U0_prim
+constexpr Measured<float> case2{"u0_PRIM"};            // did_you_mean_U0_prim
 constexpr Measured<double> case3{"U0_prim"};           // its_values_are_float
 constexpr Measured<short> case4{"channel"};            // its_values_are_std_int32_t
 constexpr Measured<float> case5{"Uearth"};             // it_is_a_setting_take_talux_Setting
@@ -23,9 +23,11 @@ constexpr Measured<double> word{"vMWR"};
 constexpr Measured<float> last{"mw_BE_AC_2"};
 constexpr Setting<float> threshold{"Uearth"};
 constexpr Setting<Text> name{"Name"};
-constexpr auto case16 = word.at(97);                  // the_index_is_outside_its_range
-constexpr auto case17 = last.run<3>();                // the_run_is_too_long
-constexpr auto case18 = threshold.valid(0.5);         // the_value_is_outside_its_range
-const std::string_view case19 = name.live();          // deleted
-const auto case20 = word.at<97>().get();              // the_index_is_outside_its_range
-constexpr Series<choice::BAassign> case21{"BAasign"}; // no_parameter_has_this_name
+constexpr auto case16 = word.at(97);                              // the_index_is_outside_its_range
+constexpr auto case17 = last.run<3>();                            // the_run_is_too_long
+constexpr auto case18 = threshold.valid(0.5);                     // the_value_is_outside_its_range
+const std::string_view case19 = name.live();                      // deleted
+const auto case20 = word.at<97>().get();                          // the_index_is_outside_its_range
+constexpr Series<choice::BAassign> case21{"BAasign"};             // did_you_mean_BAassign1
+constexpr Setting<Text> case22{"TLX_script_timoutcomaster"};      // did_you_mean_script_timeout_conmaster
+constexpr Setting<Text> case23{"a name that none is similar to"}; // no_parameter_has_this_name

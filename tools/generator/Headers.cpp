@@ -168,6 +168,28 @@ std::string printRow(const Parameter& parameter, const ChoiceLists& lists, const
     return joined({row, "},\n"});
 }
 
+// Compilers say the name of a member that has no value.
+std::string printNearest(const auto& rows) {
+    std::string members, cases;
+    int row = 0;
+    for (const auto& [name, unused] : rows) {
+        members += joined({"    char did_you_mean_", name, ";\n"});
+        cases +=
+            joined({"    case ", std::to_string(row++), ": return stop(wrong.did_you_mean_", name, ");\n"});
+    }
+    return fill(R"(
+union no_parameter_has_this_name {
+    char nothing;
+{}};
+constexpr void stopAtNearest(std::size_t row) {
+    constexpr no_parameter_has_this_name wrong{.nothing = 1};
+    switch (row) {
+{}    }
+}
+)",
+                {members, cases});
+}
+
 std::string printParameters(const Model& model) {
     const ChoiceLists lists(model);
     const Measured measured(model);
@@ -195,7 +217,7 @@ inline constexpr short kChoices = 0; // no list
     text += joined({lists.printNumbers(), "\n// Sorted by name.\ninline constexpr Row kRows[] = {\n"});
     for (const auto& [name, row] : rows)
         text += row;
-    return joined({text, "};\n\n} // namespace talux::table\n\n#endif\n"});
+    return joined({text, "};\n", printNearest(rows), "\n} // namespace talux::table\n\n#endif\n"});
 }
 
 // ---- Defaults and notes -------------------------------------------------------------------------------
