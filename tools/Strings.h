@@ -1,9 +1,11 @@
-// Putting texts together.
+// Putting texts together and taking them apart.
 #ifndef TALUX_TOOLS_STRINGS_H
 #define TALUX_TOOLS_STRINGS_H
 
+#include <charconv>
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -39,6 +41,14 @@ inline std::string fill(std::string_view pattern, std::initializer_list<std::str
         pattern.remove_prefix(gap + 2);
     }
     return text.append(pattern);
+}
+
+// A whole number that is all of the text.
+inline std::optional<long> wholeNumber(std::string_view text) {
+    long number = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool isAll = read.ec == std::errc() && read.ptr == text.data() + text.size();
+    return isAll ? std::optional(number) : std::nullopt;
 }
 
 // The characters of `special` with a backslash in front.

@@ -1,50 +1,45 @@
 // talux boot: what a boot script does once, before any other program of the device.
 #include <algorithm>
 #include <cstdio>
-#include <sys/stat.h>
-#include <sys/utsname.h>
 
 #include "ParamSystem/TALUX_Var.h"
+#include "ParamSystem/kepl/Board.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Os.h"
-#include "tools/talux/Command.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/StoredFile.h"
-#include "tools/talux/Text.h"
 #include "tools/talux/change/Apply.h"
 
 namespace talux::tool {
 
 namespace {
 
+using reference::File;
+
 struct Options {
-    bool apply = false;
-    bool again = false;
-    bool fallback = false;
+    bool apply = false, again = false, fallback = false;
 };
 
-// The names that the kernel has for the processors of the boards.
 bool isDevicesProcessor() {
-    utsname name{};
-    uname(&name);
-    const std::string_view machine = name.machine;
-    return machine == "armv5tejl" || machine == "armv7l";
-}
-
-bool isThere(const std::string& path) {
-    struct stat info;
-    return stat(path.c_str(), &info) == 0;
+    char machine[65];
+    os::machineName(machine, sizeof machine);
+    return std::ranges::any_of(kepl::kBoards, [&](const auto& board) { return board.machine == machine; });
 }
 
 // Whether some program has given the settings values.
 bool isRunning(const Context& context) {
     attachDevice(Attachment::readWrite, context); // which it stays
     const Source live = Source::open("live", context);
-    return std::ranges::any_of(reference::parameters(), [&live](const Parameter& parameter) {
+    return std::ranges::any_of(settings(), [&live](const Parameter& parameter) {
         const auto value = live.value(parameter);
-        return value && parameter.isSetting() &&
-               (value->isText() ? *value->text() != '\0' : value->number() != 0);
+        return value && (value->isText() ? *value->text() != '\0' : value->number() != 0);
     });
+}
+
+// Without applying them.
+int loadAddresses() {
+    std::string path = joined({szParameterPath, "/", fileName(File::address)});
+    return VarLoadFile(path.data(), 0);
 }
 
 class Boot {
@@ -58,14 +53,15 @@ public:
         VarSetDefault();
         VarUpdateGlobalSpace();
         say(context.say("factory defaults are live", "Werkseinstellungen sind aktiv"));
-        load(reference::File::normal, VarLoadParams);
-        load(reference::File::security, VarLoadSecParams);
-        if (os::exists(openAddress(context).c_str()))
+        load(File::normal, VarLoadParams);
+        load(File::security, VarLoadSecParams);
+        const bool isUnconfirmed = os::exists(openAddress(context).c_str());
+        const bool isLoaded =
+            load(File::address, applies && !isUnconfirmed ? VarLoadIPConfig : loadAddresses);
+        if (isUnconfirmed)
             takeBack();
-        else if (applies)
-            loadAndApplyAddresses();
-        else
-            load(reference::File::address, [] { return VarLoadFile(addressFile().data(), 0); });
+        else if (applies && !isLoaded)
+            VarSetSystemIPs(); // the factory addresses
         say(applies
                 ? context.say("network, name server and clock are applied",
                               "Netzwerk, Nameserver und Uhr sind angewendet")
@@ -83,9 +79,7 @@ private:
     Status status = kNothing;
     std::string found; // what is wrong with the files, for the system log
 
-    static std::string addressFile() { return std::string(szParameterPath) + "/ip_config.ini"; }
-
-    void say(const std::string& text) const {
+    static void say(const std::string& text) {
         print(text + "\n");
         std::fflush(stdout); // the commands that apply settings write there too
     }
@@ -97,89 +91,83 @@ private:
     }
 
     // Whether it has been loaded.
-    bool load(reference::File file, int (*loadFile)()) {
+    bool load(File file, int (*loadFile)()) {
         const std::string path = pathOf(file, context);
-        if (!isThere(path)) {
-            say(fill(context.say("{}: not there, the defaults stay",
-                                 "{}: nicht da, die Werkseinstellungen bleiben"),
-                     {path}));
+        if (!os::exists(path.c_str())) {
+            say(context.say("{}: not there, the defaults stay",
+                            "{}: nicht da, die Werkseinstellungen bleiben", path));
             return false;
         }
         const StoredFile stored = lookAt(path, file, context);
         if (!stored.isUsable()) {
             remember(stored.unreadable.empty() ? kFound : kCouldNot, whyUnusable(path, stored));
             fallBack(file);
-            return false;
+        } else if (loadFile() != 1) {
+            remember(kCouldNot, cannotLoad(path));
+        } else if (stored.isComplete()) {
+            say(whatIsIn(path, stored));
+        } else {
+            remember(kFound, whatIsIn(path, stored));
         }
-        const std::string text = whatIsIn(path, stored);
-        if (loadFile() != 1)
-            remember(kCouldNot,
-                     fill(context.say("{}: could not be loaded", "{}: ließ sich nicht laden"), {path}));
-        else if (stored.isComplete())
-            say(text);
-        else
-            remember(kFound, text);
-        return true;
+        return stored.isUsable();
+    }
+
+    std::string cannotLoad(const std::string& path) const {
+        return context.say("{}: could not be loaded", "{}: ließ sich nicht laden", path);
     }
 
     std::string whyUnusable(const std::string& path, const StoredFile& stored) const {
         if (!stored.unreadable.empty())
             return stored.unreadable + context.say("; the defaults stay", "; die Werkseinstellungen bleiben");
-        return fill(stored.lines == 0 ? context.say("{}: empty, the defaults stay",
-                                                    "{}: leer, die Werkseinstellungen bleiben")
-                                      : context.say("{}: holds no setting, the defaults stay",
-                                                    "{}: enthält keine Einstellung, die Werkseinstellungen "
-                                                    "bleiben"),
-                    {path});
+        if (stored.lines == 0)
+            return context.say("{}: empty, the defaults stay", "{}: leer, die Werkseinstellungen bleiben",
+                               path);
+        return context.say("{}: holds no setting, the defaults stay",
+                           "{}: enthält keine Einstellung, die Werkseinstellungen bleiben", path);
     }
 
     std::string whatIsIn(const std::string& path, const StoredFile& stored) const {
         std::string text =
-            fill(context.say("{}: loaded, {} of {} settings", "{}: geladen, {} von {} Einstellungen"),
-                 {path, std::to_string(stored.settings), std::to_string(stored.expected)});
+            context.say("{}: loaded, {} of {} settings", "{}: geladen, {} von {} Einstellungen", path,
+                        stored.settings, stored.expected);
         if (stored.findings > 0)
-            text += fill(context.say("; findings: {}, see talux check", "; Befunde: {}, siehe talux check"),
-                         {std::to_string(stored.findings)});
+            text += context.say("; findings: {}, see talux check", "; Befunde: {}, siehe talux check",
+                                stored.findings);
         return text;
     }
 
     // To the newest dated copy in place of a file that holds nothing.
-    void fallBack(reference::File file) {
-        const auto copy = newestWholeCopy(file, context);
+    void fallBack(File file) {
+        auto copy = newestWholeCopy(file, context);
         if (!copy) return;
         if (!options.fallback)
-            return remember(kFound, fill(context.say("{} is the newest whole copy; --fallback loads it",
-                                                     "{} ist die neueste ganze Kopie; --fallback lädt sie"),
-                                         {*copy}));
-        std::string path = *copy;
-        const bool loaded = VarLoadFile(path.data(), 0) == 1;
-        keepEncryption(file);
+            return remember(kFound,
+                            context.say("{} is the newest whole copy; --fallback loads it",
+                                        "{} ist die neueste ganze Kopie; --fallback lädt sie", *copy));
+        const bool isLoaded = VarLoadFile(copy->data(), 0) == 1;
+        if (file == File::security) keepEncryption();
         raise(rowOf(kParameterFiles, file).flag);
-        remember(loaded ? kFound : kCouldNot,
-                 fill(loaded ? context.say("{}: loaded instead", "{}: stattdessen geladen")
-                             : context.say("{}: could not be loaded", "{}: ließ sich nicht laden"),
-                      {path}));
+        if (isLoaded)
+            remember(kFound, context.say("{}: loaded instead", "{}: stattdessen geladen", *copy));
+        else
+            remember(kCouldNot, cannotLoad(*copy));
     }
 
     // As VarLoadSecParams: no file may switch it off.
-    static void keepEncryption(reference::File file) {
-        if (file != reference::File::security) return;
+    static void keepEncryption() {
         const int mode = reference::find("sec_mode")->row().id;
         VarSetBoolValue(mode, 1);
         VarSetGlobalBoolValue(mode, 1);
     }
 
     // The supply failed before somebody confirmed the new ones.
-    void takeBack() {
-        load(reference::File::address, [] { return VarLoadFile(addressFile().data(), 0); });
+    void takeBack() try {
         takeAddressBack(applies, context);
         remember(kFound, context.say("an address was not confirmed: the old one is back",
                                      "eine Adresse wurde nicht bestätigt: die alte gilt wieder"));
-    }
-
-    // Without a file the factory addresses are applied.
-    void loadAndApplyAddresses() {
-        if (!load(reference::File::address, VarLoadIPConfig)) VarSetSystemIPs();
+    } catch (const CouldNot& damage) { // the file has the old ones
+        if (applies) VarSetSystemIPs();
+        remember(kCouldNot, damage.what());
     }
 };
 

@@ -5,7 +5,6 @@
 #include "ParamSystem/kepl/Decision.h"
 #include "ParamSystem/kepl/Words.h"
 #include "support/Text.h"
-#include "tools/talux/Shell.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 

@@ -2,13 +2,13 @@
 #ifndef TALUX_TOOLS_TALUX_COMPLETION_H
 #define TALUX_TOOLS_TALUX_COMPLETION_H
 
-#include <string>
-#include <string_view>
-#include <vector>
-
 #include "tools/talux/Command.h"
 
 namespace talux::tool {
+
+// Words of the shell besides those of the language.
+inline constexpr std::string_view kHelpWord = "help", kQuitWord = "quit", kUndoWord = "undo",
+                                  kDiscardWord = "discard";
 
 struct Candidate {
     std::string text;  // takes the place of what was typed

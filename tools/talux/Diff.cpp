@@ -1,6 +1,5 @@
 // talux diff: in what two sources differ.
-
-#include "tools/talux/Command.h"
+#include "tools/talux/Difference.h"
 #include "tools/talux/Notes.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -11,27 +10,8 @@ namespace {
 
 struct Options {
     std::vector<std::string> sources;
-    bool notes = false;
-    bool json = false;
+    bool notes = false, json = false;
 };
-
-struct Difference {
-    const Parameter* parameter;
-    std::optional<Value> from;
-    std::optional<Value> to;
-};
-
-// A file that does not hold a setting says nothing about it, unless the other side is a file, too.
-std::vector<Difference> differences(const Source& a, const Source& b) {
-    std::vector<Difference> found;
-    for (const Parameter& parameter : reference::parameters()) {
-        if (!parameter.isSetting() || isOfClock(parameter)) continue;
-        const auto from = a.value(parameter), to = b.value(parameter);
-        const bool saysNothing = a.isPartial() != b.isPartial() && (!from || !to);
-        if (!saysNothing && !sameValue(from, to)) found.push_back({&parameter, from, to});
-    }
-    return found;
-}
 
 void printText(const std::vector<Difference>& found, bool withNotes, const Context& context) {
     const Paint paint;
@@ -47,26 +27,26 @@ void printText(const std::vector<Difference>& found, bool withNotes, const Conte
         print(text + "\n");
 }
 
-void printDifferences(const std::vector<Difference>& found, const Source& a, const Source& b, bool withNotes,
-                      const Context& context) {
-    Json list = Json::array();
-    for (const auto& [parameter, from, to] : found) {
-        Json change = changeJson(*parameter, from, to, context);
-        if (withNotes) addNotes(change, *parameter);
-        list.add(std::move(change));
-    }
-    print(Json{{"from", a.name()}, {"to", b.name()}, {"differences", std::move(list)}}.text());
+Json described(const Difference& difference, bool withNotes, const Context& context) {
+    Json change = changeJson(*difference.parameter, difference.from, difference.to, context);
+    if (withNotes) addNotes(change, *difference.parameter);
+    return change;
 }
 
 Status run(const Options& options, const Context& context) {
     if (options.sources.size() > 2)
         throw CouldNot(context.say("more than two sources", "mehr als zwei Quellen"));
-    const bool hasBoth = options.sources.size() == 2;
-    const Source a = Source::open(hasBoth ? options.sources[0] : "live", context);
+    const Source a = Source::open(options.sources.size() == 2 ? options.sources[0] : "live", context);
     const Source b = Source::open(options.sources.back(), context);
-    const auto found = differences(a, b);
+    // A file that does not hold a setting says nothing about it, unless the other side is a file, too.
+    const bool isOneFile = a.isPartial() != b.isPartial();
+    const auto found = differences(a, b, [=](const Parameter&, const auto& from, const auto& to) {
+        return (!isOneFile || (from && to)) && !sameValue(from, to);
+    });
+    const auto describe = [&](const Difference& each) { return described(each, options.notes, context); };
     if (options.json)
-        printDifferences(found, a, b, options.notes, context);
+        print(Json{{"from", a.name()}, {"to", b.name()}, {"differences", Json::arrayOf(found, describe)}}
+                  .text());
     else
         printText(found, options.notes, context);
     return found.empty() ? kNothing : kFound;

@@ -2,11 +2,10 @@
 #include "tools/talux/Listing.h"
 
 #include <algorithm>
-#include <sys/types.h>
 
 #include <sha2.h>
+#include <sys/types.h> // for the next one
 
-#include "tools/talux/Command.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
@@ -14,22 +13,20 @@ namespace talux::tool {
 
 namespace {
 
+using reference::File;
+
 struct Options {
-    std::string source = "live";
-    std::string file;
-    bool listing = false;
-    bool shared = false;
+    std::string source = "live", file;
+    bool listing = false, shared = false;
 };
 
-reference::File fileCalled(const std::string& name, const Context& context) {
-    using reference::File;
+File fileCalled(const std::string& name, const Context& context) {
     if (name.empty()) return File::none;
     for (const File file : {File::normal, File::security, File::address})
-        if (reference::fileName(file).starts_with(name)) return file;
-    throw CouldNot(
-        fill(context.say("--file {}: is none of parameter.ini, sec_parameter.ini, ip_config.ini",
-                         "--file {}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini"),
-             {printable(name)}));
+        if (fileName(file).starts_with(name)) return file;
+    throw CouldNot(context.say("--file {}: is none of parameter.ini, sec_parameter.ini, ip_config.ini",
+                               "--file {}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini",
+                               printable(name)));
 }
 
 // -0 is the same setting as 0.
@@ -41,37 +38,31 @@ std::string withoutMinusZero(std::string form) {
 Status run(const Options& options, const Context& context) {
     const Source source = Source::open(options.source, context);
     const Listing listing = listingOf(source, fileCalled(options.file, context), options.shared);
-    if (options.listing)
-        print(listing.text);
-    else
-        print(fill(context.say("{}  {}, {} settings\n", "{}  {}, {} Einstellungen\n"),
-                   {fingerprintOf(listing), printable(source.name()), std::to_string(listing.settings)}));
+    print(options.listing ? listing.text
+                          : context.say("{}  {}, {} settings\n", "{}  {}, {} Einstellungen\n",
+                                        fingerprintOf(listing), printable(source.name()), listing.settings));
     return kNothing;
 }
 
 } // namespace
 
-Listing listingOf(const Source& source, reference::File only, bool isShared) {
+Listing listingOf(const Source& source, File only, bool isShared) {
     std::vector<std::string> lines;
-    for (const Parameter& parameter : reference::parameters()) {
-        if (!parameter.isSetting() || isOfClock(parameter)) continue;
-        if (isShared && isIndividual(parameter)) continue;
-        if (only != reference::File::none && parameter.file() != only) continue;
+    for (const Parameter& parameter : settings()) {
+        if ((isShared && isIndividual(parameter)) || (only != File::none && parameter.file() != only))
+            continue;
         if (const auto value = source.value(parameter))
             lines.push_back(
                 fill("TLX_{}={}\n", {parameter.name(), withoutMinusZero(fileForm(parameter, *value))}));
     }
     std::ranges::sort(lines);
-    Listing listing{{}, static_cast<int>(lines.size())};
-    for (const std::string& line : lines)
-        listing.text += line;
-    return listing;
+    return {list(lines, ""), static_cast<int>(lines.size())};
 }
 
 std::string fingerprintOf(const Listing& listing) {
     char digits[SHA256_DIGEST_STRING_LENGTH];
-    SHA256Data(reinterpret_cast<const std::uint8_t*>(listing.text.data()), listing.text.size(), digits);
-    return digits;
+    return SHA256Data(reinterpret_cast<const std::uint8_t*>(listing.text.data()), listing.text.size(),
+                      digits);
 }
 
 void addFingerprint(CommandLine& line) {

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <iostream>
 
+#include "tools/talux/Show.h"
+
 #ifdef TALUX_HAVE_LIBEDIT
 #include <cerrno>
 #include <clocale>
@@ -17,36 +19,29 @@ namespace talux::tool {
 
 namespace {
 
-// Also a person's, where there is no library to edit lines with.
-class Plain : public LineReader {
-public:
-    explicit Plain(const char* shownPrompt) : prompt(shownPrompt) {}
+constexpr char kPrompt[] = "kepl> ";
 
-    std::optional<std::string> next() override {
-        std::fputs(prompt, stdout);
+// Also a person's, where there is no library to edit lines with.
+LineReader plainReader(const char* prompt) {
+    return [prompt]() -> std::optional<std::string> {
+        print(prompt);
         std::fflush(stdout);
         std::string line;
         if (!std::getline(std::cin, line)) return {};
         if (line.ends_with('\r')) line.pop_back();
         return line;
-    }
-
-private:
-    const char* prompt;
-};
-
-constexpr char kPrompt[] = "kepl> ";
+    };
+}
 
 #ifdef TALUX_HAVE_LIBEDIT
 
-class Edited : public LineReader {
+class Edited {
 public:
     Edited(std::string file, const Context& person)
         : historyFile(std::move(file)), context(person), past(history_init()),
           editor(el_init("talux", stdin, stdout, stderr)) {
         std::setlocale(LC_CTYPE, "");
         std::signal(SIGINT, [](int) {}); // while a line is carried out: ends its shell command alone
-        HistEvent event;
         history(past, &event, H_SETSIZE, 1000);
         history(past, &event, H_SETUNIQUE, 1);
         if (!historyFile.empty()) history(past, &event, H_LOAD, historyFile.c_str());
@@ -62,21 +57,21 @@ public:
         el_set(editor, EL_SETTY, "-d", "-isig", nullptr); // a key like others while a line is edited
         el_set(editor, EL_BIND, "^R", "em-inc-search-prev", nullptr);
     }
-    ~Edited() override {
+    ~Edited() {
         el_end(editor);
         history_end(past);
     }
     Edited(const Edited&) = delete;
     Edited& operator=(const Edited&) = delete;
 
-    std::optional<std::string> next() override {
+    std::optional<std::string> next() {
         int count = 0;
         isGivenUp = false;
         el_set(editor, EL_PREP_TERM, 1); // before the prompt: what is typed behind it is for the editor
         const char* const text = el_gets(editor, &count);
         if (isGivenUp) return std::string();
         if (text == nullptr || count <= 0) {
-            std::fputs("\n", stdout);
+            print("\n");
             return {};
         }
         std::string line(text, static_cast<std::size_t>(count));
@@ -90,11 +85,11 @@ private:
     const Context& context;
     History* const past;
     EditLine* const editor;
+    HistEvent event{}; // what it says of a call
     bool isGivenUp = false;
 
     // Saved at once: the session may end any time.
     void remember(const std::string& line) {
-        HistEvent event;
         history(past, &event, H_ENTER, line.c_str());
         if (!historyFile.empty()) history(past, &event, H_SAVE, historyFile.c_str());
     }
@@ -107,7 +102,7 @@ private:
 
     static unsigned char giveUpKey(EditLine* editor, int /*key*/) {
         of(editor).isGivenUp = true;
-        std::fputs("^C\n", stdout);
+        print("^C\n");
         return CC_NEWLINE;
     }
 
@@ -124,25 +119,21 @@ private:
             return CC_REFRESH;
         }
         if (completion.candidates.size() == 1) return CC_REFRESH;
-        showList(completion);
+        showList(completion.candidates);
         return CC_REDISPLAY;
     }
 
     // Choices with texts one below the other, names side by side.
-    static void showList(const Completion& completion) {
+    static void showList(const std::vector<Candidate>& candidates) {
         constexpr std::size_t kColumns = 80, kMost = 120;
         std::size_t widest = 1;
-        for (const Candidate& candidate : completion.candidates)
+        for (const Candidate& candidate : candidates)
             widest = std::max(widest, width(candidate.label) + 2);
         const std::size_t perLine = std::max<std::size_t>(1, kColumns / widest);
         std::string text = "\n";
-        for (std::size_t k = 0; k < completion.candidates.size() && k < kMost; ++k) {
-            const bool endsLine = k % perLine == perLine - 1;
-            text += endsLine ? completion.candidates[k].label + "\n"
-                             : padded(completion.candidates[k].label, widest);
-        }
-        if (completion.candidates.size() > kMost) text += "..";
-        std::fputs((text + "\n").c_str(), stdout);
+        for (std::size_t k = 0; k < std::min(candidates.size(), kMost); ++k)
+            text += (k + 1) % perLine == 0 ? candidates[k].label + "\n" : padded(candidates[k].label, widest);
+        print(text + (candidates.size() > kMost ? "..\n" : "\n"));
     }
 };
 
@@ -150,16 +141,16 @@ private:
 
 } // namespace
 
-std::unique_ptr<LineReader> pipeReader() {
-    return std::make_unique<Plain>("");
+LineReader pipeReader() {
+    return plainReader("");
 }
 
-std::unique_ptr<LineReader> terminalReader([[maybe_unused]] const std::string& historyFile,
-                                           [[maybe_unused]] const Context& context) {
+LineReader terminalReader([[maybe_unused]] const std::string& historyFile,
+                          [[maybe_unused]] const Context& context) {
 #ifdef TALUX_HAVE_LIBEDIT
-    return std::make_unique<Edited>(historyFile, context);
+    return [editor = std::make_shared<Edited>(historyFile, context)] { return editor->next(); };
 #else
-    return std::make_unique<Plain>(kPrompt);
+    return plainReader(kPrompt);
 #endif
 }
 

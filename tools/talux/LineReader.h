@@ -2,7 +2,7 @@
 #ifndef TALUX_TOOLS_TALUX_LINEREADER_H
 #define TALUX_TOOLS_TALUX_LINEREADER_H
 
-#include <memory>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -10,17 +10,13 @@
 
 namespace talux::tool {
 
-class LineReader {
-public:
-    virtual ~LineReader() = default;
-    // The next line without its line end; empty when the person gave it up; nothing at the end.
-    virtual std::optional<std::string> next() = 0;
-};
+// Gives the next line without its line end; empty when the person gave it up; nothing at the end.
+using LineReader = std::function<std::optional<std::string>()>;
 
-std::unique_ptr<LineReader> pipeReader();
+LineReader pipeReader();
 
 // `historyFile`: kept there between two sessions; empty: not kept.
-std::unique_ptr<LineReader> terminalReader(const std::string& historyFile, const Context& context);
+LineReader terminalReader(const std::string& historyFile, const Context& context);
 
 } // namespace talux::tool
 

@@ -4,7 +4,6 @@
 #include <ctime>
 #include <utility>
 
-#include "tools/talux/Command.h"
 #include "tools/talux/Files.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Listing.h"
@@ -17,9 +16,7 @@ namespace talux::tool {
 namespace {
 
 struct Options {
-    std::string source;
-    std::string output;
-    std::string title;
+    std::string source, output, title;
     bool changed = false;
 };
 
@@ -55,11 +52,8 @@ std::string escaped(std::string_view text) {
 // The variable that makes builds reproducible makes reports so, too.
 std::string today() {
     const char* const fixed = std::getenv("SOURCE_DATE_EPOCH");
-    const std::time_t now = fixed != nullptr ? std::strtoll(fixed, nullptr, 10) : std::time(nullptr);
-    char text[32] = "";
-    std::tm local{};
-    if (localtime_r(&now, &local) != nullptr) std::strftime(text, sizeof text, "%Y-%m-%d %H:%M", &local);
-    return text;
+    return localTimeText(fixed != nullptr ? std::strtoll(fixed, nullptr, 10) : std::time(nullptr),
+                         "%Y-%m-%d %H:%M");
 }
 
 class Page {
@@ -99,15 +93,14 @@ private:
         }
         rows += fact(context.say("Source", "Quelle"), printable(source.name()));
         rows += fact(context.say("Date", "Datum"), today());
-        rows += fact(context.say("Settings", "Einstellungen"),
-                     fill(context.say("{}, of which {} differ from the factory settings",
-                                      "{}, davon {} anders als die Werkseinstellung"),
-                          {std::to_string(listing.settings), std::to_string(changedCount)}));
+        rows +=
+            fact(context.say("Settings", "Einstellungen"),
+                 context.say("{}, of which {} differ from the factory settings",
+                             "{}, davon {} anders als die Werkseinstellung", listing.settings, changedCount));
         rows += fact(context.say("Fingerprint (SHA-256)", "Fingerabdruck (SHA-256)"), fingerprintOf(listing));
-        return "<table class=\"facts\">\n" + rows + "</table>\n" +
-               fill("<p>{}</p>\n",
-                    {context.say("● marks what is not the factory setting.",
-                                 "● kennzeichnet, was nicht der Werkseinstellung entspricht.")});
+        return fill("<table class=\"facts\">\n{}</table>\n<p>{}</p>\n",
+                    {rows, context.say("● marks what is not the factory setting.",
+                                       "● kennzeichnet, was nicht der Werkseinstellung entspricht.")});
     }
 
     std::string familyTables() {
@@ -171,29 +164,24 @@ private:
     std::string remark(const Parameter& parameter, const Value& value) const {
         std::string text;
         if (!value.isText() && !isInRange(parameter, value.number()))
-            text = fill(context.say("out of range ({})", "außerhalb des Bereichs ({})"),
-                        {range(parameter, context.language)});
+            text = context.say("out of range ({})", "außerhalb des Bereichs ({})",
+                               rangeText(parameter, context.language));
         else if (const auto finding = wouldNotComeBack(parameter, value, context))
             text = finding->text;
         return text.empty() ? text : fill("<span class=\"remark\">{}</span>", {escaped(text)});
     }
 
     std::string signature() const {
-        std::string lines;
-        for (const char* label : {context.say("Place, date", "Ort, Datum"), context.say("Name", "Name"),
-                                  context.say("Signature", "Unterschrift")})
-            lines += fill("<div>{}</div>", {label});
-        return fill("<div class=\"sign\">{}</div>\n", {lines});
+        return fill("<div class=\"sign\"><div>{}</div><div>{}</div><div>{}</div></div>\n",
+                    {context.say("Place, date", "Ort, Datum"), context.say("Name", "Name"),
+                     context.say("Signature", "Unterschrift")});
     }
 };
 
 Status run(const Options& options, const Context& context) {
     const Source source = Source::open(options.source, context);
     const std::string text = Page(options, source, context).text();
-    if (options.output.empty())
-        print(text);
-    else
-        replace(options.output, text, context);
+    options.output.empty() ? print(text) : replace(options.output, text, context);
     return kNothing;
 }
 

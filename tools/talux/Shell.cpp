@@ -1,6 +1,4 @@
 // talux shell: the command language with completion, history and help.
-#include "tools/talux/Shell.h"
-
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -10,6 +8,7 @@
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "support/Text.h"
 #include "tools/talux/Command.h"
+#include "tools/talux/Completion.h"
 #include "tools/talux/Explain.h"
 #include "tools/talux/LineCheck.h"
 #include "tools/talux/LineReader.h"
@@ -70,19 +69,16 @@ void showOutput(char* text, int /*isMore*/) {
 
 // In the folder for a user's state, which is made when it is missing; empty when there is none to be had.
 std::string historyFile() {
-    const char* const state = std::getenv("XDG_STATE_HOME");
-    const char* const home = std::getenv("HOME");
-    std::filesystem::path folder;
-    if (state != nullptr && *state == '/')
-        folder = state;
-    else if (home != nullptr && *home == '/')
-        folder = std::filesystem::path(home) / ".local/state";
-    else
-        return {};
-    folder /= "talux";
+    namespace fs = std::filesystem;
+    const auto in = [](const char* variable, const char* folder) {
+        const char* const value = std::getenv(variable);
+        return value != nullptr && *value == '/' ? fs::path(value) / folder : fs::path();
+    };
+    fs::path folder = in("XDG_STATE_HOME", "talux");
+    if (folder.empty()) folder = in("HOME", ".local/state/talux");
     std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    return error ? std::string() : (folder / "history").string();
+    if (!folder.empty()) fs::create_directories(folder, error);
+    return folder.empty() || error ? std::string() : (folder / "history").string();
 }
 
 class Shell {
@@ -92,19 +88,19 @@ public:
           interpreter(directory.data()) {}
 
     Status run() {
-        const auto reader = isPerson ? terminalReader(historyFile(), context) : pipeReader();
+        const LineReader readLine = isPerson ? terminalReader(historyFile(), context) : pipeReader();
         bool refused = false;
         if (isPerson)
             print(context.say("The command language of the device: help shows it, help NAME a parameter.\n"
                               "quit ends.\n",
                               "Die Befehlssprache des Geräts: help zeigt sie, help NAME einen Parameter.\n"
                               "quit beendet.\n"));
-        while (auto line = reader->next()) {
+        while (auto line = readLine()) {
             if (*line == kQuitWord || *line == "exit") break;
             const bool isTaken = take(*line == "?" ? std::string(kHelpWord) : *line);
             refused |= !isTaken;
             std::fflush(stdout);
-            if (!isTaken && !isPerson && !options.keepGoing) return stopped(reader->next().has_value());
+            if (!isTaken && !isPerson && !options.keepGoing) return stopped(readLine().has_value());
         }
         return refused && !isPerson ? kFound : kNothing;
     }
@@ -125,18 +121,6 @@ private:
                                      "  hier angehalten; anstehende Einstellungen: %d, siehe talux status\n"),
                          pending);
         return kFound;
-    }
-
-    // A line from a pipe has been thought of before.
-    bool change(ChangeCommand command) const {
-        try {
-            Order order;
-            order.yes = !isPerson;
-            return command(order, context) != kCouldNot;
-        } catch (const CouldNot& error) {
-            report(error);
-            return false;
-        }
     }
 
     // Of what acts on the network at once.
@@ -162,64 +146,60 @@ private:
     }
 
     // False when the line was refused. Lines that begin with a hash mark are comments of scripts.
-    bool take(const std::string& line) {
+    bool take(const std::string& line) try {
+        const bool isHelpOnName = line.starts_with(kHelpWord) && line[kHelpWord.size()] == ' ';
+        Order order;
+        order.yes = !isPerson; // a line from a pipe has been thought of before
         if (line.starts_with('#')) return true;
         if (line == kHelpWord) return print(context.say(kHelpEnglish, kHelpGerman)), true;
-        if (line.starts_with(kHelpWord) && line[kHelpWord.size()] == ' ')
-            return explainName(line.substr(kHelpWord.size() + 1));
-        if (line == kUndoWord) return change(undo);
-        if (line == kDiscardWord) return change(discard);
+        if (isHelpOnName) return explain(line.substr(kHelpWord.size() + 1), context), true;
+        if (line == kUndoWord) return undo(order, context) != kCouldNot;
+        if (line == kDiscardWord) return discard(order, context) != kCouldNot;
         return !isWanted(line) || evaluate(line);
-    }
-
-    bool explainName(const std::string& name) const {
-        try {
-            explain(name, context);
-            return true;
-        } catch (const CouldNot& error) {
+    } catch (const CouldNot& error) {
+        if (line.starts_with(kHelpWord))
             std::fprintf(stderr, "%s\n", error.what());
-            return false;
-        }
+        else
+            report(error);
+        return false;
     }
 
     bool evaluate(const std::string& line) {
-        if (line.find('\0') != line.npos) return refuse(kepl::textOf(kepl::Refusal::syntaxError), line);
+        const auto findings = checkLine(line, {.uid = level}, context);
+        const bool isRefused = std::ranges::any_of(findings, &LineFinding::isRefusal);
+        const char* const tooLow = kepl::textOf(kepl::Refusal::rightsTooLow);
+        if (line.find('\0') != line.npos) return refuse(kepl::textOf(kepl::Refusal::syntaxError), findings);
+        std::fflush(stdout);
+        if (!isRefused)
+            tell(findings); // what goes through in silence and is perhaps not meant, before it does
         std::string copy = line;
         char terminator[] = "\n";
         char answer[kKeplTextSize + sizeof terminator] = "";
         char error[128] = "";
-        warn(line);
         const int result = interpreter.ProcessLine(copy.data(), showOutput, answer, terminator, level);
         if (result == kLineEmpty) return true;
         interpreter.GetError(error, sizeof error);
-        if (result == kLineError) return refuse(error, line);
-        if (answer == std::string(kepl::textOf(kepl::Refusal::rightsTooLow)) + terminator)
-            return refuse(kepl::textOf(kepl::Refusal::rightsTooLow), line);
+        if (result == kLineError) return refuse(error, findings);
+        if (answer == std::string(tooLow) + terminator) return refuse(tooLow, findings);
         if (answer != std::string_view(terminator)) print(answer);
         return true;
     }
 
-    bool refuse(const char* text, const std::string& line) const {
+    static void tell(const std::vector<LineFinding>& findings) {
+        for (const LineFinding& finding : findings)
+            std::fprintf(stderr, "  %s\n", finding.text.c_str());
+    }
+
+    bool refuse(std::string_view text, std::vector<LineFinding> findings) const {
         std::fflush(stdout);
-        std::fprintf(stderr, "%s\n", text);
-        for (const LineFinding& finding : checkLine(line, {.uid = level}, context))
-            if (finding.isRefusal) std::fprintf(stderr, "  %s\n", finding.text.c_str());
-        if (std::string_view(text) == kepl::textOf(kepl::Refusal::rightsTooLow))
+        std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
+        std::erase_if(findings, [](const LineFinding& finding) { return !finding.isRefusal; });
+        tell(findings);
+        if (text == kepl::textOf(kepl::Refusal::rightsTooLow))
             std::fputs(context.say("  talux shell --level 3 has all rights\n",
                                    "  talux shell --level 3 hat alle Rechte\n"),
                        stderr);
         return false;
-    }
-
-    // What goes through in silence and is perhaps not meant, before it does; nothing of a line that is
-    // refused.
-    void warn(const std::string& line) const {
-        std::fflush(stdout);
-        const auto findings = checkLine(line, {.uid = level}, context);
-        if (std::ranges::any_of(findings, [](const LineFinding& finding) { return finding.isRefusal; }))
-            return;
-        for (const LineFinding& finding : findings)
-            std::fprintf(stderr, "  %s\n", finding.text.c_str());
     }
 };
 

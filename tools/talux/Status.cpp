@@ -1,10 +1,10 @@
 // talux status: what update and save would change, and which of it reaches the network.
 #include <algorithm>
-#include <unistd.h>
 
 #include "ParamSystem/network/SettingIds.h"
+#include "ParamSystem/os/Files.h"
 #include "ParamSystem/store/ChangeFlags.h"
-#include "tools/talux/Command.h"
+#include "tools/talux/Difference.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
@@ -21,73 +21,46 @@ struct Options {
     bool json = false, plausible = false;
 };
 
-struct Pending {
-    const Parameter* parameter;
-    std::optional<Value> from;
-    std::optional<Value> to;
-};
-
-// What one command would change, in its own space or file.
+// What one command of the language would change, in its own space or file.
 struct Change {
-    const char* command; // of the command language
+    const char* command;
     std::string place;
     bool isThere;
-    std::vector<Pending> pending;
+    std::vector<Difference> pending;
 };
 
 struct Report {
     std::vector<Change> changes;
     std::string interruption;
-    std::vector<std::string> flags;
-    std::vector<std::pair<const Parameter*, Finding>> losses; // what a save would write and not bring back
-    std::vector<Implausible> implausible;                     // of the working copy
+    std::vector<std::string> flags{};
+    std::vector<std::pair<const Parameter*, Finding>> losses{}; // what a save would write and not bring back
+    std::vector<Implausible> implausible{};                     // of the working copy
 };
-
-// Calls differs(parameter, before, after) for every setting.
-template <class Differs>
-std::vector<Pending> pendingIn(const Source& from, const Source& to, Differs differs) {
-    std::vector<Pending> pending;
-    for (const Parameter& parameter : reference::parameters()) {
-        if (!parameter.isSetting() || isOfClock(parameter)) continue;
-        const auto before = from.value(parameter), after = to.value(parameter);
-        if (differs(parameter, before, after)) pending.push_back({&parameter, before, after});
-    }
-    return pending;
-}
-
-Change updateChange(const Source& live, const Source& staged) {
-    const auto differs = [](const Parameter&, const auto& a, const auto& b) { return !sameValue(a, b); };
-    return {"update", "live", true, pendingIn(live, staged, differs)};
-}
 
 // A save commits first, so the file gets what is staged. Values count as they stand in files.
 Change saveChange(const char* command, File file, const Source& staged, const Context& context) {
     const std::string path = pathOf(file, context);
-    const bool isThere = access(path.c_str(), F_OK) == 0;
+    const bool isThere = os::exists(path.c_str());
     const auto differs = [file](const Parameter& parameter, const auto& old, const auto& wanted) {
-        if (parameter.file() != file || !wanted) return false;
-        return !old || fileForm(parameter, *old) != fileForm(parameter, *wanted);
+        return parameter.file() == file && wanted &&
+               (!old || fileForm(parameter, *old) != fileForm(parameter, *wanted));
     };
     const Source before = isThere ? Source::open(path, context) : Source::nothing(path);
-    return {command, path, isThere, pendingIn(before, staged, differs)};
+    return {command, path, isThere, differences(before, staged, differs)};
 }
 
 Report reportOn(const Options& options, const Context& context) {
     const Source live = Source::open("live", context), staged = Source::open("staged", context);
-    Report report;
-    report.interruption = interruption(context);
-    report.changes.push_back(updateChange(live, staged));
-    report.changes.push_back(saveChange("save", File::normal, staged, context));
-    report.changes.push_back(saveChange("save_sec", File::security, staged, context));
-    report.changes.push_back(saveChange("save_ip", File::address, staged, context));
-    for (const int id : kChangeFlagIds) {
-        const Parameter& flag = *reference::find(GetParamProperties(id)->name);
-        if (const auto value = live.value(flag); value && value->number() != 0)
-            report.flags.emplace_back(flag.name());
-    }
-    for (const Parameter& parameter : reference::parameters())
-        if (const auto value = staged.value(parameter);
-            value && parameter.isSetting() && !isOfClock(parameter))
+    Report report{{{"update", "live", true, differences(live, staged)},
+                   saveChange("save", File::normal, staged, context),
+                   saveChange("save_sec", File::security, staged, context),
+                   saveChange("save_ip", File::address, staged, context)},
+                  interruption(context)};
+    for (const int id : kChangeFlagIds)
+        if (const auto value = live.value(id); value && value->number() != 0)
+            report.flags.emplace_back(GetParamProperties(id)->name);
+    for (const Parameter& parameter : settings())
+        if (const auto value = staged.value(parameter))
             if (auto finding = wouldNotComeBack(parameter, *value, context))
                 report.losses.emplace_back(&parameter, std::move(*finding));
     if (options.plausible)
@@ -96,90 +69,78 @@ Report reportOn(const Options& options, const Context& context) {
     return report;
 }
 
+bool reachesNetwork(const Difference& pending) {
+    return network::reachesSystem(pending.parameter->row().id);
+}
+
 void printChange(const Change& change, const Context& context) {
     const Paint paint;
-    const char* const pattern = change.isThere
-                                    ? context.say("{} would change {} in {}", "{} würde {} in {} ändern")
-                                    : context.say("{} would write {} to {}, which is not there",
-                                                  "{} würde {} nach {} schreiben, das noch nicht existiert");
+    const auto& [command, place, isThere, pending] = change;
+    const auto count = counted(pending.size(), context.say("", " Wert"), context.say("", " Werte"));
     const auto head =
-        fill(pattern, {change.command,
-                       counted(change.pending.size(), context.say("", " Wert"), context.say("", " Werte")),
-                       change.place});
+        isThere
+            ? context.say("{} would change {} in {}", "{} würde {} in {} ändern", command, count, place)
+            : context.say("{} would write {} to {}, which is not there",
+                          "{} würde {} nach {} schreiben, das noch nicht existiert", command, count, place);
     print(paint.bold(head) + "\n");
-    if (!change.isThere) return;
     Table table;
-    for (const auto& [parameter, from, to] : change.pending)
-        table.add({std::string(parameter->name()), paint.changed(tool::change(*parameter, from, to, context)),
-                   network::reachesSystem(parameter->row().id) ? context.say("network", "Netzwerk") : ""});
-    print(table.text("  "));
+    for (const Difference& each : pending)
+        table.add({std::string(each.parameter->name()),
+                   paint.changed(tool::change(*each.parameter, each.from, each.to, context)),
+                   reachesNetwork(each) ? context.say("network", "Netzwerk") : ""});
+    if (isThere) print(table.text("  "));
 }
 
 void printText(const Report& report, const Context& context) {
-    bool network = false;
     if (!report.interruption.empty()) print(report.interruption + "\n");
-    for (const Change& change : report.changes) {
+    for (const Change& change : report.changes)
         printChange(change, context);
-        for (const Pending& pending : change.pending)
-            network = network || network::reachesSystem(pending.parameter->row().id);
-    }
-    if (network)
+    if (std::ranges::any_of(report.changes, [](const Change& change) {
+            return std::ranges::any_of(change.pending, reachesNetwork);
+        }))
         print(context.say(
             "network: update and save apply nothing to the system; load_ip or a write of ETH0_IP, ETH1_IP, "
             "WLAN0_IP does\n",
             "Netzwerk: update und save wenden am System nichts an; load_ip oder Schreiben von ETH0_IP, "
-            "ETH1_IP, "
-            "WLAN0_IP tut es\n"));
+            "ETH1_IP, WLAN0_IP tut es\n"));
     for (const auto& [parameter, finding] : report.losses)
         print(fill("{}: {}\n", {parameter->name(), finding.text}));
     const Paint paint;
     for (const Implausible& found : report.implausible)
         print((found.isFault() ? paint.bad(found.text) : found.text) + "\n");
     for (const std::string& flag : report.flags)
-        print(
-            fill(context.say("{} is set: another program has not yet taken up the change\n",
-                             "{} ist gesetzt: ein anderes Programm hat die Änderung noch nicht übernommen\n"),
-                 {flag}));
+        print(context.say("{} is set: another program has not yet taken up the change\n",
+                          "{} ist gesetzt: ein anderes Programm hat die Änderung noch nicht übernommen\n",
+                          flag));
 }
 
-void printReport(const Report& report, const Context& context) {
+void printJson(const Report& report, const Context& context) {
     Json all;
-    for (const Change& change : report.changes) {
-        Json list = Json::array();
-        for (const auto& [parameter, from, to] : change.pending) {
-            Json entry = changeJson(*parameter, from, to, context);
-            entry.set("network", network::reachesSystem(parameter->row().id));
-            list.add(std::move(entry));
-        }
-        all.set(change.command,
-                {{"place", change.place}, {"there", change.isThere}, {"changes", std::move(list)}});
+    for (const auto& [command, place, isThere, pending] : report.changes) {
+        Json changes = Json::arrayOf(pending, [&](const Difference& each) {
+            Json entry = changeJson(*each.parameter, each.from, each.to, context);
+            entry.set("network", reachesNetwork(each));
+            return entry;
+        });
+        all.set(command, {{"place", place}, {"there", isThere}, {"changes", std::move(changes)}});
     }
-    Json flags = Json::array(), losses = Json::array();
-    for (const std::string& flag : report.flags)
-        flags.add(flag);
-    for (const auto& [parameter, finding] : report.losses)
-        losses.add({{"name", parameter->name()}, {"text", finding.text}});
     all.set("interrupted", report.interruption);
-    all.set("flags", std::move(flags));
-    all.set("not_back", std::move(losses));
-    Json implausible = Json::array();
-    for (const Implausible& found : report.implausible)
-        implausible.add(described(found));
-    all.set("implausible", std::move(implausible));
+    all.set("flags", Json::arrayOf(report.flags));
+    all.set("not_back", Json::arrayOf(report.losses, [](const auto& loss) {
+                return Json{{"name", loss.first->name()}, {"text", loss.second.text}};
+            }));
+    all.set("implausible", Json::arrayOf(report.implausible, described));
     print(all.text());
 }
 
 Status run(const Options& options, const Context& context) {
     const Report report = reportOn(options, context);
-    if (options.json)
-        printReport(report, context);
-    else
-        printText(report, context);
-    bool found = !report.losses.empty() || !report.interruption.empty();
-    for (const Change& change : report.changes)
-        found = found || !change.pending.empty();
-    found = found || std::ranges::any_of(report.implausible, &Implausible::isFault);
-    return found ? kFound : kNothing;
+    (options.json ? printJson : printText)(report, context);
+    const bool isFound =
+        !report.losses.empty() || !report.interruption.empty() ||
+        std::ranges::any_of(report.changes, [](const Change& change) { return !change.pending.empty(); }) ||
+        std::ranges::any_of(report.implausible, &Implausible::isFault);
+    return isFound ? kFound : kNothing;
 }
 
 } // namespace

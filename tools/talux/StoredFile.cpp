@@ -3,51 +3,35 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
-#include <vector>
 
 #include "tools/talux/Judgement.h"
 
 namespace talux::tool {
 
-namespace {
-
-std::set<int> settingsOf(reference::File file) {
-    std::set<int> ids;
-    for (const Parameter& parameter : reference::parameters())
-        if (parameter.isSetting() && parameter.file() == file) ids.insert(parameter.row().id);
-    return ids;
-}
-
-int lastOf(const std::set<int>& ids) {
-    int last = 0;
-    for (int order = 1; const stParamProperties* row = GetParamPropertiesByOrder(order); ++order)
-        if (ids.contains(row->id)) last = row->id;
-    return last;
-}
-
-} // namespace
-
 StoredFile lookAt(const std::string& path, reference::File file, const Context& context) {
-    const std::set<int> expected = settingsOf(file);
+    StoredFile found;
+    const Parameter* last = nullptr; // of a save, which writes them by position
+    for (const Parameter& parameter : reference::parameters())
+        if (parameter.isSetting() && parameter.file() == file) {
+            ++found.expected;
+            if (last == nullptr || parameter.position() > last->position()) last = &parameter;
+        }
     const Source before = Source::defaults();
     Judge judge(path, before, context);
-    StoredFile found;
-    std::set<int> seen;
+    std::set<const Parameter*> seen;
     try {
         readEntries(path, context, [&](const Entry& entry) {
             const Judgement judgement = judge.judge(entry);
             ++found.lines;
             found.findings += static_cast<int>(judgement.findings.size());
-            if (judgement.to && expected.contains(judgement.parameter->row().id))
-                seen.insert(judgement.parameter->row().id);
+            if (judgement.to && judgement.parameter->file() == file) seen.insert(judgement.parameter);
             found.isTorn = found.isTorn || entry.hasNul || entry.form == LineForm::foreign;
         });
     } catch (const CouldNot& error) {
         found.unreadable = error.what();
     }
     found.settings = static_cast<int>(seen.size());
-    found.expected = static_cast<int>(expected.size());
-    found.isTorn = found.isTorn || !seen.contains(lastOf(expected));
+    found.isTorn = found.isTorn || !seen.contains(last);
     return found;
 }
 
@@ -57,9 +41,8 @@ std::vector<DatedCopy> copiesOf(reference::File file, const Context& context) {
     std::vector<DatedCopy> copies;
     std::error_code error;
     const std::string folder = context.directory.empty() ? "/" : context.directory;
-    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::string name = entry->path().filename().string();
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        const std::string name = entry.path().filename().string();
         if (!name.starts_with(stem) || !name.ends_with(".ini")) continue;
         std::string when = name.substr(stem.size(), name.size() - stem.size() - 4);
         if (when.size() != 17) continue;

@@ -1,14 +1,16 @@
 // talux watch: live values, renewed in place.
 #include <algorithm>
 #include <chrono>
+#include <climits>
 #include <cmath>
 #include <csignal>
 #include <cstdio>
 #include <ctime>
-#include <iterator>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <termios.h>
+#include <unistd.h>
 
-#include "tools/talux/Command.h"
-#include "tools/talux/Screen.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Text.h"
 #include "tools/talux/Watched.h"
@@ -17,14 +19,15 @@ namespace talux::tool {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 struct Options {
     std::vector<std::string> names;
     Filter filter;
     std::string until;
     double period = 1;
     long count = 0; // 0: until it is stopped
-    bool minMax = false;
-    bool csv = false, decimalComma = false;
+    bool minMax = false, csv = false, decimalComma = false;
 };
 
 volatile std::sig_atomic_t stopRequested = 0;
@@ -35,32 +38,10 @@ void requestStop(int) {
 std::string timeOfDay() {
     timespec now{};
     clock_gettime(CLOCK_REALTIME, &now);
-    std::tm local{};
-    localtime_r(&now.tv_sec, &local);
-    char text[40], milliseconds[24];
-    std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local);
+    char milliseconds[24];
     std::snprintf(milliseconds, sizeof milliseconds, ".%03ld", now.tv_nsec / 1000000);
-    return std::string(text) + milliseconds;
+    return localTimeText(now.tv_sec) + milliseconds;
 }
-
-// The moments of the looks. Those that went by while the program or the machine was stopped are left out.
-class Pace {
-public:
-    explicit Pace(double seconds)
-        : period(std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds))) {}
-
-    std::chrono::steady_clock::time_point next() {
-        const auto now = Clock::now();
-        moment += period;
-        if (moment < now) moment += (now - moment) / period * period;
-        return moment;
-    }
-
-private:
-    using Clock = std::chrono::steady_clock;
-    const Clock::duration period;
-    Clock::time_point moment = Clock::now();
-};
 
 // Texts come in quotes and keep them; a quote inside is doubled.
 std::string csvCell(const std::string& text, char separator) {
@@ -72,14 +53,83 @@ std::string csvCell(const std::string& text, char separator) {
     return cell + '"';
 }
 
-// Least and greatest value so far.
-struct Extremes {
-    std::optional<double> least, most;
+struct Size {
+    std::size_t lines = 0, columns = 0; // 0: as many as there are
+};
 
-    void add(const std::optional<Value>& value) {
-        if (!value || value->isText() || std::isnan(value->number())) return;
-        least = std::min(least.value_or(value->number()), value->number());
-        most = std::max(most.value_or(value->number()), value->number());
+Size sizeOfTerminal() {
+    winsize size{};
+    if (!isForTerminal() || ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0) return {};
+    return {size.ws_row, size.ws_col};
+}
+
+// A table on a terminal, renewed in place: only what fits, scrolled with keys.
+class Screen {
+public:
+    explicit Screen(bool isUsed)
+        : hasKeys(isUsed && isForTerminal() && tcgetattr(STDIN_FILENO, &before) == 0) {
+        if (!hasKeys) return;
+        termios keys = before;
+        keys.c_lflag &= ~static_cast<tcflag_t>(ICANON | ECHO);
+        tcsetattr(STDIN_FILENO, TCSANOW, &keys);
+    }
+    ~Screen() {
+        if (hasKeys) tcsetattr(STDIN_FILENO, TCSANOW, &before);
+    }
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    // On a terminal over what was there, elsewhere below it.
+    void show(const std::string& head, const Table& table, const Context& context) {
+        const Size size = sizeOfTerminal();
+        page = size.lines > 3 ? std::min(table.size(), size.lines - 2) : table.size();
+        top = std::min(top, table.size() - page);
+        const std::string body = table.text(); // of all rows, whose columns stay where they are
+        const auto lines = linesOf(body);
+        std::string text = head;
+        if (page < table.size())
+            text += context.say("  {} to {} of {}: arrows scroll, q ends",
+                                "  {} bis {} von {}: Pfeile blättern, q endet", top + 1, top + page,
+                                table.size());
+        const char* const end = size.lines > 0 ? "\033[K\n" : "\n";
+        text = cut(text, size.columns) + end;
+        for (std::size_t k = top; k < top + page; ++k)
+            text += cut(lines[k], size.columns) + end;
+        if (size.lines > 0 && drawn > 0) print(fill("\033[{}A", {std::to_string(drawn)}));
+        drawn = page + 1;
+        print(text);
+    }
+
+    // Waits for the moment or a key, which scrolls or asks for the end.
+    enum class Woken { moment, key, end };
+    Woken waitUntil(Clock::time_point moment) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(moment - Clock::now()).count();
+        if (left <= 0) return Woken::moment;
+        // Not ppoll: where the processor has 32 bits, its checked form takes the wide time for a narrow one.
+        pollfd keys{STDIN_FILENO, POLLIN, 0};
+        if (poll(&keys, hasKeys ? 1 : 0, static_cast<int>(std::min<std::int64_t>(left, INT_MAX))) <= 0)
+            return Woken::moment;
+        char typed[16];
+        const ssize_t size = read(STDIN_FILENO, typed, sizeof typed);
+        if (size <= 0) return Woken::end; // nobody is there any more
+        const std::string_view all(typed, static_cast<std::size_t>(size));
+        for (const char key : all.substr(0, all.find('q')))
+            scroll(key);
+        return all.find('q') == all.npos ? Woken::key : Woken::end;
+    }
+
+private:
+    termios before{};
+    const bool hasKeys;                       // the terminal gives them one by one
+    std::size_t top = 0, page = 0, drawn = 0; // rows; lines on the screen
+
+    // Of an arrow's sequence the last character counts. show() keeps the end in its bounds.
+    void scroll(char key) {
+        const std::size_t leaf = std::max<std::size_t>(page, 2) - 1;
+        if (key == 'B' || key == 'j') ++top;
+        if (key == 'A' || key == 'k') top -= std::min<std::size_t>(top, 1);
+        if (key == '6' || key == ' ') top += leaf;
+        if (key == '5' || key == 'b') top -= std::min(top, leaf);
     }
 };
 
@@ -88,46 +138,83 @@ public:
     Watch(const Options& wanted, std::vector<Watched> shown, const Context& person)
         : options(wanted), items(std::move(shown)), context(person), extremes(items.size()) {}
 
-    void begin() const {
-        if (!options.csv) return;
-        std::vector<std::string> labels;
-        for (const Watched& item : items)
-            labels.push_back(item.label);
-        printRow(context.say("time", "Zeit"), labels);
+    // Whether `until` held at last.
+    bool run(const std::optional<Condition>& until) {
+        if (options.csv) {
+            std::vector<std::string> labels;
+            std::ranges::transform(items, std::back_inserter(labels), &Watched::label);
+            printRow(context.say("time", "Zeit"), labels);
+        }
+        bool holds = false;
+        for (long k = 0; !holds && (options.count == 0 || k < options.count); ++k) {
+            if (k > 0 && !pause()) break;
+            look();
+            holds = until && until->holds();
+            if (std::fflush(stdout) != 0) break;
+        }
+        if (options.csv && options.minMax)
+            printRow("min", textsOf(extremes, &Extremes::least)),
+                printRow("max", textsOf(extremes, &Extremes::most));
+        return holds;
     }
 
+private:
+    // Least and greatest value so far.
+    struct Extremes {
+        std::optional<Value> least, most;
+    };
+
+    const Options& options;
+    const std::vector<Watched> items;
+    const Context& context;
+    Screen screen{!options.csv};
+    const Clock::duration period =
+        std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(options.period));
+    Clock::time_point next = Clock::now(); // moment of a look
+    std::string moment;
+    std::vector<std::optional<Value>> values, before;
+    std::vector<Extremes> extremes;
+
     void look() {
+        before = std::move(values);
         values.clear();
-        for (const Watched& item : items)
-            values.push_back(item.value());
-        for (std::size_t k = 0; k < items.size(); ++k)
-            extremes[k].add(values[k]);
+        for (std::size_t k = 0; k < items.size(); ++k) {
+            const auto value = values.emplace_back(items[k].value());
+            if (!value || value->isText() || std::isnan(value->number())) continue;
+            auto& [least, most] = extremes[k];
+            if (!least || value->number() < least->number()) least = value;
+            if (!most || value->number() > most->number()) most = value;
+        }
         moment = timeOfDay();
         if (options.csv)
             printRow(moment, textsOf(values));
         else
             show();
-        before = values;
     }
 
     // What is on the screen, after it was scrolled.
     void show() {
         const Paint paint;
-        std::vector<std::vector<std::string>> rows;
+        Table table;
         for (std::size_t k = 0; k < items.size(); ++k) {
+            const auto& [least, most] = extremes[k];
             const bool changed =
                 !items[k].isMeasured() && !before.empty() && !sameValue(before[k], values[k]);
-            const std::string text = items[k].shortText(values[k], context);
-            rows.push_back({changed ? "*" : "", items[k].label, changed ? paint.changed(text) : text});
-            if (options.minMax) rows.back().push_back(extremeText(k));
-            rows.back().push_back(items[k].title);
+            const auto text = [&](const auto& value) { return items[k].shortText(value, context); };
+            std::vector<std::string> row{changed ? "*" : "", items[k].label,
+                                         changed ? paint.changed(text(values[k])) : text(values[k])};
+            if (options.minMax) row.push_back(least ? text(least) + " .. " + text(most) : "");
+            row.push_back(items[k].title);
+            table.add(std::move(row));
         }
-        screen.show(moment, rows);
+        screen.show(moment, table, context);
     }
 
-    // False when it is to end.
-    bool pause(Pace& pace) {
-        const auto next = pace.next();
+    // False when it is to end. Looks that went by while the program or the machine was stopped are left out.
+    bool pause() {
+        const auto now = Clock::now();
+        next += period;
+        if (next < now) next += (now - next) / period * period;
         for (;;) {
             const auto woken = screen.waitUntil(next);
             if (stopRequested != 0 || woken == Screen::Woken::end) return false;
@@ -137,38 +224,13 @@ public:
         }
     }
 
-    void end() const {
-        if (!options.csv || !options.minMax) return;
-        for (const bool isMost : {false, true}) {
-            std::vector<std::optional<Value>> ends;
-            for (const Extremes& extreme : extremes) {
-                const auto& number = isMost ? extreme.most : extreme.least;
-                ends.push_back(number ? std::optional(Value(*number)) : std::nullopt);
-            }
-            printRow(isMost ? "max" : "min", textsOf(ends));
-        }
-    }
-
-private:
-    const Options& options;
-    const std::vector<Watched> items;
-    const Context& context;
-    Screen screen{!options.csv, context};
-    std::string moment;
-    std::vector<std::optional<Value>> values, before;
-    std::vector<Extremes> extremes;
-
-    std::string extremeText(std::size_t k) const {
-        if (!extremes[k].least) return {};
-        const auto text = [&](double number) { return items[k].shortText(Value(number), context); };
-        return text(*extremes[k].least) + " .. " + text(*extremes[k].most);
-    }
-
-    std::vector<std::string> textsOf(const std::vector<std::optional<Value>>& all) const {
+    template <class All, class Which = std::identity>
+    std::vector<std::string> textsOf(const All& all, Which which = {}) const {
         std::vector<std::string> texts;
         for (std::size_t k = 0; k < all.size(); ++k) {
-            texts.push_back(items[k].plainText(all[k]));
-            if (options.decimalComma && all[k] && !all[k]->isText())
+            const std::optional<Value>& value = std::invoke(which, all[k]);
+            texts.push_back(items[k].plainText(value));
+            if (options.decimalComma && value && !value->isText())
                 std::ranges::replace(texts.back(), '.', ',');
         }
         return texts;
@@ -206,18 +268,8 @@ Status run(Options& options, const Context& context) {
     attachDevice(Attachment::readOnly, context);
     std::signal(SIGINT, requestStop);
     std::signal(SIGTERM, requestStop);
-    Watch watch(options, std::move(items), context);
-    Pace pace(options.period);
-    watch.begin();
-    bool held = false;
-    for (long k = 0; !held && (options.count == 0 || k < options.count); ++k) {
-        if (k > 0 && !watch.pause(pace)) break;
-        watch.look();
-        held = until && until->holds();
-        if (std::fflush(stdout) != 0) break;
-    }
-    watch.end();
-    return until && !held ? kFound : kNothing;
+    const bool holds = Watch(options, std::move(items), context).run(until);
+    return until && !holds ? kFound : kNothing;
 }
 
 } // namespace

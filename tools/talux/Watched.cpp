@@ -1,6 +1,5 @@
 #include "tools/talux/Watched.h"
 
-#include <charconv>
 #include <cstdio>
 #include <cstring>
 
@@ -31,20 +30,16 @@ Watched watchedMember(const Member& member, ParamLanguage language) {
 // Elements first to last of "NAME FIRST" or "NAME FIRST.LAST", counted from 1 in the list of all.
 std::vector<Watched> elementsBy(const std::string& text, const Parameter& parameter, std::vector<Watched> all,
                                 const Context& context) {
-    const auto& row = parameter.row();
-    int first = 0;
-    const char* const end = text.data() + text.size();
-    auto read = std::from_chars(text.data() + text.find(' ') + 1, end, first);
-    int last = first;
-    if (read.ec == std::errc() && read.ptr != end && *read.ptr == '.')
-        read = std::from_chars(read.ptr + 1, end, last);
-    const bool fits = first >= row.val_min_id && last <= row.val_max_id && first <= last;
-    if (read.ec != std::errc() || read.ptr != end || !parameter.isIndexed() || !fits)
-        throw CouldNot(
-            fill(context.say("'{}': no such element; elements are {} to {}",
-                             "'{}': kein solches Element; Elemente sind {} bis {}"),
-                 {printable(text), std::to_string(row.val_min_id), std::to_string(row.val_max_id)}));
-    return {all.begin() + (first - row.val_min_id), all.begin() + (last - row.val_min_id + 1)};
+    const int least = parameter.row().val_min_id, most = parameter.row().val_max_id;
+    std::string_view end = text;
+    takeUpTo(end, ' ');
+    const std::string_view begin = takeUpTo(end, '.');
+    const auto first = wholeNumber(begin), last = end.empty() ? first : wholeNumber(end);
+    if (!parameter.isIndexed() || !first || !last || *first < least || *last > most || *first > *last)
+        throw CouldNot(context.say("'{}': no such element; elements are {} to {}",
+                                   "'{}': kein solches Element; Elemente sind {} bis {}", printable(text),
+                                   least, most));
+    return {all.begin() + (*first - least), all.begin() + (*last - least + 1)};
 }
 
 struct Relation {
@@ -57,11 +52,6 @@ constexpr Relation kRelations[] = {
     {"!=", [](double a, double b) { return a != b; }}, {"==", [](double a, double b) { return a == b; }},
     {">", [](double a, double b) { return a > b; }},   {"<", [](double a, double b) { return a < b; }},
     {"=", [](double a, double b) { return a == b; }}};
-
-std::string trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' '), last = text.find_last_not_of(' ');
-    return first == text.npos ? std::string() : std::string(text.substr(first, last - first + 1));
-}
 
 } // namespace
 
@@ -116,35 +106,34 @@ std::vector<Watched> watchedBy(const std::string& text, const Context& context) 
     return found;
 }
 
-Condition::Condition(const std::string& text, const Context& context) : relation(0), limit(0) {
+Condition::Condition(std::string_view text, const Context& context) {
     const std::size_t at = std::min(text.find_first_of("<>=!"), text.size());
-    const int known = static_cast<int>(std::size(kRelations));
-    while (relation < known && !text.substr(at).starts_with(kRelations[relation].sign))
-        ++relation;
-    const std::string left = trimmed(text.substr(0, at));
-    const auto items = relation < known && !left.empty() ? watchedBy(left, context) : std::vector<Watched>();
+    const auto* const relation = std::ranges::find_if(
+        kRelations, [&](const Relation& known) { return text.substr(at).starts_with(known.sign); });
+    const std::string left(withoutBlanks(text.substr(0, at)));
+    const bool isComplete = relation != std::end(kRelations) && !left.empty();
+    const auto items = isComplete ? watchedBy(left, context) : std::vector<Watched>();
     if (items.size() != 1)
-        throw CouldNot(
-            fill(context.say("'{}': a condition is one value, >, <, =, >=, <= or !=, and a number",
-                             "'{}': eine Bedingung ist ein Wert, >, <, =, >=, <= oder != und eine Zahl"),
-                 {printable(text)}));
+        throw CouldNot(context.say("'{}': a condition is one value, >, <, =, >=, <= or !=, and a number",
+                                   "'{}': eine Bedingung ist ein Wert, >, <, =, >=, <= oder != und eine Zahl",
+                                   printable(text)));
     what = items[0];
-    const std::string right = trimmed(text.substr(at + kRelations[relation].sign.size()));
+    isMet = relation->holds;
+    const std::string_view right = withoutBlanks(text.substr(at + relation->sign.size()));
     auto number = numberIn(right);
-    for (const Meaning& meaning : meaningsOf(right, context.language))
-        for (const Parameter* bearer : meaning.bearers)
-            if (!number && bearer == what.parameter) number = meaning.choice.number;
+    for (const model::Item& item : what.parameter->choiceItems())
+        if (!number && (equalIgnoringCase(item.text.de, right) || equalIgnoringCase(item.text.en, right)))
+            number = item.number;
     if (!number)
-        throw CouldNot(
-            fill(context.say("'{}': {} is neither a number with a decimal point nor a choice of {}",
-                             "'{}': {} ist keine Zahl mit Dezimalpunkt und keine Auswahl von {}"),
-                 {printable(text), printable(right), what.label}));
+        throw CouldNot(context.say("'{}': {} is neither a number with a decimal point nor a choice of {}",
+                                   "'{}': {} ist keine Zahl mit Dezimalpunkt und keine Auswahl von {}",
+                                   printable(text), printable(right), what.label));
     limit = *number;
 }
 
 bool Condition::holds() const {
     const auto value = what.value();
-    return value && !value->isText() && kRelations[relation].holds(value->number(), limit);
+    return value && !value->isText() && isMet(value->number(), limit);
 }
 
 } // namespace talux::tool

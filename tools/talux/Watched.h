@@ -37,15 +37,15 @@ std::vector<Watched> watchedBy(const std::string& text, const Context& context);
 class Condition {
 public:
     // Throws CouldNot.
-    Condition(const std::string& text, const Context& context);
+    Condition(std::string_view text, const Context& context);
 
     const Watched& watched() const { return what; }
     bool holds() const;
 
 private:
     Watched what;
-    int relation; // place in the table of relations
-    double limit;
+    bool (*isMet)(double value, double limit) = nullptr;
+    double limit = 0;
 };
 
 } // namespace talux::tool
