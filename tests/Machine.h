@@ -143,6 +143,7 @@ int system(const char* command) {
 FILE* popen(const char* command, const char* mode) {
     using talux_test::machine;
     const talux_test::Working working;
+    EXPECT_STREQ(mode, "re") << "a program started meanwhile would inherit the pipe";
     if (!machine.pipe && !machine.pipesFail)
         return talux_test::real<FILE*(const char*, const char*)>("popen")(command, mode);
     talux_test::note("| " + std::string(command));
