@@ -216,6 +216,20 @@ TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
     EXPECT_GT(faults, 400);
 }
 
+// Who sees the flag finds the new values.
+TEST_F(Disk, ALoadRaisesItsFlagAfterwards) {
+    const std::pair<int (*)(), std::string> kLoads[] = {{VarLoadParams, "parameter.ini"},
+                                                        {VarLoadSecParams, "sec_parameter.ini"},
+                                                        {VarLoadIPConfig, "ip_config.ini"}};
+    for (const auto& [load, file] : kLoads) {
+        begin();
+        perform({load, 0, {}, ""});
+        EXPECT_EQ(done().front(), "open " + file);
+        EXPECT_EQ(std::ranges::count_if(done(), [](const auto& step) { return step.starts_with("raise"); }),
+                  1);
+    }
+}
+
 // A save that says it worked has put file and copy in place; one that says it did not has given the reason.
 template <SavedFile file>
 int saveTruly() {

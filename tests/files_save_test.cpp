@@ -153,10 +153,10 @@ TEST_F(Save, WritesByteForByteWhatALoadBringsBack) {
 }
 
 TEST_F(Save, OfANewAddressFileLeavesItsRightsToTheMask) {
-    const mode_t mask = umask(0027);
+    const mode_t mask = umask(0002);
     EXPECT_EQ(VarSaveIPConfigFile((directory / "file").string().data()), 1);
     umask(mask);
-    EXPECT_EQ(fs::status(directory / "file").permissions(), fs::perms{0640});
+    EXPECT_EQ(fs::status(directory / "file").permissions(), fs::perms{0664});
 }
 
 // The zone may be another at every save. A clock beyond all years shows none.

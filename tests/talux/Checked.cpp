@@ -4,6 +4,10 @@
 
 namespace talux_test {
 
+bool isJson(const std::string& text) {
+    return nlohmann::json::accept(text);
+}
+
 std::vector<CheckedLine> checkedLines(const std::string& answer) {
     std::vector<CheckedLine> lines;
     const nlohmann::json files = nlohmann::json::parse(answer);

@@ -16,6 +16,8 @@ struct CheckedLine {
     std::string text;
 };
 
+bool isJson(const std::string& text);
+
 // Of the first file in the answer; throws if that is no JSON.
 std::vector<CheckedLine> checkedLines(const std::string& answer);
 

@@ -302,19 +302,31 @@ TEST_F(TaluxStore, LookingChangesNothing) {
     const std::string before = image(), listed = files();
     const std::string in = "cd " + directory.string() + " && talux --directory . ";
     std::istringstream commands(R"(check a.ini --against live
-check a.ini b.ini
+check a.ini b.ini --json --notes
 diff live staged
 diff a.ini b.ini
-diff b.ini
+diff b.ini --json --notes
 status
-status --json
+status --json --plausible
 report live
 report staged --changed --language de
-report a.ini
 fingerprint
 fingerprint a.ini --listing
 list --of staged --json
+list U --of a.ini --json
 explain --live Uearth MessRecord01
+explain --live --json Uearth MessRecord01.U1p 28 'BAassign' Name
+history --json
+history Uearth --json
+set Uearth=41 --dry-run
+set Uearth=41 'Name=a\b' 'vBE[3]=5' ETH0_IP=10.1.2.3 --dry-run --json
+set Uearth=95 BAassign3=nosuch --json
+apply b.ini --dry-run --json
+clone b.ini --dry-run --json
+restore b.ini --dry-run --json
+discard --dry-run --json
+undo --json
+confirm --json
 watch U1_prim MessRecord01 'vBE 3.9' --count 2 --period 0.01
 watch Name vMWR --csv --count 1
 annotations
@@ -324,10 +336,48 @@ lint a.ini
         for (const std::string fault : {"", ">/dev/full", ">&-", "2>&-", "<&-"}) {
             const Ended result = run((in + command).append(" ").append(fault) + " 2>/dev/null");
             EXPECT_TRUE(fault == ">/dev/full" ? result.status == 2 : result.status >= 0) << command << fault;
+            if (fault.empty() && result.status != 2 && command.find("--json") != command.npos) {
+                EXPECT_TRUE(isJson(result.output)) << command << result.output;
+            }
         }
     EXPECT_EQ(run("talux boot 2>&1").status, 2); // once is enough
     EXPECT_EQ(image(), before);
     EXPECT_EQ(files(), listed);
+}
+
+// Every option of every command with values that it may not take, and arguments that are none: status 2 goes
+// with one complaint, and nobody hangs, crashes or writes.
+TEST_F(TaluxStore, BadArgumentsAreRefused) {
+    const std::string before = image(), listed = run("ls -a / /tmp").output;
+    const auto words = [](const std::string& command, const char* pattern) {
+        std::istringstream found(run(command + " | sed -nE '" + pattern + "' | tr '\\n' ' '").output);
+        return std::vector<std::string>(std::istream_iterator<std::string>(found), {});
+    };
+    int refused = 0;
+    for (const std::string& name : words("talux --help", "s/^  ([a-z]+) .*/\\1/p")) {
+        std::vector<std::string> tries{"--nosuch",   "/nothing", "'' '' ''",
+                                       "$(seq 300)", "'\377'",   "--json x=y"};
+        for (const std::string& option :
+             words("talux " + name + " --help", "s/^ .*(--[a-z-]+) [TN][A-Z]+ .*/\\1/p"))
+            for (const char* value : {"", "=", " x", " -1", " 1e99", " '\377'", " 86401", " /nothing/x"})
+                tries.push_back(option + value);
+        for (const std::string& each : tries) {
+            const Ended ended =
+                run("LANG=" + std::string(refused % 2 == 0 ? "C" : "de_DE.UTF-8") + " timeout 10 talux " +
+                    name + " " + each + (name == "watch" ? " --count 1" : "") +
+                    " 2>&1 >/tmp/out </dev/null; echo \"status $?\"; rm -f /tmp/out");
+            const bool complains =
+                ended.output.starts_with("talux: ") || ended.output.find("\ntalux: ") != ended.output.npos;
+            EXPECT_EQ(ended.output.ends_with("status 2\n"), complains) << name << " " << each << ended.output;
+            EXPECT_TRUE(complains || ended.output.ends_with("status 0\n") ||
+                        ended.output.ends_with("status 1\n"))
+                << name << " " << each << ended.output;
+            refused += complains;
+        }
+    }
+    EXPECT_GT(refused, 150);
+    EXPECT_EQ(image(), before);
+    EXPECT_EQ(run("ls -a / /tmp").output, listed);
 }
 
 TEST_F(TaluxStore, PatternsAndLongWordsTakeNoTime) {
