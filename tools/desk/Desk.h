@@ -2,17 +2,14 @@
 #ifndef TALUX_DESK_DESK_H
 #define TALUX_DESK_DESK_H
 
-#include <functional>
 #include <memory>
-#include <string>
 
 #include "tools/desk/Outputs.h"
+#include "tools/desk/Replay.h"
 #include "tools/desk/Scenario.h"
 #include "tools/desk/Statistics.h"
 
 namespace desk {
-
-inline constexpr double kCycle = 0.02; // seconds
 
 // All that one cycle publishes.
 struct Cycle {
@@ -25,23 +22,10 @@ struct Cycle {
     talux::MessRecord02 second_record{};
 };
 
-// Where samples come from while a recording is replayed.
-class Recording {
-public:
-    Recording() = default;
-    Recording(const Recording&) = delete;
-    Recording& operator=(const Recording&) = delete;
-    virtual ~Recording() = default;
-
-    // The sample at `second` of the recording; false after its end.
-    virtual bool at(double second, Sample& sample) = 0;
-};
-using OpenRecording = std::function<std::unique_ptr<Recording>(const std::string& path)>;
-
 // Carries out the events of a scenario. Needs no store: the settings are given.
 class Desk {
 public:
-    Desk(const Scenario& scenario, OpenRecording recordings);
+    explicit Desk(const Scenario& scenario) : script(scenario), network(scenario.grid, scenario.load) {}
 
     // The next cycle; false when the scenario has ended. While the program "restarts", nothing is published:
     // isDown().
@@ -55,7 +39,6 @@ public:
 
 private:
     const Scenario& script;
-    OpenRecording open;
     Network network;
     Detection detection;
     std::bitset<kInputs> inputs;
@@ -69,8 +52,6 @@ private:
     double recordingSince = 0;
 
     void carryOut(const Event& event);
-    void carryOut(const Rewire& change);
-    void carryOut(const Swap& change);
     void strikeAgain();
     Sample sample();
 };

@@ -2,16 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
+#include <optional>
 #include <utility>
 
 namespace desk {
 
 namespace {
 
-using talux::Setting, talux::Settings;
-
-constexpr double kPeriod = 0.02; // of the network, which the settings count cycles in
+using talux::Series, talux::Setting, talux::Settings;
 
 // The part of the residual current in phase with the voltage that drives the fault, -U0, and the part that
 // leads it by 90 degrees, in A.
@@ -62,26 +60,27 @@ Direction cosSin(const View& view) {
     return isBetween(angle, min + 180, max + 180) ? Direction::backward : Direction::none;
 }
 
-// Sign of the angle between voltage and current; the limit angle keeps away from active current.
-Direction ofHarmonic(const View& view, const Harmonic& each, double minPercent, double minAmpere,
-                     double angle) {
-    const bool isLarge = each.voltage >= minPercent / 100 * view.nominal && each.current >= minAmpere;
-    if (!view.isEarthFault || !isLarge ||
-        std::abs(std::sin(each.degrees * std::numbers::pi / 180)) < std::sin(angle * std::numbers::pi / 180))
+// Whether there is an earth fault with enough of a harmonic.
+bool isLarge(const View& view, const Harmonic& harmonic, double minPercent, double minAmpere) {
+    return view.isEarthFault && harmonic.voltage >= minPercent / 100 * view.nominal &&
+           harmonic.current >= minAmpere;
+}
+
+// Sign of the angle between voltage and current; the limit angle keeps away from active current. 0: of 250
+// Hz, 1: of the settable frequency.
+template <std::size_t number>
+Direction harmonic(const View& view) {
+    static constexpr struct {
+        Setting<float> voltage, current, angle;
+    } kSettings[] = {{{"harm1_Umin"}, {"harm1_Ice"}, {"harm1_angle"}},
+                     {{"harm2_Umin"}, {"harm2_Ice"}, {"harm2_angle"}}};
+    const auto& [voltage, current, angle] = kSettings[number];
+    const auto& s = view.settings;
+    const Harmonic& each = view.harmonics[number];
+    const auto sine = [](double degrees) { return turn(degrees).imag(); };
+    if (!isLarge(view, each, s[voltage], s[current]) || std::abs(sine(each.degrees)) < sine(s[angle]))
         return Direction::none;
     return each.degrees > 0 ? Direction::forward : Direction::backward;
-}
-
-Direction fifth(const View& view) {
-    static constexpr Setting<float> kVoltage{"harm1_Umin"}, kCurrent{"harm1_Ice"}, kAngle{"harm1_angle"};
-    const auto& s = view.settings;
-    return ofHarmonic(view, view.harmonics[0], s[kVoltage], s[kCurrent], s[kAngle]);
-}
-
-Direction settableHarmonic(const View& view) {
-    static constexpr Setting<float> kVoltage{"harm2_Umin"}, kCurrent{"harm2_Ice"}, kAngle{"harm2_angle"};
-    const auto& s = view.settings;
-    return ofHarmonic(view, view.harmonics[1], s[kVoltage], s[kCurrent], s[kAngle]);
 }
 
 // Of the upper frequency of fx2: the angle of Y0 against the two ranges, the backward one first.
@@ -91,11 +90,9 @@ Direction admittance(const View& view) {
         kBackwardMax{"adm_Phi_BW_max"};
     const auto& s = view.settings;
     const Harmonic& each = view.harmonics[3];
-    const bool isLarge = each.voltage >= s[kVoltage] / 100.0 * view.nominal && each.current >= s[kCurrent];
-    if (!view.isEarthFault || !isLarge) return Direction::none;
-    const double angle = -each.degrees;
-    if (isBetween(angle, s[kBackwardMin], s[kBackwardMax])) return Direction::backward;
-    return isBetween(angle, s[kForwardMin], s[kForwardMax]) ? Direction::forward : Direction::none;
+    if (!isLarge(view, each, s[kVoltage], s[kCurrent])) return Direction::none;
+    if (isBetween(-each.degrees, s[kBackwardMin], s[kBackwardMax])) return Direction::backward;
+    return isBetween(-each.degrees, s[kForwardMin], s[kForwardMax]) ? Direction::forward : Direction::none;
 }
 
 Direction transientOf(const View& view) {
@@ -105,179 +102,99 @@ Direction restrikingOf(const View& view) {
     return view.restriking;
 }
 
-constexpr Setting<std::int32_t> kNoCycles{"qui_n"}; // stands where a method counts no cycles
-
-// Everything that belongs to a method with a direction; a setting that it does not have is that of another
-// one.
+// Everything that belongs to a method with a direction.
 struct Method {
-    Setting<bool> active;
-    Direction (*decide)(const View& view);
-    bool hasDelay;
-    Setting<float> delay, duration, ledDuration;
-    bool hasCycles;
-    Setting<std::int32_t> cycles;
     std::size_t forward; // output function; the next one is backward
     int priority;        // number in prio_list_..; 0: not in it
+    Direction (*decide)(const View& view);
+    Setting<bool> active;
+    Setting<float> duration, ledDuration;
+    std::optional<Setting<float>> delay;
+    std::optional<Setting<std::int32_t>> cycles;
+
+    consteval Method(std::size_t function, int number, Direction (*decision)(const View&),
+                     const char* activity, const char* signal, const char* ledSignal,
+                     const char* delayName = nullptr, const char* cyclesName = nullptr)
+        : forward(function), priority(number), decide(decision), active(activity), duration(signal),
+          ledDuration(ledSignal) {
+        if (delayName != nullptr) delay = Setting<float>(delayName);
+        if (cyclesName != nullptr) cycles = Setting<std::int32_t>(cyclesName);
+    }
 };
 constexpr Method kTable[] = {
-    {{"qu2_active"},
-     transientOf,
-     false,
-     {"qu2_SigDur"},
-     {"qu2_SigDur"},
-     {"qu2_SigDur_LED"},
-     false,
-     kNoCycles,
-     28,
-     2},
-    {{"qu2_DE_active"},
-     transientOf,
-     true,
-     {"DE_t"},
-     {"qu2_SigDur"},
-     {"qu2_SigDur_LED"},
-     false,
-     kNoCycles,
-     30,
-     3},
-    {{"qui_active"},
-     restrikingOf,
-     false,
-     {"qui_SigDur"},
-     {"qui_SigDur"},
-     {"qui_SigDur_LED"},
-     false,
-     kNoCycles,
-     32,
-     4},
-    {{"harm1_active"},
-     fifth,
-     true,
-     {"harm1_SigDel"},
-     {"harm1_SigDur"},
-     {"harm1_SigDur_LED"},
-     true,
-     {"harm1_cycle"},
-     40,
-     5},
-    {{"harm2_active"},
-     settableHarmonic,
-     true,
-     {"harm2_SigDel"},
-     {"harm2_SigDur"},
-     {"harm2_SigDur_LED"},
-     true,
-     {"harm2_cycle"},
-     42,
-     6},
-    {{"cos_active"},
-     cosPhi,
-     true,
-     {"cos_SigDel"},
-     {"cos_SigDur"},
-     {"cos_SigDur_LED"},
-     true,
-     {"cos_cycle"},
-     34,
-     8},
-    {{"sin_active"},
-     sinPhi,
-     true,
-     {"sin_SigDel"},
-     {"sin_SigDur"},
-     {"sin_SigDur_LED"},
-     true,
-     {"sin_cycle"},
-     36,
-     9},
-    {{"cos_sin_active"},
-     cosSin,
-     true,
-     {"cos_sin_SigDel"},
-     {"cos_sin_SigDur"},
-     {"cos_sin_SigDur_LED"},
-     true,
-     {"cos_sin_cycle"},
-     38,
-     0},
-    {{"adm_active"},
-     admittance,
-     true,
-     {"adm_T_delay"},
-     {"adm_T_hold"},
-     {"adm_T_hold_LED"},
-     true,
-     {"adm_N_cycles"},
-     85,
-     0},
+    {28, 2, transientOf, "qu2_active", "qu2_SigDur", "qu2_SigDur_LED"},
+    {30, 3, transientOf, "qu2_DE_active", "qu2_SigDur", "qu2_SigDur_LED", "DE_t"},
+    {32, 4, restrikingOf, "qui_active", "qui_SigDur", "qui_SigDur_LED"},
+    {40, 5, harmonic<0>, "harm1_active", "harm1_SigDur", "harm1_SigDur_LED", "harm1_SigDel", "harm1_cycle"},
+    {42, 6, harmonic<1>, "harm2_active", "harm2_SigDur", "harm2_SigDur_LED", "harm2_SigDel", "harm2_cycle"},
+    {34, 8, cosPhi, "cos_active", "cos_SigDur", "cos_SigDur_LED", "cos_SigDel", "cos_cycle"},
+    {36, 9, sinPhi, "sin_active", "sin_SigDur", "sin_SigDur_LED", "sin_SigDel", "sin_cycle"},
+    {38, 0, cosSin, "cos_sin_active", "cos_sin_SigDur", "cos_sin_SigDur_LED", "cos_sin_SigDel",
+     "cos_sin_cycle"},
+    {85, 0, admittance, "adm_active", "adm_T_hold", "adm_T_hold_LED", "adm_T_delay", "adm_N_cycles"},
 };
-static_assert(std::size(kTable) == kMethods);
 
 } // namespace
 
-bool Signal::step(bool decided, double cycle, double delay, double duration) {
-    lastsFor -= cycle;
-    decidedFor = decided ? decidedFor + cycle : 0;
-    const bool starts = decided && decidedFor >= delay && decidedFor - cycle < std::max(delay, cycle);
-    if (starts) lastsFor = std::max(lastsFor, duration);
-    return (decided && decidedFor >= delay) || lastsFor > cycle / 2;
+bool Signal::step(bool decided, double delay, double duration) {
+    lastsFor -= kCycle;
+    decidedFor = decided ? decidedFor + kCycle : 0;
+    const bool isOn = decided && decidedFor >= delay;
+    if (isOn && decidedFor - kCycle < std::max(delay, kCycle)) lastsFor = std::max(lastsFor, duration);
+    return isOn || lastsFor > kCycle / 2;
 }
 
 void Detection::acknowledge() {
-    for (MethodState& method : methods) {
-        method.relay.release();
-        method.led.release();
-    }
-    for (std::size_t k = 0; k < voltageDelayed.size(); ++k) {
-        voltageDelayed[k].release();
-        for (Signal& signal : phaseDelayed[k])
+    for (Side& side : sides)
+        for (Signal& signal : side.signals)
             signal.release();
-    }
-    for (auto& ofClass : overcurrent)
-        for (Signal& signal : ofClass)
-            signal.release();
-    for (Signal& signal : frequency)
-        signal.release();
 }
 
-void Detection::set(std::size_t function, bool relay, bool led) {
-    forRelays[function] = relay;
-    forLeds[function] = led;
+void Detection::set(std::size_t function, bool on) {
+    for (Side& side : sides)
+        side.functions[function] = on;
+}
+
+// What relays signal then.
+bool Detection::signal(std::size_t function, bool decided, double delay, const Durations& durations) {
+    for (std::size_t k = 0; k < kSides; ++k)
+        sides[k].functions[function] = sides[k].signals[function].step(decided, delay, durations[k]);
+    return relays()[function];
 }
 
 bool Detection::isShortCircuit() const {
-    return forRelays[57] || forRelays[61] || forRelays[87];
+    return relays()[57] || relays()[61] || relays()[87];
 }
 
 void Detection::step(const Phasors& phasors, const Harmonics& harmonics, const std::vector<Onset>& onsets,
-                     const Settings& settings, double cycle) {
+                     const Settings& settings) {
     static constexpr Setting<float> kThreshold{"Uearth"};
-    time += cycle;
+    time += kCycle;
     const double nominal = phaseVoltageOf(settings);
     const bool wasEarthFault = std::exchange(earthFault, std::abs(phasors.primaryVoltage[0]) >=
                                                              settings[kThreshold] / 100.0 * nominal);
     if (wasEarthFault && !earthFault) transient = Direction::none;
-    View view{phasors, harmonics, settings, nominal, earthFault, transient, Direction::none};
-    observe(onsets, view);
-    view.transient = earthFault ? transient : Direction::none;
-    view.restriking = restriking(settings);
-    voltages(view, cycle);
-    directions(view, cycle);
+    observe(onsets, settings);
+    const Direction charge = earthFault ? transient : Direction::none;
+    const View view{phasors, harmonics, settings, nominal, earthFault, charge, restriking(settings)};
+    voltages(view);
+    for (std::size_t k = 0; k < kMethods; ++k)
+        decide(k, view);
     combine(settings);
-    shortCircuits(view, cycle);
-    frequencies(view, cycle);
+    shortCircuits(view);
+    frequencies(view);
 }
 
 // The first charge of an earth fault sets the direction of the transient method; every one is an ignition.
-void Detection::observe(const std::vector<Onset>& onsets, const View& view) {
+void Detection::observe(const std::vector<Onset>& onsets, const Settings& settings) {
     static constexpr Setting<float> kTransient{"qu2_Ice"}, kRestriking{"qui_Ice"};
     for (const Onset& onset : onsets) {
         const Direction direction = onset.forward ? Direction::forward : Direction::backward;
-        if (onset.ampere >= view.settings[kTransient] && transient == Direction::none) {
+        if (onset.ampere >= settings[kTransient] && transient == Direction::none) {
             transient = direction;
             ++transientCount;
         }
-        if (onset.ampere >= view.settings[kRestriking]) ignitions.emplace_back(time, direction);
+        if (onset.ampere >= settings[kRestriking]) ignitions.emplace_back(time, direction);
     }
 }
 
@@ -291,123 +208,110 @@ Direction Detection::restriking(const Settings& settings) {
 }
 
 // 5 to 7 healthy phases, 16 and 17 the earth fault, 18 to 23 the faulty phase, at once and delayed.
-void Detection::voltages(const View& view, double cycle) {
+void Detection::voltages(const View& view) {
     static constexpr Setting<float> kOk{"U123ok"}, kFaulty{"U123erd"}, kDelay{"Uearth_SigDel"},
         kDuration{"Uearth_SigDur"}, kLedDuration{"Uearth_SigDur_LED"};
-    const double delay = view.settings[kDelay];
-    const double durations[] = {view.settings[kDuration], view.settings[kLedDuration]};
+    const auto& s = view.settings;
+    const Durations durations{s[kDuration], s[kLedDuration]};
     std::array<bool, kPhases> ok{}, low{};
     for (std::size_t k = 0; k < kPhases; ++k) {
         const double percent = std::abs(view.phasors.primaryVoltage[k + 1]) / view.nominal * 100;
-        ok[k] = percent >= view.settings[kOk];
-        low[k] = percent <= view.settings[kFaulty];
-        set(5 + k, ok[k], ok[k]);
+        ok[k] = percent >= s[kOk];
+        low[k] = percent <= s[kFaulty];
+        set(5 + k, ok[k]);
     }
-    set(16, earthFault, earthFault);
-    set(17, voltageDelayed[0].step(earthFault, cycle, delay, durations[0]),
-        voltageDelayed[1].step(earthFault, cycle, delay, durations[1]));
+    set(16, earthFault);
+    signal(17, earthFault, s[kDelay], durations);
     for (std::size_t k = 0; k < kPhases; ++k) {
         const bool faulty = earthFault && low[k] && ok[(k + 1) % 3] && ok[(k + 2) % 3];
-        set(18 + k, faulty, faulty);
-        set(21 + k, phaseDelayed[0][k].step(faulty, cycle, delay, durations[0]),
-            phaseDelayed[1][k].step(faulty, cycle, delay, durations[1]));
+        set(18 + k, faulty);
+        signal(21 + k, faulty, s[kDelay], durations);
     }
 }
 
-void Detection::directions(const View& view, double cycle) {
-    for (std::size_t k = 0; k < std::size(kTable); ++k) {
-        const Method& method = kTable[k];
-        MethodState& state = methods[k];
-        if (!view.isEarthFault) state.kept = Direction::none;
-        Direction decision = view.settings[method.active] ? method.decide(view) : Direction::none;
-        // After the fault has gone, U0 decays and the feeder's own current looks like a backward fault.
-        if (state.kept != Direction::none) decision = state.kept;
-        const bool turned =
-            decision != Direction::none && state.decided != Direction::none && decision != state.decided;
-        if (turned) state.relay = state.led = Signal();
-        state.decided = decision;
-        const double delay = (method.hasDelay ? view.settings[method.delay] : 0.0F) +
-                             (method.hasCycles ? kPeriod * view.settings[method.cycles] : 0.0);
-        const bool decided = decision != Direction::none;
-        const bool relay = state.relay.step(decided, cycle, delay, view.settings[method.duration]);
-        const bool led = state.led.step(decided, cycle, delay, view.settings[method.ledDuration]);
-        if (decided && relay) state.relayDirection = state.kept = decision;
-        if (decided && led) state.ledDirection = decision;
-        for (const Direction each : {Direction::forward, Direction::backward})
-            set(method.forward + (each == Direction::backward ? 1 : 0), relay && state.relayDirection == each,
-                led && state.ledDirection == each);
+void Detection::decide(std::size_t number, const View& view) {
+    static_assert(std::size(kTable) == kMethods);
+    const Method& method = kTable[number];
+    const auto& s = view.settings;
+    auto& [last, kept] = methods[number];
+    if (!view.isEarthFault) kept = Direction::none;
+    Direction decision = s[method.active] ? method.decide(view) : Direction::none;
+    // After the fault has gone, U0 decays and the feeder's own current looks like a backward fault.
+    if (kept != Direction::none) decision = kept;
+    const bool decided = decision != Direction::none;
+    const Direction before = std::exchange(last, decision);
+    if (decided && before != Direction::none && before != decision)
+        for (Side& side : sides)
+            side.signals[method.forward] = Signal();
+    const double delay =
+        (method.delay ? s[*method.delay] : 0.0F) + (method.cycles ? kCycle * s[*method.cycles] : 0.0);
+    const bool onRelay = signal(method.forward, decided, delay, {s[method.duration], s[method.ledDuration]});
+    if (decided && onRelay) kept = decision;
+    for (Side& side : sides) {
+        const bool on = side.functions[method.forward];
+        Direction& signalled = side.directions[number];
+        if (decided && on) signalled = decision;
+        side.functions[method.forward] = on && signalled == Direction::forward;
+        side.functions[method.forward + 1] = on && signalled == Direction::backward;
     }
 }
 
 // 24 and 25: any method; 26 and 27: the first place of the priority list whose method signals.
 void Detection::combine(const Settings& settings) {
-    static constexpr Setting<talux::Choice> kPlaces[] = {
-        {"prio_list_1"}, {"prio_list_2"}, {"prio_list_3"}, {"prio_list_4"}, {"prio_list_5"},
-        {"prio_list_6"}, {"prio_list_7"}, {"prio_list_8"}, {"prio_list_9"}, {"prio_list_10"}};
-    const auto anyOf = [](const Functions& functions, std::size_t plus) {
-        return std::any_of(std::begin(kTable), std::end(kTable),
-                           [&](const Method& method) { return functions[method.forward + plus]; });
-    };
-    const auto first = [&settings](const Functions& functions) {
-        for (const auto& place : kPlaces)
+    static constexpr Series<talux::Choice> kPlaces{"prio_list_"};
+    for (Side& side : sides) {
+        Functions& on = side.functions;
+        for (std::size_t plus = 0; plus < 2; ++plus) {
+            on[24 + plus] =
+                std::ranges::any_of(kTable, [&](const Method& method) { return on[method.forward + plus]; });
+            on[26 + plus] = false;
+        }
+        for (int place = 1; place <= kPlaces.size() && !on[26] && !on[27]; ++place)
             for (const Method& method : kTable)
-                if (method.priority != 0 && static_cast<int>(settings[place]) == method.priority)
+                if (method.priority != 0 && method.priority == static_cast<int>(settings[kPlaces[place]]))
                     for (std::size_t plus = 0; plus < 2; ++plus)
-                        if (functions[method.forward + plus]) return plus;
-        return std::size_t{2};
-    };
-    const std::size_t relay = first(forRelays), led = first(forLeds);
-    for (std::size_t plus = 0; plus < 2; ++plus) {
-        set(24 + plus, anyOf(forRelays, plus), anyOf(forLeds, plus));
-        set(26 + plus, relay == plus, led == plus);
+                        on[26 + plus] = on[method.forward + plus];
     }
 }
 
 // 57 to 64 without direction, 8 more forward, 16 more backward; 87 to 89 of the earth current.
-void Detection::shortCircuits(const View& view, double cycle) {
+void Detection::shortCircuits(const View& view) {
     static constexpr Setting<bool> kActive{"sc_active"}, kDirectional{"sc_dir_active"};
     static constexpr struct {
         Setting<bool> active;
         Setting<float> min, time;
-        std::size_t function;
-    } kClasses[] = {{{"sc_class_1_active"}, {"sc_I_min_1"}, {"sc_T_min_1"}, 57},
-                    {{"sc_class_2_active"}, {"sc_I_min_2"}, {"sc_T_min_2"}, 61},
-                    {{"sc_class_E_active"}, {"sc_I_min_E"}, {"sc_T_min_E"}, 87}};
+        std::size_t function, step, firstPhase, lastPhase;
+    } kClasses[] = {{{"sc_class_1_active"}, {"sc_I_min_1"}, {"sc_T_min_1"}, 57, 8, 1, 3},
+                    {{"sc_class_2_active"}, {"sc_I_min_2"}, {"sc_T_min_2"}, 61, 8, 1, 3},
+                    {{"sc_class_E_active"}, {"sc_I_min_E"}, {"sc_T_min_E"}, 87, 1, 0, 0}};
     static constexpr Setting<float> kDuration{"sc_SigDur"}, kForwardMin{"sc_Phi_min_fwd"},
         kForwardMax{"sc_Phi_max_fwd"}, kBackwardMin{"sc_Phi_min_bwd"}, kBackwardMax{"sc_Phi_max_bwd"};
     const auto& s = view.settings;
-    const auto ofPhase = [&](std::size_t k, double min, double max) {
-        const auto& u = view.phasors.primaryVoltage[k];
+    const auto isOfPhase = [&](std::size_t k, double min, double max) {
         const auto& i = view.phasors.primaryCurrent[k];
-        return i != Phasor{} && isBetween(degrees(u * std::conj(i)), min, max);
+        return i != Phasor{} && isBetween(angleBetween(view.phasors.primaryVoltage[k], i), min, max);
     };
-    for (std::size_t c = 0; c < 3; ++c) {
-        const auto& each = kClasses[c];
-        const bool isEarth = c == 2;
-        const std::size_t backward = isEarth ? 2 : 16, forward = isEarth ? 1 : 8;
+    for (const auto& each : kClasses) {
         std::array<bool, 3> any{};
-        for (std::size_t k = isEarth ? 0 : 1; k < (isEarth ? 1U : 4U); ++k) {
+        for (std::size_t k = each.firstPhase; k <= each.lastPhase; ++k) {
             const double ampere = std::abs(view.phasors.primaryCurrent[k]);
             const bool decided = s[kActive] && s[each.active] && ampere >= s[each.min];
-            const bool on = overcurrent[c][k].step(decided, cycle, s[each.time], s[kDuration]);
+            const bool on = signal(each.function + k, decided, s[each.time], {s[kDuration], s[kDuration]});
             const bool directed = on && decided && s[kDirectional];
-            const std::array<bool, 3> now{on, directed && ofPhase(k, s[kForwardMin], s[kForwardMax]),
-                                          directed && ofPhase(k, s[kBackwardMin], s[kBackwardMax])};
-            for (std::size_t way = 0; way < 3; ++way)
+            const std::array<bool, 3> now{on, directed && isOfPhase(k, s[kForwardMin], s[kForwardMax]),
+                                          directed && isOfPhase(k, s[kBackwardMin], s[kBackwardMax])};
+            for (std::size_t way = 0; way < now.size(); ++way) {
+                set(each.function + way * each.step + k, now[way]);
                 any[way] = any[way] || now[way];
-            if (isEarth) continue;
-            set(each.function + k, now[0], now[0]);
-            set(each.function + forward + k, now[1], now[1]);
-            set(each.function + backward + k, now[2], now[2]);
+            }
         }
-        set(each.function, any[0], any[0]);
-        set(each.function + forward, any[1], any[1]);
-        set(each.function + backward, any[2], any[2]);
+        for (std::size_t way = 0; way < any.size(); ++way)
+            set(each.function + way * each.step, any[way]);
     }
 }
 
 // 82 too low, 83 too high, 84 either.
-void Detection::frequencies(const View& view, double cycle) {
+void Detection::frequencies(const View& view) {
     static constexpr Setting<bool> kActive{"freq_active"};
     static constexpr Setting<float> kReference{"freq_f_grid"}, kBelow{"freq_df_min"}, kAbove{"freq_df_max"},
         kDelay{"freq_T_delay"}, kHold{"freq_T_hold"};
@@ -416,10 +320,8 @@ void Detection::frequencies(const View& view, double cycle) {
     const double deviation = view.phasors.frequency - s[kReference];
     const bool low = s[kActive] && deviation <= -s[kBelow], high = s[kActive] && deviation >= s[kAbove];
     const bool decided[] = {low, high, low || high};
-    for (std::size_t k = 0; k < 3; ++k) {
-        const bool on = frequency[k].step(decided[k], cycle, s[kDelay] + kPeriod * s[kCycles], s[kHold]);
-        set(82 + k, on, on);
-    }
+    for (std::size_t k = 0; k < std::size(decided); ++k)
+        signal(82 + k, decided[k], s[kDelay] + kCycle * s[kCycles], {s[kHold], s[kHold]});
 }
 
 } // namespace desk

@@ -34,7 +34,7 @@ struct View {
 class Signal {
 public:
     // One cycle; the signal after it.
-    bool step(bool decided, double cycle, double delay, double duration);
+    bool step(bool decided, double delay, double duration);
 
     // Ends it unless it is still decided.
     void release() { lastsFor = 0; }
@@ -43,50 +43,53 @@ private:
     double decidedFor = 0, lastsFor = 0;
 };
 
-inline constexpr std::size_t kMethods = 9;
-
 class Detection {
 public:
     void step(const Phasors& phasors, const Harmonics& harmonics, const std::vector<Onset>& onsets,
-              const talux::Settings& settings, double cycle);
+              const talux::Settings& settings);
 
     // Ends all signals that last only for their duration.
     void acknowledge();
 
-    [[nodiscard]] const Functions& relays() const { return forRelays; }
-    [[nodiscard]] const Functions& leds() const { return forLeds; }
+    [[nodiscard]] const Functions& relays() const { return sides[kRelaySide].functions; }
+    [[nodiscard]] const Functions& leds() const { return sides[kLedSide].functions; }
     [[nodiscard]] bool isEarthFault() const { return earthFault; }
     [[nodiscard]] bool isShortCircuit() const;
     [[nodiscard]] int transients() const { return transientCount; } // since the start
 
 private:
+    static constexpr std::size_t kMethods = 9;
+
+    // Relays and LEDs signal the same decisions for durations of their own.
+    enum : unsigned char { kRelaySide, kLedSide, kSides };
+    using Durations = std::array<double, kSides>;
+    struct Side {
+        Functions functions;
+        std::array<Signal, kFunctions + 1> signals;
+        std::array<Direction, kMethods> directions{}; // signalled last
+    };
     struct MethodState {
         Direction decided = Direction::none;
         Direction kept = Direction::none; // what it has signalled in this earth fault
-        Signal relay, led;
-        Direction relayDirection = Direction::none, ledDirection = Direction::none;
     };
 
-    Functions forRelays, forLeds;
+    std::array<Side, kSides> sides;
+    std::array<MethodState, kMethods> methods;
     double time = 0;
     bool earthFault = false;
     Direction transient = Direction::none;
     std::deque<std::pair<double, Direction>> ignitions; // when, and where
     int transientCount = 0;
-    std::array<MethodState, kMethods> methods;
-    std::array<Signal, 2> voltageDelayed; // for relays, for LEDs
-    std::array<std::array<Signal, kPhases>, 2> phaseDelayed;
-    std::array<std::array<Signal, 4>, 3> overcurrent; // classes 1, 2, E; any phase, L1 to L3
-    std::array<Signal, 3> frequency;
 
-    void set(std::size_t function, bool relay, bool led);
-    void observe(const std::vector<Onset>& onsets, const View& view);
+    void set(std::size_t function, bool on);
+    bool signal(std::size_t function, bool decided, double delay, const Durations& durations);
+    void observe(const std::vector<Onset>& onsets, const talux::Settings& settings);
     Direction restriking(const talux::Settings& settings);
-    void voltages(const View& view, double cycle);
-    void directions(const View& view, double cycle);
+    void voltages(const View& view);
+    void decide(std::size_t number, const View& view);
     void combine(const talux::Settings& settings);
-    void shortCircuits(const View& view, double cycle);
-    void frequencies(const View& view, double cycle);
+    void shortCircuits(const View& view);
+    void frequencies(const View& view);
 };
 
 } // namespace desk

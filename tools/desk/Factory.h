@@ -6,10 +6,13 @@
 
 namespace desk {
 
-stVarSpace factorySpace();
-
-inline talux::Settings factorySettings() {
-    return talux::Settings(factorySpace());
+// For programs that do not attach the store: its temporary space is in their own memory then.
+inline const stVarSpace& factorySpace() {
+    static stVarSpace space{};
+    LoadDefParamProperties();
+    pVarTemp = &space;
+    VarSetDefault();
+    return space;
 }
 
 } // namespace desk

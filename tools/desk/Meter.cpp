@@ -1,5 +1,6 @@
 #include "tools/desk/Meter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -7,7 +8,7 @@ namespace desk {
 
 namespace {
 
-using talux::Choice, talux::Measured, talux::MessRecord01, talux::Setting, talux::Settings;
+using talux::Measured, talux::MessRecord01, talux::Setting, talux::Settings;
 
 // One analog input and its settings.
 struct Channel {
@@ -34,14 +35,15 @@ Phasor corrected(const Phasor& secondary, const Channel& channel, const Settings
     return std::polar(sign, settings[channel.correction] * std::numbers::pi / 180) * secondary;
 }
 
-float single(double value) {
-    return static_cast<float>(value);
+// Of the phases L1, L2, L3 and again L1.
+Phasor toNextPhase(const Four& voltage, std::size_t k) {
+    return voltage[k] - voltage[k % kPhases + 1];
 }
 
 } // namespace
 
-double degrees(const Phasor& phasor) {
-    return std::arg(phasor) * 180 / std::numbers::pi;
+double angleBetween(const Phasor& voltage, const Phasor& current) {
+    return current == Phasor{} ? 0 : degrees(voltage * std::conj(current));
 }
 
 double phaseVoltageOf(const Settings& settings) {
@@ -63,8 +65,8 @@ Phasors correct(const Sample& sample, double kilovolt, const Settings& settings)
     }
     auto& u = result.primaryVoltage;
     auto& i = result.primaryCurrent;
-    if (settings[kVoltageSum]) u[0] = (u[1] + u[2] + u[3]) / 3.0;
-    if (settings[kCurrentSum]) i[0] = i[1] + i[2] + i[3];
+    if (settings[kVoltageSum]) u[0] = sumOfPhases(u) / 3.0;
+    if (settings[kCurrentSum]) i[0] = sumOfPhases(i);
     return result;
 }
 
@@ -86,102 +88,71 @@ Harmonics harmonicsOf(const Phasors& phasors, const Network& network, const Sett
 }
 
 Values valuesOf(const Phasors& phasors, const Harmonics& harmonics) {
-    const auto& [u0, u1, u2, u3] = phasors.primaryVoltage;
-    const auto& [i0, i1, i2, i3] = phasors.primaryCurrent;
-    const auto& [v0, v1, v2, v3] = phasors.secondaryVoltage;
-    const auto& [a0, a1, a2, a3] = phasors.secondaryCurrent;
-    const Phasor s0 = u0 * std::conj(i0), s1 = u1 * std::conj(i1), s2 = u2 * std::conj(i2),
-                 s3 = u3 * std::conj(i3), s = s1 + s2 + s3;
-    const auto between = [](const Phasor& u, const Phasor& i) {
-        return i == Phasor{} ? 0 : degrees(u * std::conj(i));
-    };
-    const double apparent = std::abs(s);
+    const auto& [u, i, us, is, hertz] = phasors;
     Values values{};
-    const auto put = [&values](Measured<float> value, double number) {
-        values[static_cast<std::size_t>(value.id() - kFirstValue.id())] = single(number);
+    const auto put = [&values](Measured<float> first, std::size_t number, double value) {
+        values[positionOf(first) + number] = static_cast<float>(value);
     };
-    const struct {
-        Measured<float> first;
-        std::array<double, 4> numbers; // 1 to 3, then 0
-    } fours[] = {
-        {{"U1_prim"}, {std::abs(u1), std::abs(u2), std::abs(u3), std::abs(u0)}},
-        {{"I1_prim"}, {std::abs(i1), std::abs(i2), std::abs(i3), std::abs(i0)}},
-        {{"phiUI1"}, {between(u1, i1), between(u2, i2), between(u3, i3), between(u0, i0)}},
-        {{"U1"}, {std::abs(v1), std::abs(v2), std::abs(v3), std::abs(v0)}},
-        {{"I1"}, {std::abs(a1), std::abs(a2), std::abs(a3), std::abs(a0)}},
-        {{"S1_prim"}, {std::abs(s1), std::abs(s2), std::abs(s3), std::abs(s0)}},
-        {{"P1_prim"}, {s1.real(), s2.real(), s3.real(), s0.real()}},
-        {{"Q1_prim"}, {s1.imag(), s2.imag(), s3.imag(), s0.imag()}},
-        {{"S_prim"}, {apparent, s.real(), s.imag(), apparent == 0 ? 0 : s.real() / apparent}},
-    };
-    for (const auto& [first, numbers] : fours)
-        for (int k = 0; k < 4; ++k)
-            values[static_cast<std::size_t>(first.id() - kFirstValue.id() + k)] =
-                single(numbers[static_cast<std::size_t>(k)]);
-    put({"U12_prim"}, std::abs(u1 - u2));
-    put({"U23_prim"}, std::abs(u2 - u3));
-    put({"U31_prim"}, std::abs(u3 - u1));
-    put({"U12_sec"}, std::abs(v1 - v2));
-    put({"U23_sec"}, std::abs(v2 - v3));
-    put({"U31_sec"}, std::abs(v3 - v1));
-    put({"I0earth_prim"}, std::abs(i0));
-    put({"f_grid"}, phasors.frequency);
-    static constexpr Measured<float> kFirstOf[kHarmonics] = {
-        {"U0_250_abs"}, {"U0_f1_abs"}, {"U0_f2_abs"}, {"U0_f3_abs"}};
-    for (std::size_t k = 0; k < kHarmonics; ++k) {
-        const auto first = static_cast<std::size_t>(kFirstOf[k].id() - kFirstValue.id());
-        const Harmonic& each = harmonics[k];
-        values[first] = single(each.voltage);
-        values[first + 1] = single(each.current);
-        values[first + 2] = each.voltage == 0 ? 0 : single(each.current / each.voltage); // mS
-        values[first + 3] = single(-each.degrees);
+    Four powers;
+    for (std::size_t k = 0; k < powers.size(); ++k) {
+        const std::size_t number = (k + 3) % 4; // among the parameters the residual value comes last
+        const Phasor& power = powers[k] = u[k] * std::conj(i[k]);
+        put({"U1_prim"}, number, std::abs(u[k]));
+        put({"I1_prim"}, number, std::abs(i[k]));
+        put({"phiUI1"}, number, angleBetween(u[k], i[k]));
+        put({"U1"}, number, std::abs(us[k]));
+        put({"I1"}, number, std::abs(is[k]));
+        put({"S1_prim"}, number, std::abs(power));
+        put({"P1_prim"}, number, power.real());
+        put({"Q1_prim"}, number, power.imag());
     }
+    for (std::size_t k = 0; k < kPhases; ++k) {
+        put({"U12_prim"}, k, std::abs(toNextPhase(u, k + 1)));
+        put({"U12_sec"}, k, std::abs(toNextPhase(us, k + 1)));
+    }
+    const Phasor total = sumOfPhases(powers);
+    const double apparent = std::abs(total);
+    put({"S_prim"}, 0, apparent);
+    put({"P_prim"}, 0, total.real());
+    put({"Q_prim"}, 0, total.imag());
+    put({"COSPHI"}, 0, apparent == 0 ? 0 : total.real() / apparent);
+    put({"I0earth_prim"}, 0, std::abs(i[0]));
+    for (std::size_t k = 0; k < kHarmonics; ++k) {
+        put({"U0_250_abs"}, 4 * k, harmonics[k].voltage);
+        put({"I0_250_abs"}, 4 * k, harmonics[k].current);
+        put({"Y0_250_abs"}, 4 * k, harmonics[k].admittance());
+        put({"Y0_250_phi"}, 4 * k, -harmonics[k].degrees);
+    }
+    put({"f_grid"}, 0, hertz);
     return values;
 }
 
+// In the order of the members U0p to f_grid.
 MessRecord01 recordOf(const Phasors& phasors, const Values& values) {
-    const auto value = [&values](Measured<float> which, int plus = 0) {
-        return values[static_cast<std::size_t>(which.id() - kFirstValue.id() + plus)];
+    static_assert(offsetof(MessRecord01, f_grid) - offsetof(MessRecord01, U0p) == 52 * sizeof(float));
+    static constexpr Measured<float> kAmplitudes[] = {{"I1_prim"}, {"U1"}, {"I1"}, {"phiUI1"}},
+                                     kPowers[] = {{"P1_prim"}, {"Q1_prim"}, {"S1_prim"}},
+                                     kTotals[] = {{"P_prim"}, {"Q_prim"}, {"S_prim"}, {"COSPHI"}, {"f_grid"}};
+    Floats members;
+    const auto addFour = [&](Measured<float> first) {
+        for (std::size_t k = 0; k < 4; ++k) // in the record the residual value comes first
+            members.add(values[positionOf(first) + (k + 3) % 4]);
     };
-    MessRecord01 record{};
-    // In the record the residual value comes first, among the parameters last.
-    using Member = float MessRecord01::*;
-    static constexpr struct {
-        Measured<float> first;
-        Member members[4];
-    } kFours[] = {
-        {{"U1_prim"}, {&MessRecord01::U0p, &MessRecord01::U1p, &MessRecord01::U2p, &MessRecord01::U3p}},
-        {{"I1_prim"}, {&MessRecord01::I0p, &MessRecord01::I1p, &MessRecord01::I2p, &MessRecord01::I3p}},
-        {{"U1"}, {&MessRecord01::U0s, &MessRecord01::U1s, &MessRecord01::U2s, &MessRecord01::U3s}},
-        {{"I1"}, {&MessRecord01::I0s, &MessRecord01::I1s, &MessRecord01::I2s, &MessRecord01::I3s}},
-        {{"phiUI1"}, {&MessRecord01::wUI0, &MessRecord01::wUI1, &MessRecord01::wUI2, &MessRecord01::wUI3}},
-        {{"P1_prim"}, {&MessRecord01::P0, &MessRecord01::P1, &MessRecord01::P2, &MessRecord01::P3}},
-        {{"Q1_prim"}, {&MessRecord01::Q0, &MessRecord01::Q1, &MessRecord01::Q2, &MessRecord01::Q3}},
-        {{"S1_prim"}, {&MessRecord01::S0, &MessRecord01::S1, &MessRecord01::S2, &MessRecord01::S3}},
-    };
-    for (const auto& [first, members] : kFours)
-        for (int k = 0; k < 4; ++k)
-            record.*members[k] = value(first, (k + 3) % 4);
-    static constexpr Member kAngles[] = {&MessRecord01::wU0, &MessRecord01::wU1, &MessRecord01::wU2,
-                                         &MessRecord01::wU3};
-    static constexpr Member kBetween[3][4] = {
-        {&MessRecord01::U12p_a, &MessRecord01::U12p_re, &MessRecord01::U12p_im, &MessRecord01::U12p_w},
-        {&MessRecord01::U23p_a, &MessRecord01::U23p_re, &MessRecord01::U23p_im, &MessRecord01::U23p_w},
-        {&MessRecord01::U31p_a, &MessRecord01::U31p_re, &MessRecord01::U31p_im, &MessRecord01::U31p_w}};
-    const auto& u = phasors.primaryVoltage;
-    for (std::size_t k = 0; k < 4; ++k)
-        record.*kAngles[k] = single(degrees(u[k]));
-    for (std::size_t k = 0; k < 3; ++k) {
-        const Phasor between = u[k + 1] - u[(k + 1) % 3 + 1];
-        const double numbers[] = {std::abs(between), between.real(), between.imag(), degrees(between)};
-        for (std::size_t each = 0; each < 4; ++each)
-            record.*kBetween[k][each] = single(numbers[each]);
+    const Four& u = phasors.primaryVoltage;
+    addFour({"U1_prim"});
+    for (const Phasor& each : u)
+        members.add(degrees(each));
+    std::ranges::for_each(kAmplitudes, addFour);
+    for (std::size_t k = 1; k <= kPhases; ++k) {
+        const Phasor between = toNextPhase(u, k);
+        for (const double each : {std::abs(between), between.real(), between.imag(), degrees(between)})
+            members.add(each);
     }
-    record.Pg = value({"P_prim"});
-    record.Qg = value({"Q_prim"});
-    record.Sg = value({"S_prim"});
-    record.cosphi = value({"COSPHI"});
-    record.f_grid = value({"f_grid"});
+    std::ranges::for_each(kPowers, addFour);
+    for (const Measured<float> each : kTotals)
+        members.add(values[positionOf(each)]);
+    MessRecord01 record{};
+    members.copyTo(record, offsetof(MessRecord01, U0p));
     return record;
 }
 

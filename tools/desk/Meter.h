@@ -14,10 +14,12 @@
 
 namespace desk {
 
-// Residual values first, as in the records: voltages in kV and V, currents in A.
+inline constexpr double kCycle = 0.02; // seconds; settings count in cycles, too
+
+// Voltages in kV and V, currents in A.
 struct Phasors {
-    std::array<Phasor, 4> primaryVoltage{}, primaryCurrent{};
-    std::array<Phasor, 4> secondaryVoltage{}, secondaryCurrent{};
+    Four primaryVoltage{}, primaryCurrent{};
+    Four secondaryVoltage{}, secondaryCurrent{};
     double frequency = 50;
 };
 
@@ -27,6 +29,8 @@ Phasors correct(const Sample& sample, double kilovolt, const talux::Settings& se
 struct Harmonic {
     double voltage = 0, current = 0; // kV, A
     double degrees = 0;              // of the voltage against the current
+
+    [[nodiscard]] double admittance() const { return voltage == 0 ? 0 : current / voltage; } // mS
 };
 
 // H 250, H fx1, the lower and the upper frequency of fx2.
@@ -43,10 +47,28 @@ inline constexpr talux::Measured<float> kFirstValue{"U1_prim"};
 inline constexpr std::size_t kValues = 68;
 using Values = std::array<float, kValues>;
 
+constexpr std::size_t positionOf(talux::Measured<float> value) {
+    return static_cast<std::size_t>(value.id() - kFirstValue.id());
+}
+
+// Values one after the other, as records and runs of parameters hold them.
+class Floats : public std::vector<float> {
+public:
+    void add(double value) { push_back(static_cast<float>(value)); }
+
+    // Into the members of a record, beginning `offset` bytes from its start.
+    template <class Record>
+    void copyTo(Record& record, std::size_t offset) const {
+        std::memcpy(reinterpret_cast<char*>(&record) + offset, data(), size() * sizeof(float));
+    }
+};
+
 Values valuesOf(const Phasors& phasors, const Harmonics& harmonics);
 talux::MessRecord01 recordOf(const Phasors& phasors, const Values& values);
 
-double degrees(const Phasor& phasor);
+// Of the apparent power, in degrees; 0 without a current.
+double angleBetween(const Phasor& voltage, const Phasor& current);
+
 double phaseVoltageOf(const talux::Settings& settings); // nominal, kV
 
 } // namespace desk

@@ -7,15 +7,22 @@
 
 namespace desk {
 
-namespace {
-
-constexpr Phasor kJ{0, 1};
-
 Phasor turn(double degrees) {
-    return std::polar(1.0, degrees * std::numbers::pi / 180.0);
+    return std::polar(1.0, degrees * std::numbers::pi / 180);
 }
 
-} // namespace
+double degrees(const Phasor& phasor) {
+    return std::arg(phasor) * 180 / std::numbers::pi;
+}
+
+Phasor sumOfPhases(const Four& four) {
+    return four[1] + four[2] + four[3];
+}
+
+void Sample::calculateResidual() {
+    voltage[0] = sumOfPhases(voltage) / 3.0;
+    current[0] = sumOfPhases(current);
+}
 
 Network::Network(const Grid& grid, const Load& connected) : constants(grid), feederLoad(connected) {}
 
@@ -23,8 +30,8 @@ double Network::phaseVoltage() const {
     return constants.kilovolt / std::numbers::sqrt3;
 }
 
-Phasor Network::source(int phase) const {
-    return phaseVoltage() * turn(-120.0 * phase);
+Phasor Network::source(std::size_t phase) const {
+    return phaseVoltage() * turn(-120.0 * static_cast<double>(phase));
 }
 
 // In ampere per kilovolt, so that a product with an ohm takes a thousandth.
@@ -101,67 +108,62 @@ double Network::random() {
     return randomState / 1073741823.5 - 1;
 }
 
-std::array<Phasor, kPhases> Network::voltages() const {
-    std::array<Phasor, kPhases> voltage{};
-    for (int k = 0; k < kPhases; ++k)
-        voltage[static_cast<std::size_t>(k)] =
-            source(k) * (1 + 0.04 * feederLoad.drift * std::sin(time / 7 + k)) + residual;
+Network::PerPhase Network::voltages() const {
+    PerPhase voltage{};
+    for (std::size_t k = 0; k < kPhases; ++k)
+        voltage[k] = source(k) * (1 + 0.04 * feederLoad.drift * std::sin(time / 7 + static_cast<double>(k))) +
+                     residual;
     for (const ShortCircuit& fault : shortCircuits) {
-        Phasor &from = voltage[static_cast<std::size_t>(fault.from)],
-               &to = voltage[static_cast<std::size_t>(fault.to)];
-        const Phasor drop = 0.2 * (from - to); // on either side
-        from -= drop;
-        to += drop;
+        const Phasor drop = 0.2 * (voltage[fault.from] - voltage[fault.to]); // on either side
+        voltage[fault.from] -= drop;
+        voltage[fault.to] += drop;
     }
     return voltage;
 }
 
-std::array<Phasor, kPhases> Network::currents(const std::array<Phasor, kPhases>& voltage) {
+Network::PerPhase Network::currents(const PerPhase& voltage) {
+    constexpr Phasor kJ{0, 1};
     const double drift = feederLoad.drift, lag = feederLoad.degrees * (1 + drift * std::sin(time / 13));
     const Phasor own = kJ * constants.own / phaseVoltage() / 3.0;
-    std::array<Phasor, kPhases> current{};
-    for (int k = 0; k < kPhases; ++k) {
-        const double unbalance = 0.02 * drift * std::sin(time / 5 + 2 * k);
+    PerPhase current{};
+    for (std::size_t k = 0; k < kPhases; ++k) {
+        const auto phase = static_cast<double>(k);
+        const double unbalance = 0.02 * drift * std::sin(time / 5 + 2 * phase);
         const double ampere = feederLoad.ampere * (1 + drift * std::sin(time / 11) + unbalance) *
                               (1 + feederLoad.noise * random());
-        const auto phase = static_cast<std::size_t>(k);
-        current[phase] = ampere * turn(-120.0 * k - lag) + own * voltage[phase];
+        current[k] = ampere * turn(-120 * phase - lag) + own * voltage[k];
     }
     for (const ShortCircuit& fault : shortCircuits) {
         if (!fault.forward) continue;
         const Phasor drive = source(fault.from) - source(fault.to);
         const Phasor ampere = fault.ampere * drive / std::abs(drive) * turn(-60);
-        current[static_cast<std::size_t>(fault.from)] += ampere;
-        current[static_cast<std::size_t>(fault.to)] -= ampere;
+        current[fault.from] += ampere;
+        current[fault.to] -= ampere;
     }
     for (const EarthFault& fault : earthFaults) {
         if (!fault.forward) continue;
         // A solid fault has no voltage left: its current is what the earth admittance takes.
-        const Phasor ampere = earthFaults.size() == 1
-                                  ? -earthAdmittance() * residual
-                                  : (source(fault.phase) + residual) * 1000.0 / faultOhm(fault);
-        current[static_cast<std::size_t>(fault.phase)] += ampere;
+        current[fault.phase] += earthFaults.size() == 1
+                                    ? -earthAdmittance() * residual
+                                    : (source(fault.phase) + residual) * 1000.0 / faultOhm(fault);
     }
     return current;
 }
 
 Sample Network::look() {
-    const auto voltage = voltages();
-    const auto current = currents(voltage);
+    const PerPhase voltage = voltages(), current = currents(voltage);
     Sample sample;
     for (std::size_t k = 0; k < kPhases; ++k) {
-        const auto from = static_cast<std::size_t>(connections.currentFrom[k]);
+        const std::size_t from = connections.currentFrom[k];
         const Phasor ampere = connections.conductorOpen[from] ? Phasor{} : current[from];
         sample.current[k + 1] = connections.currentReversed[k] ? -ampere : ampere;
         const Phasor kilovolt = connections.fuseMissing[k] ? Phasor{} : voltage[k];
         sample.voltage[k + 1] = connections.voltageReversed[k] ? -kilovolt : kilovolt;
     }
-    if (connections.rotationReversed) {
-        std::swap(sample.voltage[2], sample.voltage[3]);
-        std::swap(sample.current[2], sample.current[3]);
-    }
-    sample.voltage[0] = (sample.voltage[1] + sample.voltage[2] + sample.voltage[3]) / 3.0;
-    sample.current[0] = sample.current[1] + sample.current[2] + sample.current[3];
+    if (connections.rotationReversed)
+        for (Four* four : {&sample.voltage, &sample.current})
+            std::swap((*four)[2], (*four)[3]);
+    sample.calculateResidual();
     sample.frequency = constants.frequency + 0.005 * std::sin(time / 9);
     return sample;
 }

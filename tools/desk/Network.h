@@ -20,13 +20,14 @@
 // sends back: -(Y0 - Yown) U0. Several faults at once (cross-country) share one U0; each then has 2 ohm more,
 // for its line and its earth.
 //
-// After a change U0 goes exponentially to its new steady state: at the onset with the time constant of the
-// fault resistance and the earth capacitance, 5 ms at least, after clearing with 2 / (omega d).
+// After a change U0 approaches its new steady state exponentially: at the onset with the time constant of the
+// fault resistance and the earth capacitance, at least 5 ms, after clearing with 2 / (omega d).
 #ifndef TALUX_DESK_NETWORK_H
 #define TALUX_DESK_NETWORK_H
 
 #include <array>
 #include <complex>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -34,8 +35,11 @@ namespace desk {
 
 using Phasor = std::complex<double>;
 
+Phasor turn(double degrees); // of length 1
+double degrees(const Phasor& phasor);
+
 // Phases are counted from 0.
-inline constexpr int kPhases = 3;
+inline constexpr std::size_t kPhases = 3;
 
 enum class Neutral : unsigned char { isolated, resonant, lowResistance };
 
@@ -58,31 +62,36 @@ struct Load {
 };
 
 struct EarthFault {
-    int phase = 0;
+    std::size_t phase = 0;
     double ohm = 0;
     bool forward = true; // in this feeder
 };
 
 // Between two phases; the voltage between them falls to 60 %.
 struct ShortCircuit {
-    int from = 0, to = 1;
+    std::size_t from = 0, to = 1;
     double ampere = 0;
     bool forward = true;
 };
 
 // What is wrong between the network and the relay.
 struct Wiring {
-    std::array<bool, kPhases> currentReversed{}, voltageReversed{};
-    std::array<bool, kPhases> fuseMissing{};
-    std::array<bool, kPhases> conductorOpen{};
-    std::array<int, kPhases> currentFrom{0, 1, 2}; // which phase each current transformer is in
-    bool rotationReversed = false;                 // L2 and L3 exchanged, voltages and currents
+    using Phases = std::array<bool, kPhases>;
+    Phases currentReversed{}, voltageReversed{}, fuseMissing{}, conductorOpen{};
+    std::array<std::size_t, kPhases> currentFrom{0, 1, 2}; // which phase each current transformer is in
+    bool rotationReversed = false;                         // L2 and L3 exchanged, voltages and currents
 };
 
-// What arrives at the relay, in primary values; the residual quantities first, as in the records.
+// The residual quantity, then those of L1 to L3, as in the records.
+using Four = std::array<Phasor, 4>;
+Phasor sumOfPhases(const Four& four);
+
+// What arrives at the relay, in primary values.
 struct Sample {
-    std::array<Phasor, 4> voltage{}, current{};
+    Four voltage{}, current{};
     double frequency = 50;
+
+    void calculateResidual(); // from the phases
 };
 
 // The first half wave after the onset of an earth fault, for methods that look at the charging.
@@ -99,7 +108,6 @@ public:
     void strike(const ShortCircuit& fault);
     void clear(); // all faults
 
-    // Time goes on; `seconds` are those since the last call.
     void advance(double seconds);
 
     [[nodiscard]] Sample look();
@@ -116,6 +124,8 @@ public:
     [[nodiscard]] Phasor settledResidual() const;
 
 private:
+    using PerPhase = std::array<Phasor, kPhases>;
+
     Grid constants;
     Load feederLoad;
     Wiring connections;
@@ -127,12 +137,12 @@ private:
     std::uint32_t randomState = 1;
 
     [[nodiscard]] double phaseVoltage() const;
-    [[nodiscard]] Phasor source(int phase) const;
+    [[nodiscard]] Phasor source(std::size_t phase) const;
     [[nodiscard]] Phasor earthAdmittance() const;
     [[nodiscard]] double faultOhm(const EarthFault& fault) const;
     [[nodiscard]] double timeConstant() const;
-    [[nodiscard]] std::array<Phasor, kPhases> voltages() const;
-    [[nodiscard]] std::array<Phasor, kPhases> currents(const std::array<Phasor, kPhases>& voltage);
+    [[nodiscard]] PerPhase voltages() const;
+    [[nodiscard]] PerPhase currents(const PerPhase& voltage);
     double random();
 };
 

@@ -1,6 +1,8 @@
-// What follows from the output functions: relays, LEDs, state words, counters, the event log.
+// What follows from the output functions: relays, LEDs, state words.
 #ifndef TALUX_DESK_OUTPUTS_H
 #define TALUX_DESK_OUTPUTS_H
+
+#include <optional>
 
 #include "tools/desk/Detection.h"
 
@@ -11,7 +13,7 @@ inline constexpr std::size_t kRelays = 8, kInputs = 6, kLeds = 10;
 inline constexpr talux::Measured<std::int32_t> kFirstState{"REL1"};
 using States = std::array<std::int32_t, kRelays + kInputs>;
 
-// y_BE and the 10 words that follow it, by their place in the run.
+// y_BE and the 10 words that follow it, by their position in the run.
 inline constexpr talux::Measured<std::int32_t> kFirstWord{"y_BE"};
 enum Word : unsigned char {
     inputs,
@@ -29,12 +31,12 @@ enum Word : unsigned char {
 };
 using Words = std::array<std::int32_t, kWords>;
 
-// What overrides have to say, read from OVR_.. in every cycle; where nothing is enabled, nothing is changed.
+// What replaces the outputs, inputs and values of the model, read from OVR_.. in every cycle.
 struct Overrides {
-    bool functions = false, relays = false, inputs = false, values = false;
-    std::array<std::int32_t, kFunctions> functionValues{};
-    std::array<std::int32_t, kRelays> relayValues{}, inputValues{};
-    std::array<float, 32> measuredValues{};
+    std::optional<std::array<std::int32_t, kFunctions>> functions;
+    std::optional<std::array<std::int32_t, kRelays>> relays;
+    std::optional<std::array<std::int32_t, kInputs>> inputs;
+    std::optional<std::array<float, 32>> values; // the first measured values
 };
 Overrides readOverrides();
 
@@ -42,6 +44,9 @@ struct Outputs {
     States states{};
     Words words{};
     std::bitset<kLeds> leds;
+
+    // Whether an output function signals.
+    [[nodiscard]] bool signals(std::size_t function) const;
 };
 
 // `inputs` are the states of BE1 to BE6 before polarity and override.

@@ -5,7 +5,7 @@
 #include <cstdarg>
 #include <cstdio>
 
-#include "ParamSystem/TALUX_ParamStrings.h"
+#include "talux/about.hpp"
 
 namespace desk {
 
@@ -33,20 +33,11 @@ constexpr char kStyle[] =
     to += text;
 }
 
-std::string escaped(const std::string& text) {
+std::string escaped(std::string_view text) {
     std::string result;
     for (const char c : text)
         result += c == '<' ? "&lt;" : c == '>' ? "&gt;" : c == '&' ? "&amp;" : std::string(1, c);
     return result;
-}
-
-// The English text of an output function.
-std::string nameOf(std::size_t function) {
-    for (const stParamText* row = DefParamText + 1; row->id != 0; ++row)
-        if (row->id == 18030 && row->language == kEnglish && row->type == kTextItem &&
-            row->id_item == static_cast<int>(function))
-            return row->txt;
-    return std::to_string(function);
 }
 
 } // namespace
@@ -54,9 +45,7 @@ std::string nameOf(std::size_t function) {
 void Plot::add(const Cycle& cycle) {
     points.push_back({cycle.second, cycle.record.U0p, cycle.record.I0p});
     for (std::size_t number = kFirstSignal; number <= kFunctions; ++number) {
-        const auto word =
-            static_cast<std::uint32_t>(cycle.outputs.words[Word::functions1 + (number - 1) / 32]);
-        if ((word >> (number - 1) % 32 & 1U) == 0) continue;
+        if (!cycle.outputs.signals(number)) continue;
         auto& spans = signals[number];
         const bool goesOn = !spans.empty() && spans.back().to > cycle.second - kCycle / 2;
         if (!goesOn) spans.push_back({cycle.second, cycle.second});
@@ -64,51 +53,56 @@ void Plot::add(const Cycle& cycle) {
     }
 }
 
+double Plot::x(double second) const {
+    return kLeft + kWidth * second / end();
+}
+
+// Points that are close to the last one are left out.
+void Plot::addCurve(std::string& svg, const Curve& curve, double top) const {
+    double max = 1e-3;
+    for (const Point& point : points)
+        max = std::max(max, point.*curve.value);
+    append(svg, "<text x=\"10\" y=\"%.0f\">%s %.3g %s</text>\n", top + 12, curve.name, max, curve.unit);
+    append(svg, "<path class=\"axis\" d=\"M%.1f,%.1f v%.1f h%.1f\"/>\n<path class=\"%s\" d=\"", kLeft, top,
+           kCurveHeight, kWidth, curve.style);
+    double last = -1, lastX = -1;
+    for (const Point& point : points) {
+        const double y = top + kCurveHeight * (1 - point.*curve.value / max);
+        const double distance = std::fabs(y - last);
+        const bool isNear = distance < 0.5 || (distance < 4 && x(point.second) - lastX < 2);
+        if (last >= 0 && isNear && &point != &points.back()) continue;
+        if (last >= 0) append(svg, "L%.1f,%.1f", x(point.second), last);
+        lastX = x(point.second);
+        append(svg, "%s%.1f,%.1f", last < 0 ? "M" : "L", lastX, y);
+        last = y;
+    }
+    svg += "\"/>\n";
+}
+
 std::string Plot::svg(const std::string& title) const {
-    const double end = points.empty() ? 1 : points.back().second + kCycle;
+    static constexpr talux::Setting<talux::choice::BAassign> kFunction{"BAassign1"};
     const double height =
         40 + 2 * (kCurveHeight + kGap) + kRowHeight * static_cast<double>(signals.size()) + 30;
-    const auto x = [end](double second) { return kLeft + kWidth * second / end; };
     std::string svg;
     append(svg, "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 960 %.0f\" role=\"img\">\n<title>",
            height);
     svg += escaped(title) + "</title>\n" + kStyle;
     double top = 30;
-    const struct {
-        const char *name, *unit, *style;
-        double Point::*value;
-    } curves[] = {{"U0", "kV", "voltage", &Point::voltage}, {"I0", "A", "current", &Point::current}};
-    for (const auto& curve : curves) {
-        double max = 1e-3;
-        for (const Point& point : points)
-            max = std::max(max, point.*curve.value);
-        append(svg, "<text x=\"10\" y=\"%.0f\">%s %.3g %s</text>\n", top + 12, curve.name, max, curve.unit);
-        append(svg, "<path class=\"axis\" d=\"M%.1f,%.1f v%.1f h%.1f\"/>\n<path class=\"%s\" d=\"", kLeft,
-               top, kCurveHeight, kWidth, curve.style);
-        double last = -1, lastX = -1;
-        for (const Point& point : points) {
-            const double y = top + kCurveHeight * (1 - point.*curve.value / max);
-            const bool isNear =
-                std::fabs(y - last) < 0.5 || (std::fabs(y - last) < 4 && x(point.second) - lastX < 2);
-            if (last >= 0 && isNear && &point != &points.back()) continue;
-            if (last >= 0) append(svg, "L%.1f,%.1f", x(point.second), last);
-            lastX = x(point.second);
-            append(svg, "%s%.1f,%.1f", last < 0 ? "M" : "L", lastX, y);
-            last = y;
-        }
-        svg += "\"/>\n";
+    for (const Curve& curve :
+         {Curve{"U0", "kV", "voltage", &Point::voltage}, Curve{"I0", "A", "current", &Point::current}}) {
+        addCurve(svg, curve, top);
         top += kCurveHeight + kGap;
     }
     for (const auto& [function, spans] : signals) {
         append(svg, "<text x=\"10\" y=\"%.1f\">", top + 12);
-        svg += escaped(nameOf(function)) + "</text>\n";
+        svg += escaped(talux::About(kFunction).choice(static_cast<int>(function))) + "</text>\n";
         for (const Span& span : spans)
             append(svg, "<rect class=\"signal\" x=\"%.1f\" y=\"%.1f\" width=\"%.1f\" height=\"12\"/>\n",
                    x(span.from), top + 2, std::max(x(span.to) - x(span.from), 1.0));
         top += kRowHeight;
     }
-    const double step = end > 30 ? 10 : end > 10 ? 2 : 1;
-    for (double second = 0; second <= end; second += step)
+    const double step = end() > 30 ? 10 : end() > 10 ? 2 : 1;
+    for (double second = 0; second <= end(); second += step)
         append(svg, "<text x=\"%.1f\" y=\"%.1f\">%g s</text>\n", x(second), top + 18, second);
     return svg + "</svg>\n";
 }

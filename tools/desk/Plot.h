@@ -24,8 +24,16 @@ private:
     struct Span {
         double from, to;
     };
+    struct Curve {
+        const char *name, *unit, *style;
+        double Point::*value;
+    };
     std::vector<Point> points;
     std::map<std::size_t, std::vector<Span>> signals; // by output function
+
+    [[nodiscard]] double end() const { return points.empty() ? 1 : points.back().second + kCycle; }
+    [[nodiscard]] double x(double second) const;
+    void addCurve(std::string& svg, const Curve& curve, double top) const;
 };
 
 } // namespace desk

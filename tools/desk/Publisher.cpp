@@ -13,19 +13,18 @@ constexpr Measured<float> kSnapshot{"mw_U0p"};
 constexpr Measured<short> kTransients{"EvCnt_qu2"};
 
 // In the order of the parameters mw_U0p to mw_phi_UI3; the inputs' voltages stay 0.
-std::array<float, 32> snapshotOf(const Phasors& phasors) {
-    std::array<float, 32> values{};
-    auto next = values.begin();
-    const auto put = [&next](double value) { *next++ = static_cast<float>(value); };
+Floats snapshotOf(const Phasors& phasors) {
     const auto& [u, i, us, is, hertz] = phasors;
-    for (const auto& four : {u, us, i, is})
+    Floats values;
+    for (const Four& four : {u, us, i, is})
         for (const Phasor& each : four)
-            put(std::abs(each));
-    for (const auto& four : {u, i})
+            values.add(std::abs(each));
+    for (const Four& four : {u, i})
         for (const Phasor& each : four)
-            put(degrees(each));
+            values.add(degrees(each));
     for (std::size_t k = 0; k < u.size(); ++k)
-        put(i[k] == Phasor{} ? 0 : degrees(u[k] * std::conj(i[k])));
+        values.add(angleBetween(u[k], i[k]));
+    values.resize(32);
     return values;
 }
 
@@ -43,7 +42,7 @@ bool Publisher::publish(const Cycle& cycle, int transients) {
 
 void Publisher::answerRequest(const Cycle& cycle) {
     if (kRequest.get() == 0) return;
-    kSnapshot.run<32>().set(snapshotOf(cycle.phasors));
+    kSnapshot.set_run(snapshotOf(cycle.phasors));
     kRequest.set(0);
 }
 

@@ -1,33 +1,40 @@
+// COMTRADE is name.cfg with name.dat beside it. Channels are found by phase and unit; the phasors are those
+// of a discrete Fourier transform over one cycle of the line frequency.
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <numbers>
 #include <sstream>
 #include <vector>
 
-#include "tools/desk/ReplayFormats.h"
+#include "tools/desk/Fields.h"
+#include "tools/desk/Replay.h"
 
 namespace desk {
 
 namespace {
 
 constexpr int kMaxChannels = 9999;
-constexpr std::size_t kMaxSamples = 20000000;
+constexpr double kMaxSamples = 20000000;
 
-// Where a channel goes: 1 to 3 are the phases.
+// Voltages of L1 to L3 in kV, then their currents in A, primary.
+constexpr std::size_t kWaves = 6;
+
+// Which wave an analog channel is, and how it becomes that from its raw values.
 struct Channel {
-    std::size_t phase = 0; // 0: nowhere
-    bool isCurrent = false;
-    double factor = 1, offset = 0; // of the raw value, in kV or A primary
+    std::size_t wave = kWaves; // none
+    double factor = 1, offset = 0;
 };
+
+char upper(char c) {
+    return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+}
 
 // The configuration: name.cfg, line by line.
 class Configuration {
 public:
-    explicit Configuration(const std::string& file) : path(file), stream(file) {
-        if (!stream) throw ReplayFault(path + ": cannot be read");
+    explicit Configuration(const std::string& path) : lines(path) {
         next(2); // station, device, revision
         readChannels();
         lineFrequency = number(next(1)[0], "the line frequency");
@@ -35,8 +42,7 @@ public:
         next(1); // start
         next(1); // trigger
         format = next(1)[0];
-        for (char& c : format)
-            c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        std::ranges::transform(format, format.begin(), upper);
     }
 
     std::vector<Channel> analog;
@@ -45,40 +51,32 @@ public:
     std::size_t samples = 0;
     std::string format;
 
-    [[noreturn]] void fail(const std::string& text) const {
-        throw ReplayFault(path + ":" + std::to_string(line) + ": " + text);
-    }
+    [[noreturn]] void fail(const std::string& text) const { lines.fail(text); }
 
 private:
-    std::string path;
-    std::ifstream stream;
-    int line = 0;
+    using Fields = std::vector<std::string>;
+    Lines lines;
 
-    std::vector<std::string> next(std::size_t least) {
+    Fields next(std::size_t min) {
         std::string text;
-        ++line;
-        if (!std::getline(stream, text)) fail("the file ends here");
-        std::vector<std::string> fields(1);
-        for (const char c : text)
-            if (c == ',')
-                fields.emplace_back();
-            else if (c != '\r' && (c != ' ' || !fields.back().empty()))
-                fields.back() += c;
-        for (std::string& field : fields)
+        if (!lines.next(text)) fail("the file ends here");
+        Fields fields = fieldsOf(text, ',', false);
+        for (std::string& field : fields) {
+            field.erase(0, field.find_first_not_of(' '));
             field.erase(field.find_last_not_of(' ') + 1);
-        if (fields.size() < least) fail("at least " + std::to_string(least) + " fields expected");
+        }
+        if (fields.size() < min) fail("at least " + std::to_string(min) + " fields expected");
         return fields;
     }
-    double number(const std::string& text, const char* what) const {
+    [[nodiscard]] double number(const std::string& text, const char* what) const {
         char* end = nullptr;
         const double value = std::strtod(text.c_str(), &end);
         if (text.empty() || *end != '\0' || !std::isfinite(value))
             fail(std::string(what) + " is a number, not '" + text + "'");
         return value;
     }
-    int count(const std::string& text, char kind) const {
-        const bool isMarked = !text.empty() && std::toupper(static_cast<unsigned char>(text.back())) == kind;
-        if (!isMarked)
+    [[nodiscard]] int count(const std::string& text, char kind) const {
+        if (text.empty() || upper(text.back()) != kind)
             fail("a number of channels with " + std::string(1, kind) + " expected, not '" + text + "'");
         const double value = number(text.substr(0, text.size() - 1), "the number of channels");
         if (value < 0 || value > kMaxChannels)
@@ -86,40 +84,37 @@ private:
         return static_cast<int>(value);
     }
     void readChannels() {
-        const auto counts = next(3);
+        const Fields counts = next(3);
         const int analogCount = count(counts[1], 'A');
         digital = count(counts[2], 'D');
         for (int k = 0; k < analogCount; ++k)
             analog.push_back(channel(next(10)));
         for (int k = 0; k < digital; ++k)
             next(1);
-        for (const bool isCurrent : {false, true})
-            for (std::size_t phase = 1; phase <= 3; ++phase)
-                if (!has(isCurrent, phase))
-                    fail("no " + std::string(isCurrent ? "current" : "voltage") + " of phase " +
-                         std::to_string(phase));
-    }
-    [[nodiscard]] bool has(bool isCurrent, std::size_t phase) const {
-        for (const Channel& each : analog)
-            if (each.phase == phase && each.isCurrent == isCurrent) return true;
-        return false;
+        for (std::size_t wave = 0; wave < kWaves; ++wave)
+            if (std::ranges::find(analog, wave, &Channel::wave) == analog.end())
+                fail(std::string(wave < kPhases ? "no voltage" : "no current") + " of phase " +
+                     std::to_string(wave % kPhases + 1));
     }
     // number, name, phase, component, unit, a, b, skew, min, max, primary, secondary, P or S
-    [[nodiscard]] Channel channel(const std::vector<std::string>& fields) const {
-        static constexpr const char* kNames[][3] = {{"A", "B", "C"}, {"L1", "L2", "L3"}, {"1", "2", "3"}};
+    [[nodiscard]] Channel channel(const Fields& fields) const {
+        static constexpr std::string_view kNames[] = {"A", "B", "C", "L1", "L2", "L3", "1", "2", "3"};
+        static constexpr struct Unit {
+            std::string_view name;
+            double size;
+            std::size_t firstWave;
+        } kUnits[] = {{"kV", 1, 0}, {"V", 0.001, 0}, {"A", 1, kPhases}, {"kA", 1000, kPhases}};
+        const auto* const name = std::ranges::find(kNames, fields[2]);
+        const auto* const unit = std::ranges::find(kUnits, fields[4], &Unit::name);
         Channel result;
-        for (const auto& names : kNames)
-            for (std::size_t k = 0; k < 3; ++k)
-                if (fields[2] == names[k]) result.phase = k + 1;
-        const std::string& unit = fields[4];
-        const double size = unit == "kV" || unit == "A" ? 1 : unit == "V" ? 0.001 : unit == "kA" ? 1000 : 0;
-        if (size == 0) result.phase = 0;
-        result.isCurrent = unit == "A" || unit == "kA";
+        if (name != std::end(kNames) && unit != std::end(kUnits))
+            result.wave = unit->firstWave + static_cast<std::size_t>(name - kNames) % kPhases;
         double primary = 1;
         if (fields.size() >= 13 && (fields[12] == "S" || fields[12] == "s")) {
             const double secondary = number(fields[11], "the secondary rating");
             primary = secondary == 0 ? 1 : number(fields[10], "the primary rating") / secondary;
         }
+        const double size = unit == std::end(kUnits) ? 0 : unit->size;
         result.factor = number(fields[5], "a") * size * primary;
         result.offset = number(fields[6], "b") * size * primary;
         return result;
@@ -127,10 +122,10 @@ private:
     void readRate() {
         const double rates = number(next(1)[0], "the number of sampling rates");
         if (rates != 1) fail("one sampling rate expected, not " + std::to_string(rates));
-        const auto fields = next(2);
+        const Fields fields = next(2);
         rate = number(fields[0], "the sampling rate");
         const double last = number(fields[1], "the last sample");
-        if (last < 1 || last > static_cast<double>(kMaxSamples)) fail("from 1 to 20 million samples");
+        if (last < 1 || last > kMaxSamples) fail("from 1 to 20 million samples");
         samples = static_cast<std::size_t>(last);
         if (!(lineFrequency > 0 && rate >= 4 * lineFrequency))
             fail("at least four samples a cycle are needed");
@@ -140,35 +135,41 @@ private:
 // Raw values, sample after sample, from name.dat.
 class Data {
 public:
-    Data(const std::string& file, const Configuration& configuration)
-        : path(file), config(configuration), stream(file, std::ios::binary) {
+    Data(std::string file, const Configuration& config)
+        : path(std::move(file)), raw(config.analog.size()),
+          digitalBytes(static_cast<std::size_t>(config.digital + 15) / 16 * 2),
+          stream(path, std::ios::binary) {
+        static constexpr struct Format {
+            std::string_view name;
+            void (Data::*read)();
+        } kFormats[] = {{"ASCII", &Data::readText},
+                        {"BINARY", &Data::readBinary<std::int16_t>},
+                        {"BINARY32", &Data::readBinary<std::int32_t>},
+                        {"FLOAT32", &Data::readBinary<float>}};
         if (!stream) throw ReplayFault(path + ": cannot be read");
+        const auto* const format = std::ranges::find(kFormats, config.format, &Format::name);
+        if (format == std::end(kFormats))
+            config.fail("the format '" + config.format + "' is none of ASCII, BINARY, BINARY32, FLOAT32");
+        read = format->read;
     }
 
-    void read(std::vector<double>& raw) {
+    const std::vector<double>& next() {
         ++sample;
-        if (config.format == "ASCII")
-            readText(raw);
-        else if (config.format == "BINARY")
-            readBinary<std::int16_t>(raw);
-        else if (config.format == "BINARY32")
-            readBinary<std::int32_t>(raw);
-        else if (config.format == "FLOAT32")
-            readBinary<float>(raw);
-        else
-            config.fail("the format '" + config.format + "' is none of ASCII, BINARY, BINARY32, FLOAT32");
+        (this->*read)();
+        return raw;
     }
 
 private:
     std::string path;
-    const Configuration& config;
+    std::vector<double> raw;
+    std::size_t digitalBytes, sample = 0;
     std::ifstream stream;
-    std::size_t sample = 0;
+    void (Data::*read)() = nullptr;
 
     [[noreturn]] void fail(const char* text) const {
         throw ReplayFault(path + ": sample " + std::to_string(sample) + ": " + text);
     }
-    void readText(std::vector<double>& raw) {
+    void readText() {
         std::string text;
         if (!std::getline(stream, text)) fail("the file ends here");
         std::istringstream fields(text);
@@ -182,8 +183,7 @@ private:
         }
     }
     template <class Number>
-    void readBinary(std::vector<double>& raw) {
-        const std::size_t digitalBytes = static_cast<std::size_t>(config.digital + 15) / 16 * 2;
+    void readBinary() {
         std::vector<char> bytes(8 + raw.size() * sizeof(Number) + digitalBytes);
         if (!stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size())))
             fail("the file ends here");
@@ -198,23 +198,16 @@ private:
 class ComtradeRecording : public Recording {
 public:
     explicit ComtradeRecording(const std::string& path) {
-        const std::string stem = path.substr(0, path.size() - 4);
-        const bool isUpper = path.ends_with(".CFG");
         const Configuration config(path);
         lineFrequency = config.lineFrequency;
         rate = config.rate;
-        Data data(stem + (isUpper ? ".DAT" : ".dat"), config);
-        std::vector<double> raw(config.analog.size());
-        for (std::size_t n = 0; n < config.samples; ++n) {
-            data.read(raw);
-            std::array<double, 6> each{};
-            for (std::size_t k = 0; k < raw.size(); ++k) {
-                const Channel& channel = config.analog[k];
-                if (channel.phase == 0) continue;
-                each[channel.phase - 1 + (channel.isCurrent ? 3 : 0)] =
-                    raw[k] * channel.factor + channel.offset;
-            }
-            waves.push_back(each);
+        Data data(path.substr(0, path.size() - 4) + (path.ends_with(".CFG") ? ".DAT" : ".dat"), config);
+        while (waves.size() < config.samples) {
+            const std::vector<double>& raw = data.next();
+            auto& wave = waves.emplace_back();
+            for (std::size_t k = 0; k < raw.size(); ++k)
+                if (const Channel& channel = config.analog[k]; channel.wave < kWaves)
+                    wave[channel.wave] = raw[k] * channel.factor + channel.offset;
         }
     }
 
@@ -223,26 +216,25 @@ public:
         const auto perCycle = static_cast<std::size_t>(std::lround(rate / lineFrequency));
         const auto first = static_cast<std::size_t>(std::lround(second * rate));
         if (first + perCycle > waves.size()) return false;
-        std::array<Phasor, 6> phasors{};
+        std::array<Phasor, kWaves> phasors{};
         for (std::size_t n = first; n < first + perCycle; ++n) {
             const double angle = -2 * std::numbers::pi * lineFrequency * static_cast<double>(n) / rate;
-            for (std::size_t k = 0; k < phasors.size(); ++k)
+            for (std::size_t k = 0; k < kWaves; ++k)
                 phasors[k] += waves[n][k] * std::polar(1.0, angle);
         }
-        for (std::size_t k = 0; k < 3; ++k) {
-            const double scale = std::numbers::sqrt2 / static_cast<double>(perCycle);
+        const double scale = std::numbers::sqrt2 / static_cast<double>(perCycle);
+        for (std::size_t k = 0; k < kPhases; ++k) {
             sample.voltage[k + 1] = phasors[k] * scale;
-            sample.current[k + 1] = phasors[k + 3] * scale;
+            sample.current[k + 1] = phasors[k + kPhases] * scale;
         }
-        sample.voltage[0] = (sample.voltage[1] + sample.voltage[2] + sample.voltage[3]) / 3.0;
-        sample.current[0] = sample.current[1] + sample.current[2] + sample.current[3];
+        sample.calculateResidual();
         sample.frequency = lineFrequency;
         return true;
     }
 
 private:
     double lineFrequency = 50, rate = 0;
-    std::vector<std::array<double, 6>> waves; // voltages of L1 to L3 in kV, currents in A
+    std::vector<std::array<double, kWaves>> waves;
 };
 
 } // namespace

@@ -1,10 +1,11 @@
-#include <charconv>
-#include <fstream>
+// A CSV begins with a line of names: U1_prim to I3_prim are needed, phiUI1 to phiUI3, U0_prim, I0_prim,
+// phiUI0 and f_grid are used if they are there. Voltages are taken as 120 degrees apart.
 #include <map>
-#include <numbers>
+#include <optional>
 #include <vector>
 
-#include "tools/desk/ReplayFormats.h"
+#include "tools/desk/Fields.h"
+#include "tools/desk/Replay.h"
 
 namespace desk {
 
@@ -12,108 +13,89 @@ namespace {
 
 constexpr std::size_t kMaxRows = 1000000;
 
-std::vector<std::string> cellsOf(const std::string& line, char delimiter) {
-    std::vector<std::string> cells(1);
-    bool quoted = false;
-    for (const char c : line) {
-        if (c == '"')
-            quoted = !quoted;
-        else if (c == delimiter && !quoted)
-            cells.emplace_back();
-        else if (c != '\r')
-            cells.back() += c;
-    }
-    return cells;
-}
-
 // "2026-11-25 20:13:05.120" in seconds of its day.
-bool timeOfDay(const std::string& text, double& seconds) {
+std::optional<double> timeOfDay(const std::string& text) {
     int hours = 0, minutes = 0;
-    double rest = 0;
+    double seconds = 0;
     const auto blank = text.find(' ');
-    if (blank == text.npos || std::sscanf(text.c_str() + blank, "%d:%d:%lf", &hours, &minutes, &rest) != 3)
-        return false;
-    seconds = hours * 3600.0 + minutes * 60.0 + rest;
-    return true;
+    if (blank == text.npos || std::sscanf(text.c_str() + blank, "%d:%d:%lf", &hours, &minutes, &seconds) != 3)
+        return {};
+    return hours * 3600.0 + minutes * 60.0 + seconds;
 }
 
 class CsvRecording : public Recording {
 public:
-    explicit CsvRecording(const std::string& path) {
-        std::ifstream file(path);
+    explicit CsvRecording(const std::string& path) : lines(path) {
         std::string line;
-        if (!file || !std::getline(file, line)) throw ReplayFault(path + ": cannot be read");
+        if (!lines.next(line)) throw ReplayFault(path + ": cannot be read");
         const char delimiter = line.find(';') != line.npos ? ';' : ',';
-        const auto names = cellsOf(line, delimiter);
+        const auto names = fieldsOf(line, delimiter, true);
         for (std::size_t k = 1; k < names.size(); ++k)
             columns[names[k]] = k;
         for (const char* needed : {"U1_prim", "U2_prim", "U3_prim", "I1_prim", "I2_prim", "I3_prim"})
-            if (!columns.contains(needed)) throw ReplayFault(path + ":1: no column " + needed);
-        for (int number = 2; std::getline(file, line); ++number)
-            addRow(path + ":" + std::to_string(number) + ": ", cellsOf(line, delimiter), names.size());
+            if (!columns.contains(needed)) lines.fail(std::string("no column ") + needed);
+        while (lines.next(line))
+            addRow(fieldsOf(line, delimiter, true), names.size());
         if (rows.empty()) throw ReplayFault(path + ": no rows of values");
     }
 
     bool at(double second, Sample& sample) override {
         while (current + 1 < rows.size() && rows[current + 1].second <= second)
             ++current;
-        if (second > rows.back().second + 1) return false;
-        const Row& row = rows[current];
-        const auto value = [&](const std::string& name) {
-            const auto column = columns.find(name);
-            return column == columns.end() ? 0 : row.values[column->second];
-        };
-        for (int k = 1; k <= kPhases; ++k) {
-            const std::string phase = std::to_string(k);
-            const double angle = -120.0 * (k - 1);
-            sample.voltage[static_cast<std::size_t>(k)] = polar(value("U" + phase + "_prim"), angle);
-            sample.current[static_cast<std::size_t>(k)] =
-                polar(value("I" + phase + "_prim"), angle - value("phiUI" + phase));
-        }
-        sample.voltage[0] = columns.contains("U0_prim")
-                                ? polar(value("U0_prim"), 0)
-                                : (sample.voltage[1] + sample.voltage[2] + sample.voltage[3]) / 3.0;
-        sample.current[0] = columns.contains("I0_prim")
-                                ? polar(value("I0_prim"), -value("phiUI0"))
-                                : sample.current[1] + sample.current[2] + sample.current[3];
-        sample.frequency = columns.contains("f_grid") ? value("f_grid") : 50;
-        return true;
+        sample = rows[current].sample;
+        return second <= rows.back().second + 1;
     }
 
 private:
     struct Row {
         double second;
-        std::vector<double> values; // by column
+        Sample sample;
     };
+    Lines lines;
     std::map<std::string, std::size_t> columns;
     std::vector<Row> rows;
     std::size_t current = 0;
     double start = 0;
 
-    static Phasor polar(double magnitude, double degrees) {
-        return std::polar(1.0, degrees * std::numbers::pi / 180) * magnitude;
-    }
-
-    void addRow(const std::string& place, const std::vector<std::string>& cells, std::size_t count) {
+    void addRow(const std::vector<std::string>& cells, std::size_t count) {
         if (cells.size() != count)
-            throw ReplayFault(place + std::to_string(count) + " cells expected, not " +
-                              std::to_string(cells.size()));
-        if (rows.size() == kMaxRows) throw ReplayFault(place + "more than a million rows");
-        Row row{0, std::vector<double>(count)};
-        if (!timeOfDay(cells[0], row.second))
-            throw ReplayFault(place + "'" + cells[0] + "' is no date and time");
-        for (std::size_t k = 1; k < count; ++k) {
-            std::string text = cells[k];
-            if (const auto comma = text.find(','); comma != text.npos) text[comma] = '.';
-            const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), row.values[k]);
-            if (error != std::errc() || end != text.data() + text.size())
-                throw ReplayFault(place + "'" + cells[k] + "' is no number");
+            lines.fail(std::to_string(count) + " cells expected, not " + std::to_string(cells.size()));
+        if (rows.size() == kMaxRows) lines.fail("more than a million rows");
+        const auto time = timeOfDay(cells[0]);
+        if (!time) lines.fail("'" + cells[0] + "' is no date and time");
+        std::vector<double> values(1);
+        for (std::size_t k = 1; k < count; ++k)
+            values.push_back(number(cells[k]));
+        if (rows.empty()) start = *time;
+        double second = *time - start;
+        if (second < -1) second += 86400; // midnight came between
+        if (!rows.empty() && second < rows.back().second) lines.fail("the time goes back");
+        rows.push_back({second, sampleOf(values)});
+    }
+    [[nodiscard]] double number(std::string text) const {
+        const std::string cell = text;
+        if (const auto comma = text.find(','); comma != text.npos) text[comma] = '.';
+        const auto value = numberIn(text);
+        if (!value) lines.fail("'" + cell + "' is no number");
+        return *value;
+    }
+    [[nodiscard]] Sample sampleOf(const std::vector<double>& values) const {
+        const auto value = [&](const std::string& name, double otherwise = 0) {
+            const auto column = columns.find(name);
+            return column == columns.end() ? otherwise : values[column->second];
+        };
+        Sample sample;
+        for (std::size_t k = 1; k <= kPhases; ++k) {
+            const std::string phase = std::to_string(k);
+            const double angle = -120.0 * static_cast<double>(k - 1);
+            sample.voltage[k] = turn(angle) * value("U" + phase + "_prim");
+            sample.current[k] = turn(angle - value("phiUI" + phase)) * value("I" + phase + "_prim");
         }
-        if (rows.empty()) start = row.second;
-        row.second -= start;
-        if (row.second < -1) row.second += 86400; // midnight came between
-        if (!rows.empty() && row.second < rows.back().second) throw ReplayFault(place + "the time goes back");
-        rows.push_back(std::move(row));
+        sample.calculateResidual();
+        if (columns.contains("U0_prim")) sample.voltage[0] = turn(0) * value("U0_prim");
+        if (columns.contains("I0_prim")) sample.current[0] = turn(-value("phiUI0")) * value("I0_prim");
+        sample.frequency = value("f_grid", 50);
+        return sample;
     }
 };
 

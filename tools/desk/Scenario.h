@@ -1,18 +1,10 @@
-// A scenario: a network and what happens in it, one statement a line, for people to write by hand.
-//
-//   network  resonant-earthed 20 kV, capacitive 80 A, own 6 A, detuning 5 %, damping 3 %
-//   load     180 A, angle 18 deg, drift 10 %, noise 0.2 %
-//   at 2 s   earth fault L1, 200 ohm, forward
-//   at 5 s   fault cleared
-//   at 60 s  end
-//
-// Blanks and commas divide words, a # begins a comment. Numbers have a decimal point and their unit after
-// them.
+// A scenario: a network and what happens in it, one statement a line, for people to write by hand;
+// docs/desk.md lists the statements. Blanks and commas separate words, a # begins a comment.
 #ifndef TALUX_DESK_SCENARIO_H
 #define TALUX_DESK_SCENARIO_H
 
+#include <filesystem>
 #include <istream>
-#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -28,18 +20,20 @@ struct Restriking { // strikes again and again, each time for a while, until the
     EarthFault fault;
     double every, during; // seconds
 };
-// A change of the wiring: sets one member.
 struct Rewire {
-    enum What : unsigned char { currentReversed, voltageReversed, fuseMissing, conductorOpen, rotation } what;
-    int phase;
+    Wiring::Phases Wiring::*what;
+    std::size_t phase;
     bool on;
+};
+struct Rotation {
+    bool reversed;
 };
 struct Swap { // two current transformers are in each other's phase
-    int first, second;
+    std::size_t first, second;
     bool on;
 };
-struct Input { // a binary input, counted from 1
-    int number;
+struct Input { // a binary input, counted from 0
+    std::size_t number;
     bool on;
 };
 struct Frequency {
@@ -52,22 +46,22 @@ struct Replay {
     std::string path; // relative to the scenario
 };
 
-using Event = std::variant<EarthFault, Restriking, ShortCircuit, Cleared, Rewire, Swap, Input, Frequency,
-                           LoadStep, Restart, Replay, End>;
+using Event = std::variant<EarthFault, Restriking, ShortCircuit, Cleared, Rewire, Rotation, Swap, Input,
+                           Frequency, LoadStep, Restart, Replay, End>;
 
 struct TimedEvent {
     double second;
     Event event;
-    int line;
 };
 
 struct Scenario {
     Grid grid;
     Load load;
     std::vector<TimedEvent> events; // in the order of time
+    std::filesystem::path folder;   // that recordings are relative to
 };
 
-// What is wrong with a line, and what would be right.
+// What is wrong with a line, and what is expected.
 struct ScenarioFault {
     int line;
     std::string text;

@@ -34,12 +34,12 @@ constexpr Row kRows[] = {
 
 } // namespace
 
-bool Statistics::add(const Values& values, double cycle, int transients, const talux::Settings& settings) {
+bool Statistics::add(const Values& values, int transients, const talux::Settings& settings) {
     static constexpr Setting<std::int32_t> kMinutes{"stat_intervall"};
     ++cycles;
-    seconds += cycle;
+    seconds += kCycle;
     for (const Row& row : kRows) {
-        const float value = values[static_cast<std::size_t>(row.value.id() - kFirstValue.id())];
+        const float value = values[positionOf(row.value)];
         const bool isFirst = cycles == 1;
         running.*row.max = isFirst ? value : std::max(running.*row.max, value);
         if (row.min != nullptr) running.*row.min = isFirst ? value : std::min(running.*row.min, value);

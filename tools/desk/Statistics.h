@@ -10,7 +10,7 @@ class Statistics {
 public:
     // Takes the values of a cycle. True when the interval is over, `stat_intervall` minutes; the record then
     // holds it, and the next one begins.
-    bool add(const Values& values, double cycle, int transients, const talux::Settings& settings);
+    bool add(const Values& values, int transients, const talux::Settings& settings);
 
     [[nodiscard]] const talux::StatRecord_c0& record() const { return complete; }
 

@@ -9,13 +9,11 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
-#include <optional>
 
 #include "ParamSystem/files/Replace.h"
 #include "tools/desk/Desk.h"
 #include "tools/desk/Factory.h"
 #include "tools/desk/Plot.h"
-#include "tools/desk/Replay.h"
 
 namespace {
 
@@ -31,36 +29,14 @@ int fail(const std::string& text) {
     std::cerr << "talux-desk: " << text << '\n';
     return 2;
 }
-
-std::optional<desk::Scenario> read(const std::string& path, int& status) {
-    desk::ReadScenario result;
-    if (!path.empty()) {
-        std::ifstream file(path);
-        if (!file) {
-            status = fail(path + ": " + std::strerror(errno));
-            return {};
-        }
-        result = desk::readScenario(file);
-    }
-    for (const desk::ScenarioFault& fault : result.faults)
-        std::cerr << path << ':' << fault.line << ": " << fault.text << '\n';
-    status = result.faults.empty() ? 0 : 1;
-    if (status != 0) return {};
-    return std::move(result.scenario);
-}
-
-desk::OpenRecording recordingsBeside(const std::string& scenario) {
-    const auto slash = scenario.rfind('/');
-    const std::string folder = slash == scenario.npos ? "" : scenario.substr(0, slash + 1);
-    return [folder](const std::string& path) {
-        return desk::openRecording(path.starts_with('/') ? path : folder + path);
-    };
+int fail(const std::string& path, int error) {
+    return fail(path + ": " + std::strerror(error));
 }
 
 // Without a store, with the factory settings, as fast as it can.
 int plot(const desk::Scenario& scenario, const Options& options) {
-    desk::Desk device(scenario, recordingsBeside(options.scenario));
-    const talux::Settings settings = desk::factorySettings();
+    desk::Desk device(scenario);
+    const talux::Settings settings(desk::factorySpace());
     desk::Plot picture;
     constexpr int kLongest = 180000; // an hour
     int cycles = 0;
@@ -68,7 +44,7 @@ int plot(const desk::Scenario& scenario, const Options& options) {
         picture.add(cycle);
     const std::string page = picture.svg(options.scenario.substr(options.scenario.rfind('/') + 1));
     const auto error = talux::replaceFile(options.plot.c_str(), page, nullptr);
-    return error ? fail(options.plot + ": " + std::strerror(error.number)) : 0;
+    return error ? fail(options.plot, error.number) : 0;
 }
 
 // Waits for the next cycle: for its time, or for a line on standard input.
@@ -102,14 +78,14 @@ void report(std::FILE* log, const talux::Settings& settings) {
 
 int run(const desk::Scenario& scenario, const Options& options) {
     std::FILE* const log = options.log.empty() ? stdout : std::fopen(options.log.c_str(), "w");
-    if (log == nullptr) return fail(options.log + ": " + std::strerror(errno));
+    if (log == nullptr) return fail(options.log, errno);
     talux::Store store;
     store.stage_defaults();
     store.commit();
     talux::Follower follower;
     desk::Publisher publisher;
     desk::Statistics statistics;
-    desk::Desk device(scenario, recordingsBeside(options.scenario));
+    desk::Desk device(scenario);
     desk::Cycle cycle;
     Pace pace(options);
     std::fputs("a model for learning and for trying scripts, no protection\n", log);
@@ -122,7 +98,7 @@ int run(const desk::Scenario& scenario, const Options& options) {
             if (!publisher.publish(cycle, device.transients()))
                 std::fputs("talux-desk: somebody else is writing\n", stderr);
             desk::Publisher::answerRequest(cycle);
-            if (statistics.add(cycle.values, desk::kCycle, device.transients(), follower.settings()))
+            if (statistics.add(cycle.values, device.transients(), follower.settings()))
                 talux::Record<talux::StatRecord_c0>{}.set(statistics.record());
         }
         if (!std::exchange(ready, true)) {
@@ -132,6 +108,22 @@ int run(const desk::Scenario& scenario, const Options& options) {
         if (!pace.wait()) break;
     }
     return 0;
+}
+
+// Reads the scenario and does what the options say.
+int carryOut(const Options& options) {
+    desk::ReadScenario read;
+    if (!options.scenario.empty()) {
+        std::ifstream file(options.scenario);
+        if (!file) return fail(options.scenario, errno);
+        read = desk::readScenario(file);
+    }
+    for (const desk::ScenarioFault& fault : read.faults)
+        std::cerr << options.scenario << ':' << fault.line << ": " << fault.text << '\n';
+    if (!read.faults.empty()) return 1;
+    if (options.check) return 0;
+    read.scenario.folder = std::filesystem::path(options.scenario).parent_path();
+    return options.plot.empty() ? run(read.scenario, options) : plot(read.scenario, options);
 }
 
 } // namespace
@@ -151,11 +143,8 @@ int main(int argc, char** argv) {
     CLI11_PARSE(app, argc, argv);
     std::signal(SIGTERM, [](int) { stopRequested = 1; });
     std::signal(SIGINT, [](int) { stopRequested = 1; });
-    int status = 0;
-    const auto scenario = read(options.scenario, status);
-    if (!scenario || options.check) return status;
     try {
-        return options.plot.empty() ? run(*scenario, options) : plot(*scenario, options);
+        return carryOut(options);
     } catch (const desk::ReplayFault& fault) {
         return fail(fault.what());
     }
