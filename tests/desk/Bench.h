@@ -9,8 +9,6 @@
 #include <vector>
 
 #include "tools/desk/Desk.h"
-#include "tools/desk/Factory.h"
-#include "tools/desk/Replay.h"
 
 namespace desk_test {
 
@@ -32,11 +30,11 @@ public:
     // All cycles of the scenario; its faults fail the test.
     const std::vector<Cycle>& run(const std::string& scenario, const Overrides& overrides = {}) {
         std::istringstream text(scenario);
-        const ReadScenario read = readScenario(text);
-        for (const ScenarioFault& fault : read.faults)
-            ADD_FAILURE() << fault.line << ": " << fault.text;
+        const Scenario read = readScenario(text);
+        for (const std::string& fault : read.faults)
+            ADD_FAILURE() << fault;
         cycles.clear();
-        Desk device(read.scenario, openRecording);
+        Desk device(read);
         const talux::Settings settings(space[0]);
         for (Cycle cycle; cycles.size() < 100000 && device.step(settings, overrides, cycle);)
             cycles.push_back(cycle);
@@ -45,22 +43,17 @@ public:
 
     [[nodiscard]] talux::Settings settings() const { return talux::Settings(space[0]); }
 
-    static bool signals(const Cycle& cycle, std::size_t function) {
-        const auto word =
-            static_cast<std::uint32_t>(cycle.outputs.words[Word::functions1 + (function - 1) / 32]);
-        return (word >> (function - 1) % 32 & 1U) != 0;
-    }
     // When the function came first, in seconds; -1: never.
     [[nodiscard]] double begins(std::size_t function) const {
         for (const Cycle& cycle : cycles)
-            if (signals(cycle, function)) return cycle.second;
+            if (cycle.outputs.functions[function]) return cycle.second;
         return -1;
     }
     // For how long it was there.
     [[nodiscard]] double lasts(std::size_t function) const {
         double seconds = 0;
         for (const Cycle& cycle : cycles)
-            seconds += signals(cycle, function) ? kCycle : 0;
+            seconds += cycle.outputs.functions[function] ? kCycle : 0;
         return seconds;
     }
 

@@ -25,12 +25,11 @@ double leads(const Sample& sample) {
 }
 
 TEST(DeskNetwork, HasTheVoltagesOfASolidFaultInAnIsolatedNetwork) {
-    for (int phase = 0; phase < kPhases; ++phase) {
+    for (std::size_t phase = 0; phase < kPhases; ++phase) {
         const Sample sample = settled(kIsolated, {.phase = phase, .ohm = 0, .forward = true});
         EXPECT_NEAR(std::abs(sample.voltage[0]), kE, kExact);
-        for (int k = 0; k < kPhases; ++k)
-            EXPECT_NEAR(std::abs(sample.voltage[static_cast<std::size_t>(k) + 1]), k == phase ? 0 : 20,
-                        kExact);
+        for (std::size_t k = 0; k < kPhases; ++k)
+            EXPECT_NEAR(std::abs(sample.voltage[k + 1]), k == phase ? 0 : 20, kExact);
     }
 }
 
@@ -67,8 +66,8 @@ TEST(DeskNetwork, FollowsTheCurveOfFaultResistance) {
 
 TEST(DeskNetwork, KeepsTheSumsOfPhasesWithLoadAndWrongWiring) {
     Network network(kIsolated, {.ampere = 200, .noise = 0.01});
-    network.wiring().currentReversed[1] = true;
-    network.wiring().fuseMissing[2] = true;
+    network.wiring.currentReversed[1] = true;
+    network.wiring.fuseMissing[2] = true;
     network.strike(EarthFault{.phase = 1, .ohm = 300, .forward = true});
     network.strike(ShortCircuit{.from = 0, .to = 2, .ampere = 2000, .forward = true});
     for (int step = 0; step < 50; ++step) {

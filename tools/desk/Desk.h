@@ -2,12 +2,9 @@
 #ifndef TALUX_DESK_DESK_H
 #define TALUX_DESK_DESK_H
 
-#include <memory>
-
 #include "tools/desk/Outputs.h"
 #include "tools/desk/Replay.h"
 #include "tools/desk/Scenario.h"
-#include "tools/desk/Statistics.h"
 
 namespace desk {
 
@@ -20,62 +17,80 @@ struct Cycle {
     Outputs outputs;
     talux::MessRecord01 record{};
     talux::MessRecord02 second_record{};
+    int transients = 0; // since the start
 };
 
 // Carries out the events of a scenario. Needs no store: the settings are given.
 class Desk {
 public:
-    explicit Desk(const Scenario& scenario) : script(scenario), network(scenario.grid, scenario.load) {}
+    explicit Desk(const Scenario& scenario) : network(scenario.grid, scenario.load), script(scenario) {}
 
     // The next cycle; false when the scenario has ended. While the program "restarts", nothing is published:
     // isDown().
     bool step(const talux::Settings& settings, const Overrides& overrides, Cycle& cycle);
 
     [[nodiscard]] bool isDown() const { return downUntil > time; }
-    [[nodiscard]] int transients() const { return detection.transients(); }
 
     // Ends all signals that last only for their duration.
     void acknowledge() { detection.acknowledge(); }
 
-private:
-    const Scenario& script;
+    // What events change.
     Network network;
-    Detection detection;
     std::bitset<kInputs> inputs;
+    void strike(const EarthFault& fault);
+    void restrike(const EarthFault& fault, double every, double during); // until it is cleared
+    void clear();
+    void restart();
+    void replay(const std::string& path);
+    void rotate(const bool& isReversed) { network.wiring.rotationReversed = isReversed; }
+    void setFrequency(const double& hertz) { network.grid.frequency = hertz; }
+    void setLoad(const double& ampere) { network.load.ampere = ampere; }
+    void end() { ended = true; }
+
+private:
+    // Strikes again and again, each time for a while.
+    struct Restriking {
+        EarthFault fault;
+        double every, during; // seconds
+        double next, extinguished = 0;
+    };
+    const Scenario& script;
+    Detection detection;
     std::size_t next = 0; // event
     double time = 0, downUntil = 0;
     std::int32_t count = 0;
     bool ended = false, isForward = true;
     std::optional<Restriking> restriking;
-    double restrikeAt = 0, extinguishAt = 0;
-    std::unique_ptr<Recording> recording;
+    Recording recording; // while it is replayed
     double recordingSince = 0;
 
-    void carryOut(const Event& event);
     void strikeAgain();
     Sample sample();
 };
 
-// The desk in the store: group, counters, snapshot, overrides, acknowledgement.
-class Publisher {
+// Largest, smallest and mean values of an interval.
+class Statistics {
 public:
-    Publisher();
-
-    // Publishes a cycle; false when another program writes the group.
-    [[nodiscard]] bool publish(const Cycle& cycle, int transients);
-
-    // Fills the snapshot when somebody has asked for one.
-    static void answerRequest(const Cycle& cycle);
-
-    // True once for each press of the reset button.
-    static bool takeAcknowledgement();
+    // Takes the values of a cycle; the record of the interval, `stat_intervall` minutes, when it is over.
+    std::optional<talux::StatRecord_c0> add(const Cycle& cycle, const talux::Settings& settings);
 
 private:
-    talux::Group<talux::Run<float, kValues>, talux::Run<std::int32_t, kRelays + kInputs>,
-                 talux::Run<std::int32_t, kWords>, talux::Record<talux::MessRecord01>,
-                 talux::Record<talux::MessRecord02>>
-        group;
+    talux::StatRecord_c0 running{};
+    int cycles = 0, transientsBefore = 0;
+    double seconds = 0;
 };
+
+// Writes a cycle to the store as one group, also as the snapshot if somebody has asked for one; false when
+// another program writes the group.
+[[nodiscard]] bool publish(const Cycle& cycle);
+
+Overrides readOverrides();
+
+// True once for each press of the reset button.
+bool takeAcknowledgement();
+
+// The factory settings in this program's own memory, for programs that do not attach the store.
+const stVarSpace& factorySpace();
 
 } // namespace desk
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <optional>
 #include <utility>
 
@@ -32,30 +33,27 @@ bool isBetween(double angle, double min, double max) {
 }
 
 Direction cosPhi(const View& view) {
-    static constexpr Setting<float> kMin{"cos_Iw_min"}, kAngle{"cos_w_min"};
     if (!view.isEarthFault) return Direction::none;
     const Phasor current = againstDrive(view);
-    if (std::abs(std::abs(degrees(current)) - 90) < view.settings[kAngle]) return Direction::none;
-    return bySign(current.real(), view.settings[kMin]);
+    if (std::abs(std::abs(degrees(current)) - 90) < view[{"cos_w_min"}]) return Direction::none;
+    return bySign(current.real(), view[{"cos_Iw_min"}]);
 }
 
 Direction sinPhi(const View& view) {
-    static constexpr Setting<float> kMin{"sin_I_min"}, kAngle{"sin_w_min"};
     if (!view.isEarthFault) return Direction::none;
     const Phasor current = againstDrive(view);
     const double angle = std::abs(degrees(current));
-    if (std::min(angle, 180 - angle) < view.settings[kAngle]) return Direction::none;
-    return bySign(current.imag(), view.settings[kMin]);
+    if (std::min(angle, 180 - angle) < view[{"sin_w_min"}]) return Direction::none;
+    return bySign(current.imag(), view[{"sin_I_min"}]);
 }
 
 // Forward between the two limit angles of the current against -U0, backward in the opposite range.
 Direction cosSin(const View& view) {
-    static constexpr Setting<float> kMin{"CosSin_I_min"}, kFirst{"CosSin_angle1"}, kSecond{"CosSin_angle2"};
     const Phasor current = againstDrive(view);
-    if (!view.isEarthFault || std::abs(current) < view.settings[kMin]) return Direction::none;
+    if (!view.isEarthFault || std::abs(current) < view[{"CosSin_I_min"}]) return Direction::none;
     const double angle = -degrees(current); // lagging is positive, as in phiUI0
-    const double min = std::min(view.settings[kFirst], view.settings[kSecond]);
-    const double max = std::max(view.settings[kFirst], view.settings[kSecond]);
+    const double min = std::min(view[{"CosSin_angle1"}], view[{"CosSin_angle2"}]);
+    const double max = std::max(view[{"CosSin_angle1"}], view[{"CosSin_angle2"}]);
     if (isBetween(angle, min, max)) return Direction::forward;
     return isBetween(angle, min + 180, max + 180) ? Direction::backward : Direction::none;
 }
@@ -66,33 +64,33 @@ bool isLarge(const View& view, const Harmonic& harmonic, double minPercent, doub
            harmonic.current >= minAmpere;
 }
 
-// Sign of the angle between voltage and current; the limit angle keeps away from active current. 0: of 250
-// Hz, 1: of the settable frequency.
-template <std::size_t number>
-Direction harmonic(const View& view) {
-    static constexpr struct {
-        Setting<float> voltage, current, angle;
-    } kSettings[] = {{{"harm1_Umin"}, {"harm1_Ice"}, {"harm1_angle"}},
-                     {{"harm2_Umin"}, {"harm2_Ice"}, {"harm2_angle"}}};
-    const auto& [voltage, current, angle] = kSettings[number];
-    const auto& s = view.settings;
-    const Harmonic& each = view.harmonics[number];
+// Sign of the angle between voltage and current; the limit angle keeps away from active current.
+Direction ofHarmonic(const View& view, const Harmonic& each, double minPercent, double minAmpere,
+                     double angle) {
     const auto sine = [](double degrees) { return turn(degrees).imag(); };
-    if (!isLarge(view, each, s[voltage], s[current]) || std::abs(sine(each.degrees)) < sine(s[angle]))
+    if (!isLarge(view, each, minPercent, minAmpere) || std::abs(sine(each.degrees)) < sine(angle))
         return Direction::none;
     return each.degrees > 0 ? Direction::forward : Direction::backward;
 }
 
+Direction fifth(const View& view) {
+    return ofHarmonic(view, view.harmonics[0], view[{"harm1_Umin"}], view[{"harm1_Ice"}],
+                      view[{"harm1_angle"}]);
+}
+
+Direction settable(const View& view) {
+    return ofHarmonic(view, view.harmonics[1], view[{"harm2_Umin"}], view[{"harm2_Ice"}],
+                      view[{"harm2_angle"}]);
+}
+
 // Of the upper frequency of fx2: the angle of Y0 against the two ranges, the backward one first.
 Direction admittance(const View& view) {
-    static constexpr Setting<float> kVoltage{"adm_U_min"}, kCurrent{"adm_I_min_1"},
-        kForwardMin{"adm_Phi_FW_min"}, kForwardMax{"adm_Phi_FW_max"}, kBackwardMin{"adm_Phi_BW_min"},
-        kBackwardMax{"adm_Phi_BW_max"};
-    const auto& s = view.settings;
     const Harmonic& each = view.harmonics[3];
-    if (!isLarge(view, each, s[kVoltage], s[kCurrent])) return Direction::none;
-    if (isBetween(-each.degrees, s[kBackwardMin], s[kBackwardMax])) return Direction::backward;
-    return isBetween(-each.degrees, s[kForwardMin], s[kForwardMax]) ? Direction::forward : Direction::none;
+    if (!isLarge(view, each, view[{"adm_U_min"}], view[{"adm_I_min_1"}])) return Direction::none;
+    const double angle = -each.degrees;
+    if (isBetween(angle, view[{"adm_Phi_BW_min"}], view[{"adm_Phi_BW_max"}])) return Direction::backward;
+    if (isBetween(angle, view[{"adm_Phi_FW_min"}], view[{"adm_Phi_FW_max"}])) return Direction::forward;
+    return Direction::none;
 }
 
 Direction transientOf(const View& view) {
@@ -125,8 +123,8 @@ constexpr Method kTable[] = {
     {28, 2, transientOf, "qu2_active", "qu2_SigDur", "qu2_SigDur_LED"},
     {30, 3, transientOf, "qu2_DE_active", "qu2_SigDur", "qu2_SigDur_LED", "DE_t"},
     {32, 4, restrikingOf, "qui_active", "qui_SigDur", "qui_SigDur_LED"},
-    {40, 5, harmonic<0>, "harm1_active", "harm1_SigDur", "harm1_SigDur_LED", "harm1_SigDel", "harm1_cycle"},
-    {42, 6, harmonic<1>, "harm2_active", "harm2_SigDur", "harm2_SigDur_LED", "harm2_SigDel", "harm2_cycle"},
+    {40, 5, fifth, "harm1_active", "harm1_SigDur", "harm1_SigDur_LED", "harm1_SigDel", "harm1_cycle"},
+    {42, 6, settable, "harm2_active", "harm2_SigDur", "harm2_SigDur_LED", "harm2_SigDel", "harm2_cycle"},
     {34, 8, cosPhi, "cos_active", "cos_SigDur", "cos_SigDur_LED", "cos_SigDel", "cos_cycle"},
     {36, 9, sinPhi, "sin_active", "sin_SigDur", "sin_SigDur_LED", "sin_SigDel", "sin_cycle"},
     {38, 0, cosSin, "cos_sin_active", "cos_sin_SigDur", "cos_sin_SigDur_LED", "cos_sin_SigDel",
@@ -155,22 +153,18 @@ void Detection::set(std::size_t function, bool on) {
         side.functions[function] = on;
 }
 
-// What relays signal then.
+// The relays' signal after that.
 bool Detection::signal(std::size_t function, bool decided, double delay, const Durations& durations) {
     for (std::size_t k = 0; k < kSides; ++k)
         sides[k].functions[function] = sides[k].signals[function].step(decided, delay, durations[k]);
     return relays()[function];
 }
 
-bool Detection::isShortCircuit() const {
-    return relays()[57] || relays()[61] || relays()[87];
-}
-
 void Detection::step(const Phasors& phasors, const Harmonics& harmonics, const std::vector<Onset>& onsets,
                      const Settings& settings) {
-    static constexpr Setting<float> kThreshold{"Uearth"};
+    static constexpr Setting<float> kThreshold{"Uearth"}, kNominal{"U12"};
     time += kCycle;
-    const double nominal = phaseVoltageOf(settings);
+    const double nominal = settings[kNominal] / 1000.0 / std::numbers::sqrt3;
     const bool wasEarthFault = std::exchange(earthFault, std::abs(phasors.primaryVoltage[0]) >=
                                                              settings[kThreshold] / 100.0 * nominal);
     if (wasEarthFault && !earthFault) transient = Direction::none;
@@ -209,23 +203,20 @@ Direction Detection::restriking(const Settings& settings) {
 
 // 5 to 7 healthy phases, 16 and 17 the earth fault, 18 to 23 the faulty phase, at once and delayed.
 void Detection::voltages(const View& view) {
-    static constexpr Setting<float> kOk{"U123ok"}, kFaulty{"U123erd"}, kDelay{"Uearth_SigDel"},
-        kDuration{"Uearth_SigDur"}, kLedDuration{"Uearth_SigDur_LED"};
-    const auto& s = view.settings;
-    const Durations durations{s[kDuration], s[kLedDuration]};
+    const Durations durations{view[{"Uearth_SigDur"}], view[{"Uearth_SigDur_LED"}]};
     std::array<bool, kPhases> ok{}, low{};
     for (std::size_t k = 0; k < kPhases; ++k) {
         const double percent = std::abs(view.phasors.primaryVoltage[k + 1]) / view.nominal * 100;
-        ok[k] = percent >= s[kOk];
-        low[k] = percent <= s[kFaulty];
+        ok[k] = percent >= view[{"U123ok"}];
+        low[k] = percent <= view[{"U123erd"}];
         set(5 + k, ok[k]);
     }
     set(16, earthFault);
-    signal(17, earthFault, s[kDelay], durations);
+    signal(17, earthFault, view[{"Uearth_SigDel"}], durations);
     for (std::size_t k = 0; k < kPhases; ++k) {
         const bool faulty = earthFault && low[k] && ok[(k + 1) % 3] && ok[(k + 2) % 3];
         set(18 + k, faulty);
-        signal(21 + k, faulty, s[kDelay], durations);
+        signal(21 + k, faulty, view[{"Uearth_SigDel"}], durations);
     }
 }
 
@@ -233,20 +224,19 @@ void Detection::decide(std::size_t number, const View& view) {
     static_assert(std::size(kTable) == kMethods);
     const Method& method = kTable[number];
     const auto& s = view.settings;
-    auto& [last, kept] = methods[number];
-    if (!view.isEarthFault) kept = Direction::none;
+    if (!view.isEarthFault) kept[number] = Direction::none;
     Direction decision = s[method.active] ? method.decide(view) : Direction::none;
     // After the fault has gone, U0 decays and the feeder's own current looks like a backward fault.
-    if (kept != Direction::none) decision = kept;
+    if (kept[number] != Direction::none) decision = kept[number];
     const bool decided = decision != Direction::none;
-    const Direction before = std::exchange(last, decision);
+    const Direction before = std::exchange(decisions[number], decision);
     if (decided && before != Direction::none && before != decision)
         for (Side& side : sides)
             side.signals[method.forward] = Signal();
     const double delay =
         (method.delay ? s[*method.delay] : 0.0F) + (method.cycles ? kCycle * s[*method.cycles] : 0.0);
     const bool onRelay = signal(method.forward, decided, delay, {s[method.duration], s[method.ledDuration]});
-    if (decided && onRelay) kept = decision;
+    if (decided && onRelay) kept[number] = decision;
     for (Side& side : sides) {
         const bool on = side.functions[method.forward];
         Direction& signalled = side.directions[number];
@@ -276,7 +266,6 @@ void Detection::combine(const Settings& settings) {
 
 // 57 to 64 without direction, 8 more forward, 16 more backward; 87 to 89 of the earth current.
 void Detection::shortCircuits(const View& view) {
-    static constexpr Setting<bool> kActive{"sc_active"}, kDirectional{"sc_dir_active"};
     static constexpr struct {
         Setting<bool> active;
         Setting<float> min, time;
@@ -284,22 +273,20 @@ void Detection::shortCircuits(const View& view) {
     } kClasses[] = {{{"sc_class_1_active"}, {"sc_I_min_1"}, {"sc_T_min_1"}, 57, 8, 1, 3},
                     {{"sc_class_2_active"}, {"sc_I_min_2"}, {"sc_T_min_2"}, 61, 8, 1, 3},
                     {{"sc_class_E_active"}, {"sc_I_min_E"}, {"sc_T_min_E"}, 87, 1, 0, 0}};
-    static constexpr Setting<float> kDuration{"sc_SigDur"}, kForwardMin{"sc_Phi_min_fwd"},
-        kForwardMax{"sc_Phi_max_fwd"}, kBackwardMin{"sc_Phi_min_bwd"}, kBackwardMax{"sc_Phi_max_bwd"};
     const auto& s = view.settings;
-    const auto isOfPhase = [&](std::size_t k, double min, double max) {
-        const auto& i = view.phasors.primaryCurrent[k];
-        return i != Phasor{} && isBetween(angleBetween(view.phasors.primaryVoltage[k], i), min, max);
-    };
+    const Durations durations{view[{"sc_SigDur"}], view[{"sc_SigDur"}]};
     for (const auto& each : kClasses) {
         std::array<bool, 3> any{};
         for (std::size_t k = each.firstPhase; k <= each.lastPhase; ++k) {
-            const double ampere = std::abs(view.phasors.primaryCurrent[k]);
-            const bool decided = s[kActive] && s[each.active] && ampere >= s[each.min];
-            const bool on = signal(each.function + k, decided, s[each.time], {s[kDuration], s[kDuration]});
-            const bool directed = on && decided && s[kDirectional];
-            const std::array<bool, 3> now{on, directed && isOfPhase(k, s[kForwardMin], s[kForwardMax]),
-                                          directed && isOfPhase(k, s[kBackwardMin], s[kBackwardMax])};
+            const Phasor& current = view.phasors.primaryCurrent[k];
+            const bool decided =
+                view.isSet({"sc_active"}) && s[each.active] && std::abs(current) >= s[each.min];
+            const bool on = signal(each.function + k, decided, s[each.time], durations);
+            const bool directed = on && decided && view.isSet({"sc_dir_active"}) && current != Phasor{};
+            const double angle = angleBetween(view.phasors.primaryVoltage[k], current);
+            const std::array<bool, 3> now{
+                on, directed && isBetween(angle, view[{"sc_Phi_min_fwd"}], view[{"sc_Phi_max_fwd"}]),
+                directed && isBetween(angle, view[{"sc_Phi_min_bwd"}], view[{"sc_Phi_max_bwd"}])};
             for (std::size_t way = 0; way < now.size(); ++way) {
                 set(each.function + way * each.step + k, now[way]);
                 any[way] = any[way] || now[way];
@@ -312,16 +299,16 @@ void Detection::shortCircuits(const View& view) {
 
 // 82 too low, 83 too high, 84 either.
 void Detection::frequencies(const View& view) {
-    static constexpr Setting<bool> kActive{"freq_active"};
-    static constexpr Setting<float> kReference{"freq_f_grid"}, kBelow{"freq_df_min"}, kAbove{"freq_df_max"},
-        kDelay{"freq_T_delay"}, kHold{"freq_T_hold"};
     static constexpr Setting<std::int32_t> kCycles{"freq_N_cycle"};
-    const auto& s = view.settings;
-    const double deviation = view.phasors.frequency - s[kReference];
-    const bool low = s[kActive] && deviation <= -s[kBelow], high = s[kActive] && deviation >= s[kAbove];
-    const bool decided[] = {low, high, low || high};
-    for (std::size_t k = 0; k < std::size(decided); ++k)
-        signal(82 + k, decided[k], s[kDelay] + kCycle * s[kCycles], {s[kHold], s[kHold]});
+    const bool isActive = view.isSet({"freq_active"});
+    const double deviation = view.phasors.frequency - view[{"freq_f_grid"}];
+    const double delay = view[{"freq_T_delay"}] + kCycle * view.settings[kCycles];
+    const Durations hold{view[{"freq_T_hold"}], view[{"freq_T_hold"}]};
+    const bool low = isActive && deviation <= -view[{"freq_df_min"}],
+               high = isActive && deviation >= view[{"freq_df_max"}];
+    signal(82, low, delay, hold);
+    signal(83, high, delay, hold);
+    signal(84, low || high, delay, hold);
 }
 
 } // namespace desk

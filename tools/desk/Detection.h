@@ -28,6 +28,10 @@ struct View {
     bool isEarthFault;    // U0 above Uearth
     Direction transient;  // of the first charge of this earth fault
     Direction restriking; // of the ignitions, when there are enough of them
+
+    // Settings by name.
+    double operator[](talux::Setting<float> name) const { return settings[name]; }
+    [[nodiscard]] bool isSet(talux::Setting<bool> name) const { return settings[name]; }
 };
 
 // A decision that has to persist, and a signal that lasts.
@@ -54,7 +58,7 @@ public:
     [[nodiscard]] const Functions& relays() const { return sides[kRelaySide].functions; }
     [[nodiscard]] const Functions& leds() const { return sides[kLedSide].functions; }
     [[nodiscard]] bool isEarthFault() const { return earthFault; }
-    [[nodiscard]] bool isShortCircuit() const;
+    [[nodiscard]] bool isShortCircuit() const { return relays()[57] || relays()[61] || relays()[87]; }
     [[nodiscard]] int transients() const { return transientCount; } // since the start
 
 private:
@@ -63,18 +67,14 @@ private:
     // Relays and LEDs signal the same decisions for durations of their own.
     enum : unsigned char { kRelaySide, kLedSide, kSides };
     using Durations = std::array<double, kSides>;
+
     struct Side {
         Functions functions;
         std::array<Signal, kFunctions + 1> signals;
         std::array<Direction, kMethods> directions{}; // signalled last
     };
-    struct MethodState {
-        Direction decided = Direction::none;
-        Direction kept = Direction::none; // what it has signalled in this earth fault
-    };
-
     std::array<Side, kSides> sides;
-    std::array<MethodState, kMethods> methods;
+    std::array<Direction, kMethods> decisions{}, kept{}; // kept: signalled in this earth fault
     double time = 0;
     bool earthFault = false;
     Direction transient = Direction::none;

@@ -28,7 +28,6 @@ constexpr Channel kCurrents[] = {
     {{"kni3"}, {"phi_corr_I3"}, {"Ipol3"}},
 };
 constexpr Setting<bool> kVoltageSum{"Uen_calc"}, kCurrentSum{"3Io_calc"};
-constexpr Setting<float> kNominal{"U12"};
 
 Phasor corrected(const Phasor& secondary, const Channel& channel, const Settings& settings) {
     const double sign = settings[channel.polarity] == static_cast<talux::choice::Upol>(2) ? -1 : 1;
@@ -44,10 +43,6 @@ Phasor toNextPhase(const Four& voltage, std::size_t k) {
 
 double angleBetween(const Phasor& voltage, const Phasor& current) {
     return current == Phasor{} ? 0 : degrees(voltage * std::conj(current));
-}
-
-double phaseVoltageOf(const Settings& settings) {
-    return settings[kNominal] / 1000.0 / std::numbers::sqrt3;
 }
 
 Phasors correct(const Sample& sample, double kilovolt, const Settings& settings) {
@@ -75,7 +70,7 @@ Harmonics harmonicsOf(const Phasors& phasors, const Network& network, const Sett
     static constexpr Setting<float> kSettable{"harm2_f"}, kLower{"adm_fu"}, kUpper{"adm_fo"};
     const double hertz[kHarmonics] = {250, settings[kSettable], settings[kLower], settings[kUpper]};
     constexpr double kShares[kHarmonics] = {0.03, 0.04, 0.05, 0.05};
-    const Grid& grid = network.grid();
+    const Grid& grid = network.grid;
     const double ampere = forward ? grid.capacitive - grid.own : grid.own;
     const double perKilovolt = ampere * std::numbers::sqrt3 / grid.kilovolt / grid.frequency; // and hertz
     Harmonics result;
@@ -91,7 +86,7 @@ Values valuesOf(const Phasors& phasors, const Harmonics& harmonics) {
     const auto& [u, i, us, is, hertz] = phasors;
     Values values{};
     const auto put = [&values](Measured<float> first, std::size_t number, double value) {
-        values[positionOf(first) + number] = static_cast<float>(value);
+        values.of(first, number) = static_cast<float>(value);
     };
     Four powers;
     for (std::size_t k = 0; k < powers.size(); ++k) {
@@ -136,7 +131,7 @@ MessRecord01 recordOf(const Phasors& phasors, const Values& values) {
     Floats members;
     const auto addFour = [&](Measured<float> first) {
         for (std::size_t k = 0; k < 4; ++k) // in the record the residual value comes first
-            members.add(values[positionOf(first) + (k + 3) % 4]);
+            members.add(values.of(first, (k + 3) % 4));
     };
     const Four& u = phasors.primaryVoltage;
     addFour({"U1_prim"});
@@ -150,7 +145,7 @@ MessRecord01 recordOf(const Phasors& phasors, const Values& values) {
     }
     std::ranges::for_each(kPowers, addFour);
     for (const Measured<float> each : kTotals)
-        members.add(values[positionOf(each)]);
+        members.add(values.of(each));
     MessRecord01 record{};
     members.copyTo(record, offsetof(MessRecord01, U0p));
     return record;

@@ -2,8 +2,7 @@
 // analog inputs, and all values that follow from them.
 //
 // The plant's transformers give 100 V for the nominal voltage (the open delta 1 / 115 for 20 kV, in
-// proportion) and 1 A for 100 A: the factory settings of knu.. and kni.. fit a network of 20 kV. A wrong
-// ratio or polarity in the settings shows as wrong primary values, as on a device.
+// proportion) and 1 A for 100 A: the factory settings of knu.. and kni.. fit a network of 20 kV.
 #ifndef TALUX_DESK_METER_H
 #define TALUX_DESK_METER_H
 
@@ -42,14 +41,23 @@ using Harmonics = std::array<Harmonic, kHarmonics>;
 Harmonics harmonicsOf(const Phasors& phasors, const Network& network, const talux::Settings& settings,
                       bool forward);
 
+// The values of parameters with consecutive ids, by name.
+template <class Value, std::size_t count, int firstId>
+struct Consecutive : std::array<Value, count> {
+    // The value `plus` positions after the named one.
+    Value& of(talux::Measured<Value> name, std::size_t plus = 0) { return (*this)[position(name) + plus]; }
+    const Value& of(talux::Measured<Value> name, std::size_t plus = 0) const {
+        return (*this)[position(name) + plus];
+    }
+    static std::size_t position(talux::Measured<Value> name) {
+        return static_cast<std::size_t>(name.id() - firstId);
+    }
+};
+
 // U1_prim and the 67 values that follow it.
 inline constexpr talux::Measured<float> kFirstValue{"U1_prim"};
 inline constexpr std::size_t kValues = 68;
-using Values = std::array<float, kValues>;
-
-constexpr std::size_t positionOf(talux::Measured<float> value) {
-    return static_cast<std::size_t>(value.id() - kFirstValue.id());
-}
+using Values = Consecutive<float, kValues, kFirstValue.id()>;
 
 // Values one after the other, as records and runs of parameters hold them.
 class Floats : public std::vector<float> {
@@ -68,8 +76,6 @@ talux::MessRecord01 recordOf(const Phasors& phasors, const Values& values);
 
 // Of the apparent power, in degrees; 0 without a current.
 double angleBetween(const Phasor& voltage, const Phasor& current);
-
-double phaseVoltageOf(const talux::Settings& settings); // nominal, kV
 
 } // namespace desk
 

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
-#include <utility>
 
 namespace desk {
 
@@ -24,28 +22,15 @@ void Sample::calculateResidual() {
     current[0] = sumOfPhases(current);
 }
 
-Network::Network(const Grid& grid, const Load& connected) : constants(grid), feederLoad(connected) {}
-
-double Network::phaseVoltage() const {
-    return constants.kilovolt / std::numbers::sqrt3;
-}
-
 Phasor Network::source(std::size_t phase) const {
     return phaseVoltage() * turn(-120.0 * static_cast<double>(phase));
 }
 
 // In ampere per kilovolt, so that a product with an ohm takes a thousandth.
 Phasor Network::earthAdmittance() const {
-    const double perKilovolt = constants.capacitive / phaseVoltage();
-    switch (constants.neutral) {
-    case Neutral::isolated:
-        return perKilovolt * Phasor(constants.damping, 1);
-    case Neutral::resonant:
-        return perKilovolt * Phasor(constants.damping, constants.detuning);
-    case Neutral::lowResistance:
-        return perKilovolt * Phasor(constants.damping, 1) + constants.neutralAmpere / phaseVoltage();
-    }
-    return 0;
+    const double reactive = grid.neutral == Neutral::resonant ? grid.detuning : 1;
+    const Phasor capacitive = grid.capacitive / phaseVoltage() * Phasor(grid.damping, reactive);
+    return capacitive + grid.neutralAmpere / phaseVoltage(); // 0 without a resistor
 }
 
 double Network::faultOhm(const EarthFault& fault) const {
@@ -70,21 +55,17 @@ Phasor Network::settledResidual() const {
 }
 
 double Network::timeConstant() const {
-    const double omega = 2 * std::numbers::pi * constants.frequency;
-    if (earthFaults.empty()) return 2 / (omega * std::max(constants.damping, 0.01));
+    const double omega = 2 * std::numbers::pi * grid.frequency;
+    if (earthFaults.empty()) return 2 / (omega * std::max(grid.damping, 0.01));
     const double ohm = faultOhm(earthFaults[0]) / 1000;
-    return std::max(0.005, ohm * constants.capacitive / phaseVoltage() / omega);
+    return std::max(0.005, ohm * grid.capacitive / phaseVoltage() / omega);
 }
 
 void Network::strike(const EarthFault& fault) {
     earthFaults.push_back(fault);
     const double share = std::min(1.0, std::abs(settledResidual()) / phaseVoltage());
-    const double capacitive = fault.forward ? constants.capacitive - constants.own : constants.own;
+    const double capacitive = fault.forward ? grid.capacitive - grid.own : grid.own;
     onsets.push_back({fault.forward, capacitive * share});
-}
-
-void Network::strike(const ShortCircuit& fault) {
-    shortCircuits.push_back(fault);
 }
 
 void Network::clear() {
@@ -98,10 +79,6 @@ void Network::advance(double seconds) {
     residual = settled + (residual - settled) * std::exp(-seconds / timeConstant());
 }
 
-std::vector<Onset> Network::takeOnsets() {
-    return std::exchange(onsets, {});
-}
-
 // Between -1 and 1, the same in every run and on every machine.
 double Network::random() {
     randomState = static_cast<std::uint32_t>(std::uint64_t{randomState} * 48271 % 2147483647);
@@ -111,8 +88,8 @@ double Network::random() {
 Network::PerPhase Network::voltages() const {
     PerPhase voltage{};
     for (std::size_t k = 0; k < kPhases; ++k)
-        voltage[k] = source(k) * (1 + 0.04 * feederLoad.drift * std::sin(time / 7 + static_cast<double>(k))) +
-                     residual;
+        voltage[k] =
+            source(k) * (1 + 0.04 * load.drift * std::sin(time / 7 + static_cast<double>(k))) + residual;
     for (const ShortCircuit& fault : shortCircuits) {
         const Phasor drop = 0.2 * (voltage[fault.from] - voltage[fault.to]); // on either side
         voltage[fault.from] -= drop;
@@ -123,14 +100,14 @@ Network::PerPhase Network::voltages() const {
 
 Network::PerPhase Network::currents(const PerPhase& voltage) {
     constexpr Phasor kJ{0, 1};
-    const double drift = feederLoad.drift, lag = feederLoad.degrees * (1 + drift * std::sin(time / 13));
-    const Phasor own = kJ * constants.own / phaseVoltage() / 3.0;
+    const double drift = load.drift, lag = load.degrees * (1 + drift * std::sin(time / 13));
+    const Phasor own = kJ * grid.own / phaseVoltage() / 3.0;
     PerPhase current{};
     for (std::size_t k = 0; k < kPhases; ++k) {
         const auto phase = static_cast<double>(k);
         const double unbalance = 0.02 * drift * std::sin(time / 5 + 2 * phase);
-        const double ampere = feederLoad.ampere * (1 + drift * std::sin(time / 11) + unbalance) *
-                              (1 + feederLoad.noise * random());
+        const double ampere =
+            load.ampere * (1 + drift * std::sin(time / 11) + unbalance) * (1 + load.noise * random());
         current[k] = ampere * turn(-120 * phase - lag) + own * voltage[k];
     }
     for (const ShortCircuit& fault : shortCircuits) {
@@ -154,17 +131,17 @@ Sample Network::look() {
     const PerPhase voltage = voltages(), current = currents(voltage);
     Sample sample;
     for (std::size_t k = 0; k < kPhases; ++k) {
-        const std::size_t from = connections.currentFrom[k];
-        const Phasor ampere = connections.conductorOpen[from] ? Phasor{} : current[from];
-        sample.current[k + 1] = connections.currentReversed[k] ? -ampere : ampere;
-        const Phasor kilovolt = connections.fuseMissing[k] ? Phasor{} : voltage[k];
-        sample.voltage[k + 1] = connections.voltageReversed[k] ? -kilovolt : kilovolt;
+        const std::size_t from = wiring.currentFrom[k];
+        const Phasor ampere = wiring.conductorOpen[from] ? Phasor{} : current[from];
+        sample.current[k + 1] = wiring.currentReversed[k] ? -ampere : ampere;
+        const Phasor kilovolt = wiring.fuseMissing[k] ? Phasor{} : voltage[k];
+        sample.voltage[k + 1] = wiring.voltageReversed[k] ? -kilovolt : kilovolt;
     }
-    if (connections.rotationReversed)
+    if (wiring.rotationReversed)
         for (Four* four : {&sample.voltage, &sample.current})
             std::swap((*four)[2], (*four)[3]);
     sample.calculateResidual();
-    sample.frequency = constants.frequency + 0.005 * std::sin(time / 9);
+    sample.frequency = grid.frequency + 0.005 * std::sin(time / 9);
     return sample;
 }
 

@@ -2,24 +2,18 @@
 // it.
 //
 // Kilovolt and ampere, effective values; angles against the healthy voltage of L1. Currents count from the
-// busbar into the feeder, the residual voltage is (U1 + U2 + U3) / 3 and the residual current I1 + I2 + I3.
+// busbar into the feeder. Steady state is the zero-sequence circuit of symmetrical components (for instance
+// Willheim and Waters, Neutral Grounding in High-Voltage Transmission, chapters 2 and 4). E is the phase
+// voltage, p the faulty phase:
 //
-// Steady state, the zero-sequence circuit of symmetrical components (for instance Willheim and Waters,
-// Neutral Grounding in High-Voltage Transmission, chapters 2 and 4). E is the phase voltage, p the faulty
-// phase:
+//   Y0 = (Ice / E) (d + j v)      of the whole network to earth, all three phases together; v = 1, but
+//                                 resonant-earthed v = detuning = (Ice - Il) / Ice with the coil's current
+//                                 Il; low-resistance: the neutral's In / E in addition
+//   U0 = -Ep / (1 + Rf Y0)        with the fault resistance Rf
+//   If = -Y0 U0                   in the fault
+//   I0 = j (Iown / E) U0 + If     in the feeder; If only with the fault in this feeder (forward)
 //
-//   Y0 = (Ice / E) (d + j v)          of the whole network to earth, all three phases together.
-//        isolated:         v = 1      Ice is its capacitive current of a solid earth fault,
-//        resonant-earthed: v = detuning = (Ice - Il) / Ice with the coil's current Il, d = damping
-//        low-resistance:   v = 1      and the neutral's In / E in addition
-//   U0 = -Ep / (1 + Rf Y0)            with the fault resistance Rf
-//   If = -Y0 U0                       in the fault
-//   I0 = j (Iown / E) U0 + If         in the feeder; If only with the fault in this feeder (forward)
-//
-// So a backward fault gives the feeder's own capacitive current, a forward one what the rest of the network
-// sends back: -(Y0 - Yown) U0. Several faults at once (cross-country) share one U0; each then has 2 ohm more,
-// for its line and its earth.
-//
+// Several faults at once (cross-country) share one U0; each then has 2 ohm more, for its line and its earth.
 // After a change U0 approaches its new steady state exponentially: at the onset with the time constant of the
 // fault resistance and the earth capacitance, at least 5 ms, after clearing with 2 / (omega d).
 #ifndef TALUX_DESK_NETWORK_H
@@ -29,6 +23,8 @@
 #include <complex>
 #include <cstddef>
 #include <cstdint>
+#include <numbers>
+#include <utility>
 #include <vector>
 
 namespace desk {
@@ -41,7 +37,7 @@ double degrees(const Phasor& phasor);
 // Phases are counted from 0.
 inline constexpr std::size_t kPhases = 3;
 
-enum class Neutral : unsigned char { isolated, resonant, lowResistance };
+enum class Neutral : unsigned char { isolated, resonant, lowResistance }; // in the order of scenarios
 
 struct Grid {
     Neutral neutral = Neutral::isolated;
@@ -102,10 +98,15 @@ struct Onset {
 
 class Network {
 public:
-    explicit Network(const Grid& grid = {}, const Load& connected = {});
+    Grid grid;
+    Load load;
+    Wiring wiring;
+
+    explicit Network(const Grid& constants = {}, const Load& connected = {})
+        : grid(constants), load(connected) {}
 
     void strike(const EarthFault& fault);
-    void strike(const ShortCircuit& fault);
+    void strike(const ShortCircuit& fault) { shortCircuits.push_back(fault); }
     void clear(); // all faults
 
     void advance(double seconds);
@@ -113,22 +114,11 @@ public:
     [[nodiscard]] Sample look();
 
     // Since the last call; nothing when there was no onset.
-    [[nodiscard]] std::vector<Onset> takeOnsets();
-
-    [[nodiscard]] const Grid& grid() const { return constants; }
-    [[nodiscard]] Load& load() { return feederLoad; }
-    [[nodiscard]] Wiring& wiring() { return connections; }
-    void setFrequency(double hertz) { constants.frequency = hertz; }
-
-    // The steady state that U0 goes to.
-    [[nodiscard]] Phasor settledResidual() const;
+    [[nodiscard]] std::vector<Onset> takeOnsets() { return std::exchange(onsets, {}); }
 
 private:
     using PerPhase = std::array<Phasor, kPhases>;
 
-    Grid constants;
-    Load feederLoad;
-    Wiring connections;
     std::vector<EarthFault> earthFaults;
     std::vector<ShortCircuit> shortCircuits;
     std::vector<Onset> onsets;
@@ -136,10 +126,11 @@ private:
     double time = 0;
     std::uint32_t randomState = 1;
 
-    [[nodiscard]] double phaseVoltage() const;
+    [[nodiscard]] double phaseVoltage() const { return grid.kilovolt / std::numbers::sqrt3; }
     [[nodiscard]] Phasor source(std::size_t phase) const;
     [[nodiscard]] Phasor earthAdmittance() const;
     [[nodiscard]] double faultOhm(const EarthFault& fault) const;
+    [[nodiscard]] Phasor settledResidual() const;
     [[nodiscard]] double timeConstant() const;
     [[nodiscard]] PerPhase voltages() const;
     [[nodiscard]] PerPhase currents(const PerPhase& voltage);

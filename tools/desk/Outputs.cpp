@@ -4,7 +4,7 @@ namespace desk {
 
 namespace {
 
-using talux::Measured, talux::Series, talux::Settings;
+using talux::Series, talux::Settings;
 using talux::choice::BAassign, talux::choice::BApol, talux::choice::BEpol;
 
 bool isInverted(auto polarity) {
@@ -31,31 +31,7 @@ std::int32_t wordOf(const std::bitset<count>& bits) {
     return static_cast<std::int32_t>(bits.to_ulong());
 }
 
-// The values, if they are enabled.
-template <class Value, std::size_t count>
-void read(Measured<std::int32_t> enabled, talux::Run<Value, count> run,
-          std::optional<std::array<Value, count>>& values) {
-    if (enabled.get() != 0) values = run.get();
-}
-
 } // namespace
-
-Overrides readOverrides() {
-    static constexpr Measured<std::int32_t> kFunctionValues{"OVR_BAF_val"}, kRelayValues{"OVR_BA_val"},
-        kInputValues{"OVR_BE_val"};
-    static constexpr Measured<float> kMeasured{"OVR_MW_val"};
-    Overrides overrides;
-    read({"OVR_BAF_enable"}, kFunctionValues.run<kFunctions>(), overrides.functions);
-    read({"OVR_BA_enable"}, kRelayValues.run<kRelays>(), overrides.relays);
-    read({"OVR_BE_enable"}, kInputValues.run<kInputs>(), overrides.inputs);
-    read({"OVR_MW_enable"}, kMeasured.run<32>(), overrides.values);
-    return overrides;
-}
-
-bool Outputs::signals(std::size_t function) const {
-    const auto word = static_cast<std::uint32_t>(words[Word::functions1 + (function - 1) / 32]);
-    return (word >> (function - 1) % 32 & 1U) != 0;
-}
 
 Outputs outputsOf(const Detection& detection, const std::bitset<kInputs>& inputs, const Overrides& overrides,
                   const Settings& settings) {
@@ -65,9 +41,9 @@ Outputs outputsOf(const Detection& detection, const std::bitset<kInputs>& inputs
     const auto of = [&](const auto& series, std::size_t k) {
         return settings[series[static_cast<int>(k) + 1]];
     };
-    const Functions functions = overridden(detection.relays(), overrides),
-                    ledFunctions = overridden(detection.leds(), overrides);
+    const Functions ledFunctions = overridden(detection.leds(), overrides);
     Outputs result;
+    const Functions& functions = result.functions = overridden(detection.relays(), overrides);
     std::bitset<kRelays> relays;
     std::bitset<kInputs> seen;
     for (std::size_t k = 0; k < kRelays; ++k) {
@@ -82,13 +58,13 @@ Outputs outputsOf(const Detection& detection, const std::bitset<kInputs>& inputs
     }
     for (std::size_t k = 0; k < kLeds; ++k)
         result.leds[k] = isOn(of(kLedFunctions, k), of(kLedPolarities, k), ledFunctions);
-    result.words[Word::inputs] = wordOf(seen);
+    result.words.of({"y_BE"}) = wordOf(seen);
     for (std::size_t k = 0; k < 4; ++k)
-        result.words[Word::functions1 + k] = wordOf(functions >> (1 + 32 * k) & Functions(0xFFFFFFFF));
-    result.words[Word::relayStates] = wordOf(relays);
-    result.words[Word::ledStates] = wordOf(result.leds);
-    result.words[Word::earthFaultState] = detection.isEarthFault();
-    result.words[Word::shortCircuitState] = detection.isShortCircuit();
+        result.words.of({"y_BAF1"}, k) = wordOf(functions >> (1 + 32 * k) & Functions(0xFFFFFFFF));
+    result.words.of({"y_BA"}) = wordOf(relays);
+    result.words.of({"y_LED"}) = wordOf(result.leds);
+    result.words.of({"y_EarthFaultState"}) = detection.isEarthFault();
+    result.words.of({"y_ShortCircuitState"}) = detection.isShortCircuit();
     return result;
 }
 

@@ -13,23 +13,10 @@ inline constexpr std::size_t kRelays = 8, kInputs = 6, kLeds = 10;
 inline constexpr talux::Measured<std::int32_t> kFirstState{"REL1"};
 using States = std::array<std::int32_t, kRelays + kInputs>;
 
-// y_BE and the 10 words that follow it, by their position in the run.
+// y_BE and the 10 words that follow it.
 inline constexpr talux::Measured<std::int32_t> kFirstWord{"y_BE"};
-enum Word : unsigned char {
-    inputs,
-    telecontrolInputs,
-    inputFunctions,
-    functions1,
-    functions2,
-    functions3,
-    functions4,
-    relayStates,
-    ledStates,
-    earthFaultState,
-    shortCircuitState,
-    kWords
-};
-using Words = std::array<std::int32_t, kWords>;
+inline constexpr std::size_t kWords = 11;
+using StateWords = Consecutive<std::int32_t, kWords, kFirstWord.id()>;
 
 // What replaces the outputs, inputs and values of the model, read from OVR_.. in every cycle.
 struct Overrides {
@@ -38,15 +25,12 @@ struct Overrides {
     std::optional<std::array<std::int32_t, kInputs>> inputs;
     std::optional<std::array<float, 32>> values; // the first measured values
 };
-Overrides readOverrides();
 
 struct Outputs {
     States states{};
-    Words words{};
+    StateWords words{};
+    Functions functions; // as relays see them
     std::bitset<kLeds> leds;
-
-    // Whether an output function signals.
-    [[nodiscard]] bool signals(std::size_t function) const;
 };
 
 // `inputs` are the states of BE1 to BE6 before polarity and override.

@@ -45,11 +45,11 @@ std::string escaped(std::string_view text) {
 void Plot::add(const Cycle& cycle) {
     points.push_back({cycle.second, cycle.record.U0p, cycle.record.I0p});
     for (std::size_t number = kFirstSignal; number <= kFunctions; ++number) {
-        if (!cycle.outputs.signals(number)) continue;
+        if (!cycle.outputs.functions[number]) continue;
         auto& spans = signals[number];
-        const bool goesOn = !spans.empty() && spans.back().to > cycle.second - kCycle / 2;
+        const bool goesOn = !spans.empty() && spans.back().second > cycle.second - kCycle / 2;
         if (!goesOn) spans.push_back({cycle.second, cycle.second});
-        spans.back().to = cycle.second + kCycle;
+        spans.back().second = cycle.second + kCycle;
     }
 }
 
@@ -58,16 +58,17 @@ double Plot::x(double second) const {
 }
 
 // Points that are close to the last one are left out.
-void Plot::addCurve(std::string& svg, const Curve& curve, double top) const {
+void Plot::addCurve(std::string& svg, double top, double Point::*value, const char* name, const char* unit,
+                    const char* style) const {
     double max = 1e-3;
     for (const Point& point : points)
-        max = std::max(max, point.*curve.value);
-    append(svg, "<text x=\"10\" y=\"%.0f\">%s %.3g %s</text>\n", top + 12, curve.name, max, curve.unit);
+        max = std::max(max, point.*value);
+    append(svg, "<text x=\"10\" y=\"%.0f\">%s %.3g %s</text>\n", top + 12, name, max, unit);
     append(svg, "<path class=\"axis\" d=\"M%.1f,%.1f v%.1f h%.1f\"/>\n<path class=\"%s\" d=\"", kLeft, top,
-           kCurveHeight, kWidth, curve.style);
+           kCurveHeight, kWidth, style);
     double last = -1, lastX = -1;
     for (const Point& point : points) {
-        const double y = top + kCurveHeight * (1 - point.*curve.value / max);
+        const double y = top + kCurveHeight * (1 - point.*value / max);
         const double distance = std::fabs(y - last);
         const bool isNear = distance < 0.5 || (distance < 4 && x(point.second) - lastX < 2);
         if (last >= 0 && isNear && &point != &points.back()) continue;
@@ -88,17 +89,16 @@ std::string Plot::svg(const std::string& title) const {
            height);
     svg += escaped(title) + "</title>\n" + kStyle;
     double top = 30;
-    for (const Curve& curve :
-         {Curve{"U0", "kV", "voltage", &Point::voltage}, Curve{"I0", "A", "current", &Point::current}}) {
-        addCurve(svg, curve, top);
-        top += kCurveHeight + kGap;
-    }
+    addCurve(svg, top, &Point::voltage, "U0", "kV", "voltage");
+    top += kCurveHeight + kGap;
+    addCurve(svg, top, &Point::current, "I0", "A", "current");
+    top += kCurveHeight + kGap;
     for (const auto& [function, spans] : signals) {
         append(svg, "<text x=\"10\" y=\"%.1f\">", top + 12);
         svg += escaped(talux::About(kFunction).choice(static_cast<int>(function))) + "</text>\n";
-        for (const Span& span : spans)
+        for (const auto& [from, to] : spans)
             append(svg, "<rect class=\"signal\" x=\"%.1f\" y=\"%.1f\" width=\"%.1f\" height=\"12\"/>\n",
-                   x(span.from), top + 2, std::max(x(span.to) - x(span.from), 1.0));
+                   x(from), top + 2, std::max(x(to) - x(from), 1.0));
         top += kRowHeight;
     }
     const double step = end() > 30 ? 10 : end() > 10 ? 2 : 1;

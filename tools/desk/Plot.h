@@ -4,6 +4,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tools/desk/Desk.h"
@@ -21,19 +22,14 @@ private:
     struct Point {
         double second, voltage, current;
     };
-    struct Span {
-        double from, to;
-    };
-    struct Curve {
-        const char *name, *unit, *style;
-        double Point::*value;
-    };
+    using Span = std::pair<double, double>; // from, to
     std::vector<Point> points;
     std::map<std::size_t, std::vector<Span>> signals; // by output function
 
     [[nodiscard]] double end() const { return points.empty() ? 1 : points.back().second + kCycle; }
     [[nodiscard]] double x(double second) const;
-    void addCurve(std::string& svg, const Curve& curve, double top) const;
+    void addCurve(std::string& svg, double top, double Point::*value, const char* name, const char* unit,
+                  const char* style) const;
 };
 
 } // namespace desk

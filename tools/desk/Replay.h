@@ -1,36 +1,35 @@
-// Recordings that the desk replays: a CSV as `talux watch --csv` writes it, and COMTRADE (IEEE C37.111,
-// revisions 1999 and 2013, ASCII and binary data).
+// Recordings that the desk replays, and the text files that they are in.
 #ifndef TALUX_DESK_REPLAY_H
 #define TALUX_DESK_REPLAY_H
 
 #include <fstream>
-#include <memory>
+#include <functional>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "tools/desk/Network.h"
 
 namespace desk {
 
-class Recording {
-public:
-    Recording() = default;
-    Recording(const Recording&) = delete;
-    Recording& operator=(const Recording&) = delete;
-    virtual ~Recording() = default;
-
-    // The sample at `second` of the recording; false after its end.
-    virtual bool at(double second, Sample& sample) = 0;
-};
+// Gives the sample at a second of the recording; false after its end.
+using Recording = std::function<bool(double second, Sample& sample)>;
 
 // A recording that cannot be used; what() names the file, the line where there is one, and what is wrong.
 struct ReplayFault : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-std::unique_ptr<Recording> openCsv(const std::string& path);
-std::unique_ptr<Recording> openComtrade(const std::string& path);
-std::unique_ptr<Recording> openRecording(const std::string& path); // by its ending
+Recording openComtrade(const std::string& path);
+Recording openRecording(const std::string& path); // by its ending
+
+// All of the text as a number with a decimal point.
+std::optional<double> numberIn(std::string_view text);
+
+// Without carriage returns. If there are quotes, a delimiter between them divides nothing.
+std::vector<std::string> fieldsOf(std::string_view line, char delimiter, bool hasQuotes);
 
 // The lines of a text file, and messages that name the last one.
 class Lines {

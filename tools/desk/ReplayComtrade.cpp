@@ -1,5 +1,5 @@
-// COMTRADE is name.cfg with name.dat beside it. Channels are found by phase and unit; the phasors are those
-// of a discrete Fourier transform over one cycle of the line frequency.
+// COMTRADE (IEEE C37.111, revisions 1999 and 2013) is name.cfg with name.dat beside it. Channels are found by
+// phase and unit; the phasors are those of a discrete Fourier transform over one cycle of the line frequency.
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -8,7 +8,6 @@
 #include <sstream>
 #include <vector>
 
-#include "tools/desk/Fields.h"
 #include "tools/desk/Replay.h"
 
 namespace desk {
@@ -46,7 +45,7 @@ public:
     }
 
     std::vector<Channel> analog;
-    int digital = 0;
+    std::size_t digital = 0;
     double lineFrequency = 50, rate = 0;
     std::size_t samples = 0;
     std::string format;
@@ -75,21 +74,21 @@ private:
             fail(std::string(what) + " is a number, not '" + text + "'");
         return value;
     }
-    [[nodiscard]] int count(const std::string& text, char kind) const {
+    [[nodiscard]] std::size_t count(const std::string& text, char kind) const {
         if (text.empty() || upper(text.back()) != kind)
             fail("a number of channels with " + std::string(1, kind) + " expected, not '" + text + "'");
         const double value = number(text.substr(0, text.size() - 1), "the number of channels");
         if (value < 0 || value > kMaxChannels)
             fail("from 0 to " + std::to_string(kMaxChannels) + " channels");
-        return static_cast<int>(value);
+        return static_cast<std::size_t>(value);
     }
     void readChannels() {
         const Fields counts = next(3);
-        const int analogCount = count(counts[1], 'A');
+        const std::size_t analogCount = count(counts[1], 'A');
         digital = count(counts[2], 'D');
-        for (int k = 0; k < analogCount; ++k)
+        while (analog.size() < analogCount)
             analog.push_back(channel(next(10)));
-        for (int k = 0; k < digital; ++k)
+        for (std::size_t k = 0; k < digital; ++k)
             next(1);
         for (std::size_t wave = 0; wave < kWaves; ++wave)
             if (std::ranges::find(analog, wave, &Channel::wave) == analog.end())
@@ -132,93 +131,77 @@ private:
     }
 };
 
-// Raw values, sample after sample, from name.dat.
-class Data {
-public:
-    Data(std::string file, const Configuration& config)
-        : path(std::move(file)), raw(config.analog.size()),
-          digitalBytes(static_cast<std::size_t>(config.digital + 15) / 16 * 2),
-          stream(path, std::ios::binary) {
-        static constexpr struct Format {
-            std::string_view name;
-            void (Data::*read)();
-        } kFormats[] = {{"ASCII", &Data::readText},
-                        {"BINARY", &Data::readBinary<std::int16_t>},
-                        {"BINARY32", &Data::readBinary<std::int32_t>},
-                        {"FLOAT32", &Data::readBinary<float>}};
-        if (!stream) throw ReplayFault(path + ": cannot be read");
-        const auto* const format = std::ranges::find(kFormats, config.format, &Format::name);
-        if (format == std::end(kFormats))
-            config.fail("the format '" + config.format + "' is none of ASCII, BINARY, BINARY32, FLOAT32");
-        read = format->read;
+// Each reads the raw values of a sample; what is wrong, or nullptr.
+const char* readText(std::istream& data, std::size_t, std::vector<double>& raw) {
+    std::string text;
+    if (!std::getline(data, text)) return "the file ends here";
+    std::istringstream fields(text);
+    std::string field;
+    for (std::size_t k = 0; k < raw.size() + 2; ++k) {
+        if (!std::getline(fields, field, ',')) return "too few values";
+        if (k < 2) continue; // number and time
+        char* end = nullptr;
+        raw[k - 2] = std::strtod(field.c_str(), &end);
+        if (end == field.c_str()) return "a value is no number";
     }
+    return nullptr;
+}
+template <class Number>
+const char* readBinary(std::istream& data, std::size_t digitalBytes, std::vector<double>& raw) {
+    std::vector<char> bytes(8 + raw.size() * sizeof(Number) + digitalBytes); // after number and time
+    if (!data.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return "the file ends here";
+    for (std::size_t k = 0; k < raw.size(); ++k) {
+        Number number;
+        std::memcpy(&number, bytes.data() + 8 + k * sizeof number, sizeof number);
+        raw[k] = static_cast<double>(number);
+    }
+    return nullptr;
+}
+constexpr struct Format {
+    std::string_view name;
+    const char* (*read)(std::istream& data, std::size_t digitalBytes, std::vector<double>& raw);
+} kFormats[] = {{"ASCII", readText},
+                {"BINARY", readBinary<std::int16_t>},
+                {"BINARY32", readBinary<std::int32_t>},
+                {"FLOAT32", readBinary<float>}};
 
-    const std::vector<double>& next() {
-        ++sample;
-        (this->*read)();
-        return raw;
-    }
+using Waves = std::vector<std::array<double, kWaves>>;
 
-private:
-    std::string path;
-    std::vector<double> raw;
-    std::size_t digitalBytes, sample = 0;
-    std::ifstream stream;
-    void (Data::*read)() = nullptr;
+Waves readWaves(const std::string& path, const Configuration& config) {
+    std::ifstream data(path, std::ios::binary);
+    if (!data) throw ReplayFault(path + ": cannot be read");
+    const auto* const format = std::ranges::find(kFormats, config.format, &Format::name);
+    if (format == std::end(kFormats))
+        config.fail("the format '" + config.format + "' is none of ASCII, BINARY, BINARY32, FLOAT32");
+    const std::size_t digitalBytes = (config.digital + 15) / 16 * 2;
+    std::vector<double> raw(config.analog.size());
+    Waves waves;
+    while (waves.size() < config.samples) {
+        const char* const wrong = format->read(data, digitalBytes, raw);
+        auto& wave = waves.emplace_back();
+        if (wrong != nullptr)
+            throw ReplayFault(path + ": sample " + std::to_string(waves.size()) + ": " + wrong);
+        for (std::size_t k = 0; k < raw.size(); ++k)
+            if (const Channel& channel = config.analog[k]; channel.wave < kWaves)
+                wave[channel.wave] = raw[k] * channel.factor + channel.offset;
+    }
+    return waves;
+}
 
-    [[noreturn]] void fail(const char* text) const {
-        throw ReplayFault(path + ": sample " + std::to_string(sample) + ": " + text);
-    }
-    void readText() {
-        std::string text;
-        if (!std::getline(stream, text)) fail("the file ends here");
-        std::istringstream fields(text);
-        std::string field;
-        for (std::size_t k = 0; k < raw.size() + 2; ++k) {
-            if (!std::getline(fields, field, ',')) fail("too few values");
-            if (k < 2) continue; // number and time
-            char* end = nullptr;
-            raw[k - 2] = std::strtod(field.c_str(), &end);
-            if (end == field.c_str()) fail("a value is no number");
-        }
-    }
-    template <class Number>
-    void readBinary() {
-        std::vector<char> bytes(8 + raw.size() * sizeof(Number) + digitalBytes);
-        if (!stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size())))
-            fail("the file ends here");
-        for (std::size_t k = 0; k < raw.size(); ++k) {
-            Number number;
-            std::memcpy(&number, bytes.data() + 8 + k * sizeof number, sizeof number);
-            raw[k] = static_cast<double>(number);
-        }
-    }
-};
+} // namespace
 
-class ComtradeRecording : public Recording {
-public:
-    explicit ComtradeRecording(const std::string& path) {
-        const Configuration config(path);
-        lineFrequency = config.lineFrequency;
-        rate = config.rate;
-        Data data(path.substr(0, path.size() - 4) + (path.ends_with(".CFG") ? ".DAT" : ".dat"), config);
-        while (waves.size() < config.samples) {
-            const std::vector<double>& raw = data.next();
-            auto& wave = waves.emplace_back();
-            for (std::size_t k = 0; k < raw.size(); ++k)
-                if (const Channel& channel = config.analog[k]; channel.wave < kWaves)
-                    wave[channel.wave] = raw[k] * channel.factor + channel.offset;
-        }
-    }
-
-    // The cycle that begins at `second`.
-    bool at(double second, Sample& sample) override {
-        const auto perCycle = static_cast<std::size_t>(std::lround(rate / lineFrequency));
+Recording openComtrade(const std::string& path) {
+    const Configuration config(path);
+    const double rate = config.rate, hertz = config.lineFrequency;
+    const std::string data = path.substr(0, path.size() - 4) + (path.ends_with(".CFG") ? ".DAT" : ".dat");
+    // Of the cycle that begins at `second`.
+    return [=, waves = readWaves(data, config)](double second, Sample& sample) {
+        const auto perCycle = static_cast<std::size_t>(std::lround(rate / hertz));
         const auto first = static_cast<std::size_t>(std::lround(second * rate));
         if (first + perCycle > waves.size()) return false;
         std::array<Phasor, kWaves> phasors{};
         for (std::size_t n = first; n < first + perCycle; ++n) {
-            const double angle = -2 * std::numbers::pi * lineFrequency * static_cast<double>(n) / rate;
+            const double angle = -2 * std::numbers::pi * hertz * static_cast<double>(n) / rate;
             for (std::size_t k = 0; k < kWaves; ++k)
                 phasors[k] += waves[n][k] * std::polar(1.0, angle);
         }
@@ -228,25 +211,9 @@ public:
             sample.current[k + 1] = phasors[k + kPhases] * scale;
         }
         sample.calculateResidual();
-        sample.frequency = lineFrequency;
+        sample.frequency = hertz;
         return true;
-    }
-
-private:
-    double lineFrequency = 50, rate = 0;
-    std::vector<std::array<double, kWaves>> waves;
-};
-
-} // namespace
-
-std::unique_ptr<Recording> openComtrade(const std::string& path) {
-    return std::make_unique<ComtradeRecording>(path);
-}
-
-std::unique_ptr<Recording> openRecording(const std::string& path) {
-    if (path.ends_with(".cfg") || path.ends_with(".CFG")) return openComtrade(path);
-    if (path.ends_with(".csv")) return openCsv(path);
-    throw ReplayFault(path + ": neither a .csv nor a .cfg file");
+    };
 }
 
 } // namespace desk

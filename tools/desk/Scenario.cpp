@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "tools/Strings.h"
-#include "tools/desk/Fields.h"
+#include "tools/desk/Desk.h"
 
 namespace desk {
 
@@ -37,7 +37,7 @@ struct Range {
 // The words of a line, taken from left to right.
 class Words {
 public:
-    explicit Words(std::string_view line) : words(wordsOf(line)) {}
+    explicit Words(std::string_view text) : words(wordsOf(text)) {}
 
     [[nodiscard]] bool empty() const { return next == words.size(); }
     [[nodiscard]] std::string peek() const { return empty() ? "the end of the line" : words[next]; }
@@ -78,9 +78,6 @@ public:
     // Whether the next word is the second one of two.
     bool isSecond(const std::string& what, std::string_view first, std::string_view second) {
         return oneOf(what, {first, second}) == 1;
-    }
-    void expectEnd() const {
-        if (!empty()) throw Wrong{"'" + peek() + "' is too much"};
     }
 
 private:
@@ -125,9 +122,8 @@ void readQuantities(Words& words, const Quantity<Target> (&all)[count], const ch
 }
 
 void readNetwork(Words& words, Grid& grid) {
-    constexpr Neutral kNeutrals[] = {Neutral::isolated, Neutral::resonant, Neutral::lowResistance};
     grid = Grid{};
-    grid.neutral = kNeutrals[words.oneOf("the neutral", {"isolated", "resonant-earthed", "low-resistance"})];
+    grid.neutral = Neutral(words.oneOf("the neutral", {"isolated", "resonant-earthed", "low-resistance"}));
     grid.kilovolt = words.number({"the voltage", "kV", 0.1, 400});
     readQuantities(words, kOfNetwork, "capacitive, own, detuning, damping or neutral", grid);
     if (grid.own > grid.capacitive) throw Wrong{"the feeder's own current is part of the capacitive current"};
@@ -153,80 +149,100 @@ bool forward(Words& words) {
     return !words.isSecond("the direction", "forward", "backward");
 }
 
-EarthFault readEarthFault(Words& words) {
+EarthFault earthFault(Words& words) {
     return {phase(words), words.takeIf("solid") ? 0 : words.number({"the fault resistance", "ohm", 0, 1e6}),
             forward(words)};
 }
 
+using Event = std::function<void(Desk& desk)>;
 constexpr double kLongest = 86400; // a day
 
-Event readRestriking(Words& words) {
-    Restriking result{readEarthFault(words), 0, 0};
+Event restriking(Words& words) {
+    const EarthFault fault = earthFault(words);
     words.expect("every");
-    result.every = words.number({"the interval", "s", 0.02, kLongest});
+    const double every = words.number({"the interval", "s", 0.02, kLongest});
     words.expect("for");
-    result.during = words.number({"the time of a strike", "s", 0.01, kLongest});
-    return result;
+    const double during = words.number({"the time of a strike", "s", 0.01, kLongest});
+    return [=](Desk& desk) { desk.restrike(fault, every, during); };
 }
 
-Event readShortCircuit(Words& words) {
+Event shortCircuit(Words& words) {
     const std::size_t from = phase(words), to = phase(words);
     if (from == to) throw Wrong{"a short circuit is between two phases"};
-    return ShortCircuit{from, to, words.number({"the short-circuit current", "A", 1, 100000}),
-                        forward(words)};
+    const ShortCircuit fault{from, to, words.number({"the short-circuit current", "A", 1, 100000}),
+                             forward(words)};
+    return [=](Desk& desk) { desk.network.strike(fault); };
 }
 
-Event readTransformer(Words& words) {
+struct Rewire {
+    Wiring::Phases Wiring::*what;
+    std::size_t phase;
+    bool on;
+
+    void operator()(Desk& desk) const { (desk.network.wiring.*what)[phase] = on; }
+};
+
+Event transformer(Words& words) {
     const std::size_t which = words.oneOf("the transformer", {"U1", "U2", "U3", "I1", "I2", "I3"});
     return Rewire{which < kPhases ? &Wiring::voltageReversed : &Wiring::currentReversed, which % kPhases,
                   words.isSecond("its state", "normal", "reversed")};
 }
 
-std::size_t currentTransformer(Words& words) {
-    return words.oneOf("the transformer", {"I1", "I2", "I3"});
+Event fuse(Words& words) {
+    return Rewire{&Wiring::fuseMissing, words.oneOf("the fuse", {"U1", "U2", "U3"}),
+                  words.isSecond("its state", "restored", "missing")};
 }
 
-Event readSwap(Words& words) {
-    const std::size_t first = currentTransformer(words), second = currentTransformer(words);
+Event conductor(Words& words) {
+    return Rewire{&Wiring::conductorOpen, phase(words), words.isSecond("its state", "closed", "open")};
+}
+
+// Two current transformers are in each other's phase.
+Event swap(Words& words) {
+    const auto which = [&] { return words.oneOf("the transformer", {"I1", "I2", "I3"}); };
+    const std::size_t first = which(), second = which();
     if (first == second) throw Wrong{"two transformers are swapped"};
-    return Swap{first, second, words.isSecond("their state", "normal", "swapped")};
+    const bool on = words.isSecond("their state", "normal", "swapped");
+    return [=](Desk& desk) {
+        desk.network.wiring.currentFrom[first] = on ? second : first;
+        desk.network.wiring.currentFrom[second] = on ? first : second;
+    };
 }
 
-// The statements after "at .. s": how each begins, and what its rest is.
+Event input(Words& words) {
+    const std::size_t which = words.oneOf("the input", {"BE1", "BE2", "BE3", "BE4", "BE5", "BE6"});
+    return [which, on = words.isSecond("its state", "off", "on")](Desk& desk) { desk.inputs[which] = on; };
+}
+
+// Calls a function of the desk with what a statement says.
+template <class Value>
+Event with(void (Desk::*function)(const Value& value), const Value& value) {
+    return [=](Desk& desk) { (desk.*function)(value); };
+}
+
+constexpr Range kFrequency{"the frequency", "Hz", 10, 100};
+
+// The statements after "at .. s": how each begins, and what its rest means.
 constexpr struct {
     const char* begins;
     Event (*read)(Words& words);
 } kStatements[] = {
-    {"earth fault", [](Words& words) -> Event { return readEarthFault(words); }},
-    {"restriking earth fault", readRestriking},
-    {"short circuit", readShortCircuit},
-    {"fault cleared", [](Words&) -> Event { return Cleared{}; }},
-    {"transformers", readSwap},
-    {"transformer", readTransformer},
-    {"fuse",
-     [](Words& words) -> Event {
-         return Rewire{&Wiring::fuseMissing, words.oneOf("the fuse", {"U1", "U2", "U3"}),
-                       words.isSecond("its state", "restored", "missing")};
-     }},
-    {"conductor",
-     [](Words& words) -> Event {
-         return Rewire{&Wiring::conductorOpen, phase(words), words.isSecond("its state", "closed", "open")};
-     }},
+    {"earth fault", [](Words& words) { return with(&Desk::strike, earthFault(words)); }},
+    {"restriking earth fault", restriking},
+    {"short circuit", shortCircuit},
+    {"fault cleared", [](Words&) -> Event { return &Desk::clear; }},
+    {"transformers", swap},
+    {"transformer", transformer},
+    {"fuse", fuse},
+    {"conductor", conductor},
     {"rotation",
-     [](Words& words) -> Event { return Rotation{words.isSecond("the rotation", "normal", "reversed")}; }},
-    {"input",
-     [](Words& words) -> Event {
-         return Input{words.oneOf("the input", {"BE1", "BE2", "BE3", "BE4", "BE5", "BE6"}),
-                      words.isSecond("its state", "off", "on")};
-     }},
-    {"frequency",
-     [](Words& words) -> Event {
-         return Frequency{words.number({"the frequency", "Hz", 10, 100})};
-     }},
-    {"load", [](Words& words) -> Event { return LoadStep{words.number(kLoad)}; }},
-    {"restart", [](Words&) -> Event { return Restart{}; }},
-    {"replay", [](Words& words) -> Event { return Replay{words.take("the file")}; }},
-    {"end", [](Words&) -> Event { return End{}; }},
+     [](Words& words) { return with(&Desk::rotate, words.isSecond("the rotation", "normal", "reversed")); }},
+    {"input", input},
+    {"frequency", [](Words& words) { return with(&Desk::setFrequency, words.number(kFrequency)); }},
+    {"load", [](Words& words) { return with(&Desk::setLoad, words.number(kLoad)); }},
+    {"restart", [](Words&) -> Event { return &Desk::restart; }},
+    {"replay", [](Words& words) { return with(&Desk::replay, words.take("the file")); }},
+    {"end", [](Words&) -> Event { return &Desk::end; }},
 };
 
 TimedEvent readEvent(Words& words) {
@@ -237,7 +253,8 @@ TimedEvent readEvent(Words& words) {
                 talux::list(kStatements, ", ", [](const auto& each) { return each.begins; })};
 }
 
-void readLine(Words& words, Scenario& scenario) {
+void readLine(std::string_view text, Scenario& scenario) {
+    Words words(text);
     if (words.empty()) return;
     if (words.takeIf("network"))
         readNetwork(words, scenario.grid);
@@ -247,23 +264,22 @@ void readLine(Words& words, Scenario& scenario) {
         scenario.events.push_back(readEvent(words));
     else
         throw Wrong{"a line begins with network, load or at, not '" + words.peek() + "'"};
-    words.expectEnd();
+    if (!words.empty()) throw Wrong{"'" + words.peek() + "' is too much"};
 }
 
 } // namespace
 
-ReadScenario readScenario(std::istream& from) {
-    ReadScenario result;
+Scenario readScenario(std::istream& from) {
+    Scenario result;
     std::string text;
     for (int line = 1; std::getline(from, text); ++line) {
         try {
-            Words words(text);
-            readLine(words, result.scenario);
+            readLine(text, result);
         } catch (const Wrong& wrong) {
-            result.faults.push_back({line, wrong.text});
+            result.faults.push_back(std::to_string(line) + ": " + wrong.text);
         }
     }
-    std::ranges::stable_sort(result.scenario.events, {}, &TimedEvent::second);
+    std::ranges::stable_sort(result.events, {}, &TimedEvent::second);
     return result;
 }
 

@@ -12,7 +12,6 @@
 
 #include "ParamSystem/files/Replace.h"
 #include "tools/desk/Desk.h"
-#include "tools/desk/Factory.h"
 #include "tools/desk/Plot.h"
 
 namespace {
@@ -47,27 +46,16 @@ int plot(const desk::Scenario& scenario, const Options& options) {
     return error ? fail(options.plot, error.number) : 0;
 }
 
-// Waits for the next cycle: for its time, or for a line on standard input.
-class Pace {
-public:
-    explicit Pace(const Options& given) : options(given), next(talux::detail::monotonic()) {}
-
-    bool wait() {
-        if (options.step) {
-            std::string line;
-            return static_cast<bool>(std::getline(std::cin, line));
-        }
-        next += static_cast<std::int64_t>(desk::kCycle * 1e9 / options.speed);
-        const auto left = next - talux::detail::monotonic();
-        if (left > 0) talux::detail::sleepFor(left);
-        if (left < -1000000000) next = talux::detail::monotonic(); // after a standstill
-        return true;
-    }
-
-private:
-    const Options& options;
-    std::int64_t next;
-};
+// Waits for the cycle at `next`, or for a line on standard input; false at its end.
+bool wait(const Options& options, std::int64_t& next) {
+    std::string line;
+    if (options.step) return static_cast<bool>(std::getline(std::cin, line));
+    next += static_cast<std::int64_t>(desk::kCycle * 1e9 / options.speed);
+    const auto left = next - talux::detail::monotonic();
+    if (left > 0) talux::detail::sleepFor(left);
+    if (left < -1000000000) next = talux::detail::monotonic(); // after a standstill
+    return true;
+}
 
 // Says so when the threshold of the earth fault changes, in the log or on standard output.
 void report(std::FILE* log, const talux::Settings& settings) {
@@ -83,47 +71,44 @@ int run(const desk::Scenario& scenario, const Options& options) {
     store.stage_defaults();
     store.commit();
     talux::Follower follower;
-    desk::Publisher publisher;
     desk::Statistics statistics;
     desk::Desk device(scenario);
     desk::Cycle cycle;
-    Pace pace(options);
+    bool isReady = false;
+    std::int64_t next = talux::detail::monotonic();
     std::fputs("a model for learning and for trying scripts, no protection\n", log);
     report(log, follower.settings());
-    for (bool ready = false;
-         stopRequested == 0 && device.step(follower.settings(), desk::readOverrides(), cycle);) {
+    while (stopRequested == 0 && device.step(follower.settings(), desk::readOverrides(), cycle)) {
         if (follower.poll()) report(log, follower.settings());
-        if (desk::Publisher::takeAcknowledgement()) device.acknowledge();
+        if (desk::takeAcknowledgement()) device.acknowledge();
         if (!device.isDown()) {
-            if (!publisher.publish(cycle, device.transients()))
-                std::fputs("talux-desk: somebody else is writing\n", stderr);
-            desk::Publisher::answerRequest(cycle);
-            if (statistics.add(cycle.values, device.transients(), follower.settings()))
-                talux::Record<talux::StatRecord_c0>{}.set(statistics.record());
+            if (!desk::publish(cycle)) std::fputs("talux-desk: somebody else is writing\n", stderr);
+            if (const auto record = statistics.add(cycle, follower.settings()))
+                talux::Record<talux::StatRecord_c0>{}.set(*record);
         }
-        if (!std::exchange(ready, true)) {
+        if (!std::exchange(isReady, true)) {
             std::puts("ready");
             std::fflush(stdout);
         }
-        if (!pace.wait()) break;
+        if (!wait(options, next)) break;
     }
     return 0;
 }
 
 // Reads the scenario and does what the options say.
 int carryOut(const Options& options) {
-    desk::ReadScenario read;
+    desk::Scenario scenario;
     if (!options.scenario.empty()) {
         std::ifstream file(options.scenario);
         if (!file) return fail(options.scenario, errno);
-        read = desk::readScenario(file);
+        scenario = desk::readScenario(file);
     }
-    for (const desk::ScenarioFault& fault : read.faults)
-        std::cerr << options.scenario << ':' << fault.line << ": " << fault.text << '\n';
-    if (!read.faults.empty()) return 1;
+    for (const std::string& fault : scenario.faults)
+        std::cerr << options.scenario << ':' << fault << '\n';
+    if (!scenario.faults.empty()) return 1;
     if (options.check) return 0;
-    read.scenario.folder = std::filesystem::path(options.scenario).parent_path();
-    return options.plot.empty() ? run(read.scenario, options) : plot(read.scenario, options);
+    scenario.folder = std::filesystem::path(options.scenario).parent_path();
+    return options.plot.empty() ? run(scenario, options) : plot(scenario, options);
 }
 
 } // namespace

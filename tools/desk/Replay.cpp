@@ -1,11 +1,7 @@
-// A CSV begins with a line of names: U1_prim to I3_prim are needed, phiUI1 to phiUI3, U0_prim, I0_prim,
-// phiUI0 and f_grid are used if they are there. Voltages are taken as 120 degrees apart.
-#include <map>
-#include <optional>
-#include <vector>
-
-#include "tools/desk/Fields.h"
 #include "tools/desk/Replay.h"
+
+#include <charconv>
+#include <map>
 
 namespace desk {
 
@@ -23,9 +19,17 @@ std::optional<double> timeOfDay(const std::string& text) {
     return hours * 3600.0 + minutes * 60.0 + seconds;
 }
 
-class CsvRecording : public Recording {
+struct Row {
+    double second;
+    Sample sample;
+};
+
+// A CSV as `talux watch --csv` writes it begins with a line of names: U1_prim to I3_prim are needed, phiUI1
+// to phiUI3, U0_prim, I0_prim, phiUI0 and f_grid are used if they are there. Voltages are taken as 120
+// degrees apart.
+class CsvFile {
 public:
-    explicit CsvRecording(const std::string& path) : lines(path) {
+    explicit CsvFile(const std::string& path) : lines(path) {
         std::string line;
         if (!lines.next(line)) throw ReplayFault(path + ": cannot be read");
         const char delimiter = line.find(';') != line.npos ? ';' : ',';
@@ -39,22 +43,11 @@ public:
         if (rows.empty()) throw ReplayFault(path + ": no rows of values");
     }
 
-    bool at(double second, Sample& sample) override {
-        while (current + 1 < rows.size() && rows[current + 1].second <= second)
-            ++current;
-        sample = rows[current].sample;
-        return second <= rows.back().second + 1;
-    }
+    std::vector<Row> rows;
 
 private:
-    struct Row {
-        double second;
-        Sample sample;
-    };
     Lines lines;
     std::map<std::string, std::size_t> columns;
-    std::vector<Row> rows;
-    std::size_t current = 0;
     double start = 0;
 
     void addRow(const std::vector<std::string>& cells, std::size_t count) {
@@ -99,10 +92,41 @@ private:
     }
 };
 
+Recording openCsv(const std::string& path) {
+    return [rows = CsvFile(path).rows, current = std::size_t{0}](double second, Sample& sample) mutable {
+        while (current + 1 < rows.size() && rows[current + 1].second <= second)
+            ++current;
+        sample = rows[current].sample;
+        return second <= rows.back().second + 1;
+    };
+}
+
 } // namespace
 
-std::unique_ptr<Recording> openCsv(const std::string& path) {
-    return std::make_unique<CsvRecording>(path);
+std::optional<double> numberIn(std::string_view text) {
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return error == std::errc() && end == text.data() + text.size() ? std::optional(value) : std::nullopt;
+}
+
+std::vector<std::string> fieldsOf(std::string_view line, char delimiter, bool hasQuotes) {
+    std::vector<std::string> fields(1);
+    bool isQuoted = false;
+    for (const char c : line) {
+        if (c == '"' && hasQuotes)
+            isQuoted = !isQuoted;
+        else if (c == delimiter && !isQuoted)
+            fields.emplace_back();
+        else if (c != '\r')
+            fields.back() += c;
+    }
+    return fields;
+}
+
+Recording openRecording(const std::string& path) {
+    if (path.ends_with(".cfg") || path.ends_with(".CFG")) return openComtrade(path);
+    if (path.ends_with(".csv")) return openCsv(path);
+    throw ReplayFault(path + ": neither a .csv nor a .cfg file");
 }
 
 } // namespace desk
