@@ -17,8 +17,7 @@ MessRecord02 recordOf(const Cycle& cycle) {
     record.Cnt = cycle.record.Cnt;
     Floats members;
     for (const Harmonic& each : cycle.harmonics)
-        for (const double value : {each.voltage, each.current, each.degrees, each.admittance()})
-            members.add(value);
+        members.add(each.voltage, each.current, each.degrees, each.admittance());
     members.copyTo(record, offsetof(MessRecord02, U0p_250));
     const StateWords& words = cycle.outputs.words;
     record.y_BE_01 = words.of({"y_BE"});

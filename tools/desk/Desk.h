@@ -42,9 +42,9 @@ public:
     void clear();
     void restart();
     void replay(const std::string& path);
-    void rotate(const bool& isReversed) { network.wiring.rotationReversed = isReversed; }
-    void setFrequency(const double& hertz) { network.grid.frequency = hertz; }
-    void setLoad(const double& ampere) { network.load.ampere = ampere; }
+    void rotate(bool isReversed) { network.wiring.rotationReversed = isReversed; }
+    void setFrequency(double hertz) { network.grid.frequency = hertz; }
+    void setLoad(double ampere) { network.load.ampere = ampere; }
     void end() { ended = true; }
 
 private:

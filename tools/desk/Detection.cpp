@@ -59,35 +59,33 @@ Direction cosSin(const View& view) {
 }
 
 // Whether there is an earth fault with enough of a harmonic.
-bool isLarge(const View& view, const Harmonic& harmonic, double minPercent, double minAmpere) {
+bool isLarge(const View& view, std::size_t number, double minPercent, double minAmpere) {
+    const Harmonic& harmonic = view.harmonics[number];
     return view.isEarthFault && harmonic.voltage >= minPercent / 100 * view.nominal &&
            harmonic.current >= minAmpere;
 }
 
 // Sign of the angle between voltage and current; the limit angle keeps away from active current.
-Direction ofHarmonic(const View& view, const Harmonic& each, double minPercent, double minAmpere,
+Direction ofHarmonic(const View& view, std::size_t number, double minPercent, double minAmpere,
                      double angle) {
-    const auto sine = [](double degrees) { return turn(degrees).imag(); };
-    if (!isLarge(view, each, minPercent, minAmpere) || std::abs(sine(each.degrees)) < sine(angle))
+    const double degrees = view.harmonics[number].degrees;
+    if (!isLarge(view, number, minPercent, minAmpere) || std::abs(turn(degrees).imag()) < turn(angle).imag())
         return Direction::none;
-    return each.degrees > 0 ? Direction::forward : Direction::backward;
+    return degrees > 0 ? Direction::forward : Direction::backward;
 }
 
 Direction fifth(const View& view) {
-    return ofHarmonic(view, view.harmonics[0], view[{"harm1_Umin"}], view[{"harm1_Ice"}],
-                      view[{"harm1_angle"}]);
+    return ofHarmonic(view, 0, view[{"harm1_Umin"}], view[{"harm1_Ice"}], view[{"harm1_angle"}]);
 }
 
 Direction settable(const View& view) {
-    return ofHarmonic(view, view.harmonics[1], view[{"harm2_Umin"}], view[{"harm2_Ice"}],
-                      view[{"harm2_angle"}]);
+    return ofHarmonic(view, 1, view[{"harm2_Umin"}], view[{"harm2_Ice"}], view[{"harm2_angle"}]);
 }
 
 // Of the upper frequency of fx2: the angle of Y0 against the two ranges, the backward one first.
 Direction admittance(const View& view) {
-    const Harmonic& each = view.harmonics[3];
-    if (!isLarge(view, each, view[{"adm_U_min"}], view[{"adm_I_min_1"}])) return Direction::none;
-    const double angle = -each.degrees;
+    if (!isLarge(view, 3, view[{"adm_U_min"}], view[{"adm_I_min_1"}])) return Direction::none;
+    const double angle = -view.harmonics[3].degrees;
     if (isBetween(angle, view[{"adm_Phi_BW_min"}], view[{"adm_Phi_BW_max"}])) return Direction::backward;
     if (isBetween(angle, view[{"adm_Phi_FW_min"}], view[{"adm_Phi_FW_max"}])) return Direction::forward;
     return Direction::none;

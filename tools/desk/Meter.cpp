@@ -140,8 +140,7 @@ MessRecord01 recordOf(const Phasors& phasors, const Values& values) {
     std::ranges::for_each(kAmplitudes, addFour);
     for (std::size_t k = 1; k <= kPhases; ++k) {
         const Phasor between = toNextPhase(u, k);
-        for (const double each : {std::abs(between), between.real(), between.imag(), degrees(between)})
-            members.add(each);
+        members.add(std::abs(between), between.real(), between.imag(), degrees(between));
     }
     std::ranges::for_each(kPowers, addFour);
     for (const Measured<float> each : kTotals)

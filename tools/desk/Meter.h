@@ -62,7 +62,7 @@ using Values = Consecutive<float, kValues, kFirstValue.id()>;
 // Values one after the other, as records and runs of parameters hold them.
 class Floats : public std::vector<float> {
 public:
-    void add(double value) { push_back(static_cast<float>(value)); }
+    void add(auto... values) { (push_back(static_cast<float>(values)), ...); }
 
     // Into the members of a record, beginning `offset` bytes from its start.
     template <class Record>

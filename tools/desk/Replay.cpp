@@ -27,18 +27,18 @@ struct Row {
 // A CSV as `talux watch --csv` writes it begins with a line of names: U1_prim to I3_prim are needed, phiUI1
 // to phiUI3, U0_prim, I0_prim, phiUI0 and f_grid are used if they are there. Voltages are taken as 120
 // degrees apart.
-class CsvFile {
+class CsvFile : Lines {
 public:
-    explicit CsvFile(const std::string& path) : lines(path) {
+    explicit CsvFile(const std::string& path) : Lines(path) {
         std::string line;
-        if (!lines.next(line)) throw ReplayFault(path + ": cannot be read");
+        if (!next(line)) throw ReplayFault(path + ": cannot be read");
         const char delimiter = line.find(';') != line.npos ? ';' : ',';
         const auto names = fieldsOf(line, delimiter, true);
         for (std::size_t k = 1; k < names.size(); ++k)
             columns[names[k]] = k;
         for (const char* needed : {"U1_prim", "U2_prim", "U3_prim", "I1_prim", "I2_prim", "I3_prim"})
-            if (!columns.contains(needed)) lines.fail(std::string("no column ") + needed);
-        while (lines.next(line))
+            if (!columns.contains(needed)) fail(std::string("no column ") + needed);
+        while (next(line))
             addRow(fieldsOf(line, delimiter, true), names.size());
         if (rows.empty()) throw ReplayFault(path + ": no rows of values");
     }
@@ -46,30 +46,29 @@ public:
     std::vector<Row> rows;
 
 private:
-    Lines lines;
     std::map<std::string, std::size_t> columns;
     double start = 0;
 
     void addRow(const std::vector<std::string>& cells, std::size_t count) {
         if (cells.size() != count)
-            lines.fail(std::to_string(count) + " cells expected, not " + std::to_string(cells.size()));
-        if (rows.size() == kMaxRows) lines.fail("more than a million rows");
+            fail(std::to_string(count) + " cells expected, not " + std::to_string(cells.size()));
+        if (rows.size() == kMaxRows) fail("more than a million rows");
         const auto time = timeOfDay(cells[0]);
-        if (!time) lines.fail("'" + cells[0] + "' is no date and time");
+        if (!time) fail("'" + cells[0] + "' is no date and time");
         std::vector<double> values(1);
         for (std::size_t k = 1; k < count; ++k)
             values.push_back(number(cells[k]));
         if (rows.empty()) start = *time;
         double second = *time - start;
         if (second < -1) second += 86400; // midnight came between
-        if (!rows.empty() && second < rows.back().second) lines.fail("the time goes back");
+        if (!rows.empty() && second < rows.back().second) fail("the time goes back");
         rows.push_back({second, sampleOf(values)});
     }
     [[nodiscard]] double number(std::string text) const {
         const std::string cell = text;
         if (const auto comma = text.find(','); comma != text.npos) text[comma] = '.';
         const auto value = numberIn(text);
-        if (!value) lines.fail("'" + cell + "' is no number");
+        if (!value) fail("'" + cell + "' is no number");
         return *value;
     }
     [[nodiscard]] Sample sampleOf(const std::vector<double>& values) const {

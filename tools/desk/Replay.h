@@ -34,22 +34,22 @@ std::vector<std::string> fieldsOf(std::string_view line, char delimiter, bool ha
 // The lines of a text file, and messages that name the last one.
 class Lines {
 public:
-    explicit Lines(std::string file) : path(std::move(file)), stream(path) {
+    explicit Lines(const std::string& path) : file(path), stream(path) {
         if (!stream) throw ReplayFault(path + ": cannot be read");
     }
 
     bool next(std::string& text) {
-        ++line;
+        ++lineNumber;
         return static_cast<bool>(std::getline(stream, text));
     }
     [[noreturn]] void fail(const std::string& text) const {
-        throw ReplayFault(path + ":" + std::to_string(line) + ": " + text);
+        throw ReplayFault(file + ":" + std::to_string(lineNumber) + ": " + text);
     }
 
 private:
-    std::string path;
+    std::string file;
     std::ifstream stream;
-    int line = 0;
+    int lineNumber = 0;
 };
 
 } // namespace desk

@@ -31,12 +31,11 @@ char upper(char c) {
 }
 
 // The configuration: name.cfg, line by line.
-class Configuration {
+class Configuration : public Lines {
 public:
-    explicit Configuration(const std::string& path) : lines(path) {
+    explicit Configuration(const std::string& path) : Lines(path) {
         next(2); // station, device, revision
         readChannels();
-        lineFrequency = number(next(1)[0], "the line frequency");
         readRate();
         next(1); // start
         next(1); // trigger
@@ -50,15 +49,12 @@ public:
     std::size_t samples = 0;
     std::string format;
 
-    [[noreturn]] void fail(const std::string& text) const { lines.fail(text); }
-
 private:
     using Fields = std::vector<std::string>;
-    Lines lines;
 
     Fields next(std::size_t min) {
         std::string text;
-        if (!lines.next(text)) fail("the file ends here");
+        if (!Lines::next(text)) fail("the file ends here");
         Fields fields = fieldsOf(text, ',', false);
         for (std::string& field : fields) {
             field.erase(0, field.find_first_not_of(' '));
@@ -119,6 +115,7 @@ private:
         return result;
     }
     void readRate() {
+        lineFrequency = number(next(1)[0], "the line frequency");
         const double rates = number(next(1)[0], "the number of sampling rates");
         if (rates != 1) fail("one sampling rate expected, not " + std::to_string(rates));
         const Fields fields = next(2);

@@ -216,7 +216,7 @@ Event input(Words& words) {
 
 // Calls a function of the desk with what a statement says.
 template <class Value>
-Event with(void (Desk::*function)(const Value& value), const Value& value) {
+Event with(void (Desk::*function)(Value value), const std::remove_reference_t<Value>& value) {
     return [=](Desk& desk) { (desk.*function)(value); };
 }
 
