@@ -37,9 +37,7 @@ public:
     [[nodiscard]] std::string_view name() const { return row->name; }
     [[nodiscard]] ParamType type() const { return static_cast<ParamType>(row->type); }
     [[nodiscard]] bool is_setting() const { return row->is_volatile == 0; }
-    [[nodiscard]] bool is_writable() const {
-        return row->val_access == kReadWrite || row->val_access == kWriteOnly;
-    }
+    [[nodiscard]] bool is_writable() const { return !rules::isReadOnly(*row); }
     [[nodiscard]] int level() const { return row->userlevel; }     // rights that a write takes, 1 to 3
     [[nodiscard]] int elements() const { return row->val_max_id; } // of an indexed parameter, else 0
 

@@ -62,11 +62,13 @@ public:
     constexpr Result() = default;
     constexpr Result(Reason why, double min = 0.0, double max = 0.0) : cause(why), low(min), high(max) {}
     constexpr Result(const rules::Objection& objection, const rules::Facts& facts)
-        : Result(objection.reason == Reason::tooManyBytes ? Reason::tooLong : objection.reason, facts.least(),
-                 detail::isRange(objection.reason) ? facts.most() : objection.limit) {}
+        : cause(objection.reason), low(facts.least()),
+          high(detail::isRange(cause) ? facts.most() : objection.limit), given(objection.found) {}
 
     constexpr explicit operator bool() const { return cause == Reason::none; }
-    [[nodiscard]] constexpr Reason reason() const { return cause; }
+    [[nodiscard]] constexpr Reason reason() const {
+        return cause == Reason::tooManyBytes ? Reason::tooLong : cause;
+    }
 
     // The parameter that was refused; 0 when nothing was.
     [[nodiscard]] constexpr int id() const { return parameter; }
@@ -74,8 +76,9 @@ public:
     // "Uearth = 95: VALUE TOO HIGH (1 to 90 %)". The name comes from the dictionary.
     [[nodiscard]] Text text() const;
 
-    // The same, of this parameter and value; a result that worked stays as it is.
-    [[nodiscard]] constexpr Result of(int parameterId, double value = 0.0) const {
+    // The same, of this parameter, and of this number; a result that worked stays as it is.
+    [[nodiscard]] constexpr Result of(int parameterId) const { return of(parameterId, given); }
+    [[nodiscard]] constexpr Result of(int parameterId, double value) const {
         Result result = *this;
         if (cause == Reason::none) return result;
         result.parameter = parameterId;
@@ -86,7 +89,7 @@ public:
 private:
     Reason cause = Reason::none;
     int parameter = 0;
-    double low = 0.0, high = 0.0, given = 0.0;
+    double low = 0.0, high = 0.0, given = 0.0; // of a text what was found in it
 };
 
 namespace detail {
@@ -96,6 +99,11 @@ namespace detail {
 class Writer {
 public:
     explicit Writer(char* text) : end(text) {}
+
+    template <class... Pieces>
+    void put(const Pieces&... pieces) requires(sizeof...(pieces) > 1) {
+        (put(pieces), ...);
+    }
 
     void put(std::string_view words) {
         for (const char c : words)
@@ -143,20 +151,19 @@ constexpr std::string_view wordsOf(Reason reason) {
     case Reason::notWhole:
         return "NOT A WHOLE NUMBER";
     case Reason::holdsNul:
-        return "TEXT WITH A NUL";
     case Reason::notCarried:
-        return "A FILE CANNOT CARRY THE TEXT";
+        return "A LINE CANNOT CARRY ";
     case Reason::tooLong:
     case Reason::tooManyBytes:
         return "TEXT TOO LONG";
     case Reason::noAddress:
-        return "NO ADDRESS";
+        return "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)";
     case Reason::noNetmask:
-        return "NO NETMASK";
+        return "NO NETMASK (ones before zeros as in 255.255.255.0)";
     case Reason::noDate:
-        return "NO DATE";
+        return "NO DATE (as 2024-05-17)";
     case Reason::noTime:
-        return "NO TIME";
+        return "NO TIME (as 10:20:30)";
     case Reason::tooMany:
         return "TOO MANY SETTINGS IN ONE CHANGE";
     case Reason::notSaved:
@@ -167,9 +174,10 @@ constexpr std::string_view wordsOf(Reason reason) {
     return {};
 }
 
-} // namespace detail
-
-namespace detail {
+// What no line of a file or of the language carries.
+constexpr std::string_view nameOf(char uncarried) {
+    return uncarried == '=' ? "AN EQUALS SIGN" : uncarried == '"' ? "A DOUBLE QUOTE" : "A CONTROL CHARACTER";
+}
 
 // A text of a parameter, or of the template whose texts it shares; empty when it has none.
 inline std::string_view textOf(const stParamProperties& row, int type, int language, int item = -1) {
@@ -190,31 +198,20 @@ inline Text Result::text() const {
     const bool isRange = detail::isRange(cause);
     if (row != nullptr) {
         writer.put(row->name);
-        if (isRange) {
-            writer.put(" = ");
-            writer.put(given);
-        }
+        if (isRange) writer.put(" = ", given);
         writer.put(": ");
     }
     writer.put(detail::wordsOf(cause));
     if (isRange) {
-        writer.put(" (");
-        writer.put(low);
-        writer.put(" to ");
-        writer.put(high);
         const auto unit = row == nullptr ? "" : detail::textOf(*row, kTextUnit, kEnglish);
-        if (!unit.empty()) {
-            writer.put(" ");
-            writer.put(unit);
-        }
-        writer.put(")");
-    } else if (cause == Reason::tooLong) {
-        writer.put(" (up to ");
-        writer.put(high);
-        writer.put(" characters)");
+        writer.put(" (", low, " to ", high, unit.empty() ? "" : " ", unit, ")");
+    } else if (cause == Reason::holdsNul || cause == Reason::notCarried) {
+        writer.put(detail::nameOf(static_cast<char>(given)));
+    } else if (cause == Reason::tooLong || cause == Reason::tooManyBytes) {
+        const char* const counted = cause == Reason::tooLong ? " characters" : " bytes";
+        writer.put(" (", given, counted, ", at most ", high, ")");
     } else if (cause == Reason::notSaved) {
-        writer.put(": ");
-        writer.put(std::strerror(static_cast<int>(low)));
+        writer.put(": ", std::strerror(static_cast<int>(low)));
     }
     return text;
 }

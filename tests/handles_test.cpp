@@ -70,16 +70,18 @@ TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
         EXPECT_FALSE(refused);
         texts.emplace_back(refused.text().c_str());
     }
-    EXPECT_EQ(texts,
-              std::vector<std::string>(
-                  {"Uearth = 95: VALUE TOO HIGH (1 to 90 %)", "knu1 = 0.09: VALUE TOO LOW (0.1 to 90000)",
-                   "BAF_cnt_val_dT1 = -2: VALUE TOO LOW (-1 to 100000)",
-                   "BAF_cnt_val_dT1 = ..: VALUE TOO HIGH (-1 to 100000)", "Uearth: NOT A NUMBER",
-                   "skew_type = 0: VALUE TOO LOW (1 to 4)", "Name: TEXT TOO LONG (up to 40 characters)",
-                   "Name: TEXT WITH A NUL", "Name: A FILE CANNOT CARRY THE TEXT",
-                   "Name: A FILE CANNOT CARRY THE TEXT", "Name: A FILE CANNOT CARRY THE TEXT",
-                   "Kenn: TEXT TOO LONG (up to 3 characters)", "FW_version: VARIABLE IS READ ONLY",
-                   "ETH0_IP: NO ADDRESS", "FW_ETH0_MASK: NO NETMASK"}));
+    EXPECT_EQ(
+        texts,
+        std::vector<std::string>(
+            {"Uearth = 95: VALUE TOO HIGH (1 to 90 %)", "knu1 = 0.09: VALUE TOO LOW (0.1 to 90000)",
+             "BAF_cnt_val_dT1 = -2: VALUE TOO LOW (-1 to 100000)",
+             "BAF_cnt_val_dT1 = ..: VALUE TOO HIGH (-1 to 100000)", "Uearth: NOT A NUMBER",
+             "skew_type = 0: VALUE TOO LOW (1 to 4)", "Name: TEXT TOO LONG (41 characters, at most 40)",
+             "Name: A LINE CANNOT CARRY A CONTROL CHARACTER", "Name: A LINE CANNOT CARRY A DOUBLE QUOTE",
+             "Name: A LINE CANNOT CARRY AN EQUALS SIGN", "Name: A LINE CANNOT CARRY A CONTROL CHARACTER",
+             "Kenn: TEXT TOO LONG (4 characters, at most 3)", "FW_version: VARIABLE IS READ ONLY",
+             "ETH0_IP: NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)",
+             "FW_ETH0_MASK: NO NETMASK (ones before zeros as in 255.255.255.0)"}));
     EXPECT_EQ(read(), staged);
 
     store.commit();
@@ -102,7 +104,7 @@ TEST_F(Handles, AChangeIsAllOrNone) {
     for (const Result& each : change.refusals())
         texts += std::string(each.text()) + "; ";
     EXPECT_EQ(texts,
-              "Uearth_SigDel = -1: VALUE TOO LOW (0 to 86400 s); Name: A FILE CANNOT CARRY THE TEXT; ");
+              "Uearth_SigDel = -1: VALUE TOO LOW (0 to 86400 s); Name: A LINE CANNOT CARRY AN EQUALS SIGN; ");
     EXPECT_EQ(threshold.staged(), before);
 
     Change second;

@@ -32,7 +32,7 @@ constexpr Form formOf(const Type& type) {
 
 constexpr Facts factsOf(const stParamProperties& row, Form form) {
     return {.form = form,
-            .isReadOnly = row.val_access == kReadOnly,
+            .isReadOnly = isReadOnly(row),
             .min = row.val_min,
             .max = row.val_max,
             .characters = row.val_len > 0 ? row.val_len : kAnyLength};

@@ -56,6 +56,10 @@ enum class Form : unsigned char {
 
 inline constexpr int kAnyLength = INT_MAX;
 
+constexpr bool isReadOnly(const stParamProperties& row) {
+    return row.val_access == kReadOnly;
+}
+
 // What the rules need to know of a parameter.
 struct Facts {
     Form form = Form::none;
@@ -97,6 +101,7 @@ inline constexpr Reasons kLoadingRefuses{Reason::noNumber};
 struct Objection {
     Reason reason = Reason::none;
     double limit = 0; // that the value goes beyond
+    double found = 0; // in a text: how many characters or bytes, or which character
 
     constexpr explicit operator bool() const { return reason != Reason::none; }
 };
@@ -166,10 +171,11 @@ constexpr int charactersIn(std::string_view text) {
     return count;
 }
 
-constexpr bool isCarried(std::string_view text) {
+// The first character that no line carries, if any.
+constexpr std::optional<char> uncarriedIn(std::string_view text) {
     for (const char c : text)
-        if (c == '"' || c == '=' || static_cast<unsigned char>(c) < ' ') return false;
-    return true;
+        if (c == '"' || c == '=' || static_cast<unsigned char>(c) < ' ') return c;
+    return {};
 }
 
 constexpr bool isWhole(double number) {
@@ -186,8 +192,8 @@ class First {
 public:
     constexpr explicit First(Reasons reasons) : asked(reasons) {}
 
-    constexpr First& where(bool isBroken, Reason reason, double limit = 0) {
-        if (!objection && isBroken && asked.has(reason)) objection = {reason, limit};
+    constexpr First& where(bool isBroken, Reason reason, double limit = 0, double found = 0) {
+        if (!objection && isBroken && asked.has(reason)) objection = {reason, limit, found};
         return *this;
     }
     constexpr operator Objection() const { return objection; }
@@ -219,14 +225,16 @@ private:
 constexpr Objection check(const Facts& facts, std::string_view text, Reasons asked = Reasons::all()) {
     const bool isMask = facts.form == Form::netmask;
     const bool isAddress = addressIn(text).has_value();
+    const auto uncarried = uncarriedIn(text);
+    const int characters = charactersIn(text);
     return First(asked)
         .where(facts.isReadOnly, Reason::readOnly)
         .where(facts.form == Form::none, Reason::noValue)
         .where(text.find('\0') != text.npos, Reason::holdsNul)
-        .where(!isCarried(text), Reason::notCarried)
-        .where(charactersIn(text) > facts.characters, Reason::tooLong, static_cast<double>(facts.characters))
-        .where(text.size() > static_cast<std::size_t>(facts.bytes), Reason::tooManyBytes,
-               static_cast<double>(facts.bytes))
+        .where(uncarried.has_value(), Reason::notCarried, 0, uncarried.value_or(0))
+        .where(characters > facts.characters, Reason::tooLong, facts.characters, characters)
+        .where(text.size() > static_cast<std::size_t>(facts.bytes), Reason::tooManyBytes, facts.bytes,
+               static_cast<double>(text.size()))
         .where((isMask || facts.form == Form::address) && !isAddress, Reason::noAddress)
         .where(isMask && isAddress && !isNetmask(text), Reason::noNetmask)
         .where(facts.form == Form::date && !isDate(text), Reason::noDate)

@@ -91,7 +91,7 @@ local function checkText(row, value)
   if type(value) ~= "string" then return nil, "NOT A TEXT" end
   local quoted, reason = checks.carried(row, value)
   if not quoted then return nil, reason end
-  local form = forms[row.form]
+  local form = forms[row.form == "netmask" and not isAddress(value) and "address" or row.form]
   if form and not form[1](value) then return nil, form[2] end
   return quoted, value
 end

@@ -79,7 +79,7 @@ esac
 42.000000
 Name was "Nord 1"
 Name is "Nord 2"
-station: Name: TEXT TOO LONG (up to 40 characters)
+station: Name: TEXT TOO LONG (64 characters, at most 40)
 Name was "Nord 2"
 refused' ] || fail "programs: $answer"
 

@@ -9,5 +9,5 @@ for line in io.lines() do
   local row = dictionary.row(name)
   local taken, new = checks.value(row, value)
   if row.kind ~= "interface address" then assert(pcall(talux.set, name, value) == (taken ~= nil), line) end
-  print(not taken and "-" or kind == "N" and ("%.17g"):format(new) or taken)
+  print(not taken and "-<" .. new or kind == "N" and ("%.17g"):format(new) or taken)
 end
