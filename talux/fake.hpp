@@ -43,10 +43,7 @@ void get(stVarSpace& space, int id, Value* values, unsigned long count = 1) {
 template <table::Kind kind>
 void putText(stVarSpace& space, int id, const char* text) {
     const std::size_t room = bytesOf(kind, id).size - 1;
-    char* const place = placeOf<kind>(space, id);
-    const std::size_t length = strnlen(text, room);
-    std::memcpy(place, text, length);
-    place[length] = '\0';
+    std::strncpy(placeOf<kind>(space, id), text, room); // nothing of the old text stays behind it
 }
 template <table::Kind kind>
 void getText(stVarSpace& space, int id, char* text) {

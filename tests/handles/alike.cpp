@@ -1,0 +1,171 @@
+// The same moves on the store and on that of unit tests, by whatever handles, changes and followers call:
+// what is printed has to be the same.
+#ifdef TALUX_ON_FAKE
+#include "talux/fake.hpp"
+#else
+#include "talux/follower.hpp"
+#include "talux/talux.hpp"
+#endif
+
+#include <cstdio>
+#include <memory>
+#include <random>
+#include <string>
+#include <thread>
+#include <tuple>
+#include <vector>
+
+using namespace talux;
+
+namespace {
+
+std::mt19937 engine(20261126);
+int below(int count) {
+    return static_cast<int>(engine() % static_cast<unsigned>(count));
+}
+
+unsigned print = 2166136261U; // of all that was read
+void add(const void* bytes, std::size_t size) {
+    for (const char* at = static_cast<const char*>(bytes); size > 0; ++at, --size)
+        print = (print ^ static_cast<unsigned char>(*at)) * 16777619U;
+}
+
+template <class Set, class Get, class Value>
+void moveNumber(Set set, Get get, int id, Value value) {
+    if (below(2) == 0) set(id, value);
+    get(id, &value);
+    add(&value, sizeof value);
+}
+template <class Value, class Set, class Get>
+void moveRun(Set set, Get get, const table::Row& row) {
+    std::vector<Value> values(static_cast<std::size_t>(below(row.run) + 1), static_cast<Value>(below(100)));
+    if (below(2) == 0) set(row.id, values.data(), values.size());
+    get(row.id, values.data(), values.size());
+    add(values.data(), values.size() * sizeof(Value));
+}
+template <class Set, class Get>
+void moveText(Set set, Get get, int id) {
+    char text[2 * kTextSize] = "";
+    for (int k = below(below(2) == 0 ? 5 : 2 * kTextSize); k > 0; --k)
+        text[k - 1] = static_cast<char>('a' + below(26));
+    if (below(2) == 0) set(id, text);
+    get(id, text);
+    add(text, std::strlen(text));
+}
+
+// A value of the kind, staged, or live where it is measured or a commit has made it so.
+void moveValue(const table::Row& row) {
+    const int id = row.id + below(std::max<int>(row.elements, 1));
+    const bool isLive = row.use == table::Use::measured || below(2) == 0;
+    const double number = below(2000) - 1000;
+#define TALUX_NUMBER(kind, Name, Type)                                                                       \
+    case table::Kind::kind:                                                                                  \
+        if (row.use == table::Use::measured && below(2) == 0)                                                \
+            return moveRun<Type>(VarSetGlobal##Name##ValueArray, VarGetGlobal##Name##ValueArray, row);       \
+        return isLive ? moveNumber(VarSetGlobal##Name##Value, VarGetGlobal##Name##Value, id,                 \
+                                   static_cast<Type>(number))                                                \
+                      : moveNumber(VarSet##Name##Value, VarGet##Name##Value, id, static_cast<Type>(number));
+#define TALUX_TEXT(kind, Name)                                                                               \
+    case table::Kind::kind:                                                                                  \
+        return isLive ? moveText(VarSetGlobal##Name##Value, VarGetGlobal##Name##Value, id)                   \
+                      : moveText(VarSet##Name##Value, VarGet##Name##Value, id);
+    switch (row.kind) {
+        TALUX_NUMBER(f32, Float, float)
+        TALUX_NUMBER(f64, Double, double)
+        TALUX_NUMBER(i32, Long, VarLong)
+        TALUX_NUMBER(i16, Int, short)
+        TALUX_NUMBER(flag, Bool, char)
+        TALUX_NUMBER(choice, Enum, short)
+        TALUX_TEXT(text, Text)
+        TALUX_TEXT(identifier, Id)
+        TALUX_TEXT(address, Ip)
+    case table::Kind::clock:
+    case table::Kind::record:
+    case table::Kind::command:
+        break;
+    }
+}
+
+template <class Layout>
+void moveRecord() {
+    Layout record{};
+    VarGetGlobalStructValue(kRecordId<Layout>, &record, sizeof record);
+    add(&record, sizeof record);
+    std::memset(&record, below(256), sizeof record);
+    VarSetGlobalStructValue(kRecordId<Layout>, &record, sizeof record);
+}
+
+// Of the settings every byte counts: followers compare them.
+void move(int turns) {
+    for (int turn = 0; turn < turns; ++turn) {
+        for (int k = 0; k < 500; ++k)
+            moveValue(table::kRows[below(std::size(table::kRows))]);
+        moveRecord<MessRecord01>(), moveRecord<MessRecord02>(), moveRecord<StatRecord_c0>();
+        if (below(4) == 0) VarSetDefault();
+        if (below(2) == 0) VarUpdateGlobalSpace();
+        for (const stVarSpace* space : {pVarTemp, pVarGlobal})
+            for (const auto& [id, offset, size] : detail::kSettings)
+                add(reinterpret_cast<const char*>(space) + offset, size);
+        std::printf("%d: %08x\n", turn, print);
+    }
+}
+
+// Two threads write, a third reads; then one stays inside.
+struct Slow {
+    using Value = int;
+    static int id() { return 1; }
+    void get(Value& /*value*/) const {}
+    void set(Value milliseconds) const { detail::sleepFor(milliseconds * 1000000L); }
+};
+void shareGroup() {
+    constexpr Measured<float> first{"U1_prim"};
+    const Group group("shared", first.run<3>(), Slow{});
+    const auto write = [&group](float from) {
+        for (int k = 0; k < 500; ++k)
+            while (!group.write({from, from, from}, 0)) {
+            }
+    };
+    std::jthread one(write, 1.F), two(write, 2.F);
+    int torn = 0, whole = 0;
+    for (std::array<float, 3> values; whole < 500;) {
+        int none;
+        if (!group.read(values, none)) continue;
+        ++whole;
+        torn += values[0] == values[1] && values[1] == values[2] ? 0 : 1;
+    }
+    one.join(), two.join();
+    std::jthread inside([&group] { std::ignore = group.write({}, 400); });
+    detail::sleepFor(50000000);
+    std::array<float, 3> values;
+    int none;
+    const Reading::State state = group.read(values, none);
+    std::printf("torn %d, busy %d, second writer %d\n", torn, state == Reading::busy, group.write({}, 0));
+}
+
+void makeGroups() {
+    constexpr Measured<float> first{"U1_prim"};
+    for (int round = 0; round < 2; ++round) {
+        std::vector<std::unique_ptr<Group<Measured<float>>>> all;
+        do
+            all.push_back(std::make_unique<Group<Measured<float>>>(std::to_string(all.size()), first));
+        while (all.back()->attached());
+        std::printf("%zu groups, then %d\n", all.size() - 1, static_cast<int>(all.back()->attachment()));
+        std::printf("other elements: %d\n", static_cast<int>(Group("0", first.run<2>()).attachment()));
+    }
+}
+
+} // namespace
+
+int main() {
+#ifdef TALUX_ON_FAKE
+    const Fake fake;
+#else
+    VarClean();
+#endif
+    Store store;
+    store.stage_defaults();
+    store.commit();
+    move(200);
+    shareGroup();
+    makeGroups();
+}
