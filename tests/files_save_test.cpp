@@ -1,5 +1,6 @@
 // What the parameter files hold byte for byte, who owns them, and that a load brings everything back.
 #include "Files.h"
+#include "Isolation.h"
 
 #include <cmath>
 #include <dlfcn.h>
@@ -168,6 +169,18 @@ TEST_F(Save, IsDatedInTheZoneOfTheMoment) {
         setenv("TZ", zone, 1);
         EXPECT_EQ(VarSaveParams(), 1);
     }
+    // A zone's file, changed in place.
+    const std::pair<fs::path, const char*> kZones[] = {
+        {"/usr/share/zoneinfo/Asia/Kathmandu", "param_2024_03_05_200733.ini"},
+        {"/usr/share/zoneinfo/Asia/Tehran", "param_2024_03_05_175233.ini"}};
+    for (int k = 0; k < 4 && talux_test::isolated() && fs::exists(kZones[k % 2].first); ++k) {
+        unsetenv("TZ");
+        std::ofstream("/etc/localtime") << contents(kZones[k % 2].first);
+        fs::last_write_time("/etc/localtime", fs::file_time_type::clock::now() + std::chrono::seconds(k));
+        EXPECT_EQ(VarSaveParams(), 1);
+        EXPECT_TRUE(fs::remove(directory / kZones[k % 2].second));
+    }
+    fs::remove("/etc/localtime");
     if (sizeof moment == 8) {
         setenv("TZ", "UTC0", 1);
         for (const auto& [seconds, date, file] :

@@ -84,6 +84,10 @@ TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
              "FW_ETH0_MASK: NO NETMASK (ones before zeros as in 255.255.255.0)"}));
     EXPECT_EQ(read(), staged);
 
+    for (auto reason = Reason::readOnly; reason <= Reason::notLoaded;
+         reason = static_cast<Reason>(static_cast<int>(reason) + 1))
+        EXPECT_FALSE(Result(reason).text().empty()) << static_cast<int>(reason);
+
     store.commit();
     EXPECT_EQ(threshold.live(), 35.0f);
     EXPECT_EQ(name.live(), "Süd 1");
