@@ -8,7 +8,7 @@ set(talux_tables
 set(talux_generated_headers
   ${talux_generated}/talux/parameters.hpp
   ${talux_generated}/talux/records.hpp
-  ${talux_generated}/talux/default_table.hpp
+  ${talux_generated}/talux/dictionary_table.hpp
   ${talux_generated}/talux/note_table.hpp)
 set(talux_lua_tables parameters parameters_de parameters_en records)
 list(TRANSFORM talux_lua_tables REPLACE "(.+)" "${talux_generated}/lua/talux/\\1.lua")

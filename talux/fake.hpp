@@ -5,15 +5,17 @@
 //   talux::Fake fake; // settings have their factory defaults, measured values are 0 or empty
 //   CHECK(threshold.stage(35));
 //
-// It has no files, no language and of the dictionary the names. Its groups are those of the threads of this
-// program.
+// It has the dictionary of the device, with which about.hpp and notes.hpp work, but no files and no command
+// language. Its groups are those of the threads of this program.
 #ifndef TALUX_FAKE_HPP
 #define TALUX_FAKE_HPP
 
 #include <algorithm>
 #include <iterator>
+#include <span>
+#include <strings.h>
 
-#include "talux/default_table.hpp"
+#include "talux/dictionary_table.hpp"
 #include "talux/follower.hpp"
 #include "talux/talux.hpp"
 
@@ -50,47 +52,55 @@ void getText(stVarSpace& space, int id, char* text) {
     std::memcpy(text, placeOf<kind>(space, id), bytesOf(kind, id).size);
 }
 
-inline void stageDefault(const table::Default& setting) {
-    const int id = setting.id;
-    char* const text = const_cast<char*>(setting.text);
-    switch (setting.kind) {
-    case table::Kind::f32:
-        return VarSetFloatValue(id, static_cast<float>(setting.number));
-    case table::Kind::f64:
-        return VarSetDoubleValue(id, setting.number);
-    case table::Kind::i32:
-        return VarSetLongValue(id, static_cast<VarLong>(setting.number));
-    case table::Kind::i16:
-        return VarSetIntValue(id, static_cast<short>(setting.number));
-    case table::Kind::flag:
-        return VarSetBoolValue(id, setting.number != 0.0);
-    case table::Kind::choice:
-        return VarSetEnumValue(id, static_cast<short>(setting.number));
-    case table::Kind::text:
+inline std::span<const stParamProperties> rows() {
+    return std::span(DefParamProperties).subspan(1, std::size(DefParamProperties) - 2);
+}
+
+template <class Wanted>
+const stParamProperties* find(Wanted wanted) {
+    const auto row = std::find_if(rows().begin(), rows().end(), wanted);
+    return row == rows().end() ? nullptr : &*row;
+}
+
+inline void stageDefault(const stParamProperties& row) {
+    const int id = row.id;
+    char* const text = const_cast<char*>(row.val_def_text);
+    switch (static_cast<ParamType>(row.type)) {
+    case kTypeFloat:
+        return VarSetFloatValue(id, static_cast<float>(row.val_def));
+    case kTypeDouble:
+        return VarSetDoubleValue(id, row.val_def);
+    case kTypeLong:
+        return VarSetLongValue(id, static_cast<VarLong>(row.val_def));
+    case kTypeInt:
+        return VarSetIntValue(id, static_cast<short>(row.val_def));
+    case kTypeBool:
+        return VarSetBoolValue(id, row.val_def != 0.0);
+    case kTypeEnum:
+        return VarSetEnumValue(id, static_cast<short>(row.val_def));
+    case kTypeText:
         return VarSetTextValue(id, text);
-    case table::Kind::identifier:
+    case kTypeId:
         return VarSetIdValue(id, text);
-    case table::Kind::address:
+    case kTypeIp:
+    case kTypeIpAddress:
+    case kTypeIpMask:
+    case kTypeIpGateway:
         return VarSetIpValue(id, text);
-    default: // not in the store
-        return;
+    case kTypeNone:
+    case kTypeDate:
+    case kTypeTime:
+    case kTypeSysDate:
+    case kTypeSysTime:
+    case kTypeStruct:
+    case kTypeCommand:
+        return; // not in the store
     }
 }
 
 inline void forgetWrites(GroupSlot& slot) {
     slot.written = 0;
     __atomic_store_n(&slot.sequence, 0U, __ATOMIC_RELEASE);
-}
-
-// Of the dictionary the names, until the next look-up of the thread.
-template <class Wanted>
-const stParamProperties* find(Wanted wanted) {
-    thread_local stParamProperties found{};
-    const auto* const row = std::find_if(std::begin(table::kRows), std::end(table::kRows), wanted);
-    if (row == std::end(table::kRows)) return nullptr;
-    found.id = row->id;
-    found.name = row->name;
-    return &found;
 }
 
 } // namespace detail::fake
@@ -118,7 +128,6 @@ public:
 stVarSpace* pVarGlobal = &talux::detail::fake::live;
 stVarSpace* pVarTemp = &talux::detail::fake::staged;
 void* pVarStruct = talux::detail::fake::records;
-const stParamText DefParamText[kDefParamTextRows] = {};
 talux::detail::PrivateGroups talux::detail::privateGroups;
 
 #define TALUX_FAKE(kind, Name, Type)                                                                         \
@@ -175,10 +184,10 @@ void VarGetGlobalStructValue(int id, void* record, VarLong size) {
 
 void VarInit(char*) {}
 void VarSetDefault() {
-    for (const auto& [id, offset, size] : talux::detail::kSettings)
-        std::memset(reinterpret_cast<char*>(pVarTemp) + offset, 0, size);
-    for (const talux::table::Default& each : talux::table::kDefaults)
-        talux::detail::fake::stageDefault(each);
+    for (const stParamProperties& row : talux::detail::fake::rows()) {
+        const bool isTemplate = *row.name == '\0';
+        if (row.is_volatile == 0 && !isTemplate) talux::detail::fake::stageDefault(row);
+    }
 }
 int VarUpdateGlobalSpace() {
     for (const auto& [id, offset, size] : talux::detail::kSettings)
@@ -203,11 +212,16 @@ int LoadDefParamProperties() {
     return 1;
 }
 const stParamProperties* GetParamProperties(int id) {
-    return talux::detail::fake::find([id](const talux::table::Row& row) { return row.id == id; });
+    return talux::detail::fake::find([id](const stParamProperties& row) { return row.id == id; });
 }
 const stParamProperties* GetParamPropertiesByName(char* name) {
+    if (name == nullptr) return nullptr;
     return talux::detail::fake::find(
-        [wanted = std::string_view(name)](const talux::table::Row& row) { return row.name == wanted; });
+        [name](const stParamProperties& row) { return strcasecmp(row.name, name) == 0; });
+}
+const stParamProperties* GetParamPropertiesByOrder(int position) {
+    const bool isThere = position >= 0 && position <= static_cast<int>(talux::detail::fake::rows().size());
+    return isThere ? DefParamProperties + position : nullptr;
 }
 
 #endif

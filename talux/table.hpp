@@ -1,5 +1,5 @@
-// What the compiler knows of a parameter. The rows are in the generated talux/parameters.hpp,
-// default_table.hpp and note_table.hpp.
+// What the compiler knows of a parameter. The rows are in the generated talux/parameters.hpp and
+// note_table.hpp.
 #ifndef TALUX_TABLE_HPP
 #define TALUX_TABLE_HPP
 
@@ -44,14 +44,6 @@ struct Row {
 
 // Called with something that is no constant, it ends the compilation: see talux/lookup.hpp.
 constexpr void stop(char) {}
-
-// The factory default of a setting.
-struct Default {
-    Kind kind;
-    int id;
-    double number;
-    const char* text = "";
-};
 
 // Of warnings, what is unknown and advice (talux/notes.hpp).
 enum class NoteKind : unsigned char { warning, unknown, advice };

@@ -1,6 +1,5 @@
 // Typed handles beside the language: what one takes the other takes, and both find it in the same place.
 #include "src/talux_interpreter.h"
-#include "talux/default_table.hpp"
 #include "talux/notes.hpp"
 #include "talux/talux.hpp"
 
@@ -217,23 +216,6 @@ TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
             << row.name;
     EXPECT_EQ(About("uearth").title(kGerman), "Schwelle Erdschluss U0");
     EXPECT_FALSE(About("Uearht") || About(0) || About(-1));
-}
-
-// What a store for unit tests begins with, is what the device has after a reset.
-TEST_F(Handles, TheDefaultsOfTestsAreThoseOfTheDevice) {
-    std::map<int, std::pair<double, std::string>> defaults;
-    for (const table::Default& each : table::kDefaults)
-        defaults[each.id] = {each.number, each.text};
-    int compared = 0;
-    for (const About parameter : parameters()) {
-        const bool isClock = parameter.type() >= kTypeDate && parameter.type() <= kTypeSysTime;
-        if (!parameter.is_setting() || isClock) continue;
-        const auto& [number, text] = defaults[parameter.id()];
-        EXPECT_EQ(number, parameter.default_number()) << parameter.name();
-        EXPECT_EQ(text, parameter.default_text()) << parameter.name();
-        ++compared;
-    }
-    EXPECT_GT(compared, 600);
 }
 
 // As a field of the list of parameters.

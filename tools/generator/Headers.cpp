@@ -1,5 +1,4 @@
-// The generated headers of talux/: the parameters with their choices, the records, factory defaults and
-// notes.
+// The generated headers of talux/: the parameters with their choices, the records and the notes.
 #include <algorithm>
 #include <map>
 #include <set>
@@ -220,42 +219,7 @@ inline constexpr short kChoices = 0; // no list
     return joined({text, "};\n", printNearest(rows), "\n} // namespace talux::table\n\n#endif\n"});
 }
 
-// ---- Defaults and notes -------------------------------------------------------------------------------
-
-std::string printTable(std::string_view guard, std::string_view contents) {
-    return fill(R"(// Made by tools/generator from the dictionary.
-#ifndef {}
-#define {}
-
-#include "talux/table.hpp"
-
-// clang-format off
-namespace talux::table {
-{}
-} // namespace talux::table
-
-#endif
-)",
-                {guard, guard, contents});
-}
-
-std::string printDefaults(const Model& model) {
-    std::string rows;
-    for (const Parameter parameter : model.rows) {
-        const bool isText = parameter.textRoom() > 0;
-        const stParamProperties& row = parameter.row();
-        if (parameter.isTemplate() || !parameter.isSetting() || kindOf(parameter) == "clock") continue;
-        if (isText ? *row.val_def_text == '\0' : row.val_def == 0.0) continue;
-        rows += joined({"    {Kind::", kindOf(parameter), ", ", std::to_string(row.id), ", ",
-                        isText ? "0, " + quoted(row.val_def_text) : number(row.val_def), "},\n"});
-    }
-    return printTable("TALUX_DEFAULT_TABLE_HPP", fill(R"(
-// In menu order; all others are 0 or empty.
-inline constexpr Default kDefaults[] = {
-{}};
-)",
-                                                      {rows}));
-}
+// ---- Notes --------------------------------------------------------------------------------------------
 
 std::string_view nameOf(parameters::NoteKind kind) {
     switch (kind) {
@@ -280,16 +244,27 @@ std::string printNotes(const Model& model) {
             for (const int note : parameter.notes())
                 places[parameter.name()] +=
                     joined({"    {", quoted(parameter.name()), ", ", std::to_string(note), "},\n"});
-    return printTable("TALUX_NOTE_TABLE_HPP",
-                      fill(R"(
+    return fill(R"(// Made by tools/generator from the dictionary.
+#ifndef TALUX_NOTE_TABLE_HPP
+#define TALUX_NOTE_TABLE_HPP
+
+#include "talux/table.hpp"
+
+// clang-format off
+namespace talux::table {
+
 inline constexpr Note kNotes[] = {
 {}};
 
 // Sorted by name.
 inline constexpr NoteOf kNotesOf[] = {
 {}};
+
+} // namespace talux::table
+
+#endif
 )",
-                           {notes, list(places, "", [](const auto& of) { return of.second; })}));
+                {notes, list(places, "", [](const auto& of) { return of.second; })});
 }
 
 // ---- Records ------------------------------------------------------------------------------------------
@@ -335,7 +310,6 @@ inline constexpr int kRecordId = 0; // no record
 void addHeaders(Sources& sources, const Model& model) {
     sources["talux/parameters.hpp"] = printParameters(model);
     sources["talux/records.hpp"] = printRecords(model);
-    sources["talux/default_table.hpp"] = printDefaults(model);
     sources["talux/note_table.hpp"] = printNotes(model);
 }
 

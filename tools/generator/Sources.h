@@ -14,13 +14,15 @@ inline constexpr std::string_view kHead = "// Made by tools/generator from Param
 // The texts of a source, each once, one after the other with its NUL. A row refers to the place: p + 17.
 class Pool {
 public:
+    explicit Pool(std::string_view ownName = "p") : name(ownName) {}
+
     std::string place(std::string_view text) {
         const auto [met, isNew] = places.emplace(text, size);
         if (isNew) {
             size += text.size() + 1;
             append(text);
         }
-        return "p+" + std::to_string(met->second);
+        return name + '+' + std::to_string(met->second);
     }
 
     // As a std::string_view.
@@ -28,7 +30,7 @@ public:
         return text.empty() ? "{}" : '{' + place(text) + ',' + std::to_string(text.size()) + '}';
     }
 
-    std::string definition() const { return "static const char p[] =\n" + literals + ";\n"; }
+    std::string definition() const { return "static const char " + name + "[] =\n" + literals + ";\n"; }
 
 private:
     void append(std::string_view text) {
@@ -40,6 +42,7 @@ private:
         literals += "\\0\"\n";
     }
 
+    std::string name;
     std::map<std::string, std::size_t, std::less<>> places;
     std::size_t size = 0;
     std::string literals;

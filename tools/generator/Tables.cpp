@@ -66,8 +66,7 @@ std::string propertyTable(const Model& model, Pool& pool) {
     for (const Row& parameter : model.rows)
         for (int k = 0; k < parameter.elements(); ++k)
             rows += propertyRow(*parameter.properties, k, pool);
-    return rows + sentinel + "};\nstParamProperties ParamProperties[" +
-           number(model.families.back().last + 2 + kSpareParamRows) + "];\n";
+    return rows + sentinel + "};\n";
 }
 
 std::string familyTable(const Model& model, Pool& pool) {
@@ -79,7 +78,9 @@ std::string familyTable(const Model& model, Pool& pool) {
 
 std::string properties(const Model& model) {
     Pool pool;
-    const std::string tables = propertyTable(model, pool) + familyTable(model, pool);
+    const std::string tables = propertyTable(model, pool) + "stParamProperties ParamProperties[" +
+                               number(model.families.back().last + 2 + kSpareParamRows) + "];\n" +
+                               familyTable(model, pool);
     std::vector<std::string> names{"***"};
     for (const Row& row : model.rows)
         names.insert(names.end(), static_cast<std::size_t>(row.elements()), row.properties->name);
@@ -173,24 +174,42 @@ private:
     Pool& pool;
 };
 
-std::string textTable(const Model& model) {
-    Pool pool;
-    const std::string sentinel = "{0,0,0,{},0,0," + pool.place("***") + "},\n";
-    std::string rows = sentinel;
-    std::vector<std::uint16_t> firstRows(kIdPlaces);
+struct TextTable {
+    std::string definition;
+    std::vector<std::uint16_t> firstRows = std::vector<std::uint16_t>(kIdPlaces);
     int count = 0;
-    for (const Row& row : model.rows) {
-        const TextRows texts(row, pool);
-        if (texts.count != 0) place(firstRows, row.textId, count + 1);
-        rows += texts.rows;
-        count += texts.count;
+
+    TextTable(const Model& model, Pool& pool) {
+        const std::string sentinel = "{0,0,0,{},0,0," + pool.place("***") + "},\n";
+        definition = "const stParamText DefParamText[kDefParamTextRows] = {\n" + sentinel;
+        for (const Row& row : model.rows) {
+            const TextRows texts(row, pool);
+            if (texts.count != 0) place(firstRows, row.textId, count + 1);
+            definition += texts.rows;
+            count += texts.count;
+        }
+        for (int free = kDefParamTextRows - 1 - count; free > 0; --free)
+            definition += sentinel;
+        definition += "};\n";
     }
-    for (int free = kDefParamTextRows - 1 - count; free > 0; --free)
-        rows += sentinel;
+};
+
+std::string texts(const Model& model) {
+    Pool pool;
+    const TextTable table(model, pool);
     return std::string(kHead) + "#include \"ParamSystem/texts/Tables.h\"\n" + pool.definition() +
-           "const stParamText DefParamText[kDefParamTextRows] = {\n" + rows +
-           "};\nconst int DefParamTextCount = kDefParamTextRows;\nnamespace talux {\nconst int kTexts = " +
-           number(count) + ";\n" + numbers("const std::uint16_t kTextRows[kIdPlaces]", firstRows) + "}\n";
+           table.definition +
+           "const int DefParamTextCount = kDefParamTextRows;\nnamespace talux {\nconst int kTexts = " +
+           number(table.count) + ";\n" +
+           numbers("const std::uint16_t kTextRows[kIdPlaces]", table.firstRows) + "}\n";
+}
+
+// The rows and texts for programs that are tested without the library, defined by talux/fake.hpp.
+std::string dictionary(const Model& model) {
+    Pool pool("talux_p");
+    const std::string tables = propertyTable(model, pool) + TextTable(model, pool).definition;
+    return std::string(kHead) + "#ifndef TALUX_DICTIONARY_TABLE_HPP\n#define TALUX_DICTIONARY_TABLE_HPP\n" +
+           "#include \"ParamSystem/TALUX_ParamStrings.h\"\n" + pool.definition() + tables + "#endif\n";
 }
 
 // Sorted, for idOf.
@@ -210,7 +229,8 @@ void addModuleTables(Sources& sources, const Model& model) {
     sources["ParamSystem/dictionary/PropertyTable.cpp"] = properties(model);
     sources["ParamSystem/dictionary/SymbolTable.cpp"] = symbols(model);
     sources["ParamSystem/dictionary/NamedIds.inc"] = namedIds(model);
-    sources["ParamSystem/texts/TextTable.cpp"] = textTable(model);
+    sources["ParamSystem/texts/TextTable.cpp"] = texts(model);
+    sources["talux/dictionary_table.hpp"] = dictionary(model);
 }
 
 } // namespace talux::generator
