@@ -181,11 +181,9 @@ void addCheck(CommandLine& line) {
     const auto [command, options] = line.add("check", run,
                                              {"what a load of a file would change, and what is odd",
                                               "was Laden einer Datei ändern würde und was auffällt"});
-    command
-        .argument({"FILE", "DATEI"}, options.files,
-                  {"parameter files, or folders with the three of them",
-                   "Parameterdateien oder Ordner mit den dreien"})
-        .required();
+    command.argument({"FILE", "DATEI"}, options.files,
+                     {"parameter files, or folders with the three of them",
+                      "Parameterdateien oder Ordner mit den dreien"});
     command.option(
         "--against", options.against,
         {"what to compare with: default (factory settings), live, staged (the working copy), a file or "

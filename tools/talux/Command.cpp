@@ -26,6 +26,12 @@ std::string shortNumber(double value) {
     return text;
 }
 
+template <class Number>
+std::optional<Number> numberIn(const std::string& text) {
+    Number number{};
+    return CLI::detail::lexical_cast(text, number) ? std::optional(number) : std::nullopt;
+}
+
 } // namespace
 
 void report(const CouldNot& error) {
@@ -50,68 +56,56 @@ Status forEachFile(const std::vector<std::string>& paths,
     return status;
 }
 
-Argument& Argument::required() {
-    option->required();
-    return *this;
-}
-
-Argument& Argument::number(bool isWhole) {
-    constexpr Wording kWhole{"must be a whole number", "erwartet wird eine ganze Zahl"};
-    constexpr Wording kNumber{"must be a number", "erwartet wird eine Zahl"};
-    option->type_name(Wording("NUMBER", "ZAHL").in(language));
-    check(option, (isWhole ? kWhole : kNumber).in(language), [isWhole](const std::string& text) {
-        long whole{};
-        double number{};
-        return isWhole ? CLI::detail::lexical_cast(text, whole) : CLI::detail::lexical_cast(text, number);
-    });
-    return *this;
-}
-
-Argument& Argument::inRange(double minimum, double maximum) {
-    constexpr Wording kRange{"must be {} to {}", "zulässig ist {} bis {}"};
-    check(option, fill(kRange.in(language), {shortNumber(minimum), shortNumber(maximum)}),
-          [minimum, maximum](const std::string& text) {
-              double value{};
-              return CLI::detail::lexical_cast(text, value) && value >= minimum && value <= maximum;
-          });
-    return *this;
-}
-
-Argument& Argument::divided(char delimiter) {
-    option->delimiter(delimiter);
-    return *this;
-}
-
-Argument& Argument::oneOf(const std::vector<std::string>& values) {
-    constexpr Wording kOneOf{"must be one of {}", "zulässig ist {}"};
-    check(option, fill(kOneOf.in(language), {list(values)}),
-          [values](const std::string& text) { return std::ranges::find(values, text) != values.end(); });
-    return *this;
+template <class Value>
+void Command::argument(Wording name, Value& value, Wording help) {
+    app->add_option(name.in(language), value, help.in(language))->type_name("")->required();
 }
 
 template <class Value>
-Argument Command::argument(Wording name, Value& value, Wording help) {
-    return {app->add_option(name.in(language), value, help.in(language))->type_name(""), language};
+void Command::optionalArgument(Wording name, Value& value, Wording help) {
+    app->add_option(name.in(language), value, help.in(language))->type_name("");
 }
 
 // Of one value the last that is typed counts.
 template <class Value>
-Argument Command::option(const char* name, Value& value, Wording help) {
+void Command::option(const char* name, Value& value, Wording help, double minimum, double maximum) {
     CLI::Option* const option = app->add_option(name, value, help.in(language));
-    if constexpr (!std::is_same_v<Value, std::vector<std::string>>)
+    if constexpr (std::is_same_v<Value, std::vector<std::string>>)
+        option->delimiter(' ');
+    else
         option->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-    Argument argument(option, language);
-    if constexpr (std::is_arithmetic_v<Value>) argument.number(std::is_integral_v<Value>);
-    return argument;
+    if constexpr (std::is_arithmetic_v<Value>) {
+        constexpr Wording kNumber{"must be a number", "erwartet wird eine Zahl"},
+            kWhole{"must be a whole number", "erwartet wird eine ganze Zahl"},
+            kRange{"must be {} to {}", "zulässig ist {} bis {}"};
+        const std::string range = fill(kRange.in(language), {shortNumber(minimum), shortNumber(maximum)});
+        option->type_name(Wording("NUMBER", "ZAHL").in(language));
+        check(option, (std::is_integral_v<Value> ? kWhole : kNumber).in(language),
+              [](const std::string& text) { return numberIn<Value>(text).has_value(); });
+        check(option, range, [=](const std::string& text) {
+            const auto number = static_cast<double>(numberIn<Value>(text).value_or(0));
+            return number >= minimum && number <= maximum;
+        });
+    }
 }
 
-template Argument Command::argument(Wording, std::string&, Wording);
-template Argument Command::argument(Wording, std::vector<std::string>&, Wording);
-template Argument Command::option(const char*, std::string&, Wording);
-template Argument Command::option(const char*, std::vector<std::string>&, Wording);
-template Argument Command::option(const char*, int&, Wording);
-template Argument Command::option(const char*, long&, Wording);
-template Argument Command::option(const char*, double&, Wording);
+void Command::choice(const char* name, std::string& value, const std::vector<std::string>& choices,
+                     Wording help) {
+    constexpr Wording kOneOf{"must be one of {}", "zulässig ist {}"};
+    option(name, value, help);
+    check(app->get_option(name), fill(kOneOf.in(language), {list(choices)}),
+          [=](const std::string& text) { return std::ranges::find(choices, text) != choices.end(); });
+}
+
+template void Command::argument(Wording, std::string&, Wording);
+template void Command::argument(Wording, std::vector<std::string>&, Wording);
+template void Command::optionalArgument(Wording, std::string&, Wording);
+template void Command::optionalArgument(Wording, std::vector<std::string>&, Wording);
+template void Command::option(const char*, std::string&, Wording, double, double);
+template void Command::option(const char*, std::vector<std::string>&, Wording, double, double);
+template void Command::option(const char*, int&, Wording, double, double);
+template void Command::option(const char*, long&, Wording, double, double);
+template void Command::option(const char*, double&, Wording, double, double);
 
 void Command::flag(const char* name, bool& value, Wording help) {
     app->add_flag(name, value, help.in(language));

@@ -7,6 +7,7 @@
 #include <concepts>
 #include <deque>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -19,8 +20,7 @@
 
 namespace CLI {
 class App;
-class Option;
-} // namespace CLI
+}
 
 namespace talux::tool {
 
@@ -75,20 +75,7 @@ struct Context {
     ParamLanguage otherLanguage() const { return language == kGerman ? kEnglish : kGerman; }
 };
 
-class Argument {
-public:
-    Argument(CLI::Option* given, ParamLanguage speech) : option(given), language(speech) {}
-
-    Argument& required();
-    Argument& number(bool isWhole);
-    Argument& inRange(double minimum, double maximum);
-    Argument& divided(char delimiter); // a value is several
-    Argument& oneOf(const std::vector<std::string>& values);
-
-private:
-    CLI::Option* option;
-    ParamLanguage language;
-};
+constexpr double kNoLimit = std::numeric_limits<double>::infinity();
 
 // A command, or the program itself.
 class Command {
@@ -100,12 +87,17 @@ public:
     Run run;
     bool isPaged = false;
 
-    // What is typed without a name, in the order of the calls: a text or several.
+    // What is typed without a name, in the order of the calls: a text or several. It must be there, or may
+    // be.
     template <class Value>
-    Argument argument(Wording name, Value& value, Wording help);
-    // Names begin with "-". A text, several texts or a number.
+    void argument(Wording name, Value& value, Wording help);
     template <class Value>
-    Argument option(const char* name, Value& value, Wording help);
+    void optionalArgument(Wording name, Value& value, Wording help);
+    // Names begin with "-". A text, several words, or a number within limits.
+    template <class Value>
+    void option(const char* name, Value& value, Wording help, double minimum = -kNoLimit,
+                double maximum = kNoLimit);
+    void choice(const char* name, std::string& value, const std::vector<std::string>& choices, Wording help);
     void flag(const char* name, bool& value, Wording help);
     void json(bool& value); // --json
 

@@ -57,11 +57,9 @@ Status run(const Options& options, const Context& context) {
 void addDiff(CommandLine& line) {
     const auto [command, options] = line.add(
         "diff", run, {"in which settings two sources differ", "worin sich zwei Quellen unterscheiden"});
-    command
-        .argument({"SOURCE", "QUELLE"}, options.sources,
-                  {"[A] B, each default, live, staged, a file or a folder; A is live if not given",
-                   "[A] B, je default, live, staged, eine Datei oder ein Ordner; A ist sonst live"})
-        .required();
+    command.argument({"SOURCE", "QUELLE"}, options.sources,
+                     {"[A] B, each default, live, staged, a file or a folder; A is live if not given",
+                      "[A] B, je default, live, staged, eine Datei oder ein Ordner; A ist sonst live"});
     command.flag("--notes", options.notes, kNotesHelp);
     command.json(options.json);
     command.isPaged = true;

@@ -418,13 +418,12 @@ void addExplain(CommandLine& line) {
     const auto [command, options] = line.add("explain", run,
                                              {"what a name, an id, a choice or a word means",
                                               "was ein Name, eine Id, eine Auswahl oder ein Wort bedeutet"});
-    command
-        .argument({"NAME|WORD", "NAME|WORT"}, options.words,
-                  {"names of parameters, series (BAassign) or members of records (MessRecord01.U1p), ids, "
-                   "choices by number or text, or words to look for in the texts",
-                   "Namen von Parametern, Reihen (BAassign) oder Feldern von Datensätzen (MessRecord01.U1p), "
-                   "Ids, Auswahlen als Zahl oder Text oder Wörter, die in den Texten gesucht werden"})
-        .required();
+    command.argument(
+        {"NAME|WORD", "NAME|WORT"}, options.words,
+        {"names of parameters, series (BAassign) or members of records (MessRecord01.U1p), ids, "
+         "choices by number or text, or words to look for in the texts",
+         "Namen von Parametern, Reihen (BAassign) oder Feldern von Datensätzen (MessRecord01.U1p), "
+         "Ids, Auswahlen als Zahl oder Text oder Wörter, die in den Texten gesucht werden"});
     command.flag("--live", options.live,
                  {"also the values of the running device", "auch die Werte des laufenden Geräts"});
     command.json(options.json);

@@ -68,7 +68,7 @@ std::string fingerprintOf(const Listing& listing) {
 void addFingerprint(CommandLine& line) {
     const auto [command, options] = line.add(
         "fingerprint", run, {"a checksum: are settings the same?", "Prüfsumme: sind Einstellungen gleich?"});
-    command.argument({"SOURCE", "QUELLE"}, options.source, {"live if not given", "sonst live"});
+    command.optionalArgument({"SOURCE", "QUELLE"}, options.source, {"live if not given", "sonst live"});
     command.option("--file", options.file,
                    {"only the settings of the file whose name begins with this",
                     "nur die Einstellungen der Datei, deren Name so beginnt"});

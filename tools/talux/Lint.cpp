@@ -444,19 +444,16 @@ void addLint(CommandLine& line) {
     const auto [command, options] = line.add("lint", run,
                                              {"check every line of a script without running it",
                                               "jede Zeile eines Skripts prüfen, ohne es auszuführen"});
-    command
-        .argument(
-            {"FILE", "DATEI"}, options.files,
-            {"scripts or folders with scripts; *.lua is Lua, *.md is read for its Lua blocks, all others "
-             "are lines of KEPL",
-             "Skripte oder Ordner mit Skripten; *.lua ist Lua, aus *.md werden die Lua-Blöcke gelesen, alles "
-             "andere sind KEPL-Zeilen"})
-        .required();
-    command
-        .option("--level", options.level,
-                {"rights level of KEPL lines, 0 to 3; 3 if not given",
-                 "Rechtestufe der KEPL-Zeilen, 0 bis 3; sonst 3"})
-        .inRange(0, 3);
+    command.argument(
+        {"FILE", "DATEI"}, options.files,
+        {"scripts or folders with scripts; *.lua is Lua, *.md is read for its Lua blocks, all others "
+         "are lines of KEPL",
+         "Skripte oder Ordner mit Skripten; *.lua ist Lua, aus *.md werden die Lua-Blöcke gelesen, alles "
+         "andere sind KEPL-Zeilen"});
+    command.option("--level", options.level,
+                   {"rights level of KEPL lines, 0 to 3; 3 if not given",
+                    "Rechtestufe der KEPL-Zeilen, 0 bis 3; sonst 3"},
+                   0, 3);
     command.isPaged = true;
 }
 

@@ -191,11 +191,9 @@ void addReport(CommandLine& line) {
     const auto [command, options] = line.add("report", run,
                                              {"a settings record to print and sign, as HTML",
                                               "Einstellprotokoll zum Drucken und Unterschreiben (HTML)"});
-    command
-        .argument({"SOURCE", "QUELLE"}, options.source,
-                  {"live, staged, default, a file or a folder",
-                   "live, staged, default, eine Datei oder ein Ordner"})
-        .required();
+    command.argument(
+        {"SOURCE", "QUELLE"}, options.source,
+        {"live, staged, default, a file or a folder", "live, staged, default, eine Datei oder ein Ordner"});
     command.option("-o,--output", options.output, {"write to this file", "in diese Datei schreiben"});
     command.option("--title", options.title, {"title of the record", "Titel des Protokolls"});
     command.flag("--changed", options.changed,

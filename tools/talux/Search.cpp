@@ -72,11 +72,10 @@ void Filter::addTo(Command& command) {
     command.option("--file", file,
                    {"only settings saved in the file whose name begins with this: parameter, sec, ip",
                     "nur Einstellungen, die in der Datei liegen, deren Name so beginnt: parameter, sec, ip"});
-    command
-        .option("--level", level,
-                {"only parameters that need this rights level to write: 1, 2 or 3",
-                 "nur Parameter, deren Schreiben diese Rechtestufe braucht: 1, 2 oder 3"})
-        .inRange(1, 3);
+    command.option("--level", level,
+                   {"only parameters that need this rights level to write: 1, 2 or 3",
+                    "nur Parameter, deren Schreiben diese Rechtestufe braucht: 1, 2 oder 3"},
+                   1, 3);
     command.option(
         "--method", method,
         {"only what belongs to the detection method whose name contains this: qu2, wattmetric",
@@ -87,11 +86,9 @@ void Filter::addTo(Command& command) {
     command.flag("--no-limits", noLimits,
                  {"only settings without specified limits",
                   "nur Einstellungen, für deren Zahlen keine Grenzen festgelegt sind"});
-    command
-        .option("--search", words,
-                {"only parameters whose texts contain all of these words",
-                 "nur Parameter, deren Texte alle diese Wörter enthalten"})
-        .divided(' ');
+    command.option("--search", words,
+                   {"only parameters whose texts contain all of these words",
+                    "nur Parameter, deren Texte alle diese Wörter enthalten"});
 }
 
 void Filter::check(const Context& context) {

@@ -214,10 +214,8 @@ void addShell(CommandLine& line) {
     const auto [command, options] = line.add("shell", run,
                                              {"the command language with completion, history, help",
                                               "Befehlssprache mit Ergänzung, Verlauf und Hilfe"});
-    command
-        .option("--level", options.level,
-                {"rights level, 0 to 3; 2 if not given", "Rechtestufe, 0 bis 3; sonst 2"})
-        .inRange(0, 3);
+    command.option("--level", options.level,
+                   {"rights level, 0 to 3; 2 if not given", "Rechtestufe, 0 bis 3; sonst 2"}, 0, 3);
     command.flag(
         "--keep-going", options.keepGoing,
         {"go on after a refused line of a pipe", "nach einer abgelehnten Zeile aus einer Pipe weitermachen"});

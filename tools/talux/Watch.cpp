@@ -277,7 +277,7 @@ Status run(Options& options, const Context& context) {
 void addWatch(CommandLine& line) {
     const auto [command, options] =
         line.add("watch", run, {"live values, updated in place", "gültige Werte, laufend aktualisiert"});
-    command.argument(
+    command.optionalArgument(
         {"NAME", "NAME"}, options.names,
         {"parameters, series (BAassign), patterns (U*_prim), records, members of records; 'NAME I' or "
          "'NAME I.J' for elements",
@@ -289,11 +289,10 @@ void addWatch(CommandLine& line) {
                     "enden, sobald dies gilt: 'U0_prim > 5'; Rückgabewert 1, wenn es vorher endet"});
     command.flag("--min-max", options.minMax,
                  {"also minimum and maximum so far", "auch bisheriges Minimum und Maximum"});
-    command
-        .option(
-            "--period", options.period,
-            {"seconds between two readings; 1 if not given", "Sekunden zwischen zwei Ablesungen; sonst 1"})
-        .inRange(0.01, 86400.0);
+    command.option(
+        "--period", options.period,
+        {"seconds between two readings; 1 if not given", "Sekunden zwischen zwei Ablesungen; sonst 1"}, 0.01,
+        86400.0);
     command.option("--count", options.count,
                    {"end after this many readings", "nach so vielen Ablesungen enden"});
     command.flag("--csv", options.csv,

@@ -60,17 +60,17 @@ void addHelp(CommandLine& line) {
     line.add("help", help,
              {"this help, that of a command, or what a name means",
               "diese Hilfe, die eines Befehls oder was ein Name bedeutet"})
-        .argument({"NAME", "NAME"}, *names,
-                  {"a command, or a name as explain takes it", "ein Befehl oder ein Name wie bei explain"});
+        .optionalArgument(
+            {"NAME", "NAME"}, *names,
+            {"a command, or a name as explain takes it", "ein Befehl oder ein Name wie bei explain"});
 }
 
 Status run(int argc, char** argv, Context& context) {
     CommandLine line("talux", context.language, kAbout);
     std::string language;
-    line.program()
-        .option("--language", language,
-                {"de or en; by default that of the environment", "de oder en; sonst die der Umgebung"})
-        .oneOf({"de", "en"});
+    line.program().choice(
+        "--language", language, {"de", "en"},
+        {"de or en; by default that of the environment", "de oder en; sonst die der Umgebung"});
     line.program().option(
         "--directory", context.directory,
         {"where the device keeps its files; by default /", "Ordner der Parameterdateien; sonst /"});

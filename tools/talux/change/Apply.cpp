@@ -56,22 +56,18 @@ void writeOne(const Write& write, const Context& context) {
 class Undisturbed {
 public:
     Undisturbed() {
-        for (Handler& handler : handlers)
-            handler.before = std::signal(handler.signal, [](int) {});
+        for (auto& [signal, before] : handlers)
+            before = std::signal(signal, [](int) {});
     }
     ~Undisturbed() {
-        for (const Handler& handler : handlers)
-            std::signal(handler.signal, handler.before);
+        for (const auto& [signal, before] : handlers)
+            std::signal(signal, before);
     }
     Undisturbed(const Undisturbed&) = delete;
     Undisturbed& operator=(const Undisturbed&) = delete;
 
 private:
-    struct Handler {
-        int signal;
-        void (*before)(int);
-    };
-    Handler handlers[4]{{SIGHUP, SIG_DFL}, {SIGINT, SIG_DFL}, {SIGTERM, SIG_DFL}, {SIGPIPE, SIG_DFL}};
+    std::pair<int, void (*)(int)> handlers[4]{{SIGHUP, {}}, {SIGINT, {}}, {SIGTERM, {}}, {SIGPIPE, {}}};
 };
 
 class Change {
@@ -170,14 +166,14 @@ private:
 
     void demandUnchanged() const {
         for (const Write& write : writes)
-            if (!write.setsClock() && !sameValue(write.present(), write.from))
+            if (write.isChanged())
                 throw CouldNot(context.say("nothing is written: {} has changed meanwhile",
                                            "nichts ist geschrieben: {} hat sich inzwischen geändert",
                                            write.label()));
     }
 
     void writeAll() {
-        const OneAtATime guard(context);
+        const auto lock = oneAtATime(context);
         if (const std::string half = interruption(context); !order.mends && !half.empty())
             throw CouldNot(half);
         demandUnchanged();
@@ -294,20 +290,16 @@ std::size_t pendingSettings(const Context& context) {
     return differences(Source::open("live", context), Source::open("staged", context)).size();
 }
 
-OneAtATime::OneAtATime(const Context& context) {
+std::shared_ptr<void> oneAtATime(const Context& context) {
     const std::string path = context.directory + "/.talux_lock";
-    descriptor = os::openOrMake(path.c_str());
+    const int descriptor = os::openOrMake(path.c_str());
     if (descriptor < 0)
         throw CouldNot(context.say("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}", path,
                                    std::generic_category().message(errno)));
-    if (os::tryLockFile(descriptor)) return;
-    os::closeFile(descriptor);
+    std::shared_ptr<void> lock(nullptr, [descriptor](void*) { os::closeFile(descriptor); });
+    if (os::tryLockFile(descriptor)) return lock;
     throw CouldNot(context.say("another change is being made at this moment",
                                "gerade wird eine andere Änderung gemacht"));
-}
-
-OneAtATime::~OneAtATime() {
-    os::closeFile(descriptor);
 }
 
 Status carryOut(const Plan& plan, Order& order, const Context& context) {

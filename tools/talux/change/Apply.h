@@ -66,17 +66,8 @@ bool isAgreed(const std::string& question, const Context& context);
 // Settings of the working copy that are not live.
 std::size_t pendingSettings(const Context& context);
 
-// One change at a time: until it goes out of scope. Throws CouldNot while another process has it.
-class OneAtATime {
-public:
-    explicit OneAtATime(const Context& context);
-    ~OneAtATime();
-    OneAtATime(const OneAtATime&) = delete;
-    OneAtATime& operator=(const OneAtATime&) = delete;
-
-private:
-    int descriptor;
-};
+// One change at a time: until what it gives goes out of scope. Throws CouldNot while another process has it.
+[[nodiscard]] std::shared_ptr<void> oneAtATime(const Context& context);
 
 } // namespace talux::tool
 

@@ -29,9 +29,6 @@ struct AddressOrder : Order {
     int seconds = 120; // to wait for the confirmation
 };
 
-// What the guard reports to the command that started it.
-enum Report : char { kApplied = 'a', kConfirmed = 'c', kTakenBack = 'b' };
-
 volatile std::sig_atomic_t isAskedToEnd = 0;
 
 // Counts on while the machine sleeps, whoever sets the clock.
@@ -41,90 +38,69 @@ double now() {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
-// Nobody may listen any more.
-void say(int descriptor, Report report) {
-    const char letter = report;
-    os::writeFile(descriptor, {&letter, 1});
+// Holds nothing of the command's but the pipe; killing all processes called talux spares it.
+void detach(int pipe) {
+    setsid();
+    prctl(PR_SET_NAME, "address-guard");
+    for (const int signal : {SIGHUP, SIGINT, SIGPIPE})
+        std::signal(signal, SIG_IGN);
+    std::signal(SIGTERM, [](int) { isAskedToEnd = 1; });
+    const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        dup2(nothing, descriptor);
+    for (int descriptor = STDERR_FILENO + 1; descriptor < 256; ++descriptor)
+        if (descriptor != pipe) close(descriptor);
 }
 
-// Applies the addresses, waits, and takes them back if they are still open then.
-class Guard {
-public:
-    Guard(const Journal& change, int wait, const Context& person)
-        : journal(change), seconds(wait), context(person) {}
+// False while somebody confirms at this moment.
+bool endsWaiting(const Context& context) try {
+    const auto lock = oneAtATime(context);
+    takeAddressBack(true, context);
+    return true;
+} catch (const CouldNot& error) {
+    os::logError("talux address: %s", error.what());
+    return false;
+}
 
-    // Gives the end of a pipe on which the guard reports, once the addresses are applied.
-    int start() {
-        journal.isDone = false;
-        const std::string before = os::exists(path.c_str()) ? contentsOf(path, context) : "";
-        replace(openAddress(context), journal.text(context), context);
-        int ends[2];
-        if (pipe2(ends, O_CLOEXEC) != 0) throw CouldNot("pipe");
-        std::fflush(nullptr);
-        const pid_t child = fork();
-        if (child == 0) detach(ends[1]), run(ends[1], before);
-        close(ends[1]);
-        char report = 0;
-        if (child < 0 || read(ends[0], &report, 1) != 1)
-            throw CouldNot(
-                context.say("the addresses could not be applied; `talux undo` takes them back",
-                            "die Adressen ließen sich nicht anwenden; `talux undo` nimmt sie zurück"));
-        return ends[0];
-    }
-
-private:
-    Journal journal;
-    const int seconds;
-    const Context& context;
+// Applies the addresses, but leaves the file as it was: `before`, or none; waits, and takes them back if they
+// are still open then.
+[[noreturn]] void guard(const Journal& journal, int seconds, int pipe, const std::string& before,
+                        const Context& context) {
+    const double end = now() + seconds;
     const std::string path = pathOf(reference::File::address, context);
-
-    // Holds nothing of the command's but the pipe; killing all processes called talux spares it.
-    static void detach(int pipe) {
-        setsid();
-        prctl(PR_SET_NAME, "address-guard");
-        for (const int signal : {SIGHUP, SIGINT, SIGPIPE})
-            std::signal(signal, SIG_IGN);
-        std::signal(SIGTERM, [](int) { isAskedToEnd = 1; });
-        const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
-        for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
-            dup2(nothing, descriptor);
-        for (int descriptor = STDERR_FILENO + 1; descriptor < 256; ++descriptor)
-            if (descriptor != pipe) close(descriptor);
+    os::logInfo("talux address: %s: applied, waits %d s for `talux confirm`",
+                journal.inWords(context).c_str(), seconds);
+    VarSetSystemIPs();
+    try {
+        before.empty() ? os::removeFile(path.c_str()) : replace(path, before, context);
+    } catch (const CouldNot& error) {
+        os::logError("talux address: %s", error.what());
     }
+    os::writeFile(pipe, "applied");
+    while (os::exists(openAddress(context).c_str()) && now() < end && isAskedToEnd == 0)
+        os::sleepMicroseconds(100000);
+    while (!endsWaiting(context))
+        os::sleepMicroseconds(500000);
+    _exit(0);
+}
 
-    [[noreturn]] void run(int pipe, const std::string& before) {
-        const double end = now() + seconds;
-        os::logInfo("talux address: %s: applied, waits %d s for `talux confirm`",
-                    journal.inWords(context).c_str(), seconds);
-        VarSetSystemIPs();
-        try {
-            before.empty() ? os::removeFile(path.c_str()) : replace(path, before, context);
-        } catch (const CouldNot& error) {
-            os::logError("talux address: %s", error.what());
-        }
-        say(pipe, kApplied);
-        while (os::exists(openAddress(context).c_str()) && now() < end && isAskedToEnd == 0)
-            os::sleepMicroseconds(100000);
-        const bool isKept = !takesBack() && std::ranges::all_of(journal.writes, [](const Write& write) {
-            return sameValue(write.present(), write.to);
-        });
-        say(pipe, isKept ? kConfirmed : kTakenBack);
-        _exit(0);
-    }
-
-    // Waits while somebody confirms at this moment.
-    bool takesBack() const {
-        for (;;) {
-            try {
-                const OneAtATime guard(context);
-                return takeAddressBack(true, context);
-            } catch (const CouldNot& error) {
-                os::logError("talux address: %s", error.what());
-                os::sleepMicroseconds(500000);
-            }
-        }
-    }
-};
+// Gives the end of a pipe that closes with the guard, once the addresses are applied.
+int startGuard(const Journal& journal, int seconds, const Context& context) {
+    const std::string path = pathOf(reference::File::address, context);
+    const std::string before = os::exists(path.c_str()) ? contentsOf(path, context) : "";
+    replace(openAddress(context), journal.text(context), context);
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0) throw CouldNot("pipe");
+    std::fflush(nullptr);
+    const pid_t child = fork();
+    if (child == 0) detach(ends[1]), guard(journal, seconds, ends[1], before, context);
+    close(ends[1]);
+    char applied[16];
+    if (child < 0 || read(ends[0], applied, sizeof applied) <= 0)
+        throw CouldNot(context.say("the addresses could not be applied; `talux undo` takes them back",
+                                   "die Adressen ließen sich nicht anwenden; `talux undo` nimmt sie zurück"));
+    return ends[0];
+}
 
 // "eth0" of ETH0_IP.
 std::string interfaceOf(const Write& write) {
@@ -154,11 +130,13 @@ void reportMissing(const Writes& writes, const Context& context) {
     }
 }
 
-bool isConfirmed(int pipe, const Context& context) {
-    char report = 0;
-    const bool isThere = read(pipe, &report, 1) == 1;
+// Once the guard has ended.
+bool isConfirmed(int pipe, const Writes& writes, const Context& context) {
+    char end;
+    while (read(pipe, &end, 1) > 0) {
+    }
     close(pipe);
-    if (isThere) return report == kConfirmed;
+    if (!os::exists(openAddress(context).c_str())) return std::ranges::all_of(writes, &Write::isThere);
     throw CouldNot(context.say(
         "the guard is gone; `talux confirm` keeps the addresses, `talux undo` takes them back",
         "der Wächter ist weg; `talux confirm` behält die Adressen, `talux undo` nimmt sie zurück"));
@@ -180,14 +158,14 @@ Status address(AddressOrder& order, const Context& context) {
     int pipe = -1;
     order.what = "address " + namesIn(order.assignments);
     order.appliesAll = true;
-    order.apply = [&](const Journal& journal) { pipe = Guard(journal, order.seconds, context).start(); };
+    order.apply = [&](const Journal& journal) { pipe = startGuard(journal, order.seconds, context); };
     order.isConfirmed = [&] {
         reportMissing(writes, context);
         tell(context.say(
             "applied; `talux confirm` within {} s keeps it, from the new address, too\n",
             "angewendet; `talux confirm` innerhalb von {} s behält sie, auch von der neuen Adresse aus\n",
             order.seconds));
-        const bool isKept = isConfirmed(pipe, context);
+        const bool isKept = isConfirmed(pipe, writes, context);
         tell(isKept ? context.say("confirmed and saved\n", "bestätigt und gespeichert\n")
                     : context.say("not confirmed: the old addresses are back\n",
                                   "nicht bestätigt: die alten Adressen gelten wieder\n"));
@@ -198,7 +176,7 @@ Status address(AddressOrder& order, const Context& context) {
 
 Status confirm(Order& order, const Context& context) {
     attachToWrite(context);
-    const OneAtATime guard(context);
+    const auto lock = oneAtATime(context);
     const auto journal = Journal::read(openAddress(context), context);
     if (!journal)
         throw CouldNot(
@@ -233,14 +211,10 @@ void addAddress(CommandLine& line) {
     const auto [command, order] = line.add("address", address,
                                            {"change an address; undone unless it is confirmed",
                                             "Adresse ändern, die ohne Bestätigung zurückkehrt"});
-    command
-        .argument({"NAME=VALUE", "NAME=WERT"}, order.assignments,
-                  {"ETH0_IP=.. ETH0_MASK=.. ETH0_GATEWAY=..", "ETH0_IP=.. ETH0_MASK=.. ETH0_GATEWAY=.."})
-        .required();
-    command
-        .option("--confirm", order.seconds,
-                {"seconds to wait; 120 if not given", "Wartezeit in Sekunden, sonst 120"})
-        .inRange(1, 3600);
+    command.argument({"NAME=VALUE", "NAME=WERT"}, order.assignments,
+                     {"ETH0_IP=.. ETH0_MASK=.. ETH0_GATEWAY=..", "ETH0_IP=.. ETH0_MASK=.. ETH0_GATEWAY=.."});
+    command.option("--confirm", order.seconds,
+                   {"seconds to wait; 120 if not given", "Wartezeit in Sekunden, sonst 120"}, 1, 3600);
     command.flag("--yes", order.yes, kYesHelp);
     command.json(order.json);
     const auto confirming = line.add("confirm", confirm,

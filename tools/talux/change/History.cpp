@@ -150,26 +150,22 @@ void addVersions(CommandLine& line) {
     const auto [command, options] = line.add("history", history,
                                              {"the dated copies and the files: when, and how many changes",
                                               "datierte Kopien und Dateien: wann, wie viele Änderungen"});
-    command.argument({"NAME", "NAME"}, options.name,
-                     {"the values of one parameter", "die Werte eines Parameters"});
+    command.optionalArgument({"NAME", "NAME"}, options.name,
+                             {"the values of one parameter", "die Werte eines Parameters"});
     command.json(options.json);
     command.isPaged = true;
     const auto restoring = addChange(line, "restore", restore,
                                      {"write back the settings of a dated copy or a file",
                                       "Einstellungen einer Kopie oder Datei zurückschreiben"});
-    restoring.command
-        .argument({"WHEN", "WANN"}, restoring.options.operand,
-                  {"a file, yesterday, 2026-11-20, or -3 for the third last",
-                   "eine Datei, yesterday (gestern), 2026-11-20 oder -3 für die drittletzte"})
-        .required();
+    restoring.command.argument({"WHEN", "WANN"}, restoring.options.operand,
+                               {"a file, yesterday, 2026-11-20, or -3 for the third last",
+                                "eine Datei, yesterday (gestern), 2026-11-20 oder -3 für die drittletzte"});
     const auto cloning = addChange(line, "clone", clone,
                                    {"take over another relay's settings, not its identity",
                                     "Einstellungen eines anderen Relais ohne dessen Gerätedaten"});
-    cloning.command
-        .argument({"SOURCE", "QUELLE"}, cloning.options.operand,
-                  {"a folder with the files of another relay, or a file",
-                   "ein Ordner mit den Dateien eines anderen Relais oder eine Datei"})
-        .required();
+    cloning.command.argument({"SOURCE", "QUELLE"}, cloning.options.operand,
+                             {"a folder with the files of another relay, or a file",
+                              "ein Ordner mit den Dateien eines anderen Relais oder eine Datei"});
 }
 
 } // namespace talux::tool

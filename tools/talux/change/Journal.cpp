@@ -144,9 +144,8 @@ std::string Journal::inWords(const Context& context) const {
 }
 
 Writes Journal::written() const {
-    Writes found;
-    for (const Write& write : writes)
-        if (!write.setsClock() && !sameValue(write.present(), write.from)) found.push_back(write);
+    Writes found = writes;
+    std::erase_if(found, [](const Write& write) { return !write.isChanged(); });
     return found;
 }
 
@@ -166,10 +165,7 @@ std::string interruption(const Context& context) try {
     const auto journal = Journal::read(lastChange(context), context);
     if (!journal || journal->isDone) return {};
     const Writes half = journal->written();
-    const auto isThere = [](const Write& write) {
-        return write.setsClock() || sameValue(write.present(), write.to);
-    };
-    if (half.empty() || std::ranges::all_of(journal->writes, isThere)) return {};
+    if (half.empty() || std::ranges::all_of(journal->writes, &Write::isThere)) return {};
     return context.say(
         "'{}' of {} by {} was interrupted and is half written: {}; `talux undo` takes it back",
         "'{}' vom {} durch {} wurde unterbrochen und ist halb geschrieben: {}; `talux undo` nimmt "

@@ -24,6 +24,9 @@ struct Write {
     std::string change(const Context& context) const; // "30 -> 35 %"
     std::optional<Value> present() const;             // what is there now
     bool setsClock() const { return isOfClock(*parameter); }
+    // Of the clock, which goes on, neither is ever known: it counts as written.
+    bool isChanged() const { return !setsClock() && !sameValue(present(), from); }
+    bool isThere() const { return setsClock() || sameValue(present(), to); }
     // Whether writing it is applied to the system and saved at once, with everything else that is pending.
     bool actsAtOnce() const { return parameter->row().type == kTypeIpAddress && index == 0; }
 };

@@ -33,9 +33,9 @@ Status apply(Order& order, const Context& context) {
 void demandUnchanged(const Journal& journal, const Context& context) {
     std::string changed;
     for (const Write& write : journal.writes)
-        if (const auto now = write.present(); !write.setsClock() && !sameValue(now, write.to))
+        if (!write.isThere())
             changed += joined({changed.empty() ? "" : "; ", write.label(), " ",
-                               change(*write.parameter, write.to, now, context)});
+                               change(*write.parameter, write.to, write.present(), context)});
     if (!changed.empty())
         throw CouldNot(context.say("nothing is written; changed since by something else: {}",
                                    "nichts ist geschrieben; seither anderweitig geändert: {}", changed));
@@ -94,24 +94,21 @@ void addChanges(CommandLine& line) {
     const auto setting = addChange(line, "set", set,
                                    {"change settings, all or none, and read them back",
                                     "Einstellungen ändern, alle oder keine, und rücklesen"});
-    setting.command
-        .argument({"NAME=VALUE", "NAME=WERT"}, setting.options.assignments,
-                  {"a number, a choice by number or text, a text; NAME[3] for an element or one of a series",
-                   "eine Zahl, eine Auswahl als Zahl oder Text, ein Text; NAME[3] für ein Element oder eines "
-                   "einer Reihe"})
-        .required();
+    setting.command.argument(
+        {"NAME=VALUE", "NAME=WERT"}, setting.options.assignments,
+        {"a number, a choice by number or text, a text; NAME[3] for an element or one of a series",
+         "eine Zahl, eine Auswahl als Zahl oder Text, ein Text; NAME[3] für ein Element oder eines "
+         "einer Reihe"});
     const auto applying = addChange(
         line, "apply", apply,
         {"the same from a file with lines NAME=VALUE", "dasselbe aus einer Datei mit Zeilen NAME=WERT"});
-    applying.command
-        .argument({"PLAN", "PLAN"}, applying.options.operand,
-                  {"a first line '# for: Feeder 7' is checked against Name",
-                   "eine erste Zeile '# for: Abgang 7' wird mit Name verglichen"})
-        .required();
+    applying.command.argument({"PLAN", "PLAN"}, applying.options.operand,
+                              {"a first line '# for: Feeder 7' is checked against Name",
+                               "eine erste Zeile '# for: Abgang 7' wird mit Name verglichen"});
     const auto undoing = addChange(line, "undo", undo,
                                    {"take back the last change, or that of a record",
                                     "die letzte Änderung oder die eines Protokolls zurücknehmen"});
-    undoing.command.argument(
+    undoing.command.optionalArgument(
         {"RECORD", "PROTOKOLL"}, undoing.options.operand,
         {"the last change of this device if not given", "sonst die letzte Änderung dieses Geräts"});
     addChange(line, "discard", discard,
