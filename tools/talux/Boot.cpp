@@ -1,5 +1,4 @@
 // talux boot: what a boot script does once, before any other program of the device.
-#include <algorithm>
 #include <cstdio>
 
 #include "ParamSystem/TALUX_Var.h"
@@ -173,10 +172,10 @@ private:
 
 Status run(const Options& options, const Context& context) {
     if (!options.again && isDeviceThere() && isRunning(context))
-        throw CouldNot(context.say("the device is running: its settings would be set anew and what is "
-                                   "pending would be lost; --again does it",
-                                   "das Gerät läuft: seine Einstellungen würden neu gesetzt, Anstehendes "
-                                   "ginge verloren; --again tut es"));
+        context.fail("the device is running: its settings would be set anew and what is "
+                     "pending would be lost; --again does it",
+                     "das Gerät läuft: seine Einstellungen würden neu gesetzt, Anstehendes "
+                     "ginge verloren; --again tut es");
     return Boot(options, context).run();
 }
 

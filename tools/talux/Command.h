@@ -72,6 +72,15 @@ struct Context {
     requires(sizeof...(Pieces) > 0) std::string
         say(const char* english, const char* german, const Pieces&... pieces)
     const { return fill(say(english, german), {asText(pieces)...}); }
+    // Ends the command with such a text.
+    template <class... Pieces>
+    [[noreturn]] void fail(const char* english, const char* german, const Pieces&... pieces) const {
+        throw CouldNot(say(english, german, pieces...));
+    }
+    // "1 setting", "3 settings": the words begin with a blank.
+    std::string counted(std::integral auto count, Wording one, Wording several) const {
+        return std::to_string(count) + (count == 1 ? one : several).in(language);
+    }
     ParamLanguage otherLanguage() const { return language == kGerman ? kEnglish : kGerman; }
 };
 

@@ -2,7 +2,6 @@
 #include "tools/talux/Difference.h"
 #include "tools/talux/Notes.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
@@ -34,8 +33,7 @@ Json described(const Difference& difference, bool withNotes, const Context& cont
 }
 
 Status run(const Options& options, const Context& context) {
-    if (options.sources.size() > 2)
-        throw CouldNot(context.say("more than two sources", "mehr als zwei Quellen"));
+    if (options.sources.size() > 2) context.fail("more than two sources", "mehr als zwei Quellen");
     const Source a = Source::open(options.sources.size() == 2 ? options.sources[0] : "live", context);
     const Source b = Source::open(options.sources.back(), context);
     // A file that does not hold a setting says nothing about it, unless the other side is a file, too.

@@ -1,13 +1,10 @@
 // talux fingerprint: a number that two relays have in common only if their settings are the same.
 #include "tools/talux/Listing.h"
 
-#include <algorithm>
-
 #include <sha2.h>
 #include <sys/types.h> // for the next one
 
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
@@ -24,9 +21,8 @@ File fileCalled(const std::string& name, const Context& context) {
     if (name.empty()) return File::none;
     for (const File file : {File::normal, File::security, File::address})
         if (fileName(file).starts_with(name)) return file;
-    throw CouldNot(context.say("--file {}: is none of parameter.ini, sec_parameter.ini, ip_config.ini",
-                               "--file {}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini",
-                               printable(name)));
+    context.fail("--file {}: is none of parameter.ini, sec_parameter.ini, ip_config.ini",
+                 "--file {}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini", printable(name));
 }
 
 // -0 is the same setting as 0.

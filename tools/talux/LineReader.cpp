@@ -11,8 +11,9 @@
 #include <clocale>
 #include <histedit.h>
 
-#include "tools/talux/Completion.h"
-#include "tools/talux/Text.h"
+#include "ParamSystem/kepl/Decision.h"
+#include "ParamSystem/kepl/Words.h"
+#include "support/Text.h"
 #endif
 
 namespace talux::tool {
@@ -34,6 +35,87 @@ LineReader plainReader(const char* prompt) {
 }
 
 #ifdef TALUX_HAVE_LIBEDIT
+
+// What the Tab key offers in a line of the command language.
+class Completion {
+public:
+    struct Candidate {
+        std::string text;  // takes the place of what was typed
+        std::string label; // what it is shown as in a list
+    };
+    std::string_view typed; // in front of the cursor: what a candidate replaces
+    std::vector<Candidate> candidates;
+
+    // `head`: the line up to the cursor.
+    Completion(std::string_view head, const Context& context) {
+        const std::string_view term = kepl::withoutLeading(head.substr(head.find_last_of(',') + 1), ' ');
+        if (startsIgnoringCase(head, kHelpWord) && head.size() > kHelpWord.size())
+            offerNames(kepl::withoutLeading(head.substr(kHelpWord.size()), ' '), false);
+        else if (const auto sign = term.find('='); sign != term.npos)
+            offerValues(term.substr(0, sign), kepl::withoutLeading(term.substr(sign + 1), ' '), context);
+        else if (const auto blank = term.find(' '); blank != term.npos)
+            offerOptions(term.substr(0, blank), term.substr(term.find_last_of(' ') + 1));
+        else
+            offerWords(term, head.size() == term.size());
+    }
+
+    // What all candidates begin with, letter case aside.
+    std::string_view common() const {
+        std::string_view shared = candidates[0].text;
+        for (const auto& [text, label] : candidates)
+            while (!startsIgnoringCase(text, shared))
+                shared.remove_suffix(1);
+        return shared;
+    }
+
+private:
+    void offer(std::string_view start, std::string_view text, const std::string& label = "") {
+        if (!startsIgnoringCase(text, start)) return;
+        typed = start;
+        candidates.push_back({std::string(text), label.empty() ? std::string(text) : label});
+    }
+
+    // With the prefix or without; it is put in front.
+    void offerNames(std::string_view start, bool withPrefix) {
+        constexpr std::string_view kPrefix = kepl::kPrefixes[0];
+        const bool isPrefixed = kepl::hasPrefix(start);
+        const std::string_view wanted = start.substr(isPrefixed ? kPrefix.size() : 0);
+        for (const Parameter& parameter : reference::parameters()) {
+            if (parameter.isTemplate() || !startsIgnoringCase(parameter.name(), wanted)) continue;
+            const std::string name(parameter.name());
+            candidates.push_back({joined({withPrefix || isPrefixed ? kPrefix : "", name}), name});
+            typed = start;
+        }
+    }
+
+    void offerWords(std::string_view start, bool beginsLine) {
+        if (beginsLine)
+            for (const std::string_view word : {kHelpWord, kQuitWord, kUndoWord, kDiscardWord})
+                offer(start, word);
+        for (const kepl::CommandRow& row : kepl::kCommands)
+            offer(start, row.word);
+        if (!start.empty()) offerNames(start, true);
+    }
+
+    // Records and indexed parameters take options.
+    void offerOptions(std::string_view name, std::string_view start) {
+        const Parameter* const parameter = reference::find(name);
+        if (parameter == nullptr || !(parameter->isIndexed() || parameter->type().nature == Nature::record))
+            return;
+        for (const kepl::StyleRow& row : kepl::kStyles)
+            if (!row.option.empty()) offer(start, row.option);
+    }
+
+    void offerValues(std::string_view left, std::string_view start, const Context& context) {
+        const Parameter* const parameter = reference::find(left.substr(0, left.find(' ')));
+        if (parameter == nullptr) return;
+        for (const auto& [number, text] : parameter->choices(context.language))
+            offer(start, std::to_string(number), fill("{} = {}", {std::to_string(number), text}));
+        if (parameter->type().kind == Kind::Bool && candidates.empty())
+            for (const char* flag : {"0", "1"})
+                offer(start, flag);
+    }
+};
 
 class Edited {
 public:
@@ -109,26 +191,25 @@ private:
     static unsigned char completeKey(EditLine* editor, int /*key*/) {
         const LineInfo* const line = el_line(editor);
         const std::string_view head(line->buffer, static_cast<std::size_t>(line->cursor - line->buffer));
-        const Completion completion = complete(head, of(editor).context);
+        const Completion completion(head, of(editor).context);
         if (completion.candidates.empty()) return CC_REFRESH_BEEP;
-        const std::string text = completion.common();
-        const std::string_view typed = head.substr(head.size() - completion.typed);
-        if (text.size() > typed.size() || (completion.candidates.size() == 1 && text != typed)) {
-            el_deletestr(editor, static_cast<int>(completion.typed));
+        const bool isOne = completion.candidates.size() == 1;
+        const std::string text(completion.common());
+        if (text.size() > completion.typed.size() || (isOne && text != completion.typed)) {
+            el_deletestr(editor, static_cast<int>(completion.typed.size()));
             if (!text.empty()) el_insertstr(editor, text.c_str());
             return CC_REFRESH;
         }
-        if (completion.candidates.size() == 1) return CC_REFRESH;
-        showList(completion.candidates);
-        return CC_REDISPLAY;
+        if (!isOne) showList(completion.candidates);
+        return isOne ? CC_REFRESH : CC_REDISPLAY;
     }
 
     // Choices with texts one below the other, names side by side.
-    static void showList(const std::vector<Candidate>& candidates) {
+    static void showList(const std::vector<Completion::Candidate>& candidates) {
         constexpr std::size_t kColumns = 80, kMost = 120;
         std::size_t widest = 1;
-        for (const Candidate& candidate : candidates)
-            widest = std::max(widest, width(candidate.label) + 2);
+        for (const auto& [unused, label] : candidates)
+            widest = std::max(widest, width(label) + 2);
         const std::size_t perLine = std::max<std::size_t>(1, kColumns / widest);
         std::string text = "\n";
         for (std::size_t k = 0; k < std::min(candidates.size(), kMost); ++k)

@@ -2,8 +2,6 @@
 #ifndef TALUX_TOOLS_TALUX_LISTING_H
 #define TALUX_TOOLS_TALUX_LISTING_H
 
-#include <string>
-
 #include "tools/talux/Source.h"
 
 namespace talux::tool {

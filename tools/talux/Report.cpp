@@ -1,5 +1,4 @@
 // talux report: a record of the settings to print and sign. One HTML page that needs nothing else.
-#include <algorithm>
 #include <cstdlib>
 #include <ctime>
 #include <utility>
@@ -9,7 +8,6 @@
 #include "tools/talux/Listing.h"
 #include "tools/talux/Notes.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 

@@ -1,5 +1,4 @@
 // talux shell: the command language with completion, history and help.
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -7,13 +6,10 @@
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "support/Text.h"
-#include "tools/talux/Command.h"
-#include "tools/talux/Completion.h"
 #include "tools/talux/Explain.h"
 #include "tools/talux/LineCheck.h"
 #include "tools/talux/LineReader.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 #include "tools/talux/change/Apply.h"
 
 namespace talux::tool {

@@ -7,6 +7,7 @@
 
 #include "tools/Json.h"
 #include "tools/talux/Source.h"
+#include "tools/talux/Text.h"
 
 namespace talux::tool {
 

@@ -1,5 +1,4 @@
 // talux status: what update and save would change, and which of it reaches the network.
-#include <algorithm>
 
 #include "ParamSystem/network/SettingIds.h"
 #include "ParamSystem/os/Files.h"
@@ -8,7 +7,6 @@
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 #include "tools/talux/change/Journal.h"
 
 namespace talux::tool {
@@ -76,7 +74,7 @@ bool reachesNetwork(const Difference& pending) {
 void printChange(const Change& change, const Context& context) {
     const Paint paint;
     const auto& [command, place, isThere, pending] = change;
-    const auto count = counted(pending.size(), context.say("", " Wert"), context.say("", " Werte"));
+    const auto count = context.counted(pending.size(), {"", " Wert"}, {"", " Werte"});
     const auto head =
         isThere
             ? context.say("{} would change {} in {}", "{} würde {} in {} ändern", command, count, place)

@@ -1,6 +1,5 @@
 #include "tools/talux/StoredFile.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <set>
 

@@ -3,10 +3,6 @@
 #ifndef TALUX_TOOLS_TALUX_STOREDFILE_H
 #define TALUX_TOOLS_TALUX_STOREDFILE_H
 
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "tools/talux/Source.h"
 
 namespace talux::tool {

@@ -1,5 +1,4 @@
 // talux watch: live values, renewed in place.
-#include <algorithm>
 #include <chrono>
 #include <climits>
 #include <cmath>
@@ -12,7 +11,6 @@
 #include <unistd.h>
 
 #include "tools/talux/Search.h"
-#include "tools/talux/Text.h"
 #include "tools/talux/Watched.h"
 
 namespace talux::tool {
@@ -256,8 +254,8 @@ std::vector<Watched> watchedBy(Options& options, const std::optional<Condition>&
             if (options.filter.accepts(parameter)) addWatched(items, parameter, context);
     if (until && items.empty()) items.push_back(until->watched());
     if (items.empty())
-        throw CouldNot(context.say("nothing to watch: give names, --family or --method",
-                                   "nichts zu beobachten: Namen, --family oder --method angeben"));
+        context.fail("nothing to watch: give names, --family or --method",
+                     "nichts zu beobachten: Namen, --family oder --method angeben");
     return items;
 }
 

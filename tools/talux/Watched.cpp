@@ -5,7 +5,6 @@
 
 #include "ParamSystem/TALUX_Var.h"
 #include "support/Parse.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
@@ -36,9 +35,8 @@ std::vector<Watched> elementsBy(const std::string& text, const Parameter& parame
     const std::string_view begin = takeUpTo(end, '.');
     const auto first = wholeNumber(begin), last = end.empty() ? first : wholeNumber(end);
     if (!parameter.isIndexed() || !first || !last || *first < least || *last > most || *first > *last)
-        throw CouldNot(context.say("'{}': no such element; elements are {} to {}",
-                                   "'{}': kein solches Element; Elemente sind {} bis {}", printable(text),
-                                   least, most));
+        context.fail("'{}': no such element; elements are {} to {}",
+                     "'{}': kein solches Element; Elemente sind {} bis {}", printable(text), least, most);
     return {all.begin() + (*first - least), all.begin() + (*last - least + 1)};
 }
 
@@ -114,9 +112,9 @@ Condition::Condition(std::string_view text, const Context& context) {
     const bool isComplete = relation != std::end(kRelations) && !left.empty();
     const auto items = isComplete ? watchedBy(left, context) : std::vector<Watched>();
     if (items.size() != 1)
-        throw CouldNot(context.say("'{}': a condition is one value, >, <, =, >=, <= or !=, and a number",
-                                   "'{}': eine Bedingung ist ein Wert, >, <, =, >=, <= oder != und eine Zahl",
-                                   printable(text)));
+        context.fail("'{}': a condition is one value, >, <, =, >=, <= or !=, and a number",
+                     "'{}': eine Bedingung ist ein Wert, >, <, =, >=, <= oder != und eine Zahl",
+                     printable(text));
     what = items[0];
     isMet = relation->holds;
     const std::string_view right = withoutBlanks(text.substr(at + relation->sign.size()));
@@ -125,9 +123,9 @@ Condition::Condition(std::string_view text, const Context& context) {
         if (!number && (equalIgnoringCase(item.text.de, right) || equalIgnoringCase(item.text.en, right)))
             number = item.number;
     if (!number)
-        throw CouldNot(context.say("'{}': {} is neither a number with a decimal point nor a choice of {}",
-                                   "'{}': {} ist keine Zahl mit Dezimalpunkt und keine Auswahl von {}",
-                                   printable(text), printable(right), what.label));
+        context.fail("'{}': {} is neither a number with a decimal point nor a choice of {}",
+                     "'{}': {} ist keine Zahl mit Dezimalpunkt und keine Auswahl von {}", printable(text),
+                     printable(right), what.label);
     limit = *number;
 }
 

@@ -3,10 +3,6 @@
 #ifndef TALUX_TOOLS_TALUX_WATCHED_H
 #define TALUX_TOOLS_TALUX_WATCHED_H
 
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "tools/talux/Lookup.h"
 #include "tools/talux/Show.h"
 

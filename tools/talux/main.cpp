@@ -1,13 +1,9 @@
 // talux: one program for the person at the relay and at the desk.
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
-#include <optional>
 
-#include "tools/talux/Command.h"
 #include "tools/talux/Explain.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace {
 
@@ -84,7 +80,7 @@ Status run(int argc, char** argv, Context& context) {
         if (command != nullptr && command->isPaged) pager.emplace();
         const Status status = command == nullptr ? kNothing : command->run(context);
         if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
-        throw CouldNot(context.say("the output cannot be written", "die Ausgabe lässt sich nicht schreiben"));
+        context.fail("the output cannot be written", "die Ausgabe lässt sich nicht schreiben");
     } catch (const CouldNot& error) {
         report(error);
         return kCouldNot;

@@ -1,6 +1,5 @@
 #include "tools/talux/change/Apply.h"
 
-#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <ctime>
@@ -16,7 +15,6 @@
 #include "tools/talux/Files.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
@@ -140,9 +138,9 @@ private:
     }
 
     std::string question() const {
-        std::string text = context.say("Write {}?", "{} schreiben?",
-                                       counted(writes.size(), context.say(" setting", " Einstellung"),
-                                               context.say(" settings", " Einstellungen")));
+        std::string text = context.say(
+            "Write {}?", "{} schreiben?",
+            context.counted(writes.size(), {" setting", " Einstellung"}, {" settings", " Einstellungen"}));
         if (isApplied() && !order.appliesAll)
             text += context.say(" The address is applied at once and may cut you off: `talux address` takes "
                                 "it back by itself.",
@@ -167,9 +165,8 @@ private:
     void demandUnchanged() const {
         for (const Write& write : writes)
             if (write.isChanged())
-                throw CouldNot(context.say("nothing is written: {} has changed meanwhile",
-                                           "nichts ist geschrieben: {} hat sich inzwischen geändert",
-                                           write.label()));
+                context.fail("nothing is written: {} has changed meanwhile",
+                             "nichts ist geschrieben: {} hat sich inzwischen geändert", write.label());
     }
 
     void writeAll() {
@@ -237,10 +234,9 @@ void save(const std::set<File>& files, const Context& context) {
                                                      {File::address, SavedFile::addresses}};
     for (const auto& [file, saved] : kSaved)
         if (const int error = files.contains(file) ? VarSaveError(saved) : 0; error != 0)
-            throw CouldNot(
-                context.say("the settings are written, but {} is not saved: {}",
-                            "die Einstellungen sind geschrieben, aber {} ist nicht gespeichert: {}",
-                            pathOf(file, context), std::generic_category().message(error)));
+            context.fail("the settings are written, but {} is not saved: {}",
+                         "die Einstellungen sind geschrieben, aber {} ist nicht gespeichert: {}",
+                         pathOf(file, context), std::generic_category().message(error));
 }
 
 Added<Order> addChange(CommandLine& line, const char* name, ChangeCommand change, Wording help) {
@@ -274,9 +270,8 @@ void attachToWrite(const Context& context) {
 
 bool isAgreed(const std::string& question, const Context& context) {
     if (isatty(STDIN_FILENO) == 0)
-        throw CouldNot(
-            context.say("nothing is written: there is no terminal to ask at; --yes writes without asking",
-                        "nichts ist geschrieben: kein Terminal zum Fragen; --yes schreibt ohne Frage"));
+        context.fail("nothing is written: there is no terminal to ask at; --yes writes without asking",
+                     "nichts ist geschrieben: kein Terminal zum Fragen; --yes schreibt ohne Frage");
     std::fprintf(stderr, "%s %s ", question.c_str(), context.say("[y/N]", "[j/N]"));
     constexpr std::string_view kYes[] = {"y", "Y", "yes", "j", "J", "ja"};
     std::string answer;
@@ -294,18 +289,17 @@ std::shared_ptr<void> oneAtATime(const Context& context) {
     const std::string path = context.directory + "/.talux_lock";
     const int descriptor = os::openOrMake(path.c_str());
     if (descriptor < 0)
-        throw CouldNot(context.say("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}", path,
-                                   std::generic_category().message(errno)));
+        context.fail("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}", path,
+                     std::generic_category().message(errno));
     std::shared_ptr<void> lock(nullptr, [descriptor](void*) { os::closeFile(descriptor); });
     if (os::tryLockFile(descriptor)) return lock;
-    throw CouldNot(context.say("another change is being made at this moment",
-                               "gerade wird eine andere Änderung gemacht"));
+    context.fail("another change is being made at this moment", "gerade wird eine andere Änderung gemacht");
 }
 
 Status carryOut(const Plan& plan, Order& order, const Context& context) {
     for (const std::string& refusal : plan.refusals())
         report(CouldNot(refusal));
-    if (!plan.refusals().empty()) throw CouldNot(context.say("nothing is written", "nichts ist geschrieben"));
+    if (!plan.refusals().empty()) context.fail("nothing is written", "nichts ist geschrieben");
     order.files = plan.files();
     return carryOut(plan.writes(), order, context);
 }

@@ -3,8 +3,6 @@
 #ifndef TALUX_TOOLS_TALUX_CHANGE_APPLY_H
 #define TALUX_TOOLS_TALUX_CHANGE_APPLY_H
 
-#include <functional>
-
 #include "tools/Json.h"
 #include "tools/talux/change/Journal.h"
 

@@ -5,7 +5,6 @@
 // confirmed the new ones, and ip_config.ini keeps the old ones until then: what starts without talux has
 // them, too. A process of its own, which neither the terminal nor the command takes with it, waits for the
 // time to pass.
-#include <algorithm>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/prctl.h>
@@ -18,7 +17,6 @@
 #include "ParamSystem/os/Os.h"
 #include "tools/talux/Files.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 #include "tools/talux/change/Apply.h"
 
 namespace talux::tool {
@@ -97,8 +95,8 @@ int startGuard(const Journal& journal, int seconds, const Context& context) {
     close(ends[1]);
     char applied[16];
     if (child < 0 || read(ends[0], applied, sizeof applied) <= 0)
-        throw CouldNot(context.say("the addresses could not be applied; `talux undo` takes them back",
-                                   "die Adressen ließen sich nicht anwenden; `talux undo` nimmt sie zurück"));
+        context.fail("the addresses could not be applied; `talux undo` takes them back",
+                     "die Adressen ließen sich nicht anwenden; `talux undo` nimmt sie zurück");
     return ends[0];
 }
 
@@ -114,9 +112,9 @@ void demandInterfaces(const Writes& writes, const Context& context) {
     for (const Write& write : writes) {
         const int type = write.parameter->row().type;
         if (type != kTypeIpAddress && type != kTypeIpMask && type != kTypeIpGateway)
-            throw CouldNot(context.say(
-                "{}: is not an address, netmask or gateway of an interface",
-                "{}: ist weder Adresse noch Netzmaske noch Gateway einer Schnittstelle", write.label()));
+            context.fail("{}: is not an address, netmask or gateway of an interface",
+                         "{}: ist weder Adresse noch Netzmaske noch Gateway einer Schnittstelle",
+                         write.label());
     }
 }
 
@@ -137,9 +135,8 @@ bool isConfirmed(int pipe, const Writes& writes, const Context& context) {
     }
     close(pipe);
     if (!os::exists(openAddress(context).c_str())) return std::ranges::all_of(writes, &Write::isThere);
-    throw CouldNot(context.say(
-        "the guard is gone; `talux confirm` keeps the addresses, `talux undo` takes them back",
-        "der Wächter ist weg; `talux confirm` behält die Adressen, `talux undo` nimmt sie zurück"));
+    context.fail("the guard is gone; `talux confirm` keeps the addresses, `talux undo` takes them back",
+                 "der Wächter ist weg; `talux confirm` behält die Adressen, `talux undo` nimmt sie zurück");
 }
 
 Status address(AddressOrder& order, const Context& context) {
@@ -178,9 +175,7 @@ Status confirm(Order& order, const Context& context) {
     attachToWrite(context);
     const auto lock = oneAtATime(context);
     const auto journal = Journal::read(openAddress(context), context);
-    if (!journal)
-        throw CouldNot(
-            context.say("no address waits to be confirmed", "keine Adresse wartet auf Bestätigung"));
+    if (!journal) context.fail("no address waits to be confirmed", "keine Adresse wartet auf Bestätigung");
     save(filesOf(journal->writes), context);
     os::removeFile(openAddress(context).c_str());
     const std::string changes = journal->inWords(context);

@@ -1,5 +1,4 @@
 // talux history, restore, clone: what was, back again, and from another relay.
-#include <algorithm>
 #include <ctime>
 #include <sys/stat.h>
 
@@ -7,7 +6,6 @@
 #include "tools/talux/Lookup.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/StoredFile.h"
-#include "tools/talux/Text.h"
 #include "tools/talux/change/Apply.h"
 
 namespace talux::tool {
@@ -75,8 +73,8 @@ Status history(const Options& options, const Context& context) {
         if (one != nullptr && !value) continue;
         table.add({copy.when, copy.path,
                    one != nullptr ? shown(*one, value, context)
-                                  : counted(changed.size(), context.say(" change", " Änderung"),
-                                            context.say(" changes", " Änderungen"))});
+                                  : context.counted(changed.size(), {" change", " Änderung"},
+                                                    {" changes", " Änderungen"})});
         Json object{
             {"when", copy.when},
             {"file", copy.path},
@@ -98,13 +96,12 @@ std::string momentFor(const std::string& when, const Context& context) {
         const auto copies = copiesOf(File::normal, context);
         const std::size_t back = std::strtoul(when.c_str() + 1, nullptr, 10);
         if (back < 1 || back > copies.size())
-            throw CouldNot(context.say("there are {} copies", "es gibt {} Kopien", copies.size()));
+            context.fail("there are {} copies", "es gibt {} Kopien", copies.size());
         return copies[back - 1].when;
     }
     if (when.size() < 10 || when[4] != '-' || when[7] != '-')
-        throw CouldNot(context.say("'{}': neither a file nor a moment such as yesterday, 2026-11-20, -3",
-                                   "'{}': weder eine Datei noch ein Zeitpunkt wie gestern, 2026-11-20, -3",
-                                   when));
+        context.fail("'{}': neither a file nor a moment such as yesterday, 2026-11-20, -3",
+                     "'{}': weder eine Datei noch ein Zeitpunkt wie gestern, 2026-11-20, -3", when);
     return when + kAfterAll;
 }
 
@@ -117,8 +114,7 @@ std::vector<std::string> filesToRestore(const std::string& name, const Context& 
     for (const File file : {File::normal, File::security})
         if (const auto copy = newestWholeCopy(file, context, until)) paths.push_back(*copy);
     if (!paths.empty()) return paths;
-    throw CouldNot(
-        context.say("there is no whole copy of that time", "aus dieser Zeit gibt es keine ganze Kopie"));
+    context.fail("there is no whole copy of that time", "aus dieser Zeit gibt es keine ganze Kopie");
 }
 
 bool isUnwritable(const Parameter& parameter) {

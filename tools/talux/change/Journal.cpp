@@ -1,6 +1,5 @@
 #include "tools/talux/change/Journal.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdlib>
@@ -11,7 +10,6 @@
 #include "ParamSystem/os/Os.h"
 #include "tools/talux/Files.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
@@ -122,8 +120,8 @@ std::optional<Journal> Journal::read(const std::string& path, const Context& con
         isKnown = takeHead(journal, line) || takeWrite(journal, line);
     }
     if (isKnown && contents.ends_with('\n')) return journal;
-    throw CouldNot(context.say("{}: is not a complete record of a change: see line {}",
-                               "{}: ist kein ganzes Änderungsprotokoll: siehe Zeile {}", path, number));
+    context.fail("{}: is not a complete record of a change: see line {}",
+                 "{}: ist kein ganzes Änderungsprotokoll: siehe Zeile {}", path, number);
 }
 
 std::string Journal::text(const Context& context) const {

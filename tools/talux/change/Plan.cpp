@@ -1,6 +1,5 @@
 #include "tools/talux/change/Plan.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <tuple>
@@ -13,7 +12,6 @@
 #include "tools/talux/LineCheck.h"
 #include "tools/talux/Lookup.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
@@ -187,9 +185,8 @@ void Plan::checkDevice(std::string_view line, const std::string& path) const {
     const Parameter& name = *reference::find("Name");
     const auto here = present(name, name.row().id);
     if (here && line == here->text()) return;
-    throw CouldNot(context.say("{}: is for '{}'; this device is '{}'",
-                               "{}: ist für '{}'; dieses Gerät heißt '{}'", path, printable(line),
-                               here ? printable(here->text()) : "-"));
+    context.fail("{}: is for '{}'; this device is '{}'", "{}: ist für '{}'; dieses Gerät heißt '{}'", path,
+                 printable(line), here ? printable(here->text()) : "-");
 }
 
 void Plan::readLine(std::string_view line, const std::string& place) {
@@ -216,7 +213,7 @@ void Plan::readLine(std::string_view line, const std::string& place) {
 void Plan::read(const std::string& path) {
     std::string contents = contentsOf(path, context);
     if (contents.find('\0') != contents.npos)
-        throw CouldNot(context.say("{}: contains a NUL character", "{}: enthält ein NUL-Zeichen", path));
+        context.fail("{}: contains a NUL character", "{}: enthält ein NUL-Zeichen", path);
     std::string_view rest = contents;
     constexpr std::string_view kMark = "\xEF\xBB\xBF", kFor = "# for:";
     if (rest.starts_with(kMark)) rest.remove_prefix(kMark.size());

@@ -3,10 +3,7 @@
 #ifndef TALUX_TOOLS_TALUX_CHANGE_PLAN_H
 #define TALUX_TOOLS_TALUX_CHANGE_PLAN_H
 
-#include <optional>
 #include <set>
-#include <string>
-#include <vector>
 
 #include "tools/talux/Source.h"
 

@@ -2,7 +2,6 @@
 #include "ParamSystem/os/Files.h"
 #include "tools/talux/Difference.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 #include "tools/talux/change/Apply.h"
 
 namespace talux::tool {
@@ -15,7 +14,7 @@ Status set(Order& order, const Context& context) {
         std::string_view value = assignment;
         const std::string_view label = takeUpTo(value, '=');
         if (label.size() == assignment.size())
-            throw CouldNot(context.say("'{}': NAME=VALUE expected", "'{}': NAME=WERT erwartet", assignment));
+            context.fail("'{}': NAME=VALUE expected", "'{}': NAME=WERT erwartet", assignment);
         plan.take(label, value);
     }
     order.what = "set " + namesIn(order.assignments);
@@ -37,8 +36,8 @@ void demandUnchanged(const Journal& journal, const Context& context) {
             changed += joined({changed.empty() ? "" : "; ", write.label(), " ",
                                change(*write.parameter, write.to, write.present(), context)});
     if (!changed.empty())
-        throw CouldNot(context.say("nothing is written; changed since by something else: {}",
-                                   "nichts ist geschrieben; seither anderweitig geändert: {}", changed));
+        context.fail("nothing is written; changed since by something else: {}",
+                     "nichts ist geschrieben; seither anderweitig geändert: {}", changed);
 }
 
 // The other way round, whatever is there of it. The clock goes on.
@@ -67,8 +66,8 @@ Status undo(Order& order, const Context& context) {
     const std::string path = order.operand.empty() ? lastChange(context) : order.operand;
     const auto journal = Journal::read(path, context);
     if (!journal)
-        throw CouldNot(context.say("{}: is not there: no change to take back",
-                                   "{}: nicht da: keine Änderung zurückzunehmen", path));
+        context.fail("{}: is not there: no change to take back",
+                     "{}: nicht da: keine Änderung zurückzunehmen", path);
     order.what = "undo " + journal->what;
     order.mends = !journal->isDone;
     if (journal->isDone) {
