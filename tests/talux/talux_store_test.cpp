@@ -5,6 +5,8 @@
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "tools/talux/PlausibilityRules.h"
 
+#include <iomanip>
+
 namespace {
 
 using namespace talux_test;
@@ -376,6 +378,22 @@ TEST_F(TaluxStore, BadArgumentsAreRefused) {
         }
     }
     EXPECT_GT(refused, 150);
+
+    const struct {
+        const char* command;
+        double low, high, step;
+    } ranges[] = {{"list --level", 1, 3, 1},
+                  {"lint /dev/null --level", 0, 3, 1},
+                  {"shell --level", 0, 3, 1},
+                  {"watch U0_prim --count 1 --period", 0.01, 86400, 0.001},
+                  {"address ETH0_IP=1.2.3.4 --confirm", 1, 3600, 1}};
+    for (const auto& [command, low, high, step] : ranges)
+        for (const double value : {low - step, low, high, high + step}) {
+            std::ostringstream line;
+            line << "talux " << command << ' ' << std::setprecision(9) << value << " 2>&1 </dev/null";
+            const bool isRefused = run(line.str()).output.find(": must be ") != std::string::npos;
+            EXPECT_EQ(isRefused, value < low || value > high) << line.str();
+        }
     EXPECT_EQ(image(), before);
     EXPECT_EQ(run("ls -a / /tmp").output, listed);
 }
