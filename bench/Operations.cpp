@@ -157,7 +157,7 @@ Operation saveOneFile() {
             {cppWay("C++", [] { VarSaveParamFile(path); }), cppWay("bare C++", [] { bare::save(barePath); })},
             "C++",
             "bare C++",
-            1.8,
+            1.4,
             5};
 }
 
@@ -167,7 +167,7 @@ Operation loadOneFile() {
             {cppWay("C++", [] { VarLoadFile(path, 0); }), cppWay("bare C++", [] { bare::load(path); })},
             "C++",
             "bare C++",
-            2.5,
+            1.4,
             5};
 }
 

@@ -23,10 +23,9 @@ std::string_view firstWord(std::string_view text) {
     return after(text.substr(0, text.find(' ', start)), start);
 }
 
-// `convert` is the C library's conversion of a whole word. Not inlined: its copy would cost parseDouble a
-// larger frame.
+// `convert` is the C library's conversion of a whole word.
 template <typename Value, typename Convert>
-[[gnu::noinline]] ParseResult parseWord(std::string_view word, Value* value, Convert convert) {
+ParseResult parseWord(std::string_view word, Value* value, Convert convert) {
     if (word.empty()) return kNoText;
     char copy[kMaxNumberText + 1];
     std::memcpy(copy, word.data(), word.size());
@@ -55,8 +54,10 @@ VarULong toULong(const char* word, char** end) {
     return static_cast<VarULong>(magnitude > kMax ? kMax : value);
 }
 
-double toDouble(const char* word, char** end) {
-    return strtod_l(word, end, cLocale());
+// Not inlined, so that plain numbers do not pay for its frame.
+[[gnu::noinline]] ParseResult parseAnyDouble(std::string_view text, double* value) {
+    return parseWord(firstWord(text), value,
+                     [](const char* word, char** end) { return strtod_l(word, end, cLocale()); });
 }
 
 // Converts the first word if it is what most numbers are, [-]digits[.digits] of up to 15 digits, and is false
@@ -75,13 +76,15 @@ bool parsePlain(std::string_view text, double* value) {
     std::int64_t digits = 0;
     int count = 0;
     int whole = -1; // digits before the point, once it has come
-    for (place += isNegative; place != end && *place != ' '; ++place) {
-        const int digit = *place - '0';
-        if (digit >= 0 && digit <= 9 && count < kExactDigits) {
+    for (place += isNegative; place != end; ++place) {
+        const unsigned digit = static_cast<unsigned char>(*place) - unsigned{'0'};
+        if (digit <= 9 && count < kExactDigits) {
             digits = digits * 10 + digit;
             ++count;
         } else if (*place == '.' && whole < 0) {
             whole = count;
+        } else if (*place == ' ') {
+            break;
         } else {
             return false;
         }
@@ -108,7 +111,7 @@ ParseResult parseULong(std::string_view text, VarULong* value) {
 }
 
 ParseResult parseDouble(std::string_view text, double* value) {
-    return parsePlain(text, value) ? kParsed : parseWord(firstWord(text), value, toDouble);
+    return parsePlain(text, value) ? kParsed : parseAnyDouble(text, value);
 }
 
 } // namespace talux

@@ -28,8 +28,8 @@ private:
     std::uint64_t bits = 0;
 };
 
-constexpr CharacterSet kBlank(" \t"), kSpace(" "), kEndsKey(" =\n"), kEndsValue("=\n"), kEndsQuoted("\"=\n"),
-    kMayEndBare("=\n\r#;/"), kIgnored(" \t\r\n");
+constexpr CharacterSet kSpace(" "), kBlank(" \t"), kIgnored(" \t\r"), kSign("="), kEndsQuoted("\"="),
+    kMayEndBare("=\r#;/");
 
 std::string_view without(CharacterSet leading, std::string_view text) {
     const char* place = text.data();
@@ -51,7 +51,7 @@ bool beginsComment(std::string_view text) {
 }
 
 LineForm formWithoutKey(std::string_view text) {
-    const bool nothing = text.empty() || text[0] == '\n' || text[0] == '\r' || text[0] == '[';
+    const bool nothing = text.empty() || text[0] == '\r' || text[0] == '[';
     return nothing || beginsComment(text) ? LineForm::nothing : LineForm::foreign;
 }
 
@@ -65,7 +65,7 @@ Tail tailIn(std::string_view rest) {
 // it.
 std::string_view valueAfterKey(std::string_view rest) {
     const std::string_view signs = without(kSpace, rest);
-    return without(kEndsValue, signs.starts_with('=') || rest.empty() ? signs : after(rest, 1));
+    return without(kSign, signs.starts_with('=') || rest.empty() ? signs : after(rest, 1));
 }
 
 void takeQuoted(Entry& entry, std::string_view text) {
@@ -89,6 +89,7 @@ void takeBare(Entry& entry, std::string_view text) {
 
 Entry parseEntry(std::string_view line) {
     Entry entry;
+    if (line.ends_with('\n')) line.remove_suffix(1);
     const std::string_view text = without(kBlank, line);
     if (!startsIgnoringCase(text, kKeyPrefix)) {
         entry.form = formWithoutKey(text);
@@ -96,7 +97,7 @@ Entry parseEntry(std::string_view line) {
     }
     entry.form = LineForm::entry;
     const std::string_view key = after(text, kKeyPrefix.size());
-    const std::size_t length = lengthUpTo(kEndsKey, key);
+    const std::size_t length = std::min({key.find(' '), key.find('='), key.size()});
     const std::string_view value = valueAfterKey(after(key, length));
     entry.name = {key.data(), length};
     entry.hasValue = !value.empty();
@@ -127,8 +128,10 @@ bool Reader::fill() {
     const auto count = os::readFile(descriptor, block + end, sizeof block - end);
     atEnd = count <= 0;
     if (count < 0) error = os::failed(os::Stage::use, "read");
-    if (count > 0) end += static_cast<std::size_t>(count);
-    return !atEnd;
+    if (atEnd) return false;
+    hasNuls = hasNuls || std::memchr(block + end, '\0', static_cast<std::size_t>(count)) != nullptr;
+    end += static_cast<std::size_t>(count);
+    return true;
 }
 
 // Including the line feed, but not more than kMaxRead characters. Empty at the end. Of a longer line the next
@@ -150,7 +153,7 @@ bool Reader::next(Entry& entry) {
     const std::string_view line = takeLine();
     if (line.empty() || error) return false;
     const bool isFull = line.back() != '\n' && start < end;
-    const std::size_t nul = line.find('\0');
+    const std::size_t nul = hasNuls ? line.find('\0') : line.npos;
     entry = parseEntry(line.substr(0, nul));
     entry.line = ++lines;
     entry.continues = lastWasFull;

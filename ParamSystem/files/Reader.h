@@ -1,15 +1,15 @@
 // Reads parameter files line by line. The grammar is wider than that of the writer (files/Line.h);
 // docs/files.md explains it to users:
 //
-//     file    = { line }        ends of lines are LF or CR LF; a NUL ends the text of its line
-//     line    = entry | other   "other" is empty, a comment ("#", ";", "//"), a heading ("[") or foreign text
-//     entry   = blanks "TLX_" name separator value     letter case of the prefix is ignored
-//     blanks  = { " " | TAB }
-//     name    = characters up to the first " ", "=" or LF
+//     file      = { line }       each ends with LF or CR LF; a NUL ends the text of its line
+//     line      = entry | other  "other": empty, a comment ("#", ";", "//"), a heading ("["), foreign text
+//     entry     = blanks "TLX_" name separator value   letter case of the prefix is ignored
+//     blanks    = { " " | TAB }
+//     name      = text           up to the first " " or "="
 //     separator = { " " } "=" { "=" } | " " { "=" }
-//     value   = '"' text [ '"' rest ]   text up to the next '"', "=" or LF
-//             | text [ rest ]           up to "#", ";", "//", "=", CR or LF; blanks belong to it
-//     rest    = what is not read: blanks, a comment or text
+//     value     = '"' text [ '"' rest ]   text up to the next '"' or "="
+//               | text [ rest ]           text up to "#", ";", "//", "=" or CR; blanks belong to it
+//     rest      = text           is not read
 #ifndef TALUX_FILES_READER_H
 #define TALUX_FILES_READER_H
 
@@ -46,7 +46,7 @@ struct Entry {
     bool hasNul = false;    // what follows a NUL is not read
 };
 
-// Parses a line without NULs. Sets neither `line` nor the last three members.
+// Parses a line without NULs, with or without its line feed. Sets neither `line` nor the last three members.
 Entry parseEntry(std::string_view line);
 
 // A file being read, without heap. A read that a signal interrupts is repeated.
@@ -69,7 +69,8 @@ private:
     int lines = 0;
     bool lastWasFull = false; // and did not end in a line feed
     bool atEnd = false;
-    char block[4096]; // of the file; from `start` to `end` not yet returned
+    bool hasNuls = false; // in what has been read of the file
+    char block[4096];     // of the file; from `start` to `end` not yet returned
     std::size_t start = 0;
     std::size_t end = 0;
 

@@ -102,25 +102,22 @@ private:
 //     in use     a save has the file locked
 //     left over  nobody has it locked: its save was killed or the power failed
 //
-//     claim       free -> in use       creates the file, which must not exist, then locks it. Before the lock
-//     it looks
-//                                      left over, and another save may remove it: then the name counts as in
-//                                      use.
-//     clear       left over -> free    locks the file, checks that the name is still its name (its save may
-//     have
-//                                      renamed it before the lock), removes it.
-//     placeAs     in use -> free       renames the file.
-//     destructor  in use -> free       removes the file if it was not renamed. Closing it ends the lock.
+//     claim       free -> in use     creates the file, which must not exist, then locks it
+//     clear       left over -> free  locks the file, then removes it if the name is still its name: its save
+//                                    may have renamed it before the lock
+//     placeAs     in use -> free     renames the file
+//     destructor  in use -> free     removes the file if it was not renamed; closing it ends the lock
 //
-// A save clears and claims the first name that is not in use, and waits if all are. Then it clears the names
-// after its own; those before it were in use a moment ago.
+// Between creation and lock a file looks left over and may be removed: then its name counts as in use. A save
+// clears and claims the first name that is not in use, and waits if all are. Then it clears the following
+// names.
 class Draft {
 public:
     explicit Draft(int in) : directory(in) {}
     ~Draft() {
         if (descriptor < 0) return;
         if (!isPlaced) os::removeIn(directory, name.data());
-        os::closeFile(descriptor); // gives the lock back
+        os::closeFile(descriptor);
     }
     Draft(const Draft&) = delete;
     Draft& operator=(const Draft&) = delete;

@@ -97,10 +97,10 @@ constexpr bool isTextKind(Kind kind) {
     return false;
 }
 
-// Calls action.operator()<kind>(), the kind that answers for an id as a constant; nothing for records and
+// Returns action.operator()<kind>(), with the kind of an id as a constant; an empty result for records and
 // None.
 template <class Action>
-void withKind(Kind kind, Action action) {
+auto withKind(Kind kind, Action action) {
     switch (kind) {
 #define TALUX_CASE(Name)                                                                                     \
     case Kind::Name:                                                                                         \
@@ -124,6 +124,7 @@ void withKind(Kind kind, Action action) {
     case Kind::None:
         break;
     }
+    return decltype(action.template operator()<Kind::Float>())();
 }
 
 // The value type of a numeric kind at the interface, as wide as its slot.

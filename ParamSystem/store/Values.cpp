@@ -51,17 +51,15 @@ void write(int id, double number) {
 
 template <Space space>
 std::optional<Value> readValueIn(int id) {
-    std::optional<Value> value;
-    withKind(kindOf(id), [&]<Kind kind>() {
+    return withKind(kindOf(id), [id]<Kind kind>() {
         if constexpr (isTextKind(kind)) {
             char text[blockOf(kind).slot];
             getText<kind, space>(id, text);
-            value.emplace(std::string_view(text));
+            return std::optional<Value>(std::in_place, std::string_view(text));
         } else {
-            value.emplace(read<kind, space>(id));
+            return std::optional<Value>(std::in_place, read<kind, space>(id));
         }
     });
-    return value;
 }
 
 template <Space space>
