@@ -1,19 +1,26 @@
-// Linked into every test program: whoever leaves more or less of the process than it found fails. So does the
-// module when it closes a file that a program started meanwhile would have inherited.
+// Linked into every test program: a test fails that leaves more or less of the process than it found, a lock
+// of the store that it still holds for instance. So does the module when it closes a file that a program
+// started meanwhile would have inherited, and a thread that waits for a lock for a minute.
 #include "Isolation.h"
+
+#include "ParamSystem/dictionary/Types.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <ctime>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <pthread.h>
 #include <sstream>
 #include <string>
 #include <sys/sem.h>
@@ -56,6 +63,27 @@ void addSemaphores(Things& things) {
     });
 }
 
+// The locks of the store, the only ones with priority inheritance, in the order in which the module makes
+// them: of the global space for all kinds, of the temporary space for all but records. It does so before
+// main.
+constinit pthread_mutex_t* locks[2 * talux::kKindCount] = {};
+
+std::string nameOf(std::size_t lock) {
+    const auto isOfLock = [=](const talux::Type& type) {
+        return type.kind == static_cast<talux::Kind>(lock % talux::kKindCount);
+    };
+    return std::string(lock < talux::kKindCount ? "global" : "temporary") + " lock of kind " +
+           std::find_if(std::begin(talux::kTypes), std::end(talux::kTypes), isOfLock)->name;
+}
+
+void addHeldLocks(Things& things) {
+    for (std::size_t k = 0; k < std::size(locks) && locks[k] != nullptr; ++k)
+        if (pthread_mutex_trylock(locks[k]) == 0)
+            pthread_mutex_unlock(locks[k]);
+        else
+            things.push_back(nameOf(k));
+}
+
 // A segment is attached by the module and by the test, once each.
 void addAttachments(Things& things) {
     std::map<std::string, int> attachments;
@@ -85,6 +113,7 @@ Things thingsOfTheProcess() {
     addSemaphores(things);
     addAttachments(things);
     addSignals(things);
+    addHeldLocks(things);
     eachLine("/proc/self/status", [&](const std::string& line) {
         if (line.starts_with("Umask:")) things.push_back(line);
     });
@@ -141,5 +170,27 @@ extern "C" {
 [[gnu::weak]] int fclose(FILE* stream) {
     expectOwn(fileno(stream), __builtin_return_address(0));
     return reinterpret_cast<int (*)(FILE*)>(dlsym(RTLD_NEXT, "fclose"))(stream);
+}
+[[gnu::weak]] int pthread_mutex_init(pthread_mutex_t* lock, const pthread_mutexattr_t* attributes) noexcept {
+    int protocol = PTHREAD_PRIO_NONE;
+    if (attributes != nullptr) pthread_mutexattr_getprotocol(attributes, &protocol);
+    const auto place = std::find_if(std::begin(locks), std::end(locks),
+                                    [=](const auto* known) { return known == lock || known == nullptr; });
+    if (protocol == PTHREAD_PRIO_INHERIT && place != std::end(locks)) *place = lock;
+    return reinterpret_cast<decltype(&pthread_mutex_init)>(dlsym(RTLD_NEXT, "pthread_mutex_init"))(
+        lock, attributes);
+}
+[[gnu::weak]] int pthread_mutex_lock(pthread_mutex_t* lock) noexcept {
+    if (pthread_mutex_trylock(lock) == 0) return 0;
+    timespec end;
+    clock_gettime(CLOCK_REALTIME, &end);
+    end.tv_sec += 60;
+    const int error = pthread_mutex_timedlock(lock, &end);
+    if (error != ETIMEDOUT) return error;
+    const auto known = std::find(std::begin(locks), std::end(locks), lock);
+    std::fprintf(stderr, "never given back: %s\n",
+                 known == std::end(locks) ? "a lock"
+                                          : nameOf(static_cast<std::size_t>(known - locks)).c_str());
+    std::abort();
 }
 }
