@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "tools/Strings.h"
+
 namespace talux::tool {
 
 using Value = nlohmann::ordered_json;
@@ -27,8 +29,8 @@ Json::Json(Json&&) noexcept = default;
 Json& Json::operator=(Json&&) noexcept = default;
 Json::~Json() = default;
 
-bool Json::isNull() const {
-    return value->is_null();
+bool Json::isEmpty() const {
+    return value->is_null() || *value == "";
 }
 
 void Json::add(Json element) {
@@ -45,6 +47,19 @@ std::string Json::text() const {
 
 std::string Json::line() const {
     return value->dump();
+}
+
+std::string Json::lines() const {
+    const auto print = [](const Value& element) { return element.dump(); };
+    return "{" +
+           list(value->items(), ",",
+                [&](const auto& member) {
+                    const std::string text = member.value().is_array()
+                                                 ? "[" + list(member.value(), ",\n", print) + "]"
+                                                 : print(member.value());
+                    return print(member.key()) + ":" + text;
+                }) +
+           "}";
 }
 
 } // namespace talux::tool

@@ -43,7 +43,7 @@ public:
     Json& operator=(Json&&) noexcept;
     ~Json();
 
-    bool isNull() const;
+    bool isEmpty() const; // null or an empty text
 
     // Make an array and an object of null.
     void add(Json element);
@@ -52,6 +52,8 @@ public:
     // Over several lines; texts that are no UTF-8 get replacement characters.
     std::string text() const;
     std::string line() const; // without any blank
+    // The same of an object, but each element of an array in it on a line.
+    std::string lines() const;
 
 private:
     std::unique_ptr<nlohmann::ordered_json> value;

@@ -191,8 +191,9 @@ Answer byLint(const Case& given) {
     const std::string line = "TLX_" + given.term();
     std::set<std::string> implausible;
     if (const auto write = writeOf(line))
-        tool::findFaults({{reference::find(given.parameter.name()), write->second}}, {},
-                         [&](const tool::Implausible& found) { implausible.insert(found.text); });
+        for (const tool::Implausible& found :
+             tool::findFaults({{reference::find(given.parameter.name()), write->second}}, {}))
+            implausible.insert(found.text);
     const auto findings = tool::checkLine(line, {}, {});
     return Verdict{std::ranges::any_of(
         findings, [&](const tool::LineFinding& finding) { return !implausible.contains(finding.text); })};

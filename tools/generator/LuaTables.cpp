@@ -4,7 +4,7 @@
 
 #include "tools/Strings.h"
 #include "tools/generator/Tables.h"
-#include "tools/pages/Records.h"
+#include "tools/reference/Members.h"
 #include "tools/reference/Reference.h"
 
 namespace talux::generator {
@@ -133,14 +133,12 @@ std::string records(const Model& model) {
     forEachNamed(model, [&](const Parameter& parameter) {
         if (parameter.type().nature != Nature::record) return;
         std::vector<std::string> members;
-        const auto texts = pages::memberTextsOf(parameter);
-        for (const StructMemberProperties_t& member : reference::members(parameter)) {
-            const pages::MemberTexts& own = texts.at(member.aszMemberName);
-            const std::string unit = unitOf(model, own.twin);
-            members.push_back(
-                joined({"{name = ", quoted(member.aszMemberName), ", kind = ", quoted(member.szMemberType),
-                        unit.empty() ? "" : ", unit = ", unit.empty() ? unit : quoted(unit),
-                        ", de = ", quoted(own.de), ", en = ", quoted(own.en), "}"}));
+        for (const reference::Member& member : reference::membersOf(parameter)) {
+            const std::string unit = unitOf(model, member.texts.twin);
+            members.push_back(joined({"{name = ", quoted(member.properties->aszMemberName), ", kind = ",
+                                      quoted(member.properties->szMemberType), unit.empty() ? "" : ", unit = ",
+                                      unit.empty() ? unit : quoted(unit), ", de = ", quoted(member.texts.de),
+                                      ", en = ", quoted(member.texts.en), "}"}));
         }
         text += joined({parameter.name(), " = ", braced(members), ",\n"});
     });

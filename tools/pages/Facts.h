@@ -6,12 +6,14 @@
 #include <vector>
 
 #include "ParamSystem/parameters/Methods.h"
-#include "tools/reference/Reference.h"
+#include "tools/reference/Lookup.h"
+#include "tools/reference/Ranges.h"
 
 namespace talux::pages {
 
 using parameters::kMethods, parameters::Method;
-using reference::noteAt, reference::Parameter;
+using reference::asRanges, reference::familyName, reference::namesOf, reference::noteAt, reference::numbersOf,
+    reference::Parameter, reference::Parameters, reference::settingsOf;
 
 inline int firstId(const Parameter& parameter) {
     return parameter.row().id;
@@ -39,14 +41,8 @@ inline bool refusesBelowOne(const Parameter& parameter) {
     return parameter.hasMinimum() && parameter.row().val_min >= 1;
 }
 
-// The family's name in German.
-std::string_view germanName(const stParamFamily& family);
-
 // The detection method to which a setting belongs, or null.
 const Method* methodOf(const Parameter& parameter);
-
-// The settings of a method that play a role in it, in menu order.
-std::vector<Parameter> settingsOf(const Method& method, parameters::Role role);
 
 // What is wrong in the data of the pages: names and choices that do not exist, members without a text.
 std::vector<std::string> faults();

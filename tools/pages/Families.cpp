@@ -6,7 +6,6 @@
 
 #include "tools/pages/Markdown.h"
 #include "tools/pages/Pages.h"
-#include "tools/pages/Records.h"
 #include "tools/pages/Series.h"
 
 namespace talux::pages {
@@ -162,17 +161,17 @@ void addMethodTables(std::ostringstream& page, const std::vector<Parameter>& par
 }
 
 void addMembers(std::ostringstream& page, const Parameter& record) {
-    const auto texts = memberTextsOf(record);
     page << "\n## Members of " << record.name() << "\n\n"
          << "| Byte | Member | Kind | English | Deutsch | As, switched by |\n|---|---|---|---|---|---|\n";
-    for (const StructMemberProperties_t& member : reference::members(record)) {
-        const MemberTexts& text = texts.find(member.aszMemberName)->second;
-        std::string like = text.twin.empty() ? "" : linkTo(text.twin);
-        if (!text.twin.empty() && !reference::find(text.twin)->unit().empty())
-            like += " in " + reference::find(text.twin)->unit();
-        if (!text.enable.empty()) addLine(like, linkTo(text.enable));
-        page << "| " << member.lMemberOffset << " | `" << member.aszMemberName << "` | "
-             << member.szMemberType << " | " << text.en << " | " << text.de << " | " << like << " |\n";
+    for (const reference::Member& member : reference::membersOf(record)) {
+        const auto& [de, en, twin, enable] = member.texts;
+        const std::string unit = unitOf(member);
+        std::string like = twin.empty() ? "" : linkTo(twin);
+        if (!unit.empty()) like += " in " + unit;
+        if (!enable.empty()) addLine(like, linkTo(enable));
+        page << "| " << member.properties->lMemberOffset << " | `" << member.properties->aszMemberName
+             << "` | " << member.properties->szMemberType << " | " << en << " | " << de << " | " << like
+             << " |\n";
     }
 }
 
@@ -182,7 +181,7 @@ std::string pageOf(const stParamFamily& family) {
         if (&parameter.family() == &family) parameters.push_back(parameter);
     std::ostringstream page;
     NotePlaces places;
-    page << kGenerated << "# " << family.name << " · " << germanName(family)
+    page << kGenerated << "# " << family.name << " · " << familyName(family, kGerman)
          << "\n\n[How to read a row, all families · Wie eine Zeile zu lesen ist, alle Familien](README.md)\n";
     if (std::ranges::all_of(parameters, methodOf)) {
         page

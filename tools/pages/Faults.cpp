@@ -2,8 +2,6 @@
 
 #include "tools/pages/Facts.h"
 #include "tools/pages/Glossary.h"
-#include "tools/pages/Names.h"
-#include "tools/pages/Records.h"
 
 namespace talux::pages {
 
@@ -42,13 +40,13 @@ void checkMethods(Faults& faults) {
 void checkMembers(Faults& faults) {
     for (const Parameter& record : reference::parameters()) {
         if (record.type().nature != Nature::record) continue;
-        auto texts = memberTextsOf(record);
+        auto texts = reference::memberTextsOf(record);
         for (const StructMemberProperties_t& member : reference::members(record))
             if (texts.erase(member.aszMemberName) != 1)
                 faults.push_back(std::string(record.name()) + "." + member.aszMemberName + " has no text");
         for (const auto& [name, text] : texts)
             faults.push_back(std::string(record.name()) + " has no member " + name);
-        for (const auto& [name, text] : memberTextsOf(record))
+        for (const auto& [name, text] : reference::memberTextsOf(record))
             expectNames(faults, text.twin + " " + text.enable);
     }
 }

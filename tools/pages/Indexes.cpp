@@ -5,7 +5,6 @@
 
 #include "ParamSystem/store/Kinds.h"
 #include "tools/pages/Markdown.h"
-#include "tools/pages/Names.h"
 #include "tools/pages/Pages.h"
 
 namespace talux::pages {
@@ -103,7 +102,7 @@ std::string entryPage() {
             for (int id = firstId(parameter); id <= lastId(parameter); ++id)
                 ids.push_back(id);
         }
-        page << "| [" << family.name << "](" << fileOf(family) << ") | " << germanName(family) << " | "
+        page << "| [" << family.name << "](" << fileOf(family) << ") | " << familyName(family, kGerman) << " | "
              << count << " | " << asRanges(ids) << " |\n";
     }
     page << "\n## Free ids\n\nFor new parameters; the ids " << kFirstInt << " to "

@@ -1,6 +1,5 @@
 // The page of the detection methods: what belongs together.
 #include "tools/pages/Markdown.h"
-#include "tools/pages/Names.h"
 #include "tools/pages/Pages.h"
 
 namespace talux::pages {
@@ -8,14 +7,12 @@ namespace talux::pages {
 namespace {
 
 // "`Uearth` 30 %": with the factory default where there is one.
-std::string parameterList(const std::vector<Parameter>& parameters) {
-    std::string list;
-    for (const Parameter& parameter : parameters) {
-        (list += list.empty() ? "" : ", ") += linkTo(parameter);
-        if (parameter.isSetting()) (list += ' ') += parameter.defaultValue();
-        if (parameter.isSetting() && !parameter.unit().empty()) (list += ' ') += parameter.unit();
-    }
-    return list;
+std::string parameterList(const Parameters& parameters) {
+    return list(parameters, ", ", [](const Parameter* parameter) {
+        const std::string value = parameter->isSetting() ? " " + parameter->defaultValue() : "";
+        const bool hasUnit = parameter->isSetting() && !parameter->unit().empty();
+        return joined({linkTo(*parameter), value, hasUnit ? " " + parameter->unit() : ""});
+    });
 }
 
 std::string choiceList(std::string_view numbers, std::string_view parameter) {
@@ -46,10 +43,10 @@ void addMethod(std::string& page, const Method& method) {
                                            "settings · Einstellungen", "delays · Verzögerungen",
                                            "durations · Dauern",       "logs · Logbücher"};
     for (int role = 0; const std::string_view label : kRoles)
-        addRow(page, label, parameterList(settingsOf(method, parameters::Role{role++})));
-    std::vector<Parameter> measured;
+        addRow(page, label, parameterList(settingsOf(method.id, parameters::Role{role++})));
+    Parameters measured;
     for (const std::string& name : namesOf(method.measured))
-        measured.push_back(*reference::find(name));
+        measured.push_back(reference::find(name));
     addRow(page, "measured · Messwerte", parameterList(measured));
     addRow(page, "output functions · Ausgangsfunktionen", choiceList(method.functions, "BAassign1"));
     addRow(page, "priorities · Prioritäten", choiceList(method.priorities, "prio_list_1"));
@@ -65,8 +62,8 @@ void addEarthings(std::string& page) {
         "| Method · Verfahren | Neutral earthing | Sternpunkt | Factory |\n|---|---|---|---|\n";
     for (const Method& method : kMethods) {
         if (method.enEarthing.empty()) continue;
-        const std::vector<Parameter> switches = settingsOf(method, parameters::kEnable);
-        const bool isOn = switches.empty() || switches.front().row().val_def != 0;
+        const Parameters switches = settingsOf(method.id, parameters::kEnable);
+        const bool isOn = switches.empty() || switches.front()->row().val_def != 0;
         page += joined({"| ", method.en, " · ", method.de, " | ", method.enEarthing, " | ", method.deEarthing,
                         " | ", isOn ? "on" : "off", " |\n"});
     }

@@ -2,7 +2,6 @@
 #include <algorithm>
 
 #include "tools/pages/Markdown.h"
-#include "tools/pages/Names.h"
 #include "tools/pages/Pages.h"
 #include "tools/talux/PlausibilityRules.h"
 

@@ -1,13 +1,11 @@
 // All parameters as data of the page that searches them.
+#include <ranges>
 #include <vector>
 
 #include "tools/Json.h"
-#include "tools/Strings.h"
 #include "tools/pages/Facts.h"
 #include "tools/pages/Glossary.h"
-#include "tools/pages/Names.h"
 #include "tools/pages/Pages.h"
-#include "tools/pages/Records.h"
 
 namespace talux::pages {
 
@@ -18,12 +16,8 @@ using tool::Json;
 constexpr std::string_view kBegin = "<script id=\"data\" type=\"application/json\">", kEnd = "</script>";
 
 // What is empty is left out.
-void addText(Json& object, std::string_view key, std::string_view text) {
-    if (!text.empty()) object.set(key, text);
-}
-
-void addList(Json& object, std::string_view key, Json value) {
-    if (!value.isNull()) object.set(key, std::move(value));
+void add(Json& object, std::string_view key, Json value) {
+    if (!value.isEmpty()) object.set(key, std::move(value));
 }
 
 // As shortNumber prints it.
@@ -32,28 +26,28 @@ Json number(double value) {
     return static_cast<double>(whole) == value ? Json(whole) : Json(value);
 }
 
-Json texts(const Parameter& parameter, ParamLanguage language) {
+Json pair(Json first, Json second) {
     Json both;
-    both.add(parameter.title(language));
-    both.add(parameter.description(language));
+    both.add(std::move(first));
+    both.add(std::move(second));
     return both;
 }
 
-Json choices(const std::vector<reference::Choice>& choices) {
+Json texts(const Parameter& parameter, ParamLanguage language) {
+    return pair(parameter.title(language), parameter.description(language));
+}
+
+Json choices(const Parameter& parameter, ParamLanguage language) {
     Json all;
-    for (const reference::Choice& choice : choices) {
-        Json pair;
-        pair.add(choice.number);
-        pair.add(choice.text);
-        all.add(std::move(pair));
-    }
+    for (const reference::Choice& choice : parameter.items(reference::kChoices, language))
+        all.add(pair(choice.number, choice.text));
     return all;
 }
 
 Json ownChoices(const Parameter& parameter) {
     Json lists(std::initializer_list<Json::Member>{});
-    addList(lists, "de", choices(parameter.items(reference::kChoices, kGerman)));
-    addList(lists, "en", choices(parameter.items(reference::kChoices, kEnglish)));
+    add(lists, "de", choices(parameter, kGerman));
+    add(lists, "en", choices(parameter, kEnglish));
     return lists;
 }
 
@@ -86,23 +80,14 @@ void addValue(Json& object, const Parameter& parameter) {
     if (parameter.row().val_len > 0) object.set("meant", parameter.row().val_len);
 }
 
-Json membersOf(const Parameter& record) {
-    Json members;
-    const auto texts = memberTextsOf(record);
-    for (const StructMemberProperties_t& member : reference::members(record)) {
-        const MemberTexts& text = texts.at(member.aszMemberName);
-        const Parameter* const twin = reference::find(text.twin);
-        Json own{{"name", member.aszMemberName}, {"de", text.de}, {"en", text.en}};
-        addText(own, "unit", twin == nullptr ? "" : twin->unit());
-        members.add(std::move(own));
-    }
-    return members;
+Json memberOf(const reference::Member& member) {
+    Json object{{"name", member.properties->aszMemberName}, {"de", member.texts.de}, {"en", member.texts.en}};
+    add(object, "unit", unitOf(member));
+    return object;
 }
 
 Json objectOf(const Parameter& parameter) {
-    Json object, notes;
-    object.set("name", parameter.name());
-    object.set("id", firstId(parameter));
+    Json object{{"name", parameter.name()}, {"id", firstId(parameter)}};
     if (parameter.isIndexed()) {
         object.set("first", parameter.row().val_min_id);
         object.set("last", parameter.row().val_max_id);
@@ -110,23 +95,17 @@ Json objectOf(const Parameter& parameter) {
     object.set("family", static_cast<int>(&parameter.family() - reference::model().families.data()));
     if (const Method* method = methodOf(parameter)) object.set("method", static_cast<int>(method->id));
     object.set("kind", parameter.type().name);
-    addText(object, "unit", parameter.unit());
+    add(object, "unit", parameter.unit());
     addValue(object, parameter);
     object.set("de", texts(parameter, kGerman));
     object.set("en", texts(parameter, kEnglish));
-    addText(object, "shared", parameter.templateName());
+    add(object, "shared", parameter.templateName());
     if (parameter.templateName().empty() && !parameter.choiceItems().empty())
         object.set("choices", ownChoices(parameter));
-    if (parameter.type().nature == Nature::record) object.set("members", membersOf(parameter));
-    for (const int note : parameter.notes())
-        notes.add(note);
-    addList(object, "notes", std::move(notes));
+    if (parameter.type().nature == Nature::record)
+        object.set("members", Json::arrayOf(reference::membersOf(parameter), memberOf));
+    if (!parameter.notes().empty()) object.set("notes", Json::arrayOf(parameter.notes()));
     return object;
-}
-
-template <class Items, class Make>
-std::string array(const Items& items, Make make, std::string_view between = ",\n") {
-    return "[" + list(items, between, [&make](const auto& item) { return make(item).line(); }) + "]";
 }
 
 Json noteOf(const model::Note& note) {
@@ -137,39 +116,31 @@ Json bothTexts(const model::Both& text) {
     return {{"de", text.de}, {"en", text.en}};
 }
 
-Json familyOf(const stParamFamily& family) {
-    return bothTexts({germanName(family), family.name});
-}
-
-std::string glossary() {
-    std::vector<Word> words(std::begin(kTradeWords), std::end(kTradeWords));
-    words.insert(words.end(), std::begin(kDeviceWords), std::end(kDeviceWords));
-    return array(words, [](const Word& word) {
-        Json object;
-        object.set("de", word.de);
-        object.set("en", word.en);
-        addText(object, "deMeaning", word.deMeaning);
-        addText(object, "enMeaning", word.enMeaning);
-        return object;
-    });
+Json wordOf(const Word& word) {
+    Json object{{"de", word.de}, {"en", word.en}};
+    add(object, "deMeaning", word.deMeaning);
+    add(object, "enMeaning", word.enMeaning);
+    return object;
 }
 
 Json synonymOf(const Synonym& synonym) {
-    Json names;
-    for (const std::string& name : namesOf(synonym.parameters))
-        names.add(name);
-    return {{"words", synonym.words}, {"names", std::move(names)}};
+    return {{"words", synonym.words}, {"names", Json::arrayOf(namesOf(synonym.parameters))}};
 }
 
 std::string data() {
-    std::vector<Parameter> named;
-    for (const Parameter& parameter : reference::parameters())
-        if (!parameter.isTemplate()) named.push_back(parameter);
-    return joined({"{\"families\":", array(reference::model().families, familyOf, ","),
-                   ",\"methods\":", array(reference::model().methods, bothTexts),
-                   ",\"notes\":", array(reference::model().notes, noteOf), ",\"words\":", glossary(),
-                   ",\"synonyms\":", array(kSynonyms, synonymOf), ",\"shared\":", sharedChoices().line(),
-                   ",\"parameters\":", array(named, objectOf), "}"});
+    const auto& model = reference::model();
+    std::vector<Word> words(std::begin(kTradeWords), std::end(kTradeWords));
+    words.insert(words.end(), std::begin(kDeviceWords), std::end(kDeviceWords));
+    const auto isNamed = [](const Parameter& parameter) { return !parameter.isTemplate(); };
+    return Json{
+        {"families", Json::arrayOf(model.familyNames, bothTexts)},
+        {"methods", Json::arrayOf(model.methods, bothTexts)},
+        {"notes", Json::arrayOf(model.notes, noteOf)},
+        {"words", Json::arrayOf(words, wordOf)},
+        {"synonyms", Json::arrayOf(kSynonyms, synonymOf)},
+        {"shared", sharedChoices()},
+        {"parameters", Json::arrayOf(reference::parameters() | std::views::filter(isNamed), objectOf)}}
+        .lines();
 }
 
 // Nothing in the data ends the element around them.

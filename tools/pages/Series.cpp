@@ -4,7 +4,6 @@
 #include <map>
 #include <tuple>
 
-#include "tools/pages/Names.h"
 
 namespace talux::pages {
 

@@ -26,43 +26,47 @@ function talux_usleep(microseconds) end
 )lua";
 
 constexpr const char* kArray = R"lua(
----@class talux.{}: userdata
+---@class talux.ARRAY: userdata
 
-talux_{} = {}
+talux_ARRAY = {}
 
 ---A new array of n elements, all 0.
 ---@param n integer
----@return talux.{}
-function talux_{}.new(n) end
+---@return talux.ARRAY
+function talux_ARRAY.new(n) end
 
 ---Number of elements.
----@param array talux.{}
+---@param array talux.ARRAY
 ---@return integer
-function talux_{}.size(array) end
+function talux_ARRAY.size(array) end
 
 ---Element i, counted from 0.
----@param array talux.{}
+---@param array talux.ARRAY
 ---@param i integer
 ---@return number
-function talux_{}.getitem(array, i) end
+function talux_ARRAY.getitem(array, i) end
 
 ---Sets element i, counted from 0.
----@param array talux.{}
+---@param array talux.ARRAY
 ---@param i integer
 ---@param value number
-function talux_{}.setitem(array, i, value) end
+function talux_ARRAY.setitem(array, i, value) end
 
 ---Copies the live elements first to last of a parameter into the array.
----@param array talux.{}
----@param name talux.{}.name|string
+---@param array talux.ARRAY
+---@param name talux.ARRAY.name|string
 ---@param first integer
 ---@param last integer
 ---@return integer? count of elements, nothing when they could not be read
-function talux_{}.get(array, name, first, last) end
+function talux_ARRAY.get(array, name, first, last) end
 )lua";
 
 std::string arrayFunctions(std::string_view name) {
-    return fill(kArray, {name, name, "{}", name, name, name, name, name, name, name, name, name, name, name});
+    constexpr std::string_view kName = "ARRAY";
+    std::string text = kArray;
+    for (std::size_t at = 0; (at = text.find(kName, at)) != text.npos;)
+        text.replace(at, kName.size(), name);
+    return text;
 }
 
 // The layer annotates itself; with this an editor knows the names that its functions take.
@@ -74,22 +78,19 @@ constexpr const char* kLayer = R"lua(
 ---@field parameter fun(name: talux.name|string, language?: "de"|"en"): talux.Parameter
 )lua";
 
-// What stands behind a name: title, unit, range, elements; the texts of a few choices.
+// What a name means: title, unit, range, elements; the texts of a few choices.
 std::string remarkOn(const Parameter& parameter, const Context& context) {
     std::string text = parameter.title(context.language);
-    if (const std::string unit = unitOf(parameter); !unit.empty()) text += fill(", {}", {unit});
-    if (const std::string limits = range(parameter, context.language); !limits.empty())
-        text += fill(", {}", {limits});
-    if (parameter.isIndexed())
-        text +=
-            fill(context.say(", elements {} to {}", ", Elemente {} bis {}"),
-                 {std::to_string(parameter.row().val_min_id), std::to_string(parameter.row().val_max_id)});
+    for (const std::string& part : {unitOf(parameter), rangeText(parameter, context.language),
+                                    parameter.isIndexed() ? elementsText(parameter, context) : ""})
+        if (!part.empty()) text += ", " + part;
     const auto choices = parameter.choices(context.language);
-    for (std::size_t k = 0; k < choices.size() && choices.size() <= 6; ++k)
-        text += fill("{}{} = {}", {k == 0 ? ": " : ", ", std::to_string(choices[k].number), choices[k].text});
-    if (const std::string more = parameter.description(context.language); !more.empty())
-        text += fill(". {}", {more});
-    return text;
+    if (!choices.empty() && choices.size() <= 6)
+        text += ": " + list(choices, ", ", [](const reference::Choice& choice) {
+                    return fill("{} = {}", {std::to_string(choice.number), choice.text});
+                });
+    const std::string more = parameter.description(context.language);
+    return more.empty() ? text : fill("{}. {}", {text, more});
 }
 
 std::string names(const char* alias, const char* prefix, const Context& context,

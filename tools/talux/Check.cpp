@@ -2,6 +2,7 @@
 #include <map>
 
 #include "tools/talux/Command.h"
+#include "tools/talux/Difference.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Notes.h"
 #include "tools/talux/Plausibility.h"
@@ -12,7 +13,7 @@ namespace talux::tool {
 
 namespace {
 
-constexpr std::size_t kMostLines = 1000; // of a file about which something is said
+constexpr std::size_t kMaximumLines = 1000; // of a file about which something is said
 
 struct Options {
     std::vector<std::string> files;
@@ -26,39 +27,30 @@ struct FileReport {
     std::string path, baseline;
     std::vector<Judgement> judgements{};
     std::vector<Implausible> implausible{};
-    std::vector<const Parameter*>
-        others{}; // pending, not in the file, and committed by its load all the same
+    Parameters others{}; // pending, not in the file, and committed by its load all the same
     int settings = 0;
     int changes = 0;
     int findings = 0;
-    std::size_t omitted = 0;
+    int omitted = 0;
 
     bool found() const { return changes > 0 || findings > 0 || omitted > 0; }
 };
 
-using Loaded = std::map<int, Value>; // by id
+using Loaded = std::map<const Parameter*, Value>;
 
-// The rules on what a load leaves, where the file has a part in it. Its lines have said what is odd about one
-// value alone.
+// The rules on what a load leaves, where the file has a part in it. What is odd about one value alone is a
+// finding of its line.
 void addImplausible(FileReport& report, const Loaded& loaded, const Source& before, const Context& context) {
-    const auto isLoaded = [&](const Parameter& parameter) { return loaded.contains(parameter.row().id); };
-    const auto after = [&](const Parameter& parameter) {
-        return isLoaded(parameter) ? std::optional(loaded.at(parameter.row().id)) : before.value(parameter);
-    };
+    const auto isLoaded = [&](const Parameter& parameter) { return loaded.contains(&parameter); };
     const auto own = [&](const Parameter& parameter) { return before.value(parameter); };
-    findImplausible(after, own, context, [&](const Implausible& found) {
-        if (found.isSaidOfLines() || !found.concerns(isLoaded)) return;
+    const auto after = [&](const Parameter& parameter) {
+        return isLoaded(parameter) ? std::optional(loaded.at(&parameter)) : own(parameter);
+    };
+    for (Implausible& found : findImplausible(after, own, context)) {
+        if (found.isOfOneLine() || !found.concerns(isLoaded)) continue;
         report.findings += found.isFault() ? 1 : 0;
-        report.implausible.push_back(found);
-    });
-}
-
-void addOthers(FileReport& report, const Loaded& loaded, const Source& staged, const Context& context) {
-    const Source live = Source::open("live", context);
-    for (const Parameter& parameter : reference::parameters())
-        if (parameter.isSetting() && !isOfClock(parameter) && !loaded.contains(parameter.row().id) &&
-            !sameValue(live.value(parameter), staged.value(parameter)))
-            report.others.push_back(&parameter);
+        report.implausible.push_back(std::move(found));
+    }
 }
 
 FileReport judgeFile(const std::string& path, const Source& before, const Context& context) {
@@ -70,35 +62,35 @@ FileReport judgeFile(const std::string& path, const Source& before, const Contex
         report.settings += judgement.to ? 1 : 0;
         report.changes += judgement.isChange() ? 1 : 0;
         report.findings += static_cast<int>(judgement.findings.size());
-        if (judgement.to) loaded.insert_or_assign(judgement.parameter->row().id, *judgement.to);
-        if (judgement.isUntold || report.judgements.size() >= kMostLines)
+        if (judgement.to) loaded.insert_or_assign(judgement.parameter, *judgement.to);
+        if (judgement.isOmitted || report.judgements.size() >= kMaximumLines)
             ++report.omitted;
         else if (judgement.changes() || !judgement.findings.empty())
             report.judgements.push_back(std::move(judgement));
     });
     addImplausible(report, loaded, before, context);
-    if (before.kind() == Source::Kind::staged) addOthers(report, loaded, before, context);
+    if (before.origin() == Source::Origin::staged)
+        for (const Difference& pending : differences(Source::open("live", context), before))
+            if (!loaded.contains(pending.parameter)) report.others.push_back(pending.parameter);
     return report;
 }
 
 void printJudgement(const std::string& path, const Judgement& judgement, const Context& context) {
     const Paint paint;
-    std::string text = fill("{}:{}:", {path, std::to_string(judgement.line)});
-    if (!judgement.name.empty()) text += " " + paint.bold(judgement.name) + ":";
+    std::vector<std::string> parts;
     if (judgement.isChange())
-        text += " " + paint.changed(change(*judgement.parameter, judgement.from, judgement.to, context));
-    const char* separator = judgement.isChange() ? "; " : " ";
-    for (const Finding& finding : judgement.findings) {
-        text += separator + paint.bad(finding.text);
-        separator = "; ";
-    }
-    if (judgement.isChange() || !judgement.findings.empty()) print(text + "\n");
+        parts.push_back(paint.changed(change(*judgement.parameter, judgement.from, judgement.to, context)));
+    for (const Finding& finding : judgement.findings)
+        parts.push_back(paint.bad(finding.text));
+    const std::string name = judgement.name.empty() ? "" : paint.bold(judgement.name) + ": ";
+    if (!parts.empty())
+        print(fill("{}:{}: {}{}\n", {path, std::to_string(judgement.line), name, list(parts, "; ")}));
 }
 
 void printText(const FileReport& report, bool withNotes, const Context& context) {
     const Paint paint;
     const std::string path = printable(report.path);
-    const std::string head = fill(context.say("{} against {}", "{} gegenüber {}"), {path, report.baseline});
+    const std::string head = context.say("{} against {}", "{} gegenüber {}", path, report.baseline);
     print(head + ":\n");
     Parameters noted;
     for (const Judgement& judgement : report.judgements) {
@@ -106,54 +98,47 @@ void printText(const FileReport& report, bool withNotes, const Context& context)
         if (withNotes && judgement.isChange()) noted.push_back(judgement.parameter);
     }
     if (report.omitted > 0)
-        print(fill(
-            context.say("{}: {} more lines are not listed\n", "{}: {} weitere Zeilen sind nicht genannt\n"),
-            {path, std::to_string(report.omitted)}));
+        print(context.say("{}: {} more lines are not listed\n", "{}: {} weitere Zeilen sind nicht genannt\n",
+                          path, report.omitted));
     for (const std::string& text : noteTexts(noted, context))
         print(joined({path, ": ", text, "\n"}));
     for (const Implausible& found : report.implausible)
         print(joined({path, ": ", found.isFault() ? paint.bad(found.text) : found.text, "\n"}));
     if (!report.others.empty())
-        print(fill(context.say("{}: a load also makes live what else is pending: {}\n",
-                               "{}: Laden macht auch gültig, was sonst noch aussteht: {}\n"),
-                   {path, list(report.others, ", ", [](const Parameter* other) { return other->name(); })}));
-    print(fill("{}: {}, {}, {}\n", {head,
-                                    counted(report.settings, context.say(" setting", " Einstellung"),
-                                            context.say(" settings", " Einstellungen")),
-                                    counted(report.changes, context.say(" change", " Änderung"),
-                                            context.say(" changes", " Änderungen")),
-                                    counted(report.findings, context.say(" finding", " Befund"),
-                                            context.say(" findings", " Befunde"))}));
-}
-
-Json described(const Judgement& judgement, bool withNotes, const Context& context) {
-    Json object{{"name", judgement.name}};
-    if (judgement.to) object = changeJson(*judgement.parameter, judgement.from, judgement.to, context);
-    object.set("line", judgement.line);
-    if (withNotes && judgement.isChange()) addNotes(object, *judgement.parameter);
-    Json findings = Json::array();
-    for (const Finding& finding : judgement.findings)
-        findings.add({{"code", finding.code}, {"text", finding.text}});
-    if (!judgement.findings.empty()) object.set("findings", std::move(findings));
-    return object;
+        print(context.say("{}: a load also makes live what else is pending: {}\n",
+                          "{}: Laden macht auch gültig, was sonst noch aussteht: {}\n", path,
+                          list(report.others, ", ", [](const Parameter* other) { return other->name(); })));
+    const auto ending = [&](int count, const char* english, const char* german) {
+        return count == 1 ? "" : context.say(english, german);
+    };
+    print(context.say("{}: {} setting{}, {} change{}, {} finding{}\n",
+                      "{}: {} Einstellung{}, {} Änderung{}, {} Befund{}\n", head, report.settings,
+                      ending(report.settings, "s", "en"), report.changes, ending(report.changes, "s", "en"),
+                      report.findings, ending(report.findings, "s", "e")));
 }
 
 Json described(const FileReport& report, bool withNotes, const Context& context) {
-    Json lines = Json::array(), implausible = Json::array(), others = Json::array();
-    for (const Judgement& judgement : report.judgements)
-        lines.add(described(judgement, withNotes, context));
-    for (const Implausible& found : report.implausible)
-        implausible.add(described(found));
-    for (const Parameter* const other : report.others)
-        others.add(other->name());
-    return {{"file", report.path},
-            {"settings", report.settings},
-            {"changes", report.changes},
-            {"findings", report.findings},
-            {"untold", static_cast<std::int64_t>(report.omitted)},
-            {"lines", std::move(lines)},
-            {"implausible", std::move(implausible)},
-            {"also_committed", std::move(others)}};
+    const auto describedLine = [&](const Judgement& judgement) {
+        Json object{{"name", judgement.name}};
+        if (judgement.to) object = changeJson(*judgement.parameter, judgement.from, judgement.to, context);
+        object.set("line", judgement.line);
+        if (withNotes && judgement.isChange()) addNotes(object, *judgement.parameter);
+        const auto describedFinding = [](const Finding& finding) -> Json {
+            return {{"code", finding.code}, {"text", finding.text}};
+        };
+        if (!judgement.findings.empty())
+            object.set("findings", Json::arrayOf(judgement.findings, describedFinding));
+        return object;
+    };
+    return {
+        {"file", report.path},
+        {"settings", report.settings},
+        {"changes", report.changes},
+        {"findings", report.findings},
+        {"untold", report.omitted},
+        {"lines", Json::arrayOf(report.judgements, describedLine)},
+        {"implausible", Json::arrayOf(report.implausible, [](const auto& each) { return described(each); })},
+        {"also_committed", namesOf(report.others)}};
 }
 
 Status run(const Options& options, const Context& context) {

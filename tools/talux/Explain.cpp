@@ -2,12 +2,11 @@
 #include "tools/talux/Explain.h"
 
 #include <algorithm>
-#include <sys/stat.h>
+#include <array>
 #include <utility>
 
-#include "tools/pages/Names.h"
+#include "tools/reference/Ranges.h"
 #include "tools/talux/Command.h"
-#include "tools/talux/Lookup.h"
 #include "tools/talux/Notes.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
@@ -27,253 +26,225 @@ struct Options {
 struct Places {
     std::vector<Source> sources;
 
-    Places(const Options& options, const Context& context) {
+    Places(const std::vector<Parameters>& all, const Options& options, const Context& context) {
         if (options.live)
             for (const char* name : {"live", "staged"})
                 sources.push_back(Source::open(name, context));
+        for (const Parameters& series : all)
+            for (const Parameter* parameter : series)
+                if (parameter->file() != reference::File::none)
+                    addFile(pathOf(parameter->file(), context), context);
     }
 
-    void addFile(reference::File file, const Context& context) {
-        const std::string path = pathOf(file, context);
-        struct stat info;
-        const bool isKnown = std::ranges::any_of(sources, [&](const Source& s) { return s.name() == path; });
-        if (file != reference::File::none && !isKnown && stat(path.c_str(), &info) == 0)
+    // Nothing of a run-time value in the working copy, which is that of the device.
+    static bool isTwice(const Source& source, const Parameter& parameter) {
+        return source.origin() == Source::Origin::staged && !parameter.isSetting();
+    }
+
+private:
+    void addFile(const std::string& path, const Context& context) {
+        if (std::ranges::find(sources, path, &Source::name) == sources.end() && isThere(path))
             sources.push_back(Source::open(path, context));
     }
 };
 
+// Items by what is said of them, in the order of the texts.
+template <class Item>
+using ByText = std::vector<std::pair<std::string, std::vector<Item>>>;
+
+template <class Item>
+void add(ByText<Item>& groups, const std::string& text, const Item& item) {
+    auto known = std::ranges::find(groups, text, &std::pair<std::string, std::vector<Item>>::first);
+    if (known == groups.end()) known = groups.insert(known, {text, {}});
+    known->second.push_back(item);
+}
+
+std::string withUnit(std::string_view type, const std::string& unit) {
+    return unit.empty() ? std::string(type) : fill("{} in {}", {type, unit});
+}
+
 std::string kindText(const Parameter& parameter, const Context& context) {
-    std::string text(parameter.type().name);
-    if (const std::string unit = unitOf(parameter); !unit.empty()) text += " in " + unit;
-    if (parameter.isIndexed())
-        text +=
-            fill(context.say(", elements {} to {}", ", Elemente {} bis {}"),
-                 {std::to_string(parameter.row().val_min_id), std::to_string(parameter.row().val_max_id)});
+    std::string text = withUnit(parameter.type().name, unitOf(parameter));
+    if (parameter.isIndexed()) text += ", " + elementsText(parameter, context);
     if (parameter.row().val_len > 0 && parameter.textRoom() > 0)
-        text +=
-            fill(context.say(", meant for at most {} characters", ", vorgesehen für höchstens {} Zeichen"),
-                 {std::to_string(std::min(parameter.row().val_len, parameter.textRoom()))});
+        text += context.say(", meant for at most {} characters", ", vorgesehen für höchstens {} Zeichen",
+                            parameter.textLength());
     if (parameter.textRoom() > 0 && parameter.writeLevel() > 0)
-        text += fill(context.say("; a line holds {} bytes", "; eine Zeile fasst {} Bytes"),
-                     {std::to_string(parameter.lineRoom())});
+        text += context.say("; a line holds {} bytes", "; eine Zeile fasst {} Bytes", parameter.lineRoom());
     if (parameter.row().is_volatile == 1) text += context.say(", run-time value", ", Laufzeitwert");
     return text;
 }
 
 std::string rightsOf(const Parameter& parameter, const Context& context) {
-    const int level = parameter.writeLevel();
-    if (level == 0)
-        return parameter.row().val_access == kReadOnly
-                   ? context.say("read-only, read at level 1", "nur lesen, ab Stufe 1")
-                   : context.say("read at level 1; a write has no effect",
-                                 "lesen ab Stufe 1; Schreiben bewirkt nichts");
-    return fill(
-        context.say("read at level 1, written at level {}", "lesen ab Stufe 1, schreiben ab Stufe {}"),
-        {std::to_string(level)});
+    if (const int level = parameter.writeLevel(); level > 0)
+        return context.say("read at level 1, written at level {}", "lesen ab Stufe 1, schreiben ab Stufe {}",
+                           level);
+    return parameter.facts().isReadOnly ? context.say("read-only, read at level 1", "nur lesen, ab Stufe 1")
+                                        : context.say("read at level 1; a write has no effect",
+                                                      "lesen ab Stufe 1; Schreiben bewirkt nichts");
 }
 
 // Many choices have no specified minimum: what a write accepts below the first of them is not refused.
-std::string rangeText(const Parameter& parameter, const Context& context) {
-    std::string text = range(parameter, context.language);
-    if (parameter.type().kind == Kind::Enum && !parameter.hasMinimum())
-        text += context.say("; 0 and below are not refused", "; 0 und kleiner werden nicht abgelehnt");
-    return text;
+std::string limitsOf(const Parameter& parameter, const Context& context) {
+    const bool isOpen = parameter.type().kind == Kind::Enum && !parameter.hasMinimum();
+    return rangeText(parameter, context.language) +
+           (isOpen ? context.say("; 0 and below are not refused", "; 0 und kleiner werden nicht abgelehnt")
+                   : "");
 }
 
-std::string defaultText(const Parameter& parameter, const Context& context) {
-    return parameter.isSetting() ? shown(parameter, Source::defaults().value(parameter), context)
-                                 : std::string();
-}
-
-// What is said of a parameter: a label and a text in a row, further rows of the same label without it.
+// What is said of a parameter or a member: labels and texts, further texts of the same label without it.
 class Rows {
 public:
-    Rows(const Parameter& shown, const Places& places, const Context& person)
-        : parameter(shown), context(person) {
-        addTexts(context.language);
-        addTexts(context.otherLanguage());
-        add(context.say("kind", "Art"), kindText(parameter, context));
-        add(context.say("range", "Bereich"), rangeText(parameter, context));
-        add(context.say("default", "Werkseinst."), defaultText(parameter, context));
-        add(context.say("choices", "Auswahl"), choices());
-        if (parameter.type().nature == Nature::record) add(context.say("members", "Felder"), memberTexts());
-        add(context.say("rights", "Rechte"), rightsOf(parameter, context));
-        add(context.say("file", "Datei"), std::string(reference::fileName(parameter.file())));
-        add(context.say("family", "Familie"), std::string(familyName(parameter, context.language)));
-        if (const int method = parameter.model().method; method >= 0)
-            add(context.say("method", "Verfahren"),
-                std::string(
-                    reference::model().methods[static_cast<std::size_t>(method)].in(context.language)));
-        add("id", std::to_string(parameter.row().id));
-        add(context.say("value", "Wert"), values(places));
+    std::vector<std::string> labels, texts;
+
+    explicit Rows(const Context& person) : context(person) {}
+
+    void add(const char* english, const char* german, const std::vector<std::string>& all) {
+        for (const std::string& text : all) {
+            labels.emplace_back(context.say(english, german));
+            texts.push_back(text);
+            english = german = "";
+        }
+    }
+    void add(const char* english, const char* german, const std::string& text) {
+        if (!text.empty()) add(english, german, std::vector{text});
     }
 
-    const std::vector<std::string>& labels() const { return labels_; }
-    const std::vector<std::string>& texts() const { return texts_; }
+    template <class Texts>
+    void addInBothLanguages(Texts textsIn) {
+        for (const ParamLanguage language : {context.language, context.otherLanguage()})
+            language == kGerman ? add("Deutsch", "Deutsch", textsIn(kGerman))
+                                : add("English", "English", textsIn(kEnglish));
+    }
 
 private:
-    const Parameter& parameter;
     const Context& context;
-    std::vector<std::string> labels_, texts_;
-
-    void add(const char* label, const std::vector<std::string>& texts) {
-        for (const std::string& text : texts) {
-            labels_.emplace_back(label);
-            texts_.push_back(text);
-            label = "";
-        }
-    }
-    void add(const char* label, const std::string& text) {
-        if (!text.empty()) add(label, std::vector<std::string>{text});
-    }
-
-    void addTexts(ParamLanguage language) {
-        std::vector<std::string> texts{parameter.title(language)};
-        if (std::string text = parameter.description(language); !text.empty()) texts.push_back(text);
-        add(language == kGerman ? "Deutsch" : "English", texts);
-    }
-
-    // Numbers with one text in one row.
-    std::vector<std::string> choices() const {
-        std::vector<std::pair<std::string, std::vector<int>>> byText;
-        for (const reference::Choice& choice : parameter.choices(context.language)) {
-            auto known =
-                std::ranges::find(byText, choice.text, [](const auto& entry) { return entry.first; });
-            if (known == byText.end()) known = byText.insert(known, {choice.text, {}});
-            known->second.push_back(choice.number);
-        }
-        std::vector<std::string> texts;
-        texts.reserve(byText.size());
-        for (const auto& [text, numbers] : byText)
-            texts.push_back(fill("{} = {}", {pages::asRanges(numbers), text}));
-        return texts;
-    }
-
-    std::vector<std::string> memberTexts() const {
-        std::vector<std::string> texts;
-        for (const Member& member : membersOf(parameter)) {
-            const std::string unit = member.unit();
-            texts.push_back(
-                fill("{} ({}{}{}): {}", {member.properties->aszMemberName, member.properties->szMemberType,
-                                         unit.empty() ? "" : " in ", unit, member.title(context.language)}));
-        }
-        return texts;
-    }
-
-    std::vector<std::string> values(const Places& places) const {
-        std::vector<std::string> texts;
-        if (parameter.isIndexed()) return texts;
-        for (const Source& source : places.sources) {
-            const auto value = source.value(parameter);
-            const bool isTwice = source.kind() == Source::Kind::staged && !parameter.isSetting();
-            if (value && !isTwice)
-                texts.push_back(fill("{} {}", {source.name(), shown(parameter, value, context)}));
-        }
-        return texts;
-    }
 };
+
+// Numbers with one text in one row.
+std::vector<std::string> choiceTexts(const Parameter& parameter, ParamLanguage language) {
+    ByText<int> byText;
+    for (const reference::Choice& choice : parameter.choices(language))
+        add(byText, choice.text, choice.number);
+    std::vector<std::string> texts;
+    for (const auto& [text, numbers] : byText)
+        texts.push_back(fill("{} = {}", {reference::asRanges(numbers), text}));
+    return texts;
+}
+
+std::vector<std::string> memberTexts(const Parameter& record, ParamLanguage language) {
+    std::vector<std::string> texts;
+    if (record.type().nature == Nature::record)
+        for (const reference::Member& member : membersOf(record))
+            texts.push_back(fill("{} ({}): {}", {member.properties->aszMemberName,
+                                                 withUnit(member.properties->szMemberType, unitOf(member)),
+                                                 member.title(language)}));
+    return texts;
+}
+
+std::vector<std::string> valueTexts(const Parameter& parameter, const Places& places,
+                                    const Context& context) {
+    std::vector<std::string> texts;
+    for (const Source& source : places.sources)
+        if (const auto value = source.value(parameter);
+            value && !parameter.isIndexed() && !Places::isTwice(source, parameter))
+            texts.push_back(fill("{} {}", {source.name(), shown(parameter, value, context)}));
+    return texts;
+}
+
+Rows rowsOf(const Parameter& parameter, const Places& places, const Context& context) {
+    const ParamLanguage language = context.language;
+    const int method = parameter.model().method;
+    Rows rows(context);
+    rows.addInBothLanguages([&](ParamLanguage each) {
+        std::vector<std::string> texts{parameter.title(each)};
+        if (const std::string more = parameter.description(each); !more.empty()) texts.push_back(more);
+        return texts;
+    });
+    rows.add("kind", "Art", kindText(parameter, context));
+    rows.add("range", "Bereich", limitsOf(parameter, context));
+    if (parameter.isSetting())
+        rows.add("default", "Werkseinst.", shown(parameter, Source::defaults().value(parameter), context));
+    rows.add("choices", "Auswahl", choiceTexts(parameter, language));
+    rows.add("members", "Felder", memberTexts(parameter, language));
+    rows.add("rights", "Rechte", rightsOf(parameter, context));
+    rows.add("file", "Datei", std::string(reference::fileName(parameter.file())));
+    rows.add("family", "Familie", std::string(familyName(parameter, language)));
+    if (method >= 0)
+        rows.add("method", "Verfahren",
+                 std::string(reference::model().methods[static_cast<std::size_t>(method)].in(language)));
+    rows.add("id", "id", std::to_string(parameter.row().id));
+    rows.add("value", "Wert", valueTexts(parameter, places, context));
+    return rows;
+}
 
 // What a row says of all members of a series: the first and last text where each has its own, else each text
 // with its members.
-std::vector<std::string> together(const std::vector<std::string>& texts, const Parameters& series) {
-    std::vector<std::pair<std::string, Parameters>> byText;
-    for (std::size_t k = 0; k < series.size(); ++k) {
-        auto known = std::ranges::find(byText, texts[k], [](const auto& entry) { return entry.first; });
-        if (known == byText.end()) known = byText.insert(known, {texts[k], {}});
-        known->second.push_back(series[k]);
-    }
-    if (byText.size() == 1) return {texts[0]};
-    if (byText.size() == series.size()) return {texts.front() + " .. " + texts.back()};
-    std::vector<std::string> rows;
-    rows.reserve(byText.size());
+std::vector<std::string> together(const Parameters& series, const std::vector<Rows>& all, std::size_t row) {
+    ByText<const Parameter*> byText;
+    for (std::size_t k = 0; k < series.size(); ++k)
+        add(byText, all[k].texts[row], series[k]);
+    if (byText.size() == 1) return {byText[0].first};
+    if (byText.size() == series.size()) return {byText.front().first + " .. " + byText.back().first};
+    std::vector<std::string> texts;
     for (const auto& [text, members] : byText)
-        rows.push_back(fill("{}: {}", {inShort(members), text}));
-    return rows;
+        texts.push_back(fill("{}: {}", {inShort(members), text}));
+    return texts;
+}
+
+void printTable(const std::string& head, const Table& table) {
+    print(Paint().bold(head) + "\n" + table.text("  "));
 }
 
 // One parameter, or a series as one where the same rows are said of all.
 void explain(const Parameters& series, const Places& places, const Context& context) {
-    std::vector<Rows> rows;
-    rows.reserve(series.size());
+    std::vector<Rows> all;
     for (const Parameter* parameter : series)
-        rows.emplace_back(*parameter, places, context);
-    if (!std::ranges::all_of(rows, [&](const Rows& own) { return own.labels() == rows[0].labels(); })) {
+        all.push_back(rowsOf(*parameter, places, context));
+    if (!std::ranges::all_of(all, [&](const Rows& rows) { return rows.labels == all[0].labels; })) {
         for (const Parameter* parameter : series)
             explain({parameter}, places, context);
         return;
     }
     Table table;
-    for (std::size_t k = 0; k < rows[0].labels().size(); ++k) {
-        std::vector<std::string> texts;
-        texts.reserve(rows.size());
-        for (const Rows& own : rows)
-            texts.push_back(own.texts()[k]);
-        std::string label = rows[0].labels()[k];
-        for (const std::string& text : together(texts, series))
+    const auto addRows = [&table](std::string label, const std::vector<std::string>& texts) {
+        for (const std::string& text : texts)
             table.add({std::exchange(label, {}), text});
-    }
-    std::string label = context.say("notes", "Hinweise");
-    for (const std::string& text : noteTexts(series, context))
-        table.add({std::exchange(label, {}), text});
-    print(Paint().bold(inShort(series)) + "\n" + table.text("  "));
-}
-
-void explain(const Member& member, const Context& context) {
-    Table table;
-    const auto add = [&table](const char* label, const std::string& text) {
-        if (!text.empty()) table.add({label, text});
     };
-    for (const ParamLanguage language : {context.language, context.otherLanguage()})
-        add(language == kGerman ? "Deutsch" : "English", member.title(language));
-    const std::string unit = member.unit();
-    add(context.say("kind", "Art"), member.properties->szMemberType + (unit.empty() ? unit : " in " + unit));
-    add(context.say("same as", "wie"), member.texts.twin);
-    add(context.say("switch", "Freigabe"), member.texts.enable);
-    add("byte", std::to_string(member.properties->lMemberOffset));
-    print(Paint().bold(member.name()) + "\n" + table.text("  "));
+    for (std::size_t row = 0; row < all[0].labels.size(); ++row)
+        addRows(all[0].labels[row], together(series, all, row));
+    addRows(context.say("notes", "Hinweise"), noteTexts(series, context));
+    printTable(inShort(series), table);
 }
 
-void explain(const std::vector<Meaning>& meanings) {
+void explain(const reference::Member& member, const Context& context) {
+    Rows rows(context);
+    rows.addInBothLanguages([&](ParamLanguage language) { return member.title(language); });
+    rows.add("kind", "Art", withUnit(member.properties->szMemberType, unitOf(member)));
+    rows.add("same as", "wie", member.texts.twin);
+    rows.add("switch", "Freigabe", member.texts.enable);
+    rows.add("byte", "byte", std::to_string(member.properties->lMemberOffset));
     Table table;
-    for (const auto& [choice, other, bearers] : meanings)
-        table.add({std::to_string(choice.number), choice.text, other == choice.text ? "" : other,
-                   inShort(bearers)});
-    print(table.text());
-}
-
-Json elementsOf(const stParamProperties& row) {
-    Json ends = Json::array();
-    ends.add(row.val_min_id);
-    ends.add(row.val_max_id);
-    return ends;
+    for (std::size_t k = 0; k < rows.labels.size(); ++k)
+        table.add({rows.labels[k], rows.texts[k]});
+    printTable(member.name(), table);
 }
 
 Json bothTexts(const std::string& en, const std::string& de) {
     return {{"en", en}, {"de", de}};
 }
 
-Json described(const Member& member) {
+Json described(const reference::Member& member) {
     return {{"name", member.name()},
             {"type", member.properties->szMemberType},
             {"title", bothTexts(member.texts.en, member.texts.de)},
-            {"unit", member.unit()}};
+            {"unit", unitOf(member)}};
 }
 
-Json described(const Meaning& meaning) {
-    Json names = Json::array();
-    for (const Parameter* parameter : meaning.bearers)
-        names.add(parameter->name());
-    return {
-        {"number", meaning.choice.number}, {"text", meaning.choice.text}, {"parameters", std::move(names)}};
-}
-
-Json choicesOf(const Parameter& parameter) {
-    Json list = Json::array();
-    for (const reference::Choice& choice : parameter.choices(kEnglish))
-        list.add({{"number", choice.number},
-                  {"en", choice.text},
-                  {"de", parameter.choiceText(choice.number, kGerman)}});
-    return list;
+Json described(const reference::Meaning& meaning) {
+    return {{"number", meaning.choice.number},
+            {"text", meaning.choice.text},
+            {"parameters", namesOf(meaning.bearers)}};
 }
 
 // Null when there are none.
@@ -288,6 +259,12 @@ Json valuesOf(const Parameter& parameter, const Places& places) {
 
 Json described(const Parameter& parameter, const Places& places) {
     const auto& row = parameter.row();
+    const auto choices = parameter.choices(kEnglish);
+    const auto inBoth = [&](const reference::Choice& choice) -> Json {
+        return {{"number", choice.number},
+                {"en", choice.text},
+                {"de", parameter.choiceText(choice.number, kGerman)}};
+    };
     Json object{{"name", parameter.name()},
                 {"id", row.id},
                 {"type", parameter.type().name},
@@ -301,49 +278,44 @@ Json described(const Parameter& parameter, const Places& places) {
     if (parameter.hasNumber() && parameter.leastNumber() != kNoMin)
         object.set("min", parameter.leastNumber());
     if (parameter.hasNumber() && parameter.hasMaximum()) object.set("max", row.val_max);
-    if (parameter.isIndexed()) object.set("elements", elementsOf(row));
-    if (!parameter.choices(kEnglish).empty()) object.set("choices", choicesOf(parameter));
-    if (parameter.type().nature == Nature::record) {
-        Json members = Json::array();
-        for (const Member& member : membersOf(parameter))
-            members.add(described(member));
-        object.set("members", std::move(members));
-    }
+    if (parameter.isIndexed())
+        object.set("elements", Json::arrayOf(std::array{row.val_min_id, row.val_max_id}));
+    if (!choices.empty()) object.set("choices", Json::arrayOf(choices, inBoth));
+    if (parameter.type().nature == Nature::record)
+        object.set("members",
+                   Json::arrayOf(membersOf(parameter), [](const auto& member) { return described(member); }));
     addNotes(object, parameter);
-    if (Json values = valuesOf(parameter, places); !values.isNull()) object.set("values", std::move(values));
+    if (Json values = valuesOf(parameter, places); !values.isEmpty()) object.set("values", std::move(values));
     return object;
 }
 
-// What the words stand for; several words are names, or are looked for together.
+// What the words mean; several words are names, or are looked for together.
 struct Found {
     std::vector<Parameters> series;
-    std::vector<Member> members;
-    std::vector<Meaning> meanings;
+    std::vector<reference::Member> members;
+    std::vector<reference::Meaning> meanings;
     Parameters hits; // of a search, listed
 
     bool isEmpty() const { return series.empty() && members.empty() && meanings.empty() && hits.empty(); }
 };
 
 bool addNamed(Found& found, const std::string& word) {
-    if (Parameters series = named(word); !series.empty()) {
-        if (word.find_first_of("*?") != word.npos && series.size() > 1)
-            found.hits.insert(found.hits.end(), series.begin(), series.end());
-        else
-            found.series.push_back(std::move(series));
-        return true;
-    }
-    auto members = membersNamed(word);
-    std::ranges::move(members, std::back_inserter(found.members));
-    if (!members.empty()) return true;
-    const Parameter* const parameter = identified(word).parameter;
-    if (parameter != nullptr) found.series.push_back({parameter});
-    return parameter != nullptr;
+    const Parameters series = reference::named(word);
+    const auto members = series.empty() ? reference::membersNamed(word) : std::vector<reference::Member>();
+    const Parameter* const parameter = reference::identified(word);
+    std::ranges::copy(members, std::back_inserter(found.members));
+    if (reference::isPattern(word) && series.size() > 1)
+        std::ranges::copy(series, std::back_inserter(found.hits));
+    else if (!series.empty())
+        found.series.push_back(series);
+    else if (members.empty() && parameter != nullptr)
+        found.series.push_back({parameter});
+    return !series.empty() || !members.empty() || parameter != nullptr;
 }
 
 Found find(const std::vector<std::string>& words, const Context& context) {
-    const std::string phrase = list(words, " ");
     Found found;
-    found.meanings = meaningsOf(phrase, context.language);
+    found.meanings = reference::meaningsOf(list(words, " "), context.language);
     const bool isNamed =
         std::ranges::all_of(words, [&found](const std::string& word) { return addNamed(found, word); });
     if (isNamed && found.meanings.empty()) return found;
@@ -354,43 +326,34 @@ Found find(const std::vector<std::string>& words, const Context& context) {
 }
 
 [[noreturn]] void nothingFound(const std::vector<std::string>& words, const Context& context) {
-    std::string text = fill(context.say("no parameter is named or described by '{}'",
-                                        "kein Parameter heißt so oder wird so beschrieben: '{}'"),
-                            {printable(list(words, " "))});
-    if (words.size() == 1) text += nearestName(words[0], context);
-    throw CouldNot(text);
-}
-
-Places placesOf(const std::vector<Parameters>& all, const Options& options, const Context& context) {
-    Places places(options, context);
-    for (const Parameters& series : all)
-        for (const Parameter* parameter : series)
-            places.addFile(parameter->file(), context);
-    return places;
+    throw CouldNot(context.say("no parameter is named or described by '{}'",
+                               "kein Parameter heißt so oder wird so beschrieben: '{}'",
+                               printable(list(words, " "))) +
+                   (words.size() == 1 ? nearestName(words[0], context) : ""));
 }
 
 void printText(const Found& found, const Places& places, const Context& context) {
-    if (!found.meanings.empty()) explain(found.meanings);
-    Table table;
+    Table meanings, hits;
+    for (const auto& [choice, other, bearers] : found.meanings)
+        meanings.add({std::to_string(choice.number), choice.text, other == choice.text ? "" : other,
+                      inShort(bearers)});
     for (const Parameter* parameter : found.hits)
-        table.add({std::string(parameter->name()), parameter->title(context.language)});
-    print(table.text());
+        hits.add({std::string(parameter->name()), parameter->title(context.language)});
+    print(meanings.text() + hits.text());
     for (const Parameters& series : found.series)
         explain(series, places, context);
-    for (const Member& member : found.members)
+    for (const reference::Member& member : found.members)
         explain(member, context);
 }
 
-void printJson(const Found& found, const Places& places) {
+void printJson(const Found& found, const std::vector<Parameters>& parameters, const Places& places) {
     Json all = Json::array();
-    for (const Parameters& series : found.series)
+    for (const Parameters& series : parameters)
         for (const Parameter* parameter : series)
             all.add(described(*parameter, places));
-    for (const Parameter* parameter : found.hits)
-        all.add(described(*parameter, places));
-    for (const Member& member : found.members)
+    for (const reference::Member& member : found.members)
         all.add(described(member));
-    for (const Meaning& meaning : found.meanings)
+    for (const reference::Meaning& meaning : found.meanings)
         all.add(described(meaning));
     print(all.text());
 }
@@ -398,11 +361,11 @@ void printJson(const Found& found, const Places& places) {
 Status run(const Options& options, const Context& context) {
     const Found found = find(options.words, context);
     if (found.isEmpty()) nothingFound(options.words, context);
-    std::vector<Parameters> shown = found.series;
-    if (options.json) shown.push_back(found.hits);
-    const Places places = placesOf(shown, options, context);
+    std::vector<Parameters> parameters = found.series;
+    if (options.json) parameters.push_back(found.hits);
+    const Places places(parameters, options, context);
     if (options.json)
-        printJson(found, places);
+        printJson(found, parameters, places);
     else
         printText(found, places, context);
     return kNothing;

@@ -9,6 +9,9 @@
 
 namespace talux::tool {
 
+// That of errno, for people.
+std::string reasonOf(int error);
+
 // Throws CouldNot with the reason; so does a file of more than 1 MB: one that takes some 80 MB to look at if
 // every character is a word.
 std::string contentsOf(const std::string& path, const Context& context);

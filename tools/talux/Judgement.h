@@ -1,5 +1,5 @@
 // What is to be said about a line of a parameter file before it is loaded: what a load does with it, and what
-// it does in silence. The library's own reader and its own judgement of an entry stand behind it.
+// it does without a message. The library's own reader takes the lines apart and decides about each.
 #ifndef TALUX_TOOLS_TALUX_JUDGEMENT_H
 #define TALUX_TOOLS_TALUX_JUDGEMENT_H
 
@@ -20,12 +20,12 @@ struct Finding {
 
 struct Judgement {
     int line = 0;
-    std::string name;                     // of the parameter, or what stands for it; empty without one
+    std::string name;                     // as the line has it where it is unknown; empty without one
     const Parameter* parameter = nullptr; // of a known name
     std::optional<Value> from;            // before the line is loaded
     std::optional<Value> to;              // afterwards; none when nothing is stored
     std::vector<Finding> findings;
-    bool isUntold = false; // one of too many lines that are no parameter's: nothing else is filled in
+    bool isOmitted = false; // one of too many lines that are no parameter's: nothing else is filled in
 
     bool changes() const { return to && !sameValue(from, to); }
     // The clock's own lines are kept by a load and mean nothing.
@@ -43,24 +43,24 @@ public:
 private:
     const Source& before;
     const Context& context;
-    std::optional<reference::File> expected; // the file that the path is named after
-    bool hasMark;                            // a byte order mark before the first line
-    int strangers = 0;                       // lines so far that are no parameter's
-    struct Seen {
-        Value value;
-        int line;
-    };
-    std::map<int, Seen> seen; // by id
+    std::optional<reference::File> expected;   // the file that the path is named after
+    bool hasMark;                              // a byte order mark before the first line
+    int strangers = 0;                         // lines so far that are no parameter's
+    std::map<int, std::pair<Value, int>> seen; // by id, with the line
+    Judgement judgement;                       // of the present line
 
-    void judgeLine(const Entry& entry, Judgement& judgement) const;
-    void judgeSkipped(const Entry& entry, const Effect& effect, Judgement& judgement) const;
-    void judgeStored(const Entry& entry, const Effect& effect, Judgement& judgement);
-    void judgeNumber(const Entry& entry, double given, Judgement& judgement) const;
-    void judgeText(const Entry& entry, Judgement& judgement) const;
-    void judgePlace(Judgement& judgement) const;
+    template <class... Pieces>
+    void say(const char* code, const char* english, const char* german, const Pieces&... pieces) {
+        judgement.findings.push_back({code, context.say(english, german, pieces...)});
+    }
+    void judgeLine(const Entry& entry);
+    void judgeSkipped(const Entry& entry, Outcome outcome);
+    void judgeStored(const Entry& entry, const Value& value);
+    void judgeNumber(const Entry& entry, double given);
+    void judgeText(const Entry& entry);
+    void judgeFile();
     template <class Given>
-    void addObjections(const Parameter& parameter, const Given& given, Judgement& judgement) const;
-    void add(Judgement& judgement, const char* code, std::string text) const;
+    void addObjections(const Given& given);
 };
 
 // What a save would write for a value and a load would make of that: nothing when it is the value again.

@@ -1,6 +1,6 @@
 // A line of the command language looked at without evaluating it: what will be refused and why, and what
-// happens in silence. The interpreter's own decisions stand behind it. Used by the shell after a refusal and
-// by lint.
+// happens without a message. It is the interpreter that decides about the terms. Used by the shell after a
+// refusal and by lint.
 #ifndef TALUX_TOOLS_TALUX_LINECHECK_H
 #define TALUX_TOOLS_TALUX_LINECHECK_H
 

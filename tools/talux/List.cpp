@@ -1,8 +1,8 @@
 // talux list: names and values.
 #include <algorithm>
+#include <ranges>
 
 #include "tools/talux/Command.h"
-#include "tools/talux/Lookup.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -25,47 +25,48 @@ bool isChanged(const Parameter& parameter, const std::optional<Value>& value) {
            !sameValue(value, Source::defaults().value(parameter));
 }
 
-std::string valueText(const Parameter& parameter, const std::optional<Value>& value, const Context& context) {
-    if (parameter.isIndexed())
-        return fill(context.say("{} elements", "{} Elemente"), {std::to_string(parameter.elements())});
-    return shown(parameter, value, context);
-}
-
 // The value of an indexed parameter is an array.
 Json jsonValue(const Parameter& parameter, const Source& source) {
-    if (!parameter.isIndexed()) return json(parameter, source.value(parameter));
-    Json elements = Json::array();
-    for (int k = 0; k < parameter.elements(); ++k)
-        elements.add(json(parameter, source.value(parameter.row().id + k)));
-    return elements;
+    const auto valueAt = [&](int k) { return json(parameter, source.value(parameter.row().id + k)); };
+    return parameter.isIndexed() ? Json::arrayOf(std::views::iota(0, parameter.elements()), valueAt)
+                                 : valueAt(0);
 }
 
-// Whether the value is one of the meanings: an output function by its number, any choice by its text.
-bool isUse(const Parameter& parameter, const std::optional<Value>& value,
-           const std::vector<Meaning>& meanings) {
-    if (!value || value->isText()) return false;
-    return std::ranges::any_of(meanings, [&](const Meaning& meaning) {
-        return value->number() == meaning.choice.number &&
-               std::ranges::find(meaning.bearers, &parameter) != meaning.bearers.end();
-    });
-}
-
-std::vector<Meaning> usesOf(const std::string& text, const Context& context) {
-    std::vector<Meaning> meanings = meaningsOf(text, context.language);
+// Of which the value is to be one: an output function by its number, any choice by its text.
+std::vector<reference::Meaning> usesOf(const std::string& text, const Context& context) {
+    auto meanings = reference::meaningsOf(text, context.language);
     if (text.find_first_not_of("0123456789") == text.npos)
-        std::erase_if(meanings, [](const Meaning& meaning) {
+        std::erase_if(meanings, [](const auto& meaning) {
             return meaning.bearers[0]->templateName() != "BA_FUNCTION";
         });
     if (meanings.empty() && !text.empty())
-        throw CouldNot(
-            fill(context.say("no output function has this number, no choice this text: {}",
-                             "keine Ausgangsfunktion hat diese Nummer, keine Auswahl diesen Text: {}"),
-                 {printable(text)}));
+        throw CouldNot(context.say("no output function has this number, no choice this text: {}",
+                                   "keine Ausgangsfunktion hat diese Nummer, keine Auswahl diesen Text: {}",
+                                   printable(text)));
     return meanings;
 }
 
+bool isUse(const Parameter& parameter, const std::optional<Value>& value,
+           const std::vector<reference::Meaning>& uses) {
+    return value && !value->isText() && std::ranges::any_of(uses, [&](const auto& meaning) {
+               return value->number() == meaning.choice.number && meaning.isOf(parameter);
+           });
+}
+
+Json described(const Parameter& parameter, const Source& source, const Context& context) {
+    const auto value = source.value(parameter);
+    Json object{{"name", parameter.name()},
+                {"value", jsonValue(parameter, source)},
+                {"unit", unitOf(parameter)},
+                {"title", parameter.title(context.language)},
+                {"changed", isChanged(parameter, value)}};
+    const std::string choice = value ? choiceOf(parameter, *value, context.language) : "";
+    if (!choice.empty()) object.set("text", choice);
+    return object;
+}
+
 // Of families with parameters that have names, or of methods.
-void printNames(const Options& options, const Context& context) {
+Status printNames(const Options& options, const Context& context) {
     std::string_view before;
     for (const Parameter& parameter : reference::parameters()) {
         const std::string_view family = familyName(parameter, context.language);
@@ -75,15 +76,13 @@ void printNames(const Options& options, const Context& context) {
     if (options.methods)
         for (const model::Both& name : reference::model().methods)
             print(fill("{}\n", {name.in(context.language)}));
+    return kNothing;
 }
 
 Status run(Options& options, const Context& context) {
-    if (options.families || options.methods) {
-        printNames(options, context);
-        return kNothing;
-    }
+    if (options.families || options.methods) return printNames(options, context);
     options.filter.check(context);
-    const std::vector<Meaning> uses = usesOf(options.uses, context);
+    const auto uses = usesOf(options.uses, context);
     const Source source = Source::open(options.source, context);
     const Paint paint;
     Table table;
@@ -95,23 +94,14 @@ Status run(Options& options, const Context& context) {
         if (options.changed && !differs) continue;
         if (source.isPartial() && !value) continue;
         if (!options.uses.empty() && !isUse(parameter, value, uses)) continue;
-        const std::string text = valueText(parameter, value, context);
+        if (options.json) all.add(described(parameter, source, context));
+        const std::string text = parameter.isIndexed()
+                                     ? context.say("{} elements", "{} Elemente", parameter.elements())
+                                     : shown(parameter, value, context);
         table.add({std::string(parameter.name()), differs ? paint.changed(text) : text,
                    parameter.title(context.language)});
-        if (!options.json) continue;
-        Json entry{{"name", parameter.name()},
-                   {"value", jsonValue(parameter, source)},
-                   {"unit", unitOf(parameter)},
-                   {"title", parameter.title(context.language)},
-                   {"changed", differs}};
-        if (value && !choiceOf(parameter, *value, context.language).empty())
-            entry.set("text", choiceOf(parameter, *value, context.language));
-        all.add(std::move(entry));
     }
-    if (options.json)
-        print(all.text());
-    else
-        print(table.text());
+    print(options.json ? all.text() : table.text());
     return kNothing;
 }
 

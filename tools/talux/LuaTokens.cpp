@@ -1,19 +1,19 @@
 #include "tools/talux/LuaTokens.h"
 
 #include <algorithm>
-#include <cctype>
-#include <cstdlib>
+#include <charconv>
+#include <optional>
 
 namespace talux::tool {
 
 namespace {
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
+constexpr std::string_view kBlanks = " \t\r\n\v\f", kDigits = "0123456789",
+                           kNumber = ".0123456789_abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ",
+                           kName = kNumber.substr(1);
 
-bool isLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+bool isOneOf(std::string_view characters, char c) {
+    return characters.find(c) != characters.npos;
 }
 
 class Lexer {
@@ -21,137 +21,97 @@ public:
     explicit Lexer(std::string_view text) : script(text) {}
 
     std::deque<LuaToken> run() {
-        if (script.starts_with('#')) place = std::min(script.find('\n'), script.size());
+        std::deque<LuaToken> tokens;
+        if (script.starts_with('#')) skipTo(script.find('\n'));
         while (skipBlanksAndComments())
             tokens.push_back(next());
-        LuaToken end;
-        end.at = script.size();
-        tokens.push_back(end);
-        return std::move(tokens);
+        tokens.push_back({LuaToken::Form::end, script.size(), {}, {}});
+        return tokens;
     }
 
 private:
     const std::string_view script;
-    std::size_t place = 0;
-    std::deque<LuaToken> tokens;
+    std::size_t position = 0;
 
-    char at(std::size_t offset = 0) const {
-        return place + offset < script.size() ? script[place + offset] : '\0';
-    }
+    std::string_view rest() const { return script.substr(position); }
 
-    // Level of a long bracket that begins here, -1 when none does.
-    int longBracket() const {
-        if (at() != '[') return -1;
-        std::size_t k = 1;
-        while (at(k) == '=')
-            ++k;
-        return at(k) == '[' ? static_cast<int>(k) - 1 : -1;
+    void skipTo(std::size_t end) { position = std::min(end, script.size()); }
+
+    // What ends the long bracket that begins here; empty where none does.
+    std::string endOfBracket() const {
+        if (!rest().starts_with('[')) return {};
+        const std::size_t second = rest().find_first_not_of('=', 1);
+        const bool isBracket = second != script.npos && rest()[second] == '[';
+        return isBracket ? "]" + std::string(second - 1, '=') + "]" : "";
     }
 
     // False at the end.
     bool skipBlanksAndComments() {
         for (;;) {
-            while (place < script.size() && std::isspace(static_cast<unsigned char>(script[place])) != 0)
-                ++place;
-            if (!script.substr(place).starts_with("--")) return place < script.size();
-            place += 2;
-            if (const int level = longBracket(); level >= 0)
-                takeLong(level);
+            skipTo(script.find_first_not_of(kBlanks, position));
+            if (!rest().starts_with("--")) return position < script.size();
+            position += 2;
+            if (const std::string end = endOfBracket(); !end.empty())
+                takeText(end, false);
             else
-                place = std::min(script.find('\n', place), script.size());
+                skipTo(script.find('\n', position));
         }
     }
 
     LuaToken next() {
-        LuaToken token;
-        token.at = place;
-        if (const int level = longBracket(); level >= 0) {
-            token = takeLong(level);
-        } else if (at() == '"' || at() == '\'') {
-            token = takeQuoted();
-        } else if (isLetter(at())) {
-            token.kind = LuaToken::Kind::name;
-            token.text = takeWhile([](char c) { return isLetter(c) || isDigit(c); });
-        } else if (isDigit(at()) || (at() == '.' && isDigit(at(1)))) {
-            token.kind = LuaToken::Kind::number;
-            token.text = takeWhile([](char c) { return isLetter(c) || isDigit(c) || c == '.'; });
+        if (const std::string end = endOfBracket(); !end.empty()) return takeText(end, false);
+        const std::size_t start = position;
+        const std::string_view first = rest().substr(0, 1);
+        if (first == "\"" || first == "'") return takeText(first, true);
+        auto form = LuaToken::Form::sign;
+        if (isOneOf(kDigits, rest()[rest().size() > 1 && first == "." ? 1 : 0])) {
+            form = LuaToken::Form::number;
+            skipTo(script.find_first_not_of(kNumber, position));
+        } else if (isOneOf(kName, first[0])) {
+            form = LuaToken::Form::name;
+            skipTo(script.find_first_not_of(kName, position));
         } else {
-            token.kind = LuaToken::Kind::sign;
-            const bool isDots = script.substr(place).starts_with("..");
-            token.text = script.substr(place, script.substr(place).starts_with("...") ? 3 : isDots ? 2 : 1);
-            place += token.text.size();
+            position += rest().starts_with("...") ? 3 : rest().starts_with("..") ? 2 : 1;
         }
-        return token;
+        return {form, start, std::string(script.substr(start, position - start)), {}};
     }
 
-    template <class Belongs>
-    std::string takeWhile(Belongs belongs) {
-        const std::size_t start = place;
-        while (place < script.size() && belongs(script[place]))
-            ++place;
-        return std::string(script.substr(start, place - start));
-    }
-
-    static void append(LuaToken& token, char c, std::size_t where) {
-        token.text += c;
-        token.where.push_back(static_cast<std::uint32_t>(where));
-    }
-
-    LuaToken takeLong(int level) {
-        LuaToken token;
-        token.kind = LuaToken::Kind::text;
-        token.at = place;
-        const std::string close = "]" + std::string(static_cast<std::size_t>(level), '=') + "]";
-        place += close.size();
-        if (at() == '\n') ++place; // belongs to the bracket
-        const std::size_t end = std::min(script.find(close, place), script.size());
-        for (; place < end; ++place)
-            append(token, script[place], place);
-        place = std::min(end + close.size(), script.size());
-        return token;
-    }
-
-    LuaToken takeQuoted() {
-        LuaToken token;
-        token.kind = LuaToken::Kind::text;
-        token.at = place;
-        const char quote = script[place++];
-        while (place < script.size() && at() != quote && at() != '\n') {
-            if (at() == '\\')
-                takeEscape(token);
-            else
-                append(token, script[place], place), ++place;
+    // In quotes there are escapes, and the line ends the text.
+    LuaToken takeText(std::string_view end, bool isQuoted) {
+        LuaToken token{LuaToken::Form::text, position, {}, {}};
+        position += end.size();
+        if (!isQuoted && rest().starts_with('\n')) ++position;
+        while (!rest().empty() && !rest().starts_with(end) && !(isQuoted && rest().starts_with('\n'))) {
+            const std::size_t start = position++;
+            const char c = script[start];
+            const auto meant = isQuoted && c == '\\' ? takeEscape() : std::optional(c);
+            if (!meant) continue;
+            token.text += *meant;
+            token.where.push_back(static_cast<std::uint32_t>(start));
         }
-        if (at() == quote) ++place;
+        if (rest().starts_with(end)) position += end.size();
         return token;
     }
 
-    void takeEscape(LuaToken& token) {
+    // What follows a backslash; nothing of what means no character.
+    std::optional<char> takeEscape() {
         constexpr std::string_view kLetters = "abfnrtv", kMeanings = "\a\b\f\n\r\t\v";
-        const std::size_t start = place++;
-        const char letter = at();
-        if (letter == 'z') {
-            ++place;
-            while (std::isspace(static_cast<unsigned char>(at())) != 0)
-                ++place;
-        } else if (letter == 'x') {
-            append(
-                token,
-                static_cast<char>(std::strtol(std::string(script.substr(place + 1, 2)).c_str(), nullptr, 16)),
-                start);
-            place = std::min(place + 3, script.size());
-        } else if (isDigit(letter)) {
-            std::size_t digits = 0;
-            int code = 0;
-            while (digits < 3 && isDigit(at(digits)))
-                code = code * 10 + (at(digits++) - '0');
-            append(token, static_cast<char>(code), start);
-            place += digits;
-        } else if (place < script.size()) {
-            const auto known = kLetters.find(letter);
-            append(token, known == kLetters.npos ? letter : kMeanings[known], start);
-            ++place;
-        }
+        if (rest().empty()) return {};
+        const char letter = script[position];
+        if (isOneOf(kDigits, letter)) return takeCode(3, 10);
+        ++position;
+        if (letter == 'x') return takeCode(2, 16);
+        if (letter == 'z') return skipTo(script.find_first_not_of(kBlanks, position)), std::nullopt;
+        const std::size_t known = kLetters.find(letter);
+        return known == kLetters.npos ? letter : kMeanings[known];
+    }
+
+    char takeCode(std::size_t digits, int base) {
+        int code = 0;
+        const std::string_view text = rest().substr(0, digits);
+        const auto read = std::from_chars(text.data(), text.data() + text.size(), code, base);
+        position += static_cast<std::size_t>(read.ptr - text.data());
+        return static_cast<char>(code);
     }
 };
 

@@ -11,16 +11,18 @@
 namespace talux::tool {
 
 struct LuaToken {
-    enum class Kind { name, number, text, sign, end };
-    Kind kind = Kind::end;
-    std::string text;                 // of a text constant what it stands for
-    std::vector<std::uint32_t> where; // of a text constant, place of each of its characters in the script
-    std::size_t at = 0;               // place in the script
+    enum class Form { name, number, text, sign, end };
+    Form form;
+    std::size_t at;                   // position in the script
+    std::string text;                 // of a text constant the characters that it means
+    std::vector<std::uint32_t> where; // the position of each of these
 
-    bool is(std::string_view word) const { return kind != Kind::text && text == word; }
+    bool isName() const { return form == Form::name; }
+    bool isText() const { return form == Form::text; }
+    bool is(std::string_view word) const { return !isText() && text == word; }
 };
 
-// Comments are left out; the last token is of the kind `end`. What is no Lua becomes signs of one character.
+// Comments are left out; the last token is the end. What is no Lua becomes signs of one character.
 std::deque<LuaToken> luaTokens(std::string_view script);
 
 } // namespace talux::tool

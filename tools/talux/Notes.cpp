@@ -16,8 +16,8 @@ std::string noteLabel(const model::Note& note, const Context& context) {
 std::vector<std::string> noteTexts(const Parameters& parameters, const Context& context) {
     std::map<std::pair<parameters::NoteKind, int>, Parameters> byNote;
     for (const Parameter* parameter : parameters)
-        for (const int place : parameter->notes())
-            byNote[{reference::noteAt(place).kind, place}].push_back(parameter);
+        for (const int number : parameter->notes())
+            byNote[{reference::noteAt(number).kind, number}].push_back(parameter);
     const Paint paint;
     std::vector<std::string> texts;
     for (const auto& [key, bearers] : byNote) {
@@ -32,12 +32,11 @@ std::vector<std::string> noteTexts(const Parameters& parameters, const Context& 
 }
 
 void addNotes(Json& object, const Parameter& parameter) {
-    Json notes;
-    for (const int place : parameter.notes()) {
-        const auto& [text, kind] = reference::noteAt(place);
-        notes.add({{"kind", model::kNoteKinds[kind]}, {"en", text.en}, {"de", text.de}});
-    }
-    if (!notes.isNull()) object.set("notes", std::move(notes));
+    const auto described = [](int number) -> Json {
+        const auto& [text, kind] = reference::noteAt(number);
+        return {{"kind", model::kNoteKinds[kind]}, {"en", text.en}, {"de", text.de}};
+    };
+    if (!parameter.notes().empty()) object.set("notes", Json::arrayOf(parameter.notes(), described));
 }
 
 } // namespace talux::tool

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "tools/Json.h"
-#include "tools/talux/Lookup.h"
+#include "tools/talux/Source.h"
 
 namespace talux::tool {
 

@@ -1,238 +1,217 @@
 #include "tools/talux/Plausibility.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
+#include <span>
 
 #include "ParamSystem/parameters/Methods.h"
 #include "ParamSystem/rules/Facts.h"
-#include "tools/pages/Names.h"
+#include "tools/reference/Ranges.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
 namespace {
 
-constexpr int kOff = 1;                        // choice of outputs and of places in the list
+constexpr int kOff = 1;                        // choice of outputs and of entries of the list
 constexpr int kSums[] = {24, 25};              // output functions that combine all methods
 constexpr int kUncertain[] = {44, 45, 46, 47}; // which method forms them is not documented
 
-// A part of a method with a switch of its own.
-constexpr struct {
-    std::string_view enable, functions, priorities;
-} kParts[] = {{"qu2_DE_active", "30 31", "3"}};
+bool isMember(std::span<const int> numbers, double number) {
+    return std::ranges::find(numbers, static_cast<int>(number)) != numbers.end();
+}
 
 // A word of a rule: a parameter, or the number in its place.
 struct Word {
     const Parameter* parameter;
-    int number;
+    double number = 0;
 };
+using Words = std::span<const Word>;
 
-using Words = std::vector<Word>;
-
-bool isMember(std::span<const int> numbers, int number) {
-    return std::ranges::find(numbers, number) != numbers.end();
-}
-
-void addUnit(Words& words, std::string_view unit) {
-    for (const Parameter& parameter : reference::parameters())
-        if (parameter.isSetting() && parameter.hasNumber() && parameter.unit() == unit)
-            words.push_back({&parameter, 0});
-}
-
-Words wordsOf(const PlausibilityRule& rule) {
-    Words words;
-    if (rule.parameters.empty())
-        for (const Parameter& parameter : reference::parameters())
-            if (parameter.isSetting() && !isOfClock(parameter)) words.push_back({&parameter, 0});
-    for (const std::string& name : pages::namesOf(rule.parameters)) {
-        if (name.starts_with('[')) {
-            addUnit(words, std::string_view(name).substr(1, name.size() - 2));
-            continue;
-        }
-        Word word{reference::find(name), 0};
-        std::from_chars(name.data(), name.data() + name.size(), word.number);
-        words.push_back(word);
-    }
+std::vector<Word> wordsOf(const PlausibilityRule& rule) {
+    std::vector<Word> words;
+    const auto addAll = [&words](auto isWanted) {
+        for (const Parameter& parameter : settings())
+            if (isWanted(parameter)) words.push_back({&parameter});
+    };
+    if (rule.parameters.empty()) addAll([](const Parameter&) { return true; });
+    for (const std::string& name : reference::namesOf(rule.parameters))
+        if (name.starts_with('['))
+            addAll([unit = name.substr(1, name.size() - 2)](const Parameter& parameter) {
+                return parameter.hasNumber() && parameter.unit() == unit;
+            });
+        else
+            words.push_back({reference::find(name), static_cast<double>(wholeNumber(name).value_or(0))});
     return words;
 }
 
-// The parameters of the rules, found once.
-const Words& wordsOf(std::size_t rule) {
+// Those of each rule, found once.
+const std::vector<std::vector<Word>>& allWords() {
     static const auto all = [] {
-        std::vector<Words> found;
-        for (const PlausibilityRule& row : kPlausibilityRules)
-            found.push_back(wordsOf(row));
+        std::vector<std::vector<Word>> found;
+        for (const PlausibilityRule& rule : kPlausibilityRules)
+            found.push_back(wordsOf(rule));
         return found;
     }();
-    return all[rule];
+    return all;
 }
 
 bool isOutput(const Parameter& parameter) {
     return parameter.templateName() == "BA_FUNCTION";
 }
 
-// A method or a part with its switch; what it signals through.
+// A method or a part of one with its switch, and what it signals through.
 struct Switched {
     const Parameter* enable;
     std::vector<int> functions, priorities;
+    bool isPart = false;
 
-    std::span<const int> numbersOf(const Parameter& place) const {
-        return isOutput(place) ? functions : priorities;
+    bool forms(double signal, const Parameter& taker) const {
+        return isMember(isOutput(taker) ? functions : priorities, signal);
     }
 };
 
-const Parameter* firstSwitch(parameters::MethodId method) {
-    const auto& all = reference::parameters();
-    const auto found = std::ranges::find_if(all, [method](const Parameter& parameter) {
-        return parameter.model().method == method && parameter.model().role == parameters::kEnable;
-    });
-    return found == all.end() ? nullptr : &*found;
-}
-
-const std::vector<Switched>& switchedMethods() {
+const std::vector<Switched>& switched() {
     static const auto all = [] {
         std::vector<Switched> found;
         for (const parameters::Method& method : parameters::kMethods) {
-            Switched switched{firstSwitch(method.id), pages::numbersOf(method.functions),
-                              pages::numbersOf(method.priorities)};
-            std::erase_if(switched.functions, [](int number) { return isMember(kUncertain, number); });
-            if (switched.enable != nullptr) found.push_back(switched);
+            const Parameters switches = reference::settingsOf(method.id, parameters::kEnable);
+            if (switches.empty()) continue;
+            found.push_back({switches[0], reference::numbersOf(method.functions),
+                             reference::numbersOf(method.priorities)});
+            std::erase_if(found.back().functions, [](int number) { return isMember(kUncertain, number); });
         }
+        found.push_back({reference::find("qu2_DE_active"), {30, 31}, {3}, true});
         return found;
     }();
     return all;
 }
 
-const std::vector<Switched>& switchedParts() {
-    static const auto all = [] {
-        std::vector<Switched> found = switchedMethods();
-        for (const auto& part : kParts)
-            found.push_back({reference::find(part.enable), pages::numbersOf(part.functions),
-                             pages::numbersOf(part.priorities)});
-        return found;
-    }();
-    return all;
-}
-
-// Looks at one set of values.
-class Look {
+// Looks whether one set of values breaks one rule.
+class RuleCheck {
 public:
-    Look(const Values& valuesGiven, const Values& beforeGiven, const Context& person,
-         const std::function<void(const Implausible&)>& reportGiven)
-        : values(valuesGiven), before(beforeGiven), context(person), report(reportGiven) {}
+    RuleCheck(const PlausibilityRule& rowOfRule, Words wordsOfRule, const Values& valuesGiven,
+              const Values& valuesBefore, const Context& person, std::vector<Implausible>& result)
+        : rule(rowOfRule), words(wordsOfRule), values(valuesGiven), before(valuesBefore), context(person),
+          found(result) {}
 
-    void at(const PlausibilityRule& given, const Words& wordsGiven) {
-        rule = &given;
-        words = &wordsGiven;
-        switch (rule->test) {
+    void run() {
+        switch (rule.test) {
         case Test::range:
+            return checkEach([this](const Parameter& own) { return !isChoice(own) && isOut(own); });
         case Test::choice:
-        case Test::limits:
+            return checkEach([this](const Parameter& own) { return isChoice(own) && isOut(own); });
+        case Test::limits: // where the row's own range says nothing
+            return checkEach([this](const Parameter& own) { return !isOut(own) && isBeyond(own); });
         case Test::freeOutput:
+            return checkEach([this](const Parameter& own) { return isBetween(own); });
         case Test::zone:
+            return checkEach([this](const Parameter& own) { return !isZone(values(own)->text()); });
         case Test::mask:
+            return checkEach([this](const Parameter& own) {
+                return address(own) && !rules::isNetmask(values(own)->text());
+            });
         case Test::individual:
-            for (const Word& word : given.test == Test::individual && !before ? Words() : *words)
-                lookAtOne(*word.parameter);
-            break;
+            if (before) checkEach([this](const Parameter& own) { return isOfAnother(own); });
+            return;
         case Test::order:
-            return lookAtOrder();
-        case Test::blocks:
-            return lookAtBlocks();
-        case Test::offMethod:
-            return lookAtOff();
-        case Test::nowhere:
-            return lookAtNowhere();
-        case Test::emptyList:
-            return lookAtList();
+            return checkGroups(2, [this](Words group) { return isReversed(group[0], group[1]); });
         case Test::gateway:
-            return lookAtGateways();
+            return checkGroups(3, [this](Words group) { return isOutside(group); });
+        case Test::blocks:
+            return checkPairs(2, [this](Words a, Words b) { return overlap(a, b); });
         case Test::networks:
-            return lookAtNetworks();
+            return checkPairs(3, [this](Words a, Words b) { return areOneNetwork(a, b); });
         case Test::ports:
-            return lookAtPorts();
+            return checkPairs(2, [this](Words a, Words b) { return areOnePort(a, b); });
+        case Test::offMethod:
+            return checkOff();
+        case Test::nowhere:
+            return checkNowhere();
+        case Test::emptyList:
+            return checkList();
         }
     }
 
 private:
-    const Values& values;
-    const Values& before;
+    const PlausibilityRule& rule;
+    const Words words;
+    const Values &values, &before;
     const Context& context;
-    const std::function<void(const Implausible&)>& report;
-    const PlausibilityRule* rule = nullptr;
-    const Words* words = nullptr;
-
-    const Parameter& parameter(std::size_t k) const { return *(*words)[k].parameter; }
+    std::vector<Implausible>& found;
 
     std::optional<double> number(const Parameter& parameter) const {
         const auto value = values(parameter);
         return value && !value->isText() ? std::optional(value->number()) : std::nullopt;
     }
-    std::optional<double> number(std::size_t k) const { return number(parameter(k)); }
 
-    std::optional<unsigned> address(std::size_t k) const {
-        const auto value = values(parameter(k));
+    std::optional<unsigned> address(const Parameter& parameter) const {
+        const auto value = values(parameter);
         return value ? rules::addressIn(value->text()) : std::nullopt;
     }
 
-    void say(std::vector<const Parameter*> parameters) const {
-        std::string text = list(parameters, ", ", [this](const Parameter* parameter) {
-            return std::string(parameter->name()) + ' ' + shown(*parameter, values(*parameter), context);
+    void say(Parameters parameters) {
+        const std::string text = list(parameters, ", ", [this](const Parameter* parameter) {
+            return fill("{} {}", {parameter->name(), shown(*parameter, values(*parameter), context)});
         });
-        text += joined({": ", context.say(rule->en.data(), rule->de.data())});
-        report({rule, std::move(parameters), std::move(text)});
+        found.push_back({&rule, std::move(parameters),
+                         joined({text, ": ", context.say(rule.en.data(), rule.de.data())})});
     }
 
-    void lookAtOne(const Parameter& parameter) const {
-        const auto value = values(parameter);
-        if (!value || sameValue(value, defaultOf(parameter.row()))) return; // a factory setting is meant so
-        if (value->isText() ? isWrong(parameter, value->text()) : isWrong(parameter, *value))
-            say({&parameter});
-    }
-
-    bool isWrong(const Parameter& parameter, const Value& value) const {
-        const double number = value.number();
-        const rules::Facts facts = rules::factsOf(parameter.row());
-        const bool isChoice = facts.form == rules::Form::choice;
-        const bool isOut(rules::check(facts, number, {Reason::tooLow, Reason::tooHigh, Reason::noChoice}));
-        switch (rule->test) {
-        case Test::range:
-            return !isChoice && isOut;
-        case Test::choice:
-            return isChoice && isOut;
-        case Test::limits: // where the row's own range says nothing
-            return !isOut && (number < rule->low || number > rule->high);
-        case Test::freeOutput:
-            return number >= rule->low && number <= rule->high;
-        case Test::individual:
-            return isOfAnother(parameter, value);
-        default:
-            return false;
+    // Of each parameter alone. A factory setting is intended.
+    template <class Check>
+    void checkEach(Check isBroken) {
+        for (const Word& word : words) {
+            const auto value = values(*word.parameter);
+            if (value && !sameValue(value, defaultOf(word.parameter->row())) && isBroken(*word.parameter))
+                say({word.parameter});
         }
     }
 
-    bool isWrong(const Parameter& parameter, const char* text) const {
-        switch (rule->test) {
-        case Test::zone:
-            return !isZone(text);
-        case Test::mask:
-            return rules::addressIn(text) && !rules::isNetmask(text);
-        case Test::individual:
-            return isOfAnother(parameter, Value(std::string_view(text)));
-        default:
-            return false;
-        }
+    template <class Check>
+    void checkGroups(std::size_t size, Check isBroken) {
+        for (std::size_t k = 0; k < words.size(); k += size)
+            if (const Words group = words.subspan(k, size); isBroken(group)) say(parametersOf({group}));
     }
 
-    // What differs from the factory value was given to this device; factors can be calibrated all the same.
-    bool isOfAnother(const Parameter& parameter, const Value& value) const {
-        if (!parameter.model().has(parameters::kIndividual)) return false;
-        const auto own = before(parameter);
-        const bool isGiven =
-            parameter.type().kind == Kind::Float || !sameValue(own, defaultOf(parameter.row()));
-        return own && isGiven && !sameValue(own, value);
+    // Of each two groups.
+    template <class Check>
+    void checkPairs(std::size_t size, Check isBroken) {
+        for (std::size_t k = 0; k < words.size(); k += size)
+            for (std::size_t m = 0; m < k; m += size) {
+                const Words earlier = words.subspan(m, size), later = words.subspan(k, size);
+                if (isBroken(earlier, later)) say(parametersOf({earlier, later}));
+            }
+    }
+
+    // Without numbers and, where groups begin with a switch, without that.
+    Parameters parametersOf(std::initializer_list<Words> groups) const {
+        const bool hasSwitch = rule.test == Test::networks || rule.test == Test::ports;
+        Parameters parameters;
+        for (const Words group : groups)
+            for (const Word& word : group.subspan(hasSwitch ? 1 : 0))
+                if (word.parameter != nullptr) parameters.push_back(word.parameter);
+        return parameters;
+    }
+
+    static bool isChoice(const Parameter& parameter) {
+        return rules::factsOf(parameter.row()).form == rules::Form::choice;
+    }
+
+    bool isOut(const Parameter& parameter) const {
+        constexpr rules::Reasons kOutside{Reason::tooLow, Reason::tooHigh, Reason::noChoice};
+        const auto value = number(parameter);
+        return value && rules::check(rules::factsOf(parameter.row()), value, kOutside);
+    }
+
+    bool isBetween(const Parameter& parameter) const {
+        const auto value = number(parameter);
+        return value && *value >= rule.low && *value <= rule.high;
+    }
+
+    bool isBeyond(const Parameter& parameter) const {
+        const auto value = number(parameter);
+        return value && (*value < rule.low || *value > rule.high);
     }
 
     // Where this machine has no zones, any absolute path may be one.
@@ -242,92 +221,80 @@ private:
         return path.is_absolute() && (!hasZones || std::filesystem::is_regular_file(path, error));
     }
 
-    void lookAtOrder() const {
-        for (std::size_t k = 0; k < words->size(); k += 2) {
-            const auto a = number(k), b = number(k + 1);
-            if (!a || !b) continue;
-            const double most = *b * rule->high;
-            if (*a > most || (rule->isStrict && *a == most)) say({&parameter(k), &parameter(k + 1)});
-        }
+    // What differs from the factory value was given to this device; factors can be calibrated all the same.
+    bool isOfAnother(const Parameter& parameter) const {
+        if (!isIndividual(parameter)) return false;
+        const auto own = before(parameter);
+        const bool isGiven =
+            parameter.type().kind == Kind::Float || !sameValue(own, defaultOf(parameter.row()));
+        return own && isGiven && !sameValue(own, values(parameter));
     }
 
-    void lookAtBlocks() const {
-        for (std::size_t k = 0; k < words->size(); k += 2)
-            for (std::size_t m = 0; m < k; m += 2) {
-                const auto a = number(k), b = number(m);
-                if (a && b && *a < *b + (*words)[m + 1].number && *b < *a + (*words)[k + 1].number)
-                    say({&parameter(m), &parameter(k)});
-            }
+    bool isReversed(const Word& low, const Word& high) const {
+        const auto a = number(*low.parameter), b = number(*high.parameter);
+        return a && b && (*a > *b * rule.high || (rule.isStrict && *a == *b * rule.high));
     }
 
-    void lookAtOff() const {
-        for (const Word& place : *words)
-            for (const Switched& method : switchedParts()) {
-                const auto isOn = number(*method.enable);
-                const auto signal = number(*place.parameter);
-                if (isOn && *isOn == 0 && signal &&
-                    isMember(method.numbersOf(*place.parameter), static_cast<int>(*signal)))
-                    say({place.parameter, method.enable});
-            }
+    // A block: its first register, and how many belong to it.
+    bool overlap(Words a, Words b) const {
+        const auto firstA = number(*a[0].parameter), firstB = number(*b[0].parameter);
+        return firstA && firstB && *firstA < *firstB + b[1].number && *firstB < *firstA + a[1].number;
     }
 
-    // Whether one of the places that have a value takes a signal of the method; if not all have, it may be.
+    // A gateway, an address and its mask.
+    bool isOutside(Words group) const {
+        const auto gateway = address(*group[0].parameter), own = address(*group[1].parameter),
+                   mask = address(*group[2].parameter);
+        return gateway && own && mask && *gateway != 0 && *own != 0 && ((*gateway ^ *own) & *mask) != 0;
+    }
+
+    bool isOn(const Word& word) const {
+        return word.parameter == nullptr || number(*word.parameter).value_or(0) != 0;
+    }
+
+    bool areOneNetwork(Words a, Words b) const {
+        const auto addressA = address(*a[1].parameter), addressB = address(*b[1].parameter),
+                   maskA = address(*a[2].parameter), maskB = address(*b[2].parameter);
+        return isOn(a[0]) && isOn(b[0]) && addressA && addressB && maskA && maskB && *addressA != 0 &&
+               *addressB != 0 && ((*addressA ^ *addressB) & *maskA & *maskB) == 0;
+    }
+
+    bool areOnePort(Words a, Words b) const {
+        const auto portA = number(*a[1].parameter), portB = number(*b[1].parameter);
+        return isOn(a[0]) && isOn(b[0]) && portA && portA == portB;
+    }
+
+    void checkOff() {
+        for (const auto& [taker, unused] : words)
+            for (const Switched& method : switched())
+                if (const auto signal = number(*taker);
+                    number(*method.enable) == 0 && signal && method.forms(*signal, *taker))
+                    say({taker, method.enable});
+    }
+
+    // Whether an output or an entry of the list takes a signal of the method; if not all have a value, it may
+    // be.
     bool isTaken(const Switched& method) const {
-        return std::ranges::any_of(*words, [&](const Word& place) {
-            const auto signal = number(*place.parameter);
-            if (!signal) return true;
-            const int taken = static_cast<int>(*signal);
-            return isMember(method.numbersOf(*place.parameter), taken) ||
-                   (isOutput(*place.parameter) && isMember(kSums, taken));
+        return std::ranges::any_of(words, [&](const Word& word) {
+            const auto signal = number(*word.parameter);
+            return !signal || method.forms(*signal, *word.parameter) ||
+                   (isOutput(*word.parameter) && isMember(kSums, *signal));
         });
     }
 
-    void lookAtNowhere() const {
-        for (const Switched& method : switchedMethods())
-            if (const auto isOn = number(*method.enable); isOn && *isOn != 0 && !isTaken(method))
+    void checkNowhere() {
+        for (const Switched& method : switched())
+            if (!method.isPart && number(*method.enable).value_or(0) != 0 && !isTaken(method))
                 say({method.enable});
     }
 
-    void lookAtList() const {
-        std::vector<const Parameter*> followers;
-        for (const auto& [place, unused] : *words) {
-            const auto signal = number(*place);
-            if (!isOutput(*place) && (!signal || *signal != kOff)) return;
-            if (isOutput(*place) && signal && *signal >= rule->low && *signal <= rule->high)
-                followers.push_back(place);
+    void checkList() {
+        Parameters followers;
+        for (const auto& [taker, unused] : words) {
+            if (!isOutput(*taker) && number(*taker) != kOff) return;
+            if (isOutput(*taker) && isBetween(*taker)) followers.push_back(taker);
         }
         if (!followers.empty()) say(std::move(followers));
-    }
-
-    void lookAtGateways() const {
-        for (std::size_t k = 0; k < words->size(); k += 3) {
-            const auto gateway = address(k), own = address(k + 1), mask = address(k + 2);
-            if (gateway && own && mask && *gateway != 0 && *own != 0 && ((*gateway ^ *own) & *mask) != 0)
-                say({&parameter(k), &parameter(k + 1), &parameter(k + 2)});
-        }
-    }
-
-    bool isOn(std::size_t k) const {
-        const Parameter* const enable = (*words)[k].parameter;
-        return enable == nullptr || number(*enable).value_or(0) != 0;
-    }
-
-    void lookAtNetworks() const {
-        for (std::size_t k = 0; k < words->size(); k += 3)
-            for (std::size_t m = 0; m < k; m += 3) {
-                const auto a = address(k + 1), b = address(m + 1);
-                const auto maskA = address(k + 2), maskB = address(m + 2);
-                if (isOn(k) && isOn(m) && a && b && maskA && maskB && *a != 0 && *b != 0 &&
-                    ((*a ^ *b) & *maskA & *maskB) == 0)
-                    say({&parameter(m + 1), &parameter(m + 2), &parameter(k + 1), &parameter(k + 2)});
-            }
-    }
-
-    void lookAtPorts() const {
-        for (std::size_t k = 0; k < words->size(); k += 2)
-            for (std::size_t m = 0; m < k; m += 2)
-                if (isOn(k) && isOn(m) && number(k + 1) && number(k + 1) == number(m + 1))
-                    say({&parameter(m + 1), &parameter(k + 1)});
     }
 };
 
@@ -337,42 +304,38 @@ bool Implausible::concerns(const std::function<bool(const Parameter&)>& isMeant)
     return std::ranges::any_of(parameters, [&](const Parameter* parameter) { return isMeant(*parameter); });
 }
 
-bool Implausible::isSaidOfLines() const {
+bool Implausible::isOfOneLine() const {
     return rule->test == Test::range || rule->test == Test::choice || rule->test == Test::mask;
 }
 
 Json described(const Implausible& found) {
-    Json names = Json::array();
-    for (const Parameter* const parameter : found.parameters)
-        names.add(parameter->name());
     return {{"code", found.rule->code},
             {"fault", found.isFault()},
-            {"parameters", std::move(names)},
+            {"parameters", namesOf(found.parameters)},
             {"text", found.text}};
 }
 
-void findFaults(const std::map<const Parameter*, Value>& written, const Context& context,
-                const std::function<void(const Implausible&)>& report) {
-    if (written.empty()) return;
+std::vector<Implausible> findFaults(const std::map<const Parameter*, Value>& written,
+                                    const Context& context) {
+    if (written.empty()) return {};
     const auto values = [&written](const Parameter& parameter) {
         const auto found = written.find(&parameter);
         return found == written.end() ? std::nullopt : std::optional(found->second);
     };
-    findImplausible(values, {}, context, [&report](const Implausible& found) {
-        if (found.isFault() && !found.isSaidOfLines()) report(found);
-    });
+    auto all = findImplausible(values, {}, context);
+    std::erase_if(all, [](const Implausible& found) { return !found.isFault() || found.isOfOneLine(); });
+    return all;
 }
 
-void findImplausible(const Source& source, const Context& context,
-                     const std::function<void(const Implausible&)>& report) {
-    findImplausible([&](const Parameter& parameter) { return source.value(parameter); }, {}, context, report);
+std::vector<Implausible> findImplausible(const Source& source, const Context& context) {
+    return findImplausible([&](const Parameter& parameter) { return source.value(parameter); }, {}, context);
 }
 
-void findImplausible(const Values& values, const Values& before, const Context& context,
-                     const std::function<void(const Implausible&)>& report) {
-    Look look(values, before, context, report);
+std::vector<Implausible> findImplausible(const Values& values, const Values& before, const Context& context) {
+    std::vector<Implausible> found;
     for (std::size_t k = 0; k < std::size(kPlausibilityRules); ++k)
-        look.at(kPlausibilityRules[k], wordsOf(k));
+        RuleCheck(kPlausibilityRules[k], allWords()[k], values, before, context, found).run();
+    return found;
 }
 
 } // namespace talux::tool

@@ -16,11 +16,11 @@ namespace talux::tool {
 
 struct Implausible {
     const PlausibilityRule* rule;
-    std::vector<const Parameter*> parameters;
+    Parameters parameters;
     std::string text; // "ETH0_GATEWAY 10.0.0.1, ETH0_IP ..: the gateway is outside its network"
 
     // Whether a line of a file is reported for it already.
-    bool isSaidOfLines() const;
+    bool isOfOneLine() const;
     bool isFault() const { return rule->gravity == Gravity::fault; }
     bool concerns(const std::function<bool(const Parameter&)>& isMeant) const;
 };
@@ -28,18 +28,15 @@ struct Implausible {
 // A set of values. What it does not hold breaks no rule.
 using Values = std::function<std::optional<Value>(const Parameter&)>;
 
-// Calls report(found) for every rule that the values break. `before`: what they would replace; without it
-// the rule on values of one device is left out.
-void findImplausible(const Values& values, const Values& before, const Context& context,
-                     const std::function<void(const Implausible&)>& report);
+// Every rule that the values break. `before`: what they would replace; without it the rule on values of one
+// device is left out.
+std::vector<Implausible> findImplausible(const Values& values, const Values& before, const Context& context);
 
 // The faults of a few values that are about to be written; what refuses or names their ranges says so.
-void findFaults(const std::map<const Parameter*, Value>& written, const Context& context,
-                const std::function<void(const Implausible&)>& report);
+std::vector<Implausible> findFaults(const std::map<const Parameter*, Value>& written, const Context& context);
 
 // Of what is pending on a device, or of any other complete source.
-void findImplausible(const Source& source, const Context& context,
-                     const std::function<void(const Implausible&)>& report);
+std::vector<Implausible> findImplausible(const Source& source, const Context& context);
 
 Json described(const Implausible& found);
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "support/Text.h"
-#include "tools/talux/Lookup.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
 
@@ -46,8 +45,8 @@ bool holdsWords(const Parameter& parameter, const std::vector<std::string>& word
 }
 
 bool isOfFamily(const Parameter& parameter, const std::string& family) {
-    return containsIgnoringCase(familyName(parameter, kEnglish), family) ||
-           containsIgnoringCase(familyName(parameter, kGerman), family);
+    return reference::containsIgnoringCase(familyName(parameter, kEnglish), family) ||
+           reference::containsIgnoringCase(familyName(parameter, kGerman), family);
 }
 
 bool hasNoLimits(const Parameter& parameter) {
@@ -58,8 +57,8 @@ bool hasNoLimits(const Parameter& parameter) {
 
 } // namespace
 
-std::vector<const Parameter*> search(const std::vector<std::string>& words) {
-    std::vector<const Parameter*> found;
+Parameters search(const std::vector<std::string>& words) {
+    Parameters found;
     for (const Parameter& parameter : reference::parameters())
         if (!parameter.isTemplate() && holdsWords(parameter, words)) found.push_back(&parameter);
     return found;
@@ -92,26 +91,25 @@ void Filter::addTo(Command& command) {
 }
 
 void Filter::check(const Context& context) {
+    const auto isAny = [](const auto& isWanted) {
+        return std::ranges::any_of(reference::parameters(), isWanted);
+    };
     for (const std::string& name : names)
-        if (std::ranges::none_of(reference::parameters(), [&name](const Parameter& parameter) {
-                return !parameter.isTemplate() && fits(parameter.name(), name);
-            }))
+        if (!isAny([&](const auto& row) { return !row.isTemplate() && reference::fits(row.name(), name); }))
             throw CouldNot(unknownName(name, context));
-    if (std::ranges::none_of(reference::parameters(),
-                             [this](const Parameter& row) { return isOfFamily(row, family); }))
-        throw CouldNot(
-            fill(context.say("no family is named {}", "keine Familie heißt {}"), {printable(family)}));
-    methodNumber = methodNamed(method);
+    if (!isAny([this](const Parameter& row) { return isOfFamily(row, family); }))
+        throw CouldNot(context.say("no family is named {}", "keine Familie heißt {}", printable(family)));
+    methodNumber = reference::methodNamed(method);
     if (methodNumber < 0)
-        throw CouldNot(
-            fill(context.say("no method is named {}; there are {}", "kein Verfahren heißt {}; es gibt {}"),
-                 {printable(method), list(reference::model().methods, ", ",
-                                          [&](const auto& name) { return name.in(context.language); })}));
+        throw CouldNot(context.say("no method is named {}; there are {}",
+                                   "kein Verfahren heißt {}; es gibt {}", printable(method),
+                                   list(reference::model().methods, ", ",
+                                        [&](const auto& name) { return name.in(context.language); })));
 }
 
 bool Filter::accepts(const Parameter& parameter) const {
     if (parameter.isTemplate()) return false;
-    const auto fitsName = [&](const std::string& name) { return fits(parameter.name(), name); };
+    const auto fitsName = [&](const std::string& name) { return reference::fits(parameter.name(), name); };
     if (!names.empty() && !std::ranges::any_of(names, fitsName)) return false;
     if (!isOfFamily(parameter, family)) return false;
     if (!method.empty() && !isOfMethod(parameter, methodNumber)) return false;

@@ -11,7 +11,7 @@ namespace talux::tool {
 
 // The parameters whose name, titles or descriptions in either language hold every word: at the beginning of
 // one of theirs, a long one also at the end, as German compounds have it.
-std::vector<const Parameter*> search(const std::vector<std::string>& words);
+Parameters search(const std::vector<std::string>& words);
 
 // Which parameters a command is about.
 struct Filter {
@@ -25,7 +25,7 @@ struct Filter {
     bool noLimits = false;          // only settings whose numbers are not limited
 
     void addTo(Command& command);
-    // The words of the person stand for something; throws CouldNot otherwise. Before accepts().
+    // Throws CouldNot for what selects nothing. To be called before accepts().
     void check(const Context& context);
     bool isEmpty() const { // accepts everything
         return names.empty() && words.empty() && family.empty() && method.empty() && file.empty() &&

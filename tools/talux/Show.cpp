@@ -1,9 +1,9 @@
 #include "tools/talux/Show.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 #include "support/Number.h"
 #include "tools/talux/Text.h"
@@ -21,14 +21,6 @@ std::string shortest(Number number) {
     const auto result = isOrdinary ? std::to_chars(text, text + sizeof text, number, std::chars_format::fixed)
                                    : std::to_chars(text, text + sizeof text, number);
     return {text, result.ptr};
-}
-
-// What stands behind the number.
-std::string meaning(const Parameter& parameter, const Value& value, const Context& context) {
-    if (value.isText()) return {};
-    if (const std::string unit = unitOf(parameter); !unit.empty()) return " " + unit;
-    const std::string choice = choiceOf(parameter, value, context.language);
-    return choice.empty() ? choice : " (" + choice + ")";
 }
 
 } // namespace
@@ -52,13 +44,16 @@ std::string choiceOf(const Parameter& parameter, const Value& value, ParamLangua
 }
 
 std::string shown(const Parameter& parameter, const std::optional<Value>& value, const Context& context) {
-    return value ? plain(parameter, *value) + meaning(parameter, *value, context) : "-";
+    if (!value) return "-";
+    const std::string text = plain(parameter, *value), unit = unitOf(parameter),
+                      choice = choiceOf(parameter, *value, context.language);
+    if (value->isText() || (unit.empty() && choice.empty())) return text;
+    return unit.empty() ? fill("{} ({})", {text, choice}) : fill("{} {}", {text, unit});
 }
 
-std::string_view familyName(const Parameter& parameter, ParamLanguage language) {
-    const auto& model = reference::model();
-    return model.familyNames[static_cast<std::size_t>(&parameter.family() - model.families.data())].in(
-        language);
+std::string elementsText(const Parameter& parameter, const Context& context) {
+    return context.say("elements {} to {}", "Elemente {} bis {}", parameter.row().val_min_id,
+                       parameter.row().val_max_id);
 }
 
 bool isInRange(const Parameter& parameter, double number) {
@@ -93,14 +88,30 @@ Json changeJson(const Parameter& parameter, const std::optional<Value>& from, co
                 {"from", json(parameter, from)},
                 {"to", json(parameter, to)},
                 {"unit", unitOf(parameter)}};
-    const auto addChoice = [&](const char* key, const std::optional<Value>& value) {
-        if (!value) return;
-        if (const std::string text = choiceOf(parameter, *value, context.language); !text.empty())
-            object.set(key, text);
-    };
-    addChoice("from_text", from);
-    addChoice("to_text", to);
+    for (const auto& [key, value] : {std::pair("from_text", from), std::pair("to_text", to)})
+        if (value && !choiceOf(parameter, *value, context.language).empty())
+            object.set(key, choiceOf(parameter, *value, context.language));
     return object;
+}
+
+Json namesOf(const Parameters& parameters) {
+    return Json::arrayOf(parameters, [](const Parameter* parameter) { return parameter->name(); });
+}
+
+std::string nearestName(std::string_view name, const Context& context, std::string_view prefix) {
+    const std::string_view near = reference::nearest(name);
+    if (near.empty()) return {};
+    return context.say("; the nearest name is {}{}", "; der ähnlichste Name ist {}{}", prefix, near);
+}
+
+std::string unknownName(std::string_view name, const Context& context, std::string_view prefix) {
+    return context.say("no parameter is named {}", "kein Parameter heißt {}", printable(name)) +
+           nearestName(name, context, prefix);
+}
+
+const char* commaHint(std::string_view text, const Context& context) {
+    const bool hasComma = text.find(',') != text.npos;
+    return hasComma ? context.say("; decimals need a point", "; Dezimalen brauchen einen Punkt") : "";
 }
 
 void print(std::string_view text) {

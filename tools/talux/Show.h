@@ -1,4 +1,4 @@
-// Values as people read them.
+// Values and names as people read them.
 #ifndef TALUX_TOOLS_TALUX_SHOW_H
 #define TALUX_TOOLS_TALUX_SHOW_H
 
@@ -26,15 +26,10 @@ std::string numberText(double number, bool isFloat);
 // With its unit or the text of the choice: "30 %", "2 (English)". Nothing is "-".
 std::string shown(const Parameter& parameter, const std::optional<Value>& value, const Context& context);
 
-// The menu family.
-std::string_view familyName(const Parameter& parameter, ParamLanguage language);
+// "elements 1 to 8"
+std::string elementsText(const Parameter& parameter, const Context& context);
 
 bool isInRange(const Parameter& parameter, double number);
-
-// "1 to 90"; empty for texts and without limits.
-inline std::string range(const Parameter& parameter, ParamLanguage language) {
-    return rangeText(parameter, language);
-}
 
 // "30 -> 35 %"
 std::string change(const Parameter& parameter, const std::optional<Value>& from,
@@ -46,6 +41,17 @@ Json json(const Parameter& parameter, const std::optional<Value>& value);
 // Name, title, values, texts of choices and unit of a change.
 Json changeJson(const Parameter& parameter, const std::optional<Value>& from, const std::optional<Value>& to,
                 const Context& context);
+
+Json namesOf(const Parameters& parameters);
+
+// "; the nearest name is Uearth", or nothing where none is near.
+std::string nearestName(std::string_view name, const Context& context, std::string_view prefix = "");
+
+// That no parameter is named so, with the nearest name.
+std::string unknownName(std::string_view name, const Context& context, std::string_view prefix = "");
+
+// "; decimals need a point" for a text with a comma.
+const char* commaHint(std::string_view text, const Context& context);
 
 // Prints to standard output.
 void print(std::string_view text);

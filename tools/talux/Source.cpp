@@ -3,59 +3,55 @@
 #include <cerrno>
 #include <cmath>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <sys/stat.h>
 
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/files/Effect.h"
 #include "ParamSystem/files/Line.h"
+#include "tools/talux/Files.h"
 #include "tools/talux/Text.h"
 
 namespace talux::tool {
 
 namespace {
 
-std::string reason(int error) {
-    return std::generic_category().message(error);
-}
-
-bool isThere(const std::string& path) {
-    struct stat info;
-    return stat(path.c_str(), &info) == 0;
-}
-
 constexpr reference::File kFiles[] = {reference::File::normal, reference::File::security,
                                       reference::File::address};
 
 } // namespace
 
+bool isThere(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::exists(path, error);
+}
+
 bool isFolder(const std::string& path) {
-    struct stat info;
-    return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+    std::error_code error;
+    return std::filesystem::is_directory(path, error);
 }
 
 void readEntries(const std::string& path, const Context& context,
                  const std::function<void(const Entry&)>& visit) {
     const os::Error error = readLines(path.c_str(), [&visit](const Entry& entry) { visit(entry); });
-    if (!error) return;
-    const auto text = error.stage == os::Stage::open
-                          ? context.say("{}: cannot be opened: {}", "{}: lässt sich nicht öffnen: {}")
-                          : context.say("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}");
-    throw CouldNot(fill(text, {path, reason(error.number)}));
+    if (error && error.stage == os::Stage::open)
+        throw CouldNot(context.say("{}: cannot be opened: {}", "{}: lässt sich nicht öffnen: {}", path,
+                                   reasonOf(error.number)));
+    if (error)
+        throw CouldNot(context.say("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}", path,
+                                   reasonOf(error.number)));
 }
 
 Source Source::open(const std::string& name, const Context& context) {
     if (name == "default") return defaults();
     if (isDevice(name)) {
         attachDevice(Attachment::readOnly, context);
-        return Source(name == "live" ? Kind::live : Kind::staged, name);
+        return Source(name == "live" ? Origin::live : Origin::staged, name);
     }
-    Source source(Kind::file, name);
-    if (isFolder(name))
-        source.readFolder(name, context);
-    else
-        source.readFile(name, context);
+    Source source(Origin::file, name);
+    for (const std::string& path : isFolder(name) ? filesIn(name, context) : std::vector{name})
+        source.readFile(path, context);
     return source;
 }
 
@@ -65,31 +61,25 @@ std::vector<std::string> filesIn(const std::string& folder, const Context& conte
         if (std::string path = joined({folder, "/", reference::fileName(file)}); isThere(path))
             found.push_back(std::move(path));
     if (found.empty())
-        throw CouldNot(
-            fill(context.say("{}: none of parameter.ini, sec_parameter.ini, ip_config.ini is there",
-                             "{}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini "
-                             "ist da"),
-                 {folder}));
+        throw CouldNot(context.say("{}: none of parameter.ini, sec_parameter.ini, ip_config.ini is there",
+                                   "{}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini "
+                                   "ist da",
+                                   folder));
     return found;
 }
 
 std::string Source::called(const Context& context) const {
-    switch (kind_) {
-    case Kind::defaults:
+    switch (origin_) {
+    case Origin::defaults:
         return context.say("the factory settings", "der Werkseinstellung");
-    case Kind::live:
+    case Origin::live:
         return context.say("the live settings", "den gültigen Einstellungen");
-    case Kind::staged:
+    case Origin::staged:
         return context.say("the working copy", "der Arbeitskopie");
-    case Kind::file:
+    case Origin::file:
         break;
     }
     return printable(name_);
-}
-
-void Source::readFolder(const std::string& folder, const Context& context) {
-    for (const std::string& path : filesIn(folder, context))
-        readFile(path, context);
 }
 
 void Source::readFile(const std::string& path, const Context& context) {
@@ -104,14 +94,14 @@ void Source::readFile(const std::string& path, const Context& context) {
 std::optional<Value> Source::value(int id) const {
     const stParamProperties* const row = GetParamProperties(id);
     if (row == nullptr) return {};
-    switch (kind_) {
-    case Kind::defaults:
+    switch (origin_) {
+    case Origin::defaults:
         return row->is_volatile == 1 ? std::nullopt : defaultOf(*row);
-    case Kind::live:
+    case Origin::live:
         return readValue(Space::global, id);
-    case Kind::staged:
+    case Origin::staged:
         return readValue(row->is_volatile == 1 ? Space::global : Space::temp, id);
-    case Kind::file:
+    case Origin::file:
         break;
     }
     const auto found = held.find(id);
@@ -122,11 +112,12 @@ void attachDevice(Attachment attachment, const Context& context) {
     const char* const missing = attachExisting(attachment);
     if (missing == nullptr) return;
     const int error = errno;
-    throw CouldNot(fill(context.say("no device here: the {} cannot be attached: {}; on a device `talux boot` "
-                                    "makes it, on a desk scripts/run.sh -- talux ..",
-                                    "hier ist kein Gerät: {} nicht erreichbar: {}; auf einem Gerät legt ihn "
-                                    "`talux boot` an, am Schreibtisch scripts/run.sh -- talux .."),
-                        {missing, reason(error)}));
+    throw CouldNot(
+        context.say("no device here: the {} cannot be attached: {}; on a device `talux boot` makes "
+                    "it, on a desk scripts/run.sh -- talux ..",
+                    "hier ist kein Gerät: {} nicht erreichbar: {}; auf einem Gerät legt ihn "
+                    "`talux boot` an, am Schreibtisch scripts/run.sh -- talux ..",
+                    missing, reasonOf(error)));
 }
 
 bool isDeviceThere() {

@@ -12,33 +12,33 @@
 #include "ParamSystem/files/Reader.h"
 #include "ParamSystem/store/Spaces.h"
 #include "ParamSystem/store/Values.h"
-#include "tools/reference/Reference.h"
+#include "tools/reference/Lookup.h"
 #include "tools/talux/Command.h"
 
 namespace talux::tool {
 
-using reference::Parameter;
+using reference::Parameter, reference::Parameters;
 
 class Source {
 public:
-    enum class Kind { defaults, live, staged, file };
+    enum class Origin { defaults, live, staged, file };
 
     // By name: "default", "live", "staged", else a path. Live and staged attach the device's segments,
     // read-only and creating none. Throws CouldNot when there is no device or no such file.
     static Source open(const std::string& name, const Context& context);
 
-    static Source defaults() { return Source(Kind::defaults, "default"); }
+    static Source defaults() { return Source(Origin::defaults, "default"); }
 
     // A file that is not there.
-    static Source nothing(const std::string& path) { return Source(Kind::file, path); }
+    static Source nothing(const std::string& path) { return Source(Origin::file, path); }
 
-    // As people call it: "the working copy".
+    // What people call it: "the working copy".
     std::string called(const Context& context) const;
 
     // Whether the name stands for the device.
     static bool isDevice(std::string_view name) { return name == "live" || name == "staged"; }
 
-    Kind kind() const { return kind_; }
+    Origin origin() const { return origin_; }
     const std::string& name() const { return name_; }
 
     // The value of an id. Run-time values are those of the device, whether live or staged. Of a file what a
@@ -47,15 +47,14 @@ public:
     std::optional<Value> value(const Parameter& parameter) const { return value(parameter.row().id); }
 
     // A file need not hold every setting; all others do.
-    bool isPartial() const { return kind_ == Kind::file; }
+    bool isPartial() const { return origin_ == Origin::file; }
 
 private:
-    Source(Kind kind, std::string name) : kind_(kind), name_(std::move(name)) {}
+    Source(Origin origin, std::string name) : origin_(origin), name_(std::move(name)) {}
 
-    void readFolder(const std::string& folder, const Context& context);
     void readFile(const std::string& path, const Context& context);
 
-    Kind kind_;
+    Origin origin_;
     std::string name_;
     std::map<int, Value> held; // of a file
 };
@@ -69,6 +68,7 @@ bool isDeviceThere();
 // The parameter files of a folder that are there. Throws CouldNot when there is none.
 std::vector<std::string> filesIn(const std::string& folder, const Context& context);
 
+bool isThere(const std::string& path);
 bool isFolder(const std::string& path);
 
 // Path of one of the parameter files in the folder of the device.

@@ -61,9 +61,7 @@ Report reportOn(const Options& options, const Context& context) {
         if (const auto value = staged.value(parameter))
             if (auto finding = wouldNotComeBack(parameter, *value, context))
                 report.losses.emplace_back(&parameter, std::move(*finding));
-    if (options.plausible)
-        findImplausible(staged, context,
-                        [&](const Implausible& found) { report.implausible.push_back(found); });
+    if (options.plausible) report.implausible = findImplausible(staged, context);
     return report;
 }
 

@@ -1,62 +1,39 @@
 #include "tools/talux/Text.h"
 
 #include <algorithm>
+#include <bit>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "support/Text.h"
-
 namespace talux::tool {
 
 namespace {
 
+bool isContinuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80;
+}
+
 // Length of the well-formed UTF-8 character at the beginning, 0 when there is none.
 std::size_t characterAt(std::string_view text) {
-    const auto byte = [text](std::size_t k) {
-        return k < text.size() ? static_cast<unsigned char>(text[k]) : 0u;
-    };
-    const auto follows = [&byte](std::size_t k) { return (byte(k) & 0xC0) == 0x80; };
-    const unsigned first = byte(0), second = byte(1);
+    constexpr unsigned kSmallest[] = {0, 0, 0x80, 0x800, 0x10000}, kLargest = 0x10FFFF;
+    const auto first = static_cast<unsigned char>(text.front());
     if (first < 0x80) return 1;
-    if (first >= 0xC2 && first < 0xE0) return follows(1) ? 2 : 0;
-    if (first >= 0xE0 && first < 0xF0) {
-        const bool isShortest = first != 0xE0 || second >= 0xA0,
-                   isSurrogate = first == 0xED && second >= 0xA0;
-        return isShortest && !isSurrogate && follows(1) && follows(2) ? 3 : 0;
+    const auto length = static_cast<std::size_t>(std::countl_one(first));
+    if (length < 2 || length > 4 || length > text.size()) return 0;
+    unsigned code = first & 0x7FU >> length;
+    for (const char c : text.substr(1, length - 1)) {
+        if (!isContinuation(c)) return 0;
+        code = code << 6U | (static_cast<unsigned char>(c) & 0x3FU);
     }
-    if (first >= 0xF0 && first < 0xF5) {
-        const bool isInRange = (first != 0xF0 || second >= 0x90) && (first != 0xF4 || second < 0x90);
-        return isInRange && follows(1) && follows(2) && follows(3) ? 4 : 0;
-    }
-    return 0;
+    const bool isSurrogate = code >= 0xD800 && code < 0xE000;
+    return code >= kSmallest[length] && code <= kLargest && !isSurrogate ? length : 0;
 }
 
 bool isEscape(std::string_view cell, std::size_t at) {
     return cell[at] == '\033';
-}
-
-// In time linear in the name for each "*": what the last one stands for grows only.
-bool fitsPattern(std::string_view name, std::string_view pattern) {
-    std::size_t n = 0, p = 0, star = pattern.npos, starName = 0;
-    while (n < name.size()) {
-        if (p < pattern.size() && pattern[p] == '*') {
-            star = p++;
-            starName = n;
-        } else if (p < pattern.size() &&
-                   (pattern[p] == '?' || lowerAscii(pattern[p]) == lowerAscii(name[n]))) {
-            ++n;
-            ++p;
-        } else if (star == pattern.npos) {
-            return false;
-        } else {
-            p = star + 1;
-            n = ++starName;
-        }
-    }
-    return pattern.find_first_not_of('*', p) == pattern.npos;
 }
 
 } // namespace
@@ -66,35 +43,34 @@ std::size_t width(std::string_view text) {
     for (std::size_t k = 0; k < text.size(); ++k) {
         if (isEscape(text, k))
             k = std::min(text.find('m', k), text.size());
-        else if ((static_cast<unsigned char>(text[k]) & 0xC0) != 0x80)
+        else if (!isContinuation(text[k]))
             ++columns;
     }
     return columns;
 }
 
-std::string cut(const std::string& line, std::size_t columns) {
+std::string cut(std::string_view line, std::size_t columns) {
     std::size_t size = 0, taken = 0;
     while (size < line.size() && (columns == 0 || taken < columns)) {
         const bool escapes = isEscape(line, size);
         size = escapes ? std::min(line.find('m', size), line.size() - 1) + 1
-                       : size + std::max<std::size_t>(1, characterAt(std::string_view(line).substr(size)));
+                       : size + std::max<std::size_t>(1, characterAt(line.substr(size)));
         taken += escapes ? 0 : 1;
     }
     const bool isColoured = size < line.size() && line.find('\033') < size;
-    return line.substr(0, size) + (isColoured ? "\033[0m" : "");
+    return joined({line.substr(0, size), isColoured ? "\033[0m" : ""});
 }
 
-std::vector<std::string> linesOf(std::string_view text) {
-    std::vector<std::string> lines;
-    for (std::size_t end; (end = text.find('\n')) != text.npos; text.remove_prefix(end + 1))
-        lines.emplace_back(text.substr(0, end));
+std::vector<std::string_view> linesOf(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (!text.empty())
+        lines.push_back(takeUpTo(text, '\n'));
     return lines;
 }
 
 std::string_view takeUpTo(std::string_view& text, char end) {
-    const auto at = std::min(text.find(end), text.size());
-    const auto piece = text.substr(0, at);
-    text.remove_prefix(std::min(at + 1, text.size()));
+    const auto piece = text.substr(0, text.find(end));
+    text.remove_prefix(std::min(piece.size() + 1, text.size()));
     return piece;
 }
 
@@ -129,24 +105,13 @@ std::string padded(std::string text, std::size_t columns) {
     return text;
 }
 
-bool containsIgnoringCase(std::string_view text, std::string_view part) {
-    const auto same = [](char a, char b) { return lowerAscii(a) == lowerAscii(b); };
-    return std::search(text.begin(), text.end(), part.begin(), part.end(), same) != text.end();
-}
-
-bool fits(std::string_view name, std::string_view pattern) {
-    if (pattern.find_first_of("*?") == pattern.npos) return containsIgnoringCase(name, pattern);
-    return fitsPattern(name, pattern);
-}
-
 std::string printable(std::string_view text) {
     std::string shown;
     while (!text.empty()) {
         const std::size_t length = characterAt(text);
         const auto first = static_cast<unsigned char>(text[0]);
-        const bool isControl = first < ' ' || first == 0x7F ||
-                               (length == 2 && first == 0xC2 && static_cast<unsigned char>(text[1]) < 0xA0);
-        if (length == 0 || isControl) {
+        const bool isHighControl = length == 2 && text < "\xC2\xA0";
+        if (length == 0 || first < ' ' || first == 0x7F || isHighControl) {
             char code[8];
             std::snprintf(code, sizeof code, "\\x%02X", first);
             shown += code;

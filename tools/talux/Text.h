@@ -21,9 +21,10 @@ bool isUtf8(std::string_view text);
 std::string padded(std::string text, std::size_t columns);
 
 // The beginning of a line that fits these columns, colours kept; all of it where they are 0.
-std::string cut(const std::string& line, std::size_t columns);
+std::string cut(std::string_view line, std::size_t columns);
 
-std::vector<std::string> linesOf(std::string_view text);
+// Without their ends; parts of the text.
+std::vector<std::string_view> linesOf(std::string_view text);
 
 // The piece in front of `end`, which is taken off with it; all of it where there is none.
 std::string_view takeUpTo(std::string_view& text, char end);
@@ -33,11 +34,6 @@ std::string_view withoutBlanks(std::string_view text);
 
 std::string timeText(const std::tm& time, const char* format = "%Y-%m-%d %H:%M:%S");
 std::string localTimeText(std::time_t seconds, const char* format = "%Y-%m-%d %H:%M:%S");
-
-bool containsIgnoringCase(std::string_view text, std::string_view part);
-
-// Whether a name fits "*" and "?" patterns, or holds a text without them. Letter case is ignored.
-bool fits(std::string_view name, std::string_view pattern);
 
 // For text that comes from files: control characters and what is no UTF-8 become "\xNN".
 std::string printable(std::string_view text);

@@ -21,9 +21,9 @@ double memberNumber(const Watched& item) {
     return item.isMeasured() ? static_cast<double>(fraction) : whole;
 }
 
-Watched watchedMember(const Member& member, ParamLanguage language) {
+Watched watchedMember(const reference::Member& member, ParamLanguage language) {
     return {member.name(),     member.record,          member.record->row().id,
-            member.properties, member.title(language), member.unit()};
+            member.properties, member.title(language), unitOf(member)};
 }
 
 // Elements first to last of "NAME FIRST" or "NAME FIRST.LAST", counted from 1 in the list of all.
@@ -79,7 +79,7 @@ void addWatched(std::vector<Watched>& all, const Parameter& parameter, const Con
     const std::string name(parameter.name()), title = parameter.title(context.language);
     const int id = parameter.row().id;
     if (parameter.type().nature == Nature::record)
-        for (const Member& member : membersOf(parameter))
+        for (const reference::Member& member : membersOf(parameter))
             all.push_back(watchedMember(member, context.language));
     else if (parameter.isIndexed())
         for (int k = 0; k < parameter.elements(); ++k)
@@ -92,13 +92,13 @@ void addWatched(std::vector<Watched>& all, const Parameter& parameter, const Con
 std::vector<Watched> watchedBy(const std::string& text, const Context& context) {
     const std::string name = text.substr(0, text.find(' '));
     std::vector<Watched> found;
-    const Parameters parameters = named(name);
+    const Parameters parameters = reference::named(name);
     for (const Parameter* parameter : parameters)
         addWatched(found, *parameter, context);
     if (name.size() < text.size() && parameters.size() == 1)
         return elementsBy(text, *parameters[0], std::move(found), context);
     if (parameters.empty())
-        for (const Member& member : membersNamed(text))
+        for (const reference::Member& member : reference::membersNamed(text))
             found.push_back(watchedMember(member, context.language));
     if (found.empty()) throw CouldNot(unknownName(text, context));
     return found;

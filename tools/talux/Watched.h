@@ -3,7 +3,6 @@
 #ifndef TALUX_TOOLS_TALUX_WATCHED_H
 #define TALUX_TOOLS_TALUX_WATCHED_H
 
-#include "tools/talux/Lookup.h"
 #include "tools/talux/Show.h"
 
 namespace talux::tool {
@@ -26,7 +25,7 @@ struct Watched {
 // A parameter with its elements or members.
 void addWatched(std::vector<Watched>& all, const Parameter& parameter, const Context& context);
 
-// By name: as Lookup.h takes it, "vBE 3", "vBE 3.9" or "MessRecord01.U1p". Throws CouldNot.
+// By name: as reference::named takes it, "vBE 3", "vBE 3.9" or "MessRecord01.U1p". Throws CouldNot.
 std::vector<Watched> watchedBy(const std::string& text, const Context& context);
 
 // "U0_prim > 5", "BAassign3 = qu2 ->F"

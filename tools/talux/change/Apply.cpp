@@ -130,10 +130,8 @@ private:
             return isWritten(parameter) ? std::optional(written.at(&parameter))
                                         : present(parameter, parameter.row().id);
         };
-        std::vector<Implausible> all;
-        findImplausible(after, {}, context, [&](const Implausible& found) {
-            if (found.concerns(isWritten)) all.push_back(found);
-        });
+        auto all = findImplausible(after, {}, context);
+        std::erase_if(all, [&](const Implausible& found) { return !found.concerns(isWritten); });
         return all;
     }
 

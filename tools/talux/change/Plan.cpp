@@ -10,7 +10,6 @@
 #include "tools/talux/Files.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/LineCheck.h"
-#include "tools/talux/Lookup.h"
 #include "tools/talux/Show.h"
 
 namespace talux::tool {

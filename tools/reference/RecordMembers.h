@@ -1,11 +1,11 @@
 // What the members of the three records are, as far as their names say. Type and offset are in
 // ARR_StructMemberProperties.
-#ifndef TALUX_PAGES_RECORDMEMBERS_H
-#define TALUX_PAGES_RECORDMEMBERS_H
+#ifndef TALUX_TOOLS_REFERENCE_RECORDMEMBERS_H
+#define TALUX_TOOLS_REFERENCE_RECORDMEMBERS_H
 
 #include <string_view>
 
-namespace talux::pages {
+namespace talux::reference {
 
 // `members` is a name or a pattern of a series as in the text data; texts show the member of the first list
 // as {n}, that of the second as {m}. `twin` is the parameter with the same quantity, whose unit is the one to
@@ -214,6 +214,6 @@ inline constexpr RecordMember kStatRecord_c0[] = {
     {"EvCnt_qu2", "Ereigniszähler qu2", "Event counter qu2", "EvCnt_qu2"},
 };
 
-} // namespace talux::pages
+} // namespace talux::reference
 
 #endif

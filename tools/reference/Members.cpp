@@ -1,9 +1,9 @@
-#include "tools/pages/Records.h"
+#include "tools/reference/Members.h"
 
-#include "tools/pages/Names.h"
-#include "tools/pages/RecordMembers.h"
+#include "tools/generator/TextPattern.h"
+#include "tools/reference/RecordMembers.h"
 
-namespace talux::pages {
+namespace talux::reference {
 
 std::map<std::string, MemberTexts, std::less<>> memberTextsOf(const Parameter& record) {
     constexpr std::span<const RecordMember> kTexts[] = {kMessRecord01, kMessRecord02, kStatRecord_c0};
@@ -15,4 +15,12 @@ std::map<std::string, MemberTexts, std::less<>> memberTextsOf(const Parameter& r
     return texts;
 }
 
-} // namespace talux::pages
+std::vector<Member> membersOf(const Parameter& record) {
+    const auto texts = memberTextsOf(record);
+    std::vector<Member> all;
+    for (const auto& properties : members(record))
+        all.push_back({&record, &properties, texts.at(properties.aszMemberName)});
+    return all;
+}
+
+} // namespace talux::reference
