@@ -4,7 +4,6 @@
 #include "tools/talux/Command.h"
 #include "tools/talux/Difference.h"
 #include "tools/talux/Judgement.h"
-#include "tools/talux/Notes.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"

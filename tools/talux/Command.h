@@ -175,6 +175,9 @@ void addLint(CommandLine& line);
 void addBoot(CommandLine& line);
 void addAnnotations(CommandLine& line);
 
+// As the command does it, with the values of the device where there is one. Throws CouldNot.
+void explain(const std::string& name, const Context& context);
+
 } // namespace talux::tool
 
 #endif

@@ -1,6 +1,5 @@
 // talux diff: in what two sources differ.
 #include "tools/talux/Difference.h"
-#include "tools/talux/Notes.h"
 #include "tools/talux/Show.h"
 
 namespace talux::tool {

@@ -1,13 +1,10 @@
 // talux explain: what a parameter is and what it is set to.
-#include "tools/talux/Explain.h"
-
 #include <algorithm>
 #include <array>
 #include <utility>
 
 #include "tools/reference/Ranges.h"
 #include "tools/talux/Command.h"
-#include "tools/talux/Notes.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
 #include "tools/talux/Text.h"
@@ -22,31 +19,22 @@ struct Options {
     bool json = false;
 };
 
-// Where else a value is looked for besides the defaults.
-struct Places {
+// Where else values are looked for besides the defaults.
+std::vector<Source> sourcesOf(const std::vector<Parameters>& all, const Options& options,
+                              const Context& context) {
     std::vector<Source> sources;
-
-    Places(const std::vector<Parameters>& all, const Options& options, const Context& context) {
-        if (options.live)
-            for (const char* name : {"live", "staged"})
-                sources.push_back(Source::open(name, context));
-        for (const Parameters& series : all)
-            for (const Parameter* parameter : series)
-                if (parameter->file() != reference::File::none)
-                    addFile(pathOf(parameter->file(), context), context);
-    }
-
-    // Nothing of a run-time value in the working copy, which is that of the device.
-    static bool isTwice(const Source& source, const Parameter& parameter) {
-        return source.origin() == Source::Origin::staged && !parameter.isSetting();
-    }
-
-private:
-    void addFile(const std::string& path, const Context& context) {
-        if (std::ranges::find(sources, path, &Source::name) == sources.end() && isThere(path))
-            sources.push_back(Source::open(path, context));
-    }
-};
+    if (options.live)
+        for (const char* name : {"live", "staged"})
+            sources.push_back(Source::open(name, context));
+    for (const Parameters& series : all)
+        for (const Parameter* parameter : series) {
+            const std::string path = pathOf(parameter->file(), context);
+            const bool isKnown = std::ranges::find(sources, path, &Source::name) != sources.end();
+            if (parameter->file() != reference::File::none && !isKnown && isThere(path))
+                sources.push_back(Source::open(path, context));
+        }
+    return sources;
+}
 
 // Items by what is said of them, in the order of the texts.
 template <class Item>
@@ -92,34 +80,27 @@ std::string limitsOf(const Parameter& parameter, const Context& context) {
                    : "");
 }
 
-// What is said of a parameter or a member: labels and texts, further texts of the same label without it.
-class Rows {
-public:
-    std::vector<std::string> labels, texts;
-
-    explicit Rows(const Context& person) : context(person) {}
-
-    void add(const char* english, const char* german, const std::vector<std::string>& all) {
-        for (const std::string& text : all) {
-            labels.emplace_back(context.say(english, german));
-            texts.push_back(text);
-            english = german = "";
-        }
+// What is said: labels and texts, further texts of a label without it.
+struct Rows : std::vector<std::pair<std::string, std::string>> {
+    void add(std::string label, const std::vector<std::string>& texts) {
+        for (const std::string& text : texts)
+            emplace_back(std::exchange(label, {}), text);
     }
-    void add(const char* english, const char* german, const std::string& text) {
-        if (!text.empty()) add(english, german, std::vector{text});
+    void add(const char* label, const std::string& text) {
+        if (!text.empty()) emplace_back(label, text);
     }
 
-    template <class Texts>
-    void addInBothLanguages(Texts textsIn) {
-        for (const ParamLanguage language : {context.language, context.otherLanguage()})
-            language == kGerman ? add("Deutsch", "Deutsch", textsIn(kGerman))
-                                : add("English", "English", textsIn(kEnglish));
+    void print(const std::string& head) const {
+        Table table;
+        for (const auto& [label, text] : *this)
+            table.add({label, text});
+        tool::print(Paint().bold(head) + "\n" + table.text("  "));
     }
-
-private:
-    const Context& context;
 };
+
+const char* nameOf(ParamLanguage language) {
+    return language == kGerman ? "Deutsch" : "English";
+}
 
 // Numbers with one text in one row.
 std::vector<std::string> choiceTexts(const Parameter& parameter, ParamLanguage language) {
@@ -142,39 +123,40 @@ std::vector<std::string> memberTexts(const Parameter& record, ParamLanguage lang
     return texts;
 }
 
-std::vector<std::string> valueTexts(const Parameter& parameter, const Places& places,
+// A run-time value in the working copy is that of the device.
+std::vector<std::string> valueTexts(const Parameter& parameter, const std::vector<Source>& sources,
                                     const Context& context) {
     std::vector<std::string> texts;
-    for (const Source& source : places.sources)
+    for (const Source& source : sources)
         if (const auto value = source.value(parameter);
-            value && !parameter.isIndexed() && !Places::isTwice(source, parameter))
+            value && !parameter.isIndexed() && (parameter.isSetting() || source.name() != "staged"))
             texts.push_back(fill("{} {}", {source.name(), shown(parameter, value, context)}));
     return texts;
 }
 
-Rows rowsOf(const Parameter& parameter, const Places& places, const Context& context) {
-    const ParamLanguage language = context.language;
+Rows rowsOf(const Parameter& parameter, const std::vector<Source>& sources, const Context& context) {
+    const ParamLanguage own = context.language;
     const int method = parameter.model().method;
-    Rows rows(context);
-    rows.addInBothLanguages([&](ParamLanguage each) {
-        std::vector<std::string> texts{parameter.title(each)};
-        if (const std::string more = parameter.description(each); !more.empty()) texts.push_back(more);
-        return texts;
-    });
-    rows.add("kind", "Art", kindText(parameter, context));
-    rows.add("range", "Bereich", limitsOf(parameter, context));
+    Rows rows;
+    for (const ParamLanguage language : {own, context.otherLanguage()}) {
+        rows.emplace_back(nameOf(language), parameter.title(language));
+        rows.add("", parameter.description(language));
+    }
+    rows.add(context.say("kind", "Art"), kindText(parameter, context));
+    rows.add(context.say("range", "Bereich"), limitsOf(parameter, context));
     if (parameter.isSetting())
-        rows.add("default", "Werkseinst.", shown(parameter, Source::defaults().value(parameter), context));
-    rows.add("choices", "Auswahl", choiceTexts(parameter, language));
-    rows.add("members", "Felder", memberTexts(parameter, language));
-    rows.add("rights", "Rechte", rightsOf(parameter, context));
-    rows.add("file", "Datei", std::string(reference::fileName(parameter.file())));
-    rows.add("family", "Familie", std::string(familyName(parameter, language)));
+        rows.add(context.say("default", "Werkseinst."),
+                 shown(parameter, Source::defaults().value(parameter), context));
+    rows.add(context.say("choices", "Auswahl"), choiceTexts(parameter, own));
+    rows.add(context.say("members", "Felder"), memberTexts(parameter, own));
+    rows.add(context.say("rights", "Rechte"), rightsOf(parameter, context));
+    rows.add(context.say("file", "Datei"), std::string(reference::fileName(parameter.file())));
+    rows.add(context.say("family", "Familie"), std::string(familyName(parameter, own)));
     if (method >= 0)
-        rows.add("method", "Verfahren",
-                 std::string(reference::model().methods[static_cast<std::size_t>(method)].in(language)));
-    rows.add("id", "id", std::to_string(parameter.row().id));
-    rows.add("value", "Wert", valueTexts(parameter, places, context));
+        rows.add(context.say("method", "Verfahren"),
+                 std::string(reference::model().methods[static_cast<std::size_t>(method)].in(own)));
+    rows.add("id", std::to_string(parameter.row().id));
+    rows.add(context.say("value", "Wert"), valueTexts(parameter, sources, context));
     return rows;
 }
 
@@ -183,7 +165,7 @@ Rows rowsOf(const Parameter& parameter, const Places& places, const Context& con
 std::vector<std::string> together(const Parameters& series, const std::vector<Rows>& all, std::size_t row) {
     ByText<const Parameter*> byText;
     for (std::size_t k = 0; k < series.size(); ++k)
-        add(byText, all[k].texts[row], series[k]);
+        add(byText, all[k][row].second, series[k]);
     if (byText.size() == 1) return {byText[0].first};
     if (byText.size() == series.size()) return {byText.front().first + " .. " + byText.back().first};
     std::vector<std::string> texts;
@@ -192,42 +174,34 @@ std::vector<std::string> together(const Parameters& series, const std::vector<Ro
     return texts;
 }
 
-void printTable(const std::string& head, const Table& table) {
-    print(Paint().bold(head) + "\n" + table.text("  "));
-}
-
 // One parameter, or a series as one where the same rows are said of all.
-void explain(const Parameters& series, const Places& places, const Context& context) {
+void explain(const Parameters& series, const std::vector<Source>& sources, const Context& context) {
     std::vector<Rows> all;
     for (const Parameter* parameter : series)
-        all.push_back(rowsOf(*parameter, places, context));
-    if (!std::ranges::all_of(all, [&](const Rows& rows) { return rows.labels == all[0].labels; })) {
+        all.push_back(rowsOf(*parameter, sources, context));
+    constexpr auto kLabel = &Rows::value_type::first;
+    if (!std::ranges::all_of(
+            all, [&](const Rows& rows) { return std::ranges::equal(rows, all[0], {}, kLabel, kLabel); })) {
         for (const Parameter* parameter : series)
-            explain({parameter}, places, context);
+            explain({parameter}, sources, context);
         return;
     }
-    Table table;
-    const auto addRows = [&table](std::string label, const std::vector<std::string>& texts) {
-        for (const std::string& text : texts)
-            table.add({std::exchange(label, {}), text});
-    };
-    for (std::size_t row = 0; row < all[0].labels.size(); ++row)
-        addRows(all[0].labels[row], together(series, all, row));
-    addRows(context.say("notes", "Hinweise"), noteTexts(series, context));
-    printTable(inShort(series), table);
+    Rows rows;
+    for (std::size_t row = 0; row < all[0].size(); ++row)
+        rows.add(all[0][row].first, together(series, all, row));
+    rows.add(context.say("notes", "Hinweise"), noteTexts(series, context));
+    rows.print(inShort(series));
 }
 
 void explain(const reference::Member& member, const Context& context) {
-    Rows rows(context);
-    rows.addInBothLanguages([&](ParamLanguage language) { return member.title(language); });
-    rows.add("kind", "Art", withUnit(member.properties->szMemberType, unitOf(member)));
-    rows.add("same as", "wie", member.texts.twin);
-    rows.add("switch", "Freigabe", member.texts.enable);
-    rows.add("byte", "byte", std::to_string(member.properties->lMemberOffset));
-    Table table;
-    for (std::size_t k = 0; k < rows.labels.size(); ++k)
-        table.add({rows.labels[k], rows.texts[k]});
-    printTable(member.name(), table);
+    Rows rows;
+    for (const ParamLanguage language : {context.language, context.otherLanguage()})
+        rows.add(nameOf(language), member.title(language));
+    rows.add(context.say("kind", "Art"), withUnit(member.properties->szMemberType, unitOf(member)));
+    rows.add(context.say("same as", "wie"), member.texts.twin);
+    rows.add(context.say("switch", "Freigabe"), member.texts.enable);
+    rows.add("byte", std::to_string(member.properties->lMemberOffset));
+    rows.print(member.name());
 }
 
 Json bothTexts(const std::string& en, const std::string& de) {
@@ -247,17 +221,7 @@ Json described(const reference::Meaning& meaning) {
             {"parameters", namesOf(meaning.bearers)}};
 }
 
-// Null when there are none.
-Json valuesOf(const Parameter& parameter, const Places& places) {
-    Json values;
-    if (parameter.isSetting()) values.set("default", json(parameter, Source::defaults().value(parameter)));
-    for (const Source& source : places.sources)
-        if (const auto value = source.value(parameter); value && !parameter.isIndexed())
-            values.set(source.name(), json(parameter, value));
-    return values;
-}
-
-Json described(const Parameter& parameter, const Places& places) {
+Json described(const Parameter& parameter, const std::vector<Source>& sources) {
     const auto& row = parameter.row();
     const auto choices = parameter.choices(kEnglish);
     const auto inBoth = [&](const reference::Choice& choice) -> Json {
@@ -285,7 +249,12 @@ Json described(const Parameter& parameter, const Places& places) {
         object.set("members",
                    Json::arrayOf(membersOf(parameter), [](const auto& member) { return described(member); }));
     addNotes(object, parameter);
-    if (Json values = valuesOf(parameter, places); !values.isEmpty()) object.set("values", std::move(values));
+    Json values;
+    if (parameter.isSetting()) values.set("default", json(parameter, Source::defaults().value(parameter)));
+    for (const Source& source : sources)
+        if (const auto value = source.value(parameter); value && !parameter.isIndexed())
+            values.set(source.name(), json(parameter, value));
+    if (!values.isEmpty()) object.set("values", std::move(values));
     return object;
 }
 
@@ -325,14 +294,7 @@ Found find(const std::vector<std::string>& words, const Context& context) {
     return found;
 }
 
-[[noreturn]] void nothingFound(const std::vector<std::string>& words, const Context& context) {
-    throw CouldNot(context.say("no parameter is named or described by '{}'",
-                               "kein Parameter heißt so oder wird so beschrieben: '{}'",
-                               printable(list(words, " "))) +
-                   (words.size() == 1 ? nearestName(words[0], context) : ""));
-}
-
-void printText(const Found& found, const Places& places, const Context& context) {
+void printText(const Found& found, const std::vector<Source>& sources, const Context& context) {
     Table meanings, hits;
     for (const auto& [choice, other, bearers] : found.meanings)
         meanings.add({std::to_string(choice.number), choice.text, other == choice.text ? "" : other,
@@ -341,33 +303,37 @@ void printText(const Found& found, const Places& places, const Context& context)
         hits.add({std::string(parameter->name()), parameter->title(context.language)});
     print(meanings.text() + hits.text());
     for (const Parameters& series : found.series)
-        explain(series, places, context);
+        explain(series, sources, context);
     for (const reference::Member& member : found.members)
         explain(member, context);
 }
 
-void printJson(const Found& found, const std::vector<Parameters>& parameters, const Places& places) {
-    Json all = Json::array();
-    for (const Parameters& series : parameters)
+void printJson(const Found& found, const std::vector<Parameters>& all, const std::vector<Source>& sources) {
+    Json list = Json::array();
+    for (const Parameters& series : all)
         for (const Parameter* parameter : series)
-            all.add(described(*parameter, places));
+            list.add(described(*parameter, sources));
     for (const reference::Member& member : found.members)
-        all.add(described(member));
+        list.add(described(member));
     for (const reference::Meaning& meaning : found.meanings)
-        all.add(described(meaning));
-    print(all.text());
+        list.add(described(meaning));
+    print(list.text());
 }
 
 Status run(const Options& options, const Context& context) {
     const Found found = find(options.words, context);
-    if (found.isEmpty()) nothingFound(options.words, context);
-    std::vector<Parameters> parameters = found.series;
-    if (options.json) parameters.push_back(found.hits);
-    const Places places(parameters, options, context);
+    if (found.isEmpty())
+        throw CouldNot(context.say("no parameter is named or described by '{}'{}",
+                                   "kein Parameter heißt so oder wird so beschrieben: '{}'{}",
+                                   printable(list(options.words, " ")),
+                                   options.words.size() == 1 ? nearestName(options.words[0], context) : ""));
+    std::vector<Parameters> all = found.series;
+    if (options.json) all.push_back(found.hits);
+    const auto sources = sourcesOf(all, options, context);
     if (options.json)
-        printJson(found, parameters, places);
+        printJson(found, all, sources);
     else
-        printText(found, places, context);
+        printText(found, sources, context);
     return kNothing;
 }
 

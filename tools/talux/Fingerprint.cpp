@@ -1,5 +1,5 @@
 // talux fingerprint: a number that two relays have in common only if their settings are the same.
-#include "tools/talux/Listing.h"
+#include "tools/talux/Fingerprint.h"
 
 #include <sha2.h>
 #include <sys/types.h> // for the next one
@@ -33,16 +33,16 @@ std::string withoutMinusZero(std::string form) {
 
 Status run(const Options& options, const Context& context) {
     const Source source = Source::open(options.source, context);
-    const Listing listing = listingOf(source, fileCalled(options.file, context), options.shared);
-    print(options.listing ? listing.text
+    const auto lines = linesOf(source, fileCalled(options.file, context), options.shared);
+    print(options.listing ? list(lines, "")
                           : context.say("{}  {}, {} settings\n", "{}  {}, {} Einstellungen\n",
-                                        fingerprintOf(listing), printable(source.name()), listing.settings));
+                                        fingerprintOf(lines), printable(source.name()), lines.size()));
     return kNothing;
 }
 
 } // namespace
 
-Listing listingOf(const Source& source, File only, bool isShared) {
+std::vector<std::string> linesOf(const Source& source, File only, bool isShared) {
     std::vector<std::string> lines;
     for (const Parameter& parameter : settings()) {
         if ((isShared && isIndividual(parameter)) || (only != File::none && parameter.file() != only))
@@ -52,13 +52,13 @@ Listing listingOf(const Source& source, File only, bool isShared) {
                 fill("TLX_{}={}\n", {parameter.name(), withoutMinusZero(fileForm(parameter, *value))}));
     }
     std::ranges::sort(lines);
-    return {list(lines, ""), static_cast<int>(lines.size())};
+    return lines;
 }
 
-std::string fingerprintOf(const Listing& listing) {
+std::string fingerprintOf(const std::vector<std::string>& lines) {
+    const std::string text = list(lines, "");
     char digits[SHA256_DIGEST_STRING_LENGTH];
-    return SHA256Data(reinterpret_cast<const std::uint8_t*>(listing.text.data()), listing.text.size(),
-                      digits);
+    return SHA256Data(reinterpret_cast<const std::uint8_t*>(text.data()), text.size(), digits);
 }
 
 void addFingerprint(CommandLine& line) {

@@ -4,9 +4,8 @@
 #include <utility>
 
 #include "tools/talux/Files.h"
+#include "tools/talux/Fingerprint.h"
 #include "tools/talux/Judgement.h"
-#include "tools/talux/Listing.h"
-#include "tools/talux/Notes.h"
 #include "tools/talux/Show.h"
 
 namespace talux::tool {
@@ -82,7 +81,7 @@ private:
     }
 
     std::string facts() const {
-        const Listing listing = listingOf(source);
+        const auto lines = linesOf(source);
         std::string rows;
         for (const char* name : kFacts) {
             const Parameter& parameter = *reference::find(name);
@@ -91,11 +90,10 @@ private:
         }
         rows += fact(context.say("Source", "Quelle"), printable(source.name()));
         rows += fact(context.say("Date", "Datum"), today());
-        rows +=
-            fact(context.say("Settings", "Einstellungen"),
-                 context.say("{}, of which {} differ from the factory settings",
-                             "{}, davon {} anders als die Werkseinstellung", listing.settings, changedCount));
-        rows += fact(context.say("Fingerprint (SHA-256)", "Fingerabdruck (SHA-256)"), fingerprintOf(listing));
+        rows += fact(context.say("Settings", "Einstellungen"),
+                     context.say("{}, of which {} differ from the factory settings",
+                                 "{}, davon {} anders als die Werkseinstellung", lines.size(), changedCount));
+        rows += fact(context.say("Fingerprint (SHA-256)", "Fingerabdruck (SHA-256)"), fingerprintOf(lines));
         return fill("<table class=\"facts\">\n{}</table>\n<p>{}</p>\n",
                     {rows, context.say("● marks what is not the factory setting.",
                                        "● kennzeichnet, was nicht der Werkseinstellung entspricht.")});

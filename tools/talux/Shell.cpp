@@ -6,7 +6,6 @@
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "support/Text.h"
-#include "tools/talux/Explain.h"
 #include "tools/talux/LineCheck.h"
 #include "tools/talux/LineReader.h"
 #include "tools/talux/Show.h"

@@ -1,9 +1,10 @@
-// Values and names as people read them.
+// Values, names and notes as people read them.
 #ifndef TALUX_TOOLS_TALUX_SHOW_H
 #define TALUX_TOOLS_TALUX_SHOW_H
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "tools/Json.h"
 #include "tools/talux/Source.h"
@@ -52,6 +53,19 @@ std::string unknownName(std::string_view name, const Context& context, std::stri
 
 // "; decimals need a point" for a text with a comma.
 const char* commaHint(std::string_view text, const Context& context);
+
+// "Warning:", "Not documented:", "Note:"
+std::string noteLabel(const model::Note& note, const Context& context);
+
+constexpr Wording kNotesHelp{"also the notes on what changes: warnings, what is not documented",
+                             "auch die Hinweise zu den Änderungen: Warnungen, was nicht dokumentiert ist"};
+
+// Each note of the parameters once, warnings first, with those that have it if not all have. Coloured on a
+// terminal.
+std::vector<std::string> noteTexts(const Parameters& parameters, const Context& context);
+
+// Adds "notes", the kind of each and its text in both languages, where there are any.
+void addNotes(Json& object, const Parameter& parameter);
 
 // Prints to standard output.
 void print(std::string_view text);

@@ -5,7 +5,6 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace talux::tool {
@@ -32,19 +31,23 @@ std::size_t characterAt(std::string_view text) {
     return code >= kSmallest[length] && code <= kLargest && !isSurrogate ? length : 0;
 }
 
-bool isEscape(std::string_view cell, std::size_t at) {
-    return cell[at] == '\033';
+// What stands at the beginning: a character, or an escape sequence, which takes no column.
+struct Sign {
+    std::size_t size, columns;
+};
+Sign signAt(std::string_view text) {
+    if (text.front() == '\033') return {std::min(text.find('m'), text.size() - 1) + 1, 0};
+    return {std::max<std::size_t>(1, characterAt(text)), 1};
 }
 
 } // namespace
 
 std::size_t width(std::string_view text) {
     std::size_t columns = 0;
-    for (std::size_t k = 0; k < text.size(); ++k) {
-        if (isEscape(text, k))
-            k = std::min(text.find('m', k), text.size());
-        else if (!isContinuation(text[k]))
-            ++columns;
+    while (!text.empty()) {
+        const Sign sign = signAt(text);
+        columns += sign.columns;
+        text.remove_prefix(sign.size);
     }
     return columns;
 }
@@ -52,10 +55,9 @@ std::size_t width(std::string_view text) {
 std::string cut(std::string_view line, std::size_t columns) {
     std::size_t size = 0, taken = 0;
     while (size < line.size() && (columns == 0 || taken < columns)) {
-        const bool escapes = isEscape(line, size);
-        size = escapes ? std::min(line.find('m', size), line.size() - 1) + 1
-                       : size + std::max<std::size_t>(1, characterAt(line.substr(size)));
-        taken += escapes ? 0 : 1;
+        const Sign sign = signAt(line.substr(size));
+        size += sign.size;
+        taken += sign.columns;
     }
     const bool isColoured = size < line.size() && line.find('\033') < size;
     return joined({line.substr(0, size), isColoured ? "\033[0m" : ""});
@@ -110,16 +112,11 @@ std::string printable(std::string_view text) {
     while (!text.empty()) {
         const std::size_t length = characterAt(text);
         const auto first = static_cast<unsigned char>(text[0]);
-        const bool isHighControl = length == 2 && text < "\xC2\xA0";
-        if (length == 0 || first < ' ' || first == 0x7F || isHighControl) {
-            char code[8];
-            std::snprintf(code, sizeof code, "\\x%02X", first);
-            shown += code;
-            text.remove_prefix(1);
-        } else {
-            shown.append(text.substr(0, length));
-            text.remove_prefix(length);
-        }
+        const bool isControl = first < ' ' || first == 0x7F || (length == 2 && text < "\xC2\xA0");
+        char code[8];
+        std::snprintf(code, sizeof code, "\\x%02X", first);
+        shown += length == 0 || isControl ? std::string_view(code) : text.substr(0, length);
+        text.remove_prefix(length == 0 || isControl ? 1 : length);
     }
     return shown;
 }
@@ -130,27 +127,16 @@ bool isForTerminal() {
 }
 
 // `less` ends at once where all fits, and is not everywhere.
-Pager::Pager() {
-    int ends[2];
-    if (!isForTerminal() || pipe(ends) != 0) return;
-    child = fork();
-    if (child == 0) {
-        dup2(ends[0], STDIN_FILENO);
-        close(ends[0]), close(ends[1]);
-        execlp("sh", "sh", "-c", "${PAGER:-less -FRX} || exec cat", nullptr);
-        _exit(127);
-    }
-    if (child > 0) {
-        std::signal(SIGINT, SIG_IGN); // it is the pager's
-        dup2(ends[1], STDOUT_FILENO);
-    }
-    close(ends[0]), close(ends[1]);
+Pager::Pager() : pipe(isForTerminal() ? popen("${PAGER:-less -FRX} || exec cat", "w") : nullptr) {
+    if (pipe == nullptr) return;
+    std::signal(SIGINT, SIG_IGN); // it is the pager's
+    dup2(fileno(pipe), STDOUT_FILENO);
 }
 
 Pager::~Pager() {
-    if (child <= 0) return;
+    if (pipe == nullptr) return;
     std::fclose(stdout);
-    waitpid(child, nullptr, 0);
+    pclose(pipe);
 }
 
 Paint::Paint() {

@@ -2,6 +2,7 @@
 #ifndef TALUX_TOOLS_TALUX_TEXT_H
 #define TALUX_TOOLS_TALUX_TEXT_H
 
+#include <cstdio>
 #include <ctime>
 #include <string>
 #include <string_view>
@@ -56,7 +57,7 @@ public:
     Pager& operator=(const Pager&) = delete;
 
 private:
-    int child = 0;
+    std::FILE* pipe;
 };
 
 // Colours, on a terminal only and unless NO_COLOR is set.

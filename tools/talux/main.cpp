@@ -2,7 +2,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "tools/talux/Explain.h"
 #include "tools/talux/Show.h"
 
 namespace {
