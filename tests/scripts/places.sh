@@ -16,8 +16,8 @@ place refusal ParamSystem/kepl/Refusal.h 'rangeTooLong.*is not a member' slow \
 place refusal ParamSystem/kepl/Texts.cpp 'Texts.cpp.*each enumerator has its row' '' \
   's/constexpr KeplText kTypeUnknown.*\n\K/constexpr KeplText kRangeTooLong = {"Bereich zu lang", "range too long"};\n/;
    s/kTypeUnknown},\n\K/    {Refusal::rangeTooLong, kRangeTooLong},\n/'
-place refusal tools/talux/LineCheck.cpp 'LineCheck.cpp.*each enumerator has its row' '' \
-  's/typeUnknown, laterReason},\n\K/    {Refusal::rangeTooLong, elementsReason},\n/'
+place refusal tools/talux/LineCheck.cpp 'LineCheck.cpp.*rangeTooLong.*not handled' '' \
+  's/case Refusal::index2TooHigh:\n\K/    case Refusal::rangeTooLong:\n/'
 place refusal ParamSystem/kepl/VariableDecision.cpp 'range too long' slow \
   's/Refusal::index1GreaterThanIndex2\)\K;/ && demand(parts.last - parts.first < 200, Refusal::rangeTooLong);/'
 place refusal lua/talux.lua 'range too long is no refusal in lua/talux.lua' '' \
