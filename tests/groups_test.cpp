@@ -201,8 +201,23 @@ TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {
     }
     kill(children.back(), SIGKILL);
     waitpid(children.back(), nullptr, 0);
-    EXPECT_FALSE(fresh.wait(fresh.read(value), 50));
+    last = fresh.read(value);
+    EXPECT_FALSE(fresh.wait(last, 50));
     EXPECT_GE(fresh.read(value).age(), 0.05);
+
+    for (int sleeper = 0; sleeper < 3; ++sleeper) // one write wakes them all
+        start([&] {
+            const std::int64_t before = detail::monotonic();
+            const bool isWoken = fresh.wait(last, 9000) && detail::monotonic() - before < 5000000000;
+            std::raise(isWoken ? SIGKILL : SIGABRT);
+        });
+    usleep(200000);
+    EXPECT_TRUE(fresh.write(1));
+    for (auto child = children.end() - 3; child != children.end(); ++child) {
+        int status = 0;
+        waitpid(*child, &status, 0);
+        EXPECT_EQ(WTERMSIG(status), SIGKILL);
+    }
 }
 
 TEST_F(Groups, HaveOneMeaningPerName) {
@@ -218,6 +233,10 @@ TEST_F(Groups, HaveOneMeaningPerName) {
         EXPECT_EQ(attachment(std::string(bytes, 'x').c_str(), kFirst),
                   bytes < 1 || bytes > 55 ? Attachment::wrongName : Attachment::attached)
             << bytes;
+    auto early = std::make_unique<Group<Measured<float>>>("early", kFirst);
+    start([&] { early.reset(); }); // which has not counted it
+    waitpid(children.back(), nullptr, 0);
+    EXPECT_EQ(attachment("early", kFirst.run<2>()), Attachment::otherElements);
     const Group two("runs", kFirst.run<2>());
     EXPECT_EQ(attachment("runs", kFirst.run<3>()), Attachment::otherElements);
 }

@@ -114,6 +114,8 @@ TEST_F(Handles, AChangeIsAllOrNone) {
     EXPECT_TRUE(
         second.stage(threshold, 41).stage(delay, 0.25).stage(name, "Ost").stage(active, false).commit());
     EXPECT_EQ(threshold.live(), 41);
+    EXPECT_TRUE(threshold.stage(43) && second.commit()); // what it held is done
+    EXPECT_EQ(threshold.live(), 43);
     EXPECT_EQ(delay.live(), 0.25f);
     EXPECT_EQ(name.live(), "Ost");
     EXPECT_FALSE(active.live());
@@ -121,7 +123,7 @@ TEST_F(Handles, AChangeIsAllOrNone) {
     ChangeOf<2> small;
     EXPECT_EQ(small.stage(threshold, 42).stage(delay, 1).stage(active, true).commit().reason(),
               Reason::tooMany);
-    EXPECT_EQ(threshold.staged(), 41);
+    EXPECT_EQ(threshold.staged(), 43);
 }
 
 TEST_F(Handles, MeasuredValuesAreLiveAtOnce) {
