@@ -234,8 +234,11 @@ TEST_F(Groups, HaveOneMeaningPerName) {
                   bytes < 1 || bytes > 55 ? Attachment::wrongName : Attachment::attached)
             << bytes;
     auto early = std::make_unique<Group<Measured<float>>>("early", kFirst);
-    start([&] { early.reset(); }); // which has not counted it
-    waitpid(children.back(), nullptr, 0);
+    start([&] { // a child has not counted it; what it gave back would be taken back at its end
+        early.reset();
+        std::raise(SIGSTOP);
+    });
+    waitpid(children.back(), nullptr, WUNTRACED);
     EXPECT_EQ(attachment("early", kFirst.run<2>()), Attachment::otherElements);
     const Group two("runs", kFirst.run<2>());
     EXPECT_EQ(attachment("runs", kFirst.run<3>()), Attachment::otherElements);

@@ -76,7 +76,7 @@ bool setCommaLocale() {
     if (mkdtemp(folder.data()) == nullptr) return false;
     setenv("LOCPATH", folder.c_str(), 1);
     const std::string make = "localedef -c -i de_DE -f UTF-8 " + folder + "/de_DE.UTF-8 > /dev/null 2>&1";
-    if (pclose(popen(make.c_str(), "r")) != 0) unsetenv("LOCPATH"); // NOLINT(cert-env33-c)
+    if (pclose(popen(make.c_str(), "re")) != 0) unsetenv("LOCPATH"); // NOLINT(cert-env33-c)
     const char* set = nullptr;
     for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8"})
         if (set == nullptr) set = std::setlocale(LC_ALL, name);
