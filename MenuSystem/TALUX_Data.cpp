@@ -48,9 +48,9 @@ void Data_StringReset() {
 
 char* Data_StringSave(const char* txt) {
     if (pSpacePtr == nullptr) return nullptr;
-    const auto room = static_cast<std::size_t>(acDataStringSpace + kDataStringSpaceSize - pSpacePtr);
+    const auto available = static_cast<std::size_t>(acDataStringSpace + kDataStringSpaceSize - pSpacePtr);
     const std::size_t size = std::strlen(txt) + 1;
-    if (size > room) return nullptr;
+    if (size > available) return nullptr;
     char* const copy = pSpacePtr;
     std::memcpy(copy, txt, size);
     pSpacePtr += size;

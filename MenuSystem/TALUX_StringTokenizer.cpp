@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr unsigned short kSizeUntold = 65535;
+constexpr unsigned short kUnknownSize = 65535;
 
 // A set of delimiters with one bit for each character. NUL is in every set.
 class DelimiterSet {
@@ -19,7 +19,7 @@ public:
 
     bool holds(char c) const { return (bits[wordOf(c)] & bitOf(c)) != 0; }
 
-    // The first place from `position` on whose character is in the set, or is not; `end` when there is none.
+    // The first position from `position` on whose character is in the set, or is not; `end` if there is none.
     UINT find(const char* text, UINT position, UINT end, bool wanted) const {
         while (position < end && holds(text[position]) != wanted)
             ++position;
@@ -37,21 +37,21 @@ private:
 
 StringTokenizer::StringTokenizer()
     : currentPosition(0), maxPosition(0), buffer(nullptr), delimiters{}, retTokens(false), endedBy('\0'),
-      bufferSize(kSizeUntold) {}
+      bufferSize(kUnknownSize) {}
 
 void StringTokenizer::SetBuffer(char* buf) {
     buffer = buf;
-    bufferSize = kSizeUntold;
+    bufferSize = kUnknownSize;
 }
 
 void StringTokenizer::SetBuffer(char* buf, UINT size) {
     buffer = buf;
-    bufferSize = static_cast<unsigned short>(size < kSizeUntold ? size : kSizeUntold - 1);
+    bufferSize = static_cast<unsigned short>(size < kUnknownSize ? size : kUnknownSize - 1);
 }
 
 void StringTokenizer::SetString(char* str, const char* delim, BOOL returnTokens) {
     if (buffer == nullptr || str == nullptr || *str == '\0') return;
-    const bool isTrusted = bufferSize == kSizeUntold;
+    const bool isTrusted = bufferSize == kUnknownSize;
     const std::size_t length = isTrusted ? std::strlen(str) : strnlen(str, bufferSize);
     const std::size_t delimiterCount = strnlen(delim, kMaxDelimiters + 1);
     if ((!isTrusted && length >= bufferSize) || delimiterCount > kMaxDelimiters) return;

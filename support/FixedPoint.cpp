@@ -27,9 +27,9 @@ bool split(double magnitude, FixedPoint& parts) {
     return static_cast<double>(parts.fraction) == fraction;
 }
 
-// To the nearest, halves to the even number: 1 when `kept` has to grow for the `rest` that is cut off.
-unsigned roundedUp(std::uint64_t kept, std::uint64_t rest, std::uint64_t half) {
-    return rest > half || (rest == half && kept % 2 == 1) ? 1 : 0;
+// Rounds to the nearest number, halves to the even one: 1 when `quotient` grows because of the `rest`.
+unsigned roundedUp(std::uint64_t quotient, std::uint64_t rest, std::uint64_t half) {
+    return rest > half || (rest == half && quotient % 2 == 1) ? 1 : 0;
 }
 
 // fraction * 10^6 / 2^63 is fraction * 15625 / 2^57; the product has 77 bits, so it is made in two halves.
@@ -38,21 +38,21 @@ std::uint32_t millionths(std::uint64_t fraction) {
     const std::uint64_t low = (fraction & kLow32) * 15625;
     const std::uint64_t high = (fraction >> 32) * 15625 + (low >> 32);
     const std::uint64_t rest = (high & kLow25) << 32 | (low & kLow32);
-    const auto kept = static_cast<std::uint32_t>(high >> 25);
-    return kept + roundedUp(kept, rest, std::uint64_t{1} << 56);
+    const auto quotient = static_cast<std::uint32_t>(high >> 25);
+    return quotient + roundedUp(quotient, rest, std::uint64_t{1} << 56);
 }
 
-char* appendMillionths(char* place, std::uint32_t value) {
+char* appendMillionths(char* end, std::uint32_t value) {
     constexpr int kDigits = 6;
     for (int k = kDigits - 1; k >= 0; --k, value /= 10)
-        place[k] = static_cast<char>('0' + value % 10);
-    return place + kDigits;
+        end[k] = static_cast<char>('0' + value % 10);
+    return end + kDigits;
 }
 
 } // namespace
 
 std::size_t formatFixedPoint(char* dest, double number, int decimals) {
-    // Processors differ in the sign of what is no number; it is not shown.
+    // Processors differ in the sign of not-a-number; it is not shown.
     if (std::isnan(number)) number = std::fabs(number);
     FixedPoint parts{};
     if (!split(std::fabs(number), parts))

@@ -10,7 +10,7 @@ namespace talux {
 inline constexpr std::size_t kFixedPointSize = 320;
 
 // The text that printf makes of "%.0f" (`decimals` 0) or "%f" (`decimals` 6) in the C locale, several times
-// faster for ordinary numbers; "nan" for all that is no number. `dest` has kFixedPointSize bytes. Returns the
+// faster for ordinary numbers; "nan" for every not-a-number. `dest` has kFixedPointSize bytes. Returns the
 // length.
 std::size_t formatFixedPoint(char* dest, double number, int decimals);
 

@@ -1,4 +1,4 @@
-// The C locale, whatever the host has set: numbers are read and printed with a point.
+// The C locale, independent of the host's: numbers are read and printed with a point.
 #ifndef TALUX_SUPPORT_LOCALE_H
 #define TALUX_SUPPORT_LOCALE_H
 
@@ -6,8 +6,7 @@
 
 namespace talux {
 
-// The C library keeps this locale ready and hands out the same one at every call: neither memory nor files
-// are needed.
+// The C library returns the same object at every call and needs neither memory nor files for it.
 inline locale_t cLocale() {
     return newlocale(LC_ALL_MASK, "C", locale_t{});
 }

@@ -9,14 +9,14 @@
 
 namespace talux {
 
-// Truncates toward zero; beyond the 32 bits of the integer the nearest limit, 0 for not-a-number.
+// Truncates toward zero; beyond the range of the integer the nearest limit, 0 for not-a-number.
 template <typename Integer>
 constexpr Integer saturated(double value) {
     using Limits = std::numeric_limits<Integer>;
-    static_assert(sizeof(Integer) == 4, "the limits are exact in a double");
+    constexpr double kEnd = 2.0 * static_cast<double>(Limits::max() / 2 + 1); // one more than the maximum
     if (value != value) return 0;
-    if (value >= Limits::max()) return Limits::max();
-    if (value <= Limits::min()) return Limits::min();
+    if (value >= kEnd) return Limits::max();
+    if (value <= static_cast<double>(Limits::min())) return Limits::min();
     return static_cast<Integer>(value);
 }
 
@@ -25,22 +25,20 @@ constexpr std::int32_t saturated32(double value) {
 }
 
 // The low bits of a number without its fraction; beyond 32 bits (64 where the integer has them) the nearest
-// limit. A double stays as it is.
+// limit. A double is returned unchanged.
 template <typename Stored>
 constexpr Stored truncated(double value) {
     if constexpr (std::is_floating_point_v<Stored>)
         return value;
     else if constexpr (sizeof(Stored) <= 4)
         return static_cast<Stored>(saturated32(value));
-    constexpr double kBeyond = 9223372036854775808.0; // 2^63
-    if (value != value) return 0;
-    if (value >= kBeyond) return std::numeric_limits<Stored>::max();
-    if (value < -kBeyond) return std::numeric_limits<Stored>::min();
-    return static_cast<Stored>(value);
+    else
+        return saturated<Stored>(value);
 }
 
 // A float as a double and back. Processors differ in what becomes of a not-a-number (its sign, its quiet
-// bit); here it keeps all of its bits both ways, so that a copy through a double is exact for every pattern.
+// bit); here all of its bits are copied both ways, so that a copy through a double is exact for every
+// pattern.
 constexpr double widened(float value) {
     if (value == value) return static_cast<double>(value);
     const std::uint64_t bits = std::bit_cast<std::uint32_t>(value);

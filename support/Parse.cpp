@@ -60,30 +60,30 @@ VarULong toULong(const char* word, char** end) {
                      [](const char* word, char** end) { return strtod_l(word, end, cLocale()); });
 }
 
-// Converts the first word if it is what most numbers are, [-]digits[.digits] of up to 15 digits, and is false
-// for all else. The digits as one integer and the power of ten below them are exact in a double, so their
+// Converts the first word if it has the form of most numbers, [-]digits[.digits] of up to 15 digits;
+// otherwise false. The digits as one integer and the power of ten below them are exact in a double, so their
 // quotient, rounded once, is the double nearest to the number.
 bool parsePlain(std::string_view text, double* value) {
     static_assert(FLT_EVAL_METHOD == 0, "the quotient is rounded to a double at once");
     constexpr int kExactDigits = 15;
     static constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    const char* place = text.data();
-    const char* const end = place + text.size();
-    while (place != end && *place == ' ')
-        ++place;
-    const bool isNegative = place != end && *place == '-';
+    const char* next = text.data();
+    const char* const end = next + text.size();
+    while (next != end && *next == ' ')
+        ++next;
+    const bool isNegative = next != end && *next == '-';
     std::int64_t digits = 0;
     int count = 0;
     int whole = -1; // digits before the point, once it has come
-    for (place += isNegative; place != end; ++place) {
-        const unsigned digit = static_cast<unsigned char>(*place) - unsigned{'0'};
+    for (next += isNegative; next != end; ++next) {
+        const unsigned digit = static_cast<unsigned char>(*next) - unsigned{'0'};
         if (digit <= 9 && count < kExactDigits) {
             digits = digits * 10 + digit;
             ++count;
-        } else if (*place == '.' && whole < 0) {
+        } else if (*next == '.' && whole < 0) {
             whole = count;
-        } else if (*place == ' ') {
+        } else if (*next == ' ') {
             break;
         } else {
             return false;

@@ -27,7 +27,7 @@ constexpr char lowerAscii(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// Letter case ignored (ASCII only, whatever locale the host has set).
+// Letter case ignored (ASCII only, in every locale).
 constexpr bool equalIgnoringCase(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) return false;
     for (std::size_t i = 0; i < a.size(); ++i)

@@ -12,14 +12,14 @@ namespace talux {
 
 enum class ParameterFile { none, normal, security, address };
 
-// What a save gives to the two that have dated copies; the address file keeps the owner that it has.
+// For the two that have dated copies; the address file keeps its owner and mode.
 inline constexpr os::Rights kNormalRights{0, 100, 0775}, kSecurityRights{0, 101, 0775};
 
 struct ParameterFileRow {
     ParameterFile file;
     std::string_view name;    // in the directory of VarInit, with a NUL after it
     const char* stem;         // of the dated copies; empty: there are none
-    const os::Rights* rights; // null: it keeps its own
+    const os::Rights* rights; // null: those of the old file
     ChangeFlag flag;          // raised by loading and saving it
 };
 

@@ -1,7 +1,6 @@
 #include "ParamSystem/files/Reader.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <cstring>
 
 #include "ParamSystem/dictionary/Lookup.h"
@@ -12,38 +11,24 @@ namespace talux {
 
 namespace {
 
-// Characters with codes below 64, as the bits of a number.
-class CharacterSet {
-public:
-    consteval CharacterSet(std::string_view characters) {
-        for (const char c : characters)
-            bits |= std::uint64_t{1} << c;
-    }
-    constexpr bool holds(char c) const {
-        const auto code = static_cast<unsigned char>(c);
-        return code < 64 && (bits >> code & 1) != 0;
-    }
+constexpr auto isSpace = [](char c) { return c == ' '; };
+constexpr auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+constexpr auto isSign = [](char c) { return c == '='; };
 
-private:
-    std::uint64_t bits = 0;
-};
-
-constexpr CharacterSet kSpace(" "), kBlank(" \t"), kIgnored(" \t\r"), kSign("="), kEndsQuoted("\"="),
-    kMayEndBare("=\r#;/");
-
-std::string_view without(CharacterSet leading, std::string_view text) {
-    const char* place = text.data();
-    const char* const end = place + text.size();
-    while (place != end && leading.holds(*place))
-        ++place;
-    return {place, end};
+template <class Is>
+std::string_view without(std::string_view text, Is leading) {
+    while (!text.empty() && leading(text[0]))
+        text.remove_prefix(1);
+    return text;
 }
 
-// The text up to the first character of a set, from `start` on.
-std::size_t lengthUpTo(CharacterSet set, std::string_view text, std::size_t start = 0) {
-    while (start < text.size() && !set.holds(text[start]))
-        ++start;
-    return start;
+// Removes the part before the first text that ends it and returns it.
+template <class Ends>
+std::string_view take(std::string_view& text, Ends ends) {
+    const std::string_view whole = text;
+    while (!text.empty() && !ends(text))
+        text.remove_prefix(1);
+    return whole.substr(0, whole.size() - text.size());
 }
 
 bool beginsComment(std::string_view text) {
@@ -56,7 +41,7 @@ LineForm formWithoutKey(std::string_view text) {
 }
 
 Tail tailIn(std::string_view rest) {
-    rest = without(kIgnored, rest);
+    rest = without(rest, [](char c) { return isBlank(c) || c == '\r'; });
     if (rest.empty()) return Tail::nothing;
     return beginsComment(rest) ? Tail::comment : Tail::text;
 }
@@ -64,25 +49,24 @@ Tail tailIn(std::string_view rest) {
 // What follows the key: after the "=" signs, which spaces may precede, or after the one character that ended
 // it.
 std::string_view valueAfterKey(std::string_view rest) {
-    const std::string_view signs = without(kSpace, rest);
-    return without(kSign, signs.starts_with('=') || rest.empty() ? signs : after(rest, 1));
+    const std::string_view signs = without(rest, isSpace);
+    return without(signs.starts_with('=') || rest.empty() ? signs : after(rest, 1), isSign);
 }
 
 void takeQuoted(Entry& entry, std::string_view text) {
-    const std::size_t length = lengthUpTo(kEndsQuoted, text);
+    entry.value = take(text, [](std::string_view rest) { return rest[0] == '"' || isSign(rest[0]); });
     entry.isQuoted = true;
-    entry.isClosed = length < text.size() && text[length] == '"';
-    entry.value = text.substr(0, length);
-    entry.tail = tailIn(after(text, length + entry.isClosed));
+    entry.isClosed = text.starts_with('"');
+    entry.tail = tailIn(after(text, entry.isClosed));
 }
 
 // Blanks before a comment belong to the value.
 void takeBare(Entry& entry, std::string_view text) {
-    std::size_t length = lengthUpTo(kMayEndBare, text);
-    while (length < text.size() && text[length] == '/' && !beginsComment(after(text, length)))
-        length = lengthUpTo(kMayEndBare, text, length + 1);
-    entry.value = text.substr(0, length);
-    entry.tail = tailIn(after(text, length));
+    entry.value = take(text, [](std::string_view rest) {
+        return isSign(rest[0]) || rest[0] == '\r' || rest[0] == '#' || rest[0] == ';' ||
+               rest.starts_with("//");
+    });
+    entry.tail = tailIn(text);
 }
 
 } // namespace
@@ -90,7 +74,7 @@ void takeBare(Entry& entry, std::string_view text) {
 Entry parseEntry(std::string_view line) {
     Entry entry;
     if (line.ends_with('\n')) line.remove_suffix(1);
-    const std::string_view text = without(kBlank, line);
+    const std::string_view text = without(line, isBlank);
     if (!startsIgnoringCase(text, kKeyPrefix)) {
         entry.form = formWithoutKey(text);
         return entry;
@@ -139,28 +123,33 @@ bool Reader::fill() {
 std::string_view Reader::takeLine() {
     static_assert(sizeof block > kMaxRead);
     for (;;) {
-        const char* const line = block + start;
+        const char* const first = block + start;
         const std::size_t size = std::min(end - start, kMaxRead);
-        const auto* const feed = static_cast<const char*>(std::memchr(line, '\n', size));
+        const auto* const feed = static_cast<const char*>(std::memchr(first, '\n', size));
         if (feed == nullptr && end - start <= kMaxRead && fill()) continue;
-        const std::size_t length = feed != nullptr ? static_cast<std::size_t>(feed + 1 - line) : size;
+        const std::size_t length = feed != nullptr ? static_cast<std::size_t>(feed + 1 - first) : size;
         start += length;
-        return {line, length};
+        return {first, length};
     }
 }
 
-bool Reader::next(Entry& entry) {
-    const std::string_view line = takeLine();
+bool Reader::next() {
+    line = takeLine();
     if (line.empty() || error) return false;
-    const bool isFull = line.back() != '\n' && start < end;
+    ++lines;
+    wasFull = isFull;
+    isFull = line.back() != '\n' && start < end;
+    return true;
+}
+
+Entry Reader::entry() const {
     const std::size_t nul = hasNuls ? line.find('\0') : line.npos;
-    entry = parseEntry(line.substr(0, nul));
-    entry.line = ++lines;
-    entry.continues = lastWasFull;
+    Entry entry = parseEntry(line.substr(0, nul));
+    entry.line = lines;
+    entry.continues = wasFull;
     entry.isCut = isFull && block[start] != '\n';
     entry.hasNul = nul != line.npos;
-    lastWasFull = isFull;
-    return true;
+    return entry;
 }
 
 } // namespace talux

@@ -57,17 +57,21 @@ public:
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
 
-    // The next line, whose texts are valid until the one after it is read; false at the end and after an
-    // error.
-    bool next(Entry& entry);
+    // Reads the next line; false at the end and after an error.
+    bool next();
+
+    // The line that was read. Its texts are valid until the next one is read.
+    Entry entry() const;
 
     const os::Error& result() const { return error; }
 
 private:
     int descriptor;
     os::Error error;
+    std::string_view line; // in the block
     int lines = 0;
-    bool lastWasFull = false; // and did not end in a line feed
+    bool isFull = false;  // the line has no line feed, but a rest follows
+    bool wasFull = false; // the line before
     bool atEnd = false;
     bool hasNuls = false; // in what has been read of the file
     char block[4096];     // of the file; from `start` to `end` not yet returned
@@ -82,8 +86,8 @@ private:
 template <class Visitor>
 os::Error readLines(const char* filename, Visitor visit) {
     Reader reader(filename);
-    for (Entry entry; reader.next(entry);)
-        visit(entry);
+    while (reader.next())
+        visit(reader.entry());
     return reader.result();
 }
 

@@ -37,7 +37,7 @@ std::optional<Value> savedValue(const stParamProperties& row, const std::tm& now
     return talux::readValue(talux::Space::global, row.id);
 }
 
-// The longest file, whatever its values are, and one line more.
+// The longest file that any values make, and one line more.
 using Contents = char[32768];
 
 // The contents of a file at this moment, as a save writes them.

@@ -1,5 +1,5 @@
-// Ids of the settings that reach the operating system. Looked up in one source, the only one of this room
-// that a new parameter compiles again.
+// Ids of the settings that reach the operating system. Looked up in one source, the only one of this folder
+// that is recompiled for a new parameter.
 #ifndef TALUX_NETWORK_SETTINGIDS_H
 #define TALUX_NETWORK_SETTINGIDS_H
 

@@ -13,20 +13,20 @@ namespace {
 
 constexpr int kLongestCommand = 253;
 
-// Whether the shell takes the character at this place of a word as it is.
-constexpr bool isPlain(std::string_view text, std::size_t place) {
+// Whether the character at this position of a word means itself to the shell.
+constexpr bool isPlain(std::string_view text, std::size_t position) {
     constexpr std::string_view kHarmless = "@%_+=:,./-!^";
-    const char c = text[place], lower = lowerAscii(c);
+    const char c = text[position], lower = lowerAscii(c);
     if ((lower >= 'a' && lower <= 'z') || (c >= '0' && c <= '9') || static_cast<unsigned char>(c) >= 0x80)
         return true;
     if (kHarmless.find(c) != std::string_view::npos) return true;
     // At the beginning a home directory and a comment; a home directory after these, too, in some shells.
-    return place > 0 && (c == '#' || (c == '~' && text[place - 1] != '=' && text[place - 1] != ':'));
+    return position > 0 && (c == '#' || (c == '~' && text[position - 1] != '=' && text[position - 1] != ':'));
 }
 
 constexpr bool isPlain(std::string_view text) {
-    for (std::size_t place = 0; place < text.size(); ++place)
-        if (!isPlain(text, place)) return false;
+    for (std::size_t position = 0; position < text.size(); ++position)
+        if (!isPlain(text, position)) return false;
     return true;
 }
 

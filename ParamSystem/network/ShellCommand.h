@@ -10,7 +10,7 @@
 
 namespace talux::network {
 
-// A stored text as the shell takes it for one word, whatever it holds; an empty one is none. A text of
+// A stored text, quoted so that it is one word to the shell; an empty one is no word. A text of
 // nothing but letters, umlauts too, digits and @%_+=:,./-!^, with # and ~ after its beginning, stays as it
 // is, any other in single quotes.
 class ShellWord {
@@ -31,8 +31,8 @@ class Shell {
 public:
     explicit constexpr Shell(const char* function) : function_(function) {}
 
-    // Writes "<function>: <command>" to the error stream, then runs the command and waits for it; how it
-    // fares is not examined. A command that does not fit is not run: false, with the reason instead.
+    // Writes "<function>: <command>" to the error stream, then runs the command and waits for it; its status
+    // is not examined. A command that is too long is not run: false, and the reason is written instead.
     [[gnu::format(printf, 2, 3)]] bool run(const char* format, ...) const;
 
     // The same without the announcement.

@@ -88,8 +88,8 @@ bool writeFile(int descriptor, std::string_view contents) {
     return true;
 }
 
-bool writeFile(int descriptor, std::string_view contents, off_t place) {
-    return lseek(descriptor, place, SEEK_SET) == place && writeFile(descriptor, contents);
+bool writeFile(int descriptor, std::string_view contents, off_t offset) {
+    return lseek(descriptor, offset, SEEK_SET) == offset && writeFile(descriptor, contents);
 }
 
 bool cutFile(int descriptor, off_t size) {
@@ -114,9 +114,9 @@ bool tryLockFile(int descriptor) {
 
 bool readLink(const char* path, char* target, std::size_t size) {
     const ssize_t length = readlink(path, target, size);
-    const std::size_t kept = std::min(static_cast<std::size_t>(std::max<ssize_t>(length, 0)), size - 1);
-    target[kept] = '\0';
-    return length >= 0 && static_cast<std::size_t>(length) == kept;
+    const std::size_t end = std::min(static_cast<std::size_t>(std::max<ssize_t>(length, 0)), size - 1);
+    target[end] = '\0';
+    return length >= 0 && static_cast<std::size_t>(length) == end;
 }
 
 bool exists(const char* path) {

@@ -32,9 +32,9 @@ void removeIn(int directory, const char* name);
 void removeFile(const char* path);
 
 bool statusOf(int descriptor, struct stat& status);
-ssize_t readFile(int descriptor, char* block, std::size_t size);        // the bytes read, 0 at the end
-bool writeFile(int descriptor, std::string_view contents);              // all of it
-bool writeFile(int descriptor, std::string_view contents, off_t place); // from there on
+ssize_t readFile(int descriptor, char* block, std::size_t size);         // the bytes read, 0 at the end
+bool writeFile(int descriptor, std::string_view contents);               // all of it
+bool writeFile(int descriptor, std::string_view contents, off_t offset); // from there on
 bool cutFile(int descriptor, off_t size);
 bool syncFile(int descriptor); // also of a directory; what cannot be synced counts as synced
 bool giveFile(int descriptor, const Rights& rights);  // owner and group

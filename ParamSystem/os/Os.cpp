@@ -16,7 +16,7 @@
 namespace talux::os {
 
 void runShell(const char* command) {
-    // What the command answers is nobody's business here; a variable keeps the compiler content.
+    // The status is not examined; the variable avoids a warning.
     [[maybe_unused]] const int status =
         std::system(command); // NOLINT(cert-env33-c,bugprone-command-processor)
 }

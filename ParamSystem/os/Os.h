@@ -1,5 +1,5 @@
-// The one door to the operating system: shell, pipe, clock, system log here, files and network interfaces in
-// the headers beside. Nothing else calls them.
+// The only access to the operating system: shell, pipe, clock and system log; files and network interfaces
+// have their own headers. Nothing else calls the system.
 #ifndef TALUX_OS_OS_H
 #define TALUX_OS_OS_H
 
@@ -20,7 +20,7 @@ void closePipe(FILE* pipe);
 // A file to read; null when it cannot be opened.
 FILE* openStream(const char* path);
 
-// The next character, or EOF. Signals that the host handles meanwhile end neither of the two.
+// The next character, or EOF. Signals that the host handles meanwhile interrupt neither of the two.
 int readCharacter(FILE* stream);
 
 // The local time now, in the zone that TZ or /etc/localtime names at this moment. On failure `now` is all
@@ -32,7 +32,7 @@ void setClock(std::time_t seconds);
 
 void sleepMicroseconds(unsigned microseconds);
 
-// From some moment on, whatever becomes of the clock.
+// Since some moment; setting the clock does not change it.
 std::int64_t monotonicMilliseconds();
 
 // Of any time that can be converted: the years of 64 bits of seconds do not fit into an int.
@@ -47,8 +47,8 @@ constexpr long long yearOf(const std::tm& time) {
 // The kernel's machine name; empty when it cannot be found out.
 void machineName(char* name, std::size_t size);
 
-// Gets the memory of a table that is about to be filled in one piece, where the kernel can (from Linux 5.14
-// on), instead of page by page.
+// Gets the memory of a table that is about to be filled at once instead of page by page, if the kernel can
+// (from Linux 5.14 on).
 void getMemory(void* table, std::size_t size);
 
 } // namespace talux::os

@@ -192,7 +192,8 @@ class First {
 public:
     constexpr explicit First(Reasons reasons) : asked(reasons) {}
 
-    constexpr First& where(bool isBroken, Reason reason, double limit = 0, double found = 0) {
+    [[gnu::always_inline]] constexpr First& where(bool isBroken, Reason reason, double limit = 0,
+                                                  double found = 0) {
         if (!objection && isBroken && asked.has(reason)) objection = {reason, limit, found};
         return *this;
     }

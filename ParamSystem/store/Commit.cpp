@@ -28,19 +28,19 @@ void commit(int id) {
     });
 }
 
-// Keeps the change flags for the life of the object and puts them back at its end.
-class KeptFlags {
+// Reads the change flags and restores them at the end of its life.
+class SavedFlags {
 public:
-    KeptFlags() {
+    SavedFlags() {
         for (int k = 0; k < talux::kChangeFlagCount; ++k)
             VarGetGlobalBoolValue(talux::kChangeFlagIds[k], &values[k]);
     }
-    ~KeptFlags() {
+    ~SavedFlags() {
         for (int k = 0; k < talux::kChangeFlagCount; ++k)
             VarSetGlobalBoolValue(talux::kChangeFlagIds[k], values[k]);
     }
-    KeptFlags(const KeptFlags&) = delete;
-    KeptFlags& operator=(const KeptFlags&) = delete;
+    SavedFlags(const SavedFlags&) = delete;
+    SavedFlags& operator=(const SavedFlags&) = delete;
 
 private:
     char values[talux::kChangeFlagCount];
@@ -54,7 +54,7 @@ void VarSetDefault(void) {
 }
 
 int VarUpdateGlobalSpace(void) {
-    const KeptFlags flags;
+    const SavedFlags flags;
     for (const stParamProperties& row : talux::parameterRows()) {
         if (row.id == 0) std::fputs("Error (TALUX_Var): Error during copy temp->global\n", stderr);
         if (row.is_volatile != 1) commit(row.id);

@@ -57,8 +57,8 @@ void getRun(int id, Number<kind>* dest, unsigned long count) {
     std::memcpy(dest, slotOf<kind, space>(id), count * sizeof *dest);
 }
 
-// The last byte of a slot stays the NUL that it is, whatever is written. A text slot gets it anew each
-// time, since other programs write there too.
+// The last byte of a slot is a NUL and is not written. Only a text slot gets it each time, since other
+// programs write there, too.
 template <Kind kind, Space space>
 void putText(int id, const char* text) {
     constexpr std::size_t room = blockOf(kind).slot - 1;

@@ -34,7 +34,7 @@ struct Segment {
     key_t key;
     std::size_t size;
     const char* name;
-    const char* sizeLabel; // what a failure calls the size; null: says nothing
+    const char* sizeLabel; // printed with the size after a failure; null: not printed
     const char* getFailure;
     const char* attachFailure;
     int attachedId = -1;
@@ -48,9 +48,8 @@ constinit Segment globalSegment{kGlobalSpaceKey, sizeof(stVarSpace),     "global
 constinit Segment tempSegment{kTempSpaceKey, sizeof(stVarSpace),   "temporary space",
                               nullptr,       "shmget (tempspace)", "shmat (tempspace)"};
 
-// A segment that is attached already stays where it is, since other threads may be in it. One that was
-// removed and made anew is attached beside it, and the pointer goes from the one to the other. The host may
-// have turned the pointer elsewhere.
+// A segment that is attached remains so, since other threads may use it. If it was removed and created again,
+// the new one is attached as well and the pointer set to it. The host may have changed the pointer.
 template <typename Memory>
 os::Error attachOnce(Segment& segment, Memory*& pointer, int getFlags, int attachFlags) {
     const int id = shmget(segment.key, segment.size, getFlags);

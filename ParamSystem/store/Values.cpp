@@ -20,7 +20,7 @@ double toDouble(Number<kind> number) {
         return static_cast<double>(number);
 }
 
-// Integers pass through 32 bits, of which the narrow kinds keep the low ones. A number too large for a
+// Integers pass through 32 bits, of which the narrow kinds store the low ones. A number too large for a
 // float becomes infinite (IEEE 754).
 template <Kind kind>
 Number<kind> fromDouble(double value) {

@@ -13,7 +13,7 @@ namespace talux {
 class Value {
 public:
     explicit Value(double number) : text_(false), number_(number) {}
-    // The first 127 characters, which is what the longest slot keeps.
+    // The first 127 characters, as many as the longest slot has.
     explicit Value(std::string_view characters) : text_(true) { copyText(characters_, characters); }
 
     bool isText() const { return text_; }
@@ -37,7 +37,7 @@ std::optional<Value> readValue(Space space, int id);
 // nothing.
 void writeValue(Space space, int id, const Value& value);
 
-// What a read gives back after `value` was written: cut, rounded or saturated to the slot. Nothing where
+// What a read returns after `value` was written: cut, rounded or saturated to the slot. Nothing where
 // the write would do nothing.
 std::optional<Value> storedAs(int id, const Value& value);
 

@@ -13,7 +13,7 @@ int iLastEntry = 0;
 namespace talux {
 namespace {
 
-// The message names the exported function, whatever the compiler calls it.
+// The message has the name of the exported function in this form for every compiler.
 void checkId(int id, const char* function) {
     assertThat(id > 0, "id>0", "ParamSystem/TALUX_ParamStrings", function);
 }
@@ -54,10 +54,10 @@ int findNear(int row, const Wanted& wanted, int language) {
     return findFrom(std::max(row, kTexts + 1), wanted, language);
 }
 
-// The first of the compiled-in rows with an id, if that is still its place; else kNotFound.
+// The first of the compiled-in rows with an id if the working table still has it there; else kNotFound.
 int firstRowOf(int id) {
-    const int place = placeOf(id);
-    const int row = place == kNoPlace || areTextsOfFile ? kNotFound : kTextRows[place];
+    const int position = placeOf(id);
+    const int row = position == kNoPlace || areTextsOfFile ? kNotFound : kTextRows[position];
     return ParamText[row].id == id ? row : kNotFound;
 }
 

@@ -1,4 +1,4 @@
-// Where the texts of an id are looked for first.
+// Where the look-up of the texts of an id starts.
 #ifndef TALUX_TEXTS_TABLES_H
 #define TALUX_TEXTS_TABLES_H
 
@@ -12,9 +12,9 @@ namespace talux {
 // Made by tools/generator.
 extern const int kTexts; // compiled-in ones, from row 1 on
 extern const std::uint16_t
-    kTextRows[kIdPlaces]; // the first row with the id of each place; 0 where there is none
+    kTextRows[kIdPlaces]; // by placeOf(id): the first row with the id; 0 if there is none
 
-// Whether the working table has texts of a file in place of the compiled-in ones.
+// Whether the working table has texts of a file instead of the compiled-in ones.
 extern constinit bool areTextsOfFile;
 
 } // namespace talux
