@@ -192,11 +192,11 @@ std::vector<Operation> operations() {
                          bare::read("TLX_U1_prim", answer);
                      }),
               luaWay("bare Lua", "", "bare_read 'TLX_U1_prim'")},
-             "Lua", "bare Lua", 1.7),
+             "Lua", "bare Lua", 1.5),
         line("write TLX_Uearth=35", "TLX_Uearth=35",
              {cppWay("bare C++", [] { bare::write("TLX_Uearth=35"); }),
               luaWay("bare Lua", "", "bare_write 'TLX_Uearth=35'")},
-             "Lua", "bare Lua", 1.7),
+             "Lua", "bare Lua", 1.5),
         line("compute 1,2,+", "1,2,+", {}, "Lua", "read TLX_U1_prim", 1.0),
         longArray(),
         line("commit all settings", "update", {cppWay("bare C++", [] { bare::commit(); })}, "C++", "bare C++",

@@ -21,11 +21,6 @@ constinit char newline[] = "\n";
 // Output of shell terms never reaches a script.
 void funcStdOut(char* /*buffer*/, int /*buffered*/) {}
 
-void removeNewline(char* text) {
-    const std::size_t length = std::strlen(text);
-    if (length > 0 && text[length - 1] == '\n') text[length - 1] = '\0';
-}
-
 // Evaluates a line into `answer`, which holds whatever the interpreter may write.
 const char* evaluate(const char* line, char (&answer)[TALUX_ANSWER_SIZE]) {
     answer[0] = '\0';
@@ -33,8 +28,9 @@ const char* evaluate(const char* line, char (&answer)[TALUX_ANSWER_SIZE]) {
         talux_interpreter_GetError(answer, kErrorLimit);
         answer[kErrorLimit] = '\0';
     }
-    if (std::strlen(answer) >= kAnswerLimit) return szBufferOverflow[iLanguage];
-    removeNewline(answer);
+    const std::size_t length = std::strlen(answer);
+    if (length >= kAnswerLimit) return szBufferOverflow[iLanguage];
+    if (length > 0 && answer[length - 1] == '\n') answer[length - 1] = '\0';
     return answer;
 }
 

@@ -11,20 +11,24 @@
 
 namespace talux {
 
-// Four characters at a time. A letter and its capital differ in one bit; what else differs in it alone need
-// not have a hash of its own.
+// Four characters at a time, of which the last may overlap those before. A letter and its capital differ in
+// one bit; what else differs in it alone need not have a hash of its own.
 constexpr std::uint32_t hashIgnoringCase(std::string_view name) {
     constexpr std::uint32_t kCaseBits = 0x20202020;
     constexpr std::uint32_t kFactor = 0x9E3779B1;
     std::uint32_t hash = 2166136261;
-    const auto at = [&](std::size_t k) { return std::uint32_t{static_cast<unsigned char>(name[k])}; };
-    std::size_t k = 0;
-    for (; k + 4 <= name.size(); k += 4) {
-        const std::uint32_t four = at(k) | at(k + 1) << 8 | at(k + 2) << 16 | at(k + 3) << 24;
-        hash = std::rotl((hash ^ (four | kCaseBits)) * kFactor, 13);
-    }
-    for (; k < name.size(); ++k)
-        hash = (hash ^ (at(k) | (kCaseBits & 0xFF))) * kFactor;
+    const auto byte = [](char c) { return std::uint32_t{static_cast<unsigned char>(c)}; };
+    const auto mix = [&](std::uint32_t four) { hash = std::rotl((hash ^ (four | kCaseBits)) * kFactor, 13); };
+    const auto mixAt = [&](const char* at) {
+        mix(byte(at[0]) | byte(at[1]) << 8 | byte(at[2]) << 16 | byte(at[3]) << 24);
+    };
+    for (std::size_t k = 0; k + 4 < name.size(); k += 4)
+        mixAt(name.data() + k);
+    if (name.size() >= 4)
+        mixAt(name.data() + name.size() - 4);
+    else
+        for (const char c : name)
+            mix(byte(c));
     return hash ^ hash >> 15;
 }
 

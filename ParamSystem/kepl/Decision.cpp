@@ -10,8 +10,6 @@ namespace talux::kepl {
 
 namespace {
 
-using Action = decltype(Decision::action);
-
 bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
@@ -65,22 +63,13 @@ const OperationRow* operationOf(std::string_view term) {
     return found == std::end(kOperations) ? nullptr : found;
 }
 
+} // namespace
+
 Action decideOther(std::string_view term, int uid, int board) {
     if (beginsWithDigit(term)) return decideNumber(term); // as no word does
     if (const OperationRow* const operation = operationOf(term)) return Compute{operation->operation};
     if (const CommandRow* const command = commandOf(term)) return decideCommand(term, uid, board, *command);
     return decideNumber(term);
-}
-
-} // namespace
-
-Decision decide(std::string_view term, int uid, int board) {
-    if (hasPrefix(term)) return {term, decideVariable(after(term, kPrefixLength), uid)};
-    return {term, decideOther(term, uid, board)};
-}
-
-bool hasPrefix(std::string_view term) {
-    return startsIgnoringCase(term, kPrefixes[0]) || startsIgnoringCase(term, kPrefixes[1]);
 }
 
 } // namespace talux::kepl

@@ -76,14 +76,18 @@ struct SetClock {
 };
 
 struct VariableDecision {
-    VariableTerm term;
-    const stParamProperties* row = nullptr; // of the parameter's first element; null: refused, no such name
-    bool isNoted = false;                   // in the system log as touching security, also when it is refused
-    std::variant<Refused, ReadScalar, ReadElements, ReadRecord, WriteNumber, WriteText, SetClock> action = {};
+    // Decides about a variable term without its prefix. One with more than kKeplMaxTerm characters has no
+    // parts.
+    VariableDecision(std::string_view text, int uid);
 
-    template <class Action>
-    const Action* get() const { // null: it is another one
-        return std::get_if<Action>(&action);
+    VariableTerm term;
+    const stParamProperties* row; // of the parameter's first element; null: refused, no such name
+    bool isNoted = false;         // in the system log as touching security, also when it is refused
+    std::variant<Refused, ReadScalar, ReadElements, ReadRecord, WriteNumber, WriteText, SetClock> action;
+
+    template <class Kind>
+    const Kind* get() const { // null: it is another one
+        return std::get_if<Kind>(&action);
     }
     bool isRefused() const { return get<Refused>() != nullptr; }
 };
@@ -107,14 +111,16 @@ struct RunShell {
     bool isForbidden;         // the board's process ends instead
 };
 
+using Action =
+    std::variant<SyntaxError, RightsTooLow, PushNumber, Compute, RunCommand, RunShell, VariableDecision>;
+
 struct Decision {
     std::string_view term;
-    std::variant<SyntaxError, RightsTooLow, PushNumber, Compute, RunCommand, RunShell, VariableDecision>
-        action;
+    Action action;
 
-    template <class Action>
-    const Action* get() const {
-        return std::get_if<Action>(&action);
+    template <class Kind>
+    const Kind* get() const {
+        return std::get_if<Kind>(&action);
     }
     bool isRefused() const {
         if (const auto* const variable = get<VariableDecision>()) return variable->isRefused();
@@ -131,23 +137,30 @@ inline bool takeTerm(std::string_view& rest, std::string_view& term) {
     return !piece.empty();
 }
 
+// What variable terms begin with.
+inline constexpr std::string_view kPrefixes[] = {kKeyPrefix, "LVR_"};
+inline constexpr std::size_t kPrefixLength = 4;
+static_assert(kPrefixes[0].size() == kPrefixLength && kPrefixes[1].size() == kPrefixLength);
+// Letter case does not count.
+inline bool hasPrefix(std::string_view term) {
+    return startsIgnoringCase(term, kPrefixes[0]) || startsIgnoringCase(term, kPrefixes[1]);
+}
+
+// Of a term that is no variable.
+Action decideOther(std::string_view term, int uid, int board);
+
 /*
  * Decides about a term as takeTerm() gives it. `uid`: rights, 0 to 3. What depends on values remains to be
  * seen when the decision is carried out: too few values on the stack or too many, a division by zero, the
  * root of a negative number, an answer that is too long, a moment that the clock does not have, a file that
  * cannot be opened.
  */
-Decision decide(std::string_view term, int uid, int board = kOtherBoard);
-
-// The same for a variable term without its prefix. One with more than kKeplMaxTerm characters has no parts.
-VariableDecision decideVariable(std::string_view term, int uid);
+inline Decision decide(std::string_view term, int uid, int board = kOtherBoard) {
+    if (!hasPrefix(term)) return {term, decideOther(term, uid, board)};
+    return {term, Action(std::in_place_type<VariableDecision>, after(term, kPrefixLength), uid)};
+}
 
 // ---- For completion and help ---------------------------------------------------------------------------
-
-inline constexpr std::string_view kPrefixes[] = {kKeyPrefix, "LVR_"};
-inline constexpr std::size_t kPrefixLength = 4;
-static_assert(kPrefixes[0].size() == kPrefixLength && kPrefixes[1].size() == kPrefixLength);
-bool hasPrefix(std::string_view term); // letter case does not count
 
 // The one parameter that those may write who may read it: it asks for the snapshot of the measured values.
 inline constexpr std::string_view kOpenToReaders = "mw_req";

@@ -1,15 +1,17 @@
 #include <cstring>
-#include <string_view>
 
 #include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/TALUX_Var.h"
-#include "ParamSystem/kepl/Evaluation.h"
+#include "ParamSystem/dictionary/Types.h"
+#include "ParamSystem/kepl/Execution.h"
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/os/Os.h"
+#include "support/FixedPoint.h"
+#include "support/Overloaded.h"
 #include "support/Text.h"
 
 using namespace talux;
-using kepl::Refusal;
+using namespace talux::kepl;
 
 namespace {
 
@@ -17,9 +19,114 @@ void discard(char* /*buffer*/, int /*buffered*/) {}
 
 template <std::size_t size>
 int fail(char (&error)[size], Refusal refusal) {
-    copyText(error, kepl::textOf(refusal));
+    copyText(error, textOf(refusal));
     return kLineError;
 }
+
+// Where the results of a line go.
+struct Target {
+    fnDataOut dataOut;
+    char* result;
+    char* terminator;
+};
+
+// A line while it is evaluated: the value stack, and what the line answers so far.
+class Evaluation {
+public:
+    // Leaves the large arrays as they are: most lines touch little of them.
+    Evaluation(const Target& callers, const char* directory) : target(callers), iniPath(directory) {}
+
+    // Returns why there is an error instead of an answer.
+    Refusal run(std::string_view line, int uid, int board) {
+        for (std::string_view term; takeTerm(line, term);) {
+            const Decision decision = decide(term, uid, board);
+            const TermResult result = carryOut(decision);
+            if (result.refusal != Refusal::none) return end(decision, result.refusal);
+            if (result.output != Output::keep) output = result.output;
+        }
+        return finish();
+    }
+
+private:
+    const Target target;
+    const char* const iniPath;
+    Output output = Output::topOfStack; // the last term that does not keep it decides
+    ValueStack stack;
+    char txt[kKeplTextSize]; // the text of a term
+
+    TermResult carryOut(const Decision& decision) {
+        return std::visit(
+            Overloaded{
+                [](const SyntaxError&) { return refused(Refusal::syntaxError); },
+                [&](const RightsTooLow&) { return refusedForRights(decision.term); },
+                [&](const PushNumber& push) -> TermResult {
+                    // A literal number leaves the answer to other terms.
+                    return {stack.push({push.number, kTypeDouble}).refusal, Output::keep};
+                },
+                [&](const Compute& operate) { return compute(operate.operation, stack); },
+                [&](const RunCommand& run) { return runCommand(run, decision.term, iniPath, txt); },
+                [&](const RunShell& shell) {
+                    logNoted(decision.term);
+                    return runShell(shell, target.dataOut, target.terminator, txt);
+                },
+                [&](const VariableDecision& variable) { return access(variable); },
+            },
+            decision.action);
+    }
+
+    // A number that is read is pushed; a text stays in the result should a later term fail.
+    TermResult access(const VariableDecision& variable) {
+        std::optional<TypedNumber> value;
+        const TermResult result = accessVariable(variable, txt, value);
+        if (result.output == Output::text) copyText(target.result, kKeplTextSize, txt);
+        return result.output == Output::topOfStack ? stack.push(*value) : result;
+    }
+
+    // A refusal is also the answer of the line, but for syntax errors and errors of arithmetic. Lack of
+    // rights for a command is no error.
+    Refusal end(const Decision& decision, Refusal refusal) {
+        const bool isNoError = decision.get<RightsTooLow>() != nullptr;
+        if (isNoError || decision.get<VariableDecision>() != nullptr) answer(textOf(refusal));
+        return isNoError ? Refusal::none : refusal;
+    }
+
+    // Writes the answer when no term is left, or returns why there is none.
+    Refusal finish() {
+        switch (output) {
+        case Output::terminator:
+            answer("");
+            return Refusal::none;
+        case Output::text:
+            answer(txt);
+            return Refusal::none;
+        case Output::empty:
+            *target.result = '\0';
+            return Refusal::none;
+        case Output::keep:
+        case Output::topOfStack:
+            break;
+        }
+        if (stack.count == 0) return Refusal::syntaxError;
+        const int top = stack.count - 1;
+        const int decimals = typeOf(stack.types[top]).shownDecimals;
+        terminate(formatFixedPoint(target.result, stack.values[top], decimals));
+        return Refusal::none;
+    }
+
+    void answer(std::string_view text) {
+        if (!text.empty()) std::memcpy(target.result, text.data(), text.size());
+        terminate(text.size());
+    }
+
+    // Ends an answer of this length.
+    void terminate(std::size_t length) {
+        char* end = target.result + length;
+        const char* from = target.terminator; // mostly one character: not worth a call
+        do {
+            *end++ = *from;
+        } while (*from++ != '\0');
+    }
+};
 
 } // namespace
 
@@ -45,20 +152,10 @@ int KEPL_Interpreter::GetResult(char* expression, fnDataOut DataOut, char* resul
     if (length > kKeplMaxLine) return fail(szError, Refusal::syntaxError);
 
     // A copy: the answer or an output function may write over the line.
-    std::memcpy(strTokenBuffer, expression, length + 1);
-    std::string_view rest(strTokenBuffer, length);
-    kepl::Evaluation evaluation({DataOut != nullptr ? DataOut : discard, result, terminator}, szIniPath);
-    for (std::string_view term; kepl::takeTerm(rest, term);) {
-        const kepl::Decision decision = kepl::decide(term, uid, machine);
-        const Refusal refusal = evaluation.take(decision);
-        if (refusal == Refusal::none) continue;
-        // What ends the line is also its answer, but for syntax errors and errors of arithmetic.
-        const bool isVariable = decision.get<kepl::VariableDecision>() != nullptr;
-        const bool isNoError = decision.get<kepl::RightsTooLow>() != nullptr;
-        if (isVariable || isNoError) evaluation.answer(kepl::textOf(refusal));
-        return isNoError ? kLineDone : fail(szError, refusal);
-    }
-    const Refusal refusal = evaluation.finish();
+    std::memcpy(strTokenBuffer, expression, length);
+    const fnDataOut dataOut = DataOut != nullptr ? DataOut : discard;
+    Evaluation evaluation({dataOut, result, terminator}, szIniPath);
+    const Refusal refusal = evaluation.run({strTokenBuffer, length}, uid, machine);
     return refusal == Refusal::none ? kLineDone : fail(szError, refusal);
 }
 
@@ -71,27 +168,27 @@ int KEPL_Interpreter::GetError(char* buffer, int len) {
 int KEPL_Interpreter::read_machine() {
     char name[65];
     os::machineName(name, sizeof name);
-    for (const kepl::BoardRow& row : kepl::kBoards)
+    for (const BoardRow& row : kBoards)
         if (row.machine == name) return static_cast<int>(row.board);
-    return kepl::kOtherBoard;
+    return kOtherBoard;
 }
 
 int KEPL_Interpreter::GetNewValType(int type1, int type2) {
-    return kepl::promoted(type1, type2);
+    return promoted(type1, type2);
 }
 
 int KEPL_Interpreter::ProcessCommand(const char* theCommand, char* txt, double* adStack, int* aiType,
                                      int* iSP, int uid) {
     *txt = '\0';
-    const kepl::VariableDecision decision = kepl::decideVariable(theCommand, uid);
+    const VariableDecision decision(theCommand, uid);
     const bool isPlace = *iSP >= 0 && *iSP < kKeplStackSize;
-    std::optional<kepl::TypedNumber> value;
-    const kepl::TermResult result = kepl::accessVariable(decision, txt, value);
+    std::optional<TypedNumber> value;
+    const TermResult result = accessVariable(decision, txt, value);
     if (value && isPlace) {
         adStack[*iSP] = value->number;
         aiType[*iSP] = value->type;
     }
     if (result.refusal != Refusal::none) return fail(szError, result.refusal);
-    if (result.output == kepl::Output::topOfStack && !isPlace) return fail(szError, Refusal::syntaxError);
+    if (result.output == Output::topOfStack && !isPlace) return fail(szError, Refusal::syntaxError);
     return decision.term.value ? 0 : 1;
 }

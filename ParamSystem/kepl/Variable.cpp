@@ -19,12 +19,6 @@ Space spaceOf(const stParamProperties& row) {
     return row.is_volatile == 0 ? Space::temp : Space::global;
 }
 
-// 0 of commands, which have no value.
-double numberOf(const stParamProperties& row, int id) {
-    const std::optional<Value> value = readValue(spaceOf(row), id);
-    return value ? value->number() : 0.0;
-}
-
 // A text value in double quotes.
 using QuotedText = char[kTextSize + 2];
 
@@ -64,7 +58,7 @@ public:
             leave(0.0);
             return answering(Output::text);
         }
-        leave(numberOf(row(), row().id));
+        leave(readNumber(spaceOf(row()), row().id)); // 0 of commands, which have no value
         return answering(Output::topOfStack);
     }
 
@@ -96,7 +90,7 @@ public:
     }
 
     TermResult operator()(const WriteNumber& write) {
-        writeValue(spaceOf(row()), write.id, Value(write.number));
+        writeNumber(spaceOf(row()), write.id, write.number);
         return answering(Output::terminator);
     }
 
@@ -148,7 +142,7 @@ private:
             return show(style,
                         {" ", label.view(), text, after(text.substr(0, text.size() - 1), 1), index == 1});
         }
-        const double number = numberOf(row(), id);
+        const double number = readNumber(spaceOf(row()), id);
         leave(number);
         const NumberText text(number, typeOf(row()).shownDecimals);
         const NumberBytes bytes = encode(number, row().type);

@@ -1,5 +1,6 @@
 // Decisions about variable terms: the parts of the term, and every check in its order.
 #include <algorithm>
+#include <functional>
 
 #include "ParamSystem/dictionary/Lookup.h"
 #include "ParamSystem/kepl/Decision.h"
@@ -33,31 +34,38 @@ void takeIndices(std::string_view word, VariableTerm& parts) {
     if (parts.indices == 1) parts.last = parts.first;
 }
 
-// What may follow the name: an option or an index, then an option.
-void takeSecondAndThird(std::string_view second, std::string_view third, VariableTerm& parts) {
+bool isBlank(char c) {
+    return c == ' ' || c == '\r' || c == '\n';
+}
+
+// The next word of what precedes the value.
+std::string_view takeLeftWord(std::string_view& rest) {
+    takeUntil(rest, [](char c) { return !isBlank(c); });
+    return takeUntil(rest, [](char c) { return c == '=' || c == ' ' || c == '\r' || c == '\n'; });
+}
+
+// What may follow the name: an option or an index, then an option. Further words do not count.
+void takeSecondAndThird(std::string_view& rest, VariableTerm& parts) {
+    const std::string_view second = takeLeftWord(rest);
     if (second.starts_with('-'))
         takeOption(second, parts.style);
     else
         takeIndices(second, parts);
-    takeOption(third, parts.style);
-}
-
-std::string_view takeBlankSeparated(std::string_view& rest) {
-    return takeWordOf(rest, [](char c) { return c == ' ' || c == '\r' || c == '\n'; });
+    takeOption(takeLeftWord(rest), parts.style);
+    takeUntil(rest, [](char c) { return c == '='; });
 }
 
 VariableTerm partsOf(std::string_view term) {
     VariableTerm parts{term};
     if (term.size() > kKeplMaxTerm) return parts;
-    std::string_view left = takeWord(term, '=');
-    const std::string_view right = takeWord(term, '=');
-    if (!right.empty()) parts.value = withoutLeading(right, ' ');
-
-    const std::string_view name = takeBlankSeparated(left);
+    std::string_view rest = withoutLeading(term, '=');
+    const std::string_view name = takeLeftWord(rest);
     if (!name.empty()) parts.name = name;
-    if (left.empty()) return parts;
-    const std::string_view second = takeBlankSeparated(left);
-    takeSecondAndThird(second, takeBlankSeparated(left), parts);
+    if (rest.empty()) return parts;
+    if (rest.front() != '=') takeSecondAndThird(rest, parts);
+    rest = withoutLeading(rest, '=');
+    const std::string_view right = takeUntil(rest, [](char c) { return c == '='; });
+    if (!right.empty()) parts.value.emplace(withoutLeading(right, ' '));
     return parts;
 }
 
@@ -174,8 +182,9 @@ private:
     void checkClock(char separator) {
         std::string_view rest = *parts.value;
         const auto takeNumber = [&](VarLong& number) {
-            const auto ends = [=](char c) { return c == separator || c == '"'; };
-            return parseLong(takeWordOf(rest, ends), &number) == kParsed;
+            const auto isBetween = [=](char c) { return c == separator || c == '"'; };
+            takeUntil(rest, std::not_fn(isBetween));
+            return parseLong(takeUntil(rest, isBetween), &number) == kParsed;
         };
         SetClock set{id(), {}};
         if (demand(std::ranges::all_of(set.numbers, takeNumber), Refusal::syntaxError)) decision.action = set;
@@ -200,15 +209,13 @@ private:
 
 } // namespace
 
-VariableDecision decideVariable(std::string_view term, int uid) {
-    VariableDecision decision{partsOf(term)};
-    decision.row = findParameter(decision.term.name);
-    Checks checks(decision, uid);
-    if (decision.term.value)
+VariableDecision::VariableDecision(std::string_view text, int uid)
+    : term(partsOf(text)), row(findParameter(term.name)) {
+    Checks checks(*this, uid);
+    if (term.value)
         checks.write();
     else
         checks.read();
-    return decision;
 }
 
 } // namespace talux::kepl

@@ -2,7 +2,6 @@
 #ifndef TALUX_KEPL_WORDS_H
 #define TALUX_KEPL_WORDS_H
 
-#include <algorithm>
 #include <string_view>
 
 #include "support/Text.h"
@@ -23,13 +22,15 @@ constexpr std::string_view takeWord(std::string_view& rest, char delimiter) {
     return word;
 }
 
-// The same with a set of delimiters, given by a function.
-template <typename IsDelimiter>
-constexpr std::string_view takeWordOf(std::string_view& rest, IsDelimiter isDelimiter) {
-    const char* const start = std::find_if_not(rest.begin(), rest.end(), isDelimiter);
-    const char* const end = std::find_if(start, rest.end(), isDelimiter);
-    rest = {end, rest.end()};
-    return {start, end};
+// What precedes the first character that is an end; all when there is none. `rest` is left with what follows.
+template <typename IsEnd>
+constexpr std::string_view takeUntil(std::string_view& rest, IsEnd isEnd) {
+    std::size_t length = 0;
+    while (length < rest.size() && !isEnd(rest[length]))
+        ++length;
+    const std::string_view taken(rest.data(), length);
+    rest = after(rest, length);
+    return taken;
 }
 
 } // namespace talux::kepl

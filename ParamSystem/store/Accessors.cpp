@@ -201,7 +201,7 @@ void readThrough(Space space, int id, double* value) {
 void writeThrough(Space space, int id, const double* value) {
     const talux::Kind kind = talux::kindOf(id);
     if (kind == talux::Kind::None) return; // nothing of the caller's is read
-    if (!talux::isTextKind(kind)) return talux::writeValue(space, id, talux::Value(*value));
+    if (!talux::isTextKind(kind)) return talux::writeNumber(space, id, *value);
     const auto* const text = reinterpret_cast<const char*>(value);
     const std::size_t length = strnlen(text, talux::blockOf(kind).slot - 1);
     talux::writeValue(space, id, talux::Value(std::string_view(text, length)));

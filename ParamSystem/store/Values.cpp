@@ -63,13 +63,25 @@ std::optional<Value> readValueIn(int id) {
 }
 
 template <Space space>
-void writeValueIn(int id, const Value& value) {
+double readNumberIn(int id) {
+    double number = 0;
     withKind(kindOf(id), [&]<Kind kind>() {
-        if (value.isText() != isTextKind(kind)) return;
-        if constexpr (isTextKind(kind))
-            putText<kind, space>(id, value.text());
-        else
-            write<kind, space>(id, value.number());
+        if constexpr (!isTextKind(kind)) number = read<kind, space>(id);
+    });
+    return number;
+}
+
+template <Space space>
+void writeNumberIn(int id, double number) {
+    withKind(kindOf(id), [&]<Kind kind>() {
+        if constexpr (!isTextKind(kind)) write<kind, space>(id, number);
+    });
+}
+
+template <Space space>
+void writeTextIn(int id, const char* text) {
+    withKind(kindOf(id), [&]<Kind kind>() {
+        if constexpr (isTextKind(kind)) putText<kind, space>(id, text);
     });
 }
 
@@ -79,11 +91,19 @@ std::optional<Value> readValue(Space space, int id) {
     return space == Space::global ? readValueIn<Space::global>(id) : readValueIn<Space::temp>(id);
 }
 
+double readNumber(Space space, int id) {
+    return space == Space::global ? readNumberIn<Space::global>(id) : readNumberIn<Space::temp>(id);
+}
+
+void writeNumber(Space space, int id, double number) {
+    return space == Space::global ? writeNumberIn<Space::global>(id, number)
+                                  : writeNumberIn<Space::temp>(id, number);
+}
+
 void writeValue(Space space, int id, const Value& value) {
-    if (space == Space::global)
-        writeValueIn<Space::global>(id, value);
-    else
-        writeValueIn<Space::temp>(id, value);
+    if (!value.isText()) return writeNumber(space, id, value.number());
+    return space == Space::global ? writeTextIn<Space::global>(id, value.text())
+                                  : writeTextIn<Space::temp>(id, value.text());
 }
 
 std::optional<Value> storedAs(int id, const Value& value) {

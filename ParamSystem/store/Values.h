@@ -33,9 +33,13 @@ private:
 // Under the lock of the slot. Ids without a slot have no value, nor do the records.
 std::optional<Value> readValue(Space space, int id);
 
+// The same of a number; 0 where there is none.
+double readNumber(Space space, int id);
+
 // Under the lock of the slot. A number for a text slot, a text for a number slot and ids without a slot do
 // nothing.
 void writeValue(Space space, int id, const Value& value);
+void writeNumber(Space space, int id, double number);
 
 // What a read returns after `value` was written: cut, rounded or saturated to the slot. Nothing where
 // the write would do nothing.

@@ -166,7 +166,7 @@ void Plan::take(std::string_view typed, std::string_view value, const std::strin
     if (!meant) return;
     const std::string_view element = label.index.empty() ? "" : isIndex(label.index) ? label.index : "?";
     const std::string term = joined({parameter->name(), element.empty() ? "" : " ", element, "=", *meant});
-    const kepl::VariableDecision decision = kepl::decideVariable(term, kAllRights);
+    const kepl::VariableDecision decision(term, kAllRights);
     if (const auto* const refusal = decision.get<kepl::Refused>()) {
         const bool isReadOnly = refusal->refusal == kepl::Refusal::readOnly;
         if (isReadOnly && onDevice && isPresent(*parameter, value)) return;
