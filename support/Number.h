@@ -13,7 +13,8 @@ namespace talux {
 template <typename Integer>
 constexpr Integer saturated(double value) {
     using Limits = std::numeric_limits<Integer>;
-    constexpr double kEnd = 2.0 * static_cast<double>(Limits::max() / 2 + 1); // one more than the maximum
+    constexpr Integer kHalf = Limits::max() / 2 + 1; // of one more than the maximum, which a double can hold
+    constexpr double kEnd = 2.0 * static_cast<double>(kHalf);
     if (value != value) return 0;
     if (value >= kEnd) return Limits::max();
     if (value <= static_cast<double>(Limits::min())) return Limits::min();
