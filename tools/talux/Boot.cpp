@@ -1,11 +1,9 @@
 // talux boot: what a boot script does once, before any other program of the device.
 #include <cstdio>
 
-#include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/kepl/Board.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Os.h"
-#include "tools/talux/Show.h"
 #include "tools/talux/StoredFile.h"
 #include "tools/talux/change/Apply.h"
 

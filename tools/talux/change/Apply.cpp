@@ -7,14 +7,12 @@
 #include <unistd.h>
 
 #include "ParamSystem/KEPL_Interpreter.h"
-#include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/network/SettingIds.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Os.h"
 #include "tools/talux/Difference.h"
 #include "tools/talux/Files.h"
 #include "tools/talux/Plausibility.h"
-#include "tools/talux/Show.h"
 
 namespace talux::tool {
 
@@ -143,8 +141,7 @@ private:
             text += context.say(" The address is applied at once and may cut you off: `talux address` takes "
                                 "it back by itself.",
                                 " Die Adresse wird sofort angewendet und kann die Verbindung trennen: `talux "
-                                "address` nimmt sie "
-                                "selbst zurück.");
+                                "address` nimmt sie selbst zurück.");
         const auto others = pendingSettings(context);
         if ((isApplied() || order.reach() != Reach::pending) && others > 0)
             text += context.say(" Other pending settings become live, too: {}.",
@@ -160,18 +157,14 @@ private:
         if (!writes.empty()) replace(lastChange(context), journal.text(context), context, &rights);
     }
 
-    void demandUnchanged() const {
-        for (const Write& write : writes)
-            if (write.isChanged())
-                context.fail("nothing is written: {} has changed meanwhile",
-                             "nichts ist geschrieben: {} hat sich inzwischen geändert", write.label());
-    }
-
     void writeAll() {
         const auto lock = oneAtATime(context);
         if (const std::string half = interruption(context); !order.mends && !half.empty())
             throw CouldNot(half);
-        demandUnchanged();
+        for (const Write& write : writes)
+            if (write.isChanged())
+                context.fail("nothing is written: {} has changed meanwhile",
+                             "nichts ist geschrieben: {} hat sich inzwischen geändert", write.label());
         const Undisturbed undisturbed;
         keep();
         for (const Write& write : writes) {
@@ -186,7 +179,8 @@ private:
         if (order.reach() == Reach::live) VarUpdateGlobalSpace();
         if (order.reach() != Reach::saved) return;
         std::set<File> files = order.files;
-        files.merge(filesOf(writes));
+        for (const Write& write : writes)
+            files.insert(write.parameter->file());
         save(files, context);
     }
 
@@ -205,17 +199,6 @@ private:
 };
 
 } // namespace
-
-void applyAtOnce(const Journal& /*journal*/) {
-    VarSetSystemIPs();
-}
-
-std::set<File> filesOf(const Writes& writes) {
-    std::set<File> files;
-    for (const Write& write : writes)
-        files.insert(write.parameter->file());
-    return files;
-}
 
 Json changesJson(const Writes& writes) {
     return Json::arrayOf(writes, [](const Write& write) {

@@ -3,12 +3,10 @@
 #ifndef TALUX_TOOLS_TALUX_CHANGE_APPLY_H
 #define TALUX_TOOLS_TALUX_CHANGE_APPLY_H
 
-#include "tools/Json.h"
+#include "ParamSystem/TALUX_Var.h"
 #include "tools/talux/change/Journal.h"
 
 namespace talux::tool {
-
-void applyAtOnce(const Journal& journal);
 
 // What the commands that change settings take, and what they add to it.
 struct Order {
@@ -19,7 +17,7 @@ struct Order {
 
     std::string what; // the command, for the record and the system log
     // Applies addresses to the system; none: leaves them.
-    std::function<void(const Journal&)> apply = applyAtOnce;
+    std::function<void(const Journal&)> apply = [](const Journal&) { VarSetSystemIPs(); };
     bool appliesAll = false;             // netmasks and gateways, too
     std::function<bool()> isConfirmed{}; // asked afterwards; none: nobody has to confirm it
     std::set<reference::File> files{};   // to save, besides those of what is written
@@ -54,7 +52,6 @@ bool takeAddressBack(bool applies, const Context& context);
 
 // Throws CouldNot if one is not surely on the disk.
 void save(const std::set<reference::File>& files, const Context& context);
-std::set<reference::File> filesOf(const Writes& writes);
 
 Json changesJson(const Writes& writes);
 

@@ -11,12 +11,10 @@
 #include <time.h>
 #include <unistd.h>
 
-#include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Interfaces.h"
 #include "ParamSystem/os/Os.h"
 #include "tools/talux/Files.h"
-#include "tools/talux/Show.h"
 #include "tools/talux/change/Apply.h"
 
 namespace talux::tool {
@@ -176,7 +174,7 @@ Status confirm(Order& order, const Context& context) {
     const auto lock = oneAtATime(context);
     const auto journal = Journal::read(openAddress(context), context);
     if (!journal) context.fail("no address waits to be confirmed", "keine Adresse wartet auf Bestätigung");
-    save(filesOf(journal->writes), context);
+    save({reference::File::address}, context);
     os::removeFile(openAddress(context).c_str());
     const std::string changes = journal->inWords(context);
     os::logInfo("talux confirm: %s by %s", changes.c_str(), whoAmI().c_str());

@@ -3,7 +3,6 @@
 #include <sys/stat.h>
 
 #include "tools/talux/Difference.h"
-#include "tools/talux/Show.h"
 #include "tools/talux/StoredFile.h"
 #include "tools/talux/change/Apply.h"
 

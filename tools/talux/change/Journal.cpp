@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cstdio>
 #include <cstdlib>
 #include <pwd.h>
 #include <unistd.h>
@@ -9,7 +10,6 @@
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Os.h"
 #include "tools/talux/Files.h"
-#include "tools/talux/Show.h"
 
 namespace talux::tool {
 
@@ -28,14 +28,11 @@ bool isPlain(char c) {
 std::string encoded(const Parameter& parameter, const std::optional<Value>& value) {
     if (!value) return {};
     if (!value->isText()) return plain(parameter, *value);
-    constexpr char kDigits[] = "0123456789ABCDEF";
     std::string text = "\"";
     for (const char c : std::string_view(value->text())) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (isPlain(c))
-            text += c;
-        else
-            text += {'\\', 'x', kDigits[byte >> 4], kDigits[byte & 15]};
+        char code[8] = {c};
+        if (!isPlain(c)) std::snprintf(code, sizeof code, "\\x%02X", static_cast<unsigned char>(c));
+        text += code;
     }
     return text + "\"";
 }
@@ -43,9 +40,9 @@ std::string encoded(const Parameter& parameter, const std::optional<Value>& valu
 std::optional<Value> decoded(std::string_view text) {
     if (!text.starts_with('"')) {
         double number = 0;
-        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-        if (error != std::errc() || end != text.data() + text.size()) return {};
-        return Value(number);
+        const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+        const bool isAll = read.ec == std::errc() && read.ptr == text.data() + text.size();
+        return isAll ? std::optional(Value(number)) : std::nullopt;
     }
     std::string bytes;
     for (std::size_t k = 1; k + 1 < text.size(); ++k) {
@@ -147,14 +144,6 @@ Writes Journal::written() const {
     return found;
 }
 
-std::string lastChange(const Context& context) {
-    return context.directory + "/last_change.tsv";
-}
-
-std::string openAddress(const Context& context) {
-    return context.directory + "/address_change.tsv";
-}
-
 std::string interruption(const Context& context) try {
     if (const auto open = Journal::read(openAddress(context), context))
         return context.say("'{}' of {} by {} waits for `talux confirm` or `talux undo`",
@@ -170,11 +159,9 @@ std::string interruption(const Context& context) try {
         "es zurück",
         journal->what, journal->when, journal->who, list(half, ", ", std::mem_fn(&Write::label)));
 } catch (const CouldNot& damage) {
-    return damage.what() + std::string(context.say("; it cannot be taken back: remove the file to change "
-                                                   "settings, `talux discard` gives up what is pending",
-                                                   "; zurücknehmen lässt sich damit nichts: zum Ändern die "
-                                                   "Datei entfernen, `talux discard` verwirft "
-                                                   "Ausstehendes"));
+    return context.say("{}; remove the file to change settings; `talux discard` gives up what is pending",
+                       "{}; zum Ändern die Datei entfernen; `talux discard` verwirft Ausstehendes",
+                       damage.what());
 }
 
 } // namespace talux::tool

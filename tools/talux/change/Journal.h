@@ -35,8 +35,12 @@ struct Journal {
 };
 
 // Of the last change of the device; of an address that waits to be confirmed.
-std::string lastChange(const Context& context);
-std::string openAddress(const Context& context);
+inline std::string lastChange(const Context& context) {
+    return context.directory + "/last_change.tsv";
+}
+inline std::string openAddress(const Context& context) {
+    return context.directory + "/address_change.tsv";
+}
 
 // What a change that has not come to its end left half or open, and how to end it; empty when nothing is.
 std::string interruption(const Context& context);

@@ -1,7 +1,6 @@
 #include "tools/talux/change/Plan.h"
 
 #include <charconv>
-#include <cmath>
 #include <tuple>
 
 #include "ParamSystem/kepl/Clock.h"
@@ -10,7 +9,6 @@
 #include "tools/talux/Files.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/LineCheck.h"
-#include "tools/talux/Show.h"
 
 namespace talux::tool {
 
@@ -36,16 +34,6 @@ const Parameter* inSeries(const Label& label) {
     return nullptr;
 }
 
-bool isNumber(std::string_view text) {
-    double number = 0;
-    const char* const end = text.data() + text.size();
-    return !text.empty() && std::from_chars(text.data(), end, number).ptr == end;
-}
-
-bool isIndex(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
-}
-
 // Whether it is what is there: files hold what can only be read, too.
 bool isPresent(const Parameter& parameter, std::string_view value) {
     const auto there = present(parameter, parameter.row().id);
@@ -61,12 +49,26 @@ std::set<int> choicesCalled(std::string_view text, const Parameter& parameter) {
     return numbers;
 }
 
-// Whether it is no choice's number, but one is called so: a baud rate.
-bool isOnlyText(std::string_view value, const Parameter& parameter) {
+// A number that is no choice's, while one is called so, is a text: a baud rate.
+bool isNumberOf(const Parameter& parameter, std::string_view text) {
     double number = 0;
-    std::from_chars(value.data(), value.data() + value.size(), number);
-    return parameter.type().kind == Kind::Enum && !isInRange(parameter, number) &&
-           !choicesCalled(value, parameter).empty();
+    const char* const end = text.data() + text.size();
+    if (text.empty() || std::from_chars(text.data(), end, number).ptr != end) return false;
+    return parameter.type().kind != Kind::Enum || isInRange(parameter, number) ||
+           choicesCalled(text, parameter).empty();
+}
+
+std::string whyNoNumber(const Parameter& parameter, std::string_view text, bool isAmbiguous,
+                        const Context& context) {
+    const char* const pattern =
+        isAmbiguous ? context.say("several choices are called '{}', give the number",
+                                  "'{}' heißt mehr als eine Auswahl, die Nummer ist nötig")
+        : parameter.type().kind == Kind::Enum ? context.say("has no choice '{}'", "hat keine Auswahl '{}'")
+                                              : context.say("'{}' is not a number", "'{}' ist keine Zahl");
+    const char* const hint = text.find(',') == text.npos
+                                 ? ""
+                                 : context.say("; decimals need a point", "; Dezimalen brauchen einen Punkt");
+    return fill(pattern, {printable(text)}) + hint;
 }
 
 // How the clock's parameters show it.
@@ -80,6 +82,21 @@ bool isMoment(std::string_view text, const kepl::VariableDecision& decision) {
     std::time_t seconds = 0;
     return kepl::clockSetTo(decision.get<kepl::SetClock>()->numbers, nature, seconds) &&
            localTimeText(seconds, formatOf(nature)) == text;
+}
+
+// Why the value cannot be written; empty when it can.
+std::string objection(const Parameter& parameter, const Value& value, const Context& context) {
+    const auto kept = storedAs(parameter.row().id, value);
+    if (!kept) return context.say("holds no value", "hat keinen speicherbaren Wert");
+    const std::string_view text = value.text();
+    const rules::Objection against = value.isText() ? rules::check(parameter.facts(), text)
+                                                    : rules::check(parameter.facts(), value.number());
+    if (against)
+        return joined({plain(parameter, value), " ", describe(against, parameter, context.language)});
+    if (!value.isText()) return {};
+    if (!isUtf8(text)) return context.say("the text is not UTF-8", "der Text ist nicht UTF-8");
+    const auto finding = wouldNotComeBack(parameter, value, context);
+    return finding ? finding->text : "";
 }
 
 } // namespace
@@ -97,87 +114,51 @@ std::optional<Value> present(const Parameter& parameter, int id) {
     return Value(timeText(now, formatOf(parameter.type().nature)));
 }
 
-std::string Write::change(const Context& context) const {
-    return tool::change(*parameter, from, to, context);
-}
-
-std::optional<Value> Write::present() const {
-    return tool::present(*parameter, id());
-}
-
-std::string objection(const Parameter& parameter, const Value& value, const Context& context) {
-    const auto kept = storedAs(parameter.row().id, value);
-    if (!kept) return context.say("holds no value", "hat keinen speicherbaren Wert");
-    const std::string_view text = value.text();
-    const rules::Objection against = value.isText() ? rules::check(parameter.facts(), text)
-                                                    : rules::check(parameter.facts(), value.number());
-    if (against)
-        return joined({plain(parameter, value), " ", describe(against, parameter, context.language)});
-    if (!value.isText()) return {};
-    if (!isUtf8(text)) return context.say("the text is not UTF-8", "der Text ist nicht UTF-8");
-    const auto finding = wouldNotComeBack(parameter, value, context);
-    return finding ? finding->text : "";
-}
-
-void Plan::refuse(const std::string& place, std::string_view label, std::string_view reason) {
+void Plan::refuse(std::string_view label, std::string_view reason) {
     refused.push_back(joined({place, printable(label), ": ", reason}));
 }
 
-void Plan::add(const Parameter& parameter, int index, const Value& value, const std::string& place) {
+void Plan::add(const Parameter& parameter, int index, const Value& value) {
     Write write{&parameter, index, {}, value};
     if (onDevice) write.from = write.present();
     const auto kept = storedAs(write.id(), value);
+    named.insert(parameter.file());
     if (!ids.insert(write.id()).second)
-        return refuse(place, write.label(), context.say("is named twice", "ist zweimal genannt"));
+        return refuse(write.label(), context.say("is named twice", "ist zweimal genannt"));
     if (!write.setsClock() && kept && sameValue(write.from, kept)) return;
     if (const std::string reason = objection(parameter, value, context); !reason.empty())
-        return refuse(place, write.label(), reason);
+        return refuse(write.label(), reason);
     write.to = *kept;
     planned.push_back(write);
 }
 
-// That of the choice which is called so; none with a refusal.
-std::optional<std::string> Plan::number(const Parameter& parameter, std::string_view text,
-                                        const std::string& place, std::string_view label) {
-    const auto numbers = choicesCalled(text, parameter);
-    if (numbers.size() == 1) return std::to_string(*numbers.begin());
-    const std::string called = printable(text);
-    std::string reason = numbers.size() > 1
-                             ? context.say("several choices are called '{}', give the number",
-                                           "'{}' heißt mehr als eine Auswahl, die Nummer ist nötig", called)
-                         : parameter.type().kind == Kind::Enum
-                             ? context.say("has no choice '{}'", "hat keine Auswahl '{}'", called)
-                             : context.say("'{}' is not a number", "'{}' ist keine Zahl", called);
-    if (text.find(',') != text.npos)
-        reason += context.say("; decimals need a point", "; Dezimalen brauchen einen Punkt");
-    refuse(place, label, reason);
-    return {};
-}
-
-void Plan::take(std::string_view typed, std::string_view value, const std::string& place) {
-    Label label = labelIn(typed);
-    const Parameter* parameter = reference::find(label.name);
-    if (parameter == nullptr && (parameter = inSeries(label)) != nullptr) label.index = {};
-    if (parameter == nullptr) return refuse(place, typed, unknownName(label.name, context));
+void Plan::take(std::string_view typed, std::string_view value) {
+    auto [name, index] = labelIn(typed);
+    const Parameter* parameter = reference::find(name);
+    if (parameter == nullptr && (parameter = inSeries({name, index})) != nullptr) index = {};
+    if (parameter == nullptr) return refuse(typed, unknownName(name, context));
     const bool isClock = isOfClock(*parameter), isText = talux::isText(parameter->row()) && !isClock;
-    std::optional<std::string> meant(isText ? "x" : value);
-    const bool isKnownNumber = isText || isClock || (isNumber(value) && !isOnlyText(value, *parameter));
-    if (!isKnownNumber) meant = number(*parameter, value, place, typed);
-    if (!meant) return;
-    const std::string_view element = label.index.empty() ? "" : isIndex(label.index) ? label.index : "?";
-    const std::string term = joined({parameter->name(), element.empty() ? "" : " ", element, "=", *meant});
+    std::string meant(isText ? "x" : value);
+    if (!isText && !isClock && !isNumberOf(*parameter, value)) {
+        const auto numbers = choicesCalled(value, *parameter);
+        if (numbers.size() != 1)
+            return refuse(typed, whyNoNumber(*parameter, value, numbers.size() > 1, context));
+        meant = std::to_string(*numbers.begin());
+    }
+    const bool isIndex = index.find_first_not_of("0123456789") == index.npos;
+    const std::string term =
+        joined({parameter->name(), index.empty() ? "" : " ", isIndex ? index : "?", "=", meant});
     const kepl::VariableDecision decision(term, kAllRights);
     if (const auto* const refusal = decision.get<kepl::Refused>()) {
         const bool isReadOnly = refusal->refusal == kepl::Refusal::readOnly;
         if (isReadOnly && onDevice && isPresent(*parameter, value)) return;
-        return refuse(place, typed, reasonOf(decision, context));
+        return refuse(typed, reasonOf(decision, context));
     }
     if (isClock && !isMoment(value, decision))
-        return refuse(place, typed,
-                      context.say("the clock has no {}", "die Uhr kennt kein {}", printable(value)));
+        return refuse(typed, context.say("the clock has no {}", "die Uhr kennt kein {}", printable(value)));
     const auto* const write = decision.get<kepl::WriteNumber>();
     add(*parameter, static_cast<int>(decision.term.first),
-        write != nullptr ? Value(write->number) : Value(value), place);
+        write != nullptr ? Value(write->number) : Value(value));
 }
 
 void Plan::checkDevice(std::string_view line, const std::string& path) const {
@@ -188,7 +169,7 @@ void Plan::checkDevice(std::string_view line, const std::string& path) const {
                  printable(line), here ? printable(here->text()) : "-");
 }
 
-void Plan::readLine(std::string_view line, const std::string& place) {
+void Plan::readLine(std::string_view line) {
     if (withoutBlanks(line).empty()) return;
     std::string_view right = line;
     const std::string_view left = withoutBlanks(takeUpTo(right, '='));
@@ -201,12 +182,11 @@ void Plan::readLine(std::string_view line, const std::string& place) {
     }
     if (entry.form != LineForm::entry) return;
     if (entry.tail == Tail::text || (entry.isQuoted && !entry.isClosed))
-        return refuse(
-            place, withoutBlanks(line),
-            context.say("the text after the value is not read", "der Text nach dem Wert wird nicht gelesen"));
+        return refuse(withoutBlanks(line), context.say("the text after the value is not read",
+                                                       "der Text nach dem Wert wird nicht gelesen"));
     const Parameter* const parameter = reference::find(entry.name);
     if (parameter != nullptr && isOfClock(*parameter)) return;
-    take(entry.name, entry.isQuoted ? entry.value : withoutBlanks(entry.value), place);
+    take(entry.name, entry.isQuoted ? entry.value : withoutBlanks(entry.value));
 }
 
 void Plan::read(const std::string& path) {
@@ -219,15 +199,10 @@ void Plan::read(const std::string& path) {
     for (int number = 1; !rest.empty(); ++number) {
         const std::string_view line = takeUpTo(rest, '\n');
         if (number == 1 && line.starts_with(kFor)) checkDevice(withoutBlanks(line.substr(kFor.size())), path);
-        readLine(line, fill("{}:{}: ", {printable(path), std::to_string(number)}));
+        place = fill("{}:{}: ", {printable(path), std::to_string(number)});
+        readLine(line);
     }
-}
-
-std::set<reference::File> Plan::files() const {
-    std::set<reference::File> all;
-    for (const int id : ids)
-        all.insert(fileOf(*GetParamProperties(id)));
-    return all;
+    place = {};
 }
 
 Writes Plan::writes() const {

@@ -5,9 +5,13 @@
 
 #include <set>
 
-#include "tools/talux/Source.h"
+#include "tools/talux/Show.h"
 
 namespace talux::tool {
+
+// What a program that writes reads: a setting's value in the working copy, any other's where the device has
+// it; of the clock what it shows now.
+std::optional<Value> present(const Parameter& parameter, int id);
 
 // One value to write.
 struct Write {
@@ -17,9 +21,9 @@ struct Write {
     Value to;
 
     int id() const { return parameter->row().id + (index > 0 ? index - 1 : 0); }
-    std::string label() const;                        // NAME or NAME[3]
-    std::string change(const Context& context) const; // "30 -> 35 %"
-    std::optional<Value> present() const;             // what is there now
+    std::string label() const; // NAME or NAME[3]
+    std::string change(const Context& context) const { return tool::change(*parameter, from, to, context); }
+    std::optional<Value> present() const { return tool::present(*parameter, id()); } // what is there now
     bool setsClock() const { return isOfClock(*parameter); }
     // Of the clock, which goes on, neither is ever known: it counts as written.
     bool isChanged() const { return !setsClock() && !sameValue(present(), from); }
@@ -29,17 +33,13 @@ struct Write {
 };
 using Writes = std::vector<Write>;
 
-// What a program that writes reads: a setting's value in the working copy, any other's where the device has
-// it; of the clock what it shows now.
-std::optional<Value> present(const Parameter& parameter, int id);
-
 class Plan {
 public:
     // Without the device it only says what cannot be written.
     explicit Plan(const Context& person, bool isOnDevice = true) : context(person), onDevice(isOnDevice) {}
 
-    // A value as it is typed: a number, the number or text of a choice, a text. Refusals begin with `place`.
-    void take(std::string_view label, std::string_view value, const std::string& place = "");
+    // A value as it is typed: a number, the number or text of a choice, a text.
+    void take(std::string_view label, std::string_view value);
 
     // A file of such lines, in the form of parameter files; the prefix TLX_ may be missing, blanks may be
     // around "=". As a load does, it leaves the clock alone. Throws CouldNot when it is for another device
@@ -51,14 +51,14 @@ public:
     void copy(const Source& source, Leaves leaves) {
         for (const Parameter& parameter : settings())
             if (const auto value = source.value(parameter); value && !leaves(parameter))
-                add(parameter, 0, *value, "");
+                add(parameter, 0, *value);
     }
 
     // One for each value that cannot be written.
     const std::vector<std::string>& refusals() const { return refused; }
 
     // Those of all settings that are named, whether they differ or not.
-    std::set<reference::File> files() const;
+    const std::set<reference::File>& files() const { return named; }
 
     // What differs from what is there, in the order in which it has to be written: the clock and then the
     // addresses last, since they cannot be taken back.
@@ -69,18 +69,15 @@ private:
     const bool onDevice;
     Writes planned;
     std::set<int> ids;
+    std::set<reference::File> named;
     std::vector<std::string> refused;
+    std::string place; // "FILE:LINE: ", precedes a refusal
 
-    void readLine(std::string_view line, const std::string& place);
+    void readLine(std::string_view line);
     void checkDevice(std::string_view line, const std::string& path) const;
-    std::optional<std::string> number(const Parameter& parameter, std::string_view text,
-                                      const std::string& place, std::string_view label);
-    void refuse(const std::string& place, std::string_view label, std::string_view reason);
-    void add(const Parameter& parameter, int index, const Value& value, const std::string& place);
+    void refuse(std::string_view label, std::string_view reason);
+    void add(const Parameter& parameter, int index, const Value& value);
 };
-
-// Why the value cannot be written; empty when it can.
-std::string objection(const Parameter& parameter, const Value& value, const Context& context);
 
 } // namespace talux::tool
 

@@ -1,7 +1,6 @@
 // talux set, apply, undo, discard: settings changed all or none, and back.
 #include "ParamSystem/os/Files.h"
 #include "tools/talux/Difference.h"
-#include "tools/talux/Show.h"
 #include "tools/talux/change/Apply.h"
 
 namespace talux::tool {
