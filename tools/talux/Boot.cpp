@@ -49,7 +49,7 @@ public:
         VarInit(directory.data());
         VarSetDefault();
         VarUpdateGlobalSpace();
-        say(context.say("factory defaults are live", "Werkseinstellungen sind aktiv"));
+        tell(context.say("factory defaults are live", "Werkseinstellungen sind aktiv"));
         load(File::normal, VarLoadParams);
         load(File::security, VarLoadSecParams);
         const bool isUnconfirmed = os::exists(openAddress(context).c_str());
@@ -59,12 +59,12 @@ public:
             takeBack();
         else if (applies && !isLoaded)
             VarSetSystemIPs(); // the factory addresses
-        say(applies
-                ? context.say("network, name server and clock are applied",
-                              "Netzwerk, Nameserver und Uhr sind angewendet")
-                : context.say("network and clock are left alone: no device's processor; --apply applies them",
-                              "Netzwerk und Uhr bleiben, wie sie sind: kein Prozessor eines Geräts; --apply "
-                              "wendet sie an"));
+        tell(applies ? context.say("network, name server and clock are applied",
+                                   "Netzwerk, Nameserver und Uhr sind angewendet")
+                     : context.say(
+                           "network and clock are left alone: no device's processor; --apply applies them",
+                           "Netzwerk und Uhr bleiben, wie sie sind: kein Prozessor eines Geräts; --apply "
+                           "wendet sie an"));
         if (!found.empty()) os::logError("talux boot: %s", found.c_str());
         return status;
     }
@@ -76,35 +76,29 @@ private:
     Status status = kNothing;
     std::string found; // what is wrong with the files, for the system log
 
-    static void say(const std::string& text) {
+    void tell(const std::string& text, Status reached = kNothing) {
+        status = std::max(status, reached);
+        if (reached != kNothing) found += (found.empty() ? "" : "; ") + text;
         print(text + "\n");
         std::fflush(stdout); // the commands that apply settings write there too
-    }
-
-    void remember(Status reached, const std::string& text) {
-        status = std::max(status, reached);
-        found += (found.empty() ? "" : "; ") + text;
-        say(text);
     }
 
     // Whether it has been loaded.
     bool load(File file, int (*loadFile)()) {
         const std::string path = pathOf(file, context);
         if (!os::exists(path.c_str())) {
-            say(context.say("{}: not there, the defaults stay",
-                            "{}: nicht da, die Werkseinstellungen bleiben", path));
+            tell(context.say("{}: not there, the defaults stay",
+                             "{}: nicht da, die Werkseinstellungen bleiben", path));
             return false;
         }
         const StoredFile stored = lookAt(path, file, context);
         if (!stored.isUsable()) {
-            remember(stored.unreadable.empty() ? kFound : kCouldNot, whyUnusable(path, stored));
+            tell(whyUnusable(path, stored), stored.unreadable.empty() ? kFound : kCouldNot);
             fallBack(file);
         } else if (loadFile() != 1) {
-            remember(kCouldNot, cannotLoad(path));
-        } else if (stored.isComplete()) {
-            say(whatIsIn(path, stored));
+            tell(cannotLoad(path), kCouldNot);
         } else {
-            remember(kFound, whatIsIn(path, stored));
+            tell(whatIsIn(path, stored), stored.isComplete() ? kNothing : kFound);
         }
         return stored.isUsable();
     }
@@ -138,16 +132,15 @@ private:
         auto copy = newestWholeCopy(file, context);
         if (!copy) return;
         if (!options.fallback)
-            return remember(kFound,
-                            context.say("{} is the newest whole copy; --fallback loads it",
-                                        "{} ist die neueste ganze Kopie; --fallback lädt sie", *copy));
+            return tell(context.say("{} is the newest whole copy; --fallback loads it",
+                                    "{} ist die neueste ganze Kopie; --fallback lädt sie", *copy),
+                        kFound);
         const bool isLoaded = VarLoadFile(copy->data(), 0) == 1;
         if (file == File::security) keepEncryption();
         raise(rowOf(kParameterFiles, file).flag);
-        if (isLoaded)
-            remember(kFound, context.say("{}: loaded instead", "{}: stattdessen geladen", *copy));
-        else
-            remember(kCouldNot, cannotLoad(*copy));
+        tell(isLoaded ? context.say("{}: loaded instead", "{}: stattdessen geladen", *copy)
+                      : cannotLoad(*copy),
+             isLoaded ? kFound : kCouldNot);
     }
 
     // As VarLoadSecParams: no file may switch it off.
@@ -160,11 +153,12 @@ private:
     // The supply failed before somebody confirmed the new ones.
     void takeBack() try {
         takeAddressBack(applies, context);
-        remember(kFound, context.say("an address was not confirmed: the old one is back",
-                                     "eine Adresse wurde nicht bestätigt: die alte gilt wieder"));
+        tell(context.say("an address was not confirmed: the old one is back",
+                         "eine Adresse wurde nicht bestätigt: die alte gilt wieder"),
+             kFound);
     } catch (const CouldNot& damage) { // the file has the old ones
         if (applies) VarSetSystemIPs();
-        remember(kCouldNot, damage.what());
+        tell(damage.what(), kCouldNot);
     }
 };
 

@@ -57,13 +57,10 @@ Status forEachFile(const std::vector<std::string>& paths,
 }
 
 template <class Value>
-void Command::argument(Wording name, Value& value, Wording help) {
-    app->add_option(name.in(language), value, help.in(language))->type_name("")->required();
-}
-
-template <class Value>
-void Command::optionalArgument(Wording name, Value& value, Wording help) {
-    app->add_option(name.in(language), value, help.in(language))->type_name("");
+void Command::argument(Wording name, Value& value, Wording help, Need need) {
+    app->add_option(name.in(language), value, help.in(language))
+        ->type_name("")
+        ->required(need == Need::required);
 }
 
 // Of one value the last that is typed counts.
@@ -97,10 +94,8 @@ void Command::choice(const char* name, std::string& value, const std::vector<std
           [=](const std::string& text) { return std::ranges::find(choices, text) != choices.end(); });
 }
 
-template void Command::argument(Wording, std::string&, Wording);
-template void Command::argument(Wording, std::vector<std::string>&, Wording);
-template void Command::optionalArgument(Wording, std::string&, Wording);
-template void Command::optionalArgument(Wording, std::vector<std::string>&, Wording);
+template void Command::argument(Wording, std::string&, Wording, Need);
+template void Command::argument(Wording, std::vector<std::string>&, Wording, Need);
 template void Command::option(const char*, std::string&, Wording, double, double);
 template void Command::option(const char*, std::vector<std::string>&, Wording, double, double);
 template void Command::option(const char*, int&, Wording, double, double);
@@ -160,20 +155,20 @@ const Command* CommandLine::find(std::string_view name) const {
 
 // The texts of CLI11 begin with the name of what they are about.
 std::string CommandLine::refusal(const std::string& reason) const {
-    const auto say = [this](Wording pattern, const std::string& name) {
-        return fill(pattern.in(language), {name});
-    };
     const auto unexpected = app->remaining(true);
     const bool hasCommand = !app->get_subcommands().empty();
-    if (!unexpected.empty()) {
-        if (hasCommand || unexpected.front().starts_with('-'))
-            return say({"{} is not expected here", "{} ist hier nicht vorgesehen"}, unexpected.front());
-        return say({"{} is not a command", "{} ist kein Befehl"}, unexpected.front());
-    }
-    const std::string name = reason.substr(0, reason.find_first_of(": "));
-    if (name.starts_with('-')) return say({"{} needs a value", "{} braucht einen Wert"}, name);
-    if (!hasCommand) return Wording("the command is missing", "der Befehl fehlt").in(language);
-    return say({"{} is missing", "{} fehlt"}, name);
+    const std::string name =
+        unexpected.empty() ? reason.substr(0, reason.find_first_of(": ")) : unexpected.front();
+    const bool isOption = name.starts_with('-');
+    const auto pattern = [&]() -> Wording {
+        if (!unexpected.empty())
+            return hasCommand || isOption ? Wording("{} is not expected here", "{} ist hier nicht vorgesehen")
+                                          : Wording("{} is not a command", "{} ist kein Befehl");
+        if (isOption) return {"{} needs a value", "{} braucht einen Wert"};
+        return hasCommand ? Wording("{} is missing", "{} fehlt")
+                          : Wording("the command is missing", "der Befehl fehlt");
+    };
+    return fill(pattern().in(language), {name});
 }
 
 const Command* CommandLine::parse(int argc, char** argv) {

@@ -1,6 +1,5 @@
 // What the commands of talux share: how they are registered and what they take, in which language they speak,
-// how they end. The header of CLI11, which does the work, costs seconds in each source that reads it: only
-// Command.cpp does.
+// how they end. Only Command.cpp reads the header of CLI11, which costs seconds.
 #ifndef TALUX_TOOLS_TALUX_COMMAND_H
 #define TALUX_TOOLS_TALUX_COMMAND_H
 
@@ -84,6 +83,7 @@ struct Context {
     ParamLanguage otherLanguage() const { return language == kGerman ? kEnglish : kGerman; }
 };
 
+enum class Need { required, optional };
 constexpr double kNoLimit = std::numeric_limits<double>::infinity();
 
 // A command, or the program itself.
@@ -96,12 +96,9 @@ public:
     Run run;
     bool isPaged = false;
 
-    // What is typed without a name, in the order of the calls: a text or several. It must be there, or may
-    // be.
+    // What is typed without a name, in the order of the calls: a text or several.
     template <class Value>
-    void argument(Wording name, Value& value, Wording help);
-    template <class Value>
-    void optionalArgument(Wording name, Value& value, Wording help);
+    void argument(Wording name, Value& value, Wording help, Need need = Need::required);
     // Names begin with "-". A text, several words, or a number within limits.
     template <class Value>
     void option(const char* name, Value& value, Wording help, double minimum = -kNoLimit,
@@ -143,8 +140,7 @@ public:
 
     const Command* find(std::string_view name) const; // null when there is none
 
-    // The command that is typed; null when help was printed instead. Throws CouldNot for arguments that are
-    // wrong.
+    // The command that is typed; null when help was printed instead. Throws CouldNot for wrong arguments.
     const Command* parse(int argc, char** argv);
 
     // The program itself, with what all commands take.

@@ -64,7 +64,8 @@ std::string fingerprintOf(const std::vector<std::string>& lines) {
 void addFingerprint(CommandLine& line) {
     const auto [command, options] = line.add(
         "fingerprint", run, {"a checksum: are settings the same?", "Prüfsumme: sind Einstellungen gleich?"});
-    command.optionalArgument({"SOURCE", "QUELLE"}, options.source, {"live if not given", "sonst live"});
+    command.argument({"SOURCE", "QUELLE"}, options.source, {"live if not given", "sonst live"},
+                     Need::optional);
     command.option("--file", options.file,
                    {"only the settings of the file whose name begins with this",
                     "nur die Einstellungen der Datei, deren Name so beginnt"});

@@ -36,7 +36,7 @@ LineReader plainReader(const char* prompt) {
 
 #ifdef TALUX_HAVE_LIBEDIT
 
-// What the Tab key offers in a line of the command language.
+// What the Tab key offers behind `head`, the line up to the cursor.
 class Completion {
 public:
     struct Candidate {
@@ -46,7 +46,6 @@ public:
     std::string_view typed; // in front of the cursor: what a candidate replaces
     std::vector<Candidate> candidates;
 
-    // `head`: the line up to the cursor.
     Completion(std::string_view head, const Context& context) {
         const std::string_view term = kepl::withoutLeading(head.substr(head.find_last_of(',') + 1), ' ');
         if (startsIgnoringCase(head, kHelpWord) && head.size() > kHelpWord.size())

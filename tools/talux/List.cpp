@@ -109,9 +109,9 @@ Status run(Options& options, const Context& context) {
 
 void addList(CommandLine& line) {
     const auto [command, options] = line.add("list", run, {"names and values", "Namen und Werte"});
-    command.optionalArgument(
-        {"FILTER", "FILTER"}, options.filter.names,
-        {"parts of names, or patterns with * and ?", "Teile von Namen oder Muster mit * und ?"});
+    command.argument({"FILTER", "FILTER"}, options.filter.names,
+                     {"parts of names, or patterns with * and ?", "Teile von Namen oder Muster mit * und ?"},
+                     Need::optional);
     command.option("--of", options.source,
                    {"whose values: default, live, staged, a file or a folder",
                     "wessen Werte: default, live, staged, eine Datei oder ein Ordner"});

@@ -1,5 +1,4 @@
-// One of the three parameter files looked at before it is loaded: a load ends the program where it cannot
-// read.
+// A parameter file looked at before it is loaded: a load ends the program where it cannot read.
 #ifndef TALUX_TOOLS_TALUX_STOREDFILE_H
 #define TALUX_TOOLS_TALUX_STOREDFILE_H
 

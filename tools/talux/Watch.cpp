@@ -275,12 +275,13 @@ Status run(Options& options, const Context& context) {
 void addWatch(CommandLine& line) {
     const auto [command, options] =
         line.add("watch", run, {"live values, updated in place", "gültige Werte, laufend aktualisiert"});
-    command.optionalArgument(
+    command.argument(
         {"NAME", "NAME"}, options.names,
         {"parameters, series (BAassign), patterns (U*_prim), records, members of records; 'NAME I' or "
          "'NAME I.J' for elements",
          "Parameter, Reihen (BAassign), Muster (U*_prim), Datensätze, Felder von Datensätzen; 'NAME I' oder "
-         "'NAME I.J' für Elemente"});
+         "'NAME I.J' für Elemente"},
+        Need::optional);
     options.filter.addTo(command);
     command.option("--until", options.until,
                    {"end when this holds: 'U0_prim > 5'; exit status 1 if it ends before",

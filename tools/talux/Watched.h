@@ -1,5 +1,4 @@
-// What the command watch shows: scalars, elements of indexed parameters, members of records, with what is
-// read.
+// What the command watch shows: scalars, elements of indexed parameters, members of records.
 #ifndef TALUX_TOOLS_TALUX_WATCHED_H
 #define TALUX_TOOLS_TALUX_WATCHED_H
 
@@ -22,16 +21,14 @@ struct Watched {
     std::string shortText(const std::optional<Value>& value, const Context& context) const;
 };
 
-// A parameter with its elements or members.
 void addWatched(std::vector<Watched>& all, const Parameter& parameter, const Context& context);
 
 // By name: as reference::named takes it, "vBE 3", "vBE 3.9" or "MessRecord01.U1p". Throws CouldNot.
 std::vector<Watched> watchedBy(const std::string& text, const Context& context);
 
-// "U0_prim > 5", "BAassign3 = qu2 ->F"
+// "U0_prim > 5", "BAassign3 = qu2 ->F". Throws CouldNot.
 class Condition {
 public:
-    // Throws CouldNot.
     Condition(std::string_view text, const Context& context);
 
     const Watched& watched() const { return what; }

@@ -15,7 +15,6 @@ constexpr Wording kAbout{"Settings of the relay: what they mean, what a file cha
                          "QUELLE: live (gültig), staged (ausstehend), default, eine Datei oder ein Ordner.\n"
                          "Rückgabewert: 0 kein Befund, 1 Befunde oder Unterschiede, 2 Befehl gescheitert."};
 
-// As the usual variables of the environment say it.
 ParamLanguage languageOfEnvironment() {
     for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
         const char* const value = std::getenv(name);
@@ -55,9 +54,9 @@ void addHelp(CommandLine& line) {
     line.add("help", help,
              {"this help, that of a command, or what a name means",
               "diese Hilfe, die eines Befehls oder was ein Name bedeutet"})
-        .optionalArgument(
-            {"NAME", "NAME"}, *names,
-            {"a command, or a name as explain takes it", "ein Befehl oder ein Name wie bei explain"});
+        .argument({"NAME", "NAME"}, *names,
+                  {"a command, or a name as explain takes it", "ein Befehl oder ein Name wie bei explain"},
+                  Need::optional);
 }
 
 Status run(int argc, char** argv, Context& context) {

@@ -32,11 +32,9 @@ constexpr Wording kYesHelp{"write without asking", "ohne Rückfrage schreiben"};
 // Adds a command that changes settings, with the options of all of them. It runs with the device attached.
 Added<Order> addChange(CommandLine& line, const char* name, ChangeCommand change, Wording help);
 
-// Attaches the device to change it. Throws CouldNot when there is none.
 void attachToWrite(const Context& context);
 
-// All of the plan or nothing. Throws CouldNot when nothing could be written and says what is there if the old
-// values did not come back.
+// All of the plan or nothing. What CouldNot says includes what is there if the old values did not come back.
 Status carryOut(const Plan& plan, Order& order, const Context& context);
 
 // The same of values that were on the device before: without the checks of a plan.
@@ -50,7 +48,6 @@ Status discard(Order& order, const Context& context);
 // them to the system. False when none waits.
 bool takeAddressBack(bool applies, const Context& context);
 
-// Throws CouldNot if one is not surely on the disk.
 void save(const std::set<reference::File>& files, const Context& context);
 
 Json changesJson(const Writes& writes);

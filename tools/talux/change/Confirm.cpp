@@ -1,10 +1,8 @@
-// talux address, confirm: an address that is taken back by itself unless somebody who reaches the device
-// confirms it.
+// talux address, confirm: an address that is taken back unless somebody who reaches the device confirms it.
 //
-// The old addresses stand in a record beside the parameter files (openAddress) as long as nobody has
-// confirmed the new ones, and ip_config.ini keeps the old ones until then: what starts without talux has
-// them, too. A process of its own, which neither the terminal nor the command takes with it, waits for the
-// time to pass.
+// Until then a record beside the parameter files (openAddress) and ip_config.ini have the old addresses,
+// which a start of the device takes. A process of its own, which ends neither with the terminal nor with the
+// command, waits for the time to pass.
 #include <csignal>
 #include <fcntl.h>
 #include <sys/prctl.h>
@@ -58,8 +56,7 @@ bool endsWaiting(const Context& context) try {
     return false;
 }
 
-// Applies the addresses, but leaves the file as it was: `before`, or none; waits, and takes them back if they
-// are still open then.
+// Applies the addresses, leaves the file as it was, waits, and takes them back if they are still open then.
 [[noreturn]] void guard(const Journal& journal, int seconds, int pipe, const std::string& before,
                         const Context& context) {
     const double end = now() + seconds;

@@ -27,11 +27,10 @@ std::vector<DatedCopy> versionsOf(File file, const Context& context) {
     return versions;
 }
 
-// A version with what differs from the one before.
 struct Version {
     DatedCopy copy;
     Source source;
-    std::vector<Difference> changed;
+    std::vector<Difference> changed; // from the version before
 };
 
 std::vector<Version> historyOf(const Context& context) {
@@ -144,8 +143,8 @@ void addVersions(CommandLine& line) {
     const auto [command, options] = line.add("history", history,
                                              {"the dated copies and the files: when, and how many changes",
                                               "datierte Kopien und Dateien: wann, wie viele Änderungen"});
-    command.optionalArgument({"NAME", "NAME"}, options.name,
-                             {"the values of one parameter", "die Werte eines Parameters"});
+    command.argument({"NAME", "NAME"}, options.name,
+                     {"the values of one parameter", "die Werte eines Parameters"}, Need::optional);
     command.json(options.json);
     command.isPaged = true;
     const auto restoring = addChange(line, "restore", restore,

@@ -1,5 +1,4 @@
-// What is to be changed on the device: each setting with the value that it gets, checked before anything is
-// written.
+// What is to be changed on the device: each setting with its new value, checked before anything is written.
 #ifndef TALUX_TOOLS_TALUX_CHANGE_PLAN_H
 #define TALUX_TOOLS_TALUX_CHANGE_PLAN_H
 
@@ -13,7 +12,6 @@ namespace talux::tool {
 // it; of the clock what it shows now.
 std::optional<Value> present(const Parameter& parameter, int id);
 
-// One value to write.
 struct Write {
     const Parameter* parameter;
     int index; // of an element, else 0
@@ -42,8 +40,7 @@ public:
     void take(std::string_view label, std::string_view value);
 
     // A file of such lines, in the form of parameter files; the prefix TLX_ may be missing, blanks may be
-    // around "=". As a load does, it leaves the clock alone. Throws CouldNot when it is for another device
-    // than this one.
+    // around "=". As a load does, it leaves the clock alone. Throws CouldNot when it is for another device.
     void read(const std::string& path);
 
     // The settings of a source that differ, without those that `leaves`.
@@ -54,7 +51,6 @@ public:
                 add(parameter, 0, *value);
     }
 
-    // One for each value that cannot be written.
     const std::vector<std::string>& refusals() const { return refused; }
 
     // Those of all settings that are named, whether they differ or not.

@@ -27,7 +27,6 @@ Status apply(Order& order, const Context& context) {
     return carryOut(plan, order, context);
 }
 
-// What prevents it: settings that something else has changed since.
 void demandUnchanged(const Journal& journal, const Context& context) {
     std::string changed;
     for (const Write& write : journal.writes)
@@ -106,9 +105,10 @@ void addChanges(CommandLine& line) {
     const auto undoing = addChange(line, "undo", undo,
                                    {"take back the last change, or that of a record",
                                     "die letzte Änderung oder die eines Protokolls zurücknehmen"});
-    undoing.command.optionalArgument(
+    undoing.command.argument(
         {"RECORD", "PROTOKOLL"}, undoing.options.operand,
-        {"the last change of this device if not given", "sonst die letzte Änderung dieses Geräts"});
+        {"the last change of this device if not given", "sonst die letzte Änderung dieses Geräts"},
+        Need::optional);
     addChange(line, "discard", discard,
               {"give up pending settings: they become what is live",
                "Ausstehendes verwerfen: es gilt wieder das Gültige"});
