@@ -1,5 +1,4 @@
 // All parameters as data of the page that searches them.
-#include <ranges>
 #include <vector>
 
 #include "tools/Json.h"
@@ -132,14 +131,13 @@ std::string data() {
     std::vector<Word> words(std::begin(kTradeWords), std::end(kTradeWords));
     words.insert(words.end(), std::begin(kDeviceWords), std::end(kDeviceWords));
     const auto isNamed = [](const Parameter& parameter) { return !parameter.isTemplate(); };
-    return Json{
-        {"families", Json::arrayOf(model.familyNames, bothTexts)},
-        {"methods", Json::arrayOf(model.methods, bothTexts)},
-        {"notes", Json::arrayOf(model.notes, noteOf)},
-        {"words", Json::arrayOf(words, wordOf)},
-        {"synonyms", Json::arrayOf(kSynonyms, synonymOf)},
-        {"shared", sharedChoices()},
-        {"parameters", Json::arrayOf(reference::parameters() | std::views::filter(isNamed), objectOf)}}
+    return Json{{"families", Json::arrayOf(model.familyNames, bothTexts)},
+                {"methods", Json::arrayOf(model.methods, bothTexts)},
+                {"notes", Json::arrayOf(model.notes, noteOf)},
+                {"words", Json::arrayOf(words, wordOf)},
+                {"synonyms", Json::arrayOf(kSynonyms, synonymOf)},
+                {"shared", sharedChoices()},
+                {"parameters", Json::arrayOf(reference::parametersWhere(isNamed), objectOf)}}
         .lines();
 }
 

@@ -4,6 +4,7 @@
 #define TALUX_TOOLS_REFERENCE_H
 
 #include <algorithm>
+#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
@@ -112,6 +113,14 @@ inline const model::Note& noteAt(int place) {
 
 // Every parameter in menu order, an indexed one once; templates and dialogs included.
 const std::vector<Parameter>& parameters();
+
+// Those of them for which `isWanted` holds.
+template <class Predicate>
+std::vector<Parameter> parametersWhere(Predicate isWanted) {
+    std::vector<Parameter> found;
+    std::ranges::copy_if(parameters(), std::back_inserter(found), isWanted);
+    return found;
+}
 
 // By name, letter case ignored; null when there is none. A prefix "TLX_" or "LVR_" is skipped.
 const Parameter* find(std::string_view name);

@@ -1,6 +1,5 @@
 // talux list: names and values.
 #include <algorithm>
-#include <ranges>
 
 #include "tools/talux/Command.h"
 #include "tools/talux/Search.h"
@@ -28,8 +27,11 @@ bool isChanged(const Parameter& parameter, const std::optional<Value>& value) {
 // The value of an indexed parameter is an array.
 Json jsonValue(const Parameter& parameter, const Source& source) {
     const auto valueAt = [&](int k) { return json(parameter, source.value(parameter.row().id + k)); };
-    return parameter.isIndexed() ? Json::arrayOf(std::views::iota(0, parameter.elements()), valueAt)
-                                 : valueAt(0);
+    if (!parameter.isIndexed()) return valueAt(0);
+    Json values = Json::array();
+    for (int k = 0; k < parameter.elements(); ++k)
+        values.add(valueAt(k));
+    return values;
 }
 
 // Of which the value is to be one: an output function by its number, any choice by its text.

@@ -5,7 +5,6 @@
 
 #include <map>
 #include <optional>
-#include <ranges>
 #include <string>
 #include <vector>
 
@@ -82,10 +81,9 @@ void readEntries(const std::string& path, const Context& context,
 bool isOfClock(const Parameter& parameter);
 
 // All settings but those two, in menu order.
-inline auto settings() {
-    return reference::parameters() | std::views::filter([](const Parameter& parameter) {
-               return parameter.isSetting() && !isOfClock(parameter);
-           });
+inline std::vector<Parameter> settings() {
+    return reference::parametersWhere(
+        [](const Parameter& parameter) { return parameter.isSetting() && !isOfClock(parameter); });
 }
 
 // Belongs to the single device: its name, addresses, station numbers and calibration.
