@@ -3,7 +3,7 @@
 #include "Program.h"
 
 #include "ParamSystem/KEPL_Interpreter.h"
-#include "tools/talux/PlausibilityRules.h"
+#include "tools/reference/PlausibilityRules.h"
 
 #include <iomanip>
 
@@ -245,7 +245,7 @@ TEST_F(TaluxStore, EachRuleOfPlausibilityHasSettingsThatBreakIt) {
         EXPECT_EQ(factory.find(" " + code + " "), factory.npos) << code;
         EXPECT_NE(broken(settings).find(" " + code + " "), factory.npos) << code;
     }
-    for (const talux::tool::PlausibilityRule& rule : talux::tool::kPlausibilityRules) {
+    for (const talux::reference::PlausibilityRule& rule : talux::reference::kPlausibilityRules) {
         const std::string code = rule.code;
         EXPECT_EQ(factory.find(" " + code + " ") != factory.npos, rule.isBrokenByFactory) << code;
         EXPECT_TRUE(rule.isBrokenByFactory || code == "individual" ||

@@ -3,14 +3,14 @@
 
 #include "tools/pages/Markdown.h"
 #include "tools/pages/Pages.h"
-#include "tools/talux/PlausibilityRules.h"
+#include "tools/reference/PlausibilityRules.h"
 
 namespace talux::pages {
 
 namespace {
 
 // Parameters with links, units as they are; numbers among them belong to the rule.
-std::string parametersOf(const tool::PlausibilityRule& rule) {
+std::string parametersOf(const reference::PlausibilityRule& rule) {
     if (rule.parameters.empty()) return "every setting";
     constexpr std::size_t kFew = 6; // that are named one by one
     const auto names = namesOf(rule.parameters);
@@ -40,10 +40,11 @@ void addPlausibility(Pages& pages) {
          "`fault` kann nicht richtig sein, ein `doubt` kann gewollt sein. Die Werkseinstellungen verletzen "
          "nur die mit `factory` bezeichneten Regeln.*\n\n"
          "| Rule | | English | Deutsch | Parameters |\n|---|---|---|---|---|\n"});
-    for (const tool::PlausibilityRule& rule : tool::kPlausibilityRules)
-        page += joined({"| `", rule.code, "` | ", rule.gravity == tool::Gravity::fault ? "fault" : "doubt",
-                        rule.isBrokenByFactory ? ", factory" : "", " | ", escaped(rule.en), " | ",
-                        escaped(rule.de), " | ", parametersOf(rule), " |\n"});
+    for (const reference::PlausibilityRule& rule : reference::kPlausibilityRules)
+        page +=
+            joined({"| `", rule.code, "` | ", rule.gravity == reference::Gravity::fault ? "fault" : "doubt",
+                    rule.isBrokenByFactory ? ", factory" : "", " | ", escaped(rule.en), " | ",
+                    escaped(rule.de), " | ", parametersOf(rule), " |\n"});
     pages["plausibility.md"] = page;
 }
 

@@ -74,22 +74,18 @@ public:
         : line(checkedLine), asked(how), context(person) {}
 
     std::vector<LineFinding> run() {
+        term = line;
         if (line.size() > kKeplMaxLine)
-            return {{0,
-                     context.say("{} characters: a line of more than 254 is refused whole",
-                                 "{} Zeichen: eine Zeile mit mehr als 254 wird ganz abgelehnt", line.size()),
-                     true}};
-        if (asked.isWhole && !line.empty() && line.find_first_not_of(',') == line.npos)
-            return {{0,
-                     context.say("the line has no value to answer", "die Zeile hat keinen Wert zu antworten"),
-                     true}};
-        for (std::string_view rest = line; takeTerm(rest);) {
+            refuse(context.say("{} characters: a line of more than 254 is refused whole",
+                               "{} Zeichen: eine Zeile mit mehr als 254 wird ganz abgelehnt", line.size()));
+        else if (asked.isWhole && !line.empty() && line.find_first_not_of(',') == line.npos)
+            refuse(context.say("the line has no value to answer", "die Zeile hat keinen Wert zu antworten"));
+        for (std::string_view rest = line; !isRefused && takeTerm(rest);)
             if (isLast && !asked.isWhole)
                 checkHead();
             else
                 checkTerm();
-            if (isRefused) return findings;
-        }
+        if (isRefused) return findings;
         for (Implausible& found : findFaults(values, context))
             findings.push_back({positions[found.parameters.front()], std::move(found.text), false});
         return findings;

@@ -13,6 +13,8 @@ namespace talux::tool {
 
 namespace {
 
+using reference::PlausibilityRule, reference::Test;
+
 constexpr int kOff = 1;                        // choice of outputs and of entries of the list
 constexpr int kSums[] = {24, 25};              // output functions that combine all methods
 constexpr int kUncertain[] = {44, 45, 46, 47}; // which method forms them is not documented
@@ -43,17 +45,6 @@ std::vector<Word> wordsOf(const PlausibilityRule& rule) {
         else
             words.push_back({reference::find(name), static_cast<double>(wholeNumber(name).value_or(0))});
     return words;
-}
-
-// Those of each rule, found once.
-const std::vector<std::vector<Word>>& allWords() {
-    static const auto all = [] {
-        std::vector<std::vector<Word>> found;
-        for (const PlausibilityRule& rule : kPlausibilityRules)
-            found.push_back(wordsOf(rule));
-        return found;
-    }();
-    return all;
 }
 
 bool isOutput(const Parameter& parameter) {
@@ -88,12 +79,12 @@ const std::vector<Switched>& switched() {
 }
 
 // Looks whether one set of values breaks one rule.
-class RuleCheck {
-public:
-    RuleCheck(const PlausibilityRule& rowOfRule, Words wordsOfRule, const Values& valuesGiven,
-              const Values& valuesBefore, const Context& person, std::vector<Implausible>& result)
-        : rule(rowOfRule), words(wordsOfRule), values(valuesGiven), before(valuesBefore), context(person),
-          found(result) {}
+struct RuleCheck {
+    const PlausibilityRule& rule;
+    const Words words;
+    const Values &values, &before;
+    const Context& context;
+    std::vector<Implausible>& found;
 
     void run() {
         switch (rule.test) {
@@ -132,13 +123,6 @@ public:
             return checkList();
         }
     }
-
-private:
-    const PlausibilityRule& rule;
-    const Words words;
-    const Values &values, &before;
-    const Context& context;
-    std::vector<Implausible>& found;
 
     std::optional<double> number(const Parameter& parameter) const {
         const auto value = values(parameter);
@@ -332,9 +316,12 @@ std::vector<Implausible> findImplausible(const Source& source, const Context& co
 }
 
 std::vector<Implausible> findImplausible(const Values& values, const Values& before, const Context& context) {
+    static std::map<const PlausibilityRule*, std::vector<Word>> words; // found once
     std::vector<Implausible> found;
-    for (std::size_t k = 0; k < std::size(kPlausibilityRules); ++k)
-        RuleCheck(kPlausibilityRules[k], allWords()[k], values, before, context, found).run();
+    for (const PlausibilityRule& rule : reference::kPlausibilityRules) {
+        if (!words.contains(&rule)) words[&rule] = wordsOf(rule);
+        RuleCheck{rule, words[&rule], values, before, context, found}.run();
+    }
     return found;
 }
 

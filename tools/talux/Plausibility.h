@@ -9,19 +9,19 @@
 #include <vector>
 
 #include "tools/Json.h"
-#include "tools/talux/PlausibilityRules.h"
+#include "tools/reference/PlausibilityRules.h"
 #include "tools/talux/Source.h"
 
 namespace talux::tool {
 
 struct Implausible {
-    const PlausibilityRule* rule;
+    const reference::PlausibilityRule* rule;
     Parameters parameters;
     std::string text; // "ETH0_GATEWAY 10.0.0.1, ETH0_IP ..: the gateway is outside its network"
 
     // Whether a line of a file is reported for it already.
     bool isOfOneLine() const;
-    bool isFault() const { return rule->gravity == Gravity::fault; }
+    bool isFault() const { return rule->gravity == reference::Gravity::fault; }
     bool concerns(const std::function<bool(const Parameter&)>& isMeant) const;
 };
 

@@ -1,11 +1,11 @@
 // What is reported of settings that the device accepts but that are implausible: one row a rule. Nothing is
 // refused for it. What is not documented has no rule.
-#ifndef TALUX_TOOLS_TALUX_PLAUSIBILITYRULES_H
-#define TALUX_TOOLS_TALUX_PLAUSIBILITYRULES_H
+#ifndef TALUX_TOOLS_REFERENCE_PLAUSIBILITYRULES_H
+#define TALUX_TOOLS_REFERENCE_PLAUSIBILITYRULES_H
 
 #include <string_view>
 
-namespace talux::tool {
+namespace talux::reference {
 
 // A fault cannot be right; a doubt may be meant.
 enum class Gravity { fault, doubt };
@@ -138,6 +138,6 @@ inline constexpr PlausibilityRule kPlausibilityRules[] = {
      "ersetzt einen Wert, der nur zu diesem Gerät gehört: stammt er von einem anderen?"},
 };
 
-} // namespace talux::tool
+} // namespace talux::reference
 
 #endif
