@@ -329,6 +329,7 @@ case("what a file holds is what a load keeps of it", function()
         lines[k] = (random() < 0.1 and " tlx_" or "TLX_") .. row.name .. (random() < 0.8 and "=" or "") .. table.concat(line)
       else lines[k] = "# " .. row.name end
     end
+    lines[#lines + 1] = ("#"):rep(252 + random(3)) .. "TLX_channel=" .. random(11) -- a line of its own after 254
     assert(io.open("/random.ini", "w")):write(table.concat(lines, "\n")):close()
     talux.update()
     local before, held = talux.read "staged", talux.read "/random.ini"
@@ -372,16 +373,19 @@ case("the clock has fractions, a condition is waited for, and the device program
 end)
 
 case("changes are told with title, unit and choice in either language", function()
-  talux.apply {Uearth = 30, BAassign3 = 26, Name = "Süd", vBE = {[7] = 1}, Language = 1}
-  local changes = talux.apply {Uearth = 0x1p5 + 0.1, BAassign3 = "qu2 ->F", Name = "Nord", vBE = {[7] = 2}}
+  talux.apply {Uearth = 30, BAassign3 = 26, Name = "Süd", vBE = {[7] = 1}, Language = 1, knu1 = 200}
+  local changes = talux.apply {Uearth = 0x1p5 + 0.1, BAassign3 = "qu2 ->F", Name = "Nord", vBE = {[7] = 2}, knu1 = 210}
   for language, told in pairs {de = talux.protocol(changes), en = talux.protocol(changes, "en")} do
     local function title(name) return talux.parameter(name, language)[language].title end
-    local choices = talux.parameter("baassign3")[language].choices
-    for name, values in pairs {Name = '"Süd" -> "Nord"', ["vBE[7]"] = "1 -> 2", Uearth = "30 -> 32.1 %",
+    local choices, column = talux.parameter("baassign3")[language].choices, nil
+    for name, values in pairs {Name = '"Süd" -> "Nord"', ["vBE[7]"] = "1 -> 2", Uearth = "30 -> 32.1 %", knu1 = "200 -> 210",
                                BAassign3 = ("26 (%s) -> 28 (%s)"):format(choices[26], choices[28])} do
       local line = ("%-9s  %s"):format(name, title(name:match "%w+"))
       local place = told:find(line, 1, true)
       equal(place and (told .. "\n"):match("^ +(.-)\n", place + #line), values, name .. " in " .. language)
+      local characters = #(line .. told:match("^ +", place + #line)):gsub("[\128-\191]", "")
+      column = column or characters
+      equal(characters, column, "column of " .. name)
     end
   end
   refused('a language is "de" or "en"', talux.protocol, {}, "fr")
