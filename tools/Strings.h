@@ -43,12 +43,16 @@ inline std::string fill(std::string_view pattern, std::initializer_list<std::str
     return text.append(pattern);
 }
 
-// A whole number that is all of the text.
-inline std::optional<long> wholeNumber(std::string_view text) {
-    long number = 0;
+// A number that is all of the text.
+template <class Number>
+std::optional<Number> numberOf(std::string_view text) {
+    Number number = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
     const bool isAll = read.ec == std::errc() && read.ptr == text.data() + text.size();
     return isAll ? std::optional(number) : std::nullopt;
+}
+inline std::optional<long> wholeNumber(std::string_view text) {
+    return numberOf<long>(text);
 }
 
 // The characters of `special` with a backslash in front.

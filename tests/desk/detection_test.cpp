@@ -13,7 +13,7 @@ double value(const Cycle& cycle, talux::Measured<float> which) {
     return cycle.values.of(which);
 }
 double ampere(const Cycle& cycle) {
-    return value(cycle, {"I0_prim"});
+    return value(cycle, "I0_prim");
 }
 
 // A long feeder, whose own current is enough for the harmonics of a backward fault.
@@ -41,63 +41,21 @@ struct Method {
     double delay; // of the factory settings, cycles included
 };
 constexpr Method kMethods[] = {
-    {"transient",
-     kResonant,
-     {"qu2_active"},
-     {"qu2_Ice"},
-     [](const Cycle&) { return 0.0; },
-     28,
-     {"qu2_SigDur"},
-     0},
-    {"sustained",
-     kResonant,
-     {"qu2_DE_active"},
-     {"qu2_Ice"},
-     [](const Cycle&) { return 0.0; },
-     30,
-     {"qu2_SigDur"},
+    {"transient", kResonant, "qu2_active", "qu2_Ice", [](const Cycle&) { return 0.0; }, 28, "qu2_SigDur", 0},
+    {"sustained", kResonant, "qu2_DE_active", "qu2_Ice", [](const Cycle&) { return 0.0; }, 30, "qu2_SigDur",
      1},
-    {"cos(phi)",
-     kResonant,
-     {"cos_active"},
-     {"cos_Iw_min"},
-     [](const Cycle& c) { return -value(c, {"P0_prim"}) / value(c, {"U0_prim"}); },
-     34,
-     {"cos_SigDur"},
+    {"cos(phi)", kResonant, "cos_active", "cos_Iw_min",
+     [](const Cycle& c) { return -value(c, "P0_prim") / value(c, "U0_prim"); }, 34, "cos_SigDur", 0.1},
+    {"sin(phi)", kIsolated, "sin_active", "sin_I_min",
+     [](const Cycle& c) { return std::fabs(value(c, "Q0_prim")) / value(c, "U0_prim"); }, 36, "sin_SigDur",
      0.1},
-    {"sin(phi)",
-     kIsolated,
-     {"sin_active"},
-     {"sin_I_min"},
-     [](const Cycle& c) { return std::fabs(value(c, {"Q0_prim"})) / value(c, {"U0_prim"}); },
-     36,
-     {"sin_SigDur"},
-     0.1},
-    {"cos and sin", kIsolated, {"cos_sin_active"}, {"CosSin_I_min"}, ampere, 38, {"cos_sin_SigDur"}, 0.06},
-    {"fifth harmonic",
-     kLong,
-     {"harm1_active"},
-     {"harm1_Ice"},
-     [](const Cycle& c) { return value(c, {"I0_250_abs"}); },
-     40,
-     {"harm1_SigDur"},
-     0.1},
-    {"settable harmonic",
-     kLong,
-     {"harm2_active"},
-     {"harm2_Ice"},
-     [](const Cycle& c) { return value(c, {"I0_f1_abs"}); },
-     42,
-     {"harm2_SigDur"},
-     0.1},
-    {"admittance",
-     kLong,
-     {"adm_active"},
-     {"adm_I_min_1"},
-     [](const Cycle& c) { return value(c, {"I0_f3_abs"}); },
-     85,
-     {"adm_T_hold"},
-     0.06},
+    {"cos and sin", kIsolated, "cos_sin_active", "CosSin_I_min", ampere, 38, "cos_sin_SigDur", 0.06},
+    {"fifth harmonic", kLong, "harm1_active", "harm1_Ice",
+     [](const Cycle& c) { return value(c, "I0_250_abs"); }, 40, "harm1_SigDur", 0.1},
+    {"settable harmonic", kLong, "harm2_active", "harm2_Ice",
+     [](const Cycle& c) { return value(c, "I0_f1_abs"); }, 42, "harm2_SigDur", 0.1},
+    {"admittance", kLong, "adm_active", "adm_I_min_1", [](const Cycle& c) { return value(c, "I0_f3_abs"); },
+     85, "adm_T_hold", 0.06},
 };
 
 std::string faultAt2(const char* network, const char* direction) {
@@ -135,7 +93,7 @@ TEST(DeskDetection, SignalsInTheDirectionOfTheFaultAfterItsDelay) {
 }
 
 TEST(DeskDetection, ComparesTheChargeWithTheThresholdsOfTransientAndRestriking) {
-    constexpr Setting<float> kThresholds[] = {{"qu2_Ice"}, {"qui_Ice"}};
+    constexpr Setting<float> kThresholds[] = {"qu2_Ice", "qui_Ice"};
     for (const bool forward : {true, false}) {
         const double charge = forward ? 74 : 6;
         const std::string fault = std::string("L1 solid ") + (forward ? "forward" : "backward");
@@ -239,7 +197,7 @@ TEST(DeskOutputs, FollowAssignmentPolarityAndOverrides) {
         ASSERT_EQ(cycle.outputs.states[4], signal) << cycle.second;
         ASSERT_EQ(cycle.outputs.states[5], 1 - signal) << cycle.second;
         ASSERT_EQ(cycle.outputs.states[0], 1) << "relay 1 has Status";
-        ASSERT_EQ(cycle.outputs.words.of({"y_BA"}) >> 4 & 1, signal);
+        ASSERT_EQ(cycle.outputs.words.of("y_BA") >> 4 & 1, signal);
     }
     Overrides overrides;
     overrides.functions.emplace()[27] = 1; // function 28

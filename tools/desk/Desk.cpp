@@ -20,12 +20,12 @@ MessRecord02 recordOf(const Cycle& cycle) {
         members.add(each.voltage, each.current, each.degrees, each.admittance());
     members.copyTo(record, offsetof(MessRecord02, U0p_250));
     const StateWords& words = cycle.outputs.words;
-    record.y_BE_01 = words.of({"y_BE"});
-    record.y_BA_01 = words.of({"y_BA"});
-    record.y_BAF_01 = words.of({"y_BAF1"});
-    record.y_BAF_02 = words.of({"y_BAF2"});
-    record.y_BAF_03 = words.of({"y_BAF3"});
-    record.y_BAF_04 = words.of({"y_BAF4"});
+    record.y_BE_01 = words.of("y_BE");
+    record.y_BA_01 = words.of("y_BA");
+    record.y_BAF_01 = words.of("y_BAF1");
+    record.y_BAF_02 = words.of("y_BAF2");
+    record.y_BAF_03 = words.of("y_BAF3");
+    record.y_BAF_04 = words.of("y_BAF4");
     return record;
 }
 
@@ -69,13 +69,6 @@ void Desk::strikeAgain() {
     }
 }
 
-Sample Desk::sample() {
-    Sample replayed;
-    if (recording && recording(time - recordingSince, replayed)) return replayed;
-    recording = nullptr;
-    return network.look();
-}
-
 bool Desk::step(const talux::Settings& settings, const Overrides& overrides, Cycle& cycle) {
     for (; next < script.events.size() && script.events[next].second <= time + kCycle / 2; ++next)
         script.events[next].happens(*this);
@@ -83,7 +76,12 @@ bool Desk::step(const talux::Settings& settings, const Overrides& overrides, Cyc
     strikeAgain();
     network.advance(kCycle);
     cycle.second = time;
-    cycle.phasors = correct(sample(), script.grid.kilovolt, settings);
+    Sample sample;
+    if (!recording || !recording(time - recordingSince, sample)) {
+        recording = nullptr;
+        sample = network.look();
+    }
+    cycle.phasors = correct(sample, script.grid.kilovolt, settings);
     cycle.harmonics = harmonicsOf(cycle.phasors, network, settings, isForward);
     cycle.values = valuesOf(cycle.phasors, cycle.harmonics);
     if (overrides.values) std::ranges::copy(*overrides.values, cycle.values.begin());

@@ -65,7 +65,6 @@ private:
     double recordingSince = 0;
 
     void strikeAgain();
-    Sample sample();
 };
 
 // Largest, smallest and mean values of an interval.

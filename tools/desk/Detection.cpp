@@ -35,25 +35,25 @@ bool isBetween(double angle, double min, double max) {
 Direction cosPhi(const View& view) {
     if (!view.isEarthFault) return Direction::none;
     const Phasor current = againstDrive(view);
-    if (std::abs(std::abs(degrees(current)) - 90) < view[{"cos_w_min"}]) return Direction::none;
-    return bySign(current.real(), view[{"cos_Iw_min"}]);
+    if (std::abs(std::abs(degrees(current)) - 90) < view["cos_w_min"]) return Direction::none;
+    return bySign(current.real(), view["cos_Iw_min"]);
 }
 
 Direction sinPhi(const View& view) {
     if (!view.isEarthFault) return Direction::none;
     const Phasor current = againstDrive(view);
     const double angle = std::abs(degrees(current));
-    if (std::min(angle, 180 - angle) < view[{"sin_w_min"}]) return Direction::none;
-    return bySign(current.imag(), view[{"sin_I_min"}]);
+    if (std::min(angle, 180 - angle) < view["sin_w_min"]) return Direction::none;
+    return bySign(current.imag(), view["sin_I_min"]);
 }
 
 // Forward between the two limit angles of the current against -U0, backward in the opposite range.
 Direction cosSin(const View& view) {
     const Phasor current = againstDrive(view);
-    if (!view.isEarthFault || std::abs(current) < view[{"CosSin_I_min"}]) return Direction::none;
+    if (!view.isEarthFault || std::abs(current) < view["CosSin_I_min"]) return Direction::none;
     const double angle = -degrees(current); // lagging is positive, as in phiUI0
-    const double min = std::min(view[{"CosSin_angle1"}], view[{"CosSin_angle2"}]);
-    const double max = std::max(view[{"CosSin_angle1"}], view[{"CosSin_angle2"}]);
+    const double min = std::min(view["CosSin_angle1"], view["CosSin_angle2"]);
+    const double max = std::max(view["CosSin_angle1"], view["CosSin_angle2"]);
     if (isBetween(angle, min, max)) return Direction::forward;
     return isBetween(angle, min + 180, max + 180) ? Direction::backward : Direction::none;
 }
@@ -75,19 +75,19 @@ Direction ofHarmonic(const View& view, std::size_t number, double minPercent, do
 }
 
 Direction fifth(const View& view) {
-    return ofHarmonic(view, 0, view[{"harm1_Umin"}], view[{"harm1_Ice"}], view[{"harm1_angle"}]);
+    return ofHarmonic(view, 0, view["harm1_Umin"], view["harm1_Ice"], view["harm1_angle"]);
 }
 
 Direction settable(const View& view) {
-    return ofHarmonic(view, 1, view[{"harm2_Umin"}], view[{"harm2_Ice"}], view[{"harm2_angle"}]);
+    return ofHarmonic(view, 1, view["harm2_Umin"], view["harm2_Ice"], view["harm2_angle"]);
 }
 
 // Of the upper frequency of fx2: the angle of Y0 against the two ranges, the backward one first.
 Direction admittance(const View& view) {
-    if (!isLarge(view, 3, view[{"adm_U_min"}], view[{"adm_I_min_1"}])) return Direction::none;
+    if (!isLarge(view, 3, view["adm_U_min"], view["adm_I_min_1"])) return Direction::none;
     const double angle = -view.harmonics[3].degrees;
-    if (isBetween(angle, view[{"adm_Phi_BW_min"}], view[{"adm_Phi_BW_max"}])) return Direction::backward;
-    if (isBetween(angle, view[{"adm_Phi_FW_min"}], view[{"adm_Phi_FW_max"}])) return Direction::forward;
+    if (isBetween(angle, view["adm_Phi_BW_min"], view["adm_Phi_BW_max"])) return Direction::backward;
+    if (isBetween(angle, view["adm_Phi_FW_min"], view["adm_Phi_FW_max"])) return Direction::forward;
     return Direction::none;
 }
 
@@ -98,6 +98,13 @@ Direction restrikingOf(const View& view) {
     return view.restriking;
 }
 
+// A setting that not every method has.
+template <class Value>
+struct IfAny : std::optional<Setting<Value>> {
+    consteval IfAny() = default;
+    consteval IfAny(const char* name) : std::optional<Setting<Value>>(Setting<Value>(name)) {}
+};
+
 // Everything that belongs to a method with a direction.
 struct Method {
     std::size_t forward; // output function; the next one is backward
@@ -105,17 +112,8 @@ struct Method {
     Direction (*decide)(const View& view);
     Setting<bool> active;
     Setting<float> duration, ledDuration;
-    std::optional<Setting<float>> delay;
-    std::optional<Setting<std::int32_t>> cycles;
-
-    consteval Method(std::size_t function, int number, Direction (*decision)(const View&),
-                     const char* activity, const char* signal, const char* ledSignal,
-                     const char* delayName = nullptr, const char* cyclesName = nullptr)
-        : forward(function), priority(number), decide(decision), active(activity), duration(signal),
-          ledDuration(ledSignal) {
-        if (delayName != nullptr) delay = Setting<float>(delayName);
-        if (cyclesName != nullptr) cycles = Setting<std::int32_t>(cyclesName);
-    }
+    IfAny<float> delay = {};
+    IfAny<std::int32_t> cycles = {};
 };
 constexpr Method kTable[] = {
     {28, 2, transientOf, "qu2_active", "qu2_SigDur", "qu2_SigDur_LED"},
@@ -201,20 +199,20 @@ Direction Detection::restriking(const Settings& settings) {
 
 // 5 to 7 healthy phases, 16 and 17 the earth fault, 18 to 23 the faulty phase, at once and delayed.
 void Detection::voltages(const View& view) {
-    const Durations durations{view[{"Uearth_SigDur"}], view[{"Uearth_SigDur_LED"}]};
+    const Durations durations{view["Uearth_SigDur"], view["Uearth_SigDur_LED"]};
     std::array<bool, kPhases> ok{}, low{};
     for (std::size_t k = 0; k < kPhases; ++k) {
         const double percent = std::abs(view.phasors.primaryVoltage[k + 1]) / view.nominal * 100;
-        ok[k] = percent >= view[{"U123ok"}];
-        low[k] = percent <= view[{"U123erd"}];
+        ok[k] = percent >= view["U123ok"];
+        low[k] = percent <= view["U123erd"];
         set(5 + k, ok[k]);
     }
     set(16, earthFault);
-    signal(17, earthFault, view[{"Uearth_SigDel"}], durations);
+    signal(17, earthFault, view["Uearth_SigDel"], durations);
     for (std::size_t k = 0; k < kPhases; ++k) {
         const bool faulty = earthFault && low[k] && ok[(k + 1) % 3] && ok[(k + 2) % 3];
         set(18 + k, faulty);
-        signal(21 + k, faulty, view[{"Uearth_SigDel"}], durations);
+        signal(21 + k, faulty, view["Uearth_SigDel"], durations);
     }
 }
 
@@ -268,23 +266,23 @@ void Detection::shortCircuits(const View& view) {
         Setting<bool> active;
         Setting<float> min, time;
         std::size_t function, step, firstPhase, lastPhase;
-    } kClasses[] = {{{"sc_class_1_active"}, {"sc_I_min_1"}, {"sc_T_min_1"}, 57, 8, 1, 3},
-                    {{"sc_class_2_active"}, {"sc_I_min_2"}, {"sc_T_min_2"}, 61, 8, 1, 3},
-                    {{"sc_class_E_active"}, {"sc_I_min_E"}, {"sc_T_min_E"}, 87, 1, 0, 0}};
+    } kClasses[] = {{"sc_class_1_active", "sc_I_min_1", "sc_T_min_1", 57, 8, 1, 3},
+                    {"sc_class_2_active", "sc_I_min_2", "sc_T_min_2", 61, 8, 1, 3},
+                    {"sc_class_E_active", "sc_I_min_E", "sc_T_min_E", 87, 1, 0, 0}};
     const auto& s = view.settings;
-    const Durations durations{view[{"sc_SigDur"}], view[{"sc_SigDur"}]};
+    const Durations durations{view["sc_SigDur"], view["sc_SigDur"]};
     for (const auto& each : kClasses) {
         std::array<bool, 3> any{};
         for (std::size_t k = each.firstPhase; k <= each.lastPhase; ++k) {
             const Phasor& current = view.phasors.primaryCurrent[k];
             const bool decided =
-                view.isSet({"sc_active"}) && s[each.active] && std::abs(current) >= s[each.min];
+                view.isSet("sc_active") && s[each.active] && std::abs(current) >= s[each.min];
             const bool on = signal(each.function + k, decided, s[each.time], durations);
-            const bool directed = on && decided && view.isSet({"sc_dir_active"}) && current != Phasor{};
+            const bool directed = on && decided && view.isSet("sc_dir_active") && current != Phasor{};
             const double angle = angleBetween(view.phasors.primaryVoltage[k], current);
             const std::array<bool, 3> now{
-                on, directed && isBetween(angle, view[{"sc_Phi_min_fwd"}], view[{"sc_Phi_max_fwd"}]),
-                directed && isBetween(angle, view[{"sc_Phi_min_bwd"}], view[{"sc_Phi_max_bwd"}])};
+                on, directed && isBetween(angle, view["sc_Phi_min_fwd"], view["sc_Phi_max_fwd"]),
+                directed && isBetween(angle, view["sc_Phi_min_bwd"], view["sc_Phi_max_bwd"])};
             for (std::size_t way = 0; way < now.size(); ++way) {
                 set(each.function + way * each.step + k, now[way]);
                 any[way] = any[way] || now[way];
@@ -298,12 +296,12 @@ void Detection::shortCircuits(const View& view) {
 // 82 too low, 83 too high, 84 either.
 void Detection::frequencies(const View& view) {
     static constexpr Setting<std::int32_t> kCycles{"freq_N_cycle"};
-    const bool isActive = view.isSet({"freq_active"});
-    const double deviation = view.phasors.frequency - view[{"freq_f_grid"}];
-    const double delay = view[{"freq_T_delay"}] + kCycle * view.settings[kCycles];
-    const Durations hold{view[{"freq_T_hold"}], view[{"freq_T_hold"}]};
-    const bool low = isActive && deviation <= -view[{"freq_df_min"}],
-               high = isActive && deviation >= view[{"freq_df_max"}];
+    const bool isActive = view.isSet("freq_active");
+    const double deviation = view.phasors.frequency - view["freq_f_grid"];
+    const double delay = view["freq_T_delay"] + kCycle * view.settings[kCycles];
+    const Durations hold{view["freq_T_hold"], view["freq_T_hold"]};
+    const bool low = isActive && deviation <= -view["freq_df_min"],
+               high = isActive && deviation >= view["freq_df_max"];
     signal(82, low, delay, hold);
     signal(83, high, delay, hold);
     signal(84, low || high, delay, hold);

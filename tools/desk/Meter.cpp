@@ -16,16 +16,16 @@ struct Channel {
     Setting<talux::choice::Upol> polarity;
 };
 constexpr Channel kVoltages[] = {
-    {{"knu0"}, {"phi_corr_U0"}, {"Upol0"}},
-    {{"knu1"}, {"phi_corr_U1"}, {"Upol1"}},
-    {{"knu2"}, {"phi_corr_U2"}, {"Upol2"}},
-    {{"knu3"}, {"phi_corr_U3"}, {"Upol3"}},
+    {"knu0", "phi_corr_U0", "Upol0"},
+    {"knu1", "phi_corr_U1", "Upol1"},
+    {"knu2", "phi_corr_U2", "Upol2"},
+    {"knu3", "phi_corr_U3", "Upol3"},
 };
 constexpr Channel kCurrents[] = {
-    {{"kni0"}, {"phi_corr_I0"}, {"Ipol0"}},
-    {{"kni1"}, {"phi_corr_I1"}, {"Ipol1"}},
-    {{"kni2"}, {"phi_corr_I2"}, {"Ipol2"}},
-    {{"kni3"}, {"phi_corr_I3"}, {"Ipol3"}},
+    {"kni0", "phi_corr_I0", "Ipol0"},
+    {"kni1", "phi_corr_I1", "Ipol1"},
+    {"kni2", "phi_corr_I2", "Ipol2"},
+    {"kni3", "phi_corr_I3", "Ipol3"},
 };
 constexpr Setting<bool> kVoltageSum{"Uen_calc"}, kCurrentSum{"3Io_calc"};
 
@@ -92,49 +92,49 @@ Values valuesOf(const Phasors& phasors, const Harmonics& harmonics) {
     for (std::size_t k = 0; k < powers.size(); ++k) {
         const std::size_t number = (k + 3) % 4; // among the parameters the residual value comes last
         const Phasor& power = powers[k] = u[k] * std::conj(i[k]);
-        put({"U1_prim"}, number, std::abs(u[k]));
-        put({"I1_prim"}, number, std::abs(i[k]));
-        put({"phiUI1"}, number, angleBetween(u[k], i[k]));
-        put({"U1"}, number, std::abs(us[k]));
-        put({"I1"}, number, std::abs(is[k]));
-        put({"S1_prim"}, number, std::abs(power));
-        put({"P1_prim"}, number, power.real());
-        put({"Q1_prim"}, number, power.imag());
+        put("U1_prim", number, std::abs(u[k]));
+        put("I1_prim", number, std::abs(i[k]));
+        put("phiUI1", number, angleBetween(u[k], i[k]));
+        put("U1", number, std::abs(us[k]));
+        put("I1", number, std::abs(is[k]));
+        put("S1_prim", number, std::abs(power));
+        put("P1_prim", number, power.real());
+        put("Q1_prim", number, power.imag());
     }
     for (std::size_t k = 0; k < kPhases; ++k) {
-        put({"U12_prim"}, k, std::abs(toNextPhase(u, k + 1)));
-        put({"U12_sec"}, k, std::abs(toNextPhase(us, k + 1)));
+        put("U12_prim", k, std::abs(toNextPhase(u, k + 1)));
+        put("U12_sec", k, std::abs(toNextPhase(us, k + 1)));
     }
     const Phasor total = sumOfPhases(powers);
     const double apparent = std::abs(total);
-    put({"S_prim"}, 0, apparent);
-    put({"P_prim"}, 0, total.real());
-    put({"Q_prim"}, 0, total.imag());
-    put({"COSPHI"}, 0, apparent == 0 ? 0 : total.real() / apparent);
-    put({"I0earth_prim"}, 0, std::abs(i[0]));
+    put("S_prim", 0, apparent);
+    put("P_prim", 0, total.real());
+    put("Q_prim", 0, total.imag());
+    put("COSPHI", 0, apparent == 0 ? 0 : total.real() / apparent);
+    put("I0earth_prim", 0, std::abs(i[0]));
     for (std::size_t k = 0; k < kHarmonics; ++k) {
-        put({"U0_250_abs"}, 4 * k, harmonics[k].voltage);
-        put({"I0_250_abs"}, 4 * k, harmonics[k].current);
-        put({"Y0_250_abs"}, 4 * k, harmonics[k].admittance());
-        put({"Y0_250_phi"}, 4 * k, -harmonics[k].degrees);
+        put("U0_250_abs", 4 * k, harmonics[k].voltage);
+        put("I0_250_abs", 4 * k, harmonics[k].current);
+        put("Y0_250_abs", 4 * k, harmonics[k].admittance());
+        put("Y0_250_phi", 4 * k, -harmonics[k].degrees);
     }
-    put({"f_grid"}, 0, hertz);
+    put("f_grid", 0, hertz);
     return values;
 }
 
 // In the order of the members U0p to f_grid.
 MessRecord01 recordOf(const Phasors& phasors, const Values& values) {
     static_assert(offsetof(MessRecord01, f_grid) - offsetof(MessRecord01, U0p) == 52 * sizeof(float));
-    static constexpr Measured<float> kAmplitudes[] = {{"I1_prim"}, {"U1"}, {"I1"}, {"phiUI1"}},
-                                     kPowers[] = {{"P1_prim"}, {"Q1_prim"}, {"S1_prim"}},
-                                     kTotals[] = {{"P_prim"}, {"Q_prim"}, {"S_prim"}, {"COSPHI"}, {"f_grid"}};
+    static constexpr Measured<float> kAmplitudes[] = {"I1_prim", "U1", "I1", "phiUI1"},
+                                     kPowers[] = {"P1_prim", "Q1_prim", "S1_prim"},
+                                     kTotals[] = {"P_prim", "Q_prim", "S_prim", "COSPHI", "f_grid"};
     Floats members;
     const auto addFour = [&](Measured<float> first) {
         for (std::size_t k = 0; k < 4; ++k) // in the record the residual value comes first
             members.add(values.of(first, (k + 3) % 4));
     };
     const Four& u = phasors.primaryVoltage;
-    addFour({"U1_prim"});
+    addFour("U1_prim");
     for (const Phasor& each : u)
         members.add(degrees(each));
     std::ranges::for_each(kAmplitudes, addFour);

@@ -58,13 +58,13 @@ Outputs outputsOf(const Detection& detection, const std::bitset<kInputs>& inputs
     }
     for (std::size_t k = 0; k < kLeds; ++k)
         result.leds[k] = isOn(of(kLedFunctions, k), of(kLedPolarities, k), ledFunctions);
-    result.words.of({"y_BE"}) = wordOf(seen);
+    result.words.of("y_BE") = wordOf(seen);
     for (std::size_t k = 0; k < 4; ++k)
-        result.words.of({"y_BAF1"}, k) = wordOf(functions >> (1 + 32 * k) & Functions(0xFFFFFFFF));
-    result.words.of({"y_BA"}) = wordOf(relays);
-    result.words.of({"y_LED"}) = wordOf(result.leds);
-    result.words.of({"y_EarthFaultState"}) = detection.isEarthFault();
-    result.words.of({"y_ShortCircuitState"}) = detection.isShortCircuit();
+        result.words.of("y_BAF1", k) = wordOf(functions >> (1 + 32 * k) & Functions(0xFFFFFFFF));
+    result.words.of("y_BA") = wordOf(relays);
+    result.words.of("y_LED") = wordOf(result.leds);
+    result.words.of("y_EarthFaultState") = detection.isEarthFault();
+    result.words.of("y_ShortCircuitState") = detection.isShortCircuit();
     return result;
 }
 

@@ -1,7 +1,9 @@
 #include "tools/desk/Replay.h"
 
-#include <charconv>
 #include <map>
+#include <optional>
+
+#include "tools/Strings.h"
 
 namespace desk {
 
@@ -67,7 +69,7 @@ private:
     [[nodiscard]] double number(std::string text) const {
         const std::string cell = text;
         if (const auto comma = text.find(','); comma != text.npos) text[comma] = '.';
-        const auto value = numberIn(text);
+        const auto value = talux::numberOf<double>(text);
         if (!value) fail("'" + cell + "' is no number");
         return *value;
     }
@@ -101,12 +103,6 @@ Recording openCsv(const std::string& path) {
 }
 
 } // namespace
-
-std::optional<double> numberIn(std::string_view text) {
-    double value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return error == std::errc() && end == text.data() + text.size() ? std::optional(value) : std::nullopt;
-}
 
 std::vector<std::string> fieldsOf(std::string_view line, char delimiter, bool hasQuotes) {
     std::vector<std::string> fields(1);

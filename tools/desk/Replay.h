@@ -4,7 +4,6 @@
 
 #include <fstream>
 #include <functional>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -24,9 +23,6 @@ struct ReplayFault : std::runtime_error {
 
 Recording openComtrade(const std::string& path);
 Recording openRecording(const std::string& path); // by its ending
-
-// All of the text as a number with a decimal point.
-std::optional<double> numberIn(std::string_view text);
 
 // Without carriage returns. If there are quotes, a delimiter between them divides nothing.
 std::vector<std::string> fieldsOf(std::string_view line, char delimiter, bool hasQuotes);

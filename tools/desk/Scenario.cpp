@@ -59,7 +59,7 @@ public:
     // A percentage becomes a fraction.
     double number(const Range& range) {
         const std::string what = range.what, word = take(what);
-        const std::optional<double> value = numberIn(word);
+        const auto value = talux::numberOf<double>(word);
         if (!value) throw Wrong{what + " is a number with a decimal point, not '" + word + "'"};
         if (!(*value >= range.min && *value <= range.max))
             throw Wrong{talux::joined(

@@ -42,23 +42,21 @@ void read(Measured<std::int32_t> enabled, talux::Run<Value, count> run,
 // Which members a measured value fills; null where the record has none.
 struct Row {
     Measured<float> value;
-    float StatRecord_c0::*max;
-    float StatRecord_c0::*min;
-    float StatRecord_c0::*mean;
+    float StatRecord_c0::*max, StatRecord_c0::*min, StatRecord_c0::*mean;
 };
 using R = StatRecord_c0;
 constexpr Row kRows[] = {
-    {{"U0_prim"}, &R::U0_max, &R::U0_min, &R::U0_av}, {{"U1_prim"}, &R::U1_max, &R::U1_min, &R::U1_av},
-    {{"U2_prim"}, &R::U2_max, &R::U2_min, &R::U2_av}, {{"U3_prim"}, &R::U3_max, &R::U3_min, &R::U3_av},
-    {{"I0_prim"}, &R::I0_max, nullptr, &R::I0_av},    {{"I1_prim"}, &R::I1_max, nullptr, &R::I1_av},
-    {{"I2_prim"}, &R::I2_max, nullptr, &R::I2_av},    {{"I3_prim"}, &R::I3_max, nullptr, &R::I3_av},
-    {{"P0_prim"}, &R::P0_max, &R::P0_min, &R::P0_av}, {{"P1_prim"}, &R::P1_max, &R::P1_min, &R::P1_av},
-    {{"P2_prim"}, &R::P2_max, &R::P2_min, &R::P2_av}, {{"P3_prim"}, &R::P3_max, &R::P3_min, &R::P3_av},
-    {{"Q0_prim"}, &R::Q0_max, &R::Q0_min, &R::Q0_av}, {{"Q1_prim"}, &R::Q1_max, &R::Q1_min, &R::Q1_av},
-    {{"Q2_prim"}, &R::Q2_max, &R::Q2_min, &R::Q2_av}, {{"Q3_prim"}, &R::Q3_max, &R::Q3_min, &R::Q3_av},
-    {{"P_prim"}, &R::P_max, &R::P_min, &R::P_av},     {{"Q_prim"}, &R::Q_max, &R::Q_min, &R::Q_av},
-    {{"S_prim"}, &R::S_max, nullptr, &R::S_av},       {{"U12_prim"}, &R::U12_max, nullptr, nullptr},
-    {{"U23_prim"}, &R::U23_max, nullptr, nullptr},    {{"U31_prim"}, &R::U31_max, nullptr, nullptr},
+    {"U0_prim", &R::U0_max, &R::U0_min, &R::U0_av}, {"U1_prim", &R::U1_max, &R::U1_min, &R::U1_av},
+    {"U2_prim", &R::U2_max, &R::U2_min, &R::U2_av}, {"U3_prim", &R::U3_max, &R::U3_min, &R::U3_av},
+    {"I0_prim", &R::I0_max, nullptr, &R::I0_av},    {"I1_prim", &R::I1_max, nullptr, &R::I1_av},
+    {"I2_prim", &R::I2_max, nullptr, &R::I2_av},    {"I3_prim", &R::I3_max, nullptr, &R::I3_av},
+    {"P0_prim", &R::P0_max, &R::P0_min, &R::P0_av}, {"P1_prim", &R::P1_max, &R::P1_min, &R::P1_av},
+    {"P2_prim", &R::P2_max, &R::P2_min, &R::P2_av}, {"P3_prim", &R::P3_max, &R::P3_min, &R::P3_av},
+    {"Q0_prim", &R::Q0_max, &R::Q0_min, &R::Q0_av}, {"Q1_prim", &R::Q1_max, &R::Q1_min, &R::Q1_av},
+    {"Q2_prim", &R::Q2_max, &R::Q2_min, &R::Q2_av}, {"Q3_prim", &R::Q3_max, &R::Q3_min, &R::Q3_av},
+    {"P_prim", &R::P_max, &R::P_min, &R::P_av},     {"Q_prim", &R::Q_max, &R::Q_min, &R::Q_av},
+    {"S_prim", &R::S_max, nullptr, &R::S_av},       {"U12_prim", &R::U12_max, nullptr, nullptr},
+    {"U23_prim", &R::U23_max, nullptr, nullptr},    {"U31_prim", &R::U31_max, nullptr, nullptr},
 };
 
 } // namespace
@@ -68,10 +66,10 @@ Overrides readOverrides() {
         kInputValues{"OVR_BE_val"};
     static constexpr Measured<float> kMeasured{"OVR_MW_val"};
     Overrides overrides;
-    read({"OVR_BAF_enable"}, kFunctionValues.run<kFunctions>(), overrides.functions);
-    read({"OVR_BA_enable"}, kRelayValues.run<kRelays>(), overrides.relays);
-    read({"OVR_BE_enable"}, kInputValues.run<kInputs>(), overrides.inputs);
-    read({"OVR_MW_enable"}, kMeasured.run<32>(), overrides.values);
+    read("OVR_BAF_enable", kFunctionValues.run<kFunctions>(), overrides.functions);
+    read("OVR_BA_enable", kRelayValues.run<kRelays>(), overrides.relays);
+    read("OVR_BE_enable", kInputValues.run<kInputs>(), overrides.inputs);
+    read("OVR_MW_enable", kMeasured.run<32>(), overrides.values);
     return overrides;
 }
 
