@@ -25,13 +25,12 @@ class Desk {
 public:
     explicit Desk(const Scenario& scenario) : network(scenario.grid, scenario.load), script(scenario) {}
 
-    // The next cycle; false when the scenario has ended. While the program "restarts", nothing is published:
-    // isDown().
+    // The next cycle; false when the scenario has ended.
     bool step(const talux::Settings& settings, const Overrides& overrides, Cycle& cycle);
 
+    // While the program restarts, nothing is published.
     [[nodiscard]] bool isDown() const { return downUntil > time; }
 
-    // Ends all signals that last only for their duration.
     void acknowledge() { detection.acknowledge(); }
 
     // What events change.

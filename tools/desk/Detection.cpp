@@ -158,11 +158,10 @@ bool Detection::signal(std::size_t function, bool decided, double delay, const D
 
 void Detection::step(const Phasors& phasors, const Harmonics& harmonics, const std::vector<Onset>& onsets,
                      const Settings& settings) {
-    static constexpr Setting<float> kThreshold{"Uearth"}, kNominal{"U12"};
     time += kCycle;
-    const double nominal = settings[kNominal] / 1000.0 / std::numbers::sqrt3;
-    const bool wasEarthFault = std::exchange(earthFault, std::abs(phasors.primaryVoltage[0]) >=
-                                                             settings[kThreshold] / 100.0 * nominal);
+    const double nominal = settings[Setting<float>("U12")] / 1000.0 / std::numbers::sqrt3;
+    const double threshold = settings[Setting<float>("Uearth")] / 100.0 * nominal;
+    const bool wasEarthFault = std::exchange(earthFault, std::abs(phasors.primaryVoltage[0]) >= threshold);
     if (wasEarthFault && !earthFault) transient = Direction::none;
     observe(onsets, settings);
     const Direction charge = earthFault ? transient : Direction::none;
@@ -177,23 +176,21 @@ void Detection::step(const Phasors& phasors, const Harmonics& harmonics, const s
 
 // The first charge of an earth fault sets the direction of the transient method; every one is an ignition.
 void Detection::observe(const std::vector<Onset>& onsets, const Settings& settings) {
-    static constexpr Setting<float> kTransient{"qu2_Ice"}, kRestriking{"qui_Ice"};
     for (const Onset& onset : onsets) {
         const Direction direction = onset.forward ? Direction::forward : Direction::backward;
-        if (onset.ampere >= settings[kTransient] && transient == Direction::none) {
+        if (onset.ampere >= settings[Setting<float>("qu2_Ice")] && transient == Direction::none) {
             transient = direction;
             ++transientCount;
         }
-        if (onset.ampere >= settings[kRestriking]) ignitions.emplace_back(time, direction);
+        if (onset.ampere >= settings[Setting<float>("qui_Ice")]) ignitions.emplace_back(time, direction);
     }
 }
 
 Direction Detection::restriking(const Settings& settings) {
-    static constexpr Setting<std::int32_t> kWindow{"qui_T_super"}, kCount{"qui_n"};
-    const double since = time - settings[kWindow] / 1000.0;
+    const double since = time - settings[Setting<std::int32_t>("qui_T_super")] / 1000.0;
     while (!ignitions.empty() && ignitions.front().first < since)
         ignitions.pop_front();
-    const auto enough = static_cast<std::size_t>(std::max(settings[kCount], 1));
+    const auto enough = static_cast<std::size_t>(std::max(settings[Setting<std::int32_t>("qui_n")], 1));
     return ignitions.size() >= enough ? ignitions.back().second : Direction::none;
 }
 
@@ -295,10 +292,9 @@ void Detection::shortCircuits(const View& view) {
 
 // 82 too low, 83 too high, 84 either.
 void Detection::frequencies(const View& view) {
-    static constexpr Setting<std::int32_t> kCycles{"freq_N_cycle"};
     const bool isActive = view.isSet("freq_active");
     const double deviation = view.phasors.frequency - view["freq_f_grid"];
-    const double delay = view["freq_T_delay"] + kCycle * view.settings[kCycles];
+    const double delay = view["freq_T_delay"] + kCycle * view.settings[Setting<std::int32_t>("freq_N_cycle")];
     const Durations hold{view["freq_T_hold"], view["freq_T_hold"]};
     const bool low = isActive && deviation <= -view["freq_df_min"],
                high = isActive && deviation >= view["freq_df_max"];

@@ -51,9 +51,7 @@ class Detection {
 public:
     void step(const Phasors& phasors, const Harmonics& harmonics, const std::vector<Onset>& onsets,
               const talux::Settings& settings);
-
-    // Ends all signals that last only for their duration.
-    void acknowledge();
+    void acknowledge(); // ends all signals that last only for their duration
 
     [[nodiscard]] const Functions& relays() const { return sides[kRelaySide].functions; }
     [[nodiscard]] const Functions& leds() const { return sides[kLedSide].functions; }

@@ -85,40 +85,37 @@ Harmonics harmonicsOf(const Phasors& phasors, const Network& network, const Sett
 Values valuesOf(const Phasors& phasors, const Harmonics& harmonics) {
     const auto& [u, i, us, is, hertz] = phasors;
     Values values{};
-    const auto put = [&values](Measured<float> first, std::size_t number, double value) {
-        values.of(first, number) = static_cast<float>(value);
-    };
     Four powers;
     for (std::size_t k = 0; k < powers.size(); ++k) {
         const std::size_t number = (k + 3) % 4; // among the parameters the residual value comes last
         const Phasor& power = powers[k] = u[k] * std::conj(i[k]);
-        put("U1_prim", number, std::abs(u[k]));
-        put("I1_prim", number, std::abs(i[k]));
-        put("phiUI1", number, angleBetween(u[k], i[k]));
-        put("U1", number, std::abs(us[k]));
-        put("I1", number, std::abs(is[k]));
-        put("S1_prim", number, std::abs(power));
-        put("P1_prim", number, power.real());
-        put("Q1_prim", number, power.imag());
+        values.set("U1_prim", number, std::abs(u[k]));
+        values.set("I1_prim", number, std::abs(i[k]));
+        values.set("phiUI1", number, angleBetween(u[k], i[k]));
+        values.set("U1", number, std::abs(us[k]));
+        values.set("I1", number, std::abs(is[k]));
+        values.set("S1_prim", number, std::abs(power));
+        values.set("P1_prim", number, power.real());
+        values.set("Q1_prim", number, power.imag());
     }
     for (std::size_t k = 0; k < kPhases; ++k) {
-        put("U12_prim", k, std::abs(toNextPhase(u, k + 1)));
-        put("U12_sec", k, std::abs(toNextPhase(us, k + 1)));
+        values.set("U12_prim", k, std::abs(toNextPhase(u, k + 1)));
+        values.set("U12_sec", k, std::abs(toNextPhase(us, k + 1)));
     }
     const Phasor total = sumOfPhases(powers);
     const double apparent = std::abs(total);
-    put("S_prim", 0, apparent);
-    put("P_prim", 0, total.real());
-    put("Q_prim", 0, total.imag());
-    put("COSPHI", 0, apparent == 0 ? 0 : total.real() / apparent);
-    put("I0earth_prim", 0, std::abs(i[0]));
+    values.set("S_prim", 0, apparent);
+    values.set("P_prim", 0, total.real());
+    values.set("Q_prim", 0, total.imag());
+    values.set("COSPHI", 0, apparent == 0 ? 0 : total.real() / apparent);
+    values.set("I0earth_prim", 0, std::abs(i[0]));
     for (std::size_t k = 0; k < kHarmonics; ++k) {
-        put("U0_250_abs", 4 * k, harmonics[k].voltage);
-        put("I0_250_abs", 4 * k, harmonics[k].current);
-        put("Y0_250_abs", 4 * k, harmonics[k].admittance());
-        put("Y0_250_phi", 4 * k, -harmonics[k].degrees);
+        values.set("U0_250_abs", 4 * k, harmonics[k].voltage);
+        values.set("I0_250_abs", 4 * k, harmonics[k].current);
+        values.set("Y0_250_abs", 4 * k, harmonics[k].admittance());
+        values.set("Y0_250_phi", 4 * k, -harmonics[k].degrees);
     }
-    put("f_grid", 0, hertz);
+    values.set("f_grid", 0, hertz);
     return values;
 }
 

@@ -45,10 +45,14 @@ Harmonics harmonicsOf(const Phasors& phasors, const Network& network, const talu
 template <class Value, std::size_t count, int firstId>
 struct Consecutive : std::array<Value, count> {
     // The value `plus` positions after the named one.
-    Value& of(talux::Measured<Value> name, std::size_t plus = 0) { return (*this)[position(name) + plus]; }
     const Value& of(talux::Measured<Value> name, std::size_t plus = 0) const {
         return (*this)[position(name) + plus];
     }
+    void set(talux::Measured<Value> name, std::size_t plus, auto value) {
+        (*this)[position(name) + plus] = static_cast<Value>(value);
+    }
+
+private:
     static std::size_t position(talux::Measured<Value> name) {
         return static_cast<std::size_t>(name.id() - firstId);
     }

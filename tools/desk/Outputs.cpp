@@ -26,11 +26,6 @@ Functions overridden(Functions functions, const Overrides& overrides) {
     return functions;
 }
 
-template <std::size_t count>
-std::int32_t wordOf(const std::bitset<count>& bits) {
-    return static_cast<std::int32_t>(bits.to_ulong());
-}
-
 } // namespace
 
 Outputs outputsOf(const Detection& detection, const std::bitset<kInputs>& inputs, const Overrides& overrides,
@@ -58,13 +53,13 @@ Outputs outputsOf(const Detection& detection, const std::bitset<kInputs>& inputs
     }
     for (std::size_t k = 0; k < kLeds; ++k)
         result.leds[k] = isOn(of(kLedFunctions, k), of(kLedPolarities, k), ledFunctions);
-    result.words.of("y_BE") = wordOf(seen);
+    result.words.set("y_BE", 0, seen.to_ulong());
     for (std::size_t k = 0; k < 4; ++k)
-        result.words.of("y_BAF1", k) = wordOf(functions >> (1 + 32 * k) & Functions(0xFFFFFFFF));
-    result.words.of("y_BA") = wordOf(relays);
-    result.words.of("y_LED") = wordOf(result.leds);
-    result.words.of("y_EarthFaultState") = detection.isEarthFault();
-    result.words.of("y_ShortCircuitState") = detection.isShortCircuit();
+        result.words.set("y_BAF1", k, (functions >> (1 + 32 * k) & Functions(0xFFFFFFFF)).to_ulong());
+    result.words.set("y_BA", 0, relays.to_ulong());
+    result.words.set("y_LED", 0, result.leds.to_ulong());
+    result.words.set("y_EarthFaultState", 0, detection.isEarthFault());
+    result.words.set("y_ShortCircuitState", 0, detection.isShortCircuit());
     return result;
 }
 

@@ -13,8 +13,6 @@ namespace {
 using talux::Measured, talux::Record, talux::Setting, talux::StatRecord_c0;
 
 constexpr Measured<std::int32_t> kRequest{"mw_req"}, kResetButton{"BE_Reset_Button"};
-constexpr Measured<float> kSnapshot{"mw_U0p"};
-constexpr Measured<short> kTransients{"EvCnt_qu2"};
 
 // In the order of the parameters mw_U0p to mw_phi_UI3; the inputs' voltages stay 0.
 Floats snapshotOf(const Phasors& phasors) {
@@ -40,11 +38,11 @@ void read(Measured<std::int32_t> enabled, talux::Run<Value, count> run,
 }
 
 // Which members a measured value fills; null where the record has none.
+using R = StatRecord_c0;
 struct Row {
     Measured<float> value;
-    float StatRecord_c0::*max, StatRecord_c0::*min, StatRecord_c0::*mean;
+    float R::*max, R::*min, R::*mean;
 };
-using R = StatRecord_c0;
 constexpr Row kRows[] = {
     {"U0_prim", &R::U0_max, &R::U0_min, &R::U0_av}, {"U1_prim", &R::U1_max, &R::U1_min, &R::U1_av},
     {"U2_prim", &R::U2_max, &R::U2_min, &R::U2_av}, {"U3_prim", &R::U3_max, &R::U3_min, &R::U3_av},
@@ -62,14 +60,12 @@ constexpr Row kRows[] = {
 } // namespace
 
 Overrides readOverrides() {
-    static constexpr Measured<std::int32_t> kFunctionValues{"OVR_BAF_val"}, kRelayValues{"OVR_BA_val"},
-        kInputValues{"OVR_BE_val"};
-    static constexpr Measured<float> kMeasured{"OVR_MW_val"};
+    using Number = Measured<std::int32_t>;
     Overrides overrides;
-    read("OVR_BAF_enable", kFunctionValues.run<kFunctions>(), overrides.functions);
-    read("OVR_BA_enable", kRelayValues.run<kRelays>(), overrides.relays);
-    read("OVR_BE_enable", kInputValues.run<kInputs>(), overrides.inputs);
-    read("OVR_MW_enable", kMeasured.run<32>(), overrides.values);
+    read("OVR_BAF_enable", Number("OVR_BAF_val").run<kFunctions>(), overrides.functions);
+    read("OVR_BA_enable", Number("OVR_BA_val").run<kRelays>(), overrides.relays);
+    read("OVR_BE_enable", Number("OVR_BE_val").run<kInputs>(), overrides.inputs);
+    read("OVR_MW_enable", Measured<float>("OVR_MW_val").run<32>(), overrides.values);
     return overrides;
 }
 
@@ -81,10 +77,10 @@ bool publish(const Cycle& cycle) {
                                      Record<talux::MessRecord01>{},
                                      Record<talux::MessRecord02>{}};
     if (kRequest.get() != 0) {
-        kSnapshot.set_run(snapshotOf(cycle.phasors));
+        Measured<float>("mw_U0p").set_run(snapshotOf(cycle.phasors));
         kRequest.set(0);
     }
-    kTransients.set(static_cast<short>(cycle.transients));
+    Measured<short>("EvCnt_qu2").set(static_cast<short>(cycle.transients));
     return kGroup.write(cycle.values, cycle.outputs.states, cycle.outputs.words, cycle.record,
                         cycle.second_record);
 }
@@ -104,7 +100,6 @@ const stVarSpace& factorySpace() {
 }
 
 std::optional<StatRecord_c0> Statistics::add(const Cycle& cycle, const talux::Settings& settings) {
-    static constexpr Setting<std::int32_t> kMinutes{"stat_intervall"};
     ++cycles;
     seconds += kCycle;
     for (const Row& row : kRows) {
@@ -115,7 +110,7 @@ std::optional<StatRecord_c0> Statistics::add(const Cycle& cycle, const talux::Se
         if (row.mean != nullptr)
             running.*row.mean += (value - running.*row.mean) / static_cast<float>(cycles);
     }
-    if (seconds < 60.0 * settings[kMinutes]) return {};
+    if (seconds < 60.0 * settings[Setting<std::int32_t>("stat_intervall")]) return {};
     running.SysTime = running.M3TimeStamp = static_cast<std::int32_t>(std::time(nullptr));
     running.dT = static_cast<std::int32_t>(seconds);
     running.EvCnt_qu2 = cycle.transients - std::exchange(transientsBefore, cycle.transients);
