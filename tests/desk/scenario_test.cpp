@@ -7,6 +7,7 @@
 #include <fstream>
 #include <numbers>
 #include <random>
+#include <unistd.h>
 
 using namespace desk_test;
 
@@ -42,11 +43,94 @@ TEST(DeskScenario, SaysWhatIsWrongAndWhatWouldBeRight) {
         {"at 2 s end now", "'now' is too much"},
         {"at nan s end", "the time is from 0 to 86400 s"},
         {"at 2 s short circuit L1 L1 500 A forward", "a short circuit is between two phases"},
+        {"at 2 s transformers I1 I1 swapped", "two transformers are swapped"},
+        {"network isolated 20 kV earth 5 %",
+         "capacitive, own, detuning, damping or neutral expected, not 'earth'"},
+        {"load 5 A lag 3 deg", "angle, drift or noise expected, not 'lag'"},
+        {"load x A", "the load is a number with a decimal point, not 'x'"},
     };
     for (const auto& [line, fault] : cases)
         EXPECT_EQ(faultsOf(line), "1: " + std::string(fault) + "\n");
     EXPECT_NE(faultsOf("at 1 s fault").find("nothing begins with 'fault'; there are earth fault, "),
               std::string::npos);
+}
+
+TEST(DeskScenario, NeedsEveryWordOfAStatement) {
+    for (const std::string statement :
+         {"network low-resistance 20 kV neutral 500 A", "load 5 A angle 3 deg noise 2 %",
+          "at 2 s earth fault L1 200 ohm forward",
+          "at 2 s restriking earth fault L1 solid backward every 0.3 s for 0.06 s",
+          "at 2 s short circuit L1 L2 1500 A forward", "at 2 s transformer U1 reversed",
+          "at 2 s transformers I1 I3 normal", "at 2 s fuse U2 missing", "at 2 s conductor L1 open",
+          "at 2 s rotation reversed", "at 2 s input BE6 off", "at 2 s frequency 49.8 Hz",
+          "at 2 s load 250 A"}) {
+        EXPECT_EQ(faultsOf(statement), "");
+        for (std::size_t word = 0, end = 0; end < statement.size(); word = end + 1) {
+            end = std::min(statement.find(' ', word), statement.size());
+            const std::string before = statement.substr(0, word), after = statement.substr(end);
+            EXPECT_TRUE(faultsOf(before + "?" + after).starts_with("1: ")) << before << "?" << after;
+            const bool isWhole = word == 0 || before == "load 5 A " || before == "load 5 A angle 3 deg ";
+            EXPECT_EQ(faultsOf(before).empty(), isWhole) << before;
+        }
+    }
+}
+
+// Each statement changes what its words say, and a second one changes it back.
+TEST(DeskScenario, ChangesWhatItsStatementsSay) {
+    const struct {
+        const char *change, *back;
+        double (*seen)(const Cycle& cycle);
+        double changed;
+    } cases[] = {
+        {"transformer U2 reversed", "transformer U2 normal",
+         [](const Cycle& c) -> double { return c.record.wU2; }, 60},
+        {"transformer I2 reversed", "transformer I2 normal",
+         [](const Cycle& c) -> double { return c.record.wUI2; }, 180},
+        {"transformers I1 I2 swapped", "transformers I1 I2 normal",
+         [](const Cycle& c) -> double { return c.record.wUI1; }, 120},
+        {"fuse U2 missing", "fuse U2 restored", [](const Cycle& c) -> double { return c.record.U2p; }, 0},
+        {"conductor L2 open", "conductor L2 closed", [](const Cycle& c) -> double { return c.record.I2p; },
+         0},
+        {"rotation reversed", "rotation normal", [](const Cycle& c) -> double { return c.record.wU2; }, 120},
+        {"input BE3 on", "input BE3 off",
+         [](const Cycle& c) -> double { return c.outputs.states[kRelays + 2]; }, 1},
+        {"frequency 49.5 Hz", "frequency 50 Hz", [](const Cycle& c) -> double { return c.record.f_grid; },
+         49.5},
+        {"load 250 A", "load 100 A", [](const Cycle& c) -> double { return c.record.I1p; }, 250},
+        {"short circuit L1 L2 500 A backward", "fault cleared",
+         [](const Cycle& c) -> double { return c.record.U12p_a; }, 12},
+        {"earth fault L1 solid backward", "fault cleared",
+         [](const Cycle& c) -> double { return c.record.U1p; }, 0},
+        {"restriking earth fault L1 solid forward every 20 s for 19 s", "fault cleared",
+         [](const Cycle& c) -> double { return c.record.U1p; }, 0},
+    };
+    for (const auto& [change, back, seen, changed] : cases) {
+        Bench bench;
+        const auto& cycles = bench.run(
+            std::string("network isolated 20 kV own 0 A\nload 100 A angle 0 deg drift 0 %\nat 1 s ") +
+            change + "\nat 6 s " + back + "\nat 20 s end\n");
+        EXPECT_NEAR(seen(cycles[5 * 50]), changed, 0.02) << change;
+        EXPECT_NEAR(seen(cycles.back()), seen(cycles[0]), 0.02) << back;
+    }
+}
+
+TEST(DeskScenario, RestartsTheProgramWithoutItsSignals) {
+    Bench bench;
+    const auto& cycles =
+        bench.run(std::string(kIsolated) + "at 1 s earth fault L1 solid forward\n"
+                                           "at 2 s fault cleared\nat 3 s restart\nat 5 s end\n");
+    EXPECT_EQ(cycles[149].record.Cnt, 150);
+    EXPECT_EQ(cycles[149].transients, 1);
+    EXPECT_EQ(cycles[150].record.Cnt, 1);
+    EXPECT_EQ(cycles[150].transients, 0);
+    std::istringstream text("at 0.1 s restart\nat 5 s end\n");
+    const Scenario scenario = readScenario(text);
+    Desk device(scenario);
+    Cycle cycle;
+    double down = 0;
+    while (device.step(bench.settings(), {}, cycle))
+        down += device.isDown() ? kCycle : 0;
+    EXPECT_NEAR(down, 1, kCycle);
 }
 
 TEST(DeskScenario, TakesEventsInTheOrderOfTimeAndEndsWhateverComes) {
@@ -78,7 +162,8 @@ TEST(DeskScenario, GivesTheSameValuesTwice) {
 
 class DeskReplay : public testing::Test {
 protected:
-    std::filesystem::path folder = std::filesystem::temp_directory_path() / "desk_replay";
+    std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / ("desk_replay." + std::to_string(getpid()));
 
     void SetUp() override { std::filesystem::create_directories(folder); }
     void TearDown() override { std::filesystem::remove_all(folder); }
@@ -165,27 +250,77 @@ TEST_F(DeskReplay, FindsThePhasorsOfComtrade) {
     }
 }
 
-TEST_F(DeskReplay, SaysWhatIsWrongWithARecording) {
-    const std::string good = configuration("ASCII");
-    write("record.dat", ascii());
-    const auto with = [&](const std::string& from, const std::string& to) {
-        std::string text = good;
-        text.replace(text.find(from), from.size(), to);
-        return faultOf(write("record.cfg", text));
+// Other units, secondary values, names of phases, digital channels, a name in capitals: the same phasors.
+TEST_F(DeskReplay, FindsTheSamePhasorsHoweverChannelsAreDescribed) {
+    const auto with = [&](std::initializer_list<std::pair<const char*, const char*>> replacements) {
+        std::string text = configuration("ASCII");
+        for (const auto& [from, to] : replacements)
+            for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + strlen(to)))
+                text.replace(at, strlen(from), to);
+        write("RECORD.DAT", ascii());
+        Sample sample;
+        EXPECT_TRUE(openRecording(write("RECORD.CFG", text))(0.02, sample));
+        return sample;
     };
-    EXPECT_EQ(with("ASCII", "ASCII"), "none");
-    EXPECT_EQ(with("6A", "6X"), "record.cfg:2: a number of channels with A expected, not '6X'");
-    EXPECT_EQ(with("6A", "99999A"), "record.cfg:2: from 0 to 9999 channels");
-    EXPECT_EQ(with("4000,800", "4000,900"), "record.dat: sample 801: the file ends here");
-    EXPECT_EQ(with("4000,800", "100,800"), "record.cfg:11: at least four samples a cycle are needed");
-    EXPECT_EQ(with("4000,800", "4000,1e30"), "record.cfg:11: from 1 to 20 million samples");
-    EXPECT_EQ(with(",C,,A", ",N,,A"), "record.cfg:8: no current of phase 3");
-    EXPECT_EQ(with("ASCII", "PKZIP"),
-              "record.cfg:14: the format 'PKZIP' is none of ASCII, BINARY, BINARY32, FLOAT32");
-    EXPECT_EQ(faultOf(folder / "missing.cfg"), "missing.cfg: cannot be read");
-    EXPECT_EQ(faultOf(write("record.txt", "")), "record.txt: neither a .csv nor a .cfg file");
+    const Sample wanted = with({});
+    EXPECT_NEAR(std::abs(wanted.voltage[2]), 16.33 / std::numbers::sqrt2, 0.01);
+    for (const Sample& sample :
+         {with({{"kV,0.01", "V,10"}}), with({{"A,0.01", "kA,0.00001"}}),
+          with({{",A,,", ",L1,,"}, {",C,,", ",3,,"}}),
+          with({{"kV,0.01", "kV,0.0001"}, {"A,0.01", "A,0.0001"}, {"1,1,P", "100,1,S"}}),
+          with({{"1,1,P", "9,0,s"}}), with({{",1,1,P", ""}}),
+          with({{"6,6A,0D", "8,6A,2D"}, {"50\n1\n", "1,d\n2,d\n50\n1\n"}})})
+        for (std::size_t k = 0; k < 4; ++k) {
+            EXPECT_NEAR(std::abs(sample.voltage[k] - wanted.voltage[k]), 0, 1e-6);
+            EXPECT_NEAR(std::abs(sample.current[k] - wanted.current[k]), 0, 1e-6);
+        }
+}
+
+TEST_F(DeskReplay, SaysWhatIsWrongWithARecording) {
+    const std::string good = configuration("ASCII"), data = ascii();
+    const struct {
+        const char *from, *to, *fault;
+    } cases[] = {
+        {"ASCII", "ASCII", "none"},
+        {"6A", "6X", "record.cfg:2: a number of channels with A expected, not '6X'"},
+        {"6A", "", "record.cfg:2: a number of channels with A expected, not ''"},
+        {"6A", "99999A", "record.cfg:2: from 0 to 9999 channels"},
+        {"0D", "-1D", "record.cfg:2: from 0 to 9999 channels"},
+        {"0D", "xD", "record.cfg:2: the number of channels is a number, not 'x'"},
+        {"4000,800", "4000,900", "record.dat: sample 801: the file ends here"},
+        {"4000,800", "100,800", "record.cfg:11: at least four samples a cycle are needed"},
+        {"4000,800", "4000,1e30", "record.cfg:11: from 1 to 20 million samples"},
+        {"4000,800", "4000,0", "record.cfg:11: from 1 to 20 million samples"},
+        {"4000,800", "4000", "record.cfg:11: at least 2 fields expected"},
+        {"4000,800", "inf,800", "record.cfg:11: the sampling rate is a number, not 'inf'"},
+        {"50\n1\n", "-50\n1\n", "record.cfg:11: at least four samples a cycle are needed"},
+        {"50\n1\n", "\n1\n", "record.cfg:9: the line frequency is a number, not ''"},
+        {"50\n1\n", "50\n2\n", "record.cfg:10: one sampling rate expected, not 2.000000"},
+        {",C,,A", ",N,,A", "record.cfg:8: no current of phase 3"},
+        {",A,,kV", ",A,,mV", "record.cfg:8: no voltage of phase 1"},
+        {"1,1,P", "1,x,S", "record.cfg:3: the secondary rating is a number, not 'x'"},
+        {"ASCII", "PKZIP", "record.cfg:14: the format 'PKZIP' is none of ASCII, BINARY, BINARY32, FLOAT32"},
+        {"6,6A,0D", "7,7A,0D", "record.cfg:9: at least 10 fields expected"},
+    };
+    const auto faultWith = [&](std::string configured, const std::string& recorded) {
+        write("record.dat", recorded);
+        return faultOf(write("record.cfg", configured));
+    };
+    for (const auto& [from, to, fault] : cases) {
+        std::string text = good;
+        text.replace(text.find(from), std::strlen(from), to);
+        EXPECT_EQ(faultWith(text, data), fault) << to;
+    }
+    std::string binaryFormat = good;
+    binaryFormat.replace(good.find("ASCII"), 5, "BINARY");
+    EXPECT_EQ(faultWith(binaryFormat, data.substr(0, 50)), "record.dat: sample 3: the file ends here");
+    EXPECT_EQ(faultWith(good, "1,0,1,2,3\n"), "record.dat: sample 1: too few values");
+    EXPECT_EQ(faultWith(good, "1,0,1,2,x,4,5,6\n"), "record.dat: sample 1: a value is no number");
     for (std::size_t length = 0; length + 1 < good.size(); length += 7)
-        EXPECT_NE(faultOf(write("record.cfg", good.substr(0, length))), "") << length;
+        EXPECT_NE(faultWith(good.substr(0, length), data), "") << length;
+    EXPECT_EQ(faultOf(folder / "missing.cfg"), "missing.cfg: cannot be read");
+    EXPECT_EQ(faultOf(write("alone.cfg", good)), "alone.dat: cannot be read");
+    EXPECT_EQ(faultOf(write("record.txt", "")), "record.txt: neither a .csv nor a .cfg file");
 }
 
 TEST_F(DeskReplay, ReplaysWhatWatchHasWritten) {
@@ -200,10 +335,40 @@ TEST_F(DeskReplay, ReplaysWhatWatchHasWritten) {
     EXPECT_NEAR(cycles[60].record.wUI1, 30, 1e-3);
     EXPECT_NEAR(cycles[110].record.U1p, 10, 1e-3);
     EXPECT_NEAR(cycles.back().record.I1p, 0, 3) << "the network again";
-    EXPECT_EQ(faultOf(write("feeder.csv", "time,U1_prim\n")), "feeder.csv:1: no column U2_prim");
-    EXPECT_EQ(faultOf(write("feeder.csv", head)), "feeder.csv: no rows of values");
-    EXPECT_EQ(faultOf(write("feeder.csv", head + "2026-11-25 23:59:59.000,11\n")),
-              "feeder.csv:2: 10 cells expected, not 2");
+    const std::string first = "2026-11-25 23:59:59.000,11,12,13,100,101,102,30,30,30\n";
+    const std::pair<std::string, const char*> cases[] = {
+        {head + first, "none"},
+        {"", "feeder.csv: cannot be read"},
+        {"time,U1_prim\n", "feeder.csv:1: no column U2_prim"},
+        {head, "feeder.csv: no rows of values"},
+        {head + "2026-11-25 23:59:59.000,11\n", "feeder.csv:2: 10 cells expected, not 2"},
+        {head + first + "2026-11-25,11,12,13,100,101,102,30,30,30\n",
+         "feeder.csv:3: '2026-11-25' is no date and time"},
+        {head + first + "2026-11-25 x,11,12,13,100,101,102,30,30,30\n",
+         "feeder.csv:3: '2026-11-25 x' is no date and time"},
+        {head + "2026-11-25 23:59:59.000,11,12,x,100,101,102,30,30,30\n", "feeder.csv:2: 'x' is no number"},
+        {head + "2026-11-25 23:59:59.000,11,12,,100,101,102,30,30,30\n", "feeder.csv:2: '' is no number"},
+        {head + first + "2026-11-25 23:59:58.500,11,12,13,100,101,102,30,30,30\n",
+         "feeder.csv:3: the time goes back"},
+    };
+    for (const auto& [contents, fault] : cases)
+        EXPECT_EQ(faultOf(write("feeder.csv", contents)), fault);
+}
+
+// With semicolons, decimal commas and quotes as spreadsheets write them, and the residual values measured.
+TEST_F(DeskReplay, TakesResidualValuesAndFrequencyWhereTheyAre) {
+    const std::string path =
+        write("feeder.csv",
+              "time;\"U1_prim\";U2_prim;U3_prim;I1_prim;I2_prim;I3_prim;U0_prim;I0_prim;phiUI0;f_grid\r\n"
+              "2026-11-25 10:00:00;11,5;11,5;11,5;100;100;100;\"2,5\";7;-90;49,9\r\n");
+    Sample sample;
+    const Recording recording = openRecording(path);
+    ASSERT_TRUE(recording(0.5, sample));
+    EXPECT_NEAR(std::abs(sample.voltage[1] - 11.5), 0, 1e-9);
+    EXPECT_NEAR(std::abs(sample.voltage[0] - 2.5), 0, 1e-9);
+    EXPECT_NEAR(std::abs(sample.current[0] - Phasor(0, 7)), 0, 1e-9);
+    EXPECT_EQ(sample.frequency, 49.9);
+    EXPECT_FALSE(recording(1.5, sample));
 }
 
 } // namespace

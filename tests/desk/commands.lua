@@ -1,0 +1,68 @@
+-- Beside no other device program: what talux-desk refuses, its cycles with --step, its statistics.
+--
+--   commands.lua DESK-COMMAND..
+local check = dofile(arg[0]:match ".*/" .. "../check.lua")
+local talux = require "talux"
+local equal, case = check.equal, check.case
+local desk = table.concat(arg, " ")
+
+local function shell(command)
+  local pipe = io.popen("cd /tmp/desk && { " .. command .. "; } 2>&1; echo $?")
+  local said, status = pipe:read("*a"):match "(.*)(%d)\n$"
+  pipe:close()
+  return said, tonumber(status)
+end
+local function inFolder(body)
+  return function()
+    os.execute "mkdir /tmp/desk"
+    body()
+    os.execute "rm -r /tmp/desk"
+  end
+end
+
+case("refusals", inFolder(function()
+  shell [[printf 'network isolated 20 V\n\nat 1 s earth fault L1 solid\n' >wrong
+    printf 'at 0 s replay none.csv\n' >replay; echo 'at 1 s end' >good]]
+  for _, row in ipairs {
+    {"--scenario none", 2, "talux-desk: none: No such file or directory\n"},
+    {"--scenario wrong --check", 1, "wrong:1: 'kV' expected, not 'V'\nwrong:3: the direction is missing\n"},
+    {"--scenario wrong --plot x.svg", 1, "wrong:1: 'kV' expected, not 'V'\nwrong:3: the direction is missing\n"},
+    {"--scenario ./replay --plot x.svg", 2, "talux-desk: ./none.csv: cannot be read\n"},
+    {"--scenario /tmp/desk/replay --plot x.svg", 2, "talux-desk: /tmp/desk/none.csv: cannot be read\n"},
+    {"--scenario good --plot none/x.svg", 2, "talux-desk: none/x.svg: No such file or directory\n"},
+    {"--scenario good none/log", 2, "talux-desk: none/log: No such file or directory\n"},
+    {"--scenario good --check", 0, ""},
+    {"--check", 0, ""},
+    {"--scenario good --plot x.svg && grep -c '</svg>' x.svg", 0, "1\n"},
+  } do
+    local said, status = shell(desk .. " " .. row[1])
+    equal(said, row[3], row[1])
+    equal(status, row[2], row[1])
+  end
+end))
+
+case("a cycle per line, until the lines or the scenario end", inFolder(function()
+  local heading = "a model for learning and for trying scripts, no protection\nUearth is 30 now\nready\n"
+  equal(shell("printf '\\n\\n\\n' | " .. desk .. " --step"), heading, "without a scenario")
+  equal(talux.record "MessRecord01".Cnt, 4, "cycles")
+  shell "echo 'at 0.06 s end' >short"
+  equal(shell("yes | " .. desk .. " --step --scenario short"), heading, "the scenario ends")
+  equal(talux.record "MessRecord01".Cnt, 3, "cycles")
+end))
+
+case("statistics and changes of the threshold", inFolder(function()
+  local pipe = io.popen("echo $$; exec " .. desk .. " --speed 1000 /tmp/desk/log")
+  local pid = pipe:read()
+  equal(pipe:read(), "ready", "the desk is ready")
+  talux.apply {stat_intervall = 1, Uearth = 36.5}
+  talux.update()
+  talux.every(20, function(k) return talux.record "StatRecord_c0".dT == 0 and k < 1000 end)
+  os.execute("kill " .. pid)
+  equal(pipe:close(), true, "a signal ends it well")
+  local statistics = talux.record "StatRecord_c0"
+  equal(statistics.dT, 60, "seconds")
+  equal(math.abs(statistics.U1_max - 11.5) < 0.2, true, "largest U1")
+  equal(shell "tail -n 1 log", "Uearth is 36.5 now\n", "the log")
+end))
+
+check.finish()
