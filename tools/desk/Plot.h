@@ -15,7 +15,7 @@ class Plot {
 public:
     void add(const Cycle& cycle);
 
-    // An SVG that can be read in light and dark, with text that can be searched.
+    // An SVG for light and dark, with text that can be searched; the dictionary has to be loaded.
     [[nodiscard]] std::string svg(const std::string& title) const;
 
 private:
