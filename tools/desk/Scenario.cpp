@@ -198,7 +198,7 @@ Event conductor(Words& words) {
 }
 
 // Two current transformers are in each other's phase.
-Event swap(Words& words) {
+Event swapTransformers(Words& words) {
     const auto which = [&] { return words.oneOf("the transformer", {"I1", "I2", "I3"}); };
     const std::size_t first = which(), second = which();
     if (first == second) throw Wrong{"two transformers are swapped"};
@@ -231,7 +231,7 @@ constexpr struct {
     {"restriking earth fault", restriking},
     {"short circuit", shortCircuit},
     {"fault cleared", [](Words&) -> Event { return &Desk::clear; }},
-    {"transformers", swap},
+    {"transformers", swapTransformers},
     {"transformer", transformer},
     {"fuse", fuse},
     {"conductor", conductor},
