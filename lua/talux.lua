@@ -1,5 +1,5 @@
 -- The parameters of the relay as Lua values: read as numbers and texts, written with checks and all or none,
--- described in words. A layer over the module lib_talux_lua that keeps nothing of its own.
+-- described in words. A layer over the module lib_talux_lua that stores nothing itself.
 require "lib_talux_lua"
 local checks = require "talux.checks"
 local dictionary = require "talux.dictionary"
@@ -88,8 +88,8 @@ local function range(name, first, last)
   return (row and elements or series)(row or tostring(name), first, last)
 end
 
--- Lines that read, by the names that have been read.
-local lines = {}
+-- The lines that read parameters, by the names that were asked for.
+local queries = {}
 
 ---The value of a parameter: a number, for a choice its number, or a text. With `first` that element of an
 ---indexed parameter or of a series (BAassign, 3), with `first` and `last` a table of elements by their numbers.
@@ -98,7 +98,7 @@ local lines = {}
 ---@param last? integer
 ---@return any
 function talux.get(name, first, last)
-  local line = not first and lines[name]
+  local line = not first and queries[name]
   if line then
     local answer = command(line)
     return tonumber(answer) or valueOf(answer)
@@ -109,7 +109,7 @@ function talux.get(name, first, last)
     if value and not last then value = value[first] end
   else
     value = type(name) == "string" and find(name, "^[%w_]+$") and read("TLX_" .. name) or nil
-    if value then lines[name] = "TLX_" .. name else reason = whyNot(name) end
+    if value then queries[name] = "TLX_" .. name else reason = whyNot(name) end
   end
   if value == nil then error(("%s: %s"):format(tostring(name), reason), 2) end
   return value
@@ -171,7 +171,7 @@ local function plan(settings)
     local id = entry and row.id + (index or 1) - 1
     if entry and not taken[id] then
       taken[id], entries[#entries + 1] = true, entry
-      entry.order = ((rank[row.kind] or 0) * 10000 + dictionary.place(row)) * 1000 + (index or 0)
+      entry.order = ((rank[row.kind] or 0) * 10000 + dictionary.position(row)) * 1000 + (index or 0)
     else
       faults[#faults + 1] = ("%s = %s: %s"):format(labelOf(row, index), tostring(value), reason or "NAMED TWICE")
     end
@@ -323,7 +323,7 @@ local function settingsOf(source)
   return settings or error(reason, 3)
 end
 
----The settings of a file, or of a folder with the three files, as a load would keep them, by name. Also those of
+---The settings of a file, or of a folder with the three files, as a load would store them, by name. Also those of
 ---the factory ("default") and of the working copy ("staged"). Changes nothing.
 ---@param source string
 ---@return table<string, any>
@@ -379,9 +379,9 @@ local defaultAnswers = {}
 ---The settings whose value in the working copy is not the factory default, which is the old value.
 ---@return talux.Change[]
 function talux.changed()
-  local changes, settings, lines = {}, dictionary.settings()
-  for k = 1, #settings do
-    local row, answer = settings[k], command(lines[k])
+  local changes, rows, queries = {}, dictionary.settings()
+  for k = 1, #rows do
+    local row, answer = rows[k], command(queries[k])
     if answer ~= defaultAnswers[k] then
       local now = valueOf(answer)
       if now == row.default then defaultAnswers[k] = answer

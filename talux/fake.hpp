@@ -29,27 +29,27 @@ static_assert(sizeof(MessRecord01) <= 1024 && sizeof(MessRecord02) <= 1024 && si
 inline int saveError = 0;
 
 template <table::Kind kind>
-char* placeOf(stVarSpace& space, int id) {
+char* addressOf(stVarSpace& space, int id) {
     return reinterpret_cast<char*>(&space) + bytesOf(kind, id).offset;
 }
 
 template <table::Kind kind, class Value>
 void put(stVarSpace& space, int id, const Value* values, unsigned long count = 1) {
-    std::memcpy(placeOf<kind>(space, id), values, count * sizeof *values);
+    std::memcpy(addressOf<kind>(space, id), values, count * sizeof *values);
 }
 template <table::Kind kind, class Value>
 void get(stVarSpace& space, int id, Value* values, unsigned long count = 1) {
-    std::memcpy(values, placeOf<kind>(space, id), count * sizeof *values);
+    std::memcpy(values, addressOf<kind>(space, id), count * sizeof *values);
 }
 
 template <table::Kind kind>
 void putText(stVarSpace& space, int id, const char* text) {
-    const std::size_t room = bytesOf(kind, id).size - 1;
-    std::strncpy(placeOf<kind>(space, id), text, room); // nothing of the old text stays behind it
+    const std::size_t capacity = bytesOf(kind, id).size - 1;
+    std::strncpy(addressOf<kind>(space, id), text, capacity); // nothing of the old text remains
 }
 template <table::Kind kind>
 void getText(stVarSpace& space, int id, char* text) {
-    std::memcpy(text, placeOf<kind>(space, id), bytesOf(kind, id).size);
+    std::memcpy(text, addressOf<kind>(space, id), bytesOf(kind, id).size);
 }
 
 inline std::span<const stParamProperties> rows() {

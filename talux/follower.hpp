@@ -132,8 +132,8 @@ class Differences {
 public:
     class iterator {
     public:
-        iterator(const Differences& differences, const detail::SettingBytes* place)
-            : both(differences), at(place) {
+        iterator(const Differences& differences, const detail::SettingBytes* start)
+            : both(differences), at(start) {
             toNext();
         }
         Difference operator*() const { return Difference(at->id); }

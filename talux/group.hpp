@@ -33,36 +33,36 @@ template <GroupElement... Elements>
 class Group {
 public:
     explicit Group(std::string_view groupName, Elements... parts)
-        : elements(parts...), place(groupName, detail::fingerprint({static_cast<std::size_t>(parts.id())...,
-                                                                    sizeof(typename Elements::Value)...})) {}
+        : elements(parts...), access(groupName, detail::fingerprint({static_cast<std::size_t>(parts.id())...,
+                                                                     sizeof(typename Elements::Value)...})) {}
 
     // Whether the group can be written and read, and why not. A slot belongs to a name and its elements as
     // long as a program uses it; after that a group with other elements may take the name, and when all slots
     // are taken another group the slot.
-    [[nodiscard]] Attachment attachment() const { return place.attachment(); }
+    [[nodiscard]] Attachment attachment() const { return access.attachment(); }
     [[nodiscard]] bool attached() const { return attachment() == Attachment::attached; }
 
     // False when nothing was written: the group is not attached, or another writer stayed inside for 0.1 s.
     [[nodiscard]] bool write(const typename Elements::Value&... values) const {
-        return place.write(
+        return access.write(
             [&] { std::apply([&](const Elements&... each) { (each.set(values), ...); }, elements); });
     }
 
     // Do not use values that are not whole: they may be parts of several writes.
     [[nodiscard]] Reading read(typename Elements::Value&... values) const {
-        return place.read(
+        return access.read(
             [&] { std::apply([&](const Elements&... each) { (each.get(values), ...); }, elements); });
     }
 
     // Waits until a write after `last` is done, for at most `milliseconds`, also if signals arrive. True
     // when there is one; the next read may find a later one. Writers wake a sleeper only when there is one.
     [[nodiscard]] bool wait(const Reading& last, int milliseconds) const {
-        return place.wait(last.number(), milliseconds);
+        return access.wait(last.number(), milliseconds);
     }
 
 private:
     std::tuple<Elements...> elements;
-    detail::GroupPlace place;
+    detail::GroupAccess access;
 };
 
 } // namespace talux

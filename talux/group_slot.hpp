@@ -102,9 +102,9 @@ inline bool arePrivate() {
     return &privateGroups != nullptr;
 }
 
-class GroupPlace {
+class GroupAccess {
 public:
-    GroupPlace(std::string_view name, std::uint32_t memberList) : members(memberList), owner(getpid()) {
+    GroupAccess(std::string_view name, std::uint32_t memberList) : members(memberList), owner(getpid()) {
         const bool fits = !name.empty() && name.size() < GroupSlot::kNameSize;
         if (!fits || name.find('\0') != name.npos) {
             result = Attachment::wrongName;
@@ -115,13 +115,13 @@ public:
         if (slot != nullptr) count(kUsers, 1);
         leave(kClaims);
     }
-    ~GroupPlace() {
+    ~GroupAccess() {
         // A child made by fork has not been counted.
         if (slot != nullptr && owner == getpid()) count(kUsers, -1);
         if (slots != nullptr && !arePrivate()) shmdt(slots);
     }
-    GroupPlace(const GroupPlace&) = delete;
-    GroupPlace& operator=(const GroupPlace&) = delete;
+    GroupAccess(const GroupAccess&) = delete;
+    GroupAccess& operator=(const GroupAccess&) = delete;
 
     Attachment attachment() const { return result; }
 

@@ -155,7 +155,7 @@ Result copyText(std::string_view from, const rules::Facts& facts, Value& to) {
 
 // Longest text that a value holds.
 template <class Value>
-constexpr int roomOf() {
+constexpr int capacityOf() {
     if constexpr (kIsText<Value>) return static_cast<int>(Value::kRoom);
     return 0;
 }
@@ -279,14 +279,14 @@ public:
 
     consteval Setting(const char* parameterName) : Setting(table::resolve<Value>(parameterName, false)) {}
 
-    [[nodiscard]] constexpr int id() const { return place; }
+    [[nodiscard]] constexpr int id() const { return parameterId; }
 
     // The live value, and the pending one that the next commit makes live.
     [[nodiscard]] Value live() const {
-        return detail::read<Value>(detail::AccessorsOf<Value>::getLive, place);
+        return detail::read<Value>(detail::AccessorsOf<Value>::getLive, parameterId);
     }
     [[nodiscard]] Value staged() const {
-        return detail::read<Value>(detail::AccessorsOf<Value>::getStaged, place);
+        return detail::read<Value>(detail::AccessorsOf<Value>::getStaged, parameterId);
     }
 
     // Nothing is stored when the value is refused: outside the range or the choices, a text that is too long
@@ -294,13 +294,14 @@ public:
     template <class Given>
     [[gnu::always_inline]] Result stage(Given value) const requires(!detail::kIsText<Value>) {
         const Result result = check(value);
-        if (result) detail::write(detail::AccessorsOf<Value>::setStaged, place, static_cast<Value>(value));
+        if (result)
+            detail::write(detail::AccessorsOf<Value>::setStaged, parameterId, static_cast<Value>(value));
         return result;
     }
     Result stage(std::string_view text) const requires(detail::kIsText<Value>) {
         Value value;
         const Result result = check(text, value);
-        if (result) detail::write(detail::AccessorsOf<Value>::setStaged, place, value);
+        if (result) detail::write(detail::AccessorsOf<Value>::setStaged, parameterId, value);
         return result;
     }
     template <table::Kind kind>
@@ -319,21 +320,21 @@ public:
     template <class Given>
     [[nodiscard, gnu::always_inline]] constexpr Result check(Given value) const
         requires(!detail::kIsText<Value>) {
-        return detail::check<Value>(value, facts).of(place, static_cast<double>(value));
+        return detail::check<Value>(value, facts).of(parameterId, static_cast<double>(value));
     }
     Result check(std::string_view text, Value& value) const requires(detail::kIsText<Value>) {
-        return detail::copyText(text, facts, value).of(place);
+        return detail::copyText(text, facts, value).of(parameterId);
     }
 
 private:
-    int place;
+    int parameterId;
     rules::Facts facts;
 
     template <class>
     friend class Series;
-    constexpr Setting(int id, const rules::Facts& known) : place(id), facts(known) {}
+    constexpr Setting(int settingId, const rules::Facts& known) : parameterId(settingId), facts(known) {}
     constexpr explicit Setting(const table::Row& tableRow)
-        : place(tableRow.id), facts(table::factsOf(tableRow, detail::roomOf<Value>())) {}
+        : parameterId(tableRow.id), facts(table::factsOf(tableRow, detail::capacityOf<Value>())) {}
 };
 
 // Settings whose names differ in their number, BAassign1, BAassign2 ..; counted from 1.
@@ -344,9 +345,9 @@ public:
 
     consteval Series(const char* nameWithoutNumber) {
         for (;; ++count) {
-            const std::size_t place = table::findNumbered(nameWithoutNumber, count + 1);
-            if (place == table::kNoRow) break;
-            const Setting<Value> each(table::resolve<Value>(table::kRows[place].name, false));
+            const std::size_t row = table::findNumbered(nameWithoutNumber, count + 1);
+            if (row == table::kNoRow) break;
+            const Setting<Value> each(table::resolve<Value>(table::kRows[row].name, false));
             if (count == 0) first = each;
             if (!(each.facts == first.facts) || count == kMost)
                 table::stop(table::mistake.its_settings_are_no_series);

@@ -49,8 +49,8 @@ constexpr void stopAtName(std::string_view wrong) {
     if (row == kNoRow) stop(mistake.no_parameter_has_this_name);
 }
 
-// The place of a row, or kNoRow. No pointer: compared with null, a sanitizer's is no constant.
-constexpr std::size_t look(std::string_view name) {
+// The index of a row, or kNoRow. No pointer: compared with null, a sanitizer's is no constant.
+constexpr std::size_t indexOf(std::string_view name) {
     std::size_t first = 0, last = std::size(kRows);
     while (first < last) {
         const std::size_t middle = (first + last) / 2;
@@ -64,12 +64,12 @@ constexpr std::size_t look(std::string_view name) {
 }
 
 constexpr const Row& find(std::string_view name) {
-    const std::size_t place = look(name);
-    if (place == kNoRow) stopAtName(name);
-    return kRows[place];
+    const std::size_t index = indexOf(name);
+    if (index == kNoRow) stopAtName(name);
+    return kRows[index];
 }
 
-// The place of a name followed by a number of one or two digits, or kNoRow.
+// The index of a name followed by a number of one or two digits, or kNoRow.
 constexpr std::size_t findNumbered(std::string_view name, int number) {
     char text[64] = {};
     if (name.size() + 2 > sizeof text) return kNoRow;
@@ -78,7 +78,7 @@ constexpr std::size_t findNumbered(std::string_view name, int number) {
         text[length++] = c;
     if (number >= 10) text[length++] = static_cast<char>('0' + number / 10);
     text[length++] = static_cast<char>('0' + number % 10);
-    return look({text, length});
+    return indexOf({text, length});
 }
 
 template <class>
@@ -140,7 +140,7 @@ constexpr const Row& resolve(std::string_view name, bool measured) {
     return row;
 }
 
-// What the rules need to know. `bytes`: room of a text.
+// What the rules need to know. `bytes`: of the longest text that fits.
 constexpr rules::Facts factsOf(const Row& row, int bytes) {
     using rules::Form;
     constexpr Form kForms[] = {Form::number, Form::number, Form::whole, Form::whole,  Form::whole,

@@ -18,8 +18,8 @@ struct LowerCase {
     char letters[kLongest] = {};
     std::size_t size = 0;
 
-    constexpr explicit LowerCase(std::string_view name) {
-        for (const char c : name.substr(0, kLongest))
+    constexpr explicit LowerCase(std::string_view anyCase) {
+        for (const char c : anyCase.substr(0, kLongest))
             letters[size++] = c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
     }
 };
@@ -33,7 +33,7 @@ constexpr std::size_t distance(const LowerCase& wrong, const LowerCase& name, st
     for (std::size_t i = 1; i <= wrong.size; ++i) {
         auto& line = lines[i % 3];
         const auto &above = lines[(i + 2) % 3], &before = lines[(i + 1) % 3];
-        std::size_t least = line[0] = i;
+        std::size_t minimum = line[0] = i;
         for (std::size_t j = 1; j <= name.size; ++j) {
             std::size_t steps = 1 + (above[j] < line[j - 1] ? above[j] : line[j - 1]);
             const std::size_t changed = above[j - 1] + (wrong.letters[i - 1] != name.letters[j - 1]);
@@ -42,9 +42,9 @@ constexpr std::size_t distance(const LowerCase& wrong, const LowerCase& name, st
                                      wrong.letters[i - 2] == name.letters[j - 1];
             if (isExchanged && before[j - 2] + 1 < steps) steps = before[j - 2] + 1;
             line[j] = steps;
-            if (steps < least) least = steps;
+            if (steps < minimum) minimum = steps;
         }
-        if (least >= limit) return limit;
+        if (minimum >= limit) return limit;
     }
     const std::size_t steps = lines[wrong.size % 3][name.size];
     return steps < limit ? steps : limit;

@@ -40,13 +40,13 @@ class Notes {
 public:
     class iterator {
     public:
-        constexpr explicit iterator(const table::NoteOf* tablePlace) : place(tablePlace) {}
-        constexpr Note operator*() const { return Note(table::kNotes[place->note]); }
-        constexpr iterator& operator++() { return *this = iterator(place + 1); }
+        constexpr explicit iterator(const table::NoteOf* tablePosition) : position(tablePosition) {}
+        constexpr Note operator*() const { return Note(table::kNotes[position->note]); }
+        constexpr iterator& operator++() { return *this = iterator(position + 1); }
         friend constexpr bool operator==(const iterator&, const iterator&) = default;
 
     private:
-        const table::NoteOf* place;
+        const table::NoteOf* position;
     };
 
     explicit Notes(const About& parameter) {

@@ -8,13 +8,13 @@
 //   if (const auto done = threshold.stage(95); !done) log(done.text());
 //   store.commit();
 //
-// Works without exceptions and RTTI and takes no heap. Threads and processes: as for the accessors of
+// Works without exceptions and RTTI and allocates nothing. Threads and processes: as for the accessors of
 // ParamSystem/TALUX_Var.h, which do the work.
 #ifndef TALUX_TALUX_HPP
 #define TALUX_TALUX_HPP
 
 #if __cplusplus <= 201703L
-#error "talux/talux.hpp takes C++20: compile with -std=c++20, or take ParamSystem/TALUX_Var.h"
+#error "talux/talux.hpp needs C++20: compile with -std=c++20, or use ParamSystem/TALUX_Var.h"
 #else // nothing but that is complained of
 
 #include "talux/change.hpp"

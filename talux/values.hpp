@@ -118,8 +118,8 @@ public:
         putDigits(thousandths / 1000);
         if (thousandths % 1000 == 0) return;
         put(".");
-        for (long long rest = thousandths % 1000, place = 100; rest > 0; rest %= place, place /= 10)
-            putDigits(rest / place);
+        for (long long rest = thousandths % 1000, unit = 100; rest > 0; rest %= unit, unit /= 10)
+            putDigits(rest / unit);
     }
 
 private:

@@ -6,15 +6,15 @@ local numbers = require "talux.numbers"
 local checks = {}
 
 ---The permitted range with its unit, in brackets.
----@param least? number
----@param most? number
+---@param min? number
+---@param max? number
 ---@param unit? string
 ---@return string
-function checks.range(least, most, unit)
+function checks.range(min, max, unit)
   local text = "-999999999 to 999999999"
-  if least and most then text = ("%.10g to %.10g"):format(least, most)
-  elseif most then text = ("up to %.10g"):format(most)
-  elseif least then text = ("from %.10g"):format(least) end
+  if min and max then text = ("%.10g to %.10g"):format(min, max)
+  elseif max then text = ("up to %.10g"):format(max)
+  elseif min then text = ("from %.10g"):format(min) end
   return (" (%s%s)"):format(text, unit and " " .. unit or "")
 end
 
@@ -28,10 +28,10 @@ local function numberOf(row, value)
 end
 
 local function checkNumber(row, value)
-  local least, most, kind, reason = row.min or -999999999, row.max or 999999999, row.kind
+  local min, max, kind, reason = row.min or -999999999, row.max or 999999999, row.kind
   if type(value) ~= "number" then value, reason = numberOf(row, value) end
   if not value or value ~= value then return nil, reason or "NOT A NUMBER" end
-  reason = value < least and "VALUE TOO LOW" or value > most and "VALUE TOO HIGH"
+  reason = value < min and "VALUE TOO LOW" or value > max and "VALUE TOO HIGH"
     or value % 1 ~= 0 and kind ~= "float" and kind ~= "double" and "NOT A WHOLE NUMBER"
   if reason then return nil, reason .. checks.range(row.min, row.max, row.unit) end
   return numbers.write(value), kind == "float" and numbers.single(value) or value

@@ -9,23 +9,23 @@ local dictionary = {}
 ---@field min? number
 ---@field max? number
 ---@field length? integer longest text in characters
----@field bytes? integer and in bytes, which the slot keeps and a line carries
+---@field bytes? integer and in bytes, which fit into the store and a line
 ---@field form? "address"|"netmask"|"date"|"time" of a text
 ---@field first? integer first and last element of an indexed parameter
 ---@field last? integer
 ---@field default? number|string factory default of a setting
----@field file? string that keeps the setting
+---@field file? string that holds the setting
 ---@field level? integer rights that a write takes; absent where nothing can be written
 
--- Rows by their names in lower case and as they have been asked for, their places in the menus, settings.
-local byName, places, settings, lines
+-- Rows by their names in lower case and as they have been asked for, their positions in the menus, settings.
+local byName, positions, settings, queries
 
 local function load()
-  byName, places, settings, lines = {}, {}, {}, {}
-  for place, row in ipairs(require "talux.parameters") do
-    byName[row.name:lower()], places[row] = row, place
+  byName, positions, settings, queries = {}, {}, {}, {}
+  for position, row in ipairs(require "talux.parameters") do
+    byName[row.name:lower()], positions[row] = row, position
     if row.default and row.form ~= "date" and row.form ~= "time" then
-      settings[#settings + 1], lines[#lines + 1] = row, "TLX_" .. row.name
+      settings[#settings + 1], queries[#queries + 1] = row, "TLX_" .. row.name
     end
   end
 end
@@ -44,7 +44,7 @@ end
 ---@return string[] lines that read them
 function dictionary.settings()
   if not settings then load() end
-  return settings, lines
+  return settings, queries
 end
 
 ---The row of NAME[index] where it is a parameter of its own: BAassign3, prio_list_3.
@@ -53,10 +53,10 @@ function dictionary.rowInSeries(name, index)
   return dictionary.row(name .. tostring(index)) or dictionary.row(name .. "_" .. tostring(index))
 end
 
----The place of a row in the menus.
+---The position of a row in the menus.
 ---@param row talux.Row
 ---@return integer
-function dictionary.place(row) return places[row] end
+function dictionary.position(row) return positions[row] end
 
 ---Titles, descriptions, choices and notes by the name of the parameter.
 ---@param language "de"|"en"
@@ -109,11 +109,11 @@ end
 ---@return string
 function dictionary.unknown(name)
   local wanted = tostring(name):lower():gsub("^tlx_", ""):gsub("^lvr_", "")
-  local least, best = math.max(1, math.floor(#wanted / 3)) + 1, nil
+  local limit, best = math.max(1, math.floor(#wanted / 3)) + 1, nil
   for _, row in ipairs(require "talux.parameters") do
-    if math.abs(#row.name - #wanted) < least then
+    if math.abs(#row.name - #wanted) < limit then
       local steps = distance(wanted, row.name:lower())
-      if steps < least then least, best = steps, row.name end
+      if steps < limit then limit, best = steps, row.name end
     end
   end
   return "NO SUCH PARAMETER" .. (best and (" (%s?)"):format(best) or "")

@@ -22,9 +22,9 @@ function files.lost(name)
     if parameter then held[parameter] = value end
   end
   file:close()
-  local settings, lines = dictionary.settings()
-  for k, row in ipairs(settings) do
-    if row.file == name and not agree(talux_command(lines[k]), held[row.name] or "") then return row.name end
+  local rows, queries = dictionary.settings()
+  for k, row in ipairs(rows) do
+    if row.file == name and not agree(talux_command(queries[k]), held[row.name] or "") then return row.name end
   end
 end
 

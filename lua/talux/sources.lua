@@ -4,8 +4,8 @@ local numbers = require "talux.numbers"
 
 local sources = {}
 
--- Bytes that the store keeps of a text; of all others 127.
-local rooms = {identifier = 19, address = 19, ["interface address"] = 19, ["interface netmask"] = 19,
+-- Bytes of a text that the store holds; of all others 127.
+local sizes = {identifier = 19, address = 19, ["interface address"] = 19, ["interface netmask"] = 19,
                ["interface gateway"] = 19, ["date of the clock"] = 14, ["time of the clock"] = 9}
 
 -- What the slots of whole numbers hold of one, which passes through 32 bits.
@@ -13,8 +13,8 @@ local slots = {bool = {0, 0xFFFFFFFF, 256, 0}, long = {-0x80000000, 0x7FFFFFFF, 
                int = {-0x80000000, 0x7FFFFFFF, 2 ^ 16, 2 ^ 15}}
 slots.enum = slots.int
 
--- A number as the store keeps it: whole ones without their fraction.
-local function keptNumber(row, text)
+-- A number as the store holds it: whole ones without their fraction.
+local function storedNumber(row, text)
   local word, slot = text:match "^ *([^ ]*)", slots[row.kind]
   local value = #text <= 49 and not word:find "," and not word:find "%s$" and numbers.read(word)
   if not value or row.kind == "double" then return value or nil end
@@ -23,8 +23,8 @@ local function keptNumber(row, text)
   return (value - math.fmod(value, 1) + slot[4]) % slot[3] - slot[4]
 end
 
--- What a load would keep of a line: the name in the dictionary and the value; nothing where it keeps nothing.
-local function kept(line)
+-- What a load would store of a line: the name in the dictionary and the value; nothing if it skips the line.
+local function storedOf(line)
   local name, rest = line:match "^[ \t]*[Tt][Ll][Xx]_([^ =]*)(.*)$"
   local row = dictionary.row(name)
   if not row or not row.default then return end
@@ -32,8 +32,8 @@ local function kept(line)
   if not text then return end
   if text:sub(1, 1) == '"' then text = text:match '^"([^"=]*)'
   else text = ("%s#"):format(text:match "^[^=\r]*"):gsub("//", "#"):match "^[^#;]*" end
-  if row.length then return row.name, text:sub(1, rooms[row.kind] or 127) end
-  return row.name, keptNumber(row, text)
+  if row.length then return row.name, text:sub(1, sizes[row.kind] or 127) end
+  return row.name, storedNumber(row, text)
 end
 
 local function readFile(path, settings)
@@ -44,7 +44,7 @@ local function readFile(path, settings)
   if not text then return nil, path .. ": " .. failure end
   for line in text:gmatch "[^\n]+" do
     for at = 1, #line, 254 do -- the rest of a longer line is one of its own
-      local name, value = kept(line:sub(at, at + 253))
+      local name, value = storedOf(line:sub(at, at + 253))
       if name and value then settings[name] = value end
     end
   end
@@ -59,8 +59,8 @@ end
 function sources.read(source, read)
   local settings = {}
   if source == "default" or source == "staged" then
-    local rows, lines = dictionary.settings()
-    for k, row in ipairs(rows) do settings[row.name] = source == "default" and row.default or read(lines[k]) end
+    local rows, queries = dictionary.settings()
+    for k, row in ipairs(rows) do settings[row.name] = source == "default" and row.default or read(queries[k]) end
     return settings
   end
   local found, reason = readFile(source, settings)

@@ -40,7 +40,7 @@ printf '#include <talux/talux.hpp>\nconstexpr talux::Setting<float> threshold{"U
  talux/records.hpp' ] || fail 'alone:' "$(cat "$work/messages")"
 
 # An older standard is named, before anything else.
-"${compile[@]}" -std=c++17 -fsyntax-only "$work/alone.cpp" 2>&1 | grep -m 1 'error:' | grep -q 'takes C++20' ||
+"${compile[@]}" -std=c++17 -fsyntax-only "$work/alone.cpp" 2>&1 | grep -m 1 'error:' | grep -q 'needs C++20' ||
   fail 'C++17 is not refused'
 
 # Handles cost nothing, and leave no name behind.
