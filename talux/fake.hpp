@@ -75,7 +75,7 @@ inline void stageDefault(const stParamProperties& row) {
     case kTypeInt:
         return VarSetIntValue(id, static_cast<short>(row.val_def));
     case kTypeBool:
-        return VarSetBoolValue(id, row.val_def != 0.0);
+        return VarSetBoolValue(id, row.val_def != 0.0 ? 1 : 0);
     case kTypeEnum:
         return VarSetEnumValue(id, static_cast<short>(row.val_def));
     case kTypeText:
