@@ -4,6 +4,7 @@
 #define TALUX_TOOLS_REFERENCE_H
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <span>
 #include <string>
@@ -114,10 +115,11 @@ inline const model::Note& noteAt(int place) {
 // Every parameter in menu order, an indexed one once; templates and dialogs included.
 const std::vector<Parameter>& parameters();
 
-// Those of them for which `isWanted` holds.
+// Those of them for which `isWanted` holds; each parameter has one object, whose address identifies it.
+using ParameterRefs = std::vector<std::reference_wrapper<const Parameter>>;
 template <class Predicate>
-std::vector<Parameter> parametersWhere(Predicate isWanted) {
-    std::vector<Parameter> found;
+ParameterRefs parametersWhere(Predicate isWanted) {
+    ParameterRefs found;
     std::ranges::copy_if(parameters(), std::back_inserter(found), isWanted);
     return found;
 }

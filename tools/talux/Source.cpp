@@ -139,6 +139,12 @@ bool isOfClock(const Parameter& parameter) {
     return nature == Nature::date || nature == Nature::time;
 }
 
+const reference::ParameterRefs& settings() {
+    static const auto all = reference::parametersWhere(
+        [](const Parameter& parameter) { return parameter.isSetting() && !isOfClock(parameter); });
+    return all;
+}
+
 bool sameValue(const std::optional<Value>& a, const std::optional<Value>& b) {
     if (!a || !b) return !a && !b;
     if (a->isText() != b->isText()) return false;

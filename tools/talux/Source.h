@@ -81,10 +81,7 @@ void readEntries(const std::string& path, const Context& context,
 bool isOfClock(const Parameter& parameter);
 
 // All settings but those two, in menu order.
-inline std::vector<Parameter> settings() {
-    return reference::parametersWhere(
-        [](const Parameter& parameter) { return parameter.isSetting() && !isOfClock(parameter); });
-}
+const reference::ParameterRefs& settings();
 
 // Belongs to the single device: its name, addresses, station numbers and calibration.
 inline bool isIndividual(const Parameter& parameter) {
