@@ -135,10 +135,11 @@ std::string records(const Model& model) {
         std::vector<std::string> members;
         for (const reference::Member& member : reference::membersOf(parameter)) {
             const std::string unit = unitOf(model, member.texts.twin);
-            members.push_back(joined({"{name = ", quoted(member.properties->aszMemberName), ", kind = ",
-                                      quoted(member.properties->szMemberType), unit.empty() ? "" : ", unit = ",
-                                      unit.empty() ? unit : quoted(unit), ", de = ", quoted(member.texts.de),
-                                      ", en = ", quoted(member.texts.en), "}"}));
+            members.push_back(
+                joined({"{name = ", quoted(member.properties->aszMemberName),
+                        ", kind = ", quoted(member.properties->szMemberType),
+                        unit.empty() ? "" : ", unit = ", unit.empty() ? unit : quoted(unit),
+                        ", de = ", quoted(member.texts.de), ", en = ", quoted(member.texts.en), "}"}));
         }
         text += joined({parameter.name(), " = ", braced(members), ",\n"});
     });

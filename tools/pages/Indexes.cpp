@@ -102,8 +102,8 @@ std::string entryPage() {
             for (int id = firstId(parameter); id <= lastId(parameter); ++id)
                 ids.push_back(id);
         }
-        page << "| [" << family.name << "](" << fileOf(family) << ") | " << familyName(family, kGerman) << " | "
-             << count << " | " << asRanges(ids) << " |\n";
+        page << "| [" << family.name << "](" << fileOf(family) << ") | " << familyName(family, kGerman)
+             << " | " << count << " | " << asRanges(ids) << " |\n";
     }
     page << "\n## Free ids\n\nFor new parameters; the ids " << kFirstInt << " to "
          << kFirstInt + kIntCount - 1
