@@ -18,7 +18,7 @@ function checks.range(min, max, unit)
   return (" (%s%s)"):format(text, unit and " " .. unit or "")
 end
 
--- The number that a choice, a switch or a text stands for, or nil and the reason.
+-- The number that a choice, a switch or a text means, or nil and the reason.
 local function numberOf(row, value)
   if type(value) == "boolean" and row.kind == "bool" then return value and 1 or 0 end
   if type(value) ~= "string" then return nil, "NOT A NUMBER" end

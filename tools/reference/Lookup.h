@@ -20,8 +20,8 @@ bool containsIgnoringCase(std::string_view text, std::string_view part);
 bool isPattern(std::string_view text);
 bool fits(std::string_view name, std::string_view pattern);
 
-// What a name stands for: a parameter; a series by its name without the number, "BAassign"; a pattern,
-// "U*_prim" or "U{1..3}_prim". In menu order; empty when it stands for nothing.
+// What a name means: a parameter; a series by its name without the number, "BAassign"; a pattern,
+// "U*_prim" or "U{1..3}_prim". In menu order; empty when it means nothing.
 Parameters named(std::string_view name);
 
 // "BAassign1..8, LEDassign1"

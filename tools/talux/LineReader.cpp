@@ -36,14 +36,14 @@ LineReader plainReader(const char* prompt) {
 
 #ifdef TALUX_HAVE_LIBEDIT
 
-// What the Tab key offers behind `head`, the line up to the cursor.
+// What the Tab key offers after `head`, the line up to the cursor.
 class Completion {
 public:
     struct Candidate {
         std::string text;  // takes the place of what was typed
         std::string label; // what it is shown as in a list
     };
-    std::string_view typed; // in front of the cursor: what a candidate replaces
+    std::string_view typed; // before the cursor: what a candidate replaces
     std::vector<Candidate> candidates;
 
     Completion(std::string_view head, const Context& context) {

@@ -337,7 +337,7 @@ private:
     }
 };
 
-// What stands in the Lua blocks of a page in Markdown, at its own position; the rest is blank.
+// The Lua blocks of a page in Markdown, each at its own position; the rest is blank.
 std::string luaBlocksOf(const std::string& page) {
     std::string blocks = page;
     bool isFenced = false, isLua = false;

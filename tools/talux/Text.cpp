@@ -31,7 +31,7 @@ std::size_t characterAt(std::string_view text) {
     return code >= kSmallest[length] && code <= kLargest && !isSurrogate ? length : 0;
 }
 
-// What stands at the beginning: a character, or an escape sequence, which takes no column.
+// What comes first: a character, or an escape sequence, which takes no column.
 struct Sign {
     std::size_t size, columns;
 };

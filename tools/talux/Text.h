@@ -27,7 +27,7 @@ std::string cut(std::string_view line, std::size_t columns);
 // Without their ends; parts of the text.
 std::vector<std::string_view> linesOf(std::string_view text);
 
-// The piece in front of `end`, which is taken off with it; all of it where there is none.
+// Takes off and returns the piece before `end`, and drops `end`; takes all of it where there is none.
 std::string_view takeUpTo(std::string_view& text, char end);
 
 // Without blanks at both ends, a carriage return included.

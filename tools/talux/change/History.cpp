@@ -50,7 +50,7 @@ std::vector<Version> historyOf(const Context& context) {
     return all;
 }
 
-// How the last change is told, or what is wrong with its record.
+// The line about the last change, or what is wrong with its record.
 std::string lastChangeText(const Context& context) try {
     const auto last = Journal::read(lastChange(context), context);
     return last ? context.say("last change: {}, {}: {}\n", "letzte Änderung: {}, {}: {}\n", last->when,
