@@ -246,9 +246,10 @@ private:
     // The language takes any three numbers.
     void checkClock(const VarLong (&numbers)[3]) {
         const bool isDate = typeOf(*variable->row).nature == Nature::date;
+        const long first = numbers[0], second = numbers[1], third = numbers[2];
         char moment[40];
-        formatText(moment, sizeof moment, isDate ? "%04d-%02d-%02d" : "%02d:%02d:%02d", numbers[0],
-                   numbers[1], numbers[2]);
+        formatText(moment, sizeof moment, isDate ? "%04ld-%02ld-%02ld" : "%02ld:%02ld:%02ld", first, second,
+                   third);
         if (const auto objection =
                 rules::check(subject->facts(), std::string_view(moment), {Reason::noDate, Reason::noTime}))
             add(objectionTo("'" + printable(*variable->term.value) + "'", objection, *subject, context));
