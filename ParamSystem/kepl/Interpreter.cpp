@@ -69,13 +69,13 @@ private:
                     logNoted(decision.term);
                     return runShell(shell, target.dataOut, target.terminator, txt);
                 },
-                [&](const VariableDecision& variable) { return access(variable); },
+                [&](const VariableDecision& variable) { return readOrWrite(variable); },
             },
             decision.action);
     }
 
     // A number that is read is pushed; a text stays in the result should a later term fail.
-    TermResult access(const VariableDecision& variable) {
+    TermResult readOrWrite(const VariableDecision& variable) {
         std::optional<TypedNumber> value;
         const TermResult result = accessVariable(variable, txt, value);
         if (result.output == Output::text) copyText(target.result, kKeplTextSize, txt);
