@@ -3,9 +3,28 @@
 #include "Bench.h"
 
 #include <cmath>
+#include <dlfcn.h>
+#include <pthread.h>
 
 using namespace desk_test;
 using talux::Setting;
+
+namespace {
+
+stVarSpace live{};
+std::int32_t& request = live.LongData[talux::Measured<std::int32_t>("mw_req").id() - kFirstLong];
+float& answer = live.FloatData[talux::Measured<float>("mw_U1p").id() - kFirstFloat];
+bool isEarly = false;
+void (*atRelease)() = nullptr;
+
+} // namespace
+
+// Groups without shared memory; every access to the store ends with the release of its lock.
+talux::detail::PrivateGroups talux::detail::privateGroups;
+extern "C" int pthread_mutex_unlock(pthread_mutex_t* lock) noexcept {
+    if (atRelease != nullptr) atRelease();
+    return reinterpret_cast<int (*)(pthread_mutex_t*)>(dlsym(RTLD_NEXT, "pthread_mutex_unlock"))(lock);
+}
 
 namespace {
 
@@ -221,15 +240,32 @@ TEST(DeskStatistics, HoldMaximumMinimumAndMeanOfAnInterval) {
     std::vector<talux::StatRecord_c0> records;
     for (const Cycle& cycle :
          bench.run("network isolated 20 kV\nload 100 A drift 0 %\nat 30 s load 300 A\n"
-                   "at 40 s earth fault L2 solid forward\nat 41 s fault cleared\nat 70 s end\n"))
+                   "at 40 s earth fault L2 solid forward\nat 41 s fault cleared\nat 130 s end\n"))
         if (const auto record = statistics.add(cycle, bench.settings())) records.push_back(*record);
-    ASSERT_EQ(records.size(), 1U);
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[1].EvCnt_qu2, 0) << "those of its own minute";
+    EXPECT_NEAR(records[1].I1_av, 300, 3);
     const talux::StatRecord_c0& record = records[0];
     EXPECT_NEAR(record.I1_max, 300, 3);
     EXPECT_NEAR(record.I1_av, 200, 3);
     EXPECT_NEAR(record.U1_min, 11.547, 1e-3);
     EXPECT_EQ(record.dT, 60);
     EXPECT_EQ(record.EvCnt_qu2, 1);
+}
+
+// A script that finds its request cleared finds the answer.
+TEST(DeskStore, AnswersARequestBeforeItClearsIt) {
+    static char records[1024];
+    Bench bench;
+    const Cycle& cycle = bench.run("at 1 s end\n").back();
+    pVarGlobal = &live;
+    pVarStruct = records;
+    request = 1;
+    atRelease = [] { isEarly = isEarly || (request == 0 && answer == 0); };
+    EXPECT_TRUE(publish(cycle));
+    atRelease = nullptr;
+    EXPECT_EQ(request, 0);
+    EXPECT_FALSE(isEarly);
 }
 
 // What a technician looks for: a reversed transformer shows in the power of its phase, and Ipol2 puts it

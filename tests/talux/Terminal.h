@@ -8,6 +8,7 @@
 #include <poll.h>
 #include <pty.h>
 #include <system_error>
+#include <termios.h>
 #include <unistd.h>
 #include <vector>
 
@@ -42,6 +43,9 @@ protected:
     int ended() {
         pollfd gone{terminal, POLLHUP, 0};
         EXPECT_EQ(poll(&gone, 1, 20000), 1);
+        termios left{};
+        tcgetattr(terminal, &left);
+        EXPECT_EQ(left.c_lflag & kUsual, kUsual) << "the next program finds a terminal without these";
         close(terminal); // which ends it in any case
         int status = -1;
         waitpid(std::exchange(child, 0), &status, 0);
@@ -74,6 +78,7 @@ protected:
         }
     }
 
+    static constexpr tcflag_t kUsual = ICANON | ECHO | ISIG | IEXTEN;
     int terminal = -1;
     pid_t child = 0;
     std::string screen, shown;

@@ -236,6 +236,13 @@ public:
     // False when it has ended.
     bool call() const { return goOn(PTRACE_SYSCALL); }
     bool step() const { return goOn(PTRACE_SINGLESTEP); }
+    // How it ends when a signal comes now.
+    int statusAfter(int signal) const {
+        ptrace(PTRACE_DETACH, child, nullptr, signal);
+        int status = 0;
+        waitpid(child, &status, 0);
+        return status;
+    }
 
 private:
     const pid_t child;
@@ -294,10 +301,19 @@ TEST_F(TaluxChange, KilledAtAnyMomentItIsWholeOrKnownAndMended) {
     int steps = 0;
     {
         const Victim victim(command);
-        for (skipTo(victim, lastBefore); state() != after; ++steps)
+        skipTo(victim, lastBefore);
+        EXPECT_NE(talux("set --yes U123ok=70").output.find("another change"), std::string::npos);
+        for (; state() != after; ++steps)
             ASSERT_TRUE(victim.step());
     }
     judge();
+    for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGPIPE}) {
+        const Victim victim(command);
+        skipTo(victim, lastBefore);
+        EXPECT_EQ(victim.statusAfter(signal), 0);
+        EXPECT_EQ(state(), after) << "what ends the terminal does not end a change";
+        judge();
+    }
     Random random;
     for (int round = 0; round < 40; ++round) {
         {
@@ -338,10 +354,13 @@ protected:
             usleep(50000);
         return network() == address;
     }
+    static Ended endGuard(const std::string& signal) {
+        return run("kill -" + signal +
+                   " $(grep -ls address-guard /proc/[0-9]*/comm | cut -d/ -f3) 2>/dev/null");
+    }
     // All over: the record is gone, and so is the guard.
     void waitForTheEnd() const {
-        const auto guards = [] { return run("grep -l address-guard /proc/[0-9]*/comm 2>/dev/null").output; };
-        for (int tries = 0; tries < 200 && !guards().empty(); ++tries)
+        for (int tries = 0; tries < 200 && endGuard("0").status == 0; ++tries)
             usleep(50000);
         EXPECT_FALSE(std::filesystem::exists(directory / "address_change.tsv"));
     }
@@ -361,6 +380,8 @@ TEST_F(TaluxAddress, StaysWhenItIsConfirmed) {
     for (const char* other : {"set Uearth=35 --yes", "address ETH0_IP=10.9.9.9 --yes"})
         EXPECT_EQ(talux(other).status, 2) << "one at a time";
     EXPECT_NE(talux("status").output.find("talux confirm"), std::string::npos);
+    EXPECT_EQ(run("cd " + directory.string() + "; flock .talux_lock talux --directory . confirm 2>&1").status,
+              2);
     EXPECT_EQ(talux("confirm").status, 0);
     EXPECT_TRUE(waitFor("confirmed and saved"));
     EXPECT_EQ(ended(), 0);
@@ -382,7 +403,7 @@ TEST_F(TaluxAddress, IsTakenBackWhenNobodyConfirms) {
     EXPECT_EQ(ended(), 1);
     isBack();
     startChange("2"); // the terminal and the command are gone
-    kill(child, SIGKILL);
+    kill(-child, SIGKILL);
     close(terminal);
     waitpid(std::exchange(child, 0), nullptr, 0);
     isBack();
@@ -392,7 +413,8 @@ TEST_F(TaluxAddress, IsTakenBackWhenNobodyConfirms) {
     EXPECT_EQ(ended(), 1);
     isBack();
     startChange("30"); // the supply fails
-    run("kill -9 $(grep -l address-guard /proc/[0-9]*/comm | cut -d/ -f3); ip address flush dev eth0");
+    endGuard("KILL");
+    run("ip address flush dev eth0");
     EXPECT_TRUE(waitFor("the guard is gone"));
     EXPECT_EQ(ended(), 2);
     VarClean();

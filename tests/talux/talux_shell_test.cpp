@@ -93,7 +93,7 @@ TEST_F(TaluxShell, ReadsAPipe) {
         run("printf '# note\\n\\nTLX_Name=\"x\"\\r\\nTLX_Name\\nquit\\nnonsense\\n' | talux shell 2>&1");
     EXPECT_EQ(fine.output, "\"x\"\n");
     EXPECT_EQ(fine.status, 0);
-    const std::string lines = "printf 'TLX_U123ok=70\\nTLX_Uearth=95\\n1,1,+\\nTLX_\\0Name' | talux shell ";
+    const std::string lines = "printf 'TLX_U123ok=70\\nTLX_Uearth=95\\n1,1,+\\n1,2,+\\0x' | talux shell ";
     const Ended refused = run(lines + "--keep-going 2>/dev/null");
     EXPECT_EQ(refused.output, "2.000000\n");
     EXPECT_EQ(refused.status, 1);
