@@ -191,7 +191,8 @@ public:
     using Value = Measure;
 
     // Of an indexed parameter the first element.
-    consteval Measured(const char* parameterName) : Measured(table::resolve<Value>(parameterName, true)) {}
+    consteval Measured(const char* parameterName)
+        : Measured(table::resolve<Value>(parameterName, table::Use::measured)) {}
     consteval Measured(const char* parameterName, int elementIndex) : Measured(parameterName) {
         table::expectIndex(table::find(parameterName), elementIndex);
         *this = at(elementIndex);
@@ -277,7 +278,8 @@ class Setting {
 public:
     using Value = Kept;
 
-    consteval Setting(const char* parameterName) : Setting(table::resolve<Value>(parameterName, false)) {}
+    consteval Setting(const char* parameterName)
+        : Setting(table::resolve<Value>(parameterName, table::Use::setting)) {}
 
     [[nodiscard]] constexpr int id() const { return parameterId; }
 
@@ -337,6 +339,48 @@ private:
         : parameterId(tableRow.id), facts(table::factsOf(tableRow, detail::capacityOf<Value>())) {}
 };
 
+// What the device says of itself, such as FW_version or the serial number: read-only for users and scripts,
+// so the program that knows it sets it.
+template <class Said>
+class Status {
+public:
+    using Value = Said;
+
+    consteval Status(const char* parameterName)
+        : parameterId(table::resolve<Value>(parameterName, table::Use::status).id),
+          facts(table::factsOf(table::find(parameterName), detail::capacityOf<Value>())) {
+        facts.isReadOnly = false;
+    }
+
+    [[nodiscard]] constexpr int id() const { return parameterId; }
+    [[nodiscard]] Value get() const {
+        return detail::read<Value>(detail::AccessorsOf<Value>::getLive, parameterId);
+    }
+
+    // Live at once, and in the working copy, so that the next commit leaves it. Nothing is stored when the
+    // value is refused.
+    Result set(Value value) const requires(!detail::kIsText<Value>) {
+        const Result result = detail::check<Value>(value, facts).of(parameterId, static_cast<double>(value));
+        if (result) store(value);
+        return result;
+    }
+    Result set(std::string_view text) const requires(detail::kIsText<Value>) {
+        Value value;
+        const Result result = detail::copyText(text, facts, value).of(parameterId);
+        if (result) store(value);
+        return result;
+    }
+
+private:
+    int parameterId;
+    rules::Facts facts;
+
+    void store(const Value& value) const {
+        detail::write(detail::AccessorsOf<Value>::setStaged, parameterId, value);
+        detail::write(detail::AccessorsOf<Value>::setLive, parameterId, value);
+    }
+};
+
 // Settings whose names differ in their number, BAassign1, BAassign2 ..; counted from 1.
 template <class Value>
 class Series {
@@ -347,7 +391,7 @@ public:
         for (;; ++count) {
             const std::size_t row = table::findNumbered(nameWithoutNumber, count + 1);
             if (row == table::kNoRow) break;
-            const Setting<Value> each(table::resolve<Value>(table::kRows[row].name, false));
+            const Setting<Value> each(table::resolve<Value>(table::kRows[row].name, table::Use::setting));
             if (count == 0) first = each;
             if (!(each.facts == first.facts) || count == kMost)
                 table::stop(table::mistake.its_settings_are_no_series);

@@ -128,14 +128,14 @@ constexpr void expectKind(const Row& row, Kind kind) {
     }
 }
 
-// The row of a measured value or a setting of this type.
+// The row of a parameter of this type and use; a status value can be looked at like a setting, too.
 template <class Value>
-constexpr const Row& resolve(std::string_view name, bool measured) {
+constexpr const Row& resolve(std::string_view name, Use use) {
     static_assert(kindOf<Value>() != Kind::command, "no parameter has values of this type");
     const Row& row = find(name);
     expectKind(row, kindOf<Value>());
-    if (measured && row.use != Use::measured) stop(mistake.it_is_a_setting_take_talux_Setting);
-    if (!measured && row.use == Use::measured) stop(mistake.it_is_measured_take_talux_Measured);
+    if (use != Use::measured && row.use == Use::measured) stop(mistake.it_is_measured_take_talux_Measured);
+    if (use != Use::setting && row.use != use) stop(mistake.it_is_a_setting_take_talux_Setting);
     if (kChoices<Value> != 0 && kChoices<Value> != row.choices) stop(mistake.its_choices_have_another_enum);
     return row;
 }

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <numeric>
-#include <regex>
 #include <set>
 #include <string>
 #include <tuple>
@@ -91,6 +90,18 @@ TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
     EXPECT_EQ(threshold.live(), 35.0f);
     EXPECT_EQ(name.live(), "Süd 1");
     EXPECT_EQ(language.live(), choice::Language::kGerman);
+}
+
+TEST_F(Handles, WhatTheDeviceSaysOfItselfIsLiveAtOnceAndSurvivesACommit) {
+    constexpr Status<Text> version{"FW_version"};
+    constexpr Status<bool> security{"sec_mode"};
+    EXPECT_TRUE(version.set("2.7") && security.set(false));
+    EXPECT_STREQ(version.set("2=7").text().c_str(), "FW_version: A LINE CANNOT CARRY AN EQUALS SIGN");
+    for (int commits = 0; commits < 2; ++commits, store.commit()) {
+        EXPECT_EQ(version.get(), "2.7");
+        EXPECT_FALSE(security.get());
+    }
+    EXPECT_EQ(ask("TLX_FW_version"), "\"2.7\"");
 }
 
 TEST_F(Handles, AChangeIsAllOrNone) {
@@ -223,7 +234,10 @@ TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
 // As a field of the list of parameters.
 std::string field(const std::string& text) {
     if (text.find_first_of(",\"") == text.npos) return text;
-    return '"' + std::regex_replace(text, std::regex("\""), "\"\"") + '"';
+    std::string quoted = "\"";
+    for (const char c : text)
+        quoted.append(c == '"' ? 2 : 1, c);
+    return quoted + '"';
 }
 
 TEST_F(Handles, NotesAreThoseOfTheListOfParameters) {

@@ -9,6 +9,7 @@ constexpr Measured<double> case3{"U0_prim"};           // its_values_are_float
 constexpr Measured<short> case4{"channel"};            // its_values_are_std_int32_t
 constexpr Measured<float> case5{"Uearth"};             // it_is_a_setting_take_talux_Setting
 constexpr Setting<float> case6{"U0_prim"};             // it_is_measured_take_talux_Measured
+constexpr Status<Text> case6b{"Name"};                 // it_is_a_setting_take_talux_Setting
 constexpr Measured<double> case7{"vMWR", 97};          // the_index_is_outside_its_range
 constexpr Measured<double> case8{"vMWR", 0};           // the_index_is_outside_its_range
 constexpr Measured<float> case9{"U0_prim", 1};         // it_has_no_index
