@@ -9,7 +9,6 @@
 #include <cmath>
 #include <fstream>
 #include <iterator>
-#include <regex>
 #include <unistd.h>
 
 namespace {
@@ -120,15 +119,16 @@ TEST(Inside, RefusalsAndCommandWordsAreOnTheirPageAndKnownToScripts) {
                       layer = contents(TALUX_PROJECT "/lua/talux.lua");
     const std::string patterns = layer.substr(layer.find("local refusals"), 400);
     const auto isRefusal = [&](const std::string& answer) {
-        const std::regex start("\"\\^([^\"$]+)");
-        for (std::sregex_iterator at(patterns.begin(), patterns.end(), start), end; at != end; ++at)
-            if (answer.starts_with((*at)[1].str())) return true;
+        for (std::size_t at = patterns.find("\"^"); at != patterns.npos; at = patterns.find("\"^", at + 2)) {
+            const std::size_t start = at + 2, end = patterns.find_first_of("\"$", start);
+            if (answer.starts_with(patterns.substr(start, end - start))) return true;
+        }
         return false;
     };
     const auto isShown = [&](const std::string& text) { return page.find("`" + text) != page.npos; };
     for (std::size_t k = 1; k < enumeratorsOf<kepl::Refusal>(); ++k) {
         const std::string text = kepl::textOf(static_cast<kepl::Refusal>(k));
-        const std::string bare = std::regex_replace(text, std::regex("<< (.*) >>"), "$1");
+        const std::string bare = text.starts_with("<< ") ? text.substr(3, text.size() - 6) : text;
         EXPECT_TRUE(isShown(bare) || isShown(bare.substr(0, 7) + " ..`"))
             << text << " is not in docs/kepl.md";
         EXPECT_TRUE(isRefusal(text)) << text << " is no refusal in lua/talux.lua";
