@@ -1,7 +1,7 @@
 #!/bin/bash
 # Builds and passes the tests.
 #
-#   test.sh           release, sanitize (addresses and undefined behaviour) and armv7
+#   test.sh           release (all tests), sanitize (addresses and undefined behaviour) and armv7 (both the module's)
 #   test.sh --all     every stage but those that are only run when asked for
 #   test.sh STAGE..   only these; --list shows all
 #
@@ -15,29 +15,31 @@ set -o pipefail
 # Minutes are those of a machine with two cores and nothing built yet. Needs are groups of packages, and `history`: a
 # checkout, whose files git can name.
 table='
-stage         run     minutes  needs
-release       usual   2        build run tests
-sanitize      usual   4        build run tests
-armv7         usual   4        build run tests armv7
-armv5te       all     3        build run tests armv5te
-packages      all     1        build armv7 armv5te lintian
-clang         all     3        build run tests clang
-threads       all     1        build run tests
-models        all     1        build spin
-crowd         all     1        build run
-commands      all     1        build run
-places        all     1        build run
-browser       all     1        build browser
-bench         all     1        build run bench
-lint          all     2        build bench lint history
-plain         all     1        build make
-rock          all     1        build run rock
-reproducible  all     1        build history
-user          all     1        build run tests
-container     all     1        build run tests
-debug         asked   2        build run tests
-costs         asked   6        build time
-newcomer      asked   15       debootstrap git history
+stage              run     minutes  needs
+release            usual   2        build run tests
+sanitize           usual   1        build run tests
+armv7              usual   1        build run tests armv7
+sanitize-programs  all     3        build run tests
+armv7-programs     all     3        build run tests armv7
+armv5te            all     3        build run tests armv5te
+packages           all     1        build armv7 armv5te lintian
+clang              all     3        build run tests clang
+threads            all     1        build run tests
+models             all     1        build spin
+crowd              all     1        build run
+commands           all     1        build run
+places             all     1        build run
+browser            all     1        build browser
+bench              all     1        build run bench
+lint               all     2        build bench lint history
+plain              all     1        build make
+rock               all     1        build run rock
+reproducible       all     1        build history
+user               all     1        build run tests
+container          all     1        build run tests
+debug              asked   2        build run tests
+costs              asked   6        build time
+newcomer           asked   15       debootstrap git history
 '
 stages_run() { awk -v run="$1" 'NR > 2 && NF && $2 ~ run { print $1 }' <<<"$table"; }
 minutes_of() { awk -v stage="$1" '$1 == stage { print $3 }' <<<"$table"; }
@@ -53,11 +55,14 @@ release() { build release && run_tests release; }
 debug() { build debug && run_tests debug; }
 models() { tests/models/run.sh; }
 clang() { build clang && run_tests clang; }
-armv7() { on_device armv7; }
+# The tests of the programs, of what runs beside them, and of the packages.
+programs='^(talux_|console|session|desk|rules_test|installed$)'
+armv7() { on_device armv7 --module-tests -E "$programs" && same_image armv7; }
+armv7-programs() { on_device armv7 --tests -R "$programs"; }
 # What is the same for both devices is tried on the first.
 armv5te() {
-  note 'without the tests of talux and talux-desk'
-  on_device armv5te -E '^(talux_|console|session|desk|rules_test)'
+  note 'without the tests of the programs and packages'
+  on_device armv5te --module-tests -E "$programs" && same_image armv5te
 }
 lint() { scripts/lint.sh --shipped; } # tools and tests take four times as long
 bench() { scripts/bench.sh --check; }
@@ -66,14 +71,17 @@ reproducible() { scripts/reproducible.sh | tee -a "$results/notes"; }
 
 sanitize() {
   note 'without the tests of what is shipped: shared object, installed tree, programs of the pages'
-  build sanitize && run_tests sanitize
+  build sanitize module_tests && run_tests sanitize -E "$programs"
 }
+sanitize-programs() { build sanitize && run_tests sanitize -R "$programs"; }
 
 # The release comes first in every stage that needs several builds: two runs never wait for each other.
-on_device() {
+on_device() { # ARCH TESTS CTEST-OPTION..
+  local arch=$1 tests=$2
+  shift 2
   build release || return
-  claim "$builds/build-$1"
-  doing="building build-$1" quiet scripts/device.sh "$1" --tests && run_tests "$@" && same_image "$1"
+  claim "$builds/build-$arch"
+  doing="building build-$arch" quiet scripts/device.sh "$arch" "$tests" && run_tests "$arch" "$@"
 }
 
 # Debian has no complaint about any package, and those of the PC and the devices go together.
