@@ -157,6 +157,7 @@ private:
                          "eine Adresse wurde nicht bestätigt: die alte gilt wieder"),
              kFound);
     } catch (const CouldNot& damage) { // the file has the old ones
+        os::removeFile(openAddress(context).c_str());
         if (applies) VarSetSystemIPs();
         tell(damage.what(), kCouldNot);
     }

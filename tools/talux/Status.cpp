@@ -54,6 +54,7 @@ Report reportOn(const Options& options, const Context& context) {
                    saveChange("save_sec", File::security, staged, context),
                    saveChange("save_ip", File::address, staged, context)},
                   interruption(context)};
+    if (report.interruption.empty()) report.interruption = lastChangeDamage(context);
     for (const int id : kChangeFlagIds)
         if (const auto value = live.value(id); value && value->number() != 0)
             report.flags.emplace_back(GetParamProperties(id)->name);

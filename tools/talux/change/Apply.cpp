@@ -73,7 +73,7 @@ public:
           writes(journal.writes) {}
 
     Status run() {
-        if (order.dryRun || (writes.empty() && order.reach() == Reach::pending))
+        if (order.dryRun || (writes.empty() && !order.live && !order.save))
             return show(), writes.empty() ? kNothing : kFound;
         if (!order.json) show();
         if (!order.yes && !isAgreed(question(), context)) {
@@ -137,7 +137,7 @@ private:
         std::string text = context.say(
             "Write {}?", "{} schreiben?",
             context.counted(writes.size(), {" setting", " Einstellung"}, {" settings", " Einstellungen"}));
-        if (isApplied() && !order.appliesAll)
+        if (isApplied() && !order.isConfirmed)
             text += context.say(" The address is applied at once and may cut you off: `talux address` takes "
                                 "it back by itself.",
                                 " Die Adresse wird sofort angewendet und kann die Verbindung trennen: `talux "
@@ -161,6 +161,7 @@ private:
         const auto lock = oneAtATime(context);
         if (const std::string half = interruption(context); !order.mends && !half.empty())
             throw CouldNot(half);
+        if (const std::string damage = lastChangeDamage(context); !damage.empty()) report(CouldNot(damage));
         for (const Write& write : writes)
             if (write.isChanged())
                 context.fail("nothing is written: {} has changed meanwhile",

@@ -8,6 +8,9 @@
 
 namespace talux::tool {
 
+// Applies all network settings to the system.
+void applyAddresses(const Journal& journal);
+
 // What the commands that change settings take, and what they add to it.
 struct Order {
     std::vector<std::string> assignments; // NAME=VALUE
@@ -16,14 +19,15 @@ struct Order {
     std::string protocol; // a file for the record; empty: none
 
     std::string what; // the command, for the record and the system log
-    // Applies addresses to the system; none: leaves them.
-    std::function<void(const Journal&)> apply = [](const Journal&) { VarSetSystemIPs(); };
-    bool appliesAll = false;             // netmasks and gateways, too
+    std::function<void(const Journal&)> apply = applyAddresses; // none: leaves the system alone
+    bool appliesAll = false;                                    // netmasks and gateways, too
     std::function<bool()> isConfirmed{}; // asked afterwards; none: nobody has to confirm it
     std::set<reference::File> files{};   // to save, besides those of what is written
-    bool mends = false;                  // a change that was interrupted or whose record is damaged
+    bool mends = false;                  // a change that was interrupted
 
-    Reach reach() const { return save ? Reach::saved : live ? Reach::live : Reach::pending; }
+    Reach reach() const {
+        return appliesAll ? Reach::applied : save ? Reach::saved : live ? Reach::live : Reach::pending;
+    }
 };
 using ChangeCommand = Status (*)(Order&, const Context&);
 

@@ -9,6 +9,7 @@
 #include <time.h>
 #include <unistd.h>
 
+#include "ParamSystem/network/StagedValues.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Interfaces.h"
 #include "ParamSystem/os/Os.h"
@@ -46,10 +47,21 @@ void detach(int pipe) {
         if (descriptor != pipe) close(descriptor);
 }
 
+void takeBack(const Journal& journal, bool applies, const Context& context) {
+    for (const Write& write : journal.writes)
+        if (write.from) writeValue(Space::temp, write.id(), *write.from);
+    if (applies) applyAddresses(journal);
+    VarSaveIPConfig();
+    os::removeFile(lastChange(context).c_str());
+    os::removeFile(openAddress(context).c_str());
+    os::logError("talux address: %s: not confirmed, the old addresses are back",
+                 journal.inWords(context).c_str());
+}
+
 // False while somebody confirms at this moment.
-bool endsWaiting(const Context& context) try {
+bool endsWaiting(const Journal& journal, const Context& context) try {
     const auto lock = oneAtATime(context);
-    takeAddressBack(true, context);
+    if (os::exists(openAddress(context).c_str())) takeBack(journal, true, context);
     return true;
 } catch (const CouldNot& error) {
     os::logError("talux address: %s", error.what());
@@ -63,7 +75,7 @@ bool endsWaiting(const Context& context) try {
     const std::string path = pathOf(reference::File::address, context);
     os::logInfo("talux address: %s: applied, waits %d s for `talux confirm`",
                 journal.inWords(context).c_str(), seconds);
-    VarSetSystemIPs();
+    applyAddresses(journal);
     try {
         before.empty() ? os::removeFile(path.c_str()) : replace(path, before, context);
     } catch (const CouldNot& error) {
@@ -72,7 +84,7 @@ bool endsWaiting(const Context& context) try {
     os::writeFile(pipe, "applied");
     while (os::exists(openAddress(context).c_str()) && now() < end && isAskedToEnd == 0)
         os::sleepMicroseconds(100000);
-    while (!endsWaiting(context))
+    while (!endsWaiting(journal, context))
         os::sleepMicroseconds(500000);
     _exit(0);
 }
@@ -137,10 +149,7 @@ bool isConfirmed(int pipe, const Writes& writes, const Context& context) {
 Status address(AddressOrder& order, const Context& context) {
     attachToWrite(context);
     Plan plan(context);
-    for (std::string_view value : order.assignments) {
-        const std::string_view label = takeUpTo(value, '=');
-        plan.take(label, value);
-    }
+    plan.take(order.assignments);
     const Writes writes = plan.writes();
     demandInterfaces(writes, context);
     const auto tell = [&order](const std::string& text) {
@@ -184,17 +193,19 @@ Status confirm(Order& order, const Context& context) {
 
 } // namespace
 
+// Without a gateway the library leaves the route over the one before.
+void applyAddresses(const Journal& journal) {
+    for (const Write& write : journal.writes)
+        if (write.parameter->row().type == kTypeIpGateway &&
+            network::isUnset(network::addressSetting(write.id())))
+            os::runShell(fill("route del default {} >/dev/null 2>&1", {interfaceOf(write)}).c_str());
+    VarSetSystemIPs();
+}
+
 bool takeAddressBack(bool applies, const Context& context) {
     const auto journal = Journal::read(openAddress(context), context);
-    if (!journal) return false;
-    for (const Write& write : journal->writes)
-        if (write.from) writeValue(Space::temp, write.id(), *write.from);
-    if (applies) VarSetSystemIPs();
-    VarSaveIPConfig();
-    os::removeFile(openAddress(context).c_str());
-    os::logError("talux address: %s: not confirmed, the old addresses are back",
-                 journal->inWords(context).c_str());
-    return true;
+    if (journal) takeBack(*journal, applies, context);
+    return journal.has_value();
 }
 
 void addAddress(CommandLine& line) {

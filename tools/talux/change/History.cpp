@@ -93,10 +93,16 @@ std::string momentFor(const std::string& when, const Context& context) {
         const auto copies = copiesOf(File::normal, context);
         const std::size_t back = std::strtoul(when.c_str() + 1, nullptr, 10);
         if (back < 1 || back > copies.size())
-            context.fail("there are {} copies", "es gibt {} Kopien", copies.size());
+            context.fail("there is no such copy; dated copies: {}",
+                         "diese Kopie gibt es nicht; datierte Kopien: {}", copies.size());
         return copies[back - 1].when;
     }
-    if (when.size() < 10 || when[4] != '-' || when[7] != '-')
+    // As far as it goes; %Y is two characters shorter than a year.
+    const std::string format = std::string("%Y-%m-%d %H:%M:%S").substr(0, when.size() - 2);
+    std::tm time{};
+    time.tm_isdst = -1;
+    if (strptime(when.c_str(), format.c_str(), &time) == nullptr ||
+        localTimeText(std::mktime(&time), format.c_str()) != when)
         context.fail("'{}': neither a file nor a moment such as yesterday, 2026-11-20, -3",
                      "'{}': weder eine Datei noch ein Zeitpunkt wie gestern, 2026-11-20, -3", when);
     return when + kAfterAll;

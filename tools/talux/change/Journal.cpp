@@ -18,7 +18,7 @@ namespace {
 constexpr std::string_view kMark = "# talux change: ", kWhen = "# when: ", kWho = "# who: ",
                            kWhat = "# what: ", kReach = "# reach: ";
 constexpr std::string_view kBegun = "begun", kDone = "done";
-constexpr std::array<std::string_view, 3> kReaches{"pending", "live", "saved"};
+constexpr std::array<std::string_view, 4> kReaches{"pending", "live", "saved", "applied"};
 
 bool isPlain(char c) {
     return static_cast<unsigned char>(c) >= ' ' && c != '\\' && c != '\x7F';
@@ -144,11 +144,30 @@ Writes Journal::written() const {
     return found;
 }
 
-std::string interruption(const Context& context) try {
+std::string damageOf(const std::string& path, const Context& context) try {
+    Journal::read(path, context);
+    return {};
+} catch (const CouldNot& damage) {
+    return damage.what();
+}
+
+std::string lastChangeDamage(const Context& context) {
+    const std::string damage = damageOf(lastChange(context), context);
+    return damage.empty() ? damage
+                          : context.say("{}; the next change replaces it",
+                                        "{}; die nächste Änderung ersetzt es", damage);
+}
+
+std::string interruption(const Context& context) {
+    if (const std::string damage = damageOf(openAddress(context), context); !damage.empty())
+        return context.say("{}; remove the file to change settings; `talux discard` gives up what is pending",
+                           "{}; zum Ändern die Datei entfernen; `talux discard` verwirft Ausstehendes",
+                           damage);
     if (const auto open = Journal::read(openAddress(context), context))
         return context.say("'{}' of {} by {} waits for `talux confirm` or `talux undo`",
                            "'{}' vom {} durch {} wartet auf `talux confirm` oder `talux undo`", open->what,
                            open->when, open->who);
+    if (!damageOf(lastChange(context), context).empty()) return {};
     const auto journal = Journal::read(lastChange(context), context);
     if (!journal || journal->isDone) return {};
     const Writes half = journal->written();
@@ -158,10 +177,6 @@ std::string interruption(const Context& context) try {
         "'{}' vom {} durch {} wurde unterbrochen und ist halb geschrieben: {}; `talux undo` nimmt "
         "es zurück",
         journal->what, journal->when, journal->who, list(half, ", ", std::mem_fn(&Write::label)));
-} catch (const CouldNot& damage) {
-    return context.say("{}; remove the file to change settings; `talux discard` gives up what is pending",
-                       "{}; zum Ändern die Datei entfernen; `talux discard` verwirft Ausstehendes",
-                       damage.what());
 }
 
 } // namespace talux::tool

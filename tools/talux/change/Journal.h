@@ -9,8 +9,8 @@
 
 namespace talux::tool {
 
-// How far a change goes: pending in the working copy, live, or in the files, too.
-enum class Reach { pending, live, saved };
+// How far a change goes: pending in the working copy, live, in the files, too, or applied to the system.
+enum class Reach { pending, live, saved, applied };
 
 struct Journal {
     bool isDone = false;
@@ -44,6 +44,10 @@ inline std::string openAddress(const Context& context) {
 
 // What a change that has not come to its end left half or open, and how to end it; empty when nothing is.
 std::string interruption(const Context& context);
+
+// What is wrong with a record; empty when nothing is. That of the last change blocks nothing.
+std::string damageOf(const std::string& path, const Context& context);
+std::string lastChangeDamage(const Context& context);
 
 // What precedes "=": values may be passwords, which no log shows.
 std::string namesIn(const std::vector<std::string>& assignments);

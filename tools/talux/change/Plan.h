@@ -36,7 +36,8 @@ public:
     // Without the device it only says what cannot be written.
     explicit Plan(const Context& person, bool isOnDevice = true) : context(person), onDevice(isOnDevice) {}
 
-    // A value as it is typed: a number, the number or text of a choice, a text.
+    // NAME=VALUE, the value as it is typed: a number, the number or text of a choice, a text.
+    void take(const std::vector<std::string>& assignments);
     void take(std::string_view label, std::string_view value);
 
     // A file of such lines, in the form of parameter files; the prefix TLX_ may be missing, blanks may be

@@ -9,13 +9,7 @@ namespace {
 
 Status set(Order& order, const Context& context) {
     Plan plan(context);
-    for (const std::string& assignment : order.assignments) {
-        std::string_view value = assignment;
-        const std::string_view label = takeUpTo(value, '=');
-        if (label.size() == assignment.size())
-            context.fail("'{}': NAME=VALUE expected", "'{}': NAME=WERT erwartet", assignment);
-        plan.take(label, value);
-    }
+    plan.take(order.assignments);
     order.what = "set " + namesIn(order.assignments);
     return carryOut(plan, order, context);
 }
@@ -46,13 +40,6 @@ Writes backwards(const Journal& journal) {
     return back;
 }
 
-bool isDamaged(const std::string& record, const Context& context) try {
-    Journal::read(record, context);
-    return false;
-} catch (const CouldNot&) {
-    return true;
-}
-
 } // namespace
 
 Status undo(Order& order, const Context& context) {
@@ -70,6 +57,7 @@ Status undo(Order& order, const Context& context) {
     order.mends = !journal->isDone;
     if (journal->isDone) {
         demandUnchanged(*journal, context);
+        order.appliesAll = journal->reach == Reach::applied;
         order.live = order.live || journal->reach == Reach::live;
         order.save = order.save || journal->reach == Reach::saved;
     }
@@ -83,7 +71,7 @@ Status discard(Order& order, const Context& context) {
         if (live) writes.push_back({parameter, 0, staged, *live});
     order.what = "discard";
     order.apply = nullptr; // what is live has been applied
-    order.mends = isDamaged(lastChange(context), context) || isDamaged(openAddress(context), context);
+    order.mends = !damageOf(openAddress(context), context).empty();
     return carryOut(writes, order, context);
 }
 
