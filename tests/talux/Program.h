@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 #include <sys/wait.h>
+#include <vector>
 
 namespace talux_test {
 
@@ -28,14 +29,39 @@ inline Ended run(const std::string& command) {
     return result;
 }
 
+inline std::vector<std::string> pieces(const std::string& text, char end) {
+    std::vector<std::string> all;
+    std::istringstream stream(text);
+    for (std::string piece; std::getline(stream, piece, end);)
+        all.push_back(piece);
+    return all;
+}
+
 // The store as a device has it after its start: factory settings, live.
 class InStartedDevice : public InDirectory {
 protected:
     void SetUp() override {
         InDirectory::SetUp();
         VarClean();
+        reset();
+    }
+    static void reset() {
         VarSetDefault();
         VarUpdateGlobalSpace();
+    }
+    static std::string image() {
+        return bytes(raw(kTemp), kSpaceSize) + bytes(raw(kGlobal), kSpaceSize) +
+               bytes(rawRecords(), kRecordsSize);
+    }
+    // Files of the directory.
+    std::string write(const char* name, const std::string& contents) const {
+        std::ofstream(directory / name, std::ios::binary) << contents;
+        return directory / name;
+    }
+    std::string file(const char* name) const {
+        std::ostringstream contents;
+        contents << std::ifstream(directory / name).rdbuf();
+        return contents.str();
     }
 };
 

@@ -58,7 +58,7 @@ protected:
     }
 
     void type(const std::string& keys) const {
-        ASSERT_EQ(write(terminal, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
+        ASSERT_EQ(::write(terminal, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
     }
 
     // True once the text has come since the last call.

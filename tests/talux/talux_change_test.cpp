@@ -2,9 +2,12 @@
 #include "../Isolation.h"
 #include "Terminal.h"
 
+#include <arpa/inet.h>
 #include <chrono>
 #include <csignal>
 #include <sys/ptrace.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 
 #include "ParamSystem/KEPL_Interpreter.h"
 
@@ -17,16 +20,6 @@ protected:
     Ended talux(const std::string& arguments) const {
         return run("talux --directory " + directory.string() + " " + arguments + " 2>&1");
     }
-    std::string write(const char* name, const std::string& contents) const {
-        std::ofstream(directory / name, std::ios::binary) << contents;
-        return directory / name;
-    }
-    std::string file(const char* name) const {
-        std::ostringstream contents;
-        contents << std::ifstream(directory / name).rdbuf();
-        return contents.str();
-    }
-    static std::string image() { return bytes(raw(kTemp), kSpaceSize) + bytes(raw(kGlobal), kSpaceSize); }
     // As the language reads it: a text in quotes or a number.
     static std::string value(const std::string& label) {
         char nowhere[] = "", end[] = "", answer[kKeplTextSize] = "";
@@ -35,29 +28,11 @@ protected:
         KEPL_Interpreter(nowhere).ProcessLine(line.data(), nullptr, answer, end, 3);
         return answer;
     }
-    // Everything before the first tab or blank, line by line.
-    static std::vector<std::string> pieces(const std::string& text, char end) {
-        std::vector<std::string> all;
-        std::istringstream stream(text);
-        for (std::string piece; std::getline(stream, piece, end);)
-            all.push_back(piece);
-        return all;
-    }
-    void reset() {
-        VarSetDefault();
-        VarUpdateGlobalSpace();
-    }
 };
 
 TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
     int cases = 0;
-    for (const std::string& line : pieces(
-             [] {
-                 std::ostringstream all;
-                 all << std::ifstream(TALUX_CASES).rdbuf();
-                 return all.str();
-             }(),
-             '\n')) {
+    for (const std::string& line : pieces(file(TALUX_CASES), '\n')) {
         if (line.starts_with('#')) continue;
         SCOPED_TRACE(line);
         ++cases;
@@ -96,8 +71,8 @@ TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
             for (const std::string& each : pieces(wanted, '|')) {
                 const auto equals = each.find('=');
                 const std::string now = value(each.substr(0, equals)), meant = each.substr(equals + 1);
-                EXPECT_TRUE(now == meant ||
-                            std::abs(std::atof(now.c_str()) - std::atof(meant.c_str())) < 1e-6);
+                EXPECT_TRUE(now == meant || std::abs(std::strtod(now.c_str(), nullptr) -
+                                                     std::strtod(meant.c_str(), nullptr)) < 1e-6);
             }
             if (line.find("ETH0") != line.npos) continue; // made everything live
             EXPECT_EQ(talux("undo --yes").status, 0);
@@ -148,6 +123,14 @@ TEST_F(TaluxChange, UndoAndDiscardKnowWhatOthersChanged) {
     EXPECT_EQ(talux("set --yes Uearth=45 --protocol /nowhere/record").status, 2);
     EXPECT_EQ(value("Uearth"), "44.000000");
     EXPECT_EQ(talux("undo " + write("none", "TLX_Uearth=35\n") + " --yes").status, 2);
+    // A damaged record is named, and the next change replaces it.
+    write("last_change.tsv", "# talux change: begun\nUearth\t30\t4");
+    for (const char* command : {"status", "history", "undo --yes", "set --yes Uearth=46"})
+        EXPECT_NE(
+            talux(command).output.find("/last_change.tsv: is not a complete record of a change: see line 2"),
+            std::string::npos)
+            << command;
+    EXPECT_EQ(talux("undo --yes").output, "Uearth  46 -> 44 %  Earth-fault threshold U0\n");
 }
 
 TEST_F(TaluxChange, WhatWasComesBackAndAnotherRelayKeepsItsOwn) {
@@ -177,7 +160,8 @@ TEST_F(TaluxChange, WhatWasComesBackAndAnotherRelayKeepsItsOwn) {
         EXPECT_EQ(talux(std::string("restore --yes ") + when).status, 0);
         EXPECT_EQ(value("Uearth"), threshold + std::string(".000000")) << when;
     }
-    EXPECT_EQ(talux("restore 2023-12-31 --yes").status, 2);
+    for (const char* never : {"2023-12-31", "2024-02-30", "'2024-06-05 24:00'", "2024", "-9"})
+        EXPECT_EQ(talux(std::string("restore --yes ") + never).status, 2) << never;
 
     std::filesystem::create_directory(directory / "neighbour");
     std::filesystem::rename(directory / "parameter.ini", directory / "neighbour/parameter.ini");
@@ -329,42 +313,87 @@ TEST_F(TaluxChange, KilledAtAnyMomentItIsWholeOrKnownAndMended) {
     EXPECT_GT(none, 0);
 }
 
-// On real interfaces, which the kernel has.
+// On real interfaces, between the device's network namespace and that of somebody who reaches it.
 class TaluxAddress : public TaluxChange {
 protected:
     void SetUp() override {
         TaluxChange::SetUp();
-        if (!isolated() ||
-            run("ip link add eth0 type veth peer name peer0 2>&1 && ip link set peer0 up").status != 0)
+        if (isolated())
+            far = run("unshare --user --net --keep-caps sh -c 'echo -n $$; exec >/dev/null 2>&1; "
+                      "until ip link set peer0 up; do sleep 0.1; done; ip address add 10.1.2.9/24 dev peer0; "
+                      "ip address add 192.168.0.9/16 dev peer0; exec sleep 600' &")
+                      .output;
+        if (run("ip link add eth0 type veth peer name peer0 netns '" + far + "' 2>&1").status != 0)
             GTEST_SKIP() << "no pair of virtual interfaces can be made";
+        unsetenv("SUDO_USER"), unsetenv("SSH_CONNECTION");
+        const sockaddr_un place{AF_UNIX, "/dev/log"};
+        log = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+        ASSERT_EQ(bind(log, reinterpret_cast<const sockaddr*>(&place), sizeof place), 0);
+        if (server = fork(); server == 0) serve();
         EXPECT_EQ(talux("boot --again --apply >/dev/null").status, 0);
         EXPECT_EQ(network(), "192.168.55.127/16");
+        int tries = 0;
+        while (++tries < 100 && reached("192.168.55.127").empty())
+            usleep(50000);
+        EXPECT_LT(tries, 100) << "not reached from the other side";
         old = file("ip_config.ini");
     }
     void TearDown() override {
-        run("ip link del eth0 2>&1; rm -f /tmp/ntp.conf");
+        run("ip link del eth0 2>&1; kill " + far + " 2>&1; rm -f /tmp/ntp.conf /dev/log");
+        if (server > 0) kill(server, SIGKILL), waitpid(server, nullptr, 0), close(log);
         TaluxChange::TearDown();
+    }
+    // A session for each connection: a command of talux, then what it prints.
+    [[noreturn]] void serve() const {
+        const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0), yes = 1;
+        sockaddr_in address{AF_INET, htons(kPort), {}, {}};
+        setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+        if (bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0) _exit(1);
+        listen(listener, 1);
+        for (socklen_t size = sizeof address;;) {
+            const int session = accept4(listener, reinterpret_cast<sockaddr*>(&address), &size, SOCK_CLOEXEC);
+            char command[64] = "";
+            if (recv(session, command, sizeof command - 1, 0) < 0) _exit(1);
+            setenv("SSH_CONNECTION", inet_ntoa(address.sin_addr), 1);
+            const std::string answer = talux(command).output;
+            send(session, answer.data(), answer.size(), 0);
+            close(session);
+        }
+    }
+    // What a session from the other side to this address prints; empty when it is not reached.
+    std::string reached(const std::string& address, const std::string& command = "--version") const {
+        return run("nsenter --user --net --preserve-credentials -t " + far +
+                   " timeout 5 bash -c 'exec 3<>/dev/tcp/" + address + "/" + std::to_string(kPort) +
+                   " && printf %s \"" + command + "\" >&3 && cat <&3' 2>/dev/null")
+            .output;
+    }
+    // The system log since the last call: priority and text of each line.
+    std::string logged() const {
+        std::string all;
+        char line[4096];
+        for (ssize_t size; (size = recv(log, line, sizeof line, MSG_DONTWAIT)) > 0;) {
+            const std::string text(line, static_cast<std::size_t>(size));
+            all += text.substr(1, 2) + text.substr(text.find(": ") + 1) + "\n";
+        }
+        return all;
     }
     static std::string network() {
         const std::string line = run("ip -o -4 address show eth0 | sed 's/.*inet \\([^ ]*\\).*/\\1/'").output;
         return line.substr(0, line.find('\n'));
     }
-    static bool becomes(const std::string& address) {
-        for (int tries = 0; tries < 200 && network() != address; ++tries)
-            usleep(50000);
-        return network() == address;
-    }
     static Ended endGuard(const std::string& signal) {
         return run("kill -" + signal +
                    " $(grep -ls address-guard /proc/[0-9]*/comm | cut -d/ -f3) 2>/dev/null");
     }
-    // All over: the record is gone, and so is the guard.
-    void waitForTheEnd() const {
-        for (int tries = 0; tries < 200 && endGuard("0").status == 0; ++tries)
+    // All over: the address is there, the record is gone, and so is the guard.
+    void waitForTheEnd(const char* address) const {
+        for (int tries = 0; tries < 200 && (network() != address || endGuard("0").status == 0); ++tries)
             usleep(50000);
+        EXPECT_EQ(network(), address);
         EXPECT_FALSE(std::filesystem::exists(directory / "address_change.tsv"));
     }
     void startChange(const char* seconds) {
+        logged();
         const std::string folder = "--directory=" + directory.string();
         start({folder.c_str(), "address", "ETH0_IP=10.1.2.3", "ETH0_MASK=255.255.255.0", "--yes", "--confirm",
                seconds});
@@ -372,47 +401,77 @@ protected:
         EXPECT_EQ(network(), "10.1.2.3/24");
         EXPECT_EQ(file("ip_config.ini"), old) << "with the supply gone now, the old ones are there";
     }
-    std::string old;
+    void isBack() const {
+        waitForTheEnd("192.168.55.127/16");
+        EXPECT_EQ(file("ip_config.ini"), old);
+        EXPECT_EQ(value("ETH0_IP") + value("ETH0_MASK"), "\"192.168.55.127\"\"255.255.0.0\"");
+        EXPECT_NE(reached("192.168.55.127"), "");
+        EXPECT_NE(
+            logged().find("11 talux address: " + kChange + ": not confirmed, the old addresses are back\n"),
+            std::string::npos);
+    }
+
+    static constexpr in_port_t kPort = 2222;
+    inline static const std::string kChange =
+        "ETH0_MASK \"255.255.0.0\" -> \"255.255.255.0\", ETH0_IP \"192.168.55.127\" -> \"10.1.2.3\"";
+    std::string old, far; // far: the process of the other side
+    int log = -1;
+    pid_t server = 0;
 };
 
+constexpr char kChangeInJson[] =
+    R"("changes":[{"name":"ETH0_MASK","from":"255.255.0.0","to":"255.255.255.0","network":true},)"
+    R"({"name":"ETH0_IP","from":"192.168.55.127","to":"10.1.2.3","network":true}])";
+
+std::string withoutBlanks(std::string text) {
+    std::erase_if(text, [](char c) { return c == ' ' || c == '\n'; });
+    return text;
+}
+
 TEST_F(TaluxAddress, StaysWhenItIsConfirmed) {
-    startChange("30");
+    startChange("60");
+    EXPECT_EQ(reached("192.168.55.127"), "");
     for (const char* other : {"set Uearth=35 --yes", "address ETH0_IP=10.9.9.9 --yes"})
         EXPECT_EQ(talux(other).status, 2) << "one at a time";
     EXPECT_NE(talux("status").output.find("talux confirm"), std::string::npos);
     EXPECT_EQ(run("cd " + directory.string() + "; flock .talux_lock talux --directory . confirm 2>&1").status,
               2);
-    EXPECT_EQ(talux("confirm").status, 0);
+    EXPECT_EQ(withoutBlanks(reached("10.1.2.3", "confirm --json")),
+              "{\"confirmed\":true," + std::string(kChangeInJson) + "}");
     EXPECT_TRUE(waitFor("confirmed and saved"));
     EXPECT_EQ(ended(), 0);
-    waitForTheEnd();
-    EXPECT_EQ(network(), "10.1.2.3/24");
+    waitForTheEnd("10.1.2.3/24");
     EXPECT_NE(file("ip_config.ini").find("TLX_ETH0_IP=\"10.1.2.3\""), std::string::npos);
     EXPECT_EQ(talux("confirm").status, 2) << "nothing waits";
+    EXPECT_EQ(logged(), "14 talux address: " + kChange +
+                            ": applied, waits 60 s for `talux confirm`\n"
+                            "14 talux address ETH0_IP ETH0_MASK: 2 settings by 0\n"
+                            "14 talux confirm: " +
+                            kChange + " by 0 from 10.1.2.9\n");
 }
 
 TEST_F(TaluxAddress, IsTakenBackWhenNobodyConfirms) {
-    const auto isBack = [this] {
-        EXPECT_TRUE(becomes("192.168.55.127/16"));
-        waitForTheEnd();
-        EXPECT_EQ(file("ip_config.ini"), old);
-        EXPECT_EQ(value("ETH0_IP") + value("ETH0_MASK"), "\"192.168.55.127\"\"255.255.0.0\"");
-    };
-    startChange("1"); // the time passes
-    EXPECT_TRUE(waitFor("the old addresses are back"));
-    EXPECT_EQ(ended(), 1);
+    logged();
+    const Ended alone = talux("address ETH0_IP=10.1.2.3 ETH0_MASK=255.255.255.0 --yes --confirm 1 --json");
+    EXPECT_EQ(alone.status, 1); // the time passes
+    EXPECT_EQ(withoutBlanks(alone.output),
+              "{\"written\":true," + std::string(kChangeInJson) + ",\"implausible\":[],\"confirmed\":false}");
     isBack();
-    startChange("2"); // the terminal and the command are gone
+    EXPECT_EQ(reached("10.1.2.3"), "");
+    EXPECT_NE(talux("undo --yes").output.find("no change to take back"), std::string::npos);
+    startChange("4"); // the terminal and the command are gone, and the record is damaged
     kill(-child, SIGKILL);
     close(terminal);
     waitpid(std::exchange(child, 0), nullptr, 0);
+    write("address_change.tsv", "?");
+    EXPECT_EQ(talux("confirm").status + talux("set Uearth=35 --yes").status, 4);
     isBack();
-    startChange("30"); // somebody takes it back
+    startChange("60"); // somebody takes it back
     EXPECT_EQ(talux("undo --yes >/dev/null").status, 0);
     EXPECT_TRUE(waitFor("the old addresses are back"));
     EXPECT_EQ(ended(), 1);
     isBack();
-    startChange("30"); // the supply fails
+    startChange("60"); // the supply fails
     endGuard("KILL");
     run("ip address flush dev eth0");
     EXPECT_TRUE(waitFor("the guard is gone"));
@@ -420,6 +479,24 @@ TEST_F(TaluxAddress, IsTakenBackWhenNobodyConfirms) {
     VarClean();
     EXPECT_EQ(talux("boot --apply >/dev/null").status, 1);
     isBack();
+}
+
+// Where there was no gateway before, there is no default route; an undo of what was confirmed is applied,
+// too.
+TEST_F(TaluxAddress, GatewayAndNetmaskGoBackWithoutTheAddress) {
+    const std::string folder = "--directory=" + directory.string();
+    const auto routes = [] { return network() + run(" ip route show default").output; };
+    for (const bool isConfirmed : {false, true}) {
+        start({folder.c_str(), "address", "ETH0_GATEWAY=192.168.55.9", "ETH0_MASK=255.255.255.0", "--yes",
+               "--confirm", isConfirmed ? "60" : "3"});
+        EXPECT_TRUE(waitFor("applied; `talux confirm`"));
+        EXPECT_EQ(routes(), "192.168.55.127/24default via 192.168.55.9 dev eth0 \n");
+        if (isConfirmed) talux("confirm");
+        EXPECT_EQ(ended(), isConfirmed ? 0 : 1);
+        EXPECT_EQ(isConfirmed, talux("undo --yes").status == 0);
+        EXPECT_EQ(routes(), "192.168.55.127/16");
+        EXPECT_EQ(file("ip_config.ini"), old);
+    }
 }
 
 } // namespace

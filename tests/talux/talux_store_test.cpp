@@ -20,16 +20,6 @@ protected:
         return all;
     }
 
-    std::string write(const char* name, const std::string& contents) const {
-        std::ofstream(directory / name, std::ios::binary) << contents;
-        return directory / name;
-    }
-
-    static std::string image() {
-        return bytes(raw(kTemp), kSpaceSize) + bytes(raw(kGlobal), kSpaceSize) +
-               bytes(rawRecords(), kRecordsSize);
-    }
-
     template <std::size_t N>
     const char* one(const char* const (&texts)[N]) {
         return texts[random.below(static_cast<int>(N))];
@@ -148,8 +138,7 @@ TEST_F(TaluxStore, WhatCheckForetellsIsWhatALoadDoes) {
         ASSERT_EQ(bytes(raw(kTemp), kSpaceSize), foretold) << round;
         // What the loader complains about is among the findings.
         constexpr std::string_view kComplaint = "Error (TALUX_Var): Wrong parameter on line ";
-        std::istringstream lines(messages);
-        for (std::string text; std::getline(lines, text);) {
+        for (const std::string& text : pieces(messages, '\n')) {
             if (!text.starts_with(kComplaint)) continue;
             const int number = std::stoi(text.substr(kComplaint.size()));
             EXPECT_TRUE(std::ranges::any_of(told, [=](const CheckedLine& line) {
@@ -178,10 +167,7 @@ TEST_F(TaluxStore, StatusKnowsWhatReachesTheNetwork) {
 TEST_F(TaluxStore, FingerprintsKnowSettingsAlone) {
     std::string path = directory / "parameter.ini";
     ASSERT_EQ(VarSaveParamFile(path.data()), 1);
-    std::ifstream saved(path);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(saved, line);)
-        lines.push_back(line);
+    std::vector<std::string> lines = pieces(file("parameter.ini"), '\n');
     const auto digest = [&](const std::string& contents) {
         return run("talux fingerprint " + write("any.ini", contents)).output.substr(0, 64);
     };
@@ -303,7 +289,7 @@ TEST_F(TaluxStore, LookingChangesNothing) {
     };
     const std::string before = image(), listed = files();
     const std::string in = "cd " + directory.string() + " && talux --directory . ";
-    std::istringstream commands(R"(check a.ini --against live
+    const char kCommands[] = R"(check a.ini --against live
 check a.ini b.ini --json --notes
 diff live staged
 diff a.ini b.ini
@@ -333,8 +319,8 @@ watch U1_prim MessRecord01 'vBE 3.9' --count 2 --period 0.01
 watch Name vMWR --csv --count 1
 annotations
 lint a.ini
-)");
-    for (std::string command; std::getline(commands, command);)
+)";
+    for (const std::string& command : pieces(kCommands, '\n'))
         for (const std::string fault : {"", ">/dev/full", ">&-", "2>&-", "<&-"}) {
             const Ended result = run((in + command).append(" ").append(fault) + " 2>/dev/null");
             EXPECT_TRUE(fault == ">/dev/full" ? result.status == 2 : result.status >= 0) << command << fault;
