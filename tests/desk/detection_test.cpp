@@ -238,12 +238,13 @@ TEST(DeskStatistics, HoldMaximumMinimumAndMeanOfAnInterval) {
     bench.set(Setting<std::int32_t>{"stat_intervall"}, 1);
     Statistics statistics;
     std::vector<talux::StatRecord_c0> records;
-    for (const Cycle& cycle :
-         bench.run("network isolated 20 kV\nload 100 A drift 0 %\nat 30 s load 300 A\n"
-                   "at 40 s earth fault L2 solid forward\nat 41 s fault cleared\nat 130 s end\n"))
+    for (const Cycle& cycle : bench.run(
+             "network isolated 20 kV\nload 100 A drift 0 %\nat 30 s load 300 A\n"
+             "at 40 s earth fault L2 solid forward\nat 41 s fault cleared\nat 130 s restart\nat 191 s end\n"))
         if (const auto record = statistics.add(cycle, bench.settings())) records.push_back(*record);
-    ASSERT_EQ(records.size(), 2U);
+    ASSERT_EQ(records.size(), 3U);
     EXPECT_EQ(records[1].EvCnt_qu2, 0) << "those of its own minute";
+    EXPECT_EQ(records[2].EvCnt_qu2, 0) << "a restart begins a minute and counts from 0";
     EXPECT_NEAR(records[1].I1_av, 300, 3);
     const talux::StatRecord_c0& record = records[0];
     EXPECT_NEAR(record.I1_max, 300, 3);

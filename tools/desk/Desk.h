@@ -69,12 +69,13 @@ private:
 // Largest, smallest and mean values of an interval.
 class Statistics {
 public:
-    // Takes the values of a cycle; the record of the interval, `stat_intervall` minutes, when it is over.
+    // Takes the values of a cycle; the record of the interval, `stat_intervall` minutes, when it is over. A
+    // restart begins a new one.
     std::optional<talux::StatRecord_c0> add(const Cycle& cycle, const talux::Settings& settings);
 
 private:
     talux::StatRecord_c0 running{};
-    int cycles = 0, transientsBefore = 0;
+    int cycles = 0, lastCount = 0, transientsBefore = 0;
     double seconds = 0;
 };
 

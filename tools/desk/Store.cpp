@@ -100,6 +100,7 @@ const stVarSpace& factorySpace() {
 }
 
 std::optional<StatRecord_c0> Statistics::add(const Cycle& cycle, const talux::Settings& settings) {
+    if (cycle.record.Cnt < std::exchange(lastCount, cycle.record.Cnt)) *this = {};
     ++cycles;
     seconds += kCycle;
     for (const Row& row : kRows) {
