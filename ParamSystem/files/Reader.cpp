@@ -123,10 +123,10 @@ bool Reader::fill() {
 std::string_view Reader::takeLine() {
     static_assert(sizeof block > kMaxRead);
     for (;;) {
-        const char* const first = block + start;
         const std::size_t size = std::min(end - start, kMaxRead);
-        const auto* const feed = static_cast<const char*>(std::memchr(first, '\n', size));
+        const auto* const feed = static_cast<const char*>(std::memchr(block + start, '\n', size));
         if (feed == nullptr && end - start <= kMaxRead && fill()) continue;
+        const char* const first = block + start; // where fill() has moved it
         const std::size_t length = feed != nullptr ? static_cast<std::size_t>(feed + 1 - first) : size;
         start += length;
         return {first, length};
