@@ -20,8 +20,8 @@ struct FieldSource {
 [[noreturn]] void endWithError(const FieldSource& source, const char* what);
 [[noreturn]] void endWithInvalidValue(const FieldSource& source);
 
-// The next field; the process ends when there is none. From here on the record splits at tab and newline, so
-// that fields may hold blanks.
+// The next field; the process ends when there is none. From here on the record is split at tab and newline,
+// so fields may contain blanks.
 char* takeField(const FieldSource& source);
 
 } // namespace talux::fields

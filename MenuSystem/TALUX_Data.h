@@ -12,13 +12,13 @@ inline constexpr int kDataStringSpaceSize = 40000;
 // Longest text of one field, in characters.
 inline constexpr int kDataMaxText = 254;
 
-// Frees the whole string space; texts handed out before become invalid.
+// Frees the whole string space; texts returned before become invalid.
 TALUX_API void Data_StringReset();
 
 // Copies `txt` into the string space. Returns the copy, valid until the next reset, or null when it does
 // not fit or the space was never reset. Not thread-safe.
 TALUX_API char* Data_StringSave(const char* txt);
-TALUX_API char* Data_StringSave(char* txt); // for programs that declare it so
+TALUX_API char* Data_StringSave(char* txt); // for programs that declare it like this
 
 /*
  * Take the next field of a record from `pTokenizer`, which has been set up on the record's line, and store
@@ -40,8 +40,8 @@ TALUX_API void Data_SetInt(const char* modulename, int* field, const char* field
 // A number.
 TALUX_API void Data_SetDouble(const char* modulename, double* field, const char* fieldname,
                               StringTokenizer* pTokenizer, FILE* fd_src);
-// The text between the first and the last double quote, at most kDataMaxText characters, kept in the
-// string space.
+// The text between the first and the last double quote, at most kDataMaxText characters, stored in
+// the string space.
 TALUX_API void Data_SetText(const char* modulename, char** field, const char* fieldname,
                             StringTokenizer* pTokenizer, FILE* fd_src);
 

@@ -6,7 +6,7 @@
 
 /*
  * Tokens are pointers into the caller's buffer, each ended by a NUL written over its delimiter. They stay
- * valid until the next accepted SetString on the same buffer. A NUL in the buffer delimits under every
+ * valid until the next accepted SetString on the same buffer. A NUL in the buffer is a delimiter in every
  * set, so the set may be changed between two tokens. Nothing is allocated; one object serves one thread.
  */
 class TALUX_API StringTokenizer {
@@ -26,8 +26,8 @@ public:
 
     /*
      * Starts on a copy of `str`, split at any character of `delim`. With `returnTokens` each delimiter is
-     * a token of its own, and a token ends before the next one is asked for: the character under its NUL
-     * comes back then. Refused, leaving the old string, position and set in force: no buffer, `str` null or
+     * a token of its own, and a token must not be used after the next call, which restores the delimiter
+     * at its end. Refused, with the old string, position and set unchanged: no buffer, `str` null or
      * empty, `str` longer than the buffer holds, `delim` longer than kMaxDelimiters.
      */
     void SetString(char* str, const char* delim, BOOL returnTokens);

@@ -8,9 +8,9 @@
 // Longest line and longest term, in characters.
 inline constexpr int kKeplMaxLine = 254;
 inline constexpr int kKeplMaxTerm = 127;
-// Bytes of the message buffer handed to ProcessCommand.
+// Bytes of the message buffer passed to ProcessCommand.
 inline constexpr int kKeplTextSize = 3000;
-// Values that the stack holds.
+// Capacity of the stack, in values.
 inline constexpr int kKeplStackSize = 128;
 
 // Results of a line.
@@ -45,7 +45,7 @@ public:
      */
     int ProcessLine(char* szLine, fnDataOut DataOut, char* szResult, char* terminator, int uid);
 
-    // The same work; ProcessLine only calls it.
+    // Does the work of ProcessLine, which only calls it.
     int GetResult(char* expression, fnDataOut DataOut, char* result, char* terminator, int uid);
 
     // Copies the last error text into `buffer` (`len` bytes, zero-padded, without a NUL when the text fills
@@ -61,8 +61,8 @@ public:
     /*
      * Executes one variable term, given without its prefix (at most kKeplMaxTerm characters).
      * txt: answer text, kKeplTextSize bytes. adStack, aiType: kKeplStackSize values and their type codes;
-     * a value that was read is stored at index *iSP, which stays as it is.
-     * Returns 1 read (txt empty: the value is in the slot), 0 written, -1 refused (text for GetError).
+     * a value that was read is stored at index *iSP, which does not change.
+     * Returns 1 read (txt empty: the value is on the stack), 0 written, -1 refused (text for GetError).
      */
     int ProcessCommand(const char* theCommand, char* txt, double* adStack, int* aiType, int* iSP, int uid);
 

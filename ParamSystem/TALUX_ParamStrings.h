@@ -30,7 +30,7 @@ inline constexpr int kParamTextRows = 4942;
 inline constexpr int kDefParamTextRows = kParamTextRows - 200;
 
 // The compiled-in texts: sentinels with id 0 and the text "***" first and last, the texts between them
-// grouped by id in catalogue order. More sentinels fill places for which there is no text yet.
+// grouped by id in catalogue order. More sentinels fill the rows that have no text yet.
 extern TALUX_API const stParamText DefParamText[kDefParamTextRows];
 extern TALUX_API const int DefParamTextCount; // kDefParamTextRows
 

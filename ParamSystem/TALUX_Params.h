@@ -62,11 +62,11 @@ struct stParamSymbol {
 };
 
 /*
- * The tables. A program that names a table is linked with a place for it, as large as the table was then.
+ * The tables. A program that names a table is linked with memory for it, as large as the table was then.
  * When the library is newer and has more parameters,
- * - the place of a constant table holds its first rows, and the closing sentinel is cut off: walk positions
+ * - the program's copy of a constant table has its first rows and no closing sentinel: walk positions
  * with GetParamPropertiesByOrder and resolve names with the look-ups, which read the library's own tables;
- * - the place of a working table is the one that the library uses, too: ParamText keeps its size,
+ * - a working table in the program is the one that the library uses, too: ParamText keeps its size,
  * ParamProperties takes up to kSpareParamRows - 1 more parameters, less the rows that the program adds.
  */
 
@@ -109,7 +109,7 @@ TALUX_API int LoadDefParamProperties();
 TALUX_API int LoadParamProperties(char* sourcefile);
 
 // The first row in table order with this id, or null. Aborts on a negative id. A compiled-in row that still
-// has its id is found at its place, even if a program gave the id to an earlier row or cleared one; the same
+// has its id is found first, even if a program gave the id to an earlier row or cleared one; the same
 // applies to names.
 TALUX_API const stParamProperties* GetParamProperties(int id);
 
@@ -139,7 +139,7 @@ inline constexpr int kRecordMemberCount = 147;
 inline constexpr int kLargestRecord = 236;   // bytes
 inline constexpr int kStructSpaceSize = 588; // bytes
 
-// The records, indexed by id - 30000: place and size in the struct segment in bytes, first descriptor and
+// The records, indexed by id - 30000: offset and size in the struct segment in bytes, first descriptor and
 // number of members.
 extern TALUX_API const VarLong ARR_StructOffset[kRecordCount];
 extern TALUX_API const VarLong ARR_StructSize[kRecordCount];

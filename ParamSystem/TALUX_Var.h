@@ -266,10 +266,10 @@ TALUX_API int VarUpdateGlobalSpace(void);
  * stack and no heap.
  */
 
-// Write one file, under the name as it is given: not in the directory of the parameter files, unless the name
-// says so. 1 done; 0 the file cannot be created, is not surely kept, has an empty name (the address file) or
-// nobody has called LoadDefParamProperties. A write that fails is reported, the old file stays, and the
-// result is 1. The address file is committed first.
+// Write one file. The name is used as it is given: not in the directory of the parameter files, unless it
+// names that. 1 done; 0 the file cannot be created, may not be on the disk, has an empty name (the address
+// file), or LoadDefParamProperties has not been called. A write that fails is reported, the old file stays,
+// and the result is 1. The address file is committed first.
 TALUX_API int VarSaveParamFile(char* filename);
 TALUX_API int VarSaveSecParamFile(char* filename);
 TALUX_API int VarSaveIPConfigFile(char* filename);
@@ -279,16 +279,16 @@ TALUX_API int VarSaveParams(void);
 TALUX_API int VarSaveSecParams(void);
 // Commit, write ip_config.ini, raise IpParamChanged. 1 done, 0 failed.
 TALUX_API int VarSaveIPConfig(void);
-// Like the three, but a write that fails is no success: 0 when the file and its dated copy are surely on the
-// disk, else the errno of what failed.
+// Like the three, but a write that fails is no success: 0 when the file and its dated copy are certain to be
+// on the disk, else the errno of what failed.
 enum class SavedFile : int { parameters, security, addresses };
 TALUX_API int VarSaveError(SavedFile file);
 // Both parameter files with their dated copies as they are in the global space, then the address file.
 TALUX_API int VarSaveAll(void);
 
-// Loads a file, under the name as it is given, too, and commits. `type` 0 loads everything; a text-like type
-// code loads, among the text-like parameters, only those of that type. 1 done, 0 the file cannot be opened
-// (nothing is committed). A read error ends the process with status 2.
+// Loads a file, whose name is also used as it is given, and commits. `type` 0 loads everything; a text-like
+// type code loads, among the text-like parameters, only those of that type. 1 done, 0 the file cannot be
+// opened (nothing is committed). A read error ends the process with status 2.
 TALUX_API int VarLoadFile(char* filename, int type);
 
 // Load parameter.ini, sec_parameter.ini or ip_config.ini and raise the change flag whatever the result;
@@ -306,7 +306,7 @@ TALUX_API int VarResetIPConfig(int type);
 /*
  * Each runs shell commands, one after the other, most of them announced on the error stream, and blocks
  * until they are done. The commands' own success is not examined. Texts are one word for the shell
- * whatever they hold; a command of more than 253 characters is not run and the reason goes to the error
+ * whatever they contain; a command of more than 253 characters is not run and the reason goes to the error
  * stream. Not atomic: each value is read when its command is built.
  */
 

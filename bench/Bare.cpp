@@ -179,8 +179,8 @@ void addEntry(const stParamProperties& row) {
     entry.name = row.name;
     entry.kind = type.kind;
     entry.type = row.type;
-    entry.slot = block.slot;
-    entry.offset = block.offset + static_cast<std::size_t>(row.id - block.first) * block.slot;
+    entry.slot = block.slotSize;
+    entry.offset = block.offset + static_cast<std::size_t>(row.id - block.first) * block.slotSize;
     entry.isSetting = row.is_volatile == 0;
     entry.isInFile = entry.isSetting && row.userlevel <= 2 && !talux::isAddress(row);
     entry.isText = talux::isText(row);

@@ -137,8 +137,8 @@ local rank = {["date of the clock"] = 1, ["time of the clock"] = 1, ["interface 
 
 local function labelOf(row, index) return index and ("%s[%s]"):format(row.name, tostring(index)) or row.name end
 
--- A value to write, or nil and the reason why it cannot be. The language prints six digits after the point, so that a
--- float is read as a multiple.
+-- A value to write, or nil and the reason why it cannot be. The language prints six digits after the point, so a
+-- multiple of a float is read.
 local function entryFor(row, index, value)
   local text, new = nil, checks.index(row, index)
   if not new then text, new = checks.value(row, value) end
@@ -148,10 +148,10 @@ local function entryFor(row, index, value)
   return {row = row, index = index, line = line, query = query, text = text, new = new}
 end
 
--- A nearest name takes milliseconds to find: only the first of many unknown names get one.
+-- Finding the nearest name takes milliseconds: only the first of many unknown names get one.
 local nearest = 4
 
--- All reasons why settings cannot be written, one in a line.
+-- All reasons why settings cannot be written, one per line.
 local function reasonsOf(faults, unknown)
   table.sort(unknown, function(a, b) return a[1] < b[1] end)
   for k, fault in ipairs(unknown) do
@@ -211,7 +211,7 @@ local function seconds(time)
   return hour * 3600 + minute * 60 + second
 end
 
--- Writes an entry; gives the reason when it is not there afterwards.
+-- Writes an entry; returns the reason if the store does not have it afterwards.
 local function write(entry)
   local new, found, answer = entry.new, stored(entry, entry.line .. "=" .. entry.text)
   if found == new then return end
@@ -220,7 +220,7 @@ local function write(entry)
   return ("NOT STORED (reads %s)"):format(tostring(found))
 end
 
--- Writes the old values of the first entries again; names those that are not there then.
+-- Restores the old values of the first entries; names those that the store does not have afterwards.
 local function takeBack(entries, last)
   local lost = {}
   for k = last, 1, -1 do
@@ -233,7 +233,7 @@ local function takeBack(entries, last)
   return #lost > 0 and "; not taken back: " .. table.concat(lost, ", ") or ""
 end
 
--- Carries a plan out, all or none; nil and the reason when it fails.
+-- Executes a plan, all or none; nil and the reason when it fails.
 local function carryOut(entries, reasons)
   if not entries then return nil, reasons end
   for k = 1, #entries do entries[k].old = stored(entries[k]) end
@@ -286,7 +286,7 @@ local function run(line, level)
   if not answer then error(("%s: %s"):format(line, refusal), level + 1) end
 end
 
--- A write that fails is answered as done, so this looks whether the file holds the settings as they are now.
+-- A write that fails is answered as done, so this checks whether the file holds the settings as they are now.
 local function save(word, name)
   run(word, 3)
   local lost = files.lost(name)
@@ -373,7 +373,7 @@ function talux.parameter(name, language)
   return parameter
 end
 
--- How settings were answered that had their factory defaults.
+-- The answers of settings that had their factory defaults.
 local defaultAnswers = {}
 
 ---The settings whose value in the working copy is not the factory default, which is the old value.
@@ -405,8 +405,8 @@ end
 
 talux.now = require "talux.clock"
 
----Waits until a function gives something that is true: that, or nil when it has not by then. It is asked every
----20 ms, and at least once.
+---Waits until a function returns something that is true, and returns that; nil after the time. Calls it every 20 ms
+---and at least once.
 ---@param condition fun(): any
 ---@param seconds number
 ---@return any

@@ -53,19 +53,19 @@ struct Double {
 };
 
 // An array in its userdata. Only blocks that `create` made are taken for one.
-template <typename Kind>
+template <typename ArrayKind>
 class Array {
 public:
-    using Element = typename Kind::Element;
+    using Element = typename ArrayKind::Element;
 
-    // More elements no 32-bit device could address.
+    // No 32-bit device could address more elements.
     static constexpr std::uint32_t kMaxSize = (UINT32_MAX - sizeof(Header)) / sizeof(Element);
 
     static void create(lua_State* L, std::int32_t size) {
         const auto length = static_cast<std::size_t>(bytes(size));
         auto* const block = static_cast<Header*>(lua_newuserdata(L, length));
         std::memset(static_cast<void*>(block), 0, length);
-        *block = {size, Kind::kType};
+        *block = {size, ArrayKind::kType};
     }
 
     explicit Array(lua_State* L, int argument) {
@@ -73,7 +73,7 @@ public:
         auto* const block = static_cast<Header*>(lua_touserdata(L, argument));
         const std::size_t length = lua_rawlen(L, argument);
         if (block == nullptr || length < sizeof(Header)) return;
-        if (block->type == Kind::kType && length == bytes(block->size)) header = block;
+        if (block->type == ArrayKind::kType && length == bytes(block->size)) header = block;
     }
 
     explicit operator bool() const { return header != nullptr; }
@@ -90,43 +90,43 @@ private:
     }
 };
 
-template <typename Kind>
+template <typename ArrayKind>
 int newArray(lua_State* L) {
     const lua_Integer size = luaL_checkinteger(L, 1);
     // The number itself, since the integer wraps around where it has 32 bits.
     const lua_Number asked = lua_tonumberx(L, 1, nullptr);
-    if (size < 0 || !(asked > -1 && asked <= Array<Kind>::kMaxSize))
+    if (size < 0 || !(asked > -1 && asked <= Array<ArrayKind>::kMaxSize))
         return luaL_argerror(L, 1, "size out of range");
-    Array<Kind>::create(L, static_cast<std::int32_t>(size));
+    Array<ArrayKind>::create(L, static_cast<std::int32_t>(size));
     return 1;
 }
 
-template <typename Kind>
+template <typename ArrayKind>
 int getSize(lua_State* L) {
-    const Array<Kind> array(L, 1);
-    if (!array) return luaL_argerror(L, 1, Kind::kExpectedUnderscored);
+    const Array<ArrayKind> array(L, 1);
+    if (!array) return luaL_argerror(L, 1, ArrayKind::kExpectedUnderscored);
     lua_pushnumber(L, array.size());
     return 1;
 }
 
-template <typename Kind>
+template <typename ArrayKind>
 int getItem(lua_State* L) {
-    const Array<Kind> array(L, 1);
+    const Array<ArrayKind> array(L, 1);
     const lua_Integer index = luaL_checkinteger(L, 2);
-    if (!array) return luaL_argerror(L, 1, Kind::kExpected);
+    if (!array) return luaL_argerror(L, 1, ArrayKind::kExpected);
     if (!array.holds(index)) return luaL_argerror(L, 2, "index out of range");
     lua_pushnumber(L, static_cast<lua_Number>(array.values()[index]));
     return 1;
 }
 
-template <typename Kind>
+template <typename ArrayKind>
 int setItem(lua_State* L) {
-    const Array<Kind> array(L, 1);
+    const Array<ArrayKind> array(L, 1);
     const lua_Integer index = luaL_checkinteger(L, 2);
     const lua_Number value = luaL_checknumber(L, 3);
-    if (!array) return luaL_argerror(L, 1, Kind::kExpectedUnderscored);
+    if (!array) return luaL_argerror(L, 1, ArrayKind::kExpectedUnderscored);
     if (!array.holds(index)) return luaL_argerror(L, 2, "index out of range");
-    array.values()[index] = fromNumber<typename Kind::Element>(value);
+    array.values()[index] = fromNumber<typename ArrayKind::Element>(value);
     return 0;
 }
 
@@ -137,7 +137,7 @@ int refuse(const char* text) {
     return 0;
 }
 
-// Why no range of this parameter, or not this range, can be read; null when it can.
+// Why the parameter has no ranges to read, or not this one; null when it can be read.
 const char* rangeError(const stParamProperties& row, int first, int last) {
     if (row.val_access == kWriteOnly) return szWriteOnly[iLanguage];
     if (row.val_min_id == 0 && row.val_max_id == 0) return "<< NO ARRAY >>";
@@ -147,12 +147,12 @@ const char* rangeError(const stParamProperties& row, int first, int last) {
     return nullptr;
 }
 
-template <typename Kind>
+template <typename ArrayKind>
 int readRange(lua_State* L, int id, int count) {
-    const Array<Kind> array(L, 1);
+    const Array<ArrayKind> array(L, 1);
     if (!array) return refuse("<< WRONG DATA TYPE >>");
     if (count > array.size()) return refuse("<< ARRAYSIZE EXCEEDED >>");
-    if (count > 0) Kind::read(id, array.values(), static_cast<unsigned long>(count));
+    if (count > 0) ArrayKind::read(id, array.values(), static_cast<unsigned long>(count));
     lua_pushnumber(L, count);
     return 1;
 }
@@ -163,8 +163,8 @@ std::string_view textArgument(lua_State* L, int argument) {
     return {text != nullptr ? text : "", length};
 }
 
-// The characters of the prefix are not looked at. A text with a NUL inside names nothing.
-const stParamProperties* findBehindPrefix(std::string_view text) {
+// The characters of the prefix are not checked. A text with a NUL inside names nothing.
+const stParamProperties* findAfterPrefix(std::string_view text) {
     if (text.size() < kepl::kPrefixLength) return nullptr;
     for (const char c : text.substr(0, kepl::kPrefixLength))
         if (c == '\0') return nullptr;
@@ -185,7 +185,7 @@ int getArray(lua_State* L) {
     const int first = saturated32(lua_tonumberx(L, 3, nullptr));
     const int last = saturated32(lua_tonumberx(L, 4, nullptr));
 
-    const stParamProperties* const row = findBehindPrefix(text);
+    const stParamProperties* const row = findAfterPrefix(text);
     if (row == nullptr) return refuseName(text);
     if (const char* const error = rangeError(*row, first, last)) return refuse(error);
 
@@ -201,10 +201,10 @@ int getArray(lua_State* L) {
     }
 }
 
-template <typename Kind>
+template <typename ArrayKind>
 inline constexpr luaL_Reg kFunctions[] = {
-    {"new", newArray<Kind>},    {"setitem", setItem<Kind>}, {"get", getArray},
-    {"getitem", getItem<Kind>}, {"size", getSize<Kind>},    {nullptr, nullptr},
+    {"new", newArray<ArrayKind>},    {"setitem", setItem<ArrayKind>}, {"get", getArray},
+    {"getitem", getItem<ArrayKind>}, {"size", getSize<ArrayKind>},    {nullptr, nullptr},
 };
 
 } // namespace

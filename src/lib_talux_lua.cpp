@@ -13,7 +13,7 @@ namespace {
 
 // Bytes that a script's answer may take, its newline and NUL included.
 constexpr std::size_t kAnswerLimit = 1000;
-// Bytes of an error text asked for; the longest has fewer.
+// Bytes of the buffer for an error text; the longest text is shorter.
 constexpr int kErrorLimit = 254;
 
 constinit char newline[] = "\n";

@@ -8,9 +8,9 @@
 
 namespace talux {
 
-Address addressIn(const char* text) {
+AddressParts addressPartsIn(const char* text) {
     using Limits = std::numeric_limits<int>;
-    Address address;
+    AddressParts address;
     for (int& part : address.part) {
         text += std::strspn(text, ".");
         part =
@@ -20,7 +20,7 @@ Address addressIn(const char* text) {
     return address;
 }
 
-char* appendAddress(char* end, const Address& address) {
+char* appendAddress(char* end, const AddressParts& address) {
     for (const int& part : address.part) {
         if (&part != address.part) *end++ = '.';
         end = std::to_chars(end, end + 11, part).ptr;

@@ -6,19 +6,19 @@
 
 namespace talux {
 
-struct Address {
+struct AddressParts {
     int part[4] = {};
 };
 
 // The first four pieces between dots, runs of which count as one; a piece that is missing or no number is 0.
 // Numbers are clamped to 32 bits.
-Address addressIn(const char* text);
+AddressParts addressPartsIn(const char* text);
 
 // Characters of the longest text of an address: four 32-bit numbers and three dots.
 inline constexpr std::size_t kMaxAddressText = 4 * 11 + 3;
 
 // Writes "192.168.1.10" without a NUL to `end` and returns its end.
-char* appendAddress(char* end, const Address& address);
+char* appendAddress(char* end, const AddressParts& address);
 
 } // namespace talux
 

@@ -8,7 +8,7 @@
 
 namespace talux {
 
-// Whether an enumerator has this value: the compiler names it, and writes a cast when there is none.
+// Whether an enumerator has this value: the compiler then prints its name, otherwise a cast.
 template <auto value>
 consteval bool isEnumerator() {
     const std::string_view text = __PRETTY_FUNCTION__;
@@ -25,8 +25,8 @@ consteval std::size_t enumeratorsOf() {
         return count;
 }
 
-// For a static_assert: row k belongs to enumerator k, and no enumerator has no row. `member` says to which
-// one a row belongs.
+// For a static_assert: row k belongs to enumerator k, and each enumerator has a row. `member` is the member
+// of a row that holds its enumerator.
 template <auto member, class Row, std::size_t count>
 consteval bool hasRowForEach(const Row (&rows)[count]) {
     using Enum = std::remove_cvref_t<decltype(rows[0].*member)>;

@@ -32,7 +32,7 @@ unsigned roundedUp(std::uint64_t quotient, std::uint64_t rest, std::uint64_t hal
     return rest > half || (rest == half && quotient % 2 == 1) ? 1 : 0;
 }
 
-// fraction * 10^6 / 2^63 is fraction * 15625 / 2^57; the product has 77 bits, so it is made in two halves.
+// fraction * 10^6 / 2^63 is fraction * 15625 / 2^57; the product has 77 bits and is computed in halves.
 std::uint32_t millionths(std::uint64_t fraction) {
     constexpr std::uint64_t kLow32 = 0xFFFFFFFF, kLow25 = 0x1FFFFFF;
     const std::uint64_t low = (fraction & kLow32) * 15625;

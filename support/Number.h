@@ -13,7 +13,7 @@ namespace talux {
 template <typename Integer>
 constexpr Integer saturated(double value) {
     using Limits = std::numeric_limits<Integer>;
-    constexpr Integer kHalf = Limits::max() / 2 + 1; // of one more than the maximum, which a double can hold
+    constexpr Integer kHalf = Limits::max() / 2 + 1; // of the maximum plus 1, which a double can hold
     constexpr double kEnd = 2.0 * static_cast<double>(kHalf);
     if (value != value) return 0;
     if (value >= kEnd) return Limits::max();
@@ -37,7 +37,7 @@ constexpr Stored truncated(double value) {
         return saturated<Stored>(value);
 }
 
-// A float as a double and back. Processors differ in what becomes of a not-a-number (its sign, its quiet
+// A float as a double and back. Processors differ in how they convert a not-a-number (its sign, its quiet
 // bit); here all of its bits are copied both ways, so that a copy through a double is exact for every
 // pattern.
 constexpr double widened(float value) {

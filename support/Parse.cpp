@@ -75,7 +75,7 @@ bool parsePlain(std::string_view text, double* value) {
     const bool isNegative = next != end && *next == '-';
     std::int64_t digits = 0;
     int count = 0;
-    int whole = -1; // digits before the point, once it has come
+    int whole = -1; // digits before the point, once it is reached
     for (next += isNegative; next != end; ++next) {
         const unsigned digit = static_cast<unsigned char>(*next) - unsigned{'0'};
         if (digit <= 9 && count < kExactDigits) {

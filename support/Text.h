@@ -16,8 +16,8 @@ void copyText(char (&dest)[N], std::string_view text) {
     copyText(dest, N, text);
 }
 
-// What follows the first `length` characters, which are there. substr() would ask for the C++ library, which
-// throws where they are not.
+// What follows the first `length` characters, which must exist. substr() would need the C++ library, which
+// throws if they do not.
 constexpr std::string_view after(std::string_view text, std::size_t length) {
     text.remove_prefix(length);
     return text;

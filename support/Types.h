@@ -1,8 +1,8 @@
-/* The types and marks that every public header of the library shares. Usable from C and C++. */
+/* The types and macros that every public header of the library shares. Usable from C and C++. */
 #ifndef TALUX_SUPPORT_TYPES_H
 #define TALUX_SUPPORT_TYPES_H
 
-/* Marks what the shared object exports; everything without it stays inside. */
+/* Marks what the shared object exports; everything else stays hidden. */
 #define TALUX_API __attribute__((visibility("default")))
 
 /*

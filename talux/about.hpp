@@ -1,5 +1,5 @@
 // What the dictionary knows of parameters, for programs that show or search them: with a handle, an id or a
-// name that comes at run time. Programs that do not include this hold none of it.
+// name that is known at run time. Programs that do not include this contain none of it.
 //
 //   for (const talux::About parameter : talux::parameters()) list(parameter.name(), parameter.title());
 //   std::printf("%g to %g", talux::About(threshold).min(), talux::About(threshold).max());

@@ -1,4 +1,4 @@
-// Time that passes, whatever somebody sets the clock to.
+// Elapsed time, whatever the clock is set to.
 #ifndef TALUX_CLOCK_HPP
 #define TALUX_CLOCK_HPP
 

@@ -105,8 +105,8 @@ inline void forgetWrites(GroupSlot& slot) {
 
 } // namespace detail::fake
 
-// Begins with a store of which nothing is known but the factory defaults, and with groups that nobody has
-// written; one at a time.
+// Begins with a store that has the factory defaults and zeros, and with groups that nobody has written; one
+// at a time.
 class Fake {
 public:
     Fake() {

@@ -80,7 +80,7 @@ inline constexpr auto kSettings = [] {
     return all;
 }();
 
-// The same, settings that touch as one piece: what a comparison has to look at.
+// The same, adjacent settings as one piece: what a comparison reads.
 inline constexpr auto kSettingPieces = [] {
     struct Pieces {
         std::array<SettingBytes, kSettings.size()> all{};
@@ -267,7 +267,7 @@ private:
     std::int64_t since = 0; // when `seen` was seen first
     Settings current, previous, seen;
 
-    // Whether the look before this one has found the same, and that is no half commit.
+    // Whether the look before this one found the same, and that cannot be half a commit.
     bool isSettled() {
         if (isWatching && seen.isLive()) return seen.isStaged() || detail::monotonic() - since >= kQuiet;
         seen = Settings();

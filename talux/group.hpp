@@ -8,7 +8,7 @@
 // The values stay where they are, in the store, so that every other program finds them there. The counters of
 // group_slot.hpp beside it say which of them belong together. Both sides make the group with the same name
 // and the same elements in the same order. A program that writes the values without the group, or in another
-// group, is not noticed.
+// group, goes unnoticed.
 #ifndef TALUX_GROUP_HPP
 #define TALUX_GROUP_HPP
 

@@ -129,7 +129,7 @@ public:
     template <class Store>
     bool write(Store store) const {
         if (slot == nullptr || !enter(index())) return false;
-        const std::uint32_t odd = (load(__ATOMIC_RELAXED) + 1) | 1U; // another one than a dead writer left
+        const std::uint32_t odd = (load(__ATOMIC_RELAXED) + 1) | 1U; // not the one that a dead writer left
         __atomic_store_n(&slot->sequence, odd, __ATOMIC_RELAXED);
         __atomic_thread_fence(__ATOMIC_RELEASE); // no value before the counter is odd
         store();
@@ -274,7 +274,7 @@ private:
         return name == std::string_view(each->name, strnlen(each->name, sizeof each->name));
     }
 
-    // The group's own slot, else one that never was taken, else one that no program uses any more.
+    // The group's own slot, else one that was never used, else one that no program uses any more.
     void claim(std::string_view name) {
         GroupSlot* free = nullptr;
         for (GroupSlot* each = slots; each != slots + kGroupSlots; ++each) {

@@ -121,7 +121,7 @@ constexpr double meant(double value, const rules::Facts& facts) {
     return value;
 }
 
-// Whether a setting of this type takes what is given without a change of its own.
+// Whether a setting of this type takes what is given without changing it.
 template <class Value, class Given>
 [[gnu::always_inline]] constexpr Result check(Given given, const rules::Facts& facts) {
     double number = 0;
@@ -143,7 +143,7 @@ template <class Value, class Given>
     return {rules::check(facts, number), facts};
 }
 
-// Copies a text that nothing speaks against.
+// Copies a text unless something speaks against it.
 template <class Value>
 Result copyText(std::string_view from, const rules::Facts& facts, Value& to) {
     const rules::Objection objection = rules::check(facts, from);
@@ -162,7 +162,7 @@ constexpr int capacityOf() {
 
 } // namespace detail
 
-// A number of measured values that follow one another, as one.
+// Consecutive measured values as one.
 template <class Element, std::size_t count>
 class Run {
 public:
@@ -273,10 +273,10 @@ private:
 };
 
 // A setting: staged in the working copy, live with the commit of the store.
-template <class Kept>
+template <class Stored>
 class Setting {
 public:
-    using Value = Kept;
+    using Value = Stored;
 
     consteval Setting(const char* parameterName)
         : Setting(table::resolve<Value>(parameterName, table::Use::setting)) {}
@@ -318,7 +318,7 @@ public:
         return static_cast<Value>(value);
     }
 
-    // What stage() would answer.
+    // What stage() would return.
     template <class Given>
     [[nodiscard, gnu::always_inline]] constexpr Result check(Given value) const
         requires(!detail::kIsText<Value>) {

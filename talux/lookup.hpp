@@ -14,8 +14,8 @@
 
 namespace talux::table {
 
-// What cannot be read while compiling. Of a member of a union that has no value compilers say the name, in an
-// error at the line of the program; of a function that cannot be called they say where it would have been.
+// What cannot be read while compiling. For a union's member without a value compilers print its name, in an
+// error at the line of the program; for a function that cannot be called they print the line of the call.
 union Mistakes {
     char nothing;
     char no_parameter_has_this_name;
@@ -42,7 +42,7 @@ union Mistakes {
 };
 inline constexpr Mistakes mistake{.nothing = 1};
 
-// That no parameter has a name, with the nearest one if any.
+// Stops because no parameter has this name; shows the nearest one if any.
 constexpr void stopAtName(std::string_view wrong) {
     const std::size_t row = nearest(wrong);
     stopAtNearest(row);

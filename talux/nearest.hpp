@@ -12,7 +12,7 @@ namespace talux::table {
 
 inline constexpr std::size_t kNoRow = std::size(kRows);
 
-// A name in lower case. Calls would be steps, of which a compiler makes a million for a constant.
+// A name in lower case, without calls: a compiler limits the steps of a constant to a million.
 struct LowerCase {
     static constexpr std::size_t kLongest = 48;
     char letters[kLongest] = {};

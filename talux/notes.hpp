@@ -1,5 +1,5 @@
 // Notes of parameters, as the pages of the parameters show them, in both languages. Programs that do not
-// include this hold none of them.
+// include this contain none of them.
 //
 //   for (const talux::Note note : talux::notes(threshold))
 //       if (note.kind() == talux::NoteKind::warning) warn(note.text(kEnglish));
@@ -67,7 +67,7 @@ private:
     const table::NoteOf* last = nullptr;
 };
 
-template <class Known> // a handle, an id, a name that comes at run time, or what is known already
+template <class Known> // a handle, an id, a name that is known at run time, or an About
 Notes notes(const Known& known) {
     return Notes(About(known));
 }

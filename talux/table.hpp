@@ -26,7 +26,7 @@ enum class Kind : unsigned char {
 enum class Use : unsigned char {
     measured, // a run-time value: written live by whoever measures it
     setting,  // staged in the working copy, live with the commit
-    status,   // stored like a setting, but nobody changes it
+    status,   // stored like a setting, but not to be changed
 };
 
 struct Row {

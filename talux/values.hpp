@@ -62,8 +62,8 @@ public:
     constexpr Result() = default;
     constexpr Result(Reason why, double min = 0.0, double max = 0.0) : cause(why), low(min), high(max) {}
     constexpr Result(const rules::Objection& objection, const rules::Facts& facts)
-        : cause(objection.reason), low(facts.least()),
-          high(detail::isRange(cause) ? facts.most() : objection.limit), given(objection.found) {}
+        : cause(objection.reason), low(facts.lowest()),
+          high(detail::isRange(cause) ? facts.highest() : objection.limit), given(objection.found) {}
 
     constexpr explicit operator bool() const { return cause == Reason::none; }
     [[nodiscard]] constexpr Reason reason() const {
@@ -94,7 +94,7 @@ private:
 
 namespace detail {
 
-// Puts words and numbers one after the other; numbers with three decimals at most, and a point in every
+// Appends words and numbers; numbers with three decimals at most, and a point in every
 // locale. Those beyond 1e12 have no digits here.
 class Writer {
 public:
@@ -139,7 +139,7 @@ constexpr std::string_view wordsOf(Reason reason) {
     case Reason::readOnly:
         return "VARIABLE IS READ ONLY";
     case Reason::noValue:
-        return "NO VALUE IS KEPT";
+        return "HAS NO VALUE";
     case Reason::noNumber:
     case Reason::notANumber:
         return "NOT A NUMBER";

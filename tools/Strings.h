@@ -55,7 +55,7 @@ inline std::optional<long> wholeNumber(std::string_view text) {
     return numberOf<long>(text);
 }
 
-// The characters of `special` with a backslash in front.
+// The text with a backslash before each character of `special`.
 inline std::string escaped(std::string_view text, std::string_view special) {
     std::string plain;
     for (const char c : text) {

@@ -1,4 +1,4 @@
-// Files that the build writes: a reader, and whoever looks after a failure, finds the old one or the new one.
+// Files that the build writes: a reader, also after a failure, finds the old one or the new one.
 #ifndef TALUX_TOOLS_WHOLEFILE_H
 #define TALUX_TOOLS_WHOLEFILE_H
 

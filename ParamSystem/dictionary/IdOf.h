@@ -15,7 +15,7 @@ struct NamedId {
 
 #include "ParamSystem/dictionary/NamedIds.inc" // made by tools/generator: kNamedIds, sorted by name
 
-// Not defined: what the compiler shows for a name that is none.
+// Not defined: the compiler reports it for an unknown name.
 int noParameterHasThisName();
 
 // The id of a parameter, of the first element of an indexed one.

@@ -19,7 +19,7 @@ struct IdBlock {
 inline constexpr IdBlock kTemplateIds{18000, 100};
 inline constexpr IdBlock kCommandIds{19000, 100};
 
-// The most wanted first; the ints lie inside the block of the longs.
+// The most frequent first; the ints lie inside the block of the longs.
 inline constexpr IdBlock kIdBlocks[] = {
     {kFirstLong, kLongCount},
     {kFirstFloat, kFloatCount},
@@ -34,25 +34,25 @@ inline constexpr IdBlock kIdBlocks[] = {
     kTemplateIds,
     kCommandIds,
     {kFirstStruct, kStructCount},
-    // under which the texts of the interfaces lie: addresses, masks, gateways
+    // of the texts of the interfaces: addresses, masks, gateways
     {20000, 3},
     {21000, 3},
     {22000, 3},
 };
 
-inline constexpr int kNoPlace = -1;
+inline constexpr int kNoIndex = -1;
 
-// Place of an id in the row of all blocks.
-constexpr int placeOf(int id) {
-    int place = 0;
+// Index of an id when the blocks follow one another without gaps.
+constexpr int denseIndexOf(int id) {
+    int start = 0;
     for (const IdBlock& block : kIdBlocks) {
-        if (block.holds(id)) return place + id - block.first;
-        place += block.count;
+        if (block.holds(id)) return start + id - block.first;
+        start += block.count;
     }
-    return kNoPlace;
+    return kNoIndex;
 }
 
-inline constexpr std::size_t kIdPlaces = [] {
+inline constexpr std::size_t kDenseIndexCount = [] {
     std::size_t count = 0;
     for (const IdBlock& block : kIdBlocks)
         count += static_cast<std::size_t>(block.count);

@@ -1,4 +1,4 @@
-// Look-ups of parameters by a name that lies within another text, and a walk over all of them.
+// Look-ups of parameters by a name that is part of another text, and a walk over all of them.
 #ifndef TALUX_DICTIONARY_LOOKUP_H
 #define TALUX_DICTIONARY_LOOKUP_H
 

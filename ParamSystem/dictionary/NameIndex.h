@@ -12,7 +12,7 @@
 namespace talux {
 
 // Four characters at a time, of which the last may overlap those before. A letter and its capital differ in
-// one bit; what else differs in it alone need not have a hash of its own.
+// one bit; other characters that differ in it alone may share a hash.
 constexpr std::uint32_t hashIgnoringCase(std::string_view name) {
     constexpr std::uint32_t kCaseBits = 0x20202020;
     constexpr std::uint32_t kFactor = 0x9E3779B1;
@@ -33,26 +33,26 @@ constexpr std::uint32_t hashIgnoringCase(std::string_view name) {
 }
 
 // A hash table of table positions, filled by the generator. Position 0 is a sentinel and means "not
-// there"; nameAt(position) is the name at a position.
+// found"; nameAt(position) is the name at a position.
 struct NameIndex {
-    const std::uint16_t* slots;
-    std::size_t mask; // number of slots, a power of two, less one
+    const std::uint16_t* buckets;
+    std::size_t mask; // number of buckets, a power of two, less one
 
     // At least half of them stay empty.
-    static constexpr std::size_t slotCount(std::size_t names) { return std::bit_ceil(2 * names); }
+    static constexpr std::size_t bucketCount(std::size_t names) { return std::bit_ceil(2 * names); }
 
     template <class NameAt>
     std::size_t find(std::string_view name, NameAt nameAt) const {
-        return slots[slotOf(name, nameAt)];
+        return buckets[bucketOf(name, nameAt)];
     }
 
-    // The slot of a name, an empty one where it is not there.
+    // The bucket of a name, an empty one if it is not found.
     template <class NameAt>
-    std::size_t slotOf(std::string_view name, NameAt nameAt) const {
-        std::size_t slot = hashIgnoringCase(name) & mask;
-        while (slots[slot] != 0 && !isName(name, nameAt(slots[slot])))
-            slot = (slot + 1) & mask;
-        return slot;
+    std::size_t bucketOf(std::string_view name, NameAt nameAt) const {
+        std::size_t bucket = hashIgnoringCase(name) & mask;
+        while (buckets[bucket] != 0 && !isName(name, nameAt(buckets[bucket])))
+            bucket = (bucket + 1) & mask;
+        return bucket;
     }
 
 private:

@@ -1,5 +1,5 @@
-// The working table of properties and its look-ups. What the generator knows of the compiled-in rows is where
-// a look-up begins: a row that a program has changed since, or added, is found by walking the table.
+// The working table of properties and its look-ups. A look-up begins with the generated
+// index of the compiled-in rows; a row that a program has changed or added is found by a scan.
 #include <algorithm>
 
 #include "ParamSystem/dictionary/Lookup.h"
@@ -15,7 +15,7 @@ void checkId(int id, const char* function) {
     assertThat(id >= 0, "id>=0", "ParamSystem/TALUX_Params", function);
 }
 
-// A program may have left the name of its row out.
+// A program may have added a row without a name.
 std::string_view nameOf(const stParamProperties& row) {
     return row.name != nullptr ? row.name : "";
 }
@@ -73,8 +73,8 @@ int LoadParamProperties(char*) {
 const stParamProperties* GetParamProperties(int id) {
     checkId(id, "const stParamProperties* GetParamProperties(int)");
     if (id == 0 || !areParametersLoaded()) return nullptr;
-    const int place = placeOf(id);
-    const int position = place == kNoPlace ? 0 : kIdPositions[place];
+    const int index = denseIndexOf(id);
+    const int position = index == kNoIndex ? 0 : kIdPositions[index];
     if (ParamProperties[position].id == id) return &ParamProperties[position];
     return scan([id](const auto& row) { return row.id == id; });
 }

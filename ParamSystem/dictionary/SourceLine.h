@@ -4,7 +4,7 @@
 
 namespace talux {
 
-// What std::source_location is, for clang-tidy too, which does not have that yet.
+// Like std::source_location, which clang-tidy does not have yet.
 struct SourceLine {
     const char* file = "";
     unsigned number = 0; // 0: no line

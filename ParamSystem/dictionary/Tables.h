@@ -1,4 +1,4 @@
-// The tables that tools/generator makes of the rows of parameters, besides those of the public headers.
+// The tables that tools/generator makes from the rows of parameters, besides those of the public headers.
 #ifndef TALUX_DICTIONARY_TABLES_H
 #define TALUX_DICTIONARY_TABLES_H
 
@@ -15,7 +15,8 @@ extern const std::span<const stParamFamily> kFamilies;
 extern const NameIndex kNameIndex;
 extern const NameIndex kSymbolIndex;
 extern const NameIndex kTextSymbolIndex;
-extern const std::uint16_t kIdPositions[kIdPlaces]; // of the first row with the id; 0 where there is none
+// Of the first row with an id; 0 where there is none.
+extern const std::uint16_t kIdPositions[kDenseIndexCount];
 
 } // namespace talux
 

@@ -1,5 +1,5 @@
 // The types of parameters and of values on the stack of the command language: where their values are stored,
-// how they travel and how they are printed. Store, files, language and pages ask this table.
+// how they are passed and how they are printed. Store, files, language and pages use this table.
 #ifndef TALUX_DICTIONARY_TYPES_H
 #define TALUX_DICTIONARY_TYPES_H
 
@@ -47,7 +47,7 @@ enum class Nature {
 // How a number lies in memory, little-endian, where its bytes are shown.
 enum class Width { none, u8, i16, i32, i64, f32, f64 };
 
-// Type codes that only values on the stack carry.
+// Type codes that only values on the stack have.
 inline constexpr int kTagInt32 = 2005, kTagInt64 = 2006, kTagUint64 = 2007, kTagByte = 2009;
 
 struct Type {
@@ -92,7 +92,7 @@ namespace types {
 inline constexpr int kFirstCode = kTypeDouble;
 inline constexpr int kCodeCount = kTypeCommand - kFirstCode + 1;
 
-// Place in kTypes by code; 0, the row of what has no value, for codes that are none.
+// Index in kTypes by code; 0, the row of what has no value, for unknown codes.
 inline constexpr auto kPlaces = [] {
     std::array<std::uint8_t, kCodeCount> places{};
     for (std::size_t k = 1; k < std::size(kTypes); ++k)
@@ -124,7 +124,7 @@ constexpr int memberType(std::string_view name) {
     return kTypeNone;
 }
 
-// Whether values of this nature travel as text rather than as a double.
+// Whether values of this nature are passed as text rather than as a double.
 constexpr bool isText(Nature nature) {
     return nature == Nature::text || nature == Nature::address || nature == Nature::date ||
            nature == Nature::time;

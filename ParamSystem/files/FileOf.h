@@ -1,4 +1,4 @@
-// Which of the parameter files has a parameter: addresses are in ip_config.ini, other settings of userlevel 3
+// Which parameter file a parameter belongs to: addresses are in ip_config.ini, other settings of userlevel 3
 // in sec_parameter.ini, the rest in parameter.ini.
 #ifndef TALUX_FILES_FILEOF_H
 #define TALUX_FILES_FILEOF_H

@@ -20,7 +20,7 @@ char* append(char* end, std::string_view text) {
     return end + text.size();
 }
 
-// A text ends before its first line end, so that it never becomes lines of its own.
+// A text ends before its first line end, so that it never adds a line.
 char* appendText(char* end, std::string_view text) {
     return append(end, text.substr(0, text.find_first_of("\r\n")));
 }
@@ -34,7 +34,7 @@ char* appendNumber(char* end, const Type& type, double number) {
 char* appendValue(char* end, const Type& type, const Value& value) {
     if (!value.isText()) return appendNumber(end, type, value.number());
     *end++ = '"';
-    end = type.nature == Nature::address ? appendAddress(end, addressIn(value.text()))
+    end = type.nature == Nature::address ? appendAddress(end, addressPartsIn(value.text()))
                                          : appendText(end, value.text());
     *end++ = '"';
     return end;

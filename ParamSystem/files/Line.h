@@ -8,7 +8,7 @@
 //             | '"' n "." n "." n "." n '"'  addresses, without leading zeros
 //             | '"' date '"' | '"' time '"'  of the system clock, see files/ClockText.h
 //
-// A load does not bring these back: digits after the sixth decimal, a text after a double quote or "=",
+// A load does not restore these: digits after the sixth decimal, a text after a double quote or "=",
 // not-a-number in an integer, date and time. files/Reader.h has the grammar of the reader, which accepts
 // more.
 #ifndef TALUX_FILES_LINE_H

@@ -22,7 +22,7 @@ std::string_view without(std::string_view text, Is leading) {
     return text;
 }
 
-// Removes the part before the first text that ends it and returns it.
+// Removes and returns the part before the first character at which `ends` is true.
 template <class Ends>
 std::string_view take(std::string_view& text, Ends ends) {
     const std::string_view whole = text;
@@ -102,8 +102,8 @@ Reader::~Reader() {
     if (descriptor >= 0) os::closeFile(descriptor);
 }
 
-// More of the file after what is not yet returned. False at the end, which remains the end, and after an
-// error.
+// Reads more of the file after what has not been returned yet. False at the end, from then on always, and
+// after an error.
 bool Reader::fill() {
     if (atEnd) return false;
     end -= start;
@@ -118,8 +118,8 @@ bool Reader::fill() {
     return true;
 }
 
-// Including the line feed, but not more than kMaxRead characters. Empty at the end. Of a longer line the next
-// character is in the block as well.
+// The next line with its line feed, at most kMaxRead characters; empty at the end. If the line is longer, its
+// next character is in the block as well.
 std::string_view Reader::takeLine() {
     static_assert(sizeof block > kMaxRead);
     for (;;) {

@@ -269,7 +269,7 @@ std::optional<Error> replaceWhole(const char* path, std::string_view contents, c
     return Error{};
 }
 
-// Over the old contents. What is longer than these comes first, so that a full disk leaves them as they are.
+// Overwrites the old contents. What exceeds their length is written first, so a full disk leaves them intact.
 Error writeOver(int file, std::string_view contents, off_t oldSize) {
     const std::size_t shared = std::min(contents.size(), static_cast<std::size_t>(oldSize));
     if (!os::writeFile(file, after(contents, shared), oldSize)) {

@@ -30,28 +30,25 @@ void report(const char* filename, const Error& error) {
     error.print();
 }
 
-// The value of the global space; of date and time that of the clock. Nothing for a parameter without a slot.
+// The value in the global space; of date and time that of the clock. Nothing for a parameter without a slot.
 std::optional<Value> savedValue(const stParamProperties& row, const std::tm& now) {
     const talux::Nature nature = talux::typeOf(row).nature;
     if (talux::showsClock(nature)) return talux::clockText(nature, now);
     return talux::readValue(talux::Space::global, row.id);
 }
 
-// The longest file that any values make, and one line more.
-using Contents = char[32768];
-
 // The contents of a file at this moment, as a save writes them.
-class Draft {
+class Contents {
 public:
-    explicit Draft(ParameterFile which) {
+    explicit Contents(ParameterFile which) {
         std::tm now;
         talux::os::localTime(now);
         for (const stParamProperties& row : talux::parameterRows()) {
             if (talux::fileOf(row) != which) continue;
-            fits = fits && sizeof contents - length >= talux::kLineSize;
+            fits = fits && sizeof bytes - length >= talux::kLineSize;
             if (!fits) return;
             if (const auto value = savedValue(row, now))
-                length += talux::formatLine(contents + length, row, *value);
+                length += talux::formatLine(bytes + length, row, *value);
         }
     }
 
@@ -61,14 +58,14 @@ public:
             std::fprintf(stderr, "Error (TALUX_Var): no parameters loaded, '%s' stays as it is \n", filename);
             return {Stage::open, "", EINVAL, true};
         }
-        const Error error = fits ? talux::replaceFile(filename, {contents, length}, rights)
+        const Error error = fits ? talux::replaceFile(filename, {bytes, length}, rights)
                                  : Error{Stage::use, "write", EFBIG, true};
         if (error) report(filename, error);
         return error;
     }
 
 private:
-    Contents contents;
+    char bytes[32768]; // the longest file that any values make, and one line more
     std::size_t length = 0;
     bool fits = true;
 };
@@ -87,9 +84,9 @@ struct Saved {
 
 Saved saveWithCopy(ParameterFile file) {
     const auto& row = talux::rowOf(talux::kParameterFiles, file);
-    const Draft draft(file);
-    Saved saved{draft.writeTo(Path(file).get(), row.rights), {}};
-    if (saved.isThere()) saved.copy = draft.writeTo(Path::dated(row.stem).get(), row.rights);
+    const Contents contents(file);
+    Saved saved{contents.writeTo(Path(file).get(), row.rights), {}};
+    if (saved.isThere()) saved.copy = contents.writeTo(Path::dated(row.stem).get(), row.rights);
     return saved;
 }
 
@@ -102,7 +99,7 @@ Saved commitAndSave(ParameterFile file) {
 }
 
 Error saveAs(const char* filename, ParameterFile file) {
-    return Draft(file).writeTo(filename, talux::rowOf(talux::kParameterFiles, file).rights);
+    return Contents(file).writeTo(filename, talux::rowOf(talux::kParameterFiles, file).rights);
 }
 
 Error commitAndSaveAddresses(const char* filename) {

@@ -18,7 +18,7 @@ public:
     // Starts with the empty text. The buffer is the caller's and must outlive the object.
     explicit Answer(char* buffer) : text(buffer) { *text = '\0'; }
 
-    // Appends the pieces as one line. A line that does not fit leaves no part of itself: result false.
+    // Appends the pieces as one line; false, and nothing is appended, if the line does not fit.
     bool append(std::initializer_list<std::string_view> pieces);
 
 private:

@@ -31,7 +31,7 @@ bool clockSetTo(const VarLong (&numbers)[3], Nature half, std::time_t& seconds) 
         time.tm_min = numbers[1];
         time.tm_sec = numbers[2];
     }
-    time.tm_isdst = -1; // found anew, so that the time of day stays
+    time.tm_isdst = -1; // determined again, so that the time of day stays
     seconds = std::mktime(&time);
     return seconds != std::time_t{-1};
 }

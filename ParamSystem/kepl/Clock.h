@@ -9,9 +9,9 @@
 namespace talux::kepl {
 
 /*
- * The moment that the local clock shows after its date (Nature::date: year, month, day) or its time of day
- * (Nature::time: hour, minute, second) is set; the other half stays as it is now. False when the clock has no
- * such moment.
+ * The moment at which the local clock shows this date (Nature::date: year, month, day) or this time of day
+ * (Nature::time: hour, minute, second), the other half as it is now. False when the clock has no such
+ * moment.
  */
 bool clockSetTo(const VarLong (&numbers)[3], Nature half, std::time_t& seconds);
 

@@ -29,7 +29,7 @@ struct CommandRow {
     std::string_view word; // a term that begins with it is the command; letter case does not count
     int lowestUid;         // rights that it takes
     bool takesFile;        // from the parameter directory, instead of the usual one
-    bool isLogged;         // leaves a trace in the system log, whatever came of it
+    bool isLogged;         // appears in the system log, whatever its result
     int (*carryOut)();     // without a file; null for the shell, which looks at the rights itself
     const char* success;   // the answers
     const char* failure;

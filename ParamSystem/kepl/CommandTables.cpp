@@ -1,4 +1,4 @@
-// Command lines known to the device's other programs. Data only: the shell terms do not ask them.
+// Command lines known to the device's other programs. Data only: shell terms do not use them.
 #include "ParamSystem/KEPL_Interpreter.h"
 
 const char* const allowedEasyCommands[45] = {

@@ -10,8 +10,8 @@ namespace {
 
 constexpr int kWholeFile = 0;
 
-// Loads a file of the parameter directory. A path that is too long loads nothing: cut, it would be another
-// file.
+// Loads a file of the parameter directory. A path that is too long loads nothing: cut, it would name
+// another file.
 int loadNamed(const char* iniPath, std::string_view name) {
     char szFileName[255];
     const int length = formatText(szFileName, sizeof szFileName, "%s/%.*s", iniPath,

@@ -14,7 +14,7 @@ bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
 
-// Below full rights the version files of the device may be shown. This keeps mistakes out, not intent: any
+// Below full rights the version files of the device may be shown. This prevents mistakes, not abuse: any
 // command with both words in it passes.
 bool mayRun(std::string_view term, int uid) {
     return uid >= kShellLevel || (contains(term, "cat") && contains(term, ".version"));
@@ -66,7 +66,7 @@ const OperationRow* operationOf(std::string_view term) {
 } // namespace
 
 Action decideOther(std::string_view term, int uid, int board) {
-    if (beginsWithDigit(term)) return decideNumber(term); // as no word does
+    if (beginsWithDigit(term)) return decideNumber(term); // no word does
     if (const OperationRow* const operation = operationOf(term)) return Compute{operation->operation};
     if (const CommandRow* const command = commandOf(term)) return decideCommand(term, uid, board, *command);
     return decideNumber(term);

@@ -1,6 +1,6 @@
 // What a term of the command language would do, or why it is refused. This is found out from the term, the
 // dictionary, the caller's rights and the board alone: nothing is read from the store, written, run or
-// logged. The interpreter carries decisions out (Execution.h); tools look at them.
+// logged. The interpreter executes decisions (Execution.h); tools look at them.
 #ifndef TALUX_KEPL_DECISION_H
 #define TALUX_KEPL_DECISION_H
 
@@ -41,7 +41,7 @@ static_assert(hasRowForEach<&StyleRow::style>(kStyles), "each enumerator has its
 // The parts of a variable term, NAME [INDEX[.INDEX]] [OPTION] [= VALUE]. The texts are parts of the term.
 struct VariableTerm {
     std::string_view text;                      // all of it
-    std::string_view name = "???";              // stays when there is none
+    std::string_view name = "???";              // if there is none
     std::optional<std::string_view> value = {}; // what follows "=", without leading blanks; none: a read
     Style style = Style::plain;
     int indices = 0; // how many were given, 0 to 2
@@ -59,7 +59,7 @@ struct Refused {
 // A number or a text, or nothing for commands, which have no value.
 struct ReadScalar {};
 struct ReadElements {
-    int id; // of the first; the parts of the term say how many, and how they are answered
+    int id; // of the first; number and style are in the parts of the term
 };
 struct ReadRecord {};
 struct WriteNumber {
@@ -82,12 +82,12 @@ struct VariableDecision {
 
     VariableTerm term;
     const stParamProperties* row; // of the parameter's first element; null: refused, no such name
-    bool isNoted = false;         // in the system log as touching security, also when it is refused
+    bool isNoted = false;         // to be logged as an access to security parameters, even if refused
     std::variant<Refused, ReadScalar, ReadElements, ReadRecord, WriteNumber, WriteText, SetClock> action;
 
-    template <class Kind>
-    const Kind* get() const { // null: it is another one
-        return std::get_if<Kind>(&action);
+    template <class Alternative>
+    const Alternative* get() const { // null: it is another action
+        return std::get_if<Alternative>(&action);
     }
     bool isRefused() const { return get<Refused>() != nullptr; }
 };
@@ -107,7 +107,7 @@ struct RunCommand {
     std::string_view file; // empty: the usual one
 };
 struct RunShell {
-    std::string_view command; // empty: it is asked for
+    std::string_view command; // empty: the answer asks for one
     bool isForbidden;         // the board's process ends instead
 };
 
@@ -118,9 +118,9 @@ struct Decision {
     std::string_view term;
     Action action;
 
-    template <class Kind>
-    const Kind* get() const {
-        return std::get_if<Kind>(&action);
+    template <class Alternative>
+    const Alternative* get() const {
+        return std::get_if<Alternative>(&action);
     }
     bool isRefused() const {
         if (const auto* const variable = get<VariableDecision>()) return variable->isRefused();
@@ -128,9 +128,9 @@ struct Decision {
     }
 };
 
-// The next term of a line, false when none is left. Commas separate terms. Of each the first
-// kKeplMaxTerm characters count, without the blanks that lead them, so a term may be empty. `rest` is left
-// with what follows the term; what is cut off lies between the two.
+// The next term of a line; false when there is none. Commas separate terms. A term is cut after kKeplMaxTerm
+// characters, then loses its leading blanks, so it may be empty. `rest` becomes the line from the next
+// comma on; what was cut is not part of it.
 inline bool takeTerm(std::string_view& rest, std::string_view& term) {
     const std::string_view piece = takeWord(rest, ',');
     term = withoutLeading(piece.substr(0, kKeplMaxTerm), ' ');
@@ -150,8 +150,8 @@ inline bool hasPrefix(std::string_view term) {
 Action decideOther(std::string_view term, int uid, int board);
 
 /*
- * Decides about a term as takeTerm() gives it. `uid`: rights, 0 to 3. What depends on values remains to be
- * seen when the decision is carried out: too few values on the stack or too many, a division by zero, the
+ * Decides about a term that takeTerm() returned. `uid`: rights, 0 to 3. What depends on values is found out
+ * when the decision is executed: too few values on the stack or too many, a division by zero, the
  * root of a negative number, an answer that is too long, a moment that the clock does not have, a file that
  * cannot be opened.
  */
@@ -162,10 +162,10 @@ inline Decision decide(std::string_view term, int uid, int board = kOtherBoard) 
 
 // ---- For completion and help ---------------------------------------------------------------------------
 
-// The one parameter that those may write who may read it: it asks for the snapshot of the measured values.
+// The only parameter that everybody who may read it may write: it requests a snapshot of the measured values.
 inline constexpr std::string_view kOpenToReaders = "mw_req";
 
-// Rights that reading any parameter takes, writing one (or more, see userlevel), running any shell command.
+// Rights needed to read a parameter, to write one (or more, see userlevel), to run any shell command.
 inline constexpr int kReadLevel = 1, kWriteLevel = 2, kShellLevel = 3;
 
 } // namespace talux::kepl

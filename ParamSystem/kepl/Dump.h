@@ -14,7 +14,7 @@ struct DumpItem {
     std::string_view label;     // member or index
     std::string_view text;
     std::string_view bytes;
-    bool isFirst; // no ";" in front
+    bool isFirst; // without ";" before it
 };
 
 // False when the answer is full.

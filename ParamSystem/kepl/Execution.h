@@ -1,4 +1,4 @@
-// Carrying decisions out: the one part of the language that touches store, files and system.
+// Executes decisions: the only part of the language that accesses store, files and system.
 #ifndef TALUX_KEPL_EXECUTION_H
 #define TALUX_KEPL_EXECUTION_H
 
@@ -6,11 +6,11 @@
 
 namespace talux::kepl {
 
-// What a term makes of the answer of its line; a later one may change it.
+// What the answer of a line is after a term; a later term may change it.
 enum class Output : unsigned char {
-    keep,       // what it was
+    keep,       // as before
     topOfStack, // the top of the stack at the end of the line
-    text,       // the text that the term has left
+    text,       // the text of the term
     terminator, // alone
     empty,
 };
@@ -21,7 +21,7 @@ struct TypedNumber {
     int type = kTypeNone;
 };
 
-// What carrying a term out came to.
+// The result of executing a term.
 struct TermResult {
     Refusal refusal = Refusal::none;
     Output output = Output::keep;
@@ -49,18 +49,18 @@ struct ValueStack {
     }
 };
 
-// Leaves in the system log that a term touches security.
+// Logs that a term accesses a security parameter.
 void logNoted(std::string_view term);
 
-// The same for a term that the caller has no rights to, which is the refusal.
+// Logs that the caller lacks the rights for a term, and returns that refusal.
 TermResult refusedForRights(std::string_view term);
 
 TermResult compute(Operation operation, ValueStack& stack);
 
-// Each of these leaves a text in `txt`, which has kKeplTextSize bytes, if that is the answer of the term.
+// Each of these writes a text to `txt`, which has kKeplTextSize bytes, if that is the answer of the term.
 
-// `value`: the number that was read, if the term answers one. Other terms leave there what a caller of
-// ProcessCommand finds beside the answer: the last element, or 0 with the type of a text. Else none.
+// `value`: the number that was read, if the term answers one. If it answers a text, the value that
+// ProcessCommand returns with it: the last element, or 0 with the type of a text. Otherwise none.
 TermResult accessVariable(const VariableDecision& decision, char* txt, std::optional<TypedNumber>& value);
 
 TermResult runCommand(const RunCommand& command, std::string_view term, const char* iniPath, char* txt);

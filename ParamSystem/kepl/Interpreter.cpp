@@ -33,7 +33,7 @@ struct Target {
 // A line while it is evaluated: the value stack, and what the line answers so far.
 class Evaluation {
 public:
-    // Leaves the large arrays as they are: most lines touch little of them.
+    // Leaves the large arrays uninitialised: most lines use little of them.
     Evaluation(const Target& callers, const char* directory) : target(callers), iniPath(directory) {}
 
     // Returns why there is an error instead of an answer.
@@ -82,7 +82,7 @@ private:
         return result.output == Output::topOfStack ? stack.push(*value) : result;
     }
 
-    // A refusal is also the answer of the line, but for syntax errors and errors of arithmetic. Lack of
+    // A refusal is also the answer of the line, except syntax errors and arithmetic errors. Lack of
     // rights for a command is no error.
     Refusal end(const Decision& decision, Refusal refusal) {
         const bool isNoError = decision.get<RightsTooLow>() != nullptr;

@@ -18,7 +18,7 @@ enum Buffered { kLastChunk = 0, kMoreFollows = 1 };
     std::exit(-1);
 }
 
-// Reads up to the end of a line or as much as fits. NUL characters cannot travel in a text and are left
+// Reads up to the end of a line or as much as fits. NUL characters, which would end the text, are left
 // out. False at the end of the output.
 bool readChunk(FILE* pipe, char (&chunk)[255]) {
     std::size_t length = 0;

@@ -1,4 +1,4 @@
-// Carries out what was decided about variable terms: reads, writes and dumps of parameters.
+// Executes decisions about variable terms: reads, writes and dumps of parameters.
 #include <cstring>
 
 #include "ParamSystem/TALUX_Var.h"
@@ -40,7 +40,7 @@ std::string_view quote(QuotedText& quoted, const stParamProperties& row, int id)
     return {quoted, text.size() + 2};
 }
 
-// One variable term; its text grows in `answer`.
+// One variable term, whose text is built in `answer`.
 class VariableAccess {
 public:
     VariableAccess(const VariableDecision& made, char* txt, std::optional<TypedNumber>& left)

@@ -96,10 +96,10 @@ private:
 
     const stParamProperties& row() const { return *decision.row; }
 
-    // Of what is read or written first.
+    // Of the first element that is read or written.
     int id() const { return row().id + (parts.indices == 0 ? 0 : static_cast<int>(parts.first) - 1); }
 
-    // Whether it holds; if not, that is the refusal.
+    // Returns the condition; if it is false, the refusal is decided.
     bool demand(bool holds, Refusal refusal) {
         if (!holds) decision.action = Refused{refusal};
         return holds;
@@ -130,7 +130,7 @@ private:
 
     bool hasLevel() { return demand(uid >= row().userlevel, Refusal::rightsTooLow); }
 
-    // An index is given where one is needed, and none where none is.
+    // An index is given if and only if the parameter needs one.
     bool indexIsWanted() {
         if (parts.indices == 0)
             return demand(row().val_min_id <= 0 || row().val_max_id <= 0, Refusal::indexRequired);
@@ -141,7 +141,7 @@ private:
         return demand(index >= row().val_min_id, tooLow) && demand(index <= row().val_max_id, tooHigh);
     }
 
-    // Of a write, the second index does not count.
+    // A write ignores the second index.
     bool indexFits() {
         return parts.indices == 0 || fits(parts.first, Refusal::indexTooLow, Refusal::indexTooHigh);
     }
@@ -203,7 +203,7 @@ private:
     static std::string_view unquoted(std::string_view text) {
         if (!text.starts_with('"')) return text;
         text.remove_prefix(1);
-        return text.substr(0, text.size() - !text.empty()); // of a lone quote nothing is left
+        return text.substr(0, text.size() - !text.empty()); // a single quote becomes an empty text
     }
 };
 

@@ -14,7 +14,7 @@ constexpr std::string_view withoutLeading(std::string_view text, char delimiter)
     return text;
 }
 
-// The next word; `rest` is left with what follows it, its delimiter first. Empty when there is none.
+// The next word; empty when there is none. `rest` becomes what follows it, beginning with its delimiter.
 constexpr std::string_view takeWord(std::string_view& rest, char delimiter) {
     const std::string_view text = withoutLeading(rest, delimiter);
     const std::string_view word = text.substr(0, text.find(delimiter));
@@ -22,7 +22,7 @@ constexpr std::string_view takeWord(std::string_view& rest, char delimiter) {
     return word;
 }
 
-// What precedes the first character that is an end; all when there is none. `rest` is left with what follows.
+// What precedes the first character for which isEnd is true, or everything. `rest` becomes what follows.
 template <typename IsEnd>
 constexpr std::string_view takeUntil(std::string_view& rest, IsEnd isEnd) {
     std::size_t length = 0;

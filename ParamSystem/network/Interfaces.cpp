@@ -76,7 +76,7 @@ int VarStaticIPWLAN0_ADHOC() {
 int VarSetSystemIPs() {
     constexpr Shell shell("VarSetSystemIPs");
 
-    // Commits with its save: what follows reads part of the settings from the global space.
+    // Its save commits: the functions after it read part of the settings from the global space.
     VarStaticIP();
     if (flagSetting(kEth1Active) == 0)
         shell.runSilently("ifconfig eth1 down > /dev/null 2>&1");

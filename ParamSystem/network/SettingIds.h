@@ -5,7 +5,7 @@
 
 namespace talux::network {
 
-// Each with its constant. Of the aliases of the telecontrol link the first: the ids of the next are
+// Constants and names. Of the aliases of the telecontrol link only the first: the ids of the next are
 // kIdsPerAlias higher.
 #define TALUX_NETWORK_SETTINGS(SETTING)                                                                      \
     SETTING(kChannel, "channel")                                                                             \
@@ -42,7 +42,7 @@ TALUX_NETWORK_SETTINGS(TALUX_DECLARE)
 
 inline constexpr int kAliasCount = 4, kIdsPerAlias = 4;
 
-// Whether applying the network settings hands this one to the operating system.
+// Whether applying the network settings passes this one to the operating system.
 bool reachesSystem(int id);
 
 } // namespace talux::network

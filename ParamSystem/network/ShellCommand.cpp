@@ -13,14 +13,14 @@ namespace {
 
 constexpr int kLongestCommand = 253;
 
-// Whether the character at this position of a word means itself to the shell.
+// Whether the shell takes the character at this position of a word literally.
 constexpr bool isPlain(std::string_view text, std::size_t position) {
     constexpr std::string_view kHarmless = "@%_+=:,./-!^";
     const char c = text[position], lower = lowerAscii(c);
     if ((lower >= 'a' && lower <= 'z') || (c >= '0' && c <= '9') || static_cast<unsigned char>(c) >= 0x80)
         return true;
     if (kHarmless.find(c) != std::string_view::npos) return true;
-    // At the beginning a home directory and a comment; a home directory after these, too, in some shells.
+    // # begins a comment and ~ is a home directory at the beginning, in some shells also after "=" and ":".
     return position > 0 && (c == '#' || (c == '~' && text[position - 1] != '=' && text[position - 1] != ':'));
 }
 

@@ -1,4 +1,4 @@
-// The shell commands that the settings consist of: quoting, announcing and running one.
+// The shell commands that apply the settings: quoting, announcing and running one.
 #ifndef TALUX_NETWORK_SHELL_COMMAND_H
 #define TALUX_NETWORK_SHELL_COMMAND_H
 
@@ -11,8 +11,8 @@
 namespace talux::network {
 
 // A stored text, quoted so that it is one word to the shell; an empty one is no word. A text of
-// nothing but letters, umlauts too, digits and @%_+=:,./-!^, with # and ~ after its beginning, stays as it
-// is, any other in single quotes.
+// letters, umlauts too, digits and @%_+=:,./-!^, with # and ~ after its beginning, remains unchanged; any
+// other is put in single quotes.
 class ShellWord {
 public:
     explicit ShellWord(const char* value);
@@ -26,7 +26,7 @@ private:
     char text_[4 * std::size_t{kTextSize - 1} + sizeof("''")] = {};
 };
 
-// Runs the commands of one public function and speaks on the error stream under its name.
+// Runs the commands of one public function and writes to the error stream under its name.
 class Shell {
 public:
     explicit constexpr Shell(const char* function) : function_(function) {}

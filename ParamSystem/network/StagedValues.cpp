@@ -22,7 +22,7 @@ AddressText addressSetting(int id) {
     return address;
 }
 
-AddressText textOf(const Address& address, std::size_t size) {
+AddressText textOf(const AddressParts& address, std::size_t size) {
     char whole[kMaxAddressText];
     AddressText text;
     copyText(text.text, size, {whole, appendAddress(whole, address)});
@@ -30,7 +30,7 @@ AddressText textOf(const Address& address, std::size_t size) {
 }
 
 AddressText normalised(const AddressText& address) {
-    return textOf(addressIn(address.text), sizeof address.text - 1);
+    return textOf(addressPartsIn(address.text), sizeof address.text - 1);
 }
 
 bool isUnset(const AddressText& address) {

@@ -23,7 +23,7 @@ int choiceSetting(int id);
 AddressText addressSetting(int id);
 
 // At most size - 1 characters.
-AddressText textOf(const Address& address, std::size_t size = sizeof(AddressText));
+AddressText textOf(const AddressParts& address, std::size_t size = sizeof(AddressText));
 
 // One character shorter than the slot of an address.
 AddressText normalised(const AddressText& address);

@@ -33,8 +33,8 @@ Alias readAlias(int number) {
 }
 
 AddressText networkOf(const AddressText& address, const AddressText& netmask) {
-    talux::Address network = talux::addressIn(address.text);
-    const talux::Address mask = talux::addressIn(netmask.text);
+    talux::AddressParts network = talux::addressPartsIn(address.text);
+    const talux::AddressParts mask = talux::addressPartsIn(netmask.text);
     for (int k = 0; k < 4; ++k)
         network.part[k] &= mask.part[k];
     return textOf(network);

@@ -18,13 +18,13 @@ constexpr Shell kTimeShell("VarNTP");
 constexpr char kDefaultZone[] = "/usr/share/zoneinfo/UTC";
 
 bool linkZone(const char* zone) {
-    // A name that begins like an option must not be one.
+    // A name that begins like an option must not be taken for one.
     const char* endOfOptions = zone[0] == '-' ? "-- " : "";
     return kZoneShell.runSilently("rm -f /etc/localtime;ln -s %s%s /etc/localtime", endOfOptions,
                                   ShellWord(zone).text());
 }
 
-// Puts the configured servers into the configuration; the first one, empty when there is none.
+// Writes the servers to the configuration and returns the first one, empty when there is none.
 AddressText addServers() {
     const struct {
         int id;

@@ -8,7 +8,7 @@ using namespace talux::network;
 
 namespace {
 
-// The stored choice counts from 1; what is no choice lets the radio decide.
+// Choices count from 1; with any other number the radio decides.
 const char* bitRate(int choice) {
     switch (choice) {
     case 2:

@@ -1,4 +1,4 @@
-// How something done with the operating system ended.
+// How an operation of the operating system ended.
 #ifndef TALUX_OS_ERROR_H
 #define TALUX_OS_ERROR_H
 

@@ -17,14 +17,14 @@ struct Rights {
 };
 
 int openToRead(const char* path);
-int openToWrite(const char* path); // for reading as well; the file must be there
-int openOrMake(const char* path); // the same, made when it is not there, with the rights that the mask leaves
+int openToWrite(const char* path); // for reading as well; the file must exist
+int openOrMake(const char* path);  // the same, created if missing, with the rights that the mask leaves
 int openDirectory(const char* path);
 bool closeFile(int descriptor);
 
 // Files of a directory that is open. Links are not followed.
 int openIn(int directory, const char* name); // to read
-int makeIn(int directory, const char* name); // to write; fails when it is there
+int makeIn(int directory, const char* name); // to write; fails if it exists
 bool statusIn(int directory, const char* name, struct stat& status);
 bool renameIn(int directory, const char* from, const char* to);
 void removeIn(int directory, const char* name);

@@ -20,7 +20,7 @@ void closePipe(FILE* pipe);
 // A file to read; null when it cannot be opened.
 FILE* openStream(const char* path);
 
-// The next character, or EOF. Signals that the host handles meanwhile interrupt neither of the two.
+// The next character, or EOF. A signal that the host handles meanwhile interrupts neither function.
 int readCharacter(FILE* stream);
 
 // The local time now, in the zone that TZ or /etc/localtime names at this moment. On failure `now` is all
@@ -32,7 +32,7 @@ void setClock(std::time_t seconds);
 
 void sleepMicroseconds(unsigned microseconds);
 
-// Since some moment; setting the clock does not change it.
+// Since an arbitrary moment; setting the clock does not change it.
 std::int64_t monotonicMilliseconds();
 
 // Of any time that can be converted: the years of 64 bits of seconds do not fit into an int.

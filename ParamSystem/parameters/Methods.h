@@ -1,4 +1,4 @@
-// The detection methods: what belongs together beside the settings, whose rows say it.
+// The detection methods: what belongs to each besides the settings, whose rows name it.
 #ifndef TALUX_PARAMETERS_METHODS_H
 #define TALUX_PARAMETERS_METHODS_H
 
@@ -13,7 +13,8 @@ namespace talux::parameters {
 struct Method {
     MethodId id;
     std::string_view de, en;
-    std::string_view measured = {}; // what shows the quantities that it looks at, and its states and counters
+    std::string_view measured =
+        {}; // what shows the quantities that it evaluates, and its states and counters
     std::string_view functions = {};  // choices of BAassign.. and LEDassign.. (template BA_FUNCTION)
     std::string_view priorities = {}; // choices of prio_list_.. (template PRIORITY)
     std::string_view deRemark = {}, enRemark = {};

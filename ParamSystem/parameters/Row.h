@@ -1,5 +1,5 @@
 /*
- * The words that the rows of parameters are written in. A row holds all that is known of a parameter:
+ * The vocabulary of the rows of parameters. A row holds all that is known of a parameter:
  *
  *   decimal(2148, "Uearth", {.def = 30, .min = 1, .max = 90, .unit = "%", .of = {kUearth, kThreshold}},
  *           {{"Schwelle Erdschluss U0", "Verlagerungsspannung, ab der ein Erdschluss gemeldet wird"},
@@ -9,9 +9,9 @@
  * characters.
  *
  * A name with a list in braces stands for a series of parameters with consecutive ids: "REL{1..8}",
- * "knu{1,2,3}", "U{12,23,31}_prim". Their texts show the member as {n}. What several rows of a family say
- * alike is written once, as `Words` above them: kSignalDuration("qu2") shows "qu2" as {n}; a second word, or
- * the member of a series then, is {m}.
+ * "knu{1,2,3}", "U{12,23,31}_prim". Their texts show the member as {n}. Texts that several rows of a
+ * family share are written once, as `Words` above them: kSignalDuration("qu2") shows "qu2" as {n}; a second
+ * word, or the member of a series then, is {m}.
  *
  * Lists of texts are divided by "|". In them "BI{1..6}" stands for six texts, "NC*39" for the same text 39
  * times.
@@ -91,7 +91,7 @@ struct Row {
     Place of{};
     unsigned is = 0;
     Form form = Form::none; // of the value
-    Effect effect = kNoEffect;
+    WriteEffect effect = kNoEffect;
     Texts texts{};
     Where where{};
 };
@@ -156,7 +156,7 @@ inline constexpr Template kOutputPolarity{18033, "BA_POLARITY", 2};
 
 // Numbers. The initial value is the factory default.
 
-struct Number {
+struct NumberFacts {
     Template like{};
     double def = 0;
     double min = kNoMin;
@@ -167,7 +167,7 @@ struct Number {
     unsigned is = 0;
 };
 
-constexpr Row numeric(int id, const char* name, int type, const Number& facts, const Words& words,
+constexpr Row numeric(int id, const char* name, int type, const NumberFacts& facts, const Words& words,
                       Where where) {
     Row row = plainRow(id, name, type, facts.is, where);
     row.properties.id_template = facts.like.id;
@@ -182,38 +182,38 @@ constexpr Row numeric(int id, const char* name, int type, const Number& facts, c
 }
 
 // A 32-bit integer.
-constexpr Row number(int id, const char* name, const Number& facts, const Words& words,
+constexpr Row number(int id, const char* name, const NumberFacts& facts, const Words& words,
                      Where where = Where::current()) {
     return numeric(id, name, kTypeLong, facts, words, where);
 }
 
 // A 16-bit integer.
-constexpr Row shortNumber(int id, const char* name, const Number& facts, const Words& words,
+constexpr Row shortNumber(int id, const char* name, const NumberFacts& facts, const Words& words,
                           Where where = Where::current()) {
     return numeric(id, name, kTypeInt, facts, words, where);
 }
 
 // A 32-bit float.
-constexpr Row decimal(int id, const char* name, const Number& facts, const Words& words,
+constexpr Row decimal(int id, const char* name, const NumberFacts& facts, const Words& words,
                       Where where = Where::current()) {
     return numeric(id, name, kTypeFloat, facts, words, where);
 }
 
-constexpr Row doubleNumber(int id, const char* name, const Number& facts, const Words& words,
+constexpr Row doubleNumber(int id, const char* name, const NumberFacts& facts, const Words& words,
                            Where where = Where::current()) {
     return numeric(id, name, kTypeDouble, facts, words, where);
 }
 
 enum Switch { kOff, kOn };
 
-struct Flag {
+struct FlagFacts {
     Switch def = kOff;
     const char* init = ""; // initial value as text
     Place of{};
     unsigned is = 0;
 };
 
-constexpr Row flag(int id, const char* name, const Flag& facts, const Words& words,
+constexpr Row flag(int id, const char* name, const FlagFacts& facts, const Words& words,
                    Where where = Where::current()) {
     const bool isEdited = (facts.is & (kUnwritable | kRuntime)) == 0;
     Row row = numeric(id, name, kTypeBool,
@@ -237,7 +237,7 @@ constexpr int countOf(const char* list) {
     return count;
 }
 
-struct Choice {
+struct ChoiceFacts {
     Template like{};        // whose choices and texts it has
     int choices = 0;        // otherwise how many; with texts of its own as many as these
     const char* names = ""; // "Automatic|54_Mbit_s": kAutomatic, k54_Mbit_s
@@ -248,7 +248,7 @@ struct Choice {
     unsigned is = 0;
 };
 
-constexpr Row choice(int id, const char* name, const Choice& facts, const Words& words,
+constexpr Row choice(int id, const char* name, const ChoiceFacts& facts, const Words& words,
                      Where where = Where::current()) {
     const int choices = facts.like.id != 0   ? facts.like.choices
                         : facts.choices != 0 ? facts.choices
@@ -268,16 +268,16 @@ constexpr Row choice(int id, const char* name, const Choice& facts, const Words&
 
 // Texts and addresses.
 
-struct Text {
+struct TextFacts {
     int length = kNoLength;
     const char* def = "";
-    const char* init = nullptr; // the default where nothing else is said
+    const char* init = nullptr; // the default unless given otherwise
     Form form = kOfItsType;
     Place of{};
     unsigned is = 0;
 };
 
-constexpr Row textual(int id, const char* name, int type, const Text& facts, const Words& words,
+constexpr Row textual(int id, const char* name, int type, const TextFacts& facts, const Words& words,
                       Where where) {
     Row row = plainRow(id, name, type, facts.is, where);
     row.properties.val_len = facts.length;
@@ -288,34 +288,34 @@ constexpr Row textual(int id, const char* name, int type, const Text& facts, con
     return saying(row, words);
 }
 
-constexpr Row text(int id, const char* name, const Text& facts, const Words& words,
+constexpr Row text(int id, const char* name, const TextFacts& facts, const Words& words,
                    Where where = Where::current()) {
     return textual(id, name, kTypeText, facts, words, where);
 }
 
-constexpr Row identifier(int id, const char* name, const Text& facts, const Words& words,
+constexpr Row identifier(int id, const char* name, const TextFacts& facts, const Words& words,
                          Where where = Where::current()) {
     return textual(id, name, kTypeId, facts, words, where);
 }
 
-constexpr Row address(int id, const char* name, const Text& facts, const Words& words,
+constexpr Row address(int id, const char* name, const TextFacts& facts, const Words& words,
                       Where where = Where::current()) {
     return textual(id, name, kTypeIp, facts, words, where);
 }
 
-constexpr Row interfaceAddress(int id, const char* name, const Text& facts, const Words& words,
+constexpr Row interfaceAddress(int id, const char* name, const TextFacts& facts, const Words& words,
                                Where where = Where::current()) {
     Row row = textual(id, name, kTypeIpAddress, facts, words, where);
     row.effect = kAppliesNetwork;
     return row;
 }
 
-constexpr Row interfaceMask(int id, const char* name, const Text& facts, const Words& words,
+constexpr Row interfaceMask(int id, const char* name, const TextFacts& facts, const Words& words,
                             Where where = Where::current()) {
     return textual(id, name, kTypeIpMask, facts, words, where);
 }
 
-constexpr Row interfaceGateway(int id, const char* name, const Text& facts, const Words& words,
+constexpr Row interfaceGateway(int id, const char* name, const TextFacts& facts, const Words& words,
                                Where where = Where::current()) {
     return textual(id, name, kTypeIpGateway, facts, words, where);
 }
@@ -382,14 +382,14 @@ struct CommandWords {
     CommandSaid de{}, en{};
 };
 
-struct Command {
+struct CommandFacts {
     int userlevel = 1;
     int firstResult = 1; // code of the first text
     unsigned is = 0;
 };
 
 // A trigger that the other programs of the device react to.
-constexpr Row command(int id, const char* name, const Command& facts, const CommandWords& words,
+constexpr Row command(int id, const char* name, const CommandFacts& facts, const CommandWords& words,
                       Where where = Where::current()) {
     Row row = plainRow(id, name, kTypeCommand, facts.is, where);
     row.properties.userlevel = facts.userlevel;
@@ -433,7 +433,7 @@ constexpr Row choiceTemplate(const Template& shared, const char* names, const Wo
     return row;
 }
 
-constexpr Row decimalTemplate(const Template& shared, const Number& facts, const Words& words,
+constexpr Row decimalTemplate(const Template& shared, const NumberFacts& facts, const Words& words,
                               Where where = Where::current()) {
     Row row = decimal(shared.id, "", facts, words, where);
     row.templateName = shared.name;

@@ -20,7 +20,7 @@ enum Trait : unsigned {
 };
 
 // What a write does besides storing the value.
-enum Effect : int { kNoEffect, kAppliesNetwork, kSetsClock };
+enum WriteEffect : int { kNoEffect, kAppliesNetwork, kSetsClock };
 
 enum NoteKind : int {
     kWarning, // a wrong value or a careless write does harm, or does not do what one expects

@@ -1,7 +1,7 @@
-// May a parameter take this value? The rules, once for all who ask: the command language and the parameter
-// files, which refuse only some of what speaks against a value; the programs for people, which describe the
-// rest, too; handles of C++ programs and the generator, which ask while compiling. Scripts get the same facts
-// in their table.
+// May a parameter take this value? The one set of rules for all: the command language and the parameter
+// files, which refuse a value for some of the reasons only; the programs for people, which report the
+// others, too; handles of C++ programs and the generator, which check at compile time. Scripts get the same
+// facts in their table.
 #ifndef TALUX_RULES_RULES_H
 #define TALUX_RULES_RULES_H
 
@@ -14,11 +14,11 @@
 
 namespace talux {
 
-// What speaks against a value, in the order in which it is looked for.
+// What speaks against a value, in the order of the checks.
 enum class Reason : unsigned char {
     none,
     readOnly,
-    noValue,    // commands and records keep none
+    noValue,    // commands and records have none
     noNumber,   // a text that is no number
     notANumber, // NaN
     tooLow,
@@ -26,7 +26,7 @@ enum class Reason : unsigned char {
     noChoice, // choices count from 1, a switch is 0 or 1, also where the row has no limits
     notWhole,
     holdsNul,
-    notCarried,   // a double quote, an equals sign, a control character: no parameter file brings them back
+    notCarried,   // a double quote, an equals sign, a control character: no parameter file restores them
     tooLong,      // more characters than intended
     tooManyBytes, // for the slot or the line
     noAddress,
@@ -66,13 +66,13 @@ struct Facts {
     bool isReadOnly = false;
     double min = kNoMin, max = kNoMax; // of a number
     int characters = kAnyLength;       // longest text that is intended
-    int bytes = kAnyLength;            // longest text that whoever asks can keep
+    int bytes = kAnyLength;            // longest text that the caller can store
 
     bool operator==(const Facts&) const = default;
-    constexpr double least() const {
+    constexpr double lowest() const {
         return min != kNoMin ? min : form == Form::choice ? 1 : form == Form::flag ? 0 : min;
     }
-    constexpr double most() const { return form == Form::flag && max == kNoMax ? 1 : max; }
+    constexpr double highest() const { return form == Form::flag && max == kNoMax ? 1 : max; }
 };
 
 class Reasons {
@@ -92,15 +92,15 @@ private:
     static constexpr unsigned bit(Reason reason) { return 1U << static_cast<unsigned>(reason); }
 };
 
-// A write of the command language is refused for these, a line of a parameter file skipped. With anything
-// else the value is stored, cut or rounded to its slot (storedAs).
+// The command language refuses a write for these, a load skips a line of a parameter file. For any other
+// reason the value is stored, cut or rounded to its slot (storedAs).
 inline constexpr Reasons kLanguageRefuses{Reason::readOnly, Reason::noNumber, Reason::notANumber,
                                           Reason::tooLow, Reason::tooHigh};
 inline constexpr Reasons kLoadingRefuses{Reason::noNumber};
 
 struct Objection {
     Reason reason = Reason::none;
-    double limit = 0; // that the value goes beyond
+    double limit = 0; // that the value exceeds
     double found = 0; // in a text: how many characters or bytes, or which character
 
     constexpr explicit operator bool() const { return reason != Reason::none; }
@@ -108,14 +108,14 @@ struct Objection {
 
 // ---- Forms --------------------------------------------------------------------------------------------
 
-// Takes a number of `fewest` to `most` digits; -1 where there is none.
-constexpr int takeDigits(std::string_view& text, std::size_t fewest, std::size_t most) {
+// Takes a number of `min` to `max` digits; -1 where there is none.
+constexpr int takeDigits(std::string_view& text, std::size_t min, std::size_t max) {
     int number = 0;
     std::size_t count = 0;
-    for (; count < most && count < text.size() && text[count] >= '0' && text[count] <= '9'; ++count)
+    for (; count < max && count < text.size() && text[count] >= '0' && text[count] <= '9'; ++count)
         number = number * 10 + (text[count] - '0');
     text.remove_prefix(count);
-    return count < fewest ? -1 : number;
+    return count < min ? -1 : number;
 }
 
 constexpr bool takeSign(std::string_view& text, char sign) {
@@ -171,7 +171,7 @@ constexpr int charactersIn(std::string_view text) {
     return count;
 }
 
-// The first character that no line carries, if any.
+// The first character that no line can contain, if any.
 constexpr std::optional<char> uncarriedIn(std::string_view text) {
     for (const char c : text)
         if (c == '"' || c == '=' || static_cast<unsigned char>(c) < ' ') return c;
@@ -186,8 +186,8 @@ constexpr bool isWhole(double number) {
 
 // ---- Check --------------------------------------------------------------------------------------------
 
-// Finds the first of the reasons asked for that speaks against a value. No loop: what is known while
-// compiling costs nothing, nor does what nobody asked for.
+// Finds the first of the requested reasons that speaks against a value. No loop: neither what is known at
+// compile time nor what is not requested costs anything.
 class First {
 public:
     constexpr explicit First(Reasons reasons) : asked(reasons) {}
@@ -204,8 +204,8 @@ private:
     Objection objection;
 };
 
-// The first of the reasons asked for that speaks against a number, if any. `number`: none for a text that is
-// none.
+// The first of the requested reasons that speaks against a number, if any. `number`: empty for a text that
+// is no number.
 [[gnu::always_inline]] constexpr Objection check(const Facts& facts, std::optional<double> number,
                                                  Reasons asked = Reasons::all()) {
     const double value = number.value_or(0);
@@ -217,8 +217,8 @@ private:
         .where(number && !isNumber, Reason::notANumber)
         .where(isNumber && !(value >= facts.min), Reason::tooLow, facts.min)
         .where(isNumber && !(value <= facts.max), Reason::tooHigh, facts.max)
-        .where(isNumber && value >= facts.min && value < facts.least(), Reason::noChoice, facts.least())
-        .where(isNumber && value <= facts.max && value > facts.most(), Reason::noChoice, facts.most())
+        .where(isNumber && value >= facts.min && value < facts.lowest(), Reason::noChoice, facts.lowest())
+        .where(isNumber && value <= facts.max && value > facts.highest(), Reason::noChoice, facts.highest())
         .where(isNumber && facts.form != Form::number && !isWhole(value), Reason::notWhole);
 }
 
@@ -242,7 +242,7 @@ constexpr Objection check(const Facts& facts, std::string_view text, Reasons ask
         .where(facts.form == Form::time && !isTime(text), Reason::noTime);
 }
 
-// Calls each(objection) for all of the reasons asked for that speak against a number or a text.
+// Calls each(objection) for all of the requested reasons that speak against a number or a text.
 template <class Given, class Each>
 constexpr void forEachObjection(const Facts& facts, const Given& given, Reasons asked, Each each) {
     for (auto reason = Reason::readOnly; reason < Reason::tooMany;

@@ -19,8 +19,8 @@ void check(int id, const char* accessor) {
     talux::assertThat(talux::holds(kind, id), talux::blockOf(kind).assertion, TALUX_UNIT, accessor);
 }
 
-// What the accessors of every kind do. Single values insist on the kind; so do readers of runs, except those
-// of long, which ignore foreign ids as writers of runs do. By itself `accessor` is the function that calls.
+// What the accessors of every kind do. Single values require the kind; so do readers of runs, except those
+// of long, which ignore ids of other kinds as writers of runs do. `accessor` is by default the caller's name.
 template <Kind kind, Space space>
 void set(int id, Number<kind> value, const char* accessor = __builtin_FUNCTION()) {
     check<kind>(id, accessor);
@@ -203,7 +203,7 @@ void writeThrough(Space space, int id, const double* value) {
     if (kind == talux::Kind::None) return; // nothing of the caller's is read
     if (!talux::isTextKind(kind)) return talux::writeNumber(space, id, *value);
     const auto* const text = reinterpret_cast<const char*>(value);
-    const std::size_t length = strnlen(text, talux::blockOf(kind).slot - 1);
+    const std::size_t length = strnlen(text, talux::blockOf(kind).slotSize - 1);
     talux::writeValue(space, id, talux::Value(std::string_view(text, length)));
 }
 

@@ -1,5 +1,5 @@
-// The change flags: global bool parameters that ask the device's other programs to look again. The store
-// raises them and never takes them back.
+// The change flags: global bool parameters that ask the device's other programs to read settings again. The
+// store sets them and never clears them.
 #ifndef TALUX_STORE_CHANGEFLAGS_H
 #define TALUX_STORE_CHANGEFLAGS_H
 

@@ -19,7 +19,7 @@ void commit(int id) {
     }
     withKind(talux::kindOf(id), [id]<Kind kind>() {
         if constexpr (talux::isTextKind(kind)) {
-            char text[talux::blockOf(kind).slot];
+            char text[talux::blockOf(kind).slotSize];
             talux::getText<kind, Space::temp>(id, text);
             talux::putText<kind, Space::global>(id, text);
         } else {

@@ -20,7 +20,7 @@ struct Block {
     int first;             // id
     int count;             // of ids
     std::size_t offset;    // of the first slot, in bytes from the start of the space
-    std::size_t slot;      // bytes of one slot; 0 for the records, which have sizes of their own
+    std::size_t slotSize;  // in bytes; 0 for the records, each of which has a size of its own
     const char* assertion; // what an id of another kind violates
 };
 
@@ -49,7 +49,7 @@ static_assert([] {
     std::size_t end = 0;
     for (std::size_t k = 0; k + 1 < kKindCount; ++k) {
         if (kBlocks[k].kind != static_cast<Kind>(k) || kBlocks[k].offset != end) return false;
-        end += static_cast<std::size_t>(kBlocks[k].count) * kBlocks[k].slot;
+        end += static_cast<std::size_t>(kBlocks[k].count) * kBlocks[k].slotSize;
     }
     return end == sizeof(stVarSpace) && kBlocks[kKindCount - 1].kind == Kind::Struct;
 }());
@@ -116,7 +116,7 @@ auto withKind(Kind kind, Action action) {
         TALUX_CASE(Id);
         TALUX_CASE(Ip);
 #undef TALUX_CASE
-    case Kind::Int: // its ids are longs, too, and those answer
+    case Kind::Int: // its ids are longs, too, which come first
     case Kind::Date:
     case Kind::Time:
         static_assert(kDateCount == 0 && kTimeCount == 0, "dates or times have ids now: give them a case");

@@ -18,7 +18,7 @@ char* slotOf(int id) {
     // VarInit may attach a segment anew meanwhile.
     const std::atomic_ref pointer(space == Space::global ? pVarGlobal : pVarTemp);
     char* const base = reinterpret_cast<char*>(pointer.load(std::memory_order_relaxed));
-    return base + block.offset + static_cast<std::size_t>(id - block.first) * block.slot;
+    return base + block.offset + static_cast<std::size_t>(id - block.first) * block.slotSize;
 }
 
 // A count of 0 is no run, nor is one that ends past the block; no count may wrap around.
@@ -30,7 +30,7 @@ constexpr bool isRun(int id, unsigned long count) {
 
 template <Kind kind, Space space>
 void putNumber(int id, Number<kind> value) {
-    static_assert(sizeof value == blockOf(kind).slot);
+    static_assert(sizeof value == blockOf(kind).slotSize);
     const Lock<kind, space> lock;
     std::memcpy(slotOf<kind, space>(id), &value, sizeof value);
 }
@@ -61,7 +61,7 @@ void getRun(int id, Number<kind>* dest, unsigned long count) {
 // programs write there, too.
 template <Kind kind, Space space>
 void putText(int id, const char* text) {
-    constexpr std::size_t room = blockOf(kind).slot - 1;
+    constexpr std::size_t room = blockOf(kind).slotSize - 1;
     const std::size_t length = strnlen(text, room);
     const Lock<kind, space> lock;
     char* const slot = slotOf<kind, space>(id);
@@ -74,7 +74,7 @@ template <Kind kind, Space space>
 void getText(int id, char* text) {
     const Lock<kind, space> lock;
     const char* const slot = slotOf<kind, space>(id);
-    const std::size_t length = strnlen(slot, blockOf(kind).slot - 1);
+    const std::size_t length = strnlen(slot, blockOf(kind).slotSize - 1);
     std::memcpy(text, slot, length);
     text[length] = '\0';
 }

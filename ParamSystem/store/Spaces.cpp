@@ -116,8 +116,8 @@ void VarAlloc(void) {
     setUp();
 }
 
-const char* talux::attachExisting(Attachment attachment) {
-    const int flags = attachment == Attachment::readOnly ? SHM_RDONLY : 0;
+const char* talux::attachExisting(Access access) {
+    const int flags = access == Access::readOnly ? SHM_RDONLY : 0;
     const SettingUp alone;
     createLocksOnce();
     if (attachOnce(structSegment, pVarStruct, 0, flags)) return structSegment.name;

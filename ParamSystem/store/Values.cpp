@@ -53,7 +53,7 @@ template <Space space>
 std::optional<Value> readValueIn(int id) {
     return withKind(kindOf(id), [id]<Kind kind>() {
         if constexpr (isTextKind(kind)) {
-            char text[blockOf(kind).slot];
+            char text[blockOf(kind).slotSize];
             getText<kind, space>(id, text);
             return std::optional<Value>(std::in_place, std::string_view(text));
         } else {
@@ -111,7 +111,7 @@ std::optional<Value> storedAs(int id, const Value& value) {
     withKind(kindOf(id), [&]<Kind kind>() {
         if (value.isText() != isTextKind(kind)) return;
         if constexpr (isTextKind(kind))
-            stored.emplace(std::string_view(value.text()).substr(0, blockOf(kind).slot - 1));
+            stored.emplace(std::string_view(value.text()).substr(0, blockOf(kind).slotSize - 1));
         else
             stored.emplace(toDouble<kind>(fromDouble<kind>(value.number())));
     });

@@ -32,7 +32,7 @@ void clearFrom(int row) {
     std::exit(2);
 }
 
-// Up to and with the line feed, or as much as fits. False at the end of the file.
+// Up to and including the line feed, or as much as fits. False at the end of the file.
 bool takeLine(FILE* source, char (&line)[kMaxLine + 2]) {
     std::size_t length = 0;
     int character = 0;

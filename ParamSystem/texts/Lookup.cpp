@@ -20,7 +20,7 @@ void checkId(int id, const char* function) {
 
 constexpr int kNotFound = 0; // the row that every look-up returns then
 
-// What a text must be to match.
+// What a text must have to match.
 struct Wanted {
     int id, type;
     std::optional<int> group{}, item{};
@@ -56,8 +56,8 @@ int findNear(int row, const Wanted& wanted, int language) {
 
 // The first of the compiled-in rows with an id if the working table still has it there; else kNotFound.
 int firstRowOf(int id) {
-    const int position = placeOf(id);
-    const int row = position == kNoPlace || areTextsOfFile ? kNotFound : kTextRows[position];
+    const int index = denseIndexOf(id);
+    const int row = index == kNoIndex || areTextsOfFile ? kNotFound : kTextRows[index];
     return ParamText[row].id == id ? row : kNotFound;
 }
 

@@ -1,4 +1,4 @@
--- What a value must be before it is written. A check gives the text for the line and the value as the store
+-- What a value must be before it is written. A check returns the text for the line and the value as the store
 -- will hold it, or nil and the reason.
 local dictionary = require "talux.dictionary"
 local numbers = require "talux.numbers"

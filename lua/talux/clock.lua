@@ -1,11 +1,11 @@
--- The clock of the device with fractions of a second, which Lua does not have: what another program shows once,
--- and the time that has passed since.
+-- The clock of the device with fractions of a second, which Lua does not have: read once from another program,
+-- plus the time that has passed since.
 local numbers = require "talux.numbers"
 local stopwatch = require "talux.stopwatch"
 
 local elapsed, start
 
--- Where the program `date` knows no fractions, the moment when the seconds change.
+-- If the program `date` prints no fractions: the moment when the seconds change.
 local function set()
   elapsed = stopwatch()
   local pipe = io.popen "date +%s.%N"

@@ -1,4 +1,4 @@
--- What a parameter file holds after a save, which can fail and be answered as done.
+-- What a parameter file holds after a save, which may have failed although it was answered as done.
 local dictionary = require "talux.dictionary"
 local numbers = require "talux.numbers"
 

@@ -7,13 +7,13 @@
 copy=$scratch/copy release=$builds/build-release status=0
 lists=() files=() edits=() signs=() slow=()
 
-# place LIST FILE SIGN slow|'' EDIT: the change of FILE, in Perl; without it somebody says SIGN.
+# place LIST FILE SIGN slow|'' EDIT: the change of FILE, in Perl; without it something prints SIGN.
 place() { lists+=("$1") files+=("$2") signs+=("$3") slow+=("$4") edits+=("$5"); }
 place parameter ParamSystem/parameters/Display.h 'no parameter.*disp_dark' slow \
   's/    text\(9019.*\n\K/    flag(8184, "disp_dark", {}, {{"Anzeige dunkel", "Die Anzeige bleibt dunkel"}, {"Display dark", "The display stays dark"}}),\n/'
 place refusal ParamSystem/kepl/Refusal.h 'rangeTooLong.*is not a member' slow \
   's/ typeUnknown,\n\K/    rangeTooLong,\n/'
-place refusal ParamSystem/kepl/Texts.cpp 'Texts.cpp.*each enumerator has its row' '' \
+place refusal ParamSystem/kepl/Refusal.cpp 'Refusal.cpp.*each enumerator has its row' '' \
   's/constexpr KeplText kTypeUnknown.*\n\K/constexpr KeplText kRangeTooLong = {"Bereich zu lang", "range too long"};\n/;
    s/kTypeUnknown},\n\K/    {Refusal::rangeTooLong, kRangeTooLong},\n/'
 place refusal tools/talux/LineCheck.cpp 'LineCheck.cpp.*rangeTooLong.*not handled' '' \
@@ -45,7 +45,7 @@ for list in refusal 'command word'; do
   [ "${named[*]}" = "${known[*]}" ] || fault "$list: the page names ${named[*]}, this script ${known[*]}"
 done
 
-# The copy lies where the project is, so that what is built stays built.
+# The copy takes the path of the project, so that nothing is built again.
 mkdir -p "$copy/build-release"
 tar -C "$project" --exclude='./build-*' --exclude=./.git -c . | tar -C "$copy" -x
 cp -a "$release/." "$copy/build-release"
@@ -70,7 +70,7 @@ put() {
     ! cmp -s "$copy/$1" "$scratch/before" || fault "${lists[k]}: the change of $1 finds nothing to change"
   done
 }
-# fails SIGN WHAT: without WHAT something fails and says SIGN.
+# fails SIGN WHAT: without WHAT something fails and prints SIGN.
 fails() {
   if attempt >"$scratch/log" 2>&1; then fault "nothing fails without $2"
   elif ! grep -q -- "$1" "$scratch/log"; then tail -30 "$scratch/log"; fault "what fails without $2 does not say: $1"

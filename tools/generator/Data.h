@@ -1,4 +1,4 @@
-// The data that everything is made of.
+// The data from which everything is generated.
 #ifndef TALUX_GENERATOR_DATA_H
 #define TALUX_GENERATOR_DATA_H
 

@@ -1,4 +1,4 @@
-// Broken rules and how the builder hears of them.
+// Broken rules and how they are reported.
 #ifndef TALUX_GENERATOR_FAULTS_H
 #define TALUX_GENERATOR_FAULTS_H
 

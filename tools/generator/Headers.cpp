@@ -151,7 +151,7 @@ std::string limitsOf(const Parameter& parameter) {
             {", 0, ", std::to_string(parameter.textLength()), isMask ? ", rules::Form::netmask" : ""});
     }
     if (!parameter.hasMinimum() && !parameter.hasMaximum()) return {};
-    return joined({", ", reference::shortNumber(parameter.leastNumber()), ", ",
+    return joined({", ", reference::shortNumber(parameter.lowestNumber()), ", ",
                    reference::shortNumber(parameter.row().val_max)});
 }
 

@@ -1,4 +1,4 @@
-// What talux.lua knows of the dictionary.
+// The tables of the dictionary for talux.lua.
 #include <algorithm>
 #include <vector>
 
@@ -57,9 +57,9 @@ std::string factsOf(const Parameter& parameter) {
     };
     const std::string unit = parameter.unit();
     add(!unit.empty(), "unit", quoted(unit));
-    const double least = parameter.leastNumber(), most = parameter.mostNumber();
-    add(parameter.hasNumber() && least != kNoMin, "min", reference::shortNumber(least));
-    add(parameter.hasNumber() && most != kNoMax, "max", reference::shortNumber(most));
+    const double min = parameter.lowestNumber(), max = parameter.highestNumber();
+    add(parameter.hasNumber() && min != kNoMin, "min", reference::shortNumber(min));
+    add(parameter.hasNumber() && max != kNoMax, "max", reference::shortNumber(max));
     add(parameter.textRoom() > 0, "length", std::to_string(parameter.textLength()));
     add(parameter.textRoom() > 0, "bytes", std::to_string(parameter.lineRoom()));
     const char* const form = formOf(parameter.facts().form);
@@ -93,7 +93,7 @@ std::string noteOf(const model::Note& note, ParamLanguage language) {
                    ", text = ", quoted(note.text.in(language)), "},\n"});
 }
 
-// Each list of choices and each note is there once, before the parameters.
+// Each list of choices and each note appears once, before the parameters.
 std::string texts(const Model& model, ParamLanguage language) {
     std::vector<std::string> lists;
     std::string rows;

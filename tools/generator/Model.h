@@ -45,12 +45,12 @@ struct Row {
     Both title, description;
     std::string_view unit;
     Group groups[kGroups];
-    std::span<const int> notes;  // places in the model's; its own, besides those of the template
-    parameters::MethodId method; // place in the model's, or -1
-    parameters::Role role;       // of a setting of a method
-    unsigned is;                 // traits
-    rules::Form form;            // of the value
-    parameters::Effect effect;   // of a write
+    std::span<const int> notes;     // indexes of the model's; its own, without those of the template
+    parameters::MethodId method;    // place in the model's, or -1
+    parameters::Role role;          // of a setting of a method
+    unsigned is;                    // traits
+    rules::Form form;               // of the value
+    parameters::WriteEffect effect; // of a write
 
     bool has(parameters::Trait trait) const { return (is & trait) != 0; }
     bool isTemplate() const { return properties->name[0] == '\0'; }

@@ -110,7 +110,7 @@ private:
             both(row.title), both(row.description), pool.view(row.unit),
             joined({"{", list(groups, ","), "}"}), noteRuns.add(notes), coded("MethodId", row.method),
             coded("Role", row.role), number(static_cast<int>(row.is)),
-            fill("rules::Form{{}}", {number(static_cast<int>(row.form))}), coded("Effect", row.effect));
+            fill("rules::Form{{}}", {number(static_cast<int>(row.form))}), coded("WriteEffect", row.effect));
     }
 };
 

@@ -42,7 +42,7 @@ struct Symbol {
 // index.
 std::vector<Symbol> symbolsOf(const Parameter& parameter);
 
-// What has texts, in table order: an indexed parameter once, and of two parameters with one id the later.
+// What has texts, in table order: an indexed parameter once; of two parameters with the same id, the later.
 struct TextSubject {
     const Parameter* parameter;
     int textId; // under which its texts lie

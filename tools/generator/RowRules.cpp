@@ -53,8 +53,8 @@ std::string range(int first, int last) {
     return first == last ? std::to_string(first) : std::to_string(first) + ".." + std::to_string(last);
 }
 
-// Rows that continue the ids of the row of their block before them: of two rows with one id rather the old
-// one.
+// Rows whose ids continue those of the row before them in their block: of two rows with one id, probably the
+// older one.
 std::set<const parameters::Row*> rowsInSequence(const std::vector<Parameter>& all) {
     std::map<int, int> last; // id by the first of the block
     std::set<const parameters::Row*> rows;
@@ -195,18 +195,18 @@ constexpr Rule kRules[] = {
      }},
 };
 
-// The default is a value like any other; that of the clock stands for none.
+// The default is a value like any other; the clock has none.
 std::string objectToDefault(const Parameter& p) {
     const stParamProperties& row = p.properties();
     const Kind kind = typeOf(row).kind;
     if (!p.isSetting() || kind == Kind::SysDate || kind == Kind::SysTime) return {};
     rules::Facts facts = rules::factsOf(row, p.row->form);
     facts.isReadOnly = false;
-    if (isText(row)) facts.bytes = static_cast<int>(talux::blockOf(kind).slot) - 1;
+    if (isText(row)) facts.bytes = static_cast<int>(talux::blockOf(kind).slotSize) - 1;
     const auto objection = isText(row) ? rules::check(facts, std::string_view(row.val_def_text))
                                        : rules::check(facts, row.val_def);
     const std::string limits =
-        reference::shortNumber(facts.least()) + " to " + reference::shortNumber(facts.most());
+        reference::shortNumber(facts.lowest()) + " to " + reference::shortNumber(facts.highest());
     return objection ? "the default " + reference::describe(objection, limits, kEnglish) : "";
 }
 

@@ -9,7 +9,7 @@ namespace talux::generator {
 
 void checkRows(const std::vector<Parameter>& parameters, Faults& faults);
 
-// Names of notes that are none.
+// Names in notes that no parameter has.
 void checkNotes(std::span<const parameters::Family> families, const std::vector<Parameter>& parameters,
                 Faults& faults);
 

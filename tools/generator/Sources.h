@@ -11,7 +11,7 @@ namespace talux::generator {
 
 inline constexpr std::string_view kHead = "// Made by tools/generator from ParamSystem/parameters.\n";
 
-// The texts of a source, each once, one after the other with its NUL. A row refers to the place: p + 17.
+// The texts of a source, each once, one after the other with its NUL. A row refers to its offset: p + 17.
 class Pool {
 public:
     explicit Pool(std::string_view ownName = "p") : name(ownName) {}
@@ -48,7 +48,7 @@ private:
     std::string literals;
 };
 
-// The shortest text that gives the same number again.
+// The shortest text that is read as the same number.
 inline std::string number(double value) {
     char text[32];
     return {text, std::to_chars(std::begin(text), std::end(text), value).ptr};

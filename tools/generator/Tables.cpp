@@ -23,30 +23,30 @@ std::string numbers(std::string_view definition, const std::vector<std::uint16_t
 
 // A hash table of the positions of names, see NameIndex.
 std::string nameIndex(const std::string& name, const std::vector<std::string>& names) {
-    std::vector<std::uint16_t> slots(NameIndex::slotCount(names.size()));
+    std::vector<std::uint16_t> buckets(NameIndex::bucketCount(names.size()));
     const auto nameAt = [&names](std::size_t position) { return std::string_view(names[position]); };
     for (std::size_t position = 1; position < names.size(); ++position) {
-        const NameIndex index{slots.data(), slots.size() - 1};
-        std::uint16_t& slot = slots[index.slotOf(names[position], nameAt)];
-        if (slot == 0) slot = static_cast<std::uint16_t>(position); // of equal names the first counts
+        const NameIndex index{buckets.data(), buckets.size() - 1};
+        std::uint16_t& bucket = buckets[index.bucketOf(names[position], nameAt)];
+        if (bucket == 0) bucket = static_cast<std::uint16_t>(position); // of equal names the first counts
     }
-    return numbers("static const std::uint16_t slotsOf" + name + "[]", slots) + "const NameIndex k" + name +
-           "Index = {slotsOf" + name + ", " + std::to_string(slots.size() - 1) + "};\n";
+    return numbers("static const std::uint16_t bucketsOf" + name + "[]", buckets) + "const NameIndex k" +
+           name + "Index = {bucketsOf" + name + ", " + std::to_string(buckets.size() - 1) + "};\n";
 }
 
 // Sets the position of an id that has none yet.
 void place(std::vector<std::uint16_t>& positions, int id, int position) {
-    std::uint16_t& known = positions[static_cast<std::size_t>(placeOf(id))];
+    std::uint16_t& known = positions[static_cast<std::size_t>(denseIndexOf(id))];
     if (known == 0) known = static_cast<std::uint16_t>(position);
 }
 
-// Position of the first row with the id of each place.
+// Position of the first row with each id.
 std::string idIndex(const Model& model) {
-    std::vector<std::uint16_t> positions(kIdPlaces);
+    std::vector<std::uint16_t> positions(kDenseIndexCount);
     for (const Row& row : model.rows)
         for (int k = 0; k < row.elements(); ++k)
             place(positions, row.properties->id + k, row.position + k);
-    return numbers("const std::uint16_t kIdPositions[kIdPlaces]", positions);
+    return numbers("const std::uint16_t kIdPositions[kDenseIndexCount]", positions);
 }
 
 std::string propertyRow(const stParamProperties& row, int element, Pool& pool) {
@@ -176,7 +176,7 @@ private:
 
 struct TextTable {
     std::string definition;
-    std::vector<std::uint16_t> firstRows = std::vector<std::uint16_t>(kIdPlaces);
+    std::vector<std::uint16_t> firstRows = std::vector<std::uint16_t>(kDenseIndexCount);
     int count = 0;
 
     TextTable(const Model& model, Pool& pool) {
@@ -201,7 +201,7 @@ std::string texts(const Model& model) {
            table.definition +
            "const int DefParamTextCount = kDefParamTextRows;\nnamespace talux {\nconst int kTexts = " +
            number(table.count) + ";\n" +
-           numbers("const std::uint16_t kTextRows[kIdPlaces]", table.firstRows) + "}\n";
+           numbers("const std::uint16_t kTextRows[kDenseIndexCount]", table.firstRows) + "}\n";
 }
 
 // The rows and texts for programs that are tested without the library, defined by talux/fake.hpp.

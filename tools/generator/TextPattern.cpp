@@ -40,7 +40,7 @@ struct CutAtList {
     bool isPlace() const { return list == "n" || list == "m"; }
 };
 
-// An element of a list in braces: as it stands in the name and as texts show it.
+// An element of a list in braces: as it appears in the name and in texts.
 struct Element {
     std::string name, shown;
 };

@@ -18,13 +18,13 @@ struct SeriesMember {
     std::string name, n, m;
 };
 
-// What a name with up to two lists in braces stands for.
+// The names that a pattern with up to two lists in braces stands for.
 std::vector<SeriesMember> membersOf(std::string_view pattern);
 
-// Every name that the patterns, divided by blanks, stand for: "cos_SigDel U{1..3}_prim".
+// Every name that the patterns, separated by blanks, stand for: "cos_SigDel U{1..3}_prim".
 std::vector<std::string> namesOf(std::string_view patterns);
 
-// The texts of a list divided by "|"; places {n} and {m} stay.
+// The texts of a list separated by "|"; {n} and {m} are not replaced.
 std::vector<std::string> textsOf(std::string_view list);
 
 // A text with {n} and {m} replaced by what the member shows.

@@ -125,7 +125,7 @@ void checkTitles(const std::vector<Text>& rows, const std::string& name) {
     }
 }
 
-// A template may have texts for the first of its choices only; names go with a text for each.
+// A template may have texts for its first choices only; names require a text for each.
 void checkChoices(const parameters::Row& row) {
     const std::size_t texts = textsOf(row.texts.items[parameters::kGroupArgs].en).size();
     const std::vector<std::string> names = choiceNames(row);

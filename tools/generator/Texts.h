@@ -19,7 +19,7 @@ struct Text {
     std::string text;
 };
 
-// In the order of the subjects. What breaks a rule is reported, once a row.
+// In the order of the subjects. Broken rules are reported, once per row.
 std::vector<Text> expand(const std::vector<TextSubject>& subjects, Faults& faults);
 
 // What C++ programs call the choices of a row: "kAutomatic"; empty where it has none of its own with a text

@@ -12,7 +12,7 @@ namespace {
 
 using namespace talux::generator;
 
-// A file that has its content already keeps its time, so that nothing is compiled for nothing.
+// A file that already has its content keeps its time stamp, so nothing is recompiled without need.
 bool write(const std::string& path, const std::string& content) {
     return talux::contentOf(path) == content || talux::replaceFile(path, content);
 }

@@ -57,12 +57,12 @@ using Listing = std::vector<ListingRow>;
 // Of the compiled-in dictionary.
 Listing listing();
 
-// As a file, tab-separated, and back. Numbers have no needless digits, texts stand in quotes, what does not
-// apply is empty. An indexed parameter has one row. Lines with "#" sum up.
+// As a file, tab-separated, and back. Numbers have no needless digits, texts are in quotes, what does not
+// apply is empty. An indexed parameter has one row. Lines with "#" are summaries.
 std::string print(const Listing& listing);
 Listing parse(std::string_view file);
 
-// One line for every row that differs: what is new, gone, other.
+// One line for every row that differs: added, removed or changed.
 std::vector<std::string> changes(const Listing& before, const Listing& after);
 
 } // namespace talux::interface

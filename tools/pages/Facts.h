@@ -1,4 +1,4 @@
-// What every page says of a parameter beside its texts.
+// What every page says about a parameter besides its texts.
 #ifndef TALUX_PAGES_FACTS_H
 #define TALUX_PAGES_FACTS_H
 

@@ -58,7 +58,7 @@ std::string limitsLine(const Parameter& parameter) {
         return hasLimits(parameter)    ? reference::rangeText(parameter, kEnglish)
                : parameter.isSetting() ? "no limits specified"
                                        : "";
-    return joined({"choice ", reference::shortNumber(parameter.leastNumber()), " to ",
+    return joined({"choice ", reference::shortNumber(parameter.lowestNumber()), " to ",
                    reference::shortNumber(parameter.row().val_max),
                    refusesBelowOne(parameter) ? "" : "; 0 and below are **not refused**"});
 }

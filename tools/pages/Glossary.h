@@ -275,7 +275,7 @@ inline constexpr Word kDeviceWords[] = {
      "Language in which scripts and programs read and write parameters."},
 };
 
-// What people look for under words that no title has, in both languages.
+// What people search for with words that no title contains, in both languages.
 struct Synonym {
     std::string_view words;
     std::string_view parameters; // names and patterns of series

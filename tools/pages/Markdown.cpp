@@ -10,7 +10,7 @@ std::string_view stem(std::string_view text) {
     return text.substr(0, text.find_last_not_of("0123456789") + 1);
 }
 
-// The same text again, or the same with the next number behind it.
+// The same text again, or the same with the next number after it.
 bool continues(std::string_view text, std::string_view next) {
     if (text == next) return true;
     const std::string_view a = stem(text), b = stem(next);

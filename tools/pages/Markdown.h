@@ -13,7 +13,7 @@ namespace talux::pages {
 inline constexpr std::string_view kGenerated =
     "<!-- Made by scripts/dictionary.sh from the rows of the parameters; change those. -->\n";
 
-// A text with the characters that mean something in Markdown made plain.
+// A text with the special characters of Markdown escaped.
 std::string escaped(std::string_view text);
 
 // Adds a line to the cell of a table.
@@ -25,7 +25,7 @@ std::string fileOf(const stParamFamily& family);
 std::string linkTo(const Parameter& parameter);
 std::string linkTo(std::string_view name);
 
-// "1 = none · 2 = odd · 3 = even"; runs of numbered texts and of the same text are drawn together.
+// "1 = none · 2 = odd · 3 = even"; runs of numbered texts and of the same text are merged.
 std::string listOf(const std::vector<reference::Choice>& choices);
 
 } // namespace talux::pages

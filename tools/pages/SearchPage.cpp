@@ -14,7 +14,7 @@ using tool::Json;
 
 constexpr std::string_view kBegin = "<script id=\"data\" type=\"application/json\">", kEnd = "</script>";
 
-// What is empty is left out.
+// Empty values are left out.
 void add(Json& object, std::string_view key, Json value) {
     if (!value.isEmpty()) object.set(key, std::move(value));
 }
@@ -61,9 +61,9 @@ Json sharedChoices() {
 
 void addLimits(Json& object, const Parameter& parameter) {
     if (!parameter.hasNumber()) return;
-    if (parameter.leastNumber() != kNoMin) object.set("min", number(parameter.leastNumber()));
+    if (parameter.lowestNumber() != kNoMin) object.set("min", number(parameter.lowestNumber()));
     if (isChoice(parameter) && !refusesBelowOne(parameter)) object.set("lax", 1);
-    if (parameter.mostNumber() != kNoMax) object.set("max", number(parameter.mostNumber()));
+    if (parameter.highestNumber() != kNoMax) object.set("max", number(parameter.highestNumber()));
 }
 
 void addValue(Json& object, const Parameter& parameter) {
@@ -141,7 +141,7 @@ std::string data() {
         .lines();
 }
 
-// Nothing in the data ends the element around them.
+// Nothing in the data may end the element around it.
 std::string inHtml(const std::string& json) {
     std::string text;
     for (const char c : json)

@@ -52,7 +52,7 @@ std::string numberAt(const Parameter& parameter, const Run& run) {
     return std::string(name.substr(run.at, name.find_first_not_of(kDigits, run.at) - run.at));
 }
 
-// Where a name may count: numbers of three digits are names themselves, as in T104 and U0_250_abs.
+// The numbers of a name that may count; those of three digits belong to the name, as in T104 and U0_250_abs.
 std::vector<Run> countersIn(const Parameter& parameter) {
     std::vector<Run> runs = digitRuns(parameter.name());
     std::erase_if(runs, [](const Run& run) { return run.size > 2; });

@@ -1,4 +1,4 @@
-// Keeps what is printed from the dictionary and committed: docs/interface.tsv and docs/parameters.
+// Checks or writes what is generated from the dictionary and committed: docs/interface.tsv, docs/parameters.
 //
 //   dictionary --check PROJECT   names what is not up to date, and says what a change of the interface means
 //   dictionary --accept PROJECT  writes it
@@ -36,12 +36,12 @@ void explain(const std::string& before) {
     std::puts("The device's other programs rely on that: do they agree?");
 }
 
-// What is on disk and differs; with `isAccepted` it is written or removed.
-class Kept {
+// The files on disk that differ; with `isAccepted` they are written or removed.
+class Committed {
 public:
-    explicit Kept(bool accepted) : isAccepted(accepted) {}
+    explicit Committed(bool accepted) : isAccepted(accepted) {}
 
-    void keep(const path& file, const std::string& content) {
+    void renew(const path& file, const std::string& content) {
         const std::string before = contentOf(file);
         if (before == content) return;
         ++differing;
@@ -63,18 +63,18 @@ private:
     int differing = 0;
 };
 
-int keepAll(const path& project, bool isAccepted) {
+int renewAll(const path& project, bool isAccepted) {
     const path folder = project / "docs/parameters";
     const pages::Pages pages = allPages(folder);
-    Kept kept(isAccepted);
-    kept.keep(project / "docs/interface.tsv", interface::print(interface::listing()));
+    Committed committed(isAccepted);
+    committed.renew(project / "docs/interface.tsv", interface::print(interface::listing()));
     for (const auto& [file, content] : pages)
-        kept.keep(folder / file, content);
+        committed.renew(folder / file, content);
     for (const auto& entry : std::filesystem::directory_iterator(folder))
-        if (!pages.contains(entry.path().filename())) kept.drop(entry.path());
-    if (kept.status() != 0)
-        std::puts("scripts/dictionary.sh --accept renews what is kept; look at it and commit it.");
-    return kept.status();
+        if (!pages.contains(entry.path().filename())) committed.drop(entry.path());
+    if (committed.status() != 0)
+        std::puts("scripts/dictionary.sh --accept renews the files; look at them and commit them.");
+    return committed.status();
 }
 
 } // namespace
@@ -89,7 +89,7 @@ int main(int argc, char** argv) {
         const auto faults = pages::faults();
         for (const std::string& fault : faults)
             std::puts(fault.c_str());
-        return faults.empty() ? keepAll(argv[2], what == "--accept") : 1;
+        return faults.empty() ? renewAll(argv[2], what == "--accept") : 1;
     } catch (const generator::BrokenRule& rule) {
         std::printf("tools/pages: %s\n", rule.text.c_str());
         return 1;

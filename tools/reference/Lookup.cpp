@@ -15,7 +15,7 @@ bool isSame(char a, char b) {
     return lowerAscii(a) == lowerAscii(b);
 }
 
-// Which beginnings of the name fit the pattern so far, from none of it to all of it.
+// Which prefixes of the name match the pattern so far, from the empty one to the whole name.
 bool fitsPattern(std::string_view name, std::string_view pattern) {
     std::vector<char> fitting(name.size() + 1);
     fitting[0] = 1;

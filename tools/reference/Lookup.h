@@ -1,4 +1,5 @@
-// What people call things: a parameter, a series, a pattern, a member of a record, an id, a choice, a method.
+// What people may mean by a word: a parameter, a series, a pattern, a member of a record, an id, a choice, a
+// method.
 #ifndef TALUX_TOOLS_REFERENCE_LOOKUP_H
 #define TALUX_TOOLS_REFERENCE_LOOKUP_H
 
@@ -16,7 +17,7 @@ using Parameters = std::vector<const Parameter*>;
 
 bool containsIgnoringCase(std::string_view text, std::string_view part);
 
-// Whether a name fits a pattern, which has "*" or "?", or holds a text without them. Letter case is ignored.
+// Whether a name matches a pattern with "*" or "?", or contains a text without them. Letter case is ignored.
 bool isPattern(std::string_view text);
 bool fits(std::string_view name, std::string_view pattern);
 
@@ -27,10 +28,10 @@ Parameters named(std::string_view name);
 // "BAassign1..8, LEDassign1"
 std::string inShort(const Parameters& parameters);
 
-// "MessRecord01.U1p", or "U1p" in whichever records have it.
+// "MessRecord01.U1p", or "U1p" in each record that has it.
 std::vector<Member> membersNamed(std::string_view name);
 
-// That of the parameter with the same quantity.
+// The unit of the parameter with the same quantity.
 std::string unitOf(const Member& member);
 
 // One meaning of a number, with the parameters that can be set to it.

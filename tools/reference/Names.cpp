@@ -71,7 +71,7 @@ std::string_view nearest(std::string_view name) {
     std::string_view best;
     for (const auto& [known, place] : nameIndex()) {
         const std::size_t longer = std::max(wanted.size(), known.size());
-        if (longer - std::min(wanted.size(), known.size()) >= least) continue; // as many steps at least
+        if (longer - std::min(wanted.size(), known.size()) >= least) continue; // at least as many steps
         const std::size_t steps = distance(wanted, known);
         if (steps >= least) continue;
         least = steps;

@@ -7,7 +7,7 @@ namespace talux::reference {
 
 namespace {
 
-// The gap is the range or the limit.
+// The gap takes the range or the limit.
 struct Description {
     Reason reason;
     const char* code;

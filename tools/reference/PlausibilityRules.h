@@ -1,5 +1,5 @@
-// What is reported of settings that the device accepts but that are implausible: one row a rule. Nothing is
-// refused for it. What is not documented has no rule.
+// What is reported about settings that the device accepts but that are implausible: one row per rule. Nothing
+// is refused because of it. What is not documented has no rule.
 #ifndef TALUX_TOOLS_REFERENCE_PLAUSIBILITYRULES_H
 #define TALUX_TOOLS_REFERENCE_PLAUSIBILITYRULES_H
 
@@ -10,7 +10,7 @@ namespace talux::reference {
 // A fault cannot be right; a doubt may be meant.
 enum class Gravity { fault, doubt };
 
-// How a rule reads its parameters. What is not there, of an incomplete set, breaks none.
+// How a rule reads its parameters. Parameters that an incomplete set lacks break no rule.
 enum class Test {
     range,      // every number lies in the range of its row
     choice,     // every choice counts from 1
@@ -43,7 +43,7 @@ struct PlausibilityRule {
 
 // No limit.
 inline constexpr double kAny = 1e300;
-// The least that is more than 0 to a float.
+// The smallest float above 0.
 inline constexpr double kAboveZero = 1e-37;
 
 inline constexpr PlausibilityRule kPlausibilityRules[] = {

@@ -45,7 +45,7 @@ int Parameter::writeLevel() const {
 
 int Parameter::textRoom() const {
     if (!isText(row()) || type().kind == Kind::None) return 0;
-    return static_cast<int>(blockOf(type().kind).slot) - 1;
+    return static_cast<int>(blockOf(type().kind).slotSize) - 1;
 }
 
 int Parameter::lineRoom() const {
@@ -106,12 +106,12 @@ std::string shortNumber(double value) {
 
 std::string rangeText(const Parameter& parameter, ParamLanguage language) {
     const bool german = language == kGerman;
-    const bool hasLeast = parameter.leastNumber() != kNoMin, hasMost = parameter.mostNumber() != kNoMax;
-    const std::string least = shortNumber(parameter.leastNumber()),
-                      most = shortNumber(parameter.mostNumber());
-    if (hasLeast && hasMost) return least + (german ? " bis " : " to ") + most;
-    if (hasMost) return (german ? "bis " : "up to ") + most;
-    return hasLeast ? (german ? "ab " : "from ") + least : std::string();
+    const bool hasMin = parameter.lowestNumber() != kNoMin, hasMax = parameter.highestNumber() != kNoMax;
+    const std::string min = shortNumber(parameter.lowestNumber()),
+                      max = shortNumber(parameter.highestNumber());
+    if (hasMin && hasMax) return min + (german ? " bis " : " to ") + max;
+    if (hasMax) return (german ? "bis " : "up to ") + max;
+    return hasMin ? (german ? "ab " : "from ") + min : std::string();
 }
 
 std::span<const StructMemberProperties_t> members(const Parameter& record) {

@@ -1,5 +1,5 @@
-// What the model of the dictionary says of a parameter: its texts, its range, its file and its family. Needs
-// no store.
+// What the model of the dictionary says about a parameter: its texts, its range, its file and its family.
+// Needs no store.
 #ifndef TALUX_TOOLS_REFERENCE_H
 #define TALUX_TOOLS_REFERENCE_H
 
@@ -18,7 +18,7 @@
 
 namespace talux::reference {
 
-using File = ParameterFile; // that keeps a setting
+using File = ParameterFile; // that a setting is saved in
 using talux::fileName;
 
 using model::kChoices, model::kMessages, model::kErrors;
@@ -49,8 +49,8 @@ public:
     bool hasMaximum() const { return row().val_max != kNoMax; }
     // What the rules know of it; of a text, its slot.
     rules::Facts facts() const;
-    double leastNumber() const { return facts().least(); }
-    double mostNumber() const { return facts().most(); }
+    double lowestNumber() const { return facts().lowest(); }
+    double highestNumber() const { return facts().highest(); }
     File file() const { return fileOf(row()); }
     // Rights level that a write takes; 0 where nothing can be written.
     int writeLevel() const;
@@ -58,13 +58,12 @@ public:
     int textRoom() const;
     // Longest text that is intended and kept, in characters; 0 for numbers.
     int textLength() const { return std::min(facts().characters, textRoom()); }
-    // Longest text, in bytes, that a line of the language can write: a term has 127 characters, of which
-    // prefix, name,
-    // "=" and two quotes take some.
+    // Longest text, in bytes, that a line of the language can write: a term has 127 characters, including
+    // prefix, name, "=" and two quotes.
     int lineRoom() const;
     // Factory default as a number or a text; empty where there is none.
     std::string defaultValue() const;
-    // Its own notes and those of its template, as places in those of the model.
+    // Its own notes and those of its template, as indexes of those of the model.
     std::vector<int> notes() const;
 
     // Texts; empty where there is none. A setting with a template has the template's choices.
@@ -103,13 +102,12 @@ const char* codeOf(Reason reason);
 // The three records, their members and the kind of each: see ARR_StructMemberProperties.
 std::span<const StructMemberProperties_t> members(const Parameter& record);
 
-// ---- The model that is linked: compiled into the program talux, made by the program dictionary.
-// --------------
+// ---- The model that is linked: compiled into the program talux, made by the program dictionary ---------
 
 const model::Model& model();
 
-inline const model::Note& noteAt(int place) {
-    return model().notes[static_cast<std::size_t>(place)];
+inline const model::Note& noteAt(int index) {
+    return model().notes[static_cast<std::size_t>(index)];
 }
 
 // Every parameter in menu order, an indexed one once; templates and dialogs included.

@@ -25,7 +25,7 @@ bool isDevicesProcessor() {
 
 // Whether some program has given the settings values.
 bool isRunning(const Context& context) {
-    attachDevice(Attachment::readWrite, context); // which it stays
+    attachDevice(Access::readWrite, context); // which it stays
     const Source live = Source::open("live", context);
     return std::ranges::any_of(settings(), [&live](const Parameter& parameter) {
         const auto value = live.value(parameter);

@@ -239,8 +239,8 @@ Json described(const Parameter& parameter, const std::vector<Source>& sources) {
                 {"setting", parameter.isSetting()},
                 {"file", reference::fileName(parameter.file())},
                 {"write_level", parameter.writeLevel()}};
-    if (parameter.hasNumber() && parameter.leastNumber() != kNoMin)
-        object.set("min", parameter.leastNumber());
+    if (parameter.hasNumber() && parameter.lowestNumber() != kNoMin)
+        object.set("min", parameter.lowestNumber());
     if (parameter.hasNumber() && parameter.hasMaximum()) object.set("max", row.val_max);
     if (parameter.isIndexed())
         object.set("elements", Json::arrayOf(std::array{row.val_min_id, row.val_max_id}));

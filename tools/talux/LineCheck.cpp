@@ -304,7 +304,7 @@ private:
         const Nature nature = subject->type().nature;
         const std::string value = nature == Nature::date   ? "2024-01-01"
                                   : nature == Nature::time ? "00:00:00"
-                                                           : reference::shortNumber(subject->leastNumber());
+                                                           : reference::shortNumber(subject->lowestNumber());
         const std::string whole = joined({term.substr(0, term.find('=')), "=", value});
         const Decision accepted = kepl::decide(whole, asked.uid);
         if (accepted.isRefused()) refuse(reasonOf(accepted, context));

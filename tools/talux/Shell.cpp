@@ -199,7 +199,7 @@ private:
 };
 
 Status run(const Options& options, const Context& context) {
-    attachDevice(Attachment::readWrite, context);
+    attachDevice(Access::readWrite, context);
     return Shell(options, context).run();
 }
 

@@ -46,7 +46,7 @@ void readEntries(const std::string& path, const Context& context,
 Source Source::open(const std::string& name, const Context& context) {
     if (name == "default") return defaults();
     if (isDevice(name)) {
-        attachDevice(Attachment::readOnly, context);
+        attachDevice(Access::readOnly, context);
         return Source(name == "live" ? Origin::live : Origin::staged, name);
     }
     Source source(Origin::file, name);
@@ -108,8 +108,8 @@ std::optional<Value> Source::value(int id) const {
     return found == held.end() ? std::nullopt : std::optional(found->second);
 }
 
-void attachDevice(Attachment attachment, const Context& context) {
-    const char* const missing = attachExisting(attachment);
+void attachDevice(Access access, const Context& context) {
+    const char* const missing = attachExisting(access);
     if (missing == nullptr) return;
     const int error = errno;
     throw CouldNot(

@@ -59,7 +59,7 @@ private:
 };
 
 // Attaches what other programs have made; throws CouldNot when there is nothing.
-void attachDevice(Attachment attachment, const Context& context);
+void attachDevice(Access access, const Context& context);
 
 // Whether the device's segments are there; looks without attaching.
 bool isDeviceThere();

@@ -263,7 +263,7 @@ Status run(Options& options, const Context& context) {
     std::optional<Condition> until;
     if (!options.until.empty()) until.emplace(options.until, context);
     auto items = watchedBy(options, until, context);
-    attachDevice(Attachment::readOnly, context);
+    attachDevice(Access::readOnly, context);
     std::signal(SIGINT, requestStop);
     std::signal(SIGTERM, requestStop);
     const bool holds = Watch(options, std::move(items), context).run(until);

@@ -245,7 +245,7 @@ Added<Order> addChange(CommandLine& line, const char* name, ChangeCommand change
 }
 
 void attachToWrite(const Context& context) {
-    attachDevice(Attachment::readWrite, context);
+    attachDevice(Access::readWrite, context);
     std::string directory = context.directory;
     VarInit(directory.data());
 }

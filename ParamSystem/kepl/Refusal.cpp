@@ -1,6 +1,6 @@
 // The two-language texts of the refusals. German is UTF-8.
-#include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/kepl/Refusal.h"
+#include "ParamSystem/KEPL_Interpreter.h"
 #include "support/EnumRows.h"
 
 KeplText szIndexNotANumber = {"<< INDEX MUSS EINE ZAHL SEIN >>", "<< INDEX MUST BE A NUMBER >>"};
