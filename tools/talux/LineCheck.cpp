@@ -248,7 +248,7 @@ private:
         const bool isDate = typeOf(*variable->row).nature == Nature::date;
         const long first = numbers[0], second = numbers[1], third = numbers[2];
         char moment[40];
-        formatText(moment, sizeof moment, isDate ? "%04ld-%02ld-%02ld" : "%02ld:%02ld:%02ld", first, second,
+        formatText(moment, sizeof moment, isDate ? "%ld-%02ld-%02ld" : "%02ld:%02ld:%02ld", first, second,
                    third);
         if (const auto objection =
                 rules::check(subject->facts(), std::string_view(moment), {Reason::noDate, Reason::noTime}))
