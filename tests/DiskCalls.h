@@ -1,4 +1,4 @@
-// What a save asks of the disk and what it prints, in one list; any of these calls can be made to fail. A
+// The disk calls of a save and what it prints, in one list; any of these calls can be made to fail. A
 // test program includes this once: its functions take the place of the C library's for the module, too.
 #ifndef TALUX_TEST_DISKCALLS_H
 #define TALUX_TEST_DISKCALLS_H
@@ -23,7 +23,7 @@ inline std::function<void()> onStep;
 
 constexpr long kReally = -1;
 inline constinit long slept = kReally; // milliseconds of a clock that goes on with sleeps only
-inline std::function<void()> onSleep;  // what the others do meanwhile
+inline std::function<void()> onSleep;  // what other programs do meanwhile
 
 struct Step {
     std::string what; // "call detail"; with a "!" at its end it failed
@@ -31,7 +31,7 @@ struct Step {
     std::string name = {}, newName = {}, data = {};
 };
 inline std::vector<Step> steps;
-inline std::string shared; // what others saw in the store at the last step
+inline std::string shared; // what other programs saw in the store at the last step
 
 inline void push(Step step) {
     watching = false;
@@ -58,7 +58,7 @@ inline void note(const std::string& what, int descriptor = -1, std::string name 
     errno = error;
 }
 
-// Whether this call is the one that is hit; `moved` is then halved or the call fails.
+// Whether this is the call to fail; `moved` is then halved, or the call fails.
 inline bool fails(const char* call, const std::string& what = {}, std::size_t* moved = nullptr) {
     if (!watching || (fault == kShort && moved == nullptr) || callsBeforeFault-- != 0) return false;
     failedCall = call;
@@ -129,7 +129,7 @@ int fsync(int file) { // takes its time on a real disk
     talux_test::note("sync", file);
     return 0;
 }
-int close(int file) { // closes whatever it says
+int close(int file) { // closes even if it fails
     const int result = talux_test::next(&close, "close")(file);
     return talux_test::fails("close") ? -1 : result;
 }

@@ -1,4 +1,4 @@
-// How far a test is from the machine that it runs on; scripts/isolated.sh says what the words mean.
+// How a test is isolated from the machine that it runs on; scripts/isolated.sh explains the words.
 #ifndef TALUX_TEST_ISOLATION_H
 #define TALUX_TEST_ISOLATION_H
 
@@ -24,7 +24,7 @@ inline bool anyOwner() {
 
 } // namespace talux_test
 
-// First line of a test that would touch what it may not; the reason tells what it would have touched.
+// First line of a test that would touch what it may not; the reason names that.
 #define TALUX_NEEDS_ISOLATION(reason)                                                                        \
     if (!talux_test::isolated()) GTEST_SKIP() << "without namespaces: " reason
 #define TALUX_NEEDS_ANY_OWNER(reason)                                                                        \

@@ -1,4 +1,4 @@
-// A literal model of the command language. It works on the store itself and notes what it would do to the
+// A literal model of the command language. It works on the store itself and records what it would do to the
 // machine.
 #ifndef TALUX_TEST_KEPLMODEL_H
 #define TALUX_TEST_KEPLMODEL_H
@@ -71,13 +71,6 @@ inline std::optional<std::int32_t> makeLong(const std::string& text) {
 
 inline std::string print(double number, int type) {
     return std::isnan(number) ? "nan" : format(type >= 2004 && type <= 2010 ? "%.0f" : "%f", number);
-}
-
-inline std::string hex(const std::string& bytes) {
-    std::string text;
-    for (const char c : bytes)
-        text += format("%02X", static_cast<unsigned char>(c));
-    return text;
 }
 
 inline int resultType(int left, int right) {

@@ -1,6 +1,6 @@
-// The machine around the module, made of paper: commands, pipes, clock, system log, board and interfaces are
-// noted instead of used. A test program includes this once: its functions take the place of the C library's
-// for the module, too.
+// The machine around the module, simulated: commands, pipes, clock, system log, board and interfaces are
+// recorded instead of used. A test program includes this once: its functions take the place of the C
+// library's for the module, too.
 #ifndef TALUX_TEST_MACHINE_H
 #define TALUX_TEST_MACHINE_H
 
@@ -42,7 +42,7 @@ struct Machine {
     int openPipes = 0;
     std::map<std::string, std::string> addresses; // "eth0:1", its netmask at "eth0:1/"
     bool socketsFail = false;
-    std::jmp_buf* processEnd = nullptr; // where exit() goes on; null: the process ends
+    std::jmp_buf* processEnd = nullptr; // where exit() jumps to; null: the process ends
     std::size_t allocations = 0;        // of memory by others than the machine
     int working = 0;                    // calls into the machine that are not over
 };
@@ -63,7 +63,7 @@ Function* real(const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-// How often the heap was asked while `action` ran. Nothing is seen where a sanitizer has its own heap.
+// The number of allocations while `action` ran; 0 under a sanitizer with its own heap.
 template <typename Action>
 std::size_t allocationsOf(const Action& action) {
     const std::size_t before = machine.allocations;
@@ -89,7 +89,7 @@ inline FILE* reader(const std::string& text) {
     return stream;
 }
 
-// What is written to the error stream meanwhile lands in machine.errors.
+// What is written to the error stream meanwhile goes to machine.errors.
 class ErrorStream {
 public:
     // With _IOFBF a line that is not flushed comes too late.
@@ -114,7 +114,7 @@ private:
     FILE* const own = stderr;
 };
 
-// A new machine, of which no pipe is left at the end.
+// A new machine; at the end all its pipes must be closed.
 class Watched {
 public:
     Watched() { machine = {}; }

@@ -1,4 +1,4 @@
-// What a test expects of a message whose characters stand for themselves.
+// Expected messages of death tests, in which every character is literal.
 #ifndef TALUX_TEST_MESSAGES_H
 #define TALUX_TEST_MESSAGES_H
 

@@ -48,7 +48,7 @@ double numberIn(const char* slot) {
     return static_cast<double>(number);
 }
 
-// The layout once more, in the order of the offsets, which is the order of the locks, too.
+// The layout once more, in the order of the offsets, which is also that of the locks.
 struct Block {
     const char* name;
     int (*is)(int id);
@@ -84,6 +84,39 @@ inline constexpr Block kBlocks[] = {
     {"Ip", VarIsIp, 2018, 16000, 38, 18740, 20},
 };
 
+// The temporary space, the global one and the records.
+inline std::string image() {
+    return bytes(raw(kTemp), kSpaceSize) + bytes(raw(kGlobal), kSpaceSize) +
+           bytes(rawRecords(), kRecordsSize);
+}
+inline std::string hex(const std::string& bytes) {
+    std::string text;
+    for (const char c : bytes)
+        text += "0123456789ABCDEF"[c >> 4 & 15], text += "0123456789ABCDEF"[c & 15];
+    return text;
+}
+// Where two images differ, one slot per line, at most ten: "temporary Long 6012: 07000000, expected
+// 08000000".
+inline std::string differences(const std::string& actual, const std::string& expected) {
+    if (actual == expected) return "";
+    std::string text;
+    int count = 0;
+    const auto compare = [&](std::size_t at, std::size_t size, const std::string& what, std::size_t number) {
+        if (actual.compare(at, size, expected, at, size) == 0 || ++count > 10) return;
+        text += what + ' ' + std::to_string(number) + ": " + hex(actual.substr(at, size)) + ", expected " +
+                hex(expected.substr(at, size)) + "\n";
+    };
+    for (const int space : {kTemp, kGlobal})
+        for (const Block& block : kBlocks)
+            for (int id = block.first; id < block.end(); ++id)
+                compare(static_cast<std::size_t>(space) * kSpaceSize + block.slotOf(id), block.size,
+                        std::string(space == kTemp ? "temporary " : "global ") + block.name,
+                        static_cast<std::size_t>(id));
+    for (std::size_t at = 2 * kSpaceSize; at < expected.size(); at += 4)
+        compare(at, 4, "records at", at - 2 * kSpaceSize);
+    return text;
+}
+
 inline double* asValue(char* text) {
     return reinterpret_cast<double*>(text);
 }
@@ -93,6 +126,12 @@ class Random {
 public:
     // 0 .. count - 1
     int below(int count) { return std::uniform_int_distribution<int>(0, count - 1)(engine); }
+    // One of the texts between bars.
+    std::string one(std::string_view texts) {
+        for (auto k = below(1 + static_cast<int>(std::ranges::count(texts, '|'))); k > 0; --k)
+            texts.remove_prefix(texts.find('|') + 1);
+        return std::string(texts.substr(0, texts.find('|')));
+    }
     void fill(char* memory, std::size_t size) {
         std::generate_n(memory, size, [this] { return static_cast<char>(below(256)); });
     }

@@ -1,6 +1,6 @@
-// Linked into every test program: a test fails that leaves more or less of the process than it found, a lock
-// of the store that it still holds for instance. So does the module when it closes a file that a program
-// started meanwhile would have inherited, and a thread that waits for a lock for a minute.
+// Linked into every test program: a test fails if it leaves the process in another state, such as with a lock
+// of the store still held; also if the module closes a file that a program started meanwhile would have
+// inherited, or a thread waits for a lock for a minute.
 #include "Isolation.h"
 
 #include "ParamSystem/dictionary/Types.h"

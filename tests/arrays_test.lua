@@ -28,7 +28,7 @@ local tables = {long = talux_longarray, double = talux_doublearray}
 local arrays, modelOf = {}, {} -- an array's model: kind, size, elements from 0 on
 local lastError = ""
 
--- What each function must do: results, or nil and the text of an error behind "bad argument ".
+-- What each function must return: results, or nil and the text of an error after "bad argument ".
 local function get(array, name, first, last)
   local function refuse(text) lastError = text:sub(1, 99) end
   local text = (type(name) == "string" or type(name) == "number") and tostring(name) or ""

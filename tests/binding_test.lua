@@ -22,7 +22,7 @@ case("a line gives one string without its last newline", function()
   for _, row in ipairs {
     {42, "42.000000"},
     {"nonsense", syntaxError},
-    {"", ""}, -- an error is forgotten once it has been told
+    {"", ""}, -- an error is forgotten once it has been returned
     {"TLX_FW_BLOCK=1", ""}, -- with full rights
     {"TLX_Name=\"Feeder 7\",tlx_name", "\"Feeder 7\""},
     {"TLX_vBE", "<< INDEX REQUIRED >>"},

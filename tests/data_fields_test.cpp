@@ -53,7 +53,7 @@ void expectEnd(const std::string& line, SetField<Field> set, const char* what,
                 testing::Eq(std::string("\nError (M): no ") + what + " for field 'f'\nclosed"));
 }
 
-// Asked before the first test, so that nobody has reset the space yet.
+// Called before the first test, so that nothing has reset the space yet.
 const char* const savedBeforeReset = Data_StringSave("");
 
 } // namespace

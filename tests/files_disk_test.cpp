@@ -52,7 +52,7 @@ protected:
         VarSetIpValue(16000, std::to_string(value).data());
     }
 
-    // The old files lie there, others are live, and others still pending.
+    // The old files exist; other values are live, and again others are pending.
     void begin() {
         for (const std::string& name : namesIn(directory))
             fs::remove(directory / name);
@@ -65,7 +65,7 @@ protected:
             VarSetGlobalBoolValue(flag, 0);
     }
 
-    // `error` hits the call after so many others.
+    // The call after so many others fails with `error`.
     Outcome perform(const Operation& operation, int error = 0, int after = -1) {
         fault = error, callsBeforeFault = after, failedCall = "";
         steps.clear(), shared.clear();
@@ -100,7 +100,7 @@ protected:
         EXPECT_TRUE(holds(fresh[operation.files[0]], operation.channel));
     }
 
-    // Every file is the old or the new one, whole; nothing else lies there. Whether all are new.
+    // Every file is the old or the new one, whole; there are no others. Returns whether all are new.
     bool isFresh(const Operation& operation) {
         bool all = true;
         for (const std::string& name : namesIn(directory))
@@ -161,7 +161,7 @@ std::pair<std::vector<std::string>, int> order(const Operation& operation, int f
         const bool isAddress = file == "ip_config.ini", isCopy = file.ends_with(kDatedCopy);
         if (isForAll ? isAddress : !isCopy) all.push_back("commit");
         for (const Rule& rule : kRules) {
-            if (isAddress && rule.then == Then::goesOn) continue; // it keeps what it has
+            if (isAddress && rule.then == Then::goesOn) continue; // it leaves the file as it is
             const bool hasFailed = failing-- == 0;
             all.push_back(filled(rule.step, file, error) + (hasFailed ? "!" : ""));
             if (!hasFailed) continue;
@@ -206,7 +206,8 @@ TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
                     (refuses &&
                      (failed == "make!" || failed == "open directory!" || holds(failed, "rename")));
                 if (isQuiet && passes && (loads || !failed.empty() || error == kShort)) {
-                    EXPECT_TRUE(result == 1 && (loads || (all && now.back() == raiseOf(operation))));
+                    EXPECT_TRUE(result == 1 && (loads || (all && now.back() == raiseOf(operation))))
+                        << "result " << result << ", steps " << testing::PrintToString(now);
                 } else if (!loads) {
                     EXPECT_EQ(std::pair(now, result), order(operation, number, error));
                 }
@@ -230,7 +231,7 @@ TEST_F(Disk, ALoadRaisesItsFlagAfterwards) {
     }
 }
 
-// A save that says it worked has put file and copy in place; one that says it did not has given the reason.
+// A save that reports success has replaced file and copy; one that reports failure has given the reason.
 template <SavedFile file>
 int saveTruly() {
     const int error = VarSaveError(file);
@@ -417,7 +418,7 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
                                "Error (TALUX_Var): '" + path + "' stays as it is \nwrite: File too large\n"));
     EXPECT_EQ(contents(other), "old");
 
-    // Whatever fails then is told, or the file is whole.
+    // Whatever fails then is reported, or the file is whole.
     const Operation inPlace{VarSaveParams, 8000, {"parameter.ini"}, ""};
     int faults = 0;
     for (const int error : {EINTR, kShort, ENOSPC})
@@ -461,7 +462,7 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
     close(reader);
 }
 
-// Who saves a file of whom: who has it then, and whether it is another file.
+// Who saves whose file: the owner afterwards, and whether it is a new file.
 TEST_F(Disk, TakesAFileFromNobody) {
     constexpr uid_t kNone = 9999;
     constexpr auto kIps = VarSaveIPConfig, kNormal = VarSaveParams;

@@ -108,7 +108,7 @@ protected:
         chmod(path.c_str(), 0640);
         const struct stat before = statusOf(path);
         EXPECT_EQ(outcomeOf([&] { return file.save(path.data()); }), Outcome(1, "", ""));
-        EXPECT_TRUE(contents(path) == whole) << contents(path) << "--\n" << whole;
+        EXPECT_EQ(contents(path), whole);
         const struct stat after = statusOf(path);
         const bool keeps = &file == &kIps;
         EXPECT_EQ(after.st_mode & 07777, keeps ? 0640 : 0775);
@@ -146,7 +146,7 @@ TEST_F(Save, WritesByteForByteWhatALoadBringsBack) {
             EXPECT_EQ(outcomeOf([&] { return VarLoadFile((directory / "file").string().data(), 0); }),
                       Outcome(1, "", ""));
             for (const int space : {kTemp, kGlobal})
-                ASSERT_TRUE(expected(*file, space) == whole) << whole << "--\n" << expected(*file, space);
+                ASSERT_EQ(expected(*file, space), whole) << "round " << round << " space " << space;
         }
     }
     std::memset(raw(kGlobal), '~', kSpaceSize); // long numbers and texts everywhere

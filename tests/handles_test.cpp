@@ -1,4 +1,4 @@
-// Typed handles beside the language: what one takes the other takes, and both find it in the same place.
+// Typed handles and the language: what one accepts the other accepts, and both read the same values.
 #include "src/talux_interpreter.h"
 #include "talux/notes.hpp"
 #include "talux/talux.hpp"

@@ -45,7 +45,7 @@ std::string answerOf(KEPL_Interpreter& interpreter, const std::string& line, int
     return answer.empty() ? "" : answer + "\n";
 }
 
-// Carries out the blocks of one page, which becomes what it should show; gives the number of examples.
+// Runs the blocks of one page, which becomes what it should show; returns the number of examples.
 int follow(KEPL_Interpreter& interpreter, std::string& page) {
     const std::string prompt = "kepl> ";
     std::istringstream lines(page);

@@ -15,7 +15,7 @@ std::vector<unsigned> sleeps;
 
 int usleep(useconds_t microseconds) {
     sleeps.push_back(microseconds);
-    return -1; // its errors are nobody's business
+    return -1; // its errors are ignored
 }
 
 struct LuaHost : testing::Test {

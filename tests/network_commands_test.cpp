@@ -144,7 +144,7 @@ void check(const Row& row) {
 
     const auto apply = row.step == kAll ? row.apply : kFunctions[row.step].apply;
     EXPECT_EQ(transcriptOf([&] { EXPECT_EQ(apply(), row.result); }), expected(row));
-    // Whoever sets an interface's addresses commits and saves.
+    // Setting the addresses of an interface commits and saves.
     const bool saves = row.step == kEth0 || row.step == kEth1 || row.step >= kWlan0;
     EXPECT_EQ(contents("/ip_config.ini").find("TLX_DNS=\"8.8.8.8\"\n") != std::string::npos, saves);
 }
@@ -217,7 +217,7 @@ TEST_F(SettingsCommands, FunctionsAndBranches) {
         {kRadio, "essid=" + quotes + "123456", {{"iwconfig wlan0 essid Net_1", quoted + "123456'"}}},
         {kRadio, "essid=" + quotes + "1234567",
          {{"iwconfig wlan0 essid Net_1", ": not run, 254 characters where 253 are allowed: iwconfig wlan0 essid %s"}}},
-        // What the shell takes as it is stands as it is; nothing stands for nothing.
+        // What is literal to the shell is not quoted; an empty text adds no word.
         {kRadio, "essid=", {{"essid Net_1", "essid "}}},
         {kRadio, "essid=Zür!c^h~1#", {{"essid Net_1", "essid Zür!c^h~1#"}}},
         {kRadio, "essid=~root", {{"essid Net_1", "essid '~root'"}}},

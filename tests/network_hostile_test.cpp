@@ -1,4 +1,4 @@
-// Whatever a stored text holds, the shell runs the intended command alone and hands the text over whole.
+// Whatever a stored text contains, the shell runs only the intended command and passes the text unchanged.
 #include <initializer_list>
 #include <regex.h>
 #include <spawn.h>
@@ -37,16 +37,16 @@ std::vector<std::string> hostileValues() {
     for (const char filling : {'x', '\'', '\\', ' ', '$'})
         values.emplace_back(127, filling);
     // Each way to start a command, in each surrounding that might let it out.
-    for (const auto& [before, behind] :
+    for (const auto& [before, after] :
          {std::pair{"", ""}, {"x ", ""}, {"'", ""}, {"'", "'"}, {"\"", ""}, {"\"", "\""}})
         for (const std::string command : {";>c", "&&>c", "||>c", "|>c", "\n>c", "&>c", "$(>c)", "`>c`"})
-            values.push_back(before + command + behind);
+            values.push_back(before + command + after);
     return values;
 }
 
 const std::vector<std::string> kValues = hostileValues();
 
-// Addresses of this test, which begin with 7, told by one word.
+// Addresses of this test, which begin with 7, replaced by one word.
 std::string withoutAddresses(std::string command) {
     static const regex_t address = [] {
         regex_t compiled;
@@ -64,7 +64,7 @@ bool fits(const std::string& value) {
     return value != std::string(127, '\'');
 }
 
-// A command with its arguments as the shell's functions note it, each word with a NUL behind it.
+// A command with its arguments as the shell's functions record it, a NUL after each word.
 std::string noted(std::initializer_list<std::string> words) {
     std::string text;
     for (const std::string& word : words)
@@ -73,7 +73,8 @@ std::string noted(std::initializer_list<std::string> words) {
 }
 
 // Runs each command in a process of the shell, where functions that note their arguments take the place of
-// programs. Behind each the file c, a side effect, is noted and removed, the file $1 is noted and emptied.
+// programs. After each, the file c, a side effect, is recorded and removed; the file $1 is recorded and
+// emptied.
 constexpr char kShellScript[] = R"(
 note() { printf '%s\0' "$@" >&3; echo >&3; }
 for program in ifconfig iwconfig ln rm; do eval "$program() { note $program \"\$@\"; }"; done

@@ -24,7 +24,7 @@ Parsed parsedBy(int (*parser)(const char*, Value*), const std::string& text) {
     return parsed(result, static_cast<double>(value));
 }
 template <typename Convert>
-Parsed told(const std::string& text, Convert convert) {
+Parsed expectedBy(const std::string& text, Convert convert) {
     int why;
     const auto value = parse(text, convert, why);
     return parsed(why, value ? static_cast<double>(*value) : why == -1 ? kUntouched : 0);
@@ -62,10 +62,10 @@ protected:
     void readMany() {
         for (int round = 0; round < 60000; ++round) {
             const std::string text = anyText();
-            ASSERT_EQ(parsedBy(MakeLong, text), told(text, longOf<10>)) << text;
-            ASSERT_EQ(parsedBy(MakeLongFromHex, text), told(text, longOf<16>)) << text;
-            ASSERT_EQ(parsedBy(MakeULong, text), told(text, unsignedOf)) << text;
-            ASSERT_EQ(parsedBy(MakeDouble, text), told(text, doubleOf)) << text;
+            ASSERT_EQ(parsedBy(MakeLong, text), expectedBy(text, longOf<10>)) << text;
+            ASSERT_EQ(parsedBy(MakeLongFromHex, text), expectedBy(text, longOf<16>)) << text;
+            ASSERT_EQ(parsedBy(MakeULong, text), expectedBy(text, unsignedOf)) << text;
+            ASSERT_EQ(parsedBy(MakeDouble, text), expectedBy(text, doubleOf)) << text;
         }
     }
 };

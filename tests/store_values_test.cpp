@@ -1,5 +1,5 @@
-// Every function of the store that moves values, against the bytes of the three segments: what it copies,
-// which locks it takes for it, and that it takes no memory.
+// Every function of the store that copies values, against the bytes of the three segments: what it copies,
+// which locks it takes meanwhile, and that it allocates nothing.
 #include "Messages.h"
 #include "Store.h"
 
@@ -76,7 +76,7 @@ namespace {
 
 using namespace talux_test;
 
-// Memory that passes for whatever an accessor takes.
+// Memory that serves as whatever an accessor takes.
 struct Any {
     char* memory;
     template <typename Value>
@@ -171,11 +171,7 @@ public:
     static char* memory(int area) { return area == kRecordArea ? rawRecords() : raw(area); }
     static std::size_t sizeOf(int area) { return area == kRecordArea ? kRecordsSize : kSpaceSize; }
     static std::size_t lockOf(std::size_t kind, int space) { return kind + (space == kGlobal ? 0 : 14); }
-    bool matches() const {
-        return std::all_of(model, model + 3, [this](const std::string& m) {
-            return m == bytes(memory(static_cast<int>(&m - model)), m.size());
-        });
-    }
+    void expectModel() const { EXPECT_EQ(differences(image(), model[0] + model[1] + model[2]), ""); }
 
     // The call takes these locks one after the other, changes what begins at `first` only then, takes no
     // memory.
@@ -188,9 +184,12 @@ public:
         watching = true;
         call();
         watching = false;
-        EXPECT_TRUE(held == 0 && allocations == 0 && !isEarly && takenCount == wanted.size());
-        for (std::size_t k = 0; k < std::min(takenCount, wanted.size()); ++k)
-            EXPECT_EQ(taken[k], locks[wanted[k]]);
+        EXPECT_EQ(std::tuple(held, allocations), std::tuple(0, 0)) << "locks held, allocations";
+        EXPECT_FALSE(isEarly) << "changed without the lock";
+        std::vector<std::size_t> order;
+        for (std::size_t k = 0; k < takenCount; ++k)
+            order.push_back(static_cast<std::size_t>(std::find(locks, std::end(locks), taken[k]) - locks));
+        EXPECT_EQ(order, wanted) << "locks";
         target = nullptr;
     }
     // The same, and the buffer then begins with this.
@@ -198,7 +197,7 @@ public:
     void watchRead(const std::vector<std::size_t>& wanted, const std::string& read, Call call) {
         std::memset(buffer, '#', sizeof buffer);
         watch(wanted, buffer, call);
-        EXPECT_TRUE(bytes(buffer, read.size()) == read && buffer[read.size()] == '#');
+        EXPECT_EQ(hex(bytes(buffer, read.size() + 1)), hex(read + '#')) << "read";
     }
 
     void single(std::size_t kind, int space, int id, bool write) {
@@ -321,8 +320,9 @@ TEST_F(Values, GoWhereTheirIdSaysUnderTheirLock) {
             run(kind, space, id, write);
         else if (block.count > 0)
             single(kind, space, id, write);
-        ASSERT_TRUE(matches() && !HasFailure())
-            << block.name << ' ' << id << " space " << space << " way " << way << write;
+        expectModel();
+        ASSERT_FALSE(HasFailure()) << "step " << k << ": " << block.name << ' ' << id << " space " << space
+                                   << " way " << way << " write " << write;
     }
 }
 
@@ -332,7 +332,7 @@ auto failed(const std::string& function, const std::string& text) {
                                     "' failed.\n");
 }
 
-// Single values, records and the readers of runs but long insist on their kind, each with its own name and
+// Single values, records and the readers of runs except long require their kind, each with its own name and
 // text.
 TEST_F(Values, OfForeignIdsAbort) {
     std::memset(buffer, 0, sizeof buffer);
@@ -363,8 +363,8 @@ TEST_F(Values, OfNoRecordAreReportedByTheCommit) {
     std::string expected;
     for (int k = 1; DefParamProperties[k].id != 0; ++k)
         expected += "Error (TALUX_Var): Error during copy temp->global\n";
-    EXPECT_TRUE(outcomeOf(VarUpdateGlobalSpace) == Outcome(1, "", expected));
-    EXPECT_TRUE(matches());
+    EXPECT_EQ(outcomeOf(VarUpdateGlobalSpace), Outcome(1, "", expected));
+    expectModel();
 }
 
 TEST_F(Values, AreSetToTheirDefaultsInTheTemporarySpaceOnly) {
@@ -374,7 +374,7 @@ TEST_F(Values, AreSetToTheirDefaultsInTheTemporarySpaceOnly) {
             if (const stParamProperties& row = DefParamProperties[k]; block.holds(row.id))
                 put(block, model[kTemp].data() + block.slotOf(row.id), row.val_def, row.val_def_text);
     VarSetDefault();
-    EXPECT_TRUE(matches());
+    expectModel();
 }
 
 // The commit copies the settings, numbers bit for bit, texts up to their end, and ends with the flags that it
@@ -403,7 +403,7 @@ TEST_F(Values, OfSettingsAreCommittedAndNoOthers) {
     EXPECT_EQ(VarUpdateGlobalSpace(), 1);
     watching = false;
     onLock = nullptr;
-    EXPECT_TRUE(matches());
+    expectModel();
     EXPECT_EQ(allocations, 0);
     EXPECT_EQ(takenCount, 4 + 2 * settings + 4);
 }

@@ -18,7 +18,7 @@ local function refused(wanted, call, ...)
   equal(tostring(reason):gsub("^[^ ]*%.lua:%d+: ", ""), wanted, wanted)
 end
 
--- What a script may write, except what reaches clock and network.
+-- What a script may write, except clock and network.
 local writable = {}
 for _, row in ipairs(rows) do
   local kind = row.kind
@@ -88,7 +88,7 @@ local function forbidden(row)
   return table.unpack(faults[random(#faults)])
 end
 
--- Of 32-bit floats the store keeps 24 bits, and nothing below 2^-149; reading prints six decimals.
+-- The store has 24 bits of a 32-bit float and nothing below 2^-149; reading prints six decimals.
 local function isKept(row, index, value)
   local line = "TLX_" .. row.name
   if row.kind ~= "float" or index then

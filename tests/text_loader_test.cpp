@@ -83,7 +83,7 @@ TEST_F(TextLoader, ReplacesTheWholeTable) {
     EXPECT_STREQ(GetParamStringInGroup(20001, 2, 7, kTextItem)->txt, "Fenster \"7\", offen");
 }
 
-// The first line takes the place of the row that stands for "not found".
+// The first line replaces the row that means "not found".
 TEST_F(TextLoader, FillsRowsFromTheFirstOn) {
     load(title("VAR_Name", "nothing") + title("VAR_Name", "second"));
     EXPECT_EQ(titleOf(9000), "second");

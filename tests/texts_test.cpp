@@ -51,7 +51,7 @@ int find(int from, int language, int id, int type, int group = kAny, int item = 
 }
 
 // All texts of a group in the current language on one line: the number of the first, the texts with "|"
-// between them and "~" for a line break. A number that does not follow the one before shows in brackets.
+// between them and "~" for a line break. A number that does not follow the one before is in brackets.
 std::string list(int id, int group, int type) {
     std::string joined;
     int expected = kAny;

@@ -60,7 +60,7 @@ constexpr UINT kSize = 24;
 class Tokenizer : public testing::Test {
 protected:
     std::mt19937 random{4711};
-    // The bytes behind the told size show whether anybody wrote there; a trusted caller has them, too.
+    // The bytes after the given size show whether anything was written there; a trusted caller has them, too.
     std::string memory = std::string(kSize, '\0') + std::string(400, '!');
     std::size_t room = 0; // for a text with its NUL; none as long as there is no buffer
     Probe tokenizer;

@@ -1,4 +1,4 @@
-// What programs write into the working tables of properties and texts holds for look-ups, language, commit
+// What programs write into the working tables of properties and texts applies to look-ups, language, commit
 // and files.
 #include <fstream>
 #include <iterator>

@@ -1,4 +1,4 @@
-// What the generator refuses: for every rule rows that break it, and the one line that the builder reads.
+// What the generator refuses: for every rule, rows that break it and the line that is printed.
 #include "tools/generator/Generator.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ using parameters::Note, parameters::Row, parameters::Texts;
 
 namespace {
 
-// A copy of the true data, to be spoilt.
+// A copy of the real data, to be broken.
 class Data {
 public:
     Data() {

@@ -1,4 +1,4 @@
-// What the list of the interface says when a row changes.
+// What the list of the interface reports when a row changes.
 #include "tools/interface/Listing.h"
 
 #include <gtest/gtest.h>

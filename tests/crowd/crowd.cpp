@@ -41,7 +41,7 @@ using Command = std::vector<std::string>;
 constexpr auto kLongest = 10s; // without a sign of life
 constexpr auto kPatience = 3s; // after which a program is no longer killed
 constexpr const char* kSigns[] = {"done", "refused: ", "Uearth is "}; // of life: lines that begin so
-// What the others and the disk bring about.
+// What the other programs and the disk cause.
 constexpr const char* kRefusals[] = {"does not hold",
                                      "No space left on device",
                                      "can't save parameter",

@@ -1,4 +1,4 @@
-// A relay on the bench: a scenario in words, settings, and what came of it cycle by cycle, without a store.
+// A relay on the bench: a scenario in words, settings, and the result of each cycle, without a store.
 #ifndef TALUX_TEST_DESK_BENCH_H
 #define TALUX_TEST_DESK_BENCH_H
 

@@ -1,4 +1,4 @@
-// Scenarios: what is understood, what is said of the rest; recordings that are replayed, good and broken
+// Scenarios: what is understood, what is reported of the rest; recordings that are replayed, good and broken
 // ones.
 #include "Bench.h"
 
@@ -75,7 +75,7 @@ TEST(DeskScenario, NeedsEveryWordOfAStatement) {
     }
 }
 
-// Each statement changes what its words say, and a second one changes it back.
+// Each statement changes what it names, and a second one changes it back.
 TEST(DeskScenario, ChangesWhatItsStatementsSay) {
     const struct {
         const char *change, *back;

@@ -1,10 +1,10 @@
-// Puts the store through everything that leaves bytes behind, the same on every platform: each platform's
+// Does everything in the store that produces bytes, the same on every platform: each platform's
 // segments, files, answers and commands are kept, and must equal those of the others byte for byte.
 //
 //   workload defaults        factory defaults, committed and saved
 //   workload writes SCRIPT   the script's lines, then values of every kind, committed and saved
 //
-// The clock stands still and shell commands are only noted, in /commands.txt; answers go to /answers.txt.
+// The clock is fixed and shell commands are only recorded, in /commands.txt; answers go to /answers.txt.
 #include <array>
 #include <cmath>
 #include <cstdint>

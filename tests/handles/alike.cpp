@@ -1,4 +1,4 @@
-// The same moves on the store and on that of unit tests, by whatever handles, changes and followers call:
+// The same steps on the store and on that of unit tests, by whatever handles, changes and followers call:
 // what is printed has to be the same.
 #ifdef TALUX_ON_FAKE
 #include "talux/fake.hpp"

@@ -33,7 +33,7 @@ while IFS=: read -r line text; do
   done
 done < <(grep -n '// [a-z]' "$here/wrong.hpp" | grep -v ':// ')
 
-# Without the generated headers one line says what to build, and nothing else is complained of.
+# Without the generated headers one line says what to build, and there are no other errors.
 printf '#include <talux/talux.hpp>\nconstexpr talux::Setting<float> threshold{"Uearth"};\n' >"$work/alone.cpp"
 "${compile[@]/#-I$generated/-I$work}" -fsyntax-only "$work/alone.cpp" >"$work/messages" 2>&1 && fail 'it compiles alone'
 [ "$(grep -o 'error: .*' "$work/messages" | cut -d: -f2)" = ' #error "no talux/parameters.hpp

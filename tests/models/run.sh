@@ -4,7 +4,7 @@ set -eu
 model=$(cd "$(dirname "$0")" && pwd)/group.pml
 work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
 cd "$work"
-errors() { spin "$@" -run "$model" | sed -n 's/.*errors: //p'; }
+errors() { rm -f group.pml.trail; spin "$@" -run "$model" | sed -n 's/.*errors: //p'; }
 
 passed=0 failed=0
 expect() { # ERRORS OPTION..
@@ -12,6 +12,7 @@ expect() { # ERRORS OPTION..
   found=$(errors "$@")
   if [ "$found" = "$wanted" ]; then passed=$((passed + 1)); else
     failed=$((failed + 1)); echo "group.pml $*: ${found:-no} errors, expected $wanted"
+    [ "$wanted" != 0 ] || spin "$@" -k group.pml.trail -t -p "$model" | grep '(state' # the steps to the fault
   fi
 }
 expect 0

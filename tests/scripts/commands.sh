@@ -65,7 +65,7 @@ for script in "$project"/scripts/*.sh "$project/.ci/run" "$project/scripts/run.s
 done
 [ ! -e started ] || expect 'a help that starts nothing' 'one that does'
 
-# The second waits for a build folder, and says so. What root builds, or another user, is named.
+# The second waits for a build folder, and says so. A folder that root or another user built is reported.
 mkdir -p builds/build-release
 (exec 5<builds/build-release && flock 5 && touch locked && sleep 2) &
 until [ -e locked ]; do sleep 0.1; done

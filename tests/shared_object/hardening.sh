@@ -33,7 +33,7 @@ refuse 'writable and executable' "$segments" '(LOAD|GNU_STACK).* RWE '
 refuse 'needs more than the C library' \
   "$(echo "$dynamic" | grep NEEDED | grep -Ev '\[(libc|libm)\.so\.6\]|\[ld-linux[^]]*\]' || true)" .
 
-# cmake/shared.list names what changes: a program may have it in a place of its own.
+# cmake/shared.list names the data that changes: a program may have its own copy.
 sections=$("$readelf" -SW "$library" | sed -n 's/^ *\[ *\([0-9]*\)\] \([^ ]*\).*/\1 \2/p')
 objects() { # SECTION-PATTERN: exported ones
   { echo "$sections"; echo "$symbols"; } |

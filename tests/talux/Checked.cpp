@@ -11,16 +11,16 @@ bool isJson(const std::string& text) {
 std::vector<CheckedLine> checkedLines(const std::string& answer) {
     std::vector<CheckedLine> lines;
     const nlohmann::json files = nlohmann::json::parse(answer);
-    for (const nlohmann::json& told : files[0]["lines"]) {
+    for (const nlohmann::json& checked : files[0]["lines"]) {
         CheckedLine& line = lines.emplace_back();
-        line.line = told["line"];
-        line.hasFindings = told.contains("findings");
-        line.changes = told.contains("to");
+        line.line = checked["line"];
+        line.hasFindings = checked.contains("findings");
+        line.changes = checked.contains("to");
         if (!line.changes) continue;
-        line.name = told["name"];
-        line.isNumber = told["to"].is_number();
-        if (line.isNumber) line.number = told["to"];
-        if (told["to"].is_string()) line.text = told["to"];
+        line.name = checked["name"];
+        line.isNumber = checked["to"].is_number();
+        if (line.isNumber) line.number = checked["to"];
+        if (checked["to"].is_string()) line.text = checked["to"];
     }
     return lines;
 }

@@ -1,4 +1,4 @@
-// What `talux check --json` tells about the lines of a file.
+// What `talux check --json` reports about the lines of a file.
 #ifndef TALUX_TEST_CHECKED_H
 #define TALUX_TEST_CHECKED_H
 

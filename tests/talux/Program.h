@@ -49,10 +49,6 @@ protected:
         VarSetDefault();
         VarUpdateGlobalSpace();
     }
-    static std::string image() {
-        return bytes(raw(kTemp), kSpaceSize) + bytes(raw(kGlobal), kSpaceSize) +
-               bytes(rawRecords(), kRecordsSize);
-    }
     // Files of the directory.
     std::string write(const char* name, const std::string& contents) const {
         std::ofstream(directory / name, std::ios::binary) << contents;

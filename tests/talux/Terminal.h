@@ -61,7 +61,7 @@ protected:
         ASSERT_EQ(::write(terminal, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
     }
 
-    // True once the text has come since the last call.
+    // True once the text has appeared since the last call.
     bool waitFor(const std::string& text) {
         for (;;) {
             if (const auto at = screen.find(text); at != screen.npos) {

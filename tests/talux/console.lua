@@ -1,7 +1,7 @@
 -- Runs what is typed in a document's ```console blocks and compares what comes back: the lines that complain come from
 -- the error stream, the others from the standard output. Status 2 and a complaint of talux go together, and a watch takes
 -- the time of its periods.
--- "$ " stands in front of a command, "> " in front of its further lines. "..." stands for anything, alone on a line
+-- "$ " comes before a command, "> " before its further lines. "..." stands for anything, alone on a line
 -- for any number of lines; how many settings a save would write is left to the catalogue. All commands share one device
 -- root; what they leave in its / is removed at the end. With TALUX_ACCEPT set, the document gets what comes back.
 local text, project, accepts = assert(io.open(arg[1])):read "*a", arg[2], os.getenv "TALUX_ACCEPT"

@@ -79,7 +79,7 @@ std::set<std::string> numbersOf(const Parameter& parameter) {
         texts.insert(text);
     };
     const rules::Facts facts = parameter.facts();
-    for (const double edge : {facts.min, facts.max, facts.least(), 0.0, parameter.row().val_def}) {
+    for (const double edge : {facts.min, facts.max, facts.lowest(), 0.0, parameter.row().val_def}) {
         for (const double step : {-1000.0, -1.0, -0.25, 0.0, 0.25, 1.0, 1000.0})
             add(edge + step);
         for (const double end : {-HUGE_VAL, HUGE_VAL}) {
@@ -290,24 +290,30 @@ Answer byGenerator(const Case& given) {
 
 // ---- Comparison ---------------------------------------------------------------------------------------
 
-bool sees(Way way, const Case& given) {
+// The codes of the reasons that a way sees.
+std::string seenBy(Way way, const Case& given) {
     rules::Facts facts = given.parameter.facts();
     if (way == scripts && given.isText()) facts.bytes = given.parameter.lineRoom();
-    bool isSeen = false;
+    std::string seen;
     const auto look = [&](const rules::Objection& objection) {
-        isSeen = isSeen || !kWays[way].unseen.has(objection.reason);
+        if (!kWays[way].unseen.has(objection.reason))
+            seen += std::string(" ") + reference::codeOf(objection.reason);
     };
     if (given.isText())
         rules::forEachObjection(facts, std::string_view(given.text), rules::Reasons::all(), look);
     else
         rules::forEachObjection(facts, given.number, rules::Reasons::all(), look);
-    return isSeen;
+    return seen;
 }
 
 // What a program with handles would say of a text if it could write no longer one than a script.
 std::string wordsOf(const Case& given) {
     const rules::Facts facts = table::factsOf(rowOf(given), given.parameter.lineRoom());
     return Result(rules::check(facts, std::string_view(given.text)), facts).text().c_str();
+}
+
+std::string shown(const std::optional<Value>& value) {
+    return !value ? "nothing" : value->isText() ? value->text() : testing::PrintToString(value->number());
 }
 
 TEST(Rules, AreTheSameOnEveryWay) {
@@ -327,14 +333,15 @@ TEST(Rules, AreTheSameOnEveryWay) {
             if (!answers[way]) continue;
             const bool isRefused = answers[way]->isRefused;
             ++compared[way][isRefused];
-            EXPECT_EQ(isRefused, sees(static_cast<Way>(way), given))
-                << kWays[way].name << ": " << given.term();
+            const auto what = [&] { return std::string(kWays[way].name) + ": " + given.term(); };
+            const std::string seen = seenBy(static_cast<Way>(way), given);
+            EXPECT_EQ(isRefused, !seen.empty()) << what() << "; reasons:" << seen;
             if (!isRefused && answers[way]->stored) {
                 EXPECT_TRUE(tool::sameValue(answers[way]->stored, stored))
-                    << kWays[way].name << " stores something else: " << given.term();
+                    << what() << " stores " << shown(answers[way]->stored) << ", expected " << shown(stored);
             }
             if (way == scripts && isRefused && given.isText()) {
-                EXPECT_EQ(answers[way]->words, wordsOf(given)) << given.term();
+                EXPECT_EQ(answers[way]->words, wordsOf(given)) << what();
             }
             if (testing::Test::HasFailure()) return;
         }
