@@ -55,8 +55,8 @@ release() { build release && run_tests release; }
 debug() { build debug && run_tests debug; }
 models() { tests/models/run.sh; }
 clang() { build clang && run_tests clang; }
-# The tests of the programs, of what runs beside them, and of the packages.
-programs='^(talux_|console|session|desk|rules_test|installed$)'
+# The tests of the programs and the generator, of what runs beside the programs, and of the packages.
+programs='^(talux_|console|session|desk|rules_test|generator_test|interface_test|dictionary$|installed$)'
 armv7() { on_device armv7 --module-tests -E "$programs" && same_image armv7; }
 armv7-programs() { on_device armv7 --tests -R "$programs"; }
 # What is the same for both devices is tried on the first.
