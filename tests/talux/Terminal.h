@@ -23,7 +23,8 @@ protected:
 
     // talux with these arguments.
     void start(std::initializer_list<const char*> arguments) {
-        std::vector<char*> all{const_cast<char*>("talux")};
+        std::string folder = "--directory=" + directory.string();
+        std::vector<char*> all{const_cast<char*>("talux"), folder.data()};
         for (const char* argument : arguments)
             all.push_back(const_cast<char*>(argument));
         all.push_back(nullptr);
