@@ -44,9 +44,18 @@ case("a cycle per line, until the lines or the scenario end", inFolder(function(
   local heading = "a model for learning and for trying scripts, no protection\nUearth is 30 now\nready\n0\n"
   equal(shell("printf '\\n\\n\\n' | " .. desk .. " --step"), heading, "without a scenario")
   equal(talux.record "MessRecord01".Cnt, 4, "cycles")
-  shell "echo 'at 0.06 s end' >short"
+  shell "printf 'at 0.06 s restart\n at 0.3 s end' >short" -- nothing is published while it restarts
   equal(shell("yes | " .. desk .. " --step --scenario short"), heading, "the scenario ends")
   equal(talux.record "MessRecord01".Cnt, 3, "cycles")
+end))
+
+case("cycles that a standstill took are left out", inFolder(function()
+  local pipe = io.popen("echo $$; exec " .. desk)
+  local pid = pipe:read()
+  repeat until pipe:read() == "ready"
+  os.execute(("kill -STOP %s; sleep 2; kill -CONT %s; sleep 0.2; kill %s"):format(pid, pid, pid))
+  pipe:close()
+  equal(talux.record "MessRecord01".Cnt < 75, true, "cycles")
 end))
 
 case("statistics and changes of the threshold", inFolder(function()

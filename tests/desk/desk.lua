@@ -26,8 +26,11 @@ talux.set("BE_Reset_Button", 1)
 await("the button does nothing", function() return talux.get "REL3" == 0 end)
 assert(talux.get "BE_Reset_Button" == 0)
 
-talux.set("OVR_BA_val", {[5] = 1})
-talux.set("OVR_BA_enable", 1)
-await("the override does nothing", function() return talux.get "REL5" == 1 end)
-talux.set("OVR_BA_enable", 0)
-await("the override stays", function() return talux.get "REL5" == 0 end)
+for shown, kind in pairs {REL5 = "BA", BE5 = "BE", U1_prim = "MW"} do
+  local number = shown == "U1_prim" and 1 or 5
+  talux.set("OVR_" .. kind .. "_val", {[number] = 1})
+  talux.set("OVR_" .. kind .. "_enable", 1)
+  await("no override of " .. shown, function() return talux.get(shown) == 1 end)
+  talux.set("OVR_" .. kind .. "_enable", 0)
+  await("the override stays", function() return talux.get(shown) ~= 1 end)
+end
