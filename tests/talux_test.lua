@@ -133,16 +133,26 @@ case("1,000 random tables are applied as a whole or refused as a whole", functio
   equal(io.open "/canary", nil, "no text is a command")
 end)
 
-case("every index is tried at its edges: by name, in a line, in an array", function()
+case("indexes and sizes are tried at their edges: by name, in a line, in an array", function()
   local arrays = {long = talux_longarray, double = talux_doublearray}
+  for name, array in pairs(arrays) do -- of 4 GB at most
+    for size, wanted in pairs {[-1] = false, [-0.5] = 0, [0] = 0, [1] = 1, [name == "long" and 2 ^ 30 or 2 ^ 29] = false} do
+      local good, made = pcall(array.new, size)
+      equal(good and array.size(made), wanted, name .. "array.new " .. size)
+    end
+  end
   for _, row in ipairs(rows) do
-    local array = arrays[row.kind] and arrays[row.kind].new(1)
+    local kind = row.first and arrays[row.kind]
+    local array = kind and kind.new(1)
+    for size = row.last or 0, kind and row.last + 2 or -1 do
+      equal(not kind.get(kind.new(size - 1), "TLX_" .. row.name, row.first, row.last), size == row.last, row.name .. " into " .. size - 1)
+    end
     for index, wanted in pairs(row.first and {[row.first - 1] = "INDEX TOO LOW", [row.first] = false, [row.last] = false,
                                               [row.last + 1] = "INDEX TOO HIGH"} or {}) do
       local good, reason = pcall(talux.get, row.name, index)
       equal(not good and reason:match "INDEX TOO %u+", wanted, row.name .. "[" .. index .. "]")
       equal(talux_command(("TLX_%s %d"):format(row.name, index)):match "INDEX TOO %u+" or false, wanted, row.name .. " " .. index)
-      equal(array and not arrays[row.kind].get(array, "TLX_" .. row.name, index, index), array and wanted ~= false, row.name)
+      equal(array and not kind.get(array, "TLX_" .. row.name, index, index), array and wanted ~= false, row.name)
     end
   end
 end)
@@ -367,6 +377,11 @@ case("the clock has fractions, a condition is waited for, and the device program
   equal(math.abs(start - os.time()) < 1.2, true, "now " .. start)
   equal(talux.wait(function() last = last + 1 return last == 4 and "four" end, 5), "four", "came true")
   equal(talux.wait(function() return false end, 0.1), nil, "never")
+  for _, seconds in ipairs {-1, 0, 0 / 0, 0.01} do
+    last = 0
+    talux.wait(function() last = last + 1 end, seconds)
+    equal(last == 1 or seconds > 0 and last == 2, true, last .. " looks in " .. seconds)
+  end
   local passed, time, popen = talux.now() - start, os.time, io.popen
   equal(passed > 0.1 and passed < 3, true, "passed " .. passed)
   os.time, io.popen = function() return time() + 2 end, function() end -- somebody sets the clock, `date` is missing
