@@ -286,7 +286,7 @@ TEST_F(KeplModel, AnswersLines) {
         const Traces wanted = traces(before, true);
         EXPECT_EQ(evaluate(*interpreter, line, terminator), expected);
         expectTraces(wanted);
-        ASSERT_FALSE(HasFailure()) << "round " << round << ", uid " << uid << ": " << line;
+        if (HasFailure()) FAIL() << "round " << round << ", uid " << uid << ": " << line;
         ++counts[expected.error.empty() ? std::to_string(expected.result) : expected.error];
     }
     constexpr std::size_t kRefusals = talux::enumeratorsOf<talux::kepl::Refusal>() - 1; // without `none`
@@ -334,7 +334,7 @@ TEST_F(KeplModel, CarriesOutCommands) {
         EXPECT_EQ(std::tuple(result, std::string(text), std::string(error), count),
                   std::tuple(expected.result, expected.text, expected.error, place));
         expectTraces(wanted);
-        ASSERT_FALSE(HasFailure()) << "round " << round << ", uid " << uid << ": " << term;
+        if (HasFailure()) FAIL() << "round " << round << ", uid " << uid << ": " << term;
         const bool isPut = hasSlot && expected.slot;
         ASSERT_EQ(std::ranges::count(values, kNothing), kKeplStackSize - isPut) << term;
         if (!isPut) continue;

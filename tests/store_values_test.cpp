@@ -321,8 +321,9 @@ TEST_F(Values, GoWhereTheirIdSaysUnderTheirLock) {
         else if (block.count > 0)
             single(kind, space, id, write);
         expectModel();
-        ASSERT_FALSE(HasFailure()) << "step " << k << ": " << block.name << ' ' << id << " space " << space
-                                   << " way " << way << " write " << write;
+        if (HasFailure())
+            FAIL() << "step " << k << ": " << block.name << ' ' << id << " space " << space << " way " << way
+                   << " write " << write;
     }
 }
 
