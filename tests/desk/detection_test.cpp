@@ -222,15 +222,13 @@ TEST(DeskOutputs, FollowAssignmentPolarityAndOverrides) {
     overrides.functions.emplace()[27] = 1; // function 28
     overrides.values.emplace()[0] = 7;
     overrides.inputs.emplace()[2] = 1;
-    const auto& cycles = bench.run(std::string(kResonant) + "at 1 s input BE1 on\nat 2 s end\n", overrides);
-    EXPECT_EQ(cycles.back().outputs.states[4], 1);
-    EXPECT_EQ(cycles.back().values[0], 7);
-    EXPECT_EQ(cycles.back().outputs.states[kRelays + 2], 1);
-    EXPECT_EQ(cycles.back().outputs.states[kRelays + 0], 0) << "the override replaces the input";
-    EXPECT_EQ(bench.run(std::string(kResonant) + "at 1 s input BE1 on\nat 2 s end\n")
-                  .back()
-                  .outputs.states[kRelays],
-              1);
+    const std::string input = std::string(kResonant) + "at 1 s input BE1 on\nat 2 s end\n";
+    const Cycle cycle = bench.run(input, overrides).back();
+    EXPECT_EQ(cycle.outputs.states[4], 1);
+    EXPECT_EQ(cycle.values[0], 7);
+    EXPECT_EQ(cycle.outputs.states[kRelays + 2], 1);
+    EXPECT_EQ(cycle.outputs.states[kRelays + 0], 0) << "the override replaces the input";
+    EXPECT_EQ(bench.run(input).back().outputs.states[kRelays], 1);
 }
 
 TEST(DeskStatistics, HoldMaximumMinimumAndMeanOfAnInterval) {

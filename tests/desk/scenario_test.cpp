@@ -77,40 +77,36 @@ TEST(DeskScenario, NeedsEveryWordOfAStatement) {
 
 // Each statement changes what it names, and a second one changes it back.
 TEST(DeskScenario, ChangesWhatItsStatementsSay) {
+    using R = talux::MessRecord01;
     const struct {
         const char *change, *back;
-        double (*seen)(const Cycle& cycle);
+        float R::*seen; // null: input 3
         double changed;
     } cases[] = {
-        {"transformer U2 reversed", "transformer U2 normal",
-         [](const Cycle& c) -> double { return c.record.wU2; }, 60},
-        {"transformer I2 reversed", "transformer I2 normal",
-         [](const Cycle& c) -> double { return c.record.wUI2; }, 180},
-        {"transformers I1 I2 swapped", "transformers I1 I2 normal",
-         [](const Cycle& c) -> double { return c.record.wUI1; }, 120},
-        {"fuse U2 missing", "fuse U2 restored", [](const Cycle& c) -> double { return c.record.U2p; }, 0},
-        {"conductor L2 open", "conductor L2 closed", [](const Cycle& c) -> double { return c.record.I2p; },
-         0},
-        {"rotation reversed", "rotation normal", [](const Cycle& c) -> double { return c.record.wU2; }, 120},
-        {"input BE3 on", "input BE3 off",
-         [](const Cycle& c) -> double { return c.outputs.states[kRelays + 2]; }, 1},
-        {"frequency 49.5 Hz", "frequency 50 Hz", [](const Cycle& c) -> double { return c.record.f_grid; },
-         49.5},
-        {"load 250 A", "load 100 A", [](const Cycle& c) -> double { return c.record.I1p; }, 250},
-        {"short circuit L1 L2 500 A backward", "fault cleared",
-         [](const Cycle& c) -> double { return c.record.U12p_a; }, 12},
-        {"earth fault L1 solid backward", "fault cleared",
-         [](const Cycle& c) -> double { return c.record.U1p; }, 0},
-        {"restriking earth fault L1 solid forward every 20 s for 19 s", "fault cleared",
-         [](const Cycle& c) -> double { return c.record.U1p; }, 0},
+        {"transformer U2 reversed", "transformer U2 normal", &R::wU2, 60},
+        {"transformer I2 reversed", "transformer I2 normal", &R::wUI2, 180},
+        {"transformers I1 I2 swapped", "transformers I1 I2 normal", &R::wUI1, 120},
+        {"fuse U2 missing", "fuse U2 restored", &R::U2p, 0},
+        {"conductor L2 open", "conductor L2 closed", &R::I2p, 0},
+        {"rotation reversed", "rotation normal", &R::wU2, 120},
+        {"input BE3 on", "input BE3 off", nullptr, 1},
+        {"frequency 49.5 Hz", "frequency 50 Hz", &R::f_grid, 49.5},
+        {"load 250 A", "load 100 A", &R::I1p, 250},
+        {"short circuit L1 L2 500 A backward", "fault cleared", &R::U12p_a, 12},
+        {"earth fault L1 solid backward", "fault cleared", &R::U1p, 0},
+        {"restriking earth fault L1 solid forward every 20 s for 19 s", "fault cleared", &R::U1p, 0},
+    };
+    const auto valueIn = [](const Cycle& cycle, float R::*seen) -> double {
+        if (seen == nullptr) return cycle.outputs.states[kRelays + 2];
+        return cycle.record.*seen;
     };
     for (const auto& [change, back, seen, changed] : cases) {
         Bench bench;
         const auto& cycles = bench.run(
             std::string("network isolated 20 kV own 0 A\nload 100 A angle 0 deg drift 0 %\nat 1 s ") +
             change + "\nat 6 s " + back + "\nat 20 s end\n");
-        EXPECT_NEAR(seen(cycles[5 * 50]), changed, 0.02) << change;
-        EXPECT_NEAR(seen(cycles.back()), seen(cycles[0]), 0.02) << back;
+        EXPECT_NEAR(valueIn(cycles[5 * 50], seen), changed, 0.02) << change;
+        EXPECT_NEAR(valueIn(cycles.back(), seen), valueIn(cycles[0], seen), 0.02) << back;
     }
 }
 
