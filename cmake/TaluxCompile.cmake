@@ -17,6 +17,10 @@ if(TALUX_SANITIZE)
   set(talux_unwatched -fno-sanitize=all)
 endif()
 
+# For tests and tools, which need no speed: this compiles faster.
+if(NOT CMAKE_BUILD_TYPE STREQUAL Coverage)
+  set(talux_quick -O1)
+endif()
 # For tests and sources with large headers, which would take more than 250 MB: the compiler collects its garbage more
 # often, which takes longer. And g++ 12 sees overlaps and overflows in "literal" + std::string that are not there (GCC bug
 # 105651); the sanitizers would see those that are.

@@ -109,6 +109,7 @@ declare -A packages=(
   [browser]=chromium:chromium
   [make]=make:make
   [rock]=luarocks:luarocks
+  [coverage]=gcovr:gcovr
   [time]=/usr/bin/time:time
   [debootstrap]=debootstrap:debootstrap
 )

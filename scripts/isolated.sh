@@ -68,7 +68,8 @@ for path in "$project" "${reads[@]}"; do
   arguments+=(--ro-bind "$path" "$path")
 done
 
-# What the documents show is renewed inside.
+# Counters of a program that is compiled with them; what the documents show is renewed inside.
+[ -z "${GCOV_PREFIX-}" ] || arguments+=(--bind "$GCOV_PREFIX" "$GCOV_PREFIX")
 [ -z "${TALUX_ACCEPT-}" ] || arguments+=(--bind "$project" "$project")
 
 lay_root() {
