@@ -126,6 +126,7 @@ TEST_F(Groups, AreNeverTornWhileOthersWrite) {
 }
 
 TEST_F(Groups, OutliveAWriterThatDiesInside) {
+    const Reading last = read();
     start([this] {
         blow = SIGKILL;
         write(1);
@@ -134,6 +135,7 @@ TEST_F(Groups, OutliveAWriterThatDiesInside) {
     waitpid(children[0], &status, 0);
     ASSERT_EQ(WTERMSIG(status), SIGKILL);
     EXPECT_EQ(read(), Reading::broken);
+    EXPECT_FALSE(group.wait(last, 20)) << "nothing whole to read";
     EXPECT_TRUE(write(2));
     EXPECT_EQ(read(), Reading::whole);
     EXPECT_TRUE(values.hangTogether());

@@ -43,8 +43,8 @@ constexpr char kLong[] =
 constexpr Setting<float> kQu2SigDur{"qu2_SigDur"}, kQu2SigDurLED{"qu2_SigDur_LED"}, kKnu1{"knu1"};
 constexpr Setting<talux::choice::BAassign> kLEDassign10{"LEDassign10"}, kBAassign5{"BAassign5"},
     kBAassign6{"BAassign6"};
-constexpr Setting<bool> kCosActive{"cos_active"}, kScActive{"sc_active"}, kScDirActive{"sc_dir_active"},
-    kFreqActive{"freq_active"};
+constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kScActive{"sc_active"},
+    kScDirActive{"sc_dir_active"}, kFreqActive{"freq_active"};
 constexpr Setting<talux::Choice> kPrioList3{"prio_list_3"};
 constexpr Setting<talux::choice::BApol> kBApol6{"BApol6"};
 constexpr Setting<talux::choice::Upol> kIpol2{"Ipol2"};
@@ -164,6 +164,15 @@ TEST(DeskDetection, SeesTheFaultyPhaseAndItsDelay) {
         EXPECT_EQ(bench.begins(other), -1) << other;
     bench.run(std::string(kIsolated) + "at 2 s earth fault L2 3000 ohm forward\nat 5 s end\n");
     EXPECT_EQ(bench.begins(16), -1) << "too small a U0";
+}
+
+TEST(DeskDetection, BeginsItsDelayAnewWhenTheDirectionChanges) {
+    Bench bench;
+    bench.set(kSinActive, true);
+    bench.run(std::string(kIsolated) + "at 2 s earth fault L1 solid forward\nat 2.06 s fault cleared\n"
+                                       "at 2.06 s earth fault L1 solid backward\nat 5 s end\n");
+    EXPECT_EQ(bench.begins(36), -1);
+    EXPECT_NEAR(bench.begins(37), 2.15, 0.03);
 }
 
 TEST(DeskDetection, FollowsThePriorityList) {
