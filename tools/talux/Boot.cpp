@@ -11,8 +11,6 @@ namespace talux::tool {
 
 namespace {
 
-using reference::File;
-
 struct Options {
     bool apply = false, again = false, fallback = false;
 };

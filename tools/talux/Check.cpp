@@ -2,7 +2,6 @@
 #include <map>
 
 #include "tools/talux/Command.h"
-#include "tools/talux/Difference.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
@@ -35,18 +34,11 @@ struct FileReport {
     bool found() const { return changes > 0 || findings > 0 || omitted > 0; }
 };
 
-using Loaded = std::map<const Parameter*, Value>;
-
 // The rules on what a load leaves, where the file has a part in it. What is odd about one value alone is a
 // finding of its line.
-void addImplausible(FileReport& report, const Loaded& loaded, const Source& before, const Context& context) {
-    const auto isLoaded = [&](const Parameter& parameter) { return loaded.contains(&parameter); };
-    const auto own = [&](const Parameter& parameter) { return before.value(parameter); };
-    const auto after = [&](const Parameter& parameter) {
-        return isLoaded(parameter) ? std::optional(loaded.at(&parameter)) : own(parameter);
-    };
-    for (Implausible& found : findImplausible(after, own, context)) {
-        if (found.isOfOneLine() || !found.concerns(isLoaded)) continue;
+void addImplausible(FileReport& report, const Written& loaded, const Source& before, const Context& context) {
+    for (Implausible& found : findImplausible(loaded, std::cref(before), std::cref(before), context)) {
+        if (found.isOfOneLine()) continue;
         report.findings += found.isFault() ? 1 : 0;
         report.implausible.push_back(std::move(found));
     }
@@ -55,7 +47,7 @@ void addImplausible(FileReport& report, const Loaded& loaded, const Source& befo
 FileReport judgeFile(const std::string& path, const Source& before, const Context& context) {
     Judge judge(path, before, context);
     FileReport report{.path = path, .baseline = before.called(context)};
-    Loaded loaded;
+    Written loaded;
     readEntries(path, context, [&](const Entry& entry) {
         Judgement judgement = judge.judge(entry);
         report.settings += judgement.to ? 1 : 0;
@@ -75,19 +67,16 @@ FileReport judgeFile(const std::string& path, const Source& before, const Contex
 }
 
 void printJudgement(const std::string& path, const Judgement& judgement, const Context& context) {
-    const Paint paint;
     std::vector<std::string> parts;
-    if (judgement.isChange())
-        parts.push_back(paint.changed(change(*judgement.parameter, judgement.from, judgement.to, context)));
+    if (judgement.isChange()) parts.push_back(Paint::changed(change(judgement, context)));
     for (const Finding& finding : judgement.findings)
-        parts.push_back(paint.bad(finding.text));
-    const std::string name = judgement.name.empty() ? "" : paint.bold(judgement.name) + ": ";
+        parts.push_back(Paint::bad(finding.text));
+    const std::string name = judgement.name.empty() ? "" : Paint::bold(judgement.name) + ": ";
     if (!parts.empty())
         print(fill("{}:{}: {}{}\n", {path, std::to_string(judgement.line), name, list(parts, "; ")}));
 }
 
 void printText(const FileReport& report, bool withNotes, const Context& context) {
-    const Paint paint;
     const std::string path = printable(report.path);
     const std::string head = context.say("{} against {}", "{} gegenüber {}", path, report.baseline);
     print(head + ":\n");
@@ -102,24 +91,21 @@ void printText(const FileReport& report, bool withNotes, const Context& context)
     for (const std::string& text : noteTexts(noted, context))
         print(joined({path, ": ", text, "\n"}));
     for (const Implausible& found : report.implausible)
-        print(joined({path, ": ", found.isFault() ? paint.bad(found.text) : found.text, "\n"}));
+        print(joined({path, ": ", found.painted(), "\n"}));
     if (!report.others.empty())
         print(context.say("{}: a load also makes live what else is pending: {}\n",
                           "{}: Laden macht auch gültig, was sonst noch aussteht: {}\n", path,
                           list(report.others, ", ", [](const Parameter* other) { return other->name(); })));
-    const auto ending = [&](int count, const char* english, const char* german) {
-        return count == 1 ? "" : context.say(english, german);
-    };
-    print(context.say("{}: {} setting{}, {} change{}, {} finding{}\n",
-                      "{}: {} Einstellung{}, {} Änderung{}, {} Befund{}\n", head, report.settings,
-                      ending(report.settings, "s", "en"), report.changes, ending(report.changes, "s", "en"),
-                      report.findings, ending(report.findings, "s", "e")));
+    print(fill("{}: {}, {}, {}\n",
+               {head, context.counted(report.settings, kSetting, kSettings),
+                context.counted(report.changes, kChange, kChanges),
+                context.counted(report.findings, {" finding", " Befund"}, {" findings", " Befunde"})}));
 }
 
 Json described(const FileReport& report, bool withNotes, const Context& context) {
     const auto describedLine = [&](const Judgement& judgement) {
         Json object{{"name", judgement.name}};
-        if (judgement.to) object = changeJson(*judgement.parameter, judgement.from, judgement.to, context);
+        if (judgement.to) object = changeJson(judgement, context);
         object.set("line", judgement.line);
         if (withNotes && judgement.isChange()) addNotes(object, *judgement.parameter);
         const auto describedFinding = [](const Finding& finding) -> Json {

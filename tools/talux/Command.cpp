@@ -6,6 +6,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "tools/reference/Reference.h"
 #include "tools/talux/Text.h"
 
 namespace talux::tool {
@@ -18,12 +19,6 @@ void check(CLI::Option* option, std::string must, const std::function<bool(const
         if (!accepts(value)) throw CouldNot(option->get_name() + " " + value + ": " + must);
         return std::string();
     });
-}
-
-std::string shortNumber(double value) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%g", value);
-    return text;
 }
 
 template <class Number>
@@ -75,7 +70,7 @@ void Command::option(const char* name, Value& value, Wording help, double minimu
         constexpr Wording kNumber{"must be a number", "erwartet wird eine Zahl"},
             kWhole{"must be a whole number", "erwartet wird eine ganze Zahl"},
             kRange{"must be {} to {}", "zulässig ist {} bis {}"};
-        const std::string range = fill(kRange.in(language), {shortNumber(minimum), shortNumber(maximum)});
+        const std::string range = fill(kRange.in(language), {reference::shortNumber(minimum), reference::shortNumber(maximum)});
         option->type_name(Wording("NUMBER", "ZAHL").in(language));
         check(option, (std::is_integral_v<Value> ? kWhole : kNumber).in(language),
               [](const std::string& text) { return numberIn<Value>(text).has_value(); });

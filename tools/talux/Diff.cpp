@@ -1,5 +1,4 @@
 // talux diff: in what two sources differ.
-#include "tools/talux/Difference.h"
 #include "tools/talux/Show.h"
 
 namespace talux::tool {
@@ -12,13 +11,12 @@ struct Options {
 };
 
 void printText(const std::vector<Difference>& found, bool withNotes, const Context& context) {
-    const Paint paint;
     Table table;
     Parameters noted;
-    for (const auto& [parameter, from, to] : found) {
-        if (withNotes) noted.push_back(parameter);
-        table.add({paint.bold(std::string(parameter->name())), change(*parameter, from, to, context),
-                   paint.dim(parameter->title(context.language))});
+    for (const Difference& each : found) {
+        if (withNotes) noted.push_back(each.parameter);
+        table.add({Paint::bold(std::string(each.parameter->name())), change(each, context),
+                   Paint::dim(each.parameter->title(context.language))});
     }
     print(table.text());
     for (const std::string& text : noteTexts(noted, context))
@@ -26,7 +24,7 @@ void printText(const std::vector<Difference>& found, bool withNotes, const Conte
 }
 
 Json described(const Difference& difference, bool withNotes, const Context& context) {
-    Json change = changeJson(*difference.parameter, difference.from, difference.to, context);
+    Json change = changeJson(difference, context);
     if (withNotes) addNotes(change, *difference.parameter);
     return change;
 }
@@ -37,8 +35,8 @@ Status run(const Options& options, const Context& context) {
     const Source b = Source::open(options.sources.back(), context);
     // A file that does not hold a setting says nothing about it, unless the other side is a file, too.
     const bool isOneFile = a.isPartial() != b.isPartial();
-    const auto found = differences(a, b, [=](const Parameter&, const auto& from, const auto& to) {
-        return (!isOneFile || (from && to)) && !sameValue(from, to);
+    const auto found = differences(a, b, [=](const Difference& each) {
+        return (!isOneFile || (each.from && each.to)) && isDifference(each);
     });
     const auto describe = [&](const Difference& each) { return described(each, options.notes, context); };
     if (options.json)

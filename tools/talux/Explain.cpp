@@ -30,7 +30,7 @@ std::vector<Source> sourcesOf(const std::vector<Parameters>& all, const Options&
         for (const Parameter* parameter : series) {
             const std::string path = pathOf(parameter->file(), context);
             const bool isKnown = std::ranges::find(sources, path, &Source::name) != sources.end();
-            if (parameter->file() != reference::File::none && !isKnown && isThere(path))
+            if (parameter->file() != File::none && !isKnown && os::exists(path.c_str()))
                 sources.push_back(Source::open(path, context));
         }
     return sources;
@@ -94,7 +94,7 @@ struct Rows : std::vector<std::pair<std::string, std::string>> {
         Table table;
         for (const auto& [label, text] : *this)
             table.add({label, text});
-        tool::print(Paint().bold(head) + "\n" + table.text("  "));
+        tool::print(Paint::bold(head) + "\n" + table.text("  "));
     }
 };
 
@@ -323,10 +323,10 @@ void printJson(const Found& found, const std::vector<Parameters>& all, const std
 Status run(const Options& options, const Context& context) {
     const Found found = find(options.words, context);
     if (found.isEmpty())
-        throw CouldNot(context.say("no parameter is named or described by '{}'{}",
-                                   "kein Parameter heißt so oder wird so beschrieben: '{}'{}",
-                                   printable(list(options.words, " ")),
-                                   options.words.size() == 1 ? nearestName(options.words[0], context) : ""));
+        context.fail("no parameter is named or described by '{}'{}",
+                     "kein Parameter heißt so oder wird so beschrieben: '{}'{}",
+                     printable(list(options.words, " ")),
+                     options.words.size() == 1 ? nearestName(options.words[0], context) : "");
     std::vector<Parameters> all = found.series;
     if (options.json) all.push_back(found.hits);
     const auto sources = sourcesOf(all, options, context);

@@ -10,8 +10,6 @@ namespace talux::tool {
 
 namespace {
 
-using reference::File;
-
 struct Options {
     std::string source = "live", file;
     bool listing = false, shared = false;
@@ -19,7 +17,7 @@ struct Options {
 
 File fileCalled(const std::string& name, const Context& context) {
     if (name.empty()) return File::none;
-    for (const File file : {File::normal, File::security, File::address})
+    for (const File file : kFiles)
         if (fileName(file).starts_with(name)) return file;
     context.fail("--file {}: is none of parameter.ini, sec_parameter.ini, ip_config.ini",
                  "--file {}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini", printable(name));

@@ -8,8 +8,7 @@ namespace talux::tool {
 
 // A line "TLX_<name>=<value>" for each setting, as a save writes it, sorted. `only`: those of one file, or
 // all when it is none. The clock's two are left out. `isShared`: without what belongs to the single device.
-std::vector<std::string> linesOf(const Source& source, reference::File only = reference::File::none,
-                                 bool isShared = false);
+std::vector<std::string> linesOf(const Source& source, File only = File::none, bool isShared = false);
 
 // SHA-256 in hexadecimal digits.
 std::string fingerprintOf(const std::vector<std::string>& lines);

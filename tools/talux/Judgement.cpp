@@ -21,11 +21,11 @@ constexpr rules::Reasons kReported{Reason::notANumber, Reason::tooLow,   Reason:
                                    Reason::noChoice,   Reason::tooLong,  Reason::tooManyBytes,
                                    Reason::noAddress,  Reason::noNetmask};
 
-std::optional<reference::File> fileNamedBy(const std::string& path) {
+std::optional<File> fileNamedBy(const std::string& path) {
     const std::string name = path.substr(path.find_last_of('/') + 1);
-    if (name.find("ip_config") != name.npos) return reference::File::address;
-    if (name.starts_with("sec_param")) return reference::File::security;
-    if (name.starts_with("param")) return reference::File::normal;
+    if (name.find("ip_config") != name.npos) return File::address;
+    if (name.starts_with("sec_param")) return File::security;
+    if (name.starts_with("param")) return File::normal;
     return {};
 }
 
@@ -196,8 +196,7 @@ void Judge::judgeFile() {
         say("other-file", "belongs in {}: is loaded from here, but saved there",
             "gehört in {}: wird von hier geladen, aber dort gespeichert",
             reference::fileName(parameter.file()));
-    if (expected == reference::File::security && parameter.name() == "sec_mode" &&
-        judgement.to->number() != 1)
+    if (expected == File::security && parameter.name() == "sec_mode" && judgement.to->number() != 1)
         say("sec-mode", "load_sec makes it 1 whatever the file says",
             "load_sec macht 1 daraus, was auch immer hier steht");
 }

@@ -18,16 +18,15 @@ struct Finding {
     std::string text;
 };
 
-struct Judgement {
+// What a line changes: the parameter of a known name, the value before the line is loaded and afterwards,
+// none when nothing is stored.
+struct Judgement : Difference {
     int line = 0;
-    std::string name;                     // as the line has it where it is unknown; empty without one
-    const Parameter* parameter = nullptr; // of a known name
-    std::optional<Value> from;            // before the line is loaded
-    std::optional<Value> to;              // afterwards; none when nothing is stored
+    std::string name; // as the line has it where it is unknown; empty without one
     std::vector<Finding> findings;
     bool isOmitted = false; // one of too many lines that are no parameter's: nothing else is filled in
 
-    bool changes() const { return to && !sameValue(from, to); }
+    bool changes() const { return to && isDifference(*this); }
     // The clock's own lines are kept by a load and mean nothing.
     bool isChange() const { return changes() && !isOfClock(*parameter); }
 };
@@ -43,7 +42,7 @@ public:
 private:
     const Source& before;
     const Context& context;
-    std::optional<reference::File> expected;   // the file that the path is named after
+    std::optional<File> expected;              // the file that the path is named after
     bool hasMark;                              // a byte order mark before the first line
     int strangers = 0;                         // lines so far that are no parameter's
     std::map<int, std::pair<Value, int>> seen; // by id, with the line

@@ -42,9 +42,9 @@ std::vector<reference::Meaning> usesOf(const std::string& text, const Context& c
             return meaning.bearers[0]->templateName() != "BA_FUNCTION";
         });
     if (meanings.empty() && !text.empty())
-        throw CouldNot(context.say("no output function has this number, no choice this text: {}",
-                                   "keine Ausgangsfunktion hat diese Nummer, keine Auswahl diesen Text: {}",
-                                   printable(text)));
+        context.fail("no output function has this number, no choice this text: {}",
+                     "keine Ausgangsfunktion hat diese Nummer, keine Auswahl diesen Text: {}",
+                     printable(text));
     return meanings;
 }
 
@@ -86,7 +86,6 @@ Status run(Options& options, const Context& context) {
     options.filter.check(context);
     const auto uses = usesOf(options.uses, context);
     const Source source = Source::open(options.source, context);
-    const Paint paint;
     Table table;
     Json all = Json::array();
     for (const Parameter& parameter : reference::parameters()) {
@@ -100,7 +99,7 @@ Status run(Options& options, const Context& context) {
         const std::string text = parameter.isIndexed()
                                      ? context.say("{} elements", "{} Elemente", parameter.elements())
                                      : shown(parameter, value, context);
-        table.add({std::string(parameter.name()), differs ? paint.changed(text) : text,
+        table.add({std::string(parameter.name()), differs ? Paint::changed(text) : text,
                    parameter.title(context.language)});
     }
     print(options.json ? all.text() : table.text());

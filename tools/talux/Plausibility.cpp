@@ -7,7 +7,6 @@
 #include "ParamSystem/parameters/Methods.h"
 #include "ParamSystem/rules/Facts.h"
 #include "tools/reference/Ranges.h"
-#include "tools/talux/Show.h"
 
 namespace talux::tool {
 
@@ -284,10 +283,6 @@ struct RuleCheck {
 
 } // namespace
 
-bool Implausible::concerns(const std::function<bool(const Parameter&)>& isMeant) const {
-    return std::ranges::any_of(parameters, [&](const Parameter* parameter) { return isMeant(*parameter); });
-}
-
 bool Implausible::isOfOneLine() const {
     return rule->test == Test::range || rule->test == Test::choice || rule->test == Test::mask;
 }
@@ -299,20 +294,24 @@ Json described(const Implausible& found) {
             {"text", found.text}};
 }
 
-std::vector<Implausible> findFaults(const std::map<const Parameter*, Value>& written,
-                                    const Context& context) {
+std::vector<Implausible> findImplausible(const Written& written, const Values& others, const Values& before,
+                                         const Context& context) {
     if (written.empty()) return {};
-    const auto values = [&written](const Parameter& parameter) {
-        const auto found = written.find(&parameter);
-        return found == written.end() ? std::nullopt : std::optional(found->second);
+    const auto isWritten = [&](const Parameter* parameter) { return written.contains(parameter); };
+    const auto after = [&](const Parameter& parameter) {
+        return isWritten(&parameter) ? std::optional(written.at(&parameter)) : others(parameter);
     };
-    auto all = findImplausible(values, {}, context);
-    std::erase_if(all, [](const Implausible& found) { return !found.isFault() || found.isOfOneLine(); });
+    auto all = findImplausible(after, before, context);
+    std::erase_if(
+        all, [&](const Implausible& found) { return std::ranges::none_of(found.parameters, isWritten); });
     return all;
 }
 
-std::vector<Implausible> findImplausible(const Source& source, const Context& context) {
-    return findImplausible([&](const Parameter& parameter) { return source.value(parameter); }, {}, context);
+std::vector<Implausible> findFaults(const Written& written, const Context& context) {
+    const auto nothing = [](const Parameter&) { return std::optional<Value>(); };
+    auto all = findImplausible(written, nothing, {}, context);
+    std::erase_if(all, [](const Implausible& found) { return !found.isFault() || found.isOfOneLine(); });
+    return all;
 }
 
 std::vector<Implausible> findImplausible(const Values& values, const Values& before, const Context& context) {

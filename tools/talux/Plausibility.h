@@ -8,9 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "tools/Json.h"
 #include "tools/reference/PlausibilityRules.h"
-#include "tools/talux/Source.h"
+#include "tools/talux/Show.h"
 
 namespace talux::tool {
 
@@ -22,7 +21,7 @@ struct Implausible {
     // Whether a line of a file is reported for it already.
     bool isOfOneLine() const;
     bool isFault() const { return rule->gravity == reference::Gravity::fault; }
-    bool concerns(const std::function<bool(const Parameter&)>& isMeant) const;
+    std::string painted() const { return isFault() ? Paint::bad(text) : text; }
 };
 
 // A set of values. What it does not hold breaks no rule.
@@ -32,11 +31,13 @@ using Values = std::function<std::optional<Value>(const Parameter&)>;
 // device is left out.
 std::vector<Implausible> findImplausible(const Values& values, const Values& before, const Context& context);
 
-// The faults of a few values that are about to be written; what refuses or names their ranges says so.
-std::vector<Implausible> findFaults(const std::map<const Parameter*, Value>& written, const Context& context);
+// What some values break that are written over others, as far as they have a part in it.
+using Written = std::map<const Parameter*, Value>;
+std::vector<Implausible> findImplausible(const Written& written, const Values& others, const Values& before,
+                                         const Context& context);
 
-// Of what is pending on a device, or of any other complete source.
-std::vector<Implausible> findImplausible(const Source& source, const Context& context);
+// The faults of a few values that are about to be written; what refuses or names their ranges says so.
+std::vector<Implausible> findFaults(const Written& written, const Context& context);
 
 Json described(const Implausible& found);
 

@@ -98,13 +98,13 @@ void Filter::check(const Context& context) {
         if (!isAny([&](const auto& row) { return !row.isTemplate() && reference::fits(row.name(), name); }))
             throw CouldNot(unknownName(name, context));
     if (!isAny([this](const Parameter& row) { return isOfFamily(row, family); }))
-        throw CouldNot(context.say("no family is named {}", "keine Familie heißt {}", printable(family)));
+        context.fail("no family is named {}", "keine Familie heißt {}", printable(family));
     methodNumber = reference::methodNamed(method);
     if (methodNumber < 0)
-        throw CouldNot(context.say("no method is named {}; there are {}",
-                                   "kein Verfahren heißt {}; es gibt {}", printable(method),
-                                   list(reference::model().methods, ", ",
-                                        [&](const auto& name) { return name.in(context.language); })));
+        context.fail("no method is named {}; there are {}", "kein Verfahren heißt {}; es gibt {}",
+                     printable(method), list(reference::model().methods, ", ", [&](const auto& name) {
+                         return name.in(context.language);
+                     }));
 }
 
 bool Filter::accepts(const Parameter& parameter) const {

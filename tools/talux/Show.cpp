@@ -62,12 +62,12 @@ bool isInRange(const Parameter& parameter, double number) {
     return !rules::check(parameter.facts(), number, kOutside);
 }
 
-std::string change(const Parameter& parameter, const std::optional<Value>& from,
-                   const std::optional<Value>& to, const Context& context) {
+std::string change(const Difference& difference, const Context& context) {
+    const auto& [parameter, from, to] = difference;
     // The unit stands once, behind both.
-    const bool isOneUnit = from && to && !unitOf(parameter).empty();
-    const std::string before = isOneUnit ? plain(parameter, *from) : shown(parameter, from, context);
-    return before + " -> " + shown(parameter, to, context);
+    const bool isOneUnit = from && to && !unitOf(*parameter).empty();
+    const std::string before = isOneUnit ? plain(*parameter, *from) : shown(*parameter, from, context);
+    return before + " -> " + shown(*parameter, to, context);
 }
 
 Json json(const Parameter& parameter, const std::optional<Value>& value) {
@@ -76,22 +76,19 @@ Json json(const Parameter& parameter, const std::optional<Value>& value) {
     const double number = value->number();
     if (!std::isfinite(number)) return plain(parameter, *value);
     if (parameter.type().fileDecimals == 0) return static_cast<std::int64_t>(number);
-    double rounded = 0;
-    const std::string text = plain(parameter, *value);
-    std::from_chars(text.data(), text.data() + text.size(), rounded);
-    return rounded;
+    return *numberOf<double>(plain(parameter, *value)); // rounded
 }
 
-Json changeJson(const Parameter& parameter, const std::optional<Value>& from, const std::optional<Value>& to,
-                const Context& context) {
-    Json object{{"name", parameter.name()},
-                {"title", parameter.title(context.language)},
-                {"from", json(parameter, from)},
-                {"to", json(parameter, to)},
-                {"unit", unitOf(parameter)}};
+Json changeJson(const Difference& difference, const Context& context) {
+    const auto& [parameter, from, to] = difference;
+    Json object{{"name", parameter->name()},
+                {"title", parameter->title(context.language)},
+                {"from", json(*parameter, from)},
+                {"to", json(*parameter, to)},
+                {"unit", unitOf(*parameter)}};
     for (const auto& [key, value] : {std::pair("from_text", from), std::pair("to_text", to)})
-        if (value && !choiceOf(parameter, *value, context.language).empty())
-            object.set(key, choiceOf(parameter, *value, context.language));
+        if (value && !choiceOf(*parameter, *value, context.language).empty())
+            object.set(key, choiceOf(*parameter, *value, context.language));
     return object;
 }
 
@@ -126,14 +123,13 @@ std::vector<std::string> noteTexts(const Parameters& parameters, const Context& 
     for (const Parameter* parameter : parameters)
         for (const int number : parameter->notes())
             byNote[{reference::noteAt(number).kind, number}].push_back(parameter);
-    const Paint paint;
     std::vector<std::string> texts;
     for (const auto& [key, bearers] : byNote) {
         const model::Note& note = reference::noteAt(key.second);
         const std::string label = noteLabel(note, context);
         texts.push_back(
-            joined({note.kind == parameters::kWarning ? paint.bold(paint.bad(label)) : paint.dim(label), " ",
-                    bearers.size() == parameters.size() ? "" : inShort(bearers) + ": ",
+            joined({note.kind == parameters::kWarning ? Paint::bold(Paint::bad(label)) : Paint::dim(label),
+                    " ", bearers.size() == parameters.size() ? "" : inShort(bearers) + ": ",
                     note.text.in(context.language)}));
     }
     return texts;

@@ -33,15 +33,13 @@ std::string elementsText(const Parameter& parameter, const Context& context);
 bool isInRange(const Parameter& parameter, double number);
 
 // "30 -> 35 %"
-std::string change(const Parameter& parameter, const std::optional<Value>& from,
-                   const std::optional<Value>& to, const Context& context);
+std::string change(const Difference& difference, const Context& context);
 
 // A number or a text; null for nothing.
 Json json(const Parameter& parameter, const std::optional<Value>& value);
 
 // Name, title, values, texts of choices and unit of a change.
-Json changeJson(const Parameter& parameter, const std::optional<Value>& from, const std::optional<Value>& to,
-                const Context& context);
+Json changeJson(const Difference& difference, const Context& context);
 
 Json namesOf(const Parameters& parameters);
 
@@ -56,6 +54,10 @@ const char* commaHint(std::string_view text, const Context& context);
 
 // "Warning:", "Not documented:", "Note:"
 std::string noteLabel(const model::Note& note, const Context& context);
+
+// For Context::counted.
+constexpr Wording kSetting{" setting", " Einstellung"}, kSettings{" settings", " Einstellungen"},
+    kChange{" change", " Änderung"}, kChanges{" changes", " Änderungen"};
 
 constexpr Wording kNotesHelp{"also the notes on what changes: warnings, what is not documented",
                              "auch die Hinweise zu den Änderungen: Warnungen, was nicht dokumentiert ist"};

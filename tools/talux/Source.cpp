@@ -4,8 +4,7 @@
 #include <cmath>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
+#include <sys/shm.h>
 
 #include "ParamSystem/TALUX_Var.h"
 #include "ParamSystem/files/Effect.h"
@@ -14,18 +13,6 @@
 #include "tools/talux/Text.h"
 
 namespace talux::tool {
-
-namespace {
-
-constexpr reference::File kFiles[] = {reference::File::normal, reference::File::security,
-                                      reference::File::address};
-
-} // namespace
-
-bool isThere(const std::string& path) {
-    std::error_code error;
-    return std::filesystem::exists(path, error);
-}
 
 bool isFolder(const std::string& path) {
     std::error_code error;
@@ -36,11 +23,11 @@ void readEntries(const std::string& path, const Context& context,
                  const std::function<void(const Entry&)>& visit) {
     const os::Error error = readLines(path.c_str(), [&visit](const Entry& entry) { visit(entry); });
     if (error && error.stage == os::Stage::open)
-        throw CouldNot(context.say("{}: cannot be opened: {}", "{}: lässt sich nicht öffnen: {}", path,
-                                   reasonOf(error.number)));
+        context.fail("{}: cannot be opened: {}", "{}: lässt sich nicht öffnen: {}", path,
+                     reasonOf(error.number));
     if (error)
-        throw CouldNot(context.say("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}", path,
-                                   reasonOf(error.number)));
+        context.fail("{}: cannot be read: {}", "{}: lässt sich nicht lesen: {}", path,
+                     reasonOf(error.number));
 }
 
 Source Source::open(const std::string& name, const Context& context) {
@@ -57,29 +44,20 @@ Source Source::open(const std::string& name, const Context& context) {
 
 std::vector<std::string> filesIn(const std::string& folder, const Context& context) {
     std::vector<std::string> found;
-    for (const reference::File file : kFiles)
-        if (std::string path = joined({folder, "/", reference::fileName(file)}); isThere(path))
+    for (const File file : kFiles)
+        if (std::string path = joined({folder, "/", reference::fileName(file)}); os::exists(path.c_str()))
             found.push_back(std::move(path));
     if (found.empty())
-        throw CouldNot(context.say("{}: none of parameter.ini, sec_parameter.ini, ip_config.ini is there",
-                                   "{}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini "
-                                   "ist da",
-                                   folder));
+        context.fail("{}: none of parameter.ini, sec_parameter.ini, ip_config.ini is there",
+                     "{}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini ist da", folder);
     return found;
 }
 
 std::string Source::called(const Context& context) const {
-    switch (origin_) {
-    case Origin::defaults:
-        return context.say("the factory settings", "der Werkseinstellung");
-    case Origin::live:
-        return context.say("the live settings", "den gültigen Einstellungen");
-    case Origin::staged:
-        return context.say("the working copy", "der Arbeitskopie");
-    case Origin::file:
-        break;
-    }
-    return printable(name_);
+    return origin_ == Origin::defaults ? context.say("the factory settings", "der Werkseinstellung")
+           : origin_ == Origin::live   ? context.say("the live settings", "den gültigen Einstellungen")
+           : origin_ == Origin::staged ? context.say("the working copy", "der Arbeitskopie")
+                                       : printable(name_);
 }
 
 void Source::readFile(const std::string& path, const Context& context) {
@@ -121,16 +99,10 @@ void attachDevice(Access access, const Context& context) {
 }
 
 bool isDeviceThere() {
-    std::ifstream table("/proc/sysvipc/shm");
-    std::string line;
-    while (std::getline(table, line)) {
-        int key = 0;
-        if (std::istringstream(line) >> key && key == kGlobalSpaceKey) return true;
-    }
-    return false;
+    return shmget(kGlobalSpaceKey, 0, 0) >= 0;
 }
 
-std::string pathOf(reference::File file, const Context& context) {
+std::string pathOf(File file, const Context& context) {
     return context.directory + "/" + std::string(reference::fileName(file));
 }
 
@@ -150,6 +122,19 @@ bool sameValue(const std::optional<Value>& a, const std::optional<Value>& b) {
     if (a->isText() != b->isText()) return false;
     if (a->isText()) return std::strcmp(a->text(), b->text()) == 0;
     return a->number() == b->number() || (std::isnan(a->number()) && std::isnan(b->number()));
+}
+
+bool isDifference(const Difference& difference) {
+    return !sameValue(difference.from, difference.to);
+}
+
+std::vector<Difference> differences(const Source& a, const Source& b,
+                                    const std::function<bool(const Difference&)>& isMeant) {
+    std::vector<Difference> found;
+    for (const Parameter& parameter : settings())
+        if (const Difference each{&parameter, a.value(parameter), b.value(parameter)}; isMeant(each))
+            found.push_back(each);
+    return found;
 }
 
 std::string fileForm(const Parameter& parameter, const Value& value) {

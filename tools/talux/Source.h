@@ -16,7 +16,9 @@
 
 namespace talux::tool {
 
-using reference::Parameter, reference::Parameters;
+using reference::File, reference::Parameter, reference::Parameters;
+
+constexpr File kFiles[] = {File::normal, File::security, File::address};
 
 class Source {
 public:
@@ -44,6 +46,7 @@ public:
     // load would keep of it.
     std::optional<Value> value(int id) const;
     std::optional<Value> value(const Parameter& parameter) const { return value(parameter.row().id); }
+    std::optional<Value> operator()(const Parameter& parameter) const { return value(parameter); }
 
     // A file need not hold every setting; all others do.
     bool isPartial() const { return origin_ == Origin::file; }
@@ -67,11 +70,10 @@ bool isDeviceThere();
 // The parameter files of a folder that are there. Throws CouldNot when there is none.
 std::vector<std::string> filesIn(const std::string& folder, const Context& context);
 
-bool isThere(const std::string& path);
 bool isFolder(const std::string& path);
 
 // Path of one of the parameter files in the folder of the device.
-std::string pathOf(reference::File file, const Context& context);
+std::string pathOf(File file, const Context& context);
 
 // Calls visit(entry) for every line of a parameter file. Throws CouldNot with the reason.
 void readEntries(const std::string& path, const Context& context,
@@ -89,6 +91,16 @@ inline bool isIndividual(const Parameter& parameter) {
 }
 
 bool sameValue(const std::optional<Value>& a, const std::optional<Value>& b);
+
+struct Difference {
+    const Parameter* parameter = nullptr;
+    std::optional<Value> from, to;
+};
+
+// The settings in which two sources differ: those for which isDifference(difference) is true.
+bool isDifference(const Difference& difference);
+std::vector<Difference> differences(const Source& a, const Source& b,
+                                    const std::function<bool(const Difference&)>& isMeant = isDifference);
 
 // The value as a parameter file holds it, without name and line end; the canonical form of a value.
 std::string fileForm(const Parameter& parameter, const Value& value);

@@ -3,7 +3,6 @@
 #include "ParamSystem/network/SettingIds.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/store/ChangeFlags.h"
-#include "tools/talux/Difference.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
@@ -12,8 +11,6 @@
 namespace talux::tool {
 
 namespace {
-
-using reference::File;
 
 struct Options {
     bool json = false, plausible = false;
@@ -39,9 +36,10 @@ struct Report {
 Change saveChange(const char* command, File file, const Source& staged, const Context& context) {
     const std::string path = pathOf(file, context);
     const bool isThere = os::exists(path.c_str());
-    const auto differs = [file](const Parameter& parameter, const auto& old, const auto& wanted) {
-        return parameter.file() == file && wanted &&
-               (!old || fileForm(parameter, *old) != fileForm(parameter, *wanted));
+    const auto differs = [file](const Difference& each) {
+        const auto& [parameter, old, wanted] = each;
+        return parameter->file() == file && wanted &&
+               (!old || fileForm(*parameter, *old) != fileForm(*parameter, *wanted));
     };
     const Source before = isThere ? Source::open(path, context) : Source::nothing(path);
     return {command, path, isThere, differences(before, staged, differs)};
@@ -62,7 +60,7 @@ Report reportOn(const Options& options, const Context& context) {
         if (const auto value = staged.value(parameter))
             if (auto finding = wouldNotComeBack(parameter, *value, context))
                 report.losses.emplace_back(&parameter, std::move(*finding));
-    if (options.plausible) report.implausible = findImplausible(staged, context);
+    if (options.plausible) report.implausible = findImplausible(std::cref(staged), {}, context);
     return report;
 }
 
@@ -71,7 +69,6 @@ bool reachesNetwork(const Difference& pending) {
 }
 
 void printChange(const Change& change, const Context& context) {
-    const Paint paint;
     const auto& [command, place, isThere, pending] = change;
     const auto count = context.counted(pending.size(), {"", " Wert"}, {"", " Werte"});
     const auto head =
@@ -79,11 +76,10 @@ void printChange(const Change& change, const Context& context) {
             ? context.say("{} would change {} in {}", "{} würde {} in {} ändern", command, count, place)
             : context.say("{} would write {} to {}, which is not there",
                           "{} würde {} nach {} schreiben, das noch nicht existiert", command, count, place);
-    print(paint.bold(head) + "\n");
+    print(Paint::bold(head) + "\n");
     Table table;
     for (const Difference& each : pending)
-        table.add({std::string(each.parameter->name()),
-                   paint.changed(tool::change(*each.parameter, each.from, each.to, context)),
+        table.add({std::string(each.parameter->name()), Paint::changed(tool::change(each, context)),
                    reachesNetwork(each) ? context.say("network", "Netzwerk") : ""});
     if (isThere) print(table.text("  "));
 }
@@ -102,9 +98,8 @@ void printText(const Report& report, const Context& context) {
             "ETH1_IP, WLAN0_IP tut es\n"));
     for (const auto& [parameter, finding] : report.losses)
         print(fill("{}: {}\n", {parameter->name(), finding.text}));
-    const Paint paint;
     for (const Implausible& found : report.implausible)
-        print((found.isFault() ? paint.bad(found.text) : found.text) + "\n");
+        print(found.painted() + "\n");
     for (const std::string& flag : report.flags)
         print(context.say("{} is set: another program has not yet taken up the change\n",
                           "{} ist gesetzt: ein anderes Programm hat die Änderung noch nicht übernommen\n",
@@ -115,7 +110,7 @@ void printJson(const Report& report, const Context& context) {
     Json all;
     for (const auto& [command, place, isThere, pending] : report.changes) {
         Json changes = Json::arrayOf(pending, [&](const Difference& each) {
-            Json entry = changeJson(*each.parameter, each.from, each.to, context);
+            Json entry = changeJson(each, context);
             entry.set("network", reachesNetwork(each));
             return entry;
         });

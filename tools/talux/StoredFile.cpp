@@ -7,7 +7,7 @@
 
 namespace talux::tool {
 
-StoredFile lookAt(const std::string& path, reference::File file, const Context& context) {
+StoredFile lookAt(const std::string& path, File file, const Context& context) {
     StoredFile found;
     const Parameter* last = nullptr; // of a save, which writes them by position
     for (const Parameter& parameter : reference::parameters())
@@ -34,7 +34,7 @@ StoredFile lookAt(const std::string& path, reference::File file, const Context& 
     return found;
 }
 
-std::vector<DatedCopy> copiesOf(reference::File file, const Context& context) {
+std::vector<DatedCopy> copiesOf(File file, const Context& context) {
     const std::string stem = std::string(rowOf(kParameterFiles, file).stem) + "_";
     if (stem == "_") return {};
     std::vector<DatedCopy> copies;
@@ -53,8 +53,7 @@ std::vector<DatedCopy> copiesOf(reference::File file, const Context& context) {
     return copies;
 }
 
-std::optional<std::string> newestWholeCopy(reference::File file, const Context& context,
-                                           const std::string& until) {
+std::optional<std::string> newestWholeCopy(File file, const Context& context, const std::string& until) {
     for (const DatedCopy& copy : copiesOf(file, context)) {
         if (copy.when > until) continue;
         const StoredFile looked = lookAt(copy.path, file, context);

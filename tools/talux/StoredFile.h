@@ -18,17 +18,16 @@ struct StoredFile {
     bool isComplete() const { return isUsable() && settings == expected && findings == 0; }
 };
 
-StoredFile lookAt(const std::string& path, reference::File file, const Context& context);
+StoredFile lookAt(const std::string& path, File file, const Context& context);
 
 // The dated copies of a file with the moment in their names, "2024-03-05 14:22:33", the newest first.
 struct DatedCopy {
     std::string path, when;
 };
-std::vector<DatedCopy> copiesOf(reference::File file, const Context& context);
+std::vector<DatedCopy> copiesOf(File file, const Context& context);
 
 // The newest one up to a moment that is usable and not torn. One of an older version lacks new settings.
-std::optional<std::string> newestWholeCopy(reference::File file, const Context& context,
-                                           const std::string& until = "9");
+std::optional<std::string> newestWholeCopy(File file, const Context& context, const std::string& until = "9");
 
 } // namespace talux::tool
 

@@ -40,6 +40,13 @@ Sign signAt(std::string_view text) {
     return {std::max<std::size_t>(1, characterAt(text)), 1};
 }
 
+bool isColoured() {
+    const char* const none = std::getenv("NO_COLOR");
+    const char* const terminal = std::getenv("TERM");
+    const bool isDumb = terminal == nullptr || std::string_view(terminal) == "dumb";
+    return isForTerminal() && !isDumb && (none == nullptr || *none == '\0');
+}
+
 } // namespace
 
 std::size_t width(std::string_view text) {
@@ -127,26 +134,19 @@ bool isForTerminal() {
 }
 
 // `less` ends at once where all fits, and is not everywhere.
-Pager::Pager() : pipe(isForTerminal() ? popen("${PAGER:-less -FRX} || exec cat", "w") : nullptr) {
-    if (pipe == nullptr) return;
+std::shared_ptr<void> pager() {
+    std::FILE* const pipe = isForTerminal() ? popen("${PAGER:-less -FRX} || exec cat", "w") : nullptr;
+    if (pipe == nullptr) return {};
     std::signal(SIGINT, SIG_IGN); // it is the pager's
     dup2(fileno(pipe), STDOUT_FILENO);
+    return {nullptr, [pipe](void*) {
+                std::fclose(stdout);
+                pclose(pipe);
+            }};
 }
 
-Pager::~Pager() {
-    if (pipe == nullptr) return;
-    std::fclose(stdout);
-    pclose(pipe);
-}
-
-Paint::Paint() {
-    const char* const none = std::getenv("NO_COLOR");
-    const char* const terminal = std::getenv("TERM");
-    const bool isDumb = terminal == nullptr || std::string_view(terminal) == "dumb";
-    isOn = isForTerminal() && !isDumb && (none == nullptr || *none == '\0');
-}
-
-std::string Paint::with(const char* code, const std::string& text) const {
+std::string Paint::with(const char* code, const std::string& text) {
+    static const bool isOn = isColoured();
     return isOn && !text.empty() ? std::string("\033[") + code + "m" + text + "\033[0m" : text;
 }
 

@@ -2,8 +2,8 @@
 #ifndef TALUX_TOOLS_TALUX_TEXT_H
 #define TALUX_TOOLS_TALUX_TEXT_H
 
-#include <cstdio>
 #include <ctime>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,39 +39,19 @@ std::string localTimeText(std::time_t seconds, const char* format = "%Y-%m-%d %H
 // For text that comes from files: control characters and what is no UTF-8 become "\xNN".
 std::string printable(std::string_view text);
 
-// "1 setting", "3 settings": the number and one of the words, which begin with a blank.
-template <typename Number>
-std::string counted(Number count, const char* one, const char* several) {
-    return std::to_string(count) + (count == 1 ? one : several);
-}
-
 // Whether a person reads what the program prints.
 bool isForTerminal();
 
 // While it lives, standard output goes through $PAGER, or less, if it goes to a terminal.
-class Pager {
-public:
-    Pager();
-    ~Pager();
-    Pager(const Pager&) = delete;
-    Pager& operator=(const Pager&) = delete;
-
-private:
-    std::FILE* pipe;
-};
+[[nodiscard]] std::shared_ptr<void> pager();
 
 // Colours, on a terminal only and unless NO_COLOR is set.
-class Paint {
-public:
-    Paint();
-    std::string bold(const std::string& text) const { return with("1", text); }
-    std::string dim(const std::string& text) const { return with("2", text); }
-    std::string bad(const std::string& text) const { return with("31", text); }
-    std::string changed(const std::string& text) const { return with("33", text); }
-
-private:
-    bool isOn;
-    std::string with(const char* code, const std::string& text) const;
+struct Paint {
+    static std::string bold(const std::string& text) { return with("1", text); }
+    static std::string dim(const std::string& text) { return with("2", text); }
+    static std::string bad(const std::string& text) { return with("31", text); }
+    static std::string changed(const std::string& text) { return with("33", text); }
+    static std::string with(const char* code, const std::string& text);
 };
 
 // Rows of cells, printed so that columns stand below each other; the last one is not padded.

@@ -192,7 +192,6 @@ private:
 
     // What is on the screen, after it was scrolled.
     void show() {
-        const Paint paint;
         Table table;
         for (std::size_t k = 0; k < items.size(); ++k) {
             const auto& [least, most] = extremes[k];
@@ -200,7 +199,7 @@ private:
                 !items[k].isMeasured() && !before.empty() && !sameValue(before[k], values[k]);
             const auto text = [&](const auto& value) { return items[k].shortText(value, context); };
             std::vector<std::string> row{changed ? "*" : "", items[k].label,
-                                         changed ? paint.changed(text(values[k])) : text(values[k])};
+                                         changed ? Paint::changed(text(values[k])) : text(values[k])};
             if (options.minMax) row.push_back(least ? text(least) + " .. " + text(most) : "");
             row.push_back(items[k].title);
             table.add(std::move(row));

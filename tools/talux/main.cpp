@@ -72,10 +72,10 @@ Status run(int argc, char** argv, Context& context) {
          {addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport, addWatch, addChanges,
           addVersions, addAddress, addShell, addLint, addBoot, addAnnotations, addHelp})
         add(line);
-    std::optional<Pager> pager;
+    std::shared_ptr<void> pages;
     try {
         const Command* const command = line.parse(argc, argv);
-        if (command != nullptr && command->isPaged) pager.emplace();
+        if (command != nullptr && command->isPaged) pages = pager();
         const Status status = command == nullptr ? kNothing : command->run(context);
         if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
         context.fail("the output cannot be written", "die Ausgabe lässt sich nicht schreiben");

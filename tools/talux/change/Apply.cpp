@@ -10,15 +10,12 @@
 #include "ParamSystem/network/SettingIds.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/os/Os.h"
-#include "tools/talux/Difference.h"
 #include "tools/talux/Files.h"
 #include "tools/talux/Plausibility.h"
 
 namespace talux::tool {
 
 namespace {
-
-using reference::File;
 
 constexpr int kClockTolerance = 5; // seconds between the write and the look
 
@@ -49,22 +46,15 @@ void writeOne(const Write& write, const Context& context) {
 
 // From the first write to the last what ends the terminal or the reader of the output does not end it.
 // Programs that are started meanwhile have the usual handlers.
-class Undisturbed {
-public:
-    Undisturbed() {
-        for (auto& [signal, before] : handlers)
-            before = std::signal(signal, [](int) {});
-    }
-    ~Undisturbed() {
-        for (const auto& [signal, before] : handlers)
-            std::signal(signal, before);
-    }
-    Undisturbed(const Undisturbed&) = delete;
-    Undisturbed& operator=(const Undisturbed&) = delete;
-
-private:
-    std::pair<int, void (*)(int)> handlers[4]{{SIGHUP, {}}, {SIGINT, {}}, {SIGTERM, {}}, {SIGPIPE, {}}};
-};
+[[nodiscard]] std::shared_ptr<void> undisturbed() {
+    std::vector<std::pair<int, void (*)(int)>> handlers;
+    for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGPIPE})
+        handlers.emplace_back(signal, std::signal(signal, [](int) {}));
+    return {nullptr, [handlers](void*) {
+                for (const auto& [signal, before] : handlers)
+                    std::signal(signal, before);
+            }};
+}
 
 class Change {
 public:
@@ -99,14 +89,13 @@ private:
 
     void show() const {
         if (order.json) return showJson();
-        const Paint paint;
         Table table;
         for (const Write& write : writes)
-            table.add({paint.bold(write.label()), paint.changed(write.change(context)),
-                       paint.dim(write.parameter->title(context.language))});
+            table.add({Paint::bold(write.label()), Paint::changed(write.change(context)),
+                       Paint::dim(write.parameter->title(context.language))});
         print(writes.empty() ? context.say("nothing to change\n", "nichts zu ändern\n") : table.text());
         for (const Implausible& found : implausible())
-            print((found.isFault() ? paint.bad(found.text) : found.text) + "\n");
+            print(found.painted() + "\n");
         std::fflush(stdout);
     }
 
@@ -120,23 +109,16 @@ private:
 
     // What the settings would be that are hardly meant, as far as these writes have a part in it.
     std::vector<Implausible> implausible() const {
-        std::map<const Parameter*, Value> written;
+        Written written;
         for (const Write& write : writes)
             if (write.index == 0) written.emplace(write.parameter, write.to);
-        const auto isWritten = [&](const Parameter& parameter) { return written.contains(&parameter); };
-        const auto after = [&](const Parameter& parameter) {
-            return isWritten(parameter) ? std::optional(written.at(&parameter))
-                                        : present(parameter, parameter.row().id);
-        };
-        auto all = findImplausible(after, {}, context);
-        std::erase_if(all, [&](const Implausible& found) { return !found.concerns(isWritten); });
-        return all;
+        const auto others = [](const Parameter& parameter) { return present(parameter, parameter.row().id); };
+        return findImplausible(written, others, {}, context);
     }
 
     std::string question() const {
-        std::string text = context.say(
-            "Write {}?", "{} schreiben?",
-            context.counted(writes.size(), {" setting", " Einstellung"}, {" settings", " Einstellungen"}));
+        std::string text =
+            context.say("Write {}?", "{} schreiben?", context.counted(writes.size(), kSetting, kSettings));
         if (isApplied() && !order.isConfirmed)
             text += context.say(" The address is applied at once and may cut you off: `talux address` takes "
                                 "it back by itself.",
@@ -166,7 +148,7 @@ private:
             if (write.isChanged())
                 context.fail("nothing is written: {} has changed meanwhile",
                              "nichts ist geschrieben: {} hat sich inzwischen geändert", write.label());
-        const Undisturbed undisturbed;
+        const auto signals = undisturbed();
         keep();
         for (const Write& write : writes) {
             writeOne(write, context);
@@ -176,7 +158,7 @@ private:
         journal.isDone = true;
         keep();
         os::logInfo("talux %s: %s by %s", printable(journal.what).c_str(),
-                    counted(writes.size(), " setting", " settings").c_str(), journal.who.c_str());
+                    Context().counted(writes.size(), kSetting, kSettings).c_str(), journal.who.c_str());
         if (order.reach() == Reach::live) VarUpdateGlobalSpace();
         if (order.reach() != Reach::saved) return;
         std::set<File> files = order.files;
@@ -218,7 +200,7 @@ void save(const std::set<File>& files, const Context& context) {
         if (const int error = files.contains(file) ? VarSaveError(saved) : 0; error != 0)
             context.fail("the settings are written, but {} is not saved: {}",
                          "die Einstellungen sind geschrieben, aber {} ist nicht gespeichert: {}",
-                         pathOf(file, context), std::generic_category().message(error));
+                         pathOf(file, context), reasonOf(error));
 }
 
 Added<Order> addChange(CommandLine& line, const char* name, ChangeCommand change, Wording help) {
@@ -272,7 +254,7 @@ std::shared_ptr<void> oneAtATime(const Context& context) {
     const int descriptor = os::openOrMake(path.c_str());
     if (descriptor < 0)
         context.fail("{}: cannot be written: {}", "{}: lässt sich nicht schreiben: {}", path,
-                     std::generic_category().message(errno));
+                     reasonOf(errno));
     std::shared_ptr<void> lock(nullptr, [descriptor](void*) { os::closeFile(descriptor); });
     if (os::tryLockFile(descriptor)) return lock;
     context.fail("another change is being made at this moment", "gerade wird eine andere Änderung gemacht");

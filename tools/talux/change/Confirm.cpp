@@ -72,7 +72,7 @@ bool endsWaiting(const Journal& journal, const Context& context) try {
 [[noreturn]] void guard(const Journal& journal, int seconds, int pipe, const std::string& before,
                         const Context& context) {
     const double end = now() + seconds;
-    const std::string path = pathOf(reference::File::address, context);
+    const std::string path = pathOf(File::address, context);
     os::logInfo("talux address: %s: applied, waits %d s for `talux confirm`",
                 journal.inWords(context).c_str(), seconds);
     applyAddresses(journal);
@@ -91,7 +91,7 @@ bool endsWaiting(const Journal& journal, const Context& context) try {
 
 // Gives the end of a pipe that closes with the guard, once the addresses are applied.
 int startGuard(const Journal& journal, int seconds, const Context& context) {
-    const std::string path = pathOf(reference::File::address, context);
+    const std::string path = pathOf(File::address, context);
     const std::string before = os::exists(path.c_str()) ? contentsOf(path, context) : "";
     replace(openAddress(context), journal.text(context), context);
     int ends[2];
@@ -180,7 +180,7 @@ Status confirm(Order& order, const Context& context) {
     const auto lock = oneAtATime(context);
     const auto journal = Journal::read(openAddress(context), context);
     if (!journal) context.fail("no address waits to be confirmed", "keine Adresse wartet auf Bestätigung");
-    save({reference::File::address}, context);
+    save({File::address}, context);
     os::removeFile(openAddress(context).c_str());
     const std::string changes = journal->inWords(context);
     os::logInfo("talux confirm: %s by %s", changes.c_str(), whoAmI().c_str());

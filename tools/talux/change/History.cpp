@@ -2,15 +2,12 @@
 #include <ctime>
 #include <sys/stat.h>
 
-#include "tools/talux/Difference.h"
 #include "tools/talux/StoredFile.h"
 #include "tools/talux/change/Apply.h"
 
 namespace talux::tool {
 
 namespace {
-
-using reference::File;
 
 struct Options {
     std::string name; // of a parameter
@@ -35,9 +32,9 @@ struct Version {
 
 std::vector<Version> historyOf(const Context& context) {
     std::vector<Version> all;
-    for (const File file : {File::normal, File::security, File::address}) {
-        const auto isChange = [file](const Parameter& parameter, const auto& from, const auto& to) {
-            return parameter.file() == file && from && to && !sameValue(from, to);
+    for (const File file : kFiles) {
+        const auto isChange = [file](const Difference& each) {
+            return each.parameter->file() == file && each.from && each.to && isDifference(each);
         };
         Source before = Source::nothing("");
         for (const DatedCopy& copy : versionsOf(file, context)) {
@@ -70,8 +67,7 @@ Status history(const Options& options, const Context& context) {
         if (one != nullptr && !value) continue;
         table.add({copy.when, copy.path,
                    one != nullptr ? shown(*one, value, context)
-                                  : context.counted(changed.size(), {" change", " Änderung"},
-                                                    {" changes", " Änderungen"})});
+                                  : context.counted(changed.size(), kChange, kChanges)});
         Json object{
             {"when", copy.when},
             {"file", copy.path},

@@ -39,10 +39,8 @@ std::string encoded(const Parameter& parameter, const std::optional<Value>& valu
 
 std::optional<Value> decoded(std::string_view text) {
     if (!text.starts_with('"')) {
-        double number = 0;
-        const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-        const bool isAll = read.ec == std::errc() && read.ptr == text.data() + text.size();
-        return isAll ? std::optional(Value(number)) : std::nullopt;
+        const auto number = numberOf<double>(text);
+        return number ? std::optional(Value(*number)) : std::nullopt;
     }
     std::string bytes;
     for (std::size_t k = 1; k + 1 < text.size(); ++k) {

@@ -65,10 +65,7 @@ std::string whyNoNumber(const Parameter& parameter, std::string_view text, bool 
                                   "'{}' heißt mehr als eine Auswahl, die Nummer ist nötig")
         : parameter.type().kind == Kind::Enum ? context.say("has no choice '{}'", "hat keine Auswahl '{}'")
                                               : context.say("'{}' is not a number", "'{}' ist keine Zahl");
-    const char* const hint = text.find(',') == text.npos
-                                 ? ""
-                                 : context.say("; decimals need a point", "; Dezimalen brauchen einen Punkt");
-    return fill(pattern, {printable(text)}) + hint;
+    return fill(pattern, {printable(text)}) + commaHint(text, context);
 }
 
 // How the clock's parameters show it.
@@ -169,6 +166,16 @@ void Plan::take(std::string_view typed, std::string_view value) {
     const auto* const write = decision.get<kepl::WriteNumber>();
     add(*parameter, static_cast<int>(decision.term.first),
         write != nullptr ? Value(write->number) : Value(value));
+}
+
+void Plan::take(const std::vector<std::string>& assignments) {
+    for (const std::string& assignment : assignments) {
+        std::string_view value = assignment;
+        const std::string_view label = takeUpTo(value, '=');
+        if (label.size() == assignment.size())
+            context.fail("'{}': NAME=VALUE expected", "'{}': NAME=WERT erwartet", assignment);
+        take(label, value);
+    }
 }
 
 void Plan::checkDevice(std::string_view line, const std::string& path) const {

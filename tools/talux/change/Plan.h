@@ -20,7 +20,7 @@ struct Write {
 
     int id() const { return parameter->row().id + (index > 0 ? index - 1 : 0); }
     std::string label() const; // NAME or NAME[3]
-    std::string change(const Context& context) const { return tool::change(*parameter, from, to, context); }
+    std::string change(const Context& context) const { return tool::change({parameter, from, to}, context); }
     std::optional<Value> present() const { return tool::present(*parameter, id()); } // what is there now
     bool setsClock() const { return isOfClock(*parameter); }
     // Of the clock, which goes on, neither is ever known: it counts as written.
@@ -40,6 +40,9 @@ public:
     void take(const std::vector<std::string>& assignments);
     void take(std::string_view label, std::string_view value);
 
+    // Several of them, NAME=VALUE.
+    void take(const std::vector<std::string>& assignments);
+
     // A file of such lines, in the form of parameter files; the prefix TLX_ may be missing, blanks may be
     // around "=". As a load does, it leaves the clock alone. Throws CouldNot when it is for another device.
     void read(const std::string& path);
@@ -55,7 +58,7 @@ public:
     const std::vector<std::string>& refusals() const { return refused; }
 
     // Those of all settings that are named, whether they differ or not.
-    const std::set<reference::File>& files() const { return named; }
+    const std::set<File>& files() const { return named; }
 
     // What differs from what is there, in the order in which it has to be written: the clock and then the
     // addresses last, since they cannot be taken back.
@@ -66,7 +69,7 @@ private:
     const bool onDevice;
     Writes planned;
     std::set<int> ids;
-    std::set<reference::File> named;
+    std::set<File> named;
     std::vector<std::string> refused;
     std::string place; // "FILE:LINE: ", precedes a refusal
 

@@ -1,6 +1,5 @@
 // talux set, apply, undo, discard: settings changed all or none, and back.
 #include "ParamSystem/os/Files.h"
-#include "tools/talux/Difference.h"
 #include "tools/talux/change/Apply.h"
 
 namespace talux::tool {
@@ -26,7 +25,7 @@ void demandUnchanged(const Journal& journal, const Context& context) {
     for (const Write& write : journal.writes)
         if (!write.isThere())
             changed += joined({changed.empty() ? "" : "; ", write.label(), " ",
-                               change(*write.parameter, write.to, write.present(), context)});
+                               change({write.parameter, write.to, write.present()}, context)});
     if (!changed.empty())
         context.fail("nothing is written; changed since by something else: {}",
                      "nichts ist geschrieben; seither anderweitig geändert: {}", changed);
