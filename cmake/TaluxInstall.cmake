@@ -25,6 +25,15 @@ function(talux_install component)
   install(${ARGN} COMPONENT deb_${component} EXCLUDE_FROM_ALL)
 endfunction()
 
+# A program and its manual page.
+function(talux_install_program name)
+  talux_install(program TARGETS ${name} DESTINATION ${CMAKE_INSTALL_BINDIR})
+  set(page ${CMAKE_CURRENT_BINARY_DIR}/${name}.1.gz)
+  execute_process(COMMAND ${GZIP_PROGRAM} -9nc ${PROJECT_SOURCE_DIR}/packaging/${name}.1
+    OUTPUT_FILE ${page} COMMAND_ERROR_IS_FATAL ANY)
+  talux_install(program FILES ${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endfunction()
+
 # The library and the files that say where it is. Components of the packages have the prefix deb_.
 function(talux_install_library prefix libdir exclude)
   set(package_dir ${libdir}/cmake/talux_lua)

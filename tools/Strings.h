@@ -2,7 +2,10 @@
 #ifndef TALUX_TOOLS_STRINGS_H
 #define TALUX_TOOLS_STRINGS_H
 
+#include <algorithm>
 #include <charconv>
+#include <cstdarg>
+#include <cstdio>
 #include <functional>
 #include <initializer_list>
 #include <optional>
@@ -43,6 +46,21 @@ inline std::string fill(std::string_view pattern, std::initializer_list<std::str
     return text.append(pattern);
 }
 
+// As printf prints it, at most 511 characters.
+[[gnu::format(printf, 1, 2)]] inline std::string formatted(const char* format, ...) {
+    char text[512];
+    std::va_list values;
+    va_start(values, format);
+    std::vsnprintf(text, sizeof text, format, values);
+    va_end(values);
+    return text;
+}
+
+// Whether one of them is the item.
+bool isOneOf(const auto& all, const auto& item) {
+    return std::ranges::find(all, item) != std::ranges::end(all);
+}
+
 // A number that is all of the text.
 template <class Number>
 std::optional<Number> numberOf(std::string_view text) {
@@ -63,6 +81,17 @@ inline std::string escaped(std::string_view text, std::string_view special) {
         plain += c;
     }
     return plain;
+}
+
+// As the text of a page in HTML or SVG.
+inline std::string inMarkup(std::string_view text) {
+    constexpr std::string_view kSpecial = "&<>\"", kEntities[] = {"&amp;", "&lt;", "&gt;", "&quot;"};
+    std::string markup;
+    for (const char& c : text) {
+        const std::size_t special = kSpecial.find(c);
+        markup += special == kSpecial.npos ? std::string_view(&c, 1) : kEntities[special];
+    }
+    return markup;
 }
 
 // As a text constant of C++ or Lua.

@@ -243,6 +243,7 @@ fingerprint
 fingerprint a.ini --listing
 list --of staged --json
 list U --of a.ini --json
+list --families --methods --json
 explain --live Uearth MessRecord01
 explain --live --json Uearth MessRecord01.U1p 28 'BAassign' Name
 history --json

@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdarg>
-#include <cstdio>
 
 #include "talux/about.hpp"
+#include "tools/Strings.h"
 
 namespace desk {
 
@@ -23,22 +22,6 @@ constexpr char kStyle[] =
   .voltage { stroke: #58a6ff; } .current { stroke: #f0883e; } .signal { fill: #3fb950; } }
 </style>
 )";
-
-[[gnu::format(printf, 2, 3)]] void append(std::string& to, const char* format, ...) {
-    char text[512];
-    va_list values;
-    va_start(values, format);
-    std::vsnprintf(text, sizeof text, format, values);
-    va_end(values);
-    to += text;
-}
-
-std::string escaped(std::string_view text) {
-    std::string result;
-    for (const char c : text)
-        result += c == '<' ? "&lt;" : c == '>' ? "&gt;" : c == '&' ? "&amp;" : std::string(1, c);
-    return result;
-}
 
 } // namespace
 
@@ -63,18 +46,18 @@ void Plot::addCurve(std::string& svg, double top, double Point::*value, const ch
     double max = 1e-3;
     for (const Point& point : points)
         max = std::max(max, point.*value);
-    append(svg, "<text x=\"10\" y=\"%.0f\">%s %.3g %s</text>\n", top + 12, name, max, unit);
-    append(svg, "<path class=\"axis\" d=\"M%.1f,%.1f v%.1f h%.1f\"/>\n<path class=\"%s\" d=\"", kLeft, top,
-           kCurveHeight, kWidth, style);
+    svg += talux::formatted("<text x=\"10\" y=\"%.0f\">%s %.3g %s</text>\n", top + 12, name, max, unit);
+    svg += talux::formatted("<path class=\"axis\" d=\"M%.1f,%.1f v%.1f h%.1f\"/>\n<path class=\"%s\" d=\"",
+                            kLeft, top, kCurveHeight, kWidth, style);
     double last = -1, lastX = -1;
     for (const Point& point : points) {
         const double y = top + kCurveHeight * (1 - point.*value / max);
         const double distance = std::fabs(y - last);
         const bool isNear = distance < 0.5 || (distance < 4 && x(point.second) - lastX < 2);
         if (last >= 0 && isNear && &point != &points.back()) continue;
-        if (last >= 0) append(svg, "L%.1f,%.1f", x(point.second), last);
+        if (last >= 0) svg += talux::formatted("L%.1f,%.1f", x(point.second), last);
         lastX = x(point.second);
-        append(svg, "%s%.1f,%.1f", last < 0 ? "M" : "L", lastX, y);
+        svg += talux::formatted("%s%.1f,%.1f", last < 0 ? "M" : "L", lastX, y);
         last = y;
     }
     svg += "\"/>\n";
@@ -85,25 +68,26 @@ std::string Plot::svg(const std::string& title) const {
     const double height =
         40 + 2 * (kCurveHeight + kGap) + kRowHeight * static_cast<double>(signals.size()) + 30;
     std::string svg;
-    append(svg, "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 960 %.0f\" role=\"img\">\n<title>",
-           height);
-    svg += escaped(title) + "</title>\n" + kStyle;
+    svg += talux::formatted(
+        "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 960 %.0f\" role=\"img\">\n<title>", height);
+    svg += talux::inMarkup(title) + "</title>\n" + kStyle;
     double top = 30;
     addCurve(svg, top, &Point::voltage, "U0", "kV", "voltage");
     top += kCurveHeight + kGap;
     addCurve(svg, top, &Point::current, "I0", "A", "current");
     top += kCurveHeight + kGap;
     for (const auto& [function, spans] : signals) {
-        append(svg, "<text x=\"10\" y=\"%.1f\">", top + 12);
-        svg += escaped(talux::About(kFunction).choice(static_cast<int>(function))) + "</text>\n";
+        svg += talux::formatted("<text x=\"10\" y=\"%.1f\">", top + 12);
+        svg += talux::inMarkup(talux::About(kFunction).choice(static_cast<int>(function))) + "</text>\n";
         for (const auto& [from, to] : spans)
-            append(svg, "<rect class=\"signal\" x=\"%.1f\" y=\"%.1f\" width=\"%.1f\" height=\"12\"/>\n",
-                   x(from), top + 2, std::max(x(to) - x(from), 1.0));
+            svg += talux::formatted(
+                "<rect class=\"signal\" x=\"%.1f\" y=\"%.1f\" width=\"%.1f\" height=\"12\"/>\n", x(from),
+                top + 2, std::max(x(to) - x(from), 1.0));
         top += kRowHeight;
     }
     const double step = end() > 30 ? 10 : end() > 10 ? 2 : 1;
     for (double second = 0; second <= end(); second += step)
-        append(svg, "<text x=\"%.1f\" y=\"%.1f\">%g s</text>\n", x(second), top + 18, second);
+        svg += talux::formatted("<text x=\"%.1f\" y=\"%.1f\">%g s</text>\n", x(second), top + 18, second);
     return svg + "</svg>\n";
 }
 

@@ -4,7 +4,6 @@
 #include <charconv>
 #include <span>
 #include <string_view>
-#include <utility>
 
 #include "tools/Strings.h"
 #include "tools/desk/Desk.h"

@@ -35,14 +35,6 @@ std::string_view withoutNumber(std::string_view name) {
     return name.substr(0, name.find_last_not_of("0123456789") + 1);
 }
 
-template <class Wanted>
-Parameters chosen(Wanted wanted) {
-    Parameters found;
-    for (const Parameter& parameter : parameters())
-        if (!parameter.isTemplate() && wanted(parameter)) found.push_back(&parameter);
-    return found;
-}
-
 // Every name of a list in braces, or none where one is unknown or the braces are wrong.
 Parameters listed(std::string_view pattern) try {
     Parameters found;

@@ -21,6 +21,15 @@ bool containsIgnoringCase(std::string_view text, std::string_view part);
 bool isPattern(std::string_view text);
 bool fits(std::string_view name, std::string_view pattern);
 
+// The parameters that are wanted, in menu order; neither templates nor dialogs.
+template <class Wanted>
+Parameters chosen(Wanted wanted) {
+    Parameters found;
+    for (const Parameter& parameter : parameters())
+        if (!parameter.isTemplate() && wanted(parameter)) found.push_back(&parameter);
+    return found;
+}
+
 // What a name means: a parameter; a series by its name without the number, "BAassign"; a pattern,
 // "U*_prim" or "U{1..3}_prim". In menu order; empty when it means nothing.
 Parameters named(std::string_view name);

@@ -1,10 +1,10 @@
 #include "tools/reference/Reference.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "ParamSystem/kepl/Decision.h"
 #include "ParamSystem/store/Kinds.h"
+#include "tools/Strings.h"
 
 namespace talux::reference {
 
@@ -99,9 +99,7 @@ std::string Parameter::choiceText(int number, ParamLanguage language) const {
 }
 
 std::string shortNumber(double value) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%.10g", value);
-    return text;
+    return formatted("%.10g", value);
 }
 
 std::string rangeText(const Parameter& parameter, ParamLanguage language) {

@@ -1,8 +1,6 @@
 // talux annotations: a Lua file for editors with language servers, which then know the functions of the
 // module and every parameter.
-#include "tools/talux/Command.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
@@ -96,9 +94,8 @@ std::string remarkOn(const Parameter& parameter, const Context& context) {
 std::string names(const char* alias, const char* prefix, const Context& context,
                   const std::function<bool(const Parameter&)>& wanted) {
     std::string text = fill("\n---@alias {}\n", {alias});
-    for (const Parameter& parameter : reference::parameters())
-        if (!parameter.isTemplate() && wanted(parameter))
-            text += fill("---| \"{}{}\" # {}\n", {prefix, parameter.name(), remarkOn(parameter, context)});
+    for (const Parameter* parameter : reference::chosen(wanted))
+        text += fill("---| \"{}{}\" # {}\n", {prefix, parameter->name(), remarkOn(*parameter, context)});
     return text;
 }
 

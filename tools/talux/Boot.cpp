@@ -37,10 +37,12 @@ int loadAddresses() {
     return VarLoadFile(path.data(), 0);
 }
 
-class Boot {
-public:
-    Boot(const Options& given, const Context& person)
-        : options(given), context(person), applies(given.apply || isDevicesProcessor()) {}
+struct Boot {
+    const Options& options;
+    const Context& context;
+    const bool applies;
+    Status status = kNothing;
+    std::string found{}; // what is wrong with the files, for the system log
 
     Status run() {
         std::string directory = context.directory;
@@ -66,13 +68,6 @@ public:
         if (!found.empty()) os::logError("talux boot: %s", found.c_str());
         return status;
     }
-
-private:
-    const Options& options;
-    const Context& context;
-    const bool applies;
-    Status status = kNothing;
-    std::string found; // what is wrong with the files, for the system log
 
     void tell(const std::string& text, Status reached = kNothing) {
         status = std::max(status, reached);
@@ -167,7 +162,7 @@ Status run(const Options& options, const Context& context) {
                      "pending would be lost; --again does it",
                      "das Gerät läuft: seine Einstellungen würden neu gesetzt, Anstehendes "
                      "ginge verloren; --again tut es");
-    return Boot(options, context).run();
+    return Boot{options, context, options.apply || isDevicesProcessor()}.run();
 }
 
 } // namespace

@@ -1,11 +1,6 @@
 // talux check: what a load of a file would change, line by line, and whether what it leaves is plausible.
-#include <map>
-
-#include "tools/talux/Command.h"
 #include "tools/talux/Judgement.h"
 #include "tools/talux/Plausibility.h"
-#include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 

@@ -29,9 +29,9 @@ std::optional<Number> numberIn(const std::string& text) {
 
 } // namespace
 
-void report(const CouldNot& error) {
+void report(std::string_view text) {
     std::fflush(stdout);
-    std::fprintf(stderr, "talux: %s\n", printable(error.what()).c_str());
+    std::fprintf(stderr, "talux: %s\n", printable(text).c_str());
 }
 
 Status forEachFile(const std::vector<std::string>& paths,
@@ -41,10 +41,10 @@ Status forEachFile(const std::vector<std::string>& paths,
         try {
             status = std::max(status, look(path));
         } catch (const CouldNot& error) {
-            report(error);
+            report(error.what());
             status = kCouldNot;
         } catch (const std::bad_alloc&) {
-            report(CouldNot(path + ": takes too much memory"));
+            report(path + ": takes too much memory");
             status = kCouldNot;
         }
     }
@@ -70,7 +70,8 @@ void Command::option(const char* name, Value& value, Wording help, double minimu
         constexpr Wording kNumber{"must be a number", "erwartet wird eine Zahl"},
             kWhole{"must be a whole number", "erwartet wird eine ganze Zahl"},
             kRange{"must be {} to {}", "zulässig ist {} bis {}"};
-        const std::string range = fill(kRange.in(language), {reference::shortNumber(minimum), reference::shortNumber(maximum)});
+        const std::string range =
+            fill(kRange.in(language), {reference::shortNumber(minimum), reference::shortNumber(maximum)});
         option->type_name(Wording("NUMBER", "ZAHL").in(language));
         check(option, (std::is_integral_v<Value> ? kWhole : kNumber).in(language),
               [](const std::string& text) { return numberIn<Value>(text).has_value(); });

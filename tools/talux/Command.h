@@ -32,7 +32,7 @@ struct CouldNot : std::runtime_error {
 };
 
 // On the error stream, where control characters of file names cannot forge findings.
-void report(const CouldNot& error);
+void report(std::string_view text);
 
 // Calls look(path) for each; one that could not be looked at is reported and does not keep from the others.
 Status forEachFile(const std::vector<std::string>& paths,

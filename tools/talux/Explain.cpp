@@ -4,10 +4,8 @@
 #include <utility>
 
 #include "tools/reference/Ranges.h"
-#include "tools/talux/Command.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 

@@ -1,13 +1,11 @@
 #include "tools/talux/Judgement.h"
 
-#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
 
 #include "ParamSystem/files/Line.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 

@@ -11,8 +11,6 @@
 #include "support/Parse.h"
 #include "support/Text.h"
 #include "tools/talux/Plausibility.h"
-#include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
@@ -68,10 +66,26 @@ std::string levelReason(int level, const Context& context) {
 
 // ---- Lines ----------------------------------------------------------------------------------------------
 
-class LineChecker {
-public:
-    LineChecker(std::string_view checkedLine, const LineAsked& how, const Context& person)
-        : line(checkedLine), asked(how), context(person) {}
+struct LineChecker {
+    const std::string_view line;
+    const LineAsked& asked;
+    const Context& context;
+    std::vector<LineFinding> findings{};
+    bool isRefused = false;                     // so the line ends
+    std::map<const Parameter*, Value> values{}; // that the line writes
+    std::map<const Parameter*, std::size_t> positions{};
+    int depth = 0;                            // values on the stack
+    bool topIsZero = false;                   // a literal 0 lies on top
+    const Parameter* numberWritten = nullptr; // by the term before
+    std::string_view written{};               // by it
+
+    // The present term.
+    std::string_view text{}; // between the commas
+    std::string_view term{};
+    bool isLast = false;
+    Decision decision{};
+    const VariableDecision* variable = nullptr; // of a variable term
+    const Parameter* subject = nullptr;         // of one with a known name
 
     std::vector<LineFinding> run() {
         term = line;
@@ -90,27 +104,6 @@ public:
             findings.push_back({positions[found.parameters.front()], std::move(found.text), false});
         return findings;
     }
-
-private:
-    const std::string_view line;
-    const LineAsked& asked;
-    const Context& context;
-    std::vector<LineFinding> findings;
-    bool isRefused = false;                   // so the line ends
-    std::map<const Parameter*, Value> values; // that the line writes
-    std::map<const Parameter*, std::size_t> positions;
-    int depth = 0;                            // values on the stack
-    bool topIsZero = false;                   // a literal 0 lies on top
-    const Parameter* numberWritten = nullptr; // by the term before
-    std::string_view written;                 // by it
-
-    // The present term.
-    std::string_view text; // between the commas
-    std::string_view term;
-    bool isLast = false;
-    Decision decision;
-    const VariableDecision* variable = nullptr; // of a variable term
-    const Parameter* subject = nullptr;         // of one with a known name
 
     bool takeTerm(std::string_view& rest) {
         text = kepl::withoutLeading(rest, ',');
@@ -293,9 +286,8 @@ private:
     }
 
     void checkUnfinishedName(std::string_view head) {
-        if (std::ranges::none_of(reference::parameters(), [head](const Parameter& parameter) {
-                return !parameter.isTemplate() && startsIgnoringCase(parameter.name(), head);
-            }))
+        const auto begins = [&](const Parameter& each) { return startsIgnoringCase(each.name(), head); };
+        if (reference::chosen(begins).empty())
             refuse(context.say("no name begins with {}", "kein Name beginnt mit {}", head));
     }
 
@@ -370,7 +362,7 @@ std::string reasonOf(const Decision& decision, const Context& context) {
 }
 
 std::vector<LineFinding> checkLine(std::string_view line, const LineAsked& asked, const Context& context) {
-    return LineChecker(line, asked, context).run();
+    return LineChecker{line, asked, context}.run();
 }
 
 } // namespace talux::tool

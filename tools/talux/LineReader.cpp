@@ -7,7 +7,6 @@
 #include "tools/talux/Show.h"
 
 #ifdef TALUX_HAVE_LIBEDIT
-#include <cerrno>
 #include <clocale>
 #include <histedit.h>
 
@@ -21,18 +20,6 @@ namespace talux::tool {
 namespace {
 
 constexpr char kPrompt[] = "kepl> ";
-
-// Also a person's, where there is no library to edit lines with.
-LineReader plainReader(const char* prompt) {
-    return [prompt]() -> std::optional<std::string> {
-        print(prompt);
-        std::fflush(stdout);
-        std::string line;
-        if (!std::getline(std::cin, line)) return {};
-        if (line.ends_with('\r')) line.pop_back();
-        return line;
-    };
-}
 
 #ifdef TALUX_HAVE_LIBEDIT
 
@@ -79,9 +66,9 @@ private:
         constexpr std::string_view kPrefix = kepl::kPrefixes[0];
         const bool isPrefixed = kepl::hasPrefix(start);
         const std::string_view wanted = start.substr(isPrefixed ? kPrefix.size() : 0);
-        for (const Parameter& parameter : reference::parameters()) {
-            if (parameter.isTemplate() || !startsIgnoringCase(parameter.name(), wanted)) continue;
-            const std::string name(parameter.name());
+        const auto begins = [&](const Parameter& each) { return startsIgnoringCase(each.name(), wanted); };
+        for (const Parameter* parameter : reference::chosen(begins)) {
+            const std::string name(parameter->name());
             candidates.push_back({joined({withPrefix || isPrefixed ? kPrefix : "", name}), name});
             typed = start;
         }
@@ -221,17 +208,19 @@ private:
 
 } // namespace
 
-LineReader pipeReader() {
-    return plainReader("");
-}
-
-LineReader terminalReader([[maybe_unused]] const std::string& historyFile,
-                          [[maybe_unused]] const Context& context) {
+LineReader lineReader(bool isPerson, [[maybe_unused]] const std::string& historyFile,
+                      [[maybe_unused]] const Context& context) {
 #ifdef TALUX_HAVE_LIBEDIT
-    return [editor = std::make_shared<Edited>(historyFile, context)] { return editor->next(); };
-#else
-    return plainReader(kPrompt);
+    if (isPerson) return [editor = std::make_shared<Edited>(historyFile, context)] { return editor->next(); };
 #endif
+    return [isPerson]() -> std::optional<std::string> {
+        if (isPerson) print(kPrompt);
+        std::fflush(stdout);
+        std::string line;
+        if (!std::getline(std::cin, line)) return {};
+        if (line.ends_with('\r')) line.pop_back();
+        return line;
+    };
 }
 
 } // namespace talux::tool

@@ -13,10 +13,8 @@ inline constexpr std::string_view kHelpWord = "help", kQuitWord = "quit", kUndoW
 // Gives the next line without its line end; empty when the person gave it up; nothing at the end.
 using LineReader = std::function<std::optional<std::string>()>;
 
-LineReader pipeReader();
-
-// `historyFile`: kept there between two sessions; empty: not kept.
-LineReader terminalReader(const std::string& historyFile, const Context& context);
+// `historyFile`: a person's lines are kept there between two sessions; empty: not kept.
+LineReader lineReader(bool isPerson, const std::string& historyFile, const Context& context);
 
 } // namespace talux::tool
 

@@ -4,17 +4,14 @@
 #include <iterator>
 #include <optional>
 #include <set>
-#include <span>
 
 #include "ParamSystem/kepl/Words.h"
 #include "support/Text.h"
-#include "tools/talux/Command.h"
 #include "tools/talux/Files.h"
 #include "tools/talux/LineCheck.h"
 #include "tools/talux/LuaTokens.h"
 #include "tools/talux/Plausibility.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 #include "tools/talux/change/Plan.h"
 
 namespace talux::tool {
@@ -91,10 +88,6 @@ struct Constant : LuaToken {
     bool isWhole = true;
 };
 
-bool isOneOf(std::span<const std::string_view> words, std::string_view word) {
-    return std::ranges::find(words, word) != words.end();
-}
-
 // What the layer for scripts has: functions that take a name first, and others.
 constexpr std::string_view kTakeNames[] = {"get", "set", "record", "parameter"};
 constexpr std::string_view kOthers[] = {"try",      "apply",   "update",   "save",  "save_sec",    "save_ip",
@@ -105,10 +98,11 @@ constexpr std::string_view kOthers[] = {"try",      "apply",   "update",   "save
 constexpr std::string_view kPauses[] = {"break", "return", "goto",  "error", "exit",         "assert",
                                         "every", "wait",   "yield", "read",  "talux_usleep", "sleep"};
 
-class LuaLint {
-public:
-    LuaLint(std::string_view script, Findings& found, const Context& person)
-        : tokens(luaTokens(script)), findings(found), context(person) {}
+struct LuaLint {
+    const std::deque<LuaToken> tokens;
+    Findings& findings;
+    const Context& context;
+    std::set<std::string> aliases{"talux_command"}, layers{"talux"};
 
     void run() {
         for (std::size_t k = 0; k + 1 < tokens.size() && !findings.isFull(); ++k) {
@@ -127,12 +121,6 @@ public:
                 lintName(k);
         }
     }
-
-private:
-    const std::deque<LuaToken> tokens;
-    Findings& findings;
-    const Context& context;
-    std::set<std::string> aliases{"talux_command"}, layers{"talux"};
 
     const LuaToken& at(std::size_t k) const { return tokens[std::min(k, tokens.size() - 1)]; }
 
@@ -374,10 +362,9 @@ std::vector<std::string> scriptsIn(const std::string& path) {
 Status lintFile(const std::string& path, const Options& options, const Context& context) {
     const std::string script = contentsOf(path, context);
     Findings findings(printable(path), script);
-    if (path.ends_with(".md"))
-        LuaLint(luaBlocksOf(script), findings, context).run();
-    else if (path.ends_with(".lua"))
-        LuaLint(script, findings, context).run();
+    const bool isPage = path.ends_with(".md");
+    if (isPage || path.ends_with(".lua"))
+        LuaLint{luaTokens(isPage ? luaBlocksOf(script) : script), findings, context}.run();
     else
         lintKepl(script, options, findings, context);
     findings.finish(context);

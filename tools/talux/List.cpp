@@ -1,10 +1,8 @@
 // talux list: names and values.
 #include <algorithm>
 
-#include "tools/talux/Command.h"
 #include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
@@ -69,38 +67,39 @@ Json described(const Parameter& parameter, const Source& source, const Context& 
 
 // Of families with parameters that have names, or of methods.
 Status printNames(const Options& options, const Context& context) {
-    std::string_view before;
-    for (const Parameter& parameter : reference::parameters()) {
-        const std::string_view family = familyName(parameter, context.language);
-        if (options.families && !parameter.isTemplate() && family != before)
-            print(fill("{}\n", {before = family}));
-    }
+    std::vector<std::string_view> names{""};
+    for (const Parameter& parameter : reference::parameters())
+        if (const std::string_view family = familyName(parameter, context.language);
+            options.families && !parameter.isTemplate() && family != names.back())
+            names.push_back(family);
     if (options.methods)
         for (const model::Both& name : reference::model().methods)
-            print(fill("{}\n", {name.in(context.language)}));
+            names.push_back(name.in(context.language));
+    names.erase(names.begin());
+    const auto described = [](std::string_view name) { return Json{{"name", name}}; };
+    print(options.json ? Json::arrayOf(names, described).text() : list(names, "\n") + "\n");
     return kNothing;
 }
 
 Status run(Options& options, const Context& context) {
     if (options.families || options.methods) return printNames(options, context);
-    options.filter.check(context);
+    const Parameters chosen = options.filter.chosen(context);
     const auto uses = usesOf(options.uses, context);
     const Source source = Source::open(options.source, context);
     Table table;
     Json all = Json::array();
-    for (const Parameter& parameter : reference::parameters()) {
-        if (!options.filter.accepts(parameter)) continue;
-        const auto value = source.value(parameter);
-        const bool differs = isChanged(parameter, value);
+    for (const Parameter* parameter : chosen) {
+        const auto value = source.value(*parameter);
+        const bool differs = isChanged(*parameter, value);
         if (options.changed && !differs) continue;
         if (source.isPartial() && !value) continue;
-        if (!options.uses.empty() && !isUse(parameter, value, uses)) continue;
-        if (options.json) all.add(described(parameter, source, context));
-        const std::string text = parameter.isIndexed()
-                                     ? context.say("{} elements", "{} Elemente", parameter.elements())
-                                     : shown(parameter, value, context);
-        table.add({std::string(parameter.name()), differs ? Paint::changed(text) : text,
-                   parameter.title(context.language)});
+        if (!options.uses.empty() && !isUse(*parameter, value, uses)) continue;
+        if (options.json) all.add(described(*parameter, source, context));
+        const std::string text = parameter->isIndexed()
+                                     ? context.say("{} elements", "{} Elemente", parameter->elements())
+                                     : shown(*parameter, value, context);
+        table.add({std::string(parameter->name()), differs ? Paint::changed(text) : text,
+                   parameter->title(context.language)});
     }
     print(options.json ? all.text() : table.text());
     return kNothing;

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <optional>
 
+#include "tools/Strings.h"
+
 namespace talux::tool {
 
 namespace {
@@ -12,13 +14,9 @@ constexpr std::string_view kBlanks = " \t\r\n\v\f", kDigits = "0123456789",
                            kNumber = ".0123456789_abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ",
                            kName = kNumber.substr(1);
 
-bool isOneOf(std::string_view characters, char c) {
-    return characters.find(c) != characters.npos;
-}
-
-class Lexer {
-public:
-    explicit Lexer(std::string_view text) : script(text) {}
+struct Lexer {
+    const std::string_view script;
+    std::size_t position = 0;
 
     std::deque<LuaToken> run() {
         std::deque<LuaToken> tokens;
@@ -28,10 +26,6 @@ public:
         tokens.push_back({LuaToken::Form::end, script.size(), {}, {}});
         return tokens;
     }
-
-private:
-    const std::string_view script;
-    std::size_t position = 0;
 
     std::string_view rest() const { return script.substr(position); }
 
@@ -118,7 +112,7 @@ private:
 } // namespace
 
 std::deque<LuaToken> luaTokens(std::string_view script) {
-    return Lexer(script).run();
+    return Lexer{script}.run();
 }
 
 } // namespace talux::tool

@@ -18,10 +18,6 @@ constexpr int kOff = 1;                        // choice of outputs and of entri
 constexpr int kSums[] = {24, 25};              // output functions that combine all methods
 constexpr int kUncertain[] = {44, 45, 46, 47}; // which method forms them is not documented
 
-bool isMember(std::span<const int> numbers, double number) {
-    return std::ranges::find(numbers, static_cast<int>(number)) != numbers.end();
-}
-
 // A word of a rule: a parameter, or the number in its place.
 struct Word {
     const Parameter* parameter;
@@ -57,7 +53,7 @@ struct Switched {
     bool isPart = false;
 
     bool forms(double signal, const Parameter& taker) const {
-        return isMember(isOutput(taker) ? functions : priorities, signal);
+        return isOneOf(isOutput(taker) ? functions : priorities, signal);
     }
 };
 
@@ -69,7 +65,7 @@ const std::vector<Switched>& switched() {
             if (switches.empty()) continue;
             found.push_back({switches[0], reference::numbersOf(method.functions),
                              reference::numbersOf(method.priorities)});
-            std::erase_if(found.back().functions, [](int number) { return isMember(kUncertain, number); });
+            std::erase_if(found.back().functions, [](int number) { return isOneOf(kUncertain, number); });
         }
         found.push_back({reference::find("qu2_DE_active"), {30, 31}, {3}, true});
         return found;
@@ -261,7 +257,7 @@ struct RuleCheck {
         return std::ranges::any_of(words, [&](const Word& word) {
             const auto signal = number(*word.parameter);
             return !signal || method.forms(*signal, *word.parameter) ||
-                   (isOutput(*word.parameter) && isMember(kSums, *signal));
+                   (isOutput(*word.parameter) && isOneOf(kSums, *signal));
         });
     }
 

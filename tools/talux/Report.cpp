@@ -36,16 +36,6 @@ td{overflow-wrap:anywhere}.changed td{font-weight:bold}.changed .default{font-we
 @page{size:A4;margin:18mm 15mm}@media print{body{margin:0;max-width:none;padding:0}}
 )";
 
-std::string escaped(std::string_view text) {
-    constexpr std::string_view kSpecial = "&<>\"", kEntities[] = {"&amp;", "&lt;", "&gt;", "&quot;"};
-    std::string html;
-    for (const char& c : text) {
-        const std::size_t special = kSpecial.find(c);
-        html += special == kSpecial.npos ? std::string_view(&c, 1) : kEntities[special];
-    }
-    return html;
-}
-
 // The variable that makes builds reproducible makes reports so, too.
 std::string today() {
     const char* const fixed = std::getenv("SOURCE_DATE_EPOCH");
@@ -53,22 +43,7 @@ std::string today() {
                          "%Y-%m-%d %H:%M");
 }
 
-class Page {
-public:
-    Page(const Options& wanted, const Source& values, const Context& person)
-        : options(wanted), source(values), context(person) {}
-
-    std::string text() {
-        const std::string families = familyTables(); // counts what the head tells
-        const std::string title =
-            options.title.empty() ? context.say("Settings record", "Einstellprotokoll") : options.title;
-        return fill("<!DOCTYPE html>\n<html lang=\"{}\">\n<head>\n<meta charset=\"utf-8\">\n"
-                    "<title>{}</title>\n<style>{}</style>\n</head>\n<body>\n<h1>{}</h1>\n",
-                    {context.say("en", "de"), escaped(title), kStyle, escaped(title)}) +
-               facts() + families + noteList() + signature() + "</body>\n</html>\n";
-    }
-
-private:
+struct Page {
     const Options& options;
     const Source& source;
     const Context& context;
@@ -76,8 +51,18 @@ private:
     int changedCount = 0;
     std::vector<int> notes{}; // of the rows so far: footnotes, counted from 1
 
+    std::string text() {
+        const std::string families = familyTables(); // counts what the head tells
+        const std::string title =
+            options.title.empty() ? context.say("Settings record", "Einstellprotokoll") : options.title;
+        return fill("<!DOCTYPE html>\n<html lang=\"{}\">\n<head>\n<meta charset=\"utf-8\">\n"
+                    "<title>{}</title>\n<style>{}</style>\n</head>\n<body>\n<h1>{}</h1>\n",
+                    {context.say("en", "de"), inMarkup(title), kStyle, inMarkup(title)}) +
+               facts() + families + noteList() + signature() + "</body>\n</html>\n";
+    }
+
     static std::string fact(std::string_view label, const std::string& value) {
-        return fill("<tr><th>{}</th><td>{}</td></tr>\n", {escaped(label), escaped(value)});
+        return fill("<tr><th>{}</th><td>{}</td></tr>\n", {inMarkup(label), inMarkup(value)});
     }
 
     std::string facts() const {
@@ -115,7 +100,7 @@ private:
         return fill("<h2>{}</h2>\n<table>\n<thead><tr><th class=\"mark\"></th><th class=\"name\">{}</th>"
                     "<th>{}</th><th class=\"value\">{}</th><th class=\"default\">{}</th></tr></thead>\n"
                     "<tbody>\n{}</tbody>\n</table>\n",
-                    {escaped(family), context.say("Name", "Name"), context.say("Title", "Titel"),
+                    {inMarkup(family), context.say("Name", "Name"), context.say("Title", "Titel"),
                      context.say("Value", "Wert"), context.say("Factory setting", "Werkseinstellung"), rows});
     }
 
@@ -129,10 +114,10 @@ private:
         return fill(
             "<tr{}><td class=\"mark\">{}</td><td class=\"name\">{}</td><td>{}{}</td><td class=\"value\">{}{}"
             "</td><td class=\"default\">{}</td></tr>\n",
-            {changed ? " class=\"changed\"" : "", changed ? "●" : "", escaped(parameter.name()),
-             escaped(parameter.title(context.language)), noteSigns(parameter),
-             escaped(shown(parameter, value, context)), remark(parameter, *value),
-             escaped(shown(parameter, factory, context))});
+            {changed ? " class=\"changed\"" : "", changed ? "●" : "", inMarkup(parameter.name()),
+             inMarkup(parameter.title(context.language)), noteSigns(parameter),
+             inMarkup(shown(parameter, value, context)), remark(parameter, *value),
+             inMarkup(shown(parameter, factory, context))});
     }
 
     std::string noteSigns(const Parameter& parameter) {
@@ -150,7 +135,7 @@ private:
             const model::Note& note = reference::noteAt(place);
             return fill("<li class=\"{}\">{} {}</li>\n",
                         {model::kNoteKinds[note.kind], noteLabel(note, context),
-                         escaped(note.text.in(context.language))});
+                         inMarkup(note.text.in(context.language))});
         };
         if (notes.empty()) return {};
         return fill("<h2>{}</h2>\n<ol>\n{}</ol>\n",
@@ -164,7 +149,7 @@ private:
                                rangeText(parameter, context.language));
         else if (const auto finding = wouldNotComeBack(parameter, value, context))
             text = finding->text;
-        return text.empty() ? text : fill("<span class=\"remark\">{}</span>", {escaped(text)});
+        return text.empty() ? text : fill("<span class=\"remark\">{}</span>", {inMarkup(text)});
     }
 
     std::string signature() const {
@@ -176,7 +161,7 @@ private:
 
 Status run(const Options& options, const Context& context) {
     const Source source = Source::open(options.source, context);
-    const std::string text = Page(options, source, context).text();
+    const std::string text = Page{options, source, context}.text();
     options.output.empty() ? print(text) : replace(options.output, text, context);
     return kNothing;
 }

@@ -4,7 +4,6 @@
 
 #include "support/Text.h"
 #include "tools/talux/Show.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 
@@ -58,10 +57,7 @@ bool hasNoLimits(const Parameter& parameter) {
 } // namespace
 
 Parameters search(const std::vector<std::string>& words) {
-    Parameters found;
-    for (const Parameter& parameter : reference::parameters())
-        if (!parameter.isTemplate() && holdsWords(parameter, words)) found.push_back(&parameter);
-    return found;
+    return reference::chosen([&](const Parameter& parameter) { return holdsWords(parameter, words); });
 }
 
 void Filter::addTo(Command& command) {
@@ -90,34 +86,30 @@ void Filter::addTo(Command& command) {
                     "nur Parameter, deren Texte alle diese Wörter enthalten"});
 }
 
-void Filter::check(const Context& context) {
-    const auto isAny = [](const auto& isWanted) {
-        return std::ranges::any_of(reference::parameters(), isWanted);
-    };
+Parameters Filter::chosen(const Context& context) const {
     for (const std::string& name : names)
-        if (!isAny([&](const auto& row) { return !row.isTemplate() && reference::fits(row.name(), name); }))
+        if (reference::chosen([&](const auto& row) { return reference::fits(row.name(), name); }).empty())
             throw CouldNot(unknownName(name, context));
-    if (!isAny([this](const Parameter& row) { return isOfFamily(row, family); }))
+    if (std::ranges::none_of(reference::parameters(),
+                             [this](const Parameter& row) { return isOfFamily(row, family); }))
         context.fail("no family is named {}", "keine Familie heißt {}", printable(family));
-    methodNumber = reference::methodNamed(method);
+    const int methodNumber = reference::methodNamed(method);
     if (methodNumber < 0)
         context.fail("no method is named {}; there are {}", "kein Verfahren heißt {}; es gibt {}",
                      printable(method), list(reference::model().methods, ", ", [&](const auto& name) {
                          return name.in(context.language);
                      }));
-}
-
-bool Filter::accepts(const Parameter& parameter) const {
-    if (parameter.isTemplate()) return false;
-    const auto fitsName = [&](const std::string& name) { return reference::fits(parameter.name(), name); };
-    if (!names.empty() && !std::ranges::any_of(names, fitsName)) return false;
-    if (!isOfFamily(parameter, family)) return false;
-    if (!method.empty() && !isOfMethod(parameter, methodNumber)) return false;
-    if (individual && !parameter.model().has(parameters::kIndividual)) return false;
-    if (noLimits && !hasNoLimits(parameter)) return false;
-    if (!file.empty() && !reference::fileName(parameter.file()).starts_with(file)) return false;
-    if (level != 0 && parameter.writeLevel() != level) return false;
-    return words.empty() || holdsWords(parameter, words);
+    return reference::chosen([&](const Parameter& row) {
+        const auto fitsName = [&](const std::string& name) { return reference::fits(row.name(), name); };
+        if (!names.empty() && !std::ranges::any_of(names, fitsName)) return false;
+        if (!isOfFamily(row, family)) return false;
+        if (!method.empty() && !isOfMethod(row, methodNumber)) return false;
+        if (individual && !isIndividual(row)) return false;
+        if (noLimits && !hasNoLimits(row)) return false;
+        if (!file.empty() && !reference::fileName(row.file()).starts_with(file)) return false;
+        if (level != 0 && row.writeLevel() != level) return false;
+        return words.empty() || holdsWords(row, words);
+    });
 }
 
 } // namespace talux::tool

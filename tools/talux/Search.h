@@ -25,16 +25,12 @@ struct Filter {
     bool noLimits = false;          // only settings whose numbers are not limited
 
     void addTo(Command& command);
-    // Throws CouldNot for what selects nothing. To be called before accepts().
-    void check(const Context& context);
-    bool isEmpty() const { // accepts everything
+    // Throws CouldNot for a name, family or method that there is not.
+    Parameters chosen(const Context& context) const;
+    bool isEmpty() const { // chooses everything
         return names.empty() && words.empty() && family.empty() && method.empty() && file.empty() &&
                level == 0 && !individual && !noLimits;
     }
-    bool accepts(const Parameter& parameter) const;
-
-private:
-    int methodNumber = -1;
 };
 
 } // namespace talux::tool

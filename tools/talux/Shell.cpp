@@ -76,14 +76,15 @@ std::string historyFile() {
     return folder.empty() || error ? std::string() : (folder / "history").string();
 }
 
-class Shell {
-public:
-    Shell(const Options& given, const Context& person)
-        : options(given), context(person), level(given.level), directory(person.directory),
-          interpreter(directory.data()) {}
+struct Shell {
+    const Options& options;
+    const Context& context;
+    const bool isPerson = isatty(STDIN_FILENO) == 1;
+    std::string directory = context.directory;
+    KEPL_Interpreter interpreter{directory.data()};
 
     Status run() {
-        const LineReader readLine = isPerson ? terminalReader(historyFile(), context) : pipeReader();
+        const LineReader readLine = lineReader(isPerson, isPerson ? historyFile() : "", context);
         bool refused = false;
         if (isPerson)
             print(context.say("The command language of the device: help shows it, help NAME a parameter.\n"
@@ -100,14 +101,6 @@ public:
         return refused && !isPerson ? kFound : kNothing;
     }
 
-private:
-    const Options& options;
-    const Context& context;
-    const int level;
-    const bool isPerson = isatty(STDIN_FILENO) == 1;
-    std::string directory;
-    KEPL_Interpreter interpreter;
-
     Status stopped(bool isMoreToCome) const {
         const int pending = static_cast<int>(pendingSettings(context));
         if (isMoreToCome || pending > 0)
@@ -122,7 +115,7 @@ private:
     bool isWanted(const std::string& line) const {
         std::string_view rest = line, term;
         while (isPerson && kepl::takeTerm(rest, term)) {
-            const kepl::Decision decision = kepl::decide(term, level);
+            const kepl::Decision decision = kepl::decide(term, options.level);
             const auto* const variable = decision.get<kepl::VariableDecision>();
             const bool isAddress = variable != nullptr && variable->get<kepl::WriteText>() != nullptr &&
                                    variable->row->type == kTypeIpAddress;
@@ -155,12 +148,12 @@ private:
         if (line.starts_with(kHelpWord))
             std::fprintf(stderr, "%s\n", error.what());
         else
-            report(error);
+            report(error.what());
         return false;
     }
 
     bool evaluate(const std::string& line) {
-        const auto findings = checkLine(line, {.uid = level}, context);
+        const auto findings = checkLine(line, {.uid = options.level}, context);
         const bool isRefused = std::ranges::any_of(findings, &LineFinding::isRefusal);
         const char* const tooLow = kepl::textOf(kepl::Refusal::rightsTooLow);
         if (line.find('\0') != line.npos) return refuse(kepl::textOf(kepl::Refusal::syntaxError), findings);
@@ -171,7 +164,8 @@ private:
         char terminator[] = "\n";
         char answer[kKeplTextSize + sizeof terminator] = "";
         char error[128] = "";
-        const int result = interpreter.ProcessLine(copy.data(), showOutput, answer, terminator, level);
+        const int result =
+            interpreter.ProcessLine(copy.data(), showOutput, answer, terminator, options.level);
         if (result == kLineEmpty) return true;
         interpreter.GetError(error, sizeof error);
         if (result == kLineError) return refuse(error, findings);
@@ -200,7 +194,7 @@ private:
 
 Status run(const Options& options, const Context& context) {
     attachDevice(Access::readWrite, context);
-    return Shell(options, context).run();
+    return Shell{options, context}.run();
 }
 
 } // namespace

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "support/Number.h"
-#include "tools/talux/Text.h"
 
 namespace talux::tool {
 

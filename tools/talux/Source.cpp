@@ -32,7 +32,7 @@ void readEntries(const std::string& path, const Context& context,
 
 Source Source::open(const std::string& name, const Context& context) {
     if (name == "default") return defaults();
-    if (isDevice(name)) {
+    if (name == "live" || name == "staged") {
         attachDevice(Access::readOnly, context);
         return Source(name == "live" ? Origin::live : Origin::staged, name);
     }
@@ -72,18 +72,12 @@ void Source::readFile(const std::string& path, const Context& context) {
 std::optional<Value> Source::value(int id) const {
     const stParamProperties* const row = GetParamProperties(id);
     if (row == nullptr) return {};
-    switch (origin_) {
-    case Origin::defaults:
-        return row->is_volatile == 1 ? std::nullopt : defaultOf(*row);
-    case Origin::live:
-        return readValue(Space::global, id);
-    case Origin::staged:
-        return readValue(row->is_volatile == 1 ? Space::global : Space::temp, id);
-    case Origin::file:
-        break;
+    if (origin_ == Origin::file) {
+        const auto found = held.find(id);
+        return found == held.end() ? std::nullopt : std::optional(found->second);
     }
-    const auto found = held.find(id);
-    return found == held.end() ? std::nullopt : std::optional(found->second);
+    if (origin_ == Origin::defaults) return row->is_volatile == 1 ? std::nullopt : defaultOf(*row);
+    return readValue(origin_ == Origin::live ? Space::global : spaceOf(*row), id);
 }
 
 void attachDevice(Access access, const Context& context) {

@@ -36,9 +36,6 @@ public:
     // What people call it: "the working copy".
     std::string called(const Context& context) const;
 
-    // Whether the name stands for the device.
-    static bool isDevice(std::string_view name) { return name == "live" || name == "staged"; }
-
     Origin origin() const { return origin_; }
     const std::string& name() const { return name_; }
 
@@ -88,6 +85,12 @@ const reference::ParameterRefs& settings();
 // Belongs to the single device: its name, addresses, station numbers and calibration.
 inline bool isIndividual(const Parameter& parameter) {
     return parameter.model().has(parameters::kIndividual);
+}
+
+// Where a program that writes finds a value: a setting's in the working copy, any other's where the device
+// has it.
+inline Space spaceOf(const stParamProperties& row) {
+    return row.is_volatile == 1 ? Space::global : Space::temp;
 }
 
 bool sameValue(const std::optional<Value>& a, const std::optional<Value>& b);

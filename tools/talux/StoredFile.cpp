@@ -9,12 +9,10 @@ namespace talux::tool {
 
 StoredFile lookAt(const std::string& path, File file, const Context& context) {
     StoredFile found;
-    const Parameter* last = nullptr; // of a save, which writes them by position
-    for (const Parameter& parameter : reference::parameters())
-        if (parameter.isSetting() && parameter.file() == file) {
-            ++found.expected;
-            if (last == nullptr || parameter.position() > last->position()) last = &parameter;
-        }
+    const Parameters saved =
+        reference::chosen([file](const Parameter& each) { return each.isSetting() && each.file() == file; });
+    const Parameter* const last = *std::ranges::max_element(saved, {}, &Parameter::position); // of a save
+    found.expected = static_cast<int>(saved.size());
     const Source before = Source::defaults();
     Judge judge(path, before, context);
     std::set<const Parameter*> seen;

@@ -11,10 +11,6 @@ namespace talux::tool {
 
 namespace {
 
-bool isContinuation(char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80;
-}
-
 // Length of the well-formed UTF-8 character at the beginning, 0 when there is none.
 std::size_t characterAt(std::string_view text) {
     constexpr unsigned kSmallest[] = {0, 0, 0x80, 0x800, 0x10000}, kLargest = 0x10FFFF;
@@ -23,9 +19,9 @@ std::size_t characterAt(std::string_view text) {
     const auto length = static_cast<std::size_t>(std::countl_one(first));
     if (length < 2 || length > 4 || length > text.size()) return 0;
     unsigned code = first & 0x7FU >> length;
-    for (const char c : text.substr(1, length - 1)) {
-        if (!isContinuation(c)) return 0;
-        code = code << 6U | (static_cast<unsigned char>(c) & 0x3FU);
+    for (const unsigned char next : text.substr(1, length - 1)) {
+        if ((next & 0xC0U) != 0x80) return 0;
+        code = code << 6U | (next & 0x3FU);
     }
     const bool isSurrogate = code >= 0xD800 && code < 0xE000;
     return code >= kSmallest[length] && code <= kLargest && !isSurrogate ? length : 0;
@@ -120,10 +116,9 @@ std::string printable(std::string_view text) {
         const std::size_t length = characterAt(text);
         const auto first = static_cast<unsigned char>(text[0]);
         const bool isControl = first < ' ' || first == 0x7F || (length == 2 && text < "\xC2\xA0");
-        char code[8];
-        std::snprintf(code, sizeof code, "\\x%02X", first);
-        shown += length == 0 || isControl ? std::string_view(code) : text.substr(0, length);
-        text.remove_prefix(length == 0 || isControl ? 1 : length);
+        const bool isCode = length == 0 || isControl;
+        shown += isCode ? formatted("\\x%02X", first) : std::string(text.substr(0, length));
+        text.remove_prefix(isCode ? 1 : length);
     }
     return shown;
 }

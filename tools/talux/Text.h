@@ -58,7 +58,6 @@ struct Paint {
 class Table {
 public:
     void add(std::vector<std::string> cells) { rows.push_back(std::move(cells)); }
-    bool empty() const { return rows.empty(); }
     std::size_t size() const { return rows.size(); }
     // `indent` stands in front of every row.
     std::string text(std::string_view indent = "") const;

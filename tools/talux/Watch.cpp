@@ -29,16 +29,11 @@ struct Options {
 };
 
 volatile std::sig_atomic_t stopRequested = 0;
-void requestStop(int) {
-    stopRequested = 1;
-}
 
 std::string timeOfDay() {
     timespec now{};
     clock_gettime(CLOCK_REALTIME, &now);
-    char milliseconds[24];
-    std::snprintf(milliseconds, sizeof milliseconds, ".%03ld", now.tv_nsec / 1000000);
-    return localTimeText(now.tv_sec) + milliseconds;
+    return localTimeText(now.tv_sec) + formatted(".%03ld", now.tv_nsec / 1000000);
 }
 
 // Texts come in quotes and keep them; a quote inside is doubled.
@@ -51,36 +46,29 @@ std::string csvCell(const std::string& text, char separator) {
     return cell + '"';
 }
 
-struct Size {
-    std::size_t lines = 0, columns = 0; // 0: as many as there are
-};
-
-Size sizeOfTerminal() {
+// Rows and columns; 0: as many as there are.
+winsize sizeOfTerminal() {
     winsize size{};
-    if (!isForTerminal() || ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0) return {};
-    return {size.ws_row, size.ws_col};
+    if (isForTerminal()) ioctl(STDOUT_FILENO, TIOCGWINSZ, &size);
+    return size;
 }
 
 // A table on a terminal, renewed in place: only what fits, scrolled with keys.
 class Screen {
 public:
-    explicit Screen(bool isUsed)
-        : hasKeys(isUsed && isForTerminal() && tcgetattr(STDIN_FILENO, &before) == 0) {
-        if (!hasKeys) return;
-        termios keys = before;
-        keys.c_lflag &= ~static_cast<tcflag_t>(ICANON | ECHO);
-        tcsetattr(STDIN_FILENO, TCSANOW, &keys);
+    explicit Screen(bool isUsed) {
+        termios before{};
+        if (!isUsed || !isForTerminal() || tcgetattr(STDIN_FILENO, &before) != 0) return;
+        termios single = before;
+        single.c_lflag &= ~static_cast<tcflag_t>(ICANON | ECHO);
+        tcsetattr(STDIN_FILENO, TCSANOW, &single);
+        keys = {stdin, [before](void*) { tcsetattr(STDIN_FILENO, TCSANOW, &before); }};
     }
-    ~Screen() {
-        if (hasKeys) tcsetattr(STDIN_FILENO, TCSANOW, &before);
-    }
-    Screen(const Screen&) = delete;
-    Screen& operator=(const Screen&) = delete;
 
     // On a terminal over what was there, elsewhere below it.
     void show(const std::string& head, const Table& table, const Context& context) {
-        const Size size = sizeOfTerminal();
-        page = size.lines > 3 ? std::min(table.size(), size.lines - 2) : table.size();
+        const winsize size = sizeOfTerminal();
+        page = size.ws_row > 3 ? std::min<std::size_t>(table.size(), size.ws_row - 2U) : table.size();
         top = std::min(top, table.size() - page);
         const std::string body = table.text(); // of all rows, whose columns stay where they are
         const auto lines = linesOf(body);
@@ -89,11 +77,11 @@ public:
             text += context.say("  {} to {} of {}: arrows scroll, q ends",
                                 "  {} bis {} von {}: Pfeile blättern, q endet", top + 1, top + page,
                                 table.size());
-        const char* const end = size.lines > 0 ? "\033[K\n" : "\n";
-        text = cut(text, size.columns) + end;
+        const char* const end = size.ws_row > 0 ? "\033[K\n" : "\n";
+        text = cut(text, size.ws_col) + end;
         for (std::size_t k = top; k < top + page; ++k)
-            text += cut(lines[k], size.columns) + end;
-        if (size.lines > 0 && drawn > 0) print(fill("\033[{}A", {std::to_string(drawn)}));
+            text += cut(lines[k], size.ws_col) + end;
+        if (size.ws_row > 0 && drawn > 0) print(fill("\033[{}A", {std::to_string(drawn)}));
         drawn = page + 1;
         print(text);
     }
@@ -104,8 +92,9 @@ public:
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(moment - Clock::now()).count();
         if (left <= 0) return Woken::moment;
         // Not ppoll: where the processor has 32 bits, its checked form takes the wide time for a narrow one.
-        pollfd keys{STDIN_FILENO, POLLIN, 0};
-        if (poll(&keys, hasKeys ? 1 : 0, static_cast<int>(std::min<std::int64_t>(left, INT_MAX))) <= 0)
+        pollfd input{STDIN_FILENO, POLLIN, 0};
+        if (poll(&input, keys != nullptr ? 1 : 0, static_cast<int>(std::min<std::int64_t>(left, INT_MAX))) <=
+            0)
             return Woken::moment;
         char typed[16];
         const ssize_t size = read(STDIN_FILENO, typed, sizeof typed);
@@ -117,8 +106,7 @@ public:
     }
 
 private:
-    termios before{};
-    const bool hasKeys;                       // the terminal gives them one by one
+    std::shared_ptr<void> keys;               // while the terminal gives them one by one
     std::size_t top = 0, page = 0, drawn = 0; // rows; lines on the screen
 
     // Of an arrow's sequence the last character counts. show() keeps the end in its bounds.
@@ -131,10 +119,22 @@ private:
     }
 };
 
-class Watch {
-public:
-    Watch(const Options& wanted, std::vector<Watched> shown, const Context& person)
-        : options(wanted), items(std::move(shown)), context(person), extremes(items.size()) {}
+struct Watch {
+    // Least and greatest value so far.
+    struct Extremes {
+        std::optional<Value> least, most;
+    };
+
+    const Options& options;
+    const std::vector<Watched> items;
+    const Context& context;
+    Screen screen{!options.csv};
+    const Clock::duration period =
+        std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(options.period));
+    Clock::time_point next = Clock::now(); // moment of a look
+    std::string moment{};
+    std::vector<std::optional<Value>> values{}, before{};
+    std::vector<Extremes> extremes = std::vector<Extremes>(items.size());
 
     // Whether `until` held at last.
     bool run(const std::optional<Condition>& until) {
@@ -155,23 +155,6 @@ public:
                 printRow("max", textsOf(extremes, &Extremes::most));
         return holds;
     }
-
-private:
-    // Least and greatest value so far.
-    struct Extremes {
-        std::optional<Value> least, most;
-    };
-
-    const Options& options;
-    const std::vector<Watched> items;
-    const Context& context;
-    Screen screen{!options.csv};
-    const Clock::duration period =
-        std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(options.period));
-    Clock::time_point next = Clock::now(); // moment of a look
-    std::string moment;
-    std::vector<std::optional<Value>> values, before;
-    std::vector<Extremes> extremes;
 
     void look() {
         before = std::move(values);
@@ -244,13 +227,13 @@ private:
 
 std::vector<Watched> watchedBy(Options& options, const std::optional<Condition>& until,
                                const Context& context) {
-    options.filter.check(context);
+    const Parameters chosen = options.filter.chosen(context);
     std::vector<Watched> items;
     for (const std::string& name : options.names)
         std::ranges::move(tool::watchedBy(name, context), std::back_inserter(items));
     if (!options.filter.isEmpty())
-        for (const Parameter& parameter : reference::parameters())
-            if (options.filter.accepts(parameter)) addWatched(items, parameter, context);
+        for (const Parameter* parameter : chosen)
+            addWatched(items, *parameter, context);
     if (until && items.empty()) items.push_back(until->watched());
     if (items.empty())
         context.fail("nothing to watch: give names, --family or --method",
@@ -263,9 +246,9 @@ Status run(Options& options, const Context& context) {
     if (!options.until.empty()) until.emplace(options.until, context);
     auto items = watchedBy(options, until, context);
     attachDevice(Access::readOnly, context);
-    std::signal(SIGINT, requestStop);
-    std::signal(SIGTERM, requestStop);
-    const bool holds = Watch(options, std::move(items), context).run(until);
+    for (const int signal : {SIGINT, SIGTERM})
+        std::signal(signal, [](int) { stopRequested = 1; });
+    const bool holds = Watch{options, std::move(items), context}.run(until);
     return until && !holds ? kFound : kNothing;
 }
 

@@ -1,6 +1,5 @@
 #include "tools/talux/Watched.h"
 
-#include <cstdio>
 #include <cstring>
 
 #include "ParamSystem/TALUX_Var.h"
@@ -70,9 +69,7 @@ std::string Watched::plainText(const std::optional<Value>& value) const {
 std::string Watched::shortText(const std::optional<Value>& value, const Context& context) const {
     if (!isMeasured() || !value)
         return member != nullptr ? plainText(value) : shown(*parameter, value, context);
-    char text[32];
-    std::snprintf(text, sizeof text, "%.5g", value->number());
-    return unit.empty() ? text : text + (" " + unit);
+    return formatted("%.5g", value->number()) + (unit.empty() ? "" : " " + unit);
 }
 
 void addWatched(std::vector<Watched>& all, const Parameter& parameter, const Context& context) {

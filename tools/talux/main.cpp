@@ -80,7 +80,7 @@ Status run(int argc, char** argv, Context& context) {
         if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
         context.fail("the output cannot be written", "die Ausgabe lässt sich nicht schreiben");
     } catch (const CouldNot& error) {
-        report(error);
+        report(error.what());
         return kCouldNot;
     }
 }

@@ -20,7 +20,7 @@ namespace {
 constexpr int kClockTolerance = 5; // seconds between the write and the look
 
 void store(const Write& write, const Value& value) {
-    writeValue(write.parameter->row().is_volatile == 1 ? Space::global : Space::temp, write.id(), value);
+    writeValue(spaceOf(write.parameter->row()), write.id(), value);
 }
 
 bool hasArrived(const Write& write) {
@@ -56,11 +56,12 @@ void writeOne(const Write& write, const Context& context) {
             }};
 }
 
-class Change {
-public:
-    Change(const Writes& planned, const Order& given, const Context& person)
-        : order(given), context(person), journal(Journal::begun(given.what, given.reach(), planned)),
-          writes(journal.writes) {}
+struct Change {
+    const Order& order;
+    const Context& context;
+    Journal journal;
+    const Writes& writes = journal.writes;
+    bool isConfirmed = false;
 
     Status run() {
         if (order.dryRun || (writes.empty() && !order.live && !order.save))
@@ -75,13 +76,6 @@ public:
         if (order.json) show();
         return isConfirmed ? kNothing : kFound;
     }
-
-private:
-    const Order& order;
-    const Context& context;
-    Journal journal;
-    const Writes& writes;
-    bool isConfirmed = false;
 
     bool isApplied() const {
         return order.apply && (order.appliesAll || std::ranges::any_of(writes, &Write::actsAtOnce));
@@ -262,14 +256,16 @@ std::shared_ptr<void> oneAtATime(const Context& context) {
 
 Status carryOut(const Plan& plan, Order& order, const Context& context) {
     for (const std::string& refusal : plan.refusals())
-        report(CouldNot(refusal));
+        report(refusal);
     if (!plan.refusals().empty()) context.fail("nothing is written", "nichts ist geschrieben");
     order.files = plan.files();
     return carryOut(plan.writes(), order, context);
 }
 
 Status carryOut(const Writes& writes, const Order& order, const Context& context) {
-    return Change(writes, order, context).run();
+    std::tm now{};
+    os::localTime(now);
+    return Change{order, context, {false, order.what, timeText(now), whoAmI(), order.reach(), writes}}.run();
 }
 
 } // namespace talux::tool

@@ -130,8 +130,7 @@ void reportMissing(const Writes& writes, const Context& context) {
         const std::string interface = interfaceOf(write);
         if (write.actsAtOnce() &&
             write.to.text() != std::string_view(os::addressOf(interface.c_str()).address))
-            report(
-                CouldNot(context.say("{} has not got the address", "{} hat die Adresse nicht", interface)));
+            report(context.say("{} has not got the address", "{} hat die Adresse nicht", interface));
     }
 }
 

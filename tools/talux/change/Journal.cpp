@@ -29,11 +29,8 @@ std::string encoded(const Parameter& parameter, const std::optional<Value>& valu
     if (!value) return {};
     if (!value->isText()) return plain(parameter, *value);
     std::string text = "\"";
-    for (const char c : std::string_view(value->text())) {
-        char code[8] = {c};
-        if (!isPlain(c)) std::snprintf(code, sizeof code, "\\x%02X", static_cast<unsigned char>(c));
-        text += code;
-    }
+    for (const char c : std::string_view(value->text()))
+        text += isPlain(c) ? std::string(1, c) : formatted("\\x%02X", static_cast<unsigned char>(c));
     return text + "\"";
 }
 
@@ -93,12 +90,6 @@ std::string whoAmI() {
 
 std::string namesIn(const std::vector<std::string>& assignments) {
     return list(assignments, " ", [](const std::string& each) { return each.substr(0, each.find('=')); });
-}
-
-Journal Journal::begun(std::string command, Reach reach, Writes writes) {
-    std::tm now{};
-    os::localTime(now);
-    return {false, std::move(command), timeText(now), whoAmI(), reach, std::move(writes)};
 }
 
 std::optional<Journal> Journal::read(const std::string& path, const Context& context) {

@@ -20,9 +20,6 @@ struct Journal {
     Reach reach = Reach::pending;
     Writes writes;
 
-    // Of a change that is about to be made by this process.
-    static Journal begun(std::string what, Reach reach, Writes writes);
-
     // None when there is no such file. Throws CouldNot when it is no record.
     static std::optional<Journal> read(const std::string& path, const Context& context);
 

@@ -104,8 +104,7 @@ std::string Write::label() const {
 }
 
 std::optional<Value> present(const Parameter& parameter, int id) {
-    if (!isOfClock(parameter))
-        return readValue(parameter.row().is_volatile == 1 ? Space::global : Space::temp, id);
+    if (!isOfClock(parameter)) return readValue(spaceOf(parameter.row()), id);
     std::tm now{};
     os::localTime(now);
     return Value(timeText(now, formatOf(parameter.type().nature)));
