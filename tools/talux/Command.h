@@ -154,22 +154,11 @@ private:
     std::deque<Command> commands;
 };
 
-// Each is in the file of the command.
-void addExplain(CommandLine& line);
-void addList(CommandLine& line);
-void addCheck(CommandLine& line);
-void addDiff(CommandLine& line);
-void addStatus(CommandLine& line);
-void addFingerprint(CommandLine& line);
-void addReport(CommandLine& line);
-void addWatch(CommandLine& line);
-void addChanges(CommandLine& line);  // set, apply, undo, discard
-void addVersions(CommandLine& line); // history, restore, clone
-void addAddress(CommandLine& line);  // address, confirm
-void addShell(CommandLine& line);
-void addLint(CommandLine& line);
-void addBoot(CommandLine& line);
-void addAnnotations(CommandLine& line);
+// Each is in the file of the command. The last three add several: set, apply, undo, discard; history,
+// restore, clone; address, confirm.
+using AddCommand = void(CommandLine& line);
+AddCommand addExplain, addList, addCheck, addDiff, addStatus, addFingerprint, addReport, addWatch, addShell,
+    addLint, addBoot, addAnnotations, addChanges, addVersions, addAddress;
 
 // As the command does it, with the values of the device where there is one. Throws CouldNot.
 void explain(const std::string& name, const Context& context);

@@ -3,11 +3,6 @@
 #ifndef TALUX_TOOLS_TALUX_JUDGEMENT_H
 #define TALUX_TOOLS_TALUX_JUDGEMENT_H
 
-#include <map>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "ParamSystem/files/Effect.h"
 #include "tools/talux/Source.h"
 

@@ -16,9 +16,7 @@ namespace talux::tool {
 
 namespace {
 
-using kepl::Decision;
-using kepl::Refusal;
-using kepl::VariableDecision;
+using kepl::Decision, kepl::Refusal, kepl::VariableDecision;
 
 // What the language stores without a message.
 constexpr rules::Reasons kUnnoticed{Reason::noChoice, Reason::notWhole,     Reason::notCarried,

@@ -4,10 +4,6 @@
 #ifndef TALUX_TOOLS_TALUX_LINECHECK_H
 #define TALUX_TOOLS_TALUX_LINECHECK_H
 
-#include <string>
-#include <string_view>
-#include <vector>
-
 #include "ParamSystem/kepl/Answer.h"
 #include "ParamSystem/kepl/Decision.h"
 #include "tools/talux/Command.h"

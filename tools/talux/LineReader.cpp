@@ -105,38 +105,30 @@ private:
 
 class Edited {
 public:
-    Edited(std::string file, const Context& person)
-        : historyFile(std::move(file)), context(person), past(history_init()),
-          editor(el_init("talux", stdin, stdout, stderr)) {
+    Edited(std::string file, const Context& person) : historyFile(std::move(file)), context(person) {
         std::setlocale(LC_CTYPE, "");
         std::signal(SIGINT, [](int) {}); // while a line is carried out: ends its shell command alone
-        history(past, &event, H_SETSIZE, 1000);
-        history(past, &event, H_SETUNIQUE, 1);
-        if (!historyFile.empty()) history(past, &event, H_LOAD, historyFile.c_str());
-        el_set(editor, EL_CLIENTDATA, this);
+        history(past.get(), &event, H_SETSIZE, 1000);
+        history(past.get(), &event, H_SETUNIQUE, 1);
+        if (!historyFile.empty()) history(past.get(), &event, H_LOAD, historyFile.c_str());
+        el_set(editor.get(), EL_CLIENTDATA, this);
         el_set(
-            editor, EL_PROMPT, +[](EditLine*) { return const_cast<char*>(kPrompt); });
-        el_set(editor, EL_EDITOR, "emacs");
-        el_set(editor, EL_HIST, history, past);
-        el_set(editor, EL_ADDFN, "talux-complete", "Completes names and values", completeKey);
-        el_set(editor, EL_BIND, "^I", "talux-complete", nullptr);
-        el_set(editor, EL_ADDFN, "talux-give-up", "Gives the line up", giveUpKey);
-        el_set(editor, EL_BIND, "^C", "talux-give-up", nullptr);
-        el_set(editor, EL_SETTY, "-d", "-isig", nullptr); // a key like others while a line is edited
-        el_set(editor, EL_BIND, "^R", "em-inc-search-prev", nullptr);
+            editor.get(), EL_PROMPT, +[](EditLine*) { return const_cast<char*>(kPrompt); });
+        el_set(editor.get(), EL_EDITOR, "emacs");
+        el_set(editor.get(), EL_HIST, history, past.get());
+        el_set(editor.get(), EL_ADDFN, "talux-complete", "Completes names and values", completeKey);
+        el_set(editor.get(), EL_BIND, "^I", "talux-complete", nullptr);
+        el_set(editor.get(), EL_ADDFN, "talux-give-up", "Gives the line up", giveUpKey);
+        el_set(editor.get(), EL_BIND, "^C", "talux-give-up", nullptr);
+        el_set(editor.get(), EL_SETTY, "-d", "-isig", nullptr); // a key like others while a line is edited
+        el_set(editor.get(), EL_BIND, "^R", "em-inc-search-prev", nullptr);
     }
-    ~Edited() {
-        el_end(editor);
-        history_end(past);
-    }
-    Edited(const Edited&) = delete;
-    Edited& operator=(const Edited&) = delete;
 
     std::optional<std::string> next() {
         int count = 0;
         isGivenUp = false;
-        el_set(editor, EL_PREP_TERM, 1); // before the prompt: what is typed behind it is for the editor
-        const char* const text = el_gets(editor, &count);
+        el_set(editor.get(), EL_PREP_TERM, 1); // before the prompt: what is typed behind it is for the editor
+        const char* const text = el_gets(editor.get(), &count);
         if (isGivenUp) return std::string();
         if (text == nullptr || count <= 0) {
             print("\n");
@@ -151,15 +143,16 @@ public:
 private:
     const std::string historyFile;
     const Context& context;
-    History* const past;
-    EditLine* const editor;
+    const std::unique_ptr<History, decltype(&history_end)> past{history_init(), history_end};
+    const std::unique_ptr<EditLine, decltype(&el_end)> editor{el_init("talux", stdin, stdout, stderr),
+                                                              el_end};
     HistEvent event{}; // what it says of a call
     bool isGivenUp = false;
 
     // Saved at once: the session may end any time.
     void remember(const std::string& line) {
-        history(past, &event, H_ENTER, line.c_str());
-        if (!historyFile.empty()) history(past, &event, H_SAVE, historyFile.c_str());
+        history(past.get(), &event, H_ENTER, line.c_str());
+        if (!historyFile.empty()) history(past.get(), &event, H_SAVE, historyFile.c_str());
     }
 
     static Edited& of(EditLine* editor) {

@@ -2,12 +2,6 @@
 #ifndef TALUX_TOOLS_TALUX_PLAUSIBILITY_H
 #define TALUX_TOOLS_TALUX_PLAUSIBILITY_H
 
-#include <functional>
-#include <map>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "tools/reference/PlausibilityRules.h"
 #include "tools/talux/Show.h"
 

@@ -2,9 +2,6 @@
 #ifndef TALUX_TOOLS_TALUX_SEARCH_H
 #define TALUX_TOOLS_TALUX_SEARCH_H
 
-#include <string>
-#include <vector>
-
 #include "tools/talux/Source.h"
 
 namespace talux::tool {

@@ -2,10 +2,6 @@
 #ifndef TALUX_TOOLS_TALUX_SHOW_H
 #define TALUX_TOOLS_TALUX_SHOW_H
 
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "tools/Json.h"
 #include "tools/talux/Source.h"
 #include "tools/talux/Text.h"

@@ -84,12 +84,11 @@ void attachDevice(Access access, const Context& context) {
     const char* const missing = attachExisting(access);
     if (missing == nullptr) return;
     const int error = errno;
-    throw CouldNot(
-        context.say("no device here: the {} cannot be attached: {}; on a device `talux boot` makes "
-                    "it, on a desk scripts/run.sh -- talux ..",
-                    "hier ist kein Gerät: {} nicht erreichbar: {}; auf einem Gerät legt ihn "
-                    "`talux boot` an, am Schreibtisch scripts/run.sh -- talux ..",
-                    missing, reasonOf(error)));
+    context.fail("no device here: the {} cannot be attached: {}; on a device `talux boot` makes "
+                 "it, on a desk scripts/run.sh -- talux ..",
+                 "hier ist kein Gerät: {} nicht erreichbar: {}; auf einem Gerät legt ihn "
+                 "`talux boot` an, am Schreibtisch scripts/run.sh -- talux ..",
+                 missing, reasonOf(error));
 }
 
 bool isDeviceThere() {

@@ -137,7 +137,7 @@ struct Change {
         const auto lock = oneAtATime(context);
         if (const std::string half = interruption(context); !order.mends && !half.empty())
             throw CouldNot(half);
-        if (const std::string damage = lastChangeDamage(context); !damage.empty()) report(CouldNot(damage));
+        if (const std::string damage = lastChangeDamage(context); !damage.empty()) report(damage);
         for (const Write& write : writes)
             if (write.isChanged())
                 context.fail("nothing is written: {} has changed meanwhile",
@@ -187,14 +187,11 @@ Json changesJson(const Writes& writes) {
 }
 
 void save(const std::set<File>& files, const Context& context) {
-    constexpr std::pair<File, SavedFile> kSaved[] = {{File::normal, SavedFile::parameters},
-                                                     {File::security, SavedFile::security},
-                                                     {File::address, SavedFile::addresses}};
-    for (const auto& [file, saved] : kSaved)
-        if (const int error = files.contains(file) ? VarSaveError(saved) : 0; error != 0)
+    for (std::size_t k = 0; k < std::size(kFiles); ++k) // those of SavedFile, in the same order
+        if (const int error = files.contains(kFiles[k]) ? VarSaveError(SavedFile(k)) : 0; error != 0)
             context.fail("the settings are written, but {} is not saved: {}",
                          "die Einstellungen sind geschrieben, aber {} ist nicht gespeichert: {}",
-                         pathOf(file, context), reasonOf(error));
+                         pathOf(kFiles[k], context), reasonOf(error));
 }
 
 Added<Order> addChange(CommandLine& line, const char* name, ChangeCommand change, Wording help) {
@@ -233,8 +230,7 @@ bool isAgreed(const std::string& question, const Context& context) {
     std::fprintf(stderr, "%s %s ", question.c_str(), context.say("[y/N]", "[j/N]"));
     constexpr std::string_view kYes[] = {"y", "Y", "yes", "j", "J", "ja"};
     std::string answer;
-    if (std::getline(std::cin, answer) && !std::cin.eof())
-        return std::ranges::find(kYes, answer) != std::end(kYes);
+    if (std::getline(std::cin, answer) && !std::cin.eof()) return isOneOf(kYes, answer);
     std::fputc('\n', stderr);
     return false;
 }

@@ -22,7 +22,7 @@ struct Order {
     std::function<void(const Journal&)> apply = applyAddresses; // none: leaves the system alone
     bool appliesAll = false;                                    // netmasks and gateways, too
     std::function<bool()> isConfirmed{}; // asked afterwards; none: nobody has to confirm it
-    std::set<File> files{};   // to save, besides those of what is written
+    std::set<File> files{};              // to save, besides those of what is written
     bool mends = false;                  // a change that was interrupted
 
     Reach reach() const {

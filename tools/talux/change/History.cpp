@@ -106,8 +106,7 @@ std::string momentFor(const std::string& when, const Context& context) {
 
 // The file that is named, or the newest whole copies of that time.
 std::vector<std::string> filesToRestore(const std::string& name, const Context& context) {
-    struct stat info;
-    if (stat(name.c_str(), &info) == 0) return {name};
+    if (os::exists(name.c_str())) return {name};
     const std::string until = momentFor(name, context);
     std::vector<std::string> paths;
     for (const File file : {File::normal, File::security})

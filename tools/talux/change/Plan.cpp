@@ -128,16 +128,6 @@ void Plan::add(const Parameter& parameter, int index, const Value& value) {
     planned.push_back(write);
 }
 
-void Plan::take(const std::vector<std::string>& assignments) {
-    for (const std::string& assignment : assignments) {
-        std::string_view value = assignment;
-        const std::string_view label = takeUpTo(value, '=');
-        if (label.size() == assignment.size())
-            context.fail("'{}': NAME=VALUE expected", "'{}': NAME=WERT erwartet", assignment);
-        take(label, value);
-    }
-}
-
 void Plan::take(std::string_view typed, std::string_view value) {
     auto [name, index] = labelIn(typed);
     const Parameter* parameter = reference::find(name);

@@ -40,9 +40,6 @@ public:
     void take(const std::vector<std::string>& assignments);
     void take(std::string_view label, std::string_view value);
 
-    // Several of them, NAME=VALUE.
-    void take(const std::vector<std::string>& assignments);
-
     // A file of such lines, in the form of parameter files; the prefix TLX_ may be missing, blanks may be
     // around "=". As a load does, it leaves the clock alone. Throws CouldNot when it is for another device.
     void read(const std::string& path);
