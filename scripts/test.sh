@@ -1,8 +1,9 @@
 #!/bin/bash
 # Builds and passes the tests.
 #
-#   test.sh           release (all tests), sanitize (addresses and undefined behaviour) and armv7 (both the module's)
-#   test.sh --all     every stage but those that are only run when asked for
+#   test.sh           release: every test, as a user gets the programs
+#   test.sh --all     also under sanitizers, on ARM, with clang, as packages ..: every stage but those that are only run
+#                     when asked for
 #   test.sh STAGE..   only these; --list shows all
 #
 # Packages that the stages need are installed first (as root) or named. Every stage runs whatever became of the
@@ -15,31 +16,29 @@ set -o pipefail
 # Minutes are those of a machine with two cores and nothing built yet. Needs are groups of packages, and `history`: a
 # checkout, whose files git can name.
 table='
-stage              run     minutes  needs
-release            usual   2        build run tests
-sanitize           usual   1        build run tests
-armv7              usual   1        build run tests armv7
-sanitize-programs  all     3        build run tests
-armv7-programs     all     3        build run tests armv7
-armv5te            all     3        build run tests armv5te
-packages           all     1        build armv7 armv5te lintian
-clang              all     3        build run tests clang
-threads            all     1        build run tests
-models             all     1        build spin
-crowd              all     1        build run
-commands           all     1        build run
-places             all     1        build run
-browser            all     1        build browser
-bench              all     1        build run bench
-lint               all     2        build bench lint history
-plain              all     1        build make
-rock               all     1        build run rock
-reproducible       all     1        build history
-user               all     1        build run tests
-container          all     1        build run tests
-debug              asked   2        build run tests
-costs              asked   6        build time
-newcomer           asked   15       debootstrap git history
+stage         run     minutes  needs
+release       usual   2        build run tests
+sanitize      all     4        build run tests
+armv7         all     4        build run tests armv7
+armv5te       all     3        build run tests armv5te
+packages      all     1        build armv7 armv5te lintian
+clang         all     3        build run tests clang
+threads       all     1        build run tests
+models        all     1        build spin
+crowd         all     1        build run
+commands      all     1        build run
+places        all     1        build run
+browser       all     1        build browser
+bench         all     1        build run bench
+lint          all     2        build bench lint history
+plain         all     1        build make
+rock          all     1        build run rock
+reproducible  all     1        build history
+user          all     1        build run tests
+container     all     1        build run tests
+debug         asked   2        build run tests
+costs         asked   6        build time
+newcomer      asked   15       debootstrap git history
 '
 stages_run() { awk -v run="$1" 'NR > 2 && NF && $2 ~ run { print $1 }' <<<"$table"; }
 minutes_of() { awk -v stage="$1" '$1 == stage { print $3 }' <<<"$table"; }
@@ -55,14 +54,12 @@ release() { build release && run_tests release; }
 debug() { build debug && run_tests debug; }
 models() { tests/models/run.sh; }
 clang() { build clang && run_tests clang; }
-# The tests of the programs and the generator, of what runs beside the programs, and of the packages.
-programs='^(talux_|console|session|desk|rules_test|generator_test|interface_test|dictionary$|installed$)'
-armv7() { on_device armv7 --module-tests -E "$programs" && same_image armv7; }
-armv7-programs() { on_device armv7 --tests -R "$programs"; }
+armv7() { on_device armv7 --tests; }
 # What is the same for both devices is tried on the first.
 armv5te() {
+  local programs='^(talux_|console|session|desk|rules_test|generator_test|interface_test|dictionary$|installed$)'
   note 'without the tests of the programs and packages'
-  on_device armv5te --module-tests -E "$programs" && same_image armv5te
+  on_device armv5te --module-tests -E "$programs"
 }
 lint() { scripts/lint.sh --shipped; } # tools and tests take four times as long
 bench() { scripts/bench.sh --check; }
@@ -71,9 +68,8 @@ reproducible() { scripts/reproducible.sh | tee -a "$results/notes"; }
 
 sanitize() {
   note 'without the tests of what is shipped: shared object, installed tree, programs of the pages'
-  build sanitize module_tests && run_tests sanitize -E "$programs"
+  build sanitize && run_tests sanitize
 }
-sanitize-programs() { build sanitize && run_tests sanitize -R "$programs"; }
 
 # The release comes first in every stage that needs several builds: two runs never wait for each other.
 on_device() { # ARCH TESTS CTEST-OPTION..
@@ -81,7 +77,7 @@ on_device() { # ARCH TESTS CTEST-OPTION..
   shift 2
   build release || return
   claim "$builds/build-$arch"
-  doing="building build-$arch" quiet scripts/device.sh "$arch" "$tests" && run_tests "$arch" "$@"
+  doing="building build-$arch" quiet scripts/device.sh "$arch" "$tests" && run_tests "$arch" "$@" && same_image "$arch"
 }
 
 # Debian has no complaint about any package, and those of the PC and the devices go together.
