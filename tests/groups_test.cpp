@@ -50,8 +50,12 @@ struct Values {
         record.IscE = static_cast<float>(number);
     }
     std::string shown() const {
-        return testing::PrintToString(std::tuple(floats.front(), floats.back(), doubles.front(),
-                                                 doubles.back(), record.TimeStamp, record.Cnt, record.IscE));
+        const auto range = [](const auto& all) {
+            const auto [low, high] = std::minmax_element(all.begin(), all.end());
+            return std::to_string(*low) + " to " + std::to_string(*high);
+        };
+        return "floats " + range(floats) + ", doubles " + range(doubles) + ", record " +
+               testing::PrintToString(std::tuple(record.TimeStamp, record.Cnt, record.IscE));
     }
     bool hangTogether() const {
         const double number = record.Cnt;
