@@ -4,27 +4,19 @@
 #define TALUX_TEST_KEPLMODEL_H
 
 #include <cmath>
-#include <cstdarg>
 #include <optional>
 
 #include "Machine.h"
 #include "Store.h"
+#include "tools/Strings.h"
 
 namespace talux_test {
 
+using talux::formatted;
 using Words = std::vector<std::string>;
 constexpr int kProcessEnds = -99; // stands for the result of a line
 inline const std::string kSyntax = "<< SYNTAX ERROR >>", kRights = "<< RIGHTS TOO LOW >>",
                          kFull = "<< OUTPUT BUFFER EXCEEDED >>";
-
-inline std::string format(const char* text, ...) {
-    char buffer[500];
-    std::va_list arguments;
-    va_start(arguments, text);
-    std::vsnprintf(buffer, sizeof buffer, text, arguments);
-    va_end(arguments);
-    return buffer;
-}
 
 inline std::string lower(std::string text) {
     for (char& c : text)
@@ -70,7 +62,7 @@ inline std::optional<std::int32_t> makeLong(const std::string& text) {
 }
 
 inline std::string print(double number, int type) {
-    return std::isnan(number) ? "nan" : format(type >= 2004 && type <= 2010 ? "%.0f" : "%f", number);
+    return std::isnan(number) ? "nan" : formatted(type >= 2004 && type <= 2010 ? "%.0f" : "%f", number);
 }
 
 inline int resultType(int left, int right) {
@@ -128,8 +120,8 @@ struct Model {
     static std::string textOf(const stParamProperties& row, int id) {
         const std::tm clock = *std::localtime(&machine.now);
         if (row.type == 2015)
-            return format("%04d-%02d-%02d", clock.tm_year + 1900, clock.tm_mon + 1, clock.tm_mday);
-        if (row.type == 2016) return format("%02d:%02d:%02d", clock.tm_hour, clock.tm_min, clock.tm_sec);
+            return formatted("%04d-%02d-%02d", clock.tm_year + 1900, clock.tm_mon + 1, clock.tm_mday);
+        if (row.type == 2016) return formatted("%02d:%02d:%02d", clock.tm_hour, clock.tm_min, clock.tm_sec);
         const std::string slot = bytesOf(row, id);
         return {slot.data(), strnlen(slot.data(), slot.size() - 1)};
     }
@@ -182,8 +174,8 @@ struct Model {
             if (term.index[0] > high) return refuse("<< INDEX TOO HIGH >>");
         } else if (term.indices == 2) {
             for (const int k : {0, 1}) {
-                if (term.index[k] < low) return refuse(format("<< INDEX %d TOO LOW >>", k + 1));
-                if (term.index[k] > high) return refuse(format("<< INDEX %d TOO HIGH >>", k + 1));
+                if (term.index[k] < low) return refuse(formatted("<< INDEX %d TOO LOW >>", k + 1));
+                if (term.index[k] > high) return refuse(formatted("<< INDEX %d TOO HIGH >>", k + 1));
             }
             if (term.index[1] < term.index[0]) return refuse("<< INDEX 1 GREATER THAN INDEX 2 >>");
         }
@@ -219,7 +211,7 @@ struct Model {
             if (hasSlot) reply.slot = Value{number, row.type};
             if (option == 'h' && row.type == 2012)
                 reply.result = -1, reply.error = "type unknown";
-            else if (!append(reply.text, option, format("TLX_%s %d", row.name, k), shown, stored, k == 1))
+            else if (!append(reply.text, option, formatted("TLX_%s %d", row.name, k), shown, stored, k == 1))
                 reply.result = -1, reply.error = kFull;
         }
         return reply;
@@ -238,7 +230,7 @@ struct Model {
                                       : member->iMemberBitsize == 16
                                           ? print(numberIn<std::int16_t>(place), 2008)
                                           : print(numberIn<std::int32_t>(place), 2004);
-            const std::string label = format("TLX_%s.%s", row.name, member->aszMemberName);
+            const std::string label = formatted("TLX_%s.%s", row.name, member->aszMemberName);
             const std::string stored = bytes(place, static_cast<std::size_t>(member->iMemberBitsize / 8));
             if (!append(reply.text, term.option, label, shown, stored, at == 0))
                 return {-1, reply.text, {}, kFull};
@@ -279,7 +271,7 @@ struct Model {
         put(row, id, value.data());
         if (isClock && moment == -1) return {-1, "", {}, kSyntax};
         if (isClock) {
-            note(format("clock %lld", static_cast<long long>(moment)));
+            note(formatted("clock %lld", static_cast<long long>(moment)));
             note("$ hwclock --systohc --utc --noadjfile");
         } else if (row.type == 2019 && term.indices == 0) {
             note("VarSetSystemIPs");

@@ -100,7 +100,7 @@ struct Speaker {
     std::string number() {
         if (oneIn(20))
             return any({"nan", "x", "1_", "-", "12345678901234567890123456789012345678901234567890"});
-        if (oneIn(2)) return format("%.*f", random.below(8), (random.below(2000001) - 1000000) / 97.0);
+        if (oneIn(2)) return formatted("%.*f", random.below(8), (random.below(2000001) - 1000000) / 97.0);
         return of(
             "0|1|-1|2.5| 7 up|1e3|0x1F|-.5|1e300|12345678901234567890|inf|-inf|-nan|+3|1e-400|010|5.|\t5|-0");
     }
@@ -132,7 +132,8 @@ struct Speaker {
         if (isText(row->type))
             return any({"", "\"", "\"", " "}) + random.text(oneIn(3) ? 130 : 12) + any({"", "\"", "\"", "x"});
         const double limit = oneIn(2) ? row->val_min : row->val_max;
-        return oneIn(2) ? number() : format("%.17g", oneIn(2) ? limit : limit + (random.below(3) - 1) * 0.5);
+        return oneIn(2) ? number()
+                        : formatted("%.17g", oneIn(2) ? limit : limit + (random.below(3) - 1) * 0.5);
     }
     // Without prefix.
     std::string variable() {
@@ -200,7 +201,7 @@ protected:
         bendTables();
         std::fill_n(path + 5, 129, 'p'); // so that some paths are too long
         model.iniPath = path;
-        machine.stamp = [] { return format(" @%zx", std::hash<std::string>()(image())); };
+        machine.stamp = [] { return formatted(" @%zx", std::hash<std::string>()(image())); };
     }
 
     // Garbage in the store.

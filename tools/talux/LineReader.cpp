@@ -127,7 +127,7 @@ public:
     std::optional<std::string> next() {
         int count = 0;
         isGivenUp = false;
-        el_set(editor.get(), EL_PREP_TERM, 1); // before the prompt: what is typed behind it is for the editor
+        el_set(editor.get(), EL_PREP_TERM, 1); // before the prompt: what is typed after it is for the editor
         const char* const text = el_gets(editor.get(), &count);
         if (isGivenUp) return std::string();
         if (text == nullptr || count <= 0) {
