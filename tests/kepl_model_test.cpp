@@ -262,17 +262,10 @@ protected:
 
 } // namespace
 
-// The emulator is slow, and finds no other faults of the language than a PC does.
-#ifdef TALUX_EMULATED
-constexpr int kRounds = 20000;
-#else
-constexpr int kRounds = 40000;
-#endif
-
 TEST_F(KeplModel, AnswersLines) {
     std::optional<KEPL_Interpreter> interpreter;
     std::map<std::string, int> counts; // of the ways out of a line
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < 40000; ++round) {
         if (round % 500 == 0) {
             const int board = round / 500 % 4;
             machine.board = Words{"armv5tejl", "armv7l", "armv7L", ""}[static_cast<std::size_t>(board)];
@@ -317,7 +310,7 @@ TEST_F(KeplModel, CarriesOutCommands) {
     constexpr double kNothing = -77;
     KEPL_Interpreter interpreter(path);
     shake();
-    for (int round = 0; round < kRounds / 5; ++round) {
+    for (int round = 0; round < 8000; ++round) {
         turn();
         const std::string term = oneIn(99) ? std::string(128, 'x') : speaker.variable(), before = image();
         const int places[] = {0, 5, kKeplStackSize - 1, kKeplStackSize, -1}, place = places[random.below(5)];
