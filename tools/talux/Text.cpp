@@ -19,9 +19,9 @@ std::size_t characterAt(std::string_view text) {
     const auto length = static_cast<std::size_t>(std::countl_one(first));
     if (length < 2 || length > 4 || length > text.size()) return 0;
     unsigned code = first & 0x7FU >> length;
-    for (const unsigned char next : text.substr(1, length - 1)) {
-        if ((next & 0xC0U) != 0x80) return 0;
-        code = code << 6U | (next & 0x3FU);
+    for (const char next : text.substr(1, length - 1)) {
+        if ((static_cast<unsigned char>(next) & 0xC0U) != 0x80) return 0;
+        code = code << 6U | (static_cast<unsigned char>(next) & 0x3FU);
     }
     const bool isSurrogate = code >= 0xD800 && code < 0xE000;
     return code >= kSmallest[length] && code <= kLargest && !isSurrogate ? length : 0;
