@@ -17,7 +17,7 @@ set -o pipefail
 # checkout, whose files git can name.
 table='
 stage         run     minutes  needs
-release       usual   2        build run tests
+release       usual   5        build run tests
 sanitize      all     4        build run tests
 armv7         all     4        build run tests armv7
 armv5te       all     3        build run tests armv5te
