@@ -82,9 +82,10 @@ bool endsWaiting(const Journal& journal, const Context& context) try {
         os::logError("talux address: %s", error.what());
     }
     os::writeFile(pipe, "applied");
-    while (os::exists(openAddress(context).c_str()) && now() < end && isAskedToEnd == 0)
+    const auto isOpen = [&] { return os::exists(openAddress(context).c_str()); };
+    while (isOpen() && now() < end && isAskedToEnd == 0)
         os::sleepMicroseconds(100000);
-    while (!endsWaiting(journal, context))
+    while (isOpen() && !endsWaiting(journal, context))
         os::sleepMicroseconds(500000);
     _exit(0);
 }
