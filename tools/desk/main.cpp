@@ -2,10 +2,12 @@
 //
 // Exit status: 0 the scenario has ended or somebody stopped the program, 1 the scenario has faults, 2 it
 // cannot be carried out.
-#include <CLI/CLI.hpp>
+#include <argp.h>
+
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <iostream>
@@ -111,21 +113,70 @@ int carryOut(const Options& options) {
     return options.plot.empty() ? run(scenario, options) : plot(scenario, options);
 }
 
+enum Key : int { kScenario = 256, kCheck, kPlot, kSpeed, kStep }; // no letters
+
+constexpr argp_option kOptions[] = {
+    {"scenario", kScenario, "FILE", 0, "what happens, see docs/desk.md; nothing if not given", 0},
+    {"check", kCheck, nullptr, 0, "only look at the scenario: errors with file and line", 0},
+    {"plot", kPlot, "FILE.svg", 0, "draw U0, I0 and signals with the factory settings into a file", 0},
+    {"speed", kSpeed, "NUMBER", 0, "time runs so many times faster, 0.01 to 1000", 0},
+    {"step", kStep, nullptr, 0, "a cycle for each line on standard input", 0},
+    {nullptr, 'h', nullptr, OPTION_HIDDEN, nullptr, 0},
+    {}};
+
+double speedIn(const char* text, argp_state* state) {
+    char* end = nullptr;
+    const double speed = std::strtod(text, &end);
+    if (*end != '\0' || !(speed >= 0.01 && speed <= 1000))
+        argp_error(state, "--speed %s: must be 0.01 to 1000", text);
+    return speed;
+}
+
+error_t take(int key, char* text, argp_state* state) {
+    Options& options = *static_cast<Options*>(state->input);
+    switch (key) {
+    case kScenario:
+        options.scenario = text;
+        return 0;
+    case kCheck:
+        options.check = true;
+        return 0;
+    case kPlot:
+        options.plot = text;
+        return 0;
+    case kSpeed:
+        options.speed = speedIn(text, state);
+        return 0;
+    case kStep:
+        options.step = true;
+        return 0;
+    case 'h':
+        argp_state_help(state, stdout, ARGP_HELP_STD_HELP);
+        return 0;
+    case ARGP_KEY_ARG:
+        if (state->arg_num > 0) argp_error(state, "%s is not expected here", text);
+        options.log = text;
+        return 0;
+    default:
+        return ARGP_ERR_UNKNOWN;
+    }
+}
+
+constexpr argp kParser{kOptions,
+                       take,
+                       "[LOGFILE]",
+                       "plays the device on a PC: a model for learning and for trying scripts, no protection"
+                       "\v  LOGFILE receives the changes of the threshold, instead of standard output.",
+                       nullptr,
+                       nullptr,
+                       nullptr};
+
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App app{"plays the device on a PC: a model for learning and for trying scripts, no protection"};
     Options options;
-    app.add_option("--scenario", options.scenario, "what happens, see docs/desk.md; nothing if not given")
-        ->type_name("FILE");
-    app.add_flag("--check", options.check, "only look at the scenario: errors with file and line");
-    app.add_option("--plot", options.plot, "draw U0, I0 and signals with the factory settings into a file")
-        ->type_name("FILE.svg");
-    app.add_option("--speed", options.speed, "time runs so many times faster")
-        ->check(CLI::Range(0.01, 1000.0));
-    app.add_flag("--step", options.step, "a cycle for each line on standard input");
-    app.add_option("LOGFILE", options.log, "says there when the threshold changes, not on standard output");
-    CLI11_PARSE(app, argc, argv);
+    argp_err_exit_status = 2;
+    argp_parse(&kParser, argc, argv, 0, nullptr, &options);
     std::signal(SIGTERM, [](int) { stopRequested = 1; });
     std::signal(SIGINT, [](int) { stopRequested = 1; });
     try {
