@@ -25,7 +25,7 @@ endif()
 # often, which takes longer. And g++ 12 sees overlaps and overflows in "literal" + std::string that are not there (GCC bug
 # 105651); the sanitizers would see those that are.
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-  set(talux_thrifty --param=ggc-min-expand=10)
+  set(talux_thrifty --param=ggc-min-expand=10 --param=ggc-min-heapsize=145000)
   set(talux_thriftier --param=ggc-min-expand=5) # for the header of the option library
   set(talux_false_alarms -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
