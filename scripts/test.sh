@@ -235,7 +235,8 @@ release_tests_again() {
   run_tests "$folder"
 }
 
-# run_tests BUILD [CTEST-OPTION..]: runs the tests of a build, or of a folder, with the rights that `as` gives.
+# run_tests BUILD [CTEST-OPTION..]: runs the tests of a build, or of a folder, with the rights that `as` gives. Many wait
+# most of the time.
 run_tests() {
   local folder=$builds/build-$1 status=0 ticker
   case $1 in /*) folder=$1 ;; esac
@@ -244,7 +245,7 @@ run_tests() {
   doing='still at its tests:' tick "$BASHPID" "$results/ctest" streamed &
   ticker=$!
   "${as[@]}" ctest --test-dir "$folder" --output-on-failure --no-tests=error --timeout 600 \
-    -j "$(nproc)" "$@" </dev/null | tee "$results/ctest" || status=$?
+    -j "$((2 * $(nproc)))" "$@" </dev/null | tee "$results/ctest" || status=$?
   kill "$ticker" 2>/dev/null || true
   wait "$ticker" 2>/dev/null || true
   summarise "$results/ctest" "$folder/Testing/Temporary/LastTest.log" >>"$results/notes"
