@@ -11,6 +11,13 @@
 
 namespace talux_test {
 
+// Than a program of its own processor.
+#if defined(TALUX_EMULATED) || defined(__SANITIZE_ADDRESS__)
+inline constexpr int kTimesSlower = 10;
+#else
+inline constexpr int kTimesSlower = 1;
+#endif
+
 struct Ended {
     int status; // -1: it did not end by itself
     std::string output;

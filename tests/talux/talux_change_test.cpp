@@ -115,7 +115,7 @@ TEST_F(TaluxChange, APlanOfAllSettingsTakesATenthOfASecond) {
     const double took = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     EXPECT_EQ(applied.status, 0);
     EXPECT_GT(pieces(applied.output, '\n').size(), 250U);
-    EXPECT_LT(took, 1) << "0.1 s where nothing else runs";
+    EXPECT_LT(took, kTimesSlower) << "0.1 s where nothing else runs";
     RecordProperty("seconds", std::to_string(took));
 }
 
@@ -313,9 +313,9 @@ protected:
         EXPECT_EQ(network(), address);
         EXPECT_FALSE(std::filesystem::exists(directory / "address_change.tsv"));
     }
-    void startChange(const char* seconds) {
+    void startChange() {
         logged();
-        start({"address", "ETH0_IP=10.1.2.3", "ETH0_MASK=255.255.255.0", "--yes", "--confirm", seconds});
+        start({"address", "ETH0_IP=10.1.2.3", "ETH0_MASK=255.255.255.0", "--yes", "--confirm", "60"});
         EXPECT_TRUE(waitFor("applied; `talux confirm`"));
         EXPECT_EQ(network(), "10.1.2.3/24");
         EXPECT_EQ(file("ip_config.ini"), old) << "with the supply gone now, the old ones are there";
@@ -348,7 +348,7 @@ std::string withoutBlanks(std::string text) {
 }
 
 TEST_F(TaluxAddress, StaysWhenItIsConfirmed) {
-    startChange("60");
+    startChange();
     EXPECT_EQ(reached("192.168.55.127"), "");
     for (const char* other : {"set Uearth=35 --yes", "address ETH0_IP=10.9.9.9 --yes"})
         EXPECT_EQ(talux(other).status, 2) << "one at a time";
@@ -371,26 +371,27 @@ TEST_F(TaluxAddress, StaysWhenItIsConfirmed) {
 
 TEST_F(TaluxAddress, IsTakenBackWhenNobodyConfirms) {
     logged();
-    const std::string change = "address ETH0_IP=10.1.2.3 ETH0_MASK=255.255.255.0 --yes --confirm ";
-    const Ended alone = talux(change + "1 --json");
+    const Ended alone = talux("address ETH0_IP=10.1.2.3 ETH0_MASK=255.255.255.0 --yes --confirm 1 --json");
     EXPECT_EQ(alone.status, 1); // the time passes
     EXPECT_EQ(withoutBlanks(alone.output),
               "{\"written\":true," + std::string(kChangeInJson) + ",\"implausible\":[],\"confirmed\":false}");
     isBack();
     EXPECT_EQ(reached("10.1.2.3"), "");
     EXPECT_NE(talux("undo --yes").output.find("no change to take back"), std::string::npos);
-    logged(); // the command is killed with its group, and the record is damaged
-    run("timeout -s KILL 2 talux --directory " + directory.string() + " " + change + "6 2>&1");
-    EXPECT_EQ(network(), "10.1.2.3/24") << "nobody waits for what the guard keeps open";
+    startChange(); // the command is killed with its group, the record damaged, the guard asked to end
+    kill(-child, SIGKILL);
+    EXPECT_EQ(ended(), -1) << "nobody waits for what the guard keeps open";
+    EXPECT_EQ(network(), "10.1.2.3/24");
     write("address_change.tsv", "?");
     EXPECT_EQ(talux("confirm").status + talux("set Uearth=35 --yes").status, 4);
+    endGuard("TERM");
     isBack();
-    startChange("60"); // somebody takes it back
+    startChange(); // somebody takes it back
     EXPECT_EQ(talux("undo --yes >/dev/null").status, 0);
     EXPECT_TRUE(waitFor("the old addresses are back"));
     EXPECT_EQ(ended(), 1);
     isBack();
-    startChange("60"); // the supply fails
+    startChange(); // the supply fails
     endGuard("KILL");
     run("ip address flush dev eth0");
     EXPECT_TRUE(waitFor("the guard is gone"));
@@ -404,10 +405,10 @@ TEST_F(TaluxAddress, IsTakenBackWhenNobodyConfirms) {
 TEST_F(TaluxAddress, AGatewayGoesBackAlone) {
     const auto routes = [] { return network() + run("ip route show default").output; };
     for (const bool isConfirmed : {false, true}) {
-        start({"address", "ETH0_GATEWAY=192.168.55.9", "--yes", "--confirm", isConfirmed ? "60" : "3"});
+        start({"address", "ETH0_GATEWAY=192.168.55.9", "--yes", "--confirm", "60"});
         EXPECT_TRUE(waitFor("applied; `talux confirm`"));
         EXPECT_EQ(routes(), "192.168.55.127/16default via 192.168.55.9 dev eth0 \n");
-        if (isConfirmed) talux("confirm");
+        isConfirmed ? talux("confirm") : endGuard("TERM");
         EXPECT_EQ(ended(), isConfirmed ? 0 : 1);
         EXPECT_EQ(isConfirmed, talux("undo --yes").status == 0);
         EXPECT_EQ(routes(), "192.168.55.127/16");
