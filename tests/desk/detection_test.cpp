@@ -2,6 +2,7 @@
 // above.
 #include "Bench.h"
 
+#include <algorithm>
 #include <cmath>
 #include <dlfcn.h>
 #include <pthread.h>
@@ -40,11 +41,12 @@ constexpr char kLong[] =
     "network resonant-earthed 20 kV capacitive 80 A own 20 A damping 3 %\nload 0 A drift 0 %\n";
 
 // The settings that tests change. (clang 14 does not compile those made within the tests.)
-constexpr Setting<float> kQu2SigDur{"qu2_SigDur"}, kQu2SigDurLED{"qu2_SigDur_LED"}, kKnu1{"knu1"};
+constexpr Setting<float> kQu2SigDur{"qu2_SigDur"}, kQu2SigDurLED{"qu2_SigDur_LED"}, kKnu1{"knu1"},
+    kPhiCorrU1{"phi_corr_U1"};
 constexpr Setting<talux::choice::BAassign> kLEDassign10{"LEDassign10"}, kBAassign5{"BAassign5"},
     kBAassign6{"BAassign6"};
 constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kScActive{"sc_active"},
-    kScDirActive{"sc_dir_active"}, kFreqActive{"freq_active"};
+    kScDirActive{"sc_dir_active"}, kFreqActive{"freq_active"}, kUenCalc{"Uen_calc"}, k3IoCalc{"3Io_calc"};
 constexpr Setting<talux::Choice> kPrioList3{"prio_list_3"};
 constexpr Setting<talux::choice::BApol> kBApol6{"BApol6"};
 constexpr Setting<talux::choice::Upol> kIpol2{"Ipol2"};
@@ -289,15 +291,24 @@ TEST(DeskMeter, ShowsWrongWiringAndItsCorrection) {
     EXPECT_GT(reversed.record.I0p, 190);
     bench.set(kIpol2, static_cast<talux::choice::Upol>(2));
     EXPECT_NEAR(bench.run(wrong).back().record.P2, before.record.P2, 1e-2);
-    bench.set(kKnu1, 400.0F);
-    EXPECT_NEAR(bench.run(wrong).back().record.U1p, 2 * before.record.U1p, 1e-3);
+    bench.set(kKnu1, 400.0F), bench.set(kUenCalc, true), bench.set(k3IoCalc, true);
+    const Cycle calculated = bench.run(wrong).back(); // residual values from the corrected phases
+    EXPECT_NEAR(calculated.record.U1p, 2 * before.record.U1p, 1e-3);
+    EXPECT_NEAR(calculated.record.U0p, before.record.U1p / 3, 1e-3);
+    EXPECT_NEAR(calculated.record.I0p, before.record.I0p, 1e-2);
+    bench.set(kPhiCorrU1, 30.0F);
+    EXPECT_NEAR(bench.run(wrong).back().record.wUI1, before.record.wUI1 + 30, 1e-2);
 }
 
 TEST(DeskMeter, HasPowersAndVoltagesBetweenPhasesOfItsPhasors) {
-    Bench bench;
-    for (const Cycle& cycle :
-         bench.run("network isolated 20 kV capacitive 80 A own 6 A\nload 150 A angle 25 deg noise 1 %\n"
-                   "at 1 s earth fault L2 400 ohm forward\nat 3 s end\n")) {
+    const std::string scenario =
+        "network isolated 20 kV capacitive 80 A own 6 A\nload 150 A angle 25 deg noise 1 %\n"
+        "at 1 s earth fault L2 400 ohm forward\nat 3 s end\n";
+    Bench bench, again;
+    const auto& cycles = bench.run(scenario);
+    EXPECT_TRUE(std::ranges::equal(cycles, again.run(scenario), {}, &Cycle::values, &Cycle::values))
+        << "not the same noise twice";
+    for (const Cycle& cycle : cycles) {
         const auto& u = cycle.phasors.primaryVoltage;
         const auto& i = cycle.phasors.primaryCurrent;
         const Phasor s2 = u[2] * std::conj(i[2]);

@@ -144,18 +144,6 @@ TEST(DeskScenario, TakesEventsInTheOrderOfTimeAndEndsWhateverComes) {
     }
 }
 
-TEST(DeskScenario, GivesTheSameValuesTwice) {
-    const std::string scenario =
-        "network resonant-earthed 20 kV\nload 100 A noise 5 %\nat 1 s earth fault L1 50 ohm "
-        "forward\nat 2 s end\n";
-    Bench one, two;
-    const auto& first = one.run(scenario);
-    const auto& second = two.run(scenario);
-    ASSERT_EQ(first.size(), second.size());
-    for (std::size_t k = 0; k < first.size(); ++k)
-        ASSERT_EQ(first[k].values, second[k].values);
-}
-
 class DeskReplay : public testing::Test {
 protected:
     std::filesystem::path folder =
@@ -239,6 +227,7 @@ TEST_F(DeskReplay, FindsThePhasorsOfComtrade) {
             ASSERT_TRUE(recording(second, sample));
             EXPECT_NEAR(std::abs(sample.voltage[1]), 16.33 / std::numbers::sqrt2, 0.001 * 11.5);
             EXPECT_NEAR(std::abs(sample.current[3]), 105 / std::numbers::sqrt2, 0.001 * 74);
+            EXPECT_NEAR(std::abs(sample.current[0]), std::sqrt(3) / std::numbers::sqrt2, 0.02) << "the sum";
             EXPECT_NEAR(degrees(sample.voltage[2] / sample.voltage[1]), -120, 0.1);
             EXPECT_NEAR(degrees(sample.voltage[1] / sample.current[1]), 30, 0.1);
         }

@@ -233,7 +233,6 @@ TEST_F(TaluxStore, LookingChangesNothing) {
     const char kCommands[] = R"(check a.ini --against live
 check a.ini b.ini --json --notes
 diff live staged
-diff a.ini b.ini
 diff b.ini --json --notes
 status
 status --json --plausible
@@ -244,7 +243,6 @@ fingerprint a.ini --listing
 list --of staged --json
 list U --of a.ini --json
 list --families --methods --json
-explain --live Uearth MessRecord01
 explain --live --json Uearth MessRecord01.U1p 28 'BAassign' Name
 history --json
 history Uearth --json
