@@ -21,6 +21,7 @@ constexpr Setting<float> kThreshold{"Uearth"}, kDelay{"Uearth_SigDel"};
 constexpr Setting<Text> kName{"Name"};
 constexpr Setting<choice::Language> kLanguage{"Language"};
 constexpr Setting<Address> kAddress{"ETH0_IP"};
+constexpr Setting<Identifier> kMark{"Kenn"};
 constexpr Setting<bool> kActive{"qu2_active"};
 constexpr Setting<std::int32_t> kChannel{"channel"};
 
@@ -57,18 +58,20 @@ TEST_F(Followers, SeeWhatChangedAndOnlyThat) {
     ASSERT_TRUE(kLanguage.stage(choice::Language::kEnglish));
     ASSERT_TRUE(kAddress.stage("10.1.2.3"));
     ASSERT_TRUE(kActive.stage(false));
+    ASSERT_TRUE(kMark.stage("x"));
     ASSERT_TRUE(kChannel.stage(7));
     store.commit();
     ASSERT_TRUE(follower.wait(2000));
     std::string changed;
     for (const Difference each : follower.changes())
         changed += std::string(each.name()) + (each == kThreshold ? "! " : " ");
-    EXPECT_EQ(changed, "Uearth! channel qu2_active Language ETH0_IP ");
+    EXPECT_EQ(changed, "Uearth! channel qu2_active Language Kenn ETH0_IP ");
     const Settings& now = follower.settings();
     EXPECT_EQ(now[kThreshold], 42);
     EXPECT_EQ(follower.before()[kThreshold], 1);
     EXPECT_EQ(now[kLanguage], choice::Language::kEnglish);
     EXPECT_EQ(now[kAddress], "10.1.2.3");
+    EXPECT_EQ(now[kMark], "x");
     EXPECT_EQ(now[kActive], false);
     EXPECT_EQ(now[kChannel], 7);
     EXPECT_FALSE(follower.wait(5));

@@ -216,6 +216,14 @@ TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {
     EXPECT_FALSE(fresh.wait(last, 50));
     EXPECT_GE(fresh.read(value).age(), 0.05);
 
+    auto* const slots = static_cast<detail::GroupSlot*>(shmat(shmget(detail::kGroupsKey, 0, 0), nullptr, 0));
+    for (auto* each = slots; each != slots + detail::kGroupSlots; ++each)
+        if (std::strcmp(each->name, "fresh") == 0) each->sequence = 0xFFFFFFFE;
+    shmdt(slots);
+    EXPECT_TRUE(fresh.write(1)) << "the counter turns";
+    last = fresh.read(value);
+    EXPECT_EQ(last.number(), 2U) << "0 means that nobody has written";
+
     for (int sleeper = 0; sleeper < 3; ++sleeper) // one write wakes them all
         start([&] {
             const std::int64_t before = detail::monotonic();
@@ -233,7 +241,7 @@ TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {
 
 TEST_F(Groups, HaveOneMeaningPerName) {
     float value = 0;
-    const auto attachment = [](const char* name, auto... parts) {
+    const auto attachment = [](std::string_view name, auto... parts) {
         return Group(name, parts...).attachment();
     };
     EXPECT_EQ(attachment("other", kFirst), Attachment::attached);
@@ -241,9 +249,10 @@ TEST_F(Groups, HaveOneMeaningPerName) {
     EXPECT_EQ(Group("group", kFirst).read(value), Reading::detached);
     EXPECT_FALSE(Group("group", kFirst).write(1));
     for (const std::size_t bytes : {0U, 1U, 54U, 55U, 56U, 57U})
-        EXPECT_EQ(attachment(std::string(bytes, 'x').c_str(), kFirst),
+        EXPECT_EQ(attachment(std::string(bytes, 'x'), kFirst),
                   bytes < 1 || bytes > 55 ? Attachment::wrongName : Attachment::attached)
             << bytes;
+    EXPECT_EQ(attachment(std::string(3, '\0'), kFirst), Attachment::wrongName);
     auto early = std::make_unique<Group<Measured<float>>>("early", kFirst);
     start([&] { // a child has not counted it; what it gave back would be taken back at its end
         early.reset();
@@ -283,6 +292,19 @@ TEST_F(Groups, AreTakenAgainWhenNobodyUsesThem) {
     for (int number = 100; number < 200; ++number)
         ASSERT_TRUE(Group(std::to_string(number), kFirst).attached()) << number;
     EXPECT_TRUE(read());
+}
+
+TEST_F(Groups, SayThatTheSystemGivesNoSlot) {
+    const auto attachment = [] { return Group("other", kFirst).attachment(); };
+    const auto semaphores = [](int count) { return semget(detail::kGroupsKey, count, IPC_CREAT | 0600); };
+    semctl(semaphores(0), 0, IPC_RMID);
+    semaphores(1);
+    EXPECT_EQ(attachment(), Attachment::system) << "too few for all slots";
+    semctl(semaphores(0), 0, IPC_RMID);
+    EXPECT_EQ(attachment(), Attachment::attached);
+    semctl(semaphores(0), detail::kClaims, SETVAL, 1);
+    EXPECT_EQ(attachment(), Attachment::system) << "somebody stays inside";
+    semctl(semaphores(0), detail::kClaims, SETVAL, 0);
 }
 
 } // namespace

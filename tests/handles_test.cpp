@@ -156,9 +156,16 @@ TEST_F(Handles, MeasuredValuesAreLiveAtOnce) {
         std::string text(bytes % 2, 'x');
         while (text.size() < bytes)
             text += "ä";
-        EXPECT_EQ(file.set(text).reason(), bytes > 127 ? Reason::tooLong : Reason::none) << bytes;
+        const Result result = file.set(text);
+        EXPECT_EQ(result.reason(), bytes > 127 ? Reason::tooLong : Reason::none) << bytes;
+        const std::string count = std::to_string(bytes);
+        EXPECT_EQ(result.text(),
+                  result ? "" : "SampleFile: TEXT TOO LONG (" + count + " bytes, at most 127)");
         EXPECT_EQ(file.set(std::string(bytes, 'x')).reason(), bytes > 127 ? Reason::tooLong : Reason::none);
     }
+    EXPECT_EQ(Text(std::string(128, 'x')), std::string(127, 'x'));
+    EXPECT_EQ(Address("12345678901234567890"), "1234567890123456789");
+    EXPECT_EQ(Text("a\0b"sv), "a");
     EXPECT_TRUE(file.set("/tmp/samples"));
     MessRecord02 values{};
     values.y_BAF_04 = -4;

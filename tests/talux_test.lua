@@ -207,7 +207,7 @@ case("the cases that the program talux has, too: the same is refused, the same i
 end)
 
 case("every name that is none is refused with the nearest one", function()
-  for wrong, right in pairs {Uearht = "Uearth", TLX_Uearth = "Uearth", LVR_Abg = "Abg", BAasign3 = "BAassign3", u_earth = "Uearth",
+  for wrong, right in pairs {Uearht = "Uearth", TLX_Uearth = "Uearth", LVR_Agb = "Abg", BAasign3 = "BAassign3", u_earth = "Uearth",
                              MesRecord01 = "MessRecord01"} do
     refused(wrong .. ": NO SUCH PARAMETER (" .. right .. "?)", talux.get, wrong)
     refused(wrong .. " = 1: NO SUCH PARAMETER (" .. right .. "?)", talux.set, wrong, 1)
