@@ -13,7 +13,7 @@ if(TALUX_SANITIZE)
     -fsanitize=${TALUX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all
     $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>) # instrumented library code confuses it
   target_link_options(talux_compile INTERFACE -fsanitize=${TALUX_SANITIZE})
-  # For the two sources that are little more than the header of the option library: half a minute each.
+  # For the source that is little more than the header of the option library: half a minute.
   set(talux_unwatched -fno-sanitize=all)
 endif()
 
@@ -21,9 +21,9 @@ endif()
 if(NOT CMAKE_BUILD_TYPE STREQUAL Coverage)
   set(talux_quick -O1)
 endif()
-# For tests and sources with large headers, which would take more than 250 MB: the compiler collects its garbage more
-# often, which takes longer. And g++ 12 sees overlaps and overflows in "literal" + std::string that are not there (GCC bug
-# 105651); the sanitizers would see those that are.
+# For tests and sources with large headers, which would take more than 250 MB: the compiler collects its garbage as soon
+# as that is near, which takes longer. And g++ 12 sees overlaps and overflows in "literal" + std::string that are not
+# there (GCC bug 105651); the sanitizers would see those that are.
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   set(talux_thrifty --param=ggc-min-expand=10 --param=ggc-min-heapsize=145000)
   set(talux_thriftier --param=ggc-min-expand=5) # for the header of the option library
