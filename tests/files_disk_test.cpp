@@ -391,6 +391,21 @@ TEST_F(Disk, WaitsForTheSavesOfOthersButNotForEver) {
     slept = kReally;
     for (const int other : {others[0], others[1], others[3]})
         close(other);
+
+    for (const int lock : {LOCK_UN, LOCK_EX}) { // another save took the new file for a leftover
+        int makes = 0;
+        onStep = [&] {
+            if (steps.empty() || steps.back().what != "make") return;
+            if (++makes > 1) return void(close(others[0]));
+            const fs::path name = directory / steps.back().name;
+            others[0] = open(name.c_str(), O_RDONLY);
+            EXPECT_EQ(flock(others[0], lock), 0);
+            fs::remove(name);
+        };
+        EXPECT_EQ(std::get<0>(perform(kOperations[3])), 1);
+        EXPECT_EQ(makes, 2);
+    }
+    onStep = nullptr;
 }
 
 // ---- What cannot be replaced, and links ----
