@@ -38,7 +38,7 @@ protected:
 };
 
 TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
-    constexpr Setting<float> threshold{"Uearth"}, ratio{"knu1"};
+    constexpr Setting<float> threshold{"Uearth"}, ratio{"knu1"}, quotient{"pHPCI_Yo_quot_abs"};
     constexpr Setting<std::int32_t> channel{"channel"}, limit{"BAF_cnt_val_dT1"};
     constexpr Setting<bool> active{"qui_active"};
     constexpr Setting<choice::Language> language{"Language"};
@@ -47,9 +47,9 @@ TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
     constexpr Setting<Identifier> mark{"Kenn"};
     constexpr Setting<Address> address{"ETH0_IP"}, mask{"FW_ETH0_MASK"};
 
-    EXPECT_TRUE(threshold.stage(35) && ratio.stage(0.1f) && channel.stage(7) && active.stage(true) &&
-                language.stage(choice::Language::kGerman) && skew.stage(Choice{2}) && name.stage("Süd 1") &&
-                mark.stage("B:") && address.stage("10.0.0.7"));
+    EXPECT_TRUE(threshold.stage(35) && ratio.stage(0.1f) && quotient.stage(0.999f) && channel.stage(7) &&
+                active.stage(true) && language.stage(choice::Language::kGerman) && skew.stage(Choice{2}) &&
+                name.stage("Süd 1") && mark.stage("B:") && address.stage("10.0.0.7"));
     const auto read = [] {
         return ask("TLX_Uearth") + ask("TLX_channel") + ask("TLX_qui_active") + ask("TLX_Language") +
                ask("TLX_skew_type") + ask("TLX_Name") + ask("TLX_Kenn") + ask("TLX_ETH0_IP");
