@@ -244,7 +244,7 @@ run_tests() {
   : >"$results/ctest"
   doing='still at its tests:' tick "$BASHPID" "$results/ctest" streamed &
   ticker=$!
-  "${as[@]}" ctest --test-dir "$folder" --output-on-failure --no-tests=error --timeout 600 \
+  "${as[@]}" ctest --test-dir "$folder" --output-on-failure --no-tests=error --timeout 1200 \
     -j "$((2 * $(nproc)))" "$@" </dev/null | tee "$results/ctest" || status=$?
   kill "$ticker" 2>/dev/null || true
   wait "$ticker" 2>/dev/null || true
