@@ -18,22 +18,22 @@ set -o pipefail
 table='
 stage         run     minutes  needs
 release       usual   5        build run tests
-sanitize      all     4        build run tests
-armv7         all     4        build run tests armv7
-armv5te       all     3        build run tests armv5te
-packages      all     1        build armv7 armv5te lintian
-clang         all     3        build run tests clang
-threads       all     1        build run tests
+sanitize      all     7        build run tests
+armv7         all     7        build run tests armv7
+armv5te       all     4        build run tests armv5te
+packages      all     2        build armv7 armv5te lintian
+clang         all     6        build run tests clang
+threads       all     2        build run tests
 models        all     1        build spin
 crowd         all     1        build run
 commands      all     1        build run
-places        all     1        build run
+places        all     2        build run
 browser       all     1        build browser
 bench         all     1        build run bench
-lint          all     2        build bench lint history
+lint          all     4        build bench lint history
 plain         all     1        build make
 rock          all     1        build run rock
-reproducible  all     1        build history
+reproducible  all     2        build history
 user          all     1        build run tests
 container     all     1        build run tests
 debug         asked   2        build run tests
@@ -221,7 +221,7 @@ container() {
 }
 
 # shellcheck disable=SC2016 # expanded inside
-isolation() { scripts/isolated.sh -- sh -c 'echo "$TALUX_ISOLATION"' 2>/dev/null; }
+isolation() { "${as[@]}" "$project/scripts/isolated.sh" -- sh -c 'echo "$TALUX_ISOLATION"' 2>/dev/null; }
 
 # The release tests under other rights; ctest writes into a folder outside the builds.
 release_tests_again() {
@@ -236,16 +236,17 @@ release_tests_again() {
 }
 
 # run_tests BUILD [CTEST-OPTION..]: runs the tests of a build, or of a folder, with the rights that `as` gives. Many wait
-# most of the time.
+# most of the time, so twice as many run as there are processors; without isolation they would see each other's files.
 run_tests() {
-  local folder=$builds/build-$1 status=0 ticker
+  local folder=$builds/build-$1 status=0 ticker jobs=$((2 * $(nproc)))
+  [ "$(isolation)" != none ] || jobs=1
   case $1 in /*) folder=$1 ;; esac
   shift
   : >"$results/ctest"
   doing='still at its tests:' tick "$BASHPID" "$results/ctest" streamed &
   ticker=$!
   "${as[@]}" ctest --test-dir "$folder" --output-on-failure --no-tests=error --timeout 1200 \
-    -j "$((2 * $(nproc)))" "$@" </dev/null | tee "$results/ctest" || status=$?
+    -j "$jobs" "$@" </dev/null | tee "$results/ctest" || status=$?
   kill "$ticker" 2>/dev/null || true
   wait "$ticker" 2>/dev/null || true
   summarise "$results/ctest" "$folder/Testing/Temporary/LastTest.log" >>"$results/notes"
