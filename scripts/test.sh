@@ -67,7 +67,7 @@ costs() { scripts/costs.sh | tee -a "$results/notes"; }
 reproducible() { scripts/reproducible.sh | tee -a "$results/notes"; }
 
 sanitize() {
-  note 'without the tests of what is shipped: shared object, installed tree, programs of the pages'
+  note 'without the tests of what is shipped (shared object, installed tree, programs of the pages) and of the generator'
   build sanitize && run_tests sanitize
 }
 

@@ -24,6 +24,7 @@ end
 case("refusals", inFolder(function()
   shell [[printf 'network isolated 20 V\n\nat 1 s earth fault L1 solid\n' >wrong
     printf 'at 0 s replay none.csv\n' >replay; echo 'at 1 s end' >good]]
+  local hint = "Try `talux-desk --help' or `talux-desk --usage' for more information.\n"
   for _, row in ipairs {
     {"--scenario none", 2, "talux-desk: none: No such file or directory\n"},
     {"--scenario wrong --check", 1, "wrong:1: 'kV' expected, not 'V'\nwrong:3: the direction is missing\n"},
@@ -34,6 +35,10 @@ case("refusals", inFolder(function()
     {"--scenario good none/log", 2, "talux-desk: none/log: No such file or directory\n"},
     {"--scenario good --check", 0, ""},
     {"--check", 0, ""},
+    {"--speed 0", 2, "talux-desk: --speed 0: must be 0.01 to 1000\n" .. hint},
+    {"--speed 1x", 2, "talux-desk: --speed 1x: must be 0.01 to 1000\n" .. hint},
+    {"one two", 2, "talux-desk: two is not expected here\n" .. hint},
+    {"-h | head -n 1", 0, "Usage: talux-desk [OPTION...] [LOGFILE]\n"},
     {"--scenario good --plot x.svg && grep -c '</svg>' x.svg", 0, "1\n"},
   } do
     equal(shell(desk .. " " .. row[1]), row[3] .. row[2] .. "\n", row[1])

@@ -11,7 +11,7 @@
 
 namespace talux_test {
 
-// Than a program of its own processor.
+// What runs in the emulator or under the address sanitizer may take so many times longer.
 #if defined(TALUX_EMULATED) || defined(__SANITIZE_ADDRESS__)
 inline constexpr int kTimesSlower = 10;
 #else

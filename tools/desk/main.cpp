@@ -113,7 +113,7 @@ int carryOut(const Options& options) {
     return options.plot.empty() ? run(scenario, options) : plot(scenario, options);
 }
 
-enum Key : int { kScenario = 256, kCheck, kPlot, kSpeed, kStep }; // no letters
+enum Key : int { kScenario = 256, kCheck, kPlot, kSpeed, kStep }; // beyond the characters: no short forms
 
 constexpr argp_option kOptions[] = {
     {"scenario", kScenario, "FILE", 0, "what happens, see docs/desk.md; nothing if not given", 0},
