@@ -20,7 +20,7 @@ if(CMAKE_CROSSCOMPILING)
   set(folder ${PROJECT_BINARY_DIR}/generator)
   execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=CXXFLAGS --unset=LDFLAGS
     ${CMAKE_COMMAND} -G ${CMAKE_GENERATOR} -S ${PROJECT_SOURCE_DIR}/tools/generator -B ${folder}
-      -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=${TALUX_HOST_CXX}
+      -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=${TALUX_HOST_CXX} -DCMAKE_UNITY_BUILD=${CMAKE_UNITY_BUILD}
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
   set(talux_generator ${folder}/dictionary_generator)
   add_custom_target(talux_generator_build COMMAND ${CMAKE_COMMAND} --build ${folder}

@@ -1,5 +1,5 @@
 # Reads the output of nm -AC for the objects and reports every use of a symbol that a later folder defines. `folders` has
-# them in their order; objects elsewhere do not count.
+# them in their order; objects elsewhere do not count. The object of a folder compiled as one has the folder's name.
 BEGIN {
   count = split(folders, name, " ")
   for (k = 1; k <= count; k++) rank[name[k]] = k
@@ -9,8 +9,9 @@ BEGIN {
   object = $1
   sub(/^\.\/(generated\/)?/, "", object)
   sub(/:.*/, "", object)
+  if (sub(/^Unity\/unity_/, "", object) && sub(/_cxx.*/, "", object)) gsub(/_/, "/", object)
   folder = object
-  sub(/\/[^\/]*$/, "", folder)
+  sub(/\/[^\/]*\.o$/, "", folder)
   symbol = $0
   sub(/^[^:]*:[ 0-9a-f]* [A-Za-z] /, "", symbol)
 }

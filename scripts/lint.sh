@@ -34,9 +34,10 @@ done
 build release talux_objects
 (cd "$builds/build-release/CMakeFiles/talux_objects.dir" && find . -name '*.o' -print0 | xargs -0 nm -AC) |
   awk -v folders="${folders[*]}" -f scripts/dependencies.awk || status=1
-# Without the headers that g++ compiles beforehand, which clang cannot read; sources have to name what they use.
+# Every source alone and without the headers that g++ compiles beforehand: it has to name what it uses.
 claim "$builds/build-lint"
-quiet cmake --preset release -B "$builds/build-lint" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DTALUX_BUILD_BENCH=ON
+quiet cmake --preset release -B "$builds/build-lint" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
+  -DCMAKE_UNITY_BUILD=OFF -DTALUX_BUILD_BENCH=ON
 quiet cmake --build "$builds/build-lint" --target talux_dictionary
 printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p "$builds/build-lint" --quiet \
   --extra-arg=-Wno-unknown-warning-option --extra-arg=-Wno-unused-command-line-argument \

@@ -21,7 +21,7 @@ constexpr double kMaxSamples = 20000000;
 constexpr std::size_t kWaves = 6;
 
 // Which wave an analog channel is, and how it becomes that from its raw values.
-struct Channel {
+struct AnalogChannel {
     std::size_t wave = kWaves; // none
     double factor = 1, offset = 0;
 };
@@ -43,7 +43,7 @@ public:
         std::ranges::transform(format, format.begin(), upper);
     }
 
-    std::vector<Channel> analog;
+    std::vector<AnalogChannel> analog;
     std::size_t digital = 0;
     double lineFrequency = 50, rate = 0;
     std::size_t samples = 0;
@@ -87,12 +87,12 @@ private:
         for (std::size_t k = 0; k < digital; ++k)
             next(1);
         for (std::size_t wave = 0; wave < kWaves; ++wave)
-            if (std::ranges::find(analog, wave, &Channel::wave) == analog.end())
+            if (std::ranges::find(analog, wave, &AnalogChannel::wave) == analog.end())
                 fail(std::string(wave < kPhases ? "no voltage" : "no current") + " of phase " +
                      std::to_string(wave % kPhases + 1));
     }
     // number, name, phase, component, unit, a, b, skew, min, max, primary, secondary, P or S
-    [[nodiscard]] Channel channel(const Fields& fields) const {
+    [[nodiscard]] AnalogChannel channel(const Fields& fields) const {
         static constexpr std::string_view kNames[] = {"A", "B", "C", "L1", "L2", "L3", "1", "2", "3"};
         static constexpr struct Unit {
             std::string_view name;
@@ -101,7 +101,7 @@ private:
         } kUnits[] = {{"kV", 1, 0}, {"V", 0.001, 0}, {"A", 1, kPhases}, {"kA", 1000, kPhases}};
         const auto* const name = std::ranges::find(kNames, fields[2]);
         const auto* const unit = std::ranges::find(kUnits, fields[4], &Unit::name);
-        Channel result;
+        AnalogChannel result;
         if (name != std::end(kNames) && unit != std::end(kUnits))
             result.wave = unit->firstWave + static_cast<std::size_t>(name - kNames) % kPhases;
         double primary = 1;
@@ -179,7 +179,7 @@ Waves readWaves(const std::string& path, const Configuration& config) {
         if (wrong != nullptr)
             throw ReplayFault(path + ": sample " + std::to_string(waves.size()) + ": " + wrong);
         for (std::size_t k = 0; k < raw.size(); ++k)
-            if (const Channel& channel = config.analog[k]; channel.wave < kWaves)
+            if (const AnalogChannel& channel = config.analog[k]; channel.wave < kWaves)
                 wave[channel.wave] = raw[k] * channel.factor + channel.offset;
     }
     return waves;

@@ -13,7 +13,7 @@ namespace {
 using model::Model;
 using reference::Parameter;
 
-constexpr std::string_view kHead = "-- Made by tools/generator from the dictionary.\n";
+constexpr std::string_view kLuaHead = "-- Made by tools/generator from the dictionary.\n";
 
 std::string braced(const std::vector<std::string>& items) {
     return joined({"{", list(items), "}"});
@@ -74,7 +74,7 @@ std::string factsOf(const Parameter& parameter) {
 }
 
 std::string parameters(const Model& model) {
-    std::string text = joined({kHead, "return {\n"});
+    std::string text = joined({kLuaHead, "return {\n"});
     forEachNamed(model, [&text](const Parameter& parameter) { text += factsOf(parameter) + ",\n"; });
     return text + "}\n";
 }
@@ -110,7 +110,7 @@ std::string texts(const Model& model, ParamLanguage language) {
             row.push_back(joined({"notes = {", list(notes, ", ", note), "}"}));
         rows += joined({"[", quoted(parameter.name()), "] = ", braced(row), ",\n"});
     });
-    std::string text = joined({kHead, "local choices = {\n"});
+    std::string text = joined({kLuaHead, "local choices = {\n"});
     for (const std::string& choices : lists)
         text += choices + ",\n";
     text += "}\nlocal notes = {\n";
@@ -129,7 +129,7 @@ std::string unitOf(const Model& model, std::string_view name) {
 
 // The members in their order.
 std::string records(const Model& model) {
-    std::string text = joined({kHead, "return {\n"});
+    std::string text = joined({kLuaHead, "return {\n"});
     forEachNamed(model, [&](const Parameter& parameter) {
         if (parameter.type().nature != Nature::record) return;
         std::vector<std::string> members;
