@@ -13,6 +13,18 @@ if(TALUX_SANITIZE)
     -fsanitize=${TALUX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all
     $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>) # instrumented library code confuses it
   target_link_options(talux_compile INTERFACE -fsanitize=${TALUX_SANITIZE})
+  # The run-time library, which programs and the module share and Lua needs as its first one.
+  set(talux_sanitizer libasan.so)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+    set(talux_sanitizer libclang_rt.asan-${CMAKE_SYSTEM_PROCESSOR}.so)
+  endif()
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${talux_sanitizer}
+    OUTPUT_VARIABLE talux_sanitizer OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL Clang AND TALUX_SANITIZE MATCHES address)
+    cmake_path(GET talux_sanitizer PARENT_PATH folder)
+    target_link_options(talux_compile INTERFACE -shared-libsan -Wl,-rpath,${folder})
+    target_compile_definitions(talux_compile INTERFACE __SANITIZE_ADDRESS__) # as g++ does
+  endif()
   # For the source that is little more than the header of the option library: half a minute.
   set(talux_unwatched -fno-sanitize=all)
 endif()

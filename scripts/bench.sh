@@ -9,14 +9,14 @@
 cd "$project"
 
 need build run bench
-build bench
+build release lib_talux_lua talux_bench
 work=$(mktemp -d -p /dev/shm)
 trap 'rm -rf "$scratch" "$work"' EXIT
 root=$work/root
 bench() {
-  scripts/isolated.sh --root "$root" --module "$builds/build-bench" -- "$@"
+  scripts/isolated.sh --root "$root" --module "$builds/build-release" -- "$@"
 }
-program=$builds/build-bench/bench/talux_bench
+program=$builds/build-release/bench/talux_bench
 
 # Instructions per run, from the dumps: operation, way and number with tabs between them.
 # shellcheck disable=SC2016 # expanded inside

@@ -36,8 +36,7 @@ build release talux_objects
   awk -v folders="${folders[*]}" -f scripts/dependencies.awk || status=1
 # Every source alone and without the headers that g++ compiles beforehand: it has to name what it uses.
 claim "$builds/build-lint"
-quiet cmake --preset release -B "$builds/build-lint" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
-  -DCMAKE_UNITY_BUILD=OFF -DTALUX_BUILD_BENCH=ON
+quiet cmake --preset release -B "$builds/build-lint" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DCMAKE_UNITY_BUILD=OFF
 quiet cmake --build "$builds/build-lint" --target talux_dictionary
 printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p "$builds/build-lint" --quiet \
   --extra-arg=-Wno-unknown-warning-option --extra-arg=-Wno-unused-command-line-argument \

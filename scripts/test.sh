@@ -2,7 +2,7 @@
 # Builds and passes the tests.
 #
 #   test.sh           release: every test, as a user gets the programs
-#   test.sh --all     also under sanitizers, on ARM, with clang, as packages ..: every stage but those that are only run
+#   test.sh --all     also with clang under sanitizers, on ARM, as packages ..: every stage but those that are only run
 #                     when asked for
 #   test.sh STAGE..   only these; --list shows all
 #
@@ -18,11 +18,10 @@ set -o pipefail
 table='
 stage         run     minutes  needs
 release       usual   5        build run tests
-sanitize      all     7        build run tests
+sanitize      all     5        build run tests clang
 armv7         all     7        build run tests armv7
 armv5te       all     4        build run tests armv5te
 packages      all     2        build armv7 armv5te lintian
-clang         all     6        build run tests clang
 threads       all     2        build run tests
 models        all     1        build spin
 crowd         all     1        build run
@@ -36,6 +35,7 @@ rock          all     1        build run rock
 reproducible  all     2        build history
 user          all     1        build run tests
 container     all     1        build run tests
+clang         asked   5        build run tests clang
 debug         asked   2        build run tests
 costs         asked   6        build time
 newcomer      asked   15       debootstrap git history
@@ -67,7 +67,8 @@ costs() { scripts/costs.sh | tee -a "$results/notes"; }
 reproducible() { scripts/reproducible.sh | tee -a "$results/notes"; }
 
 sanitize() {
-  note 'without the tests of what is shipped (shared object, installed tree, programs of the pages) and of the generator'
+  note 'with clang; without the tests of what is shipped (shared object, installed tree, programs of the pages)'
+  note 'and of the generator'
   build sanitize && run_tests sanitize
 }
 

@@ -57,7 +57,7 @@ void moveText(Set set, Get get, int id) {
 void moveValue(const table::Row& row) {
     const int id = row.id + below(std::max<int>(row.elements, 1));
     const bool isLive = row.use == table::Use::measured || below(2) == 0;
-    const double number = below(2000) - 1000;
+    const int number = below(2000) - 1000;
 #define TALUX_NUMBER(kind, Name, Type)                                                                       \
     case table::Kind::kind:                                                                                  \
         if (row.use == table::Use::measured && below(2) == 0)                                                \
