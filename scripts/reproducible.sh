@@ -1,5 +1,9 @@
 #!/bin/bash
 # The shared object has the same bytes whatever folder it is built in: here, as for every test, and in a copy.
+#
+#   reproducible.sh
+#
+# Builds both and compares them; the copy has what git knows.
 . "$(dirname "$(readlink -f "$0")")/common.sh"
 cd "$project"
 need build git

@@ -1,5 +1,16 @@
-// The same steps on the store and on that of unit tests, by whatever handles, changes and followers call:
-// what is printed has to be the same.
+// The same steps on the store, on that of unit tests, and by the names for C programs: what is printed has to
+// be the same.
+#ifdef TALUX_BY_C_NAMES
+#include "ParamSystem/TALUX_Var.h"
+#include "src/talux_store.h"
+namespace talux::c { // which has no runs of them
+using ::VarGetGlobalBoolValueArray, ::VarSetGlobalBoolValueArray;
+using ::VarGetGlobalEnumValueArray, ::VarSetGlobalEnumValueArray;
+} // namespace talux::c
+#define STORE(function) talux::c::function
+#else
+#define STORE(function) ::function
+#endif
 #ifdef TALUX_ON_FAKE
 #include "talux/fake.hpp"
 #else
@@ -8,6 +19,8 @@
 #endif
 
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <random>
 #include <string>
@@ -61,14 +74,16 @@ void moveValue(const table::Row& row) {
 #define TALUX_NUMBER(kind, Name, Type)                                                                       \
     case table::Kind::kind:                                                                                  \
         if (row.use == table::Use::measured && below(2) == 0)                                                \
-            return moveRun<Type>(VarSetGlobal##Name##ValueArray, VarGetGlobal##Name##ValueArray, row);       \
-        return isLive ? moveNumber(VarSetGlobal##Name##Value, VarGetGlobal##Name##Value, id,                 \
+            return moveRun<Type>(STORE(VarSetGlobal##Name##ValueArray),                                      \
+                                 STORE(VarGetGlobal##Name##ValueArray), row);                                \
+        return isLive ? moveNumber(STORE(VarSetGlobal##Name##Value), STORE(VarGetGlobal##Name##Value), id,   \
                                    static_cast<Type>(number))                                                \
-                      : moveNumber(VarSet##Name##Value, VarGet##Name##Value, id, static_cast<Type>(number));
+                      : moveNumber(STORE(VarSet##Name##Value), STORE(VarGet##Name##Value), id,               \
+                                   static_cast<Type>(number));
 #define TALUX_TEXT(kind, Name)                                                                               \
     case table::Kind::kind:                                                                                  \
-        return isLive ? moveText(VarSetGlobal##Name##Value, VarGetGlobal##Name##Value, id)                   \
-                      : moveText(VarSet##Name##Value, VarGet##Name##Value, id);
+        return isLive ? moveText(STORE(VarSetGlobal##Name##Value), STORE(VarGetGlobal##Name##Value), id)     \
+                      : moveText(STORE(VarSet##Name##Value), STORE(VarGet##Name##Value), id);
     switch (row.kind) {
         TALUX_NUMBER(f32, Float, float)
         TALUX_NUMBER(f64, Double, double)
@@ -89,10 +104,10 @@ void moveValue(const table::Row& row) {
 template <class Layout>
 void moveRecord() {
     Layout record{};
-    VarGetGlobalStructValue(kRecordId<Layout>, &record, sizeof record);
+    STORE(VarGetGlobalStructValue)(kRecordId<Layout>, &record, sizeof record);
     add(&record, sizeof record);
     std::memset(&record, below(256), sizeof record);
-    VarSetGlobalStructValue(kRecordId<Layout>, &record, sizeof record);
+    STORE(VarSetGlobalStructValue)(kRecordId<Layout>, &record, sizeof record);
 }
 
 // Of the settings every byte counts: followers compare them.
@@ -101,8 +116,8 @@ void move(int turns) {
         for (int k = 0; k < 500; ++k)
             moveValue(table::kRows[below(std::size(table::kRows))]);
         moveRecord<MessRecord01>(), moveRecord<MessRecord02>(), moveRecord<StatRecord_c0>();
-        if (below(4) == 0) VarSetDefault();
-        if (below(2) == 0) VarUpdateGlobalSpace();
+        if (below(4) == 0) STORE(VarSetDefault)();
+        if (below(2) == 0) STORE(VarUpdateGlobalSpace)();
         for (const stVarSpace* space : {pVarTemp, pVarGlobal})
             for (const auto& [id, offset, size] : detail::kSettings)
                 add(reinterpret_cast<const char*>(space) + offset, size);
@@ -154,6 +169,48 @@ void makeGroups() {
     }
 }
 
+#ifndef TALUX_ON_FAKE
+#ifdef TALUX_BY_C_NAMES
+constexpr auto idOf = STORE(VarIdOf);
+constexpr auto save = STORE(VarSaveError);
+#else
+int idOf(const char* name) {
+    const stParamProperties* const row = GetParamPropertiesByName(const_cast<char*>(name));
+    return row == nullptr ? 0 : row->id;
+}
+int save(int file) {
+    return VarSaveError(static_cast<SavedFile>(file));
+}
+#endif
+
+// Each file is saved, and loaded over other values; but a load of the addresses would apply them.
+void useFiles() {
+    for (const char* name : {"Uearth", "Name", "conman_status", "nosuch", ""})
+        std::printf("%s %d\n", name, idOf(name));
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "alike";
+    std::filesystem::create_directory(folder);
+    std::snprintf(szParameterPath, sizeof szParameterPath, "%s", folder.c_str());
+    for (int file : {2, 1, 0}) {
+        move(1);
+        std::printf("saved %d\n", save(file));
+        for (const char* name : {"parameter.ini", "sec_parameter.ini", "ip_config.ini"}) {
+            std::ifstream text(folder / name);
+            int lines = 0;
+            for (std::string line; std::getline(text, line); ++lines)
+                if (!line.starts_with("TLX_Date=") && !line.starts_with("TLX_Time="))
+                    add(line.data(), line.size());
+            std::printf("%s: %d lines, %08x\n", name, lines, print);
+        }
+        move(1);
+        std::printf("security %d, ", STORE(VarLoadSecParams)());
+        move(1);
+        std::printf("parameters %d\n", STORE(VarLoadParams)());
+    }
+    move(1);
+    std::filesystem::remove_all(folder);
+}
+#endif
+
 } // namespace
 
 int main() {
@@ -168,4 +225,8 @@ int main() {
     move(200);
     shareGroup();
     makeGroups();
+#ifndef TALUX_ON_FAKE
+    std::puts("files");
+    useFiles();
+#endif
 }
