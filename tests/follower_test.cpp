@@ -77,6 +77,16 @@ TEST_F(Followers, SeeWhatChangedAndOnlyThat) {
     EXPECT_FALSE(follower.wait(5));
 }
 
+TEST_F(Followers, LookTwiceAgainAfterAChangeThatWentBack) {
+    Follower follower;
+    for (const int number : {5, 0, 5}) {
+        stage(number);
+        store.commit();
+        EXPECT_FALSE(follower.poll()) << number;
+    }
+    EXPECT_TRUE(follower.poll());
+}
+
 // With something else pending, the snapshot is settled after a while without changes.
 TEST_F(Followers, DoNotWaitForWhatStaysPending) {
     Follower follower;

@@ -134,6 +134,11 @@ TEST(DeskScenario, TakesEventsInTheOrderOfTimeAndEndsWhateverComes) {
     const Scenario read = readScenario(text);
     ASSERT_EQ(read.events.size(), 2U);
     EXPECT_EQ(read.events[0].second, 1);
+    std::string atOnce = "network isolated 20 kV own 0 A\nload 0 A angle 0 deg drift 0 %\n";
+    for (int ampere = 10; ampere <= 400; ampere += 10)
+        atOnce += "at 1 s load " + std::to_string(ampere) + " A\n";
+    Bench bench;
+    EXPECT_NEAR(bench.run(atOnce + "at 2 s end\n").back().record.I1p, 400, 1) << "the last one holds";
     std::minstd_rand random(7);
     const std::string alphabet = "at 0123456789.s,earthfult L1#\n%-network kVA\t\0x";
     for (int k = 0; k < 3000; ++k) {

@@ -349,6 +349,8 @@ TEST_F(TaluxStore, RowsAreQuotedAndNotMadeUpForAStandstill) {
             "tail -1 /tmp/rows | cut -d, -f2-; cut -c1-21 /tmp/rows | sort | uniq -c | grep -c '^ *[4-9]'; "
             "rm /tmp/rows");
     EXPECT_EQ(watched.output, "\"a \"\"b\"\", c\"\n0\n"); // tenths of a second with four rows or more
+    VarSetGlobalFloatValue(GetParamPropertiesByName(const_cast<char*>("U1_prim"))->id, NAN);
+    EXPECT_EQ(run("talux watch U1_prim --csv --min-max --count 1 | sed 1,2d").output, "min,-\nmax,-\n");
 }
 
 TEST_F(TaluxStore, HostileFilesEndInFindingsOrAnError) {
