@@ -18,7 +18,7 @@ set -o pipefail
 table='
 stage         run     minutes  needs
 release       usual   5        build run tests
-sanitize      all     5        build run tests clang
+sanitize      all     6        build run tests clang
 armv7         all     7        build run tests armv7
 armv5te       all     4        build run tests armv5te
 packages      all     2        build armv7 armv5te lintian
@@ -32,7 +32,7 @@ bench         all     1        build run bench
 lint          all     4        build bench lint history
 plain         all     1        build make
 rock          all     1        build run rock
-reproducible  all     2        build history
+reproducible  all     1        build history
 user          all     1        build run tests
 container     all     1        build run tests
 clang         asked   5        build run tests clang

@@ -283,7 +283,7 @@ TEST_F(TaluxStore, BadArgumentsAreRefused) {
         std::istringstream found(run(command + " | sed -nE '" + pattern + "' | tr '\\n' ' '").output);
         return std::vector<std::string>(std::istream_iterator<std::string>(found), {});
     };
-#ifdef TALUX_EMULATED // options are read alike everywhere, numbers may be not
+#ifdef TALUX_EMULATED // options are read alike everywhere, numbers perhaps not
     const std::vector<std::string> values{" -1", " 1e99"};
     constexpr int kRefused = 50;
 #else
