@@ -10,6 +10,8 @@
 #               its own places
 # --read PATH   also readable inside, at its own path; /usr, the project and its builds always are
 #
+# Variables that name files of the caller (TMPDIR, LUA_INIT, LUA_PATH_5_2, LUA_CPATH_5_2) are not set inside.
+#
 # The command finds in TALUX_ISOLATION how far it is from the machine:
 #   full  all of the above
 #   user  the same, started without root: files have one owner and one group, chown to others fails
@@ -206,6 +208,7 @@ cleanup() {
 }
 trap cleanup EXIT
 lay_root
+unset TMPDIR LUA_INIT LUA_INIT_5_2 LUA_PATH_5_2 LUA_CPATH_5_2
 [ -z "$module" ] || export LUA_PATH="$project/lua/?.lua;$module/generated/lua/?.lua;${LUA_PATH-;}" LUA_CPATH="$module/?.so;${LUA_CPATH-;}"
 export TALUX_ISOLATION PATH=/usr/sbin:/usr/bin:/sbin:/bin
 TALUX_ISOLATION=$(find_isolation)

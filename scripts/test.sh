@@ -181,12 +181,18 @@ rock() {
   return "$status"
 }
 
+# Somebody else, who works in German, in another time zone, with a terminal, a folder for temporary files and a Lua of
+# their own.
 user() {
   [ "$(id -u)" = 0 ] || skip 'all stages run as an ordinary user here'
   [ "$(isolation)" = full ] || skip 'there are no namespaces to show the project to another user'
   as=(setpriv --reuid=65534 --regid=65534 --clear-groups --inh-caps=-all --bounding-set=-all)
   build release || return
   "${as[@]}" test -x "$project/scripts/isolated.sh" -a -x "$builds" || open_the_way
+  mkdir -m 1777 "$scratch/theirs"
+  as+=(env LANG=de_DE.UTF-8 LC_MESSAGES=de_DE.UTF-8 LC_NUMERIC=de_DE.UTF-8 TZ=Asia/Tokyo TERM=dumb NO_COLOR=1 PAGER=more
+    TMPDIR="$scratch/theirs" LUA_INIT='error "not for everybody"' LUA_PATH_5_2=/root/?.lua LUA_CPATH_5_2=/root/?.so
+    SSH_CONNECTION='192.0.2.1 50000 192.0.2.2 22' SUDO_USER=somebody SOURCE_DATE_EPOCH=0)
   release_tests_again
 }
 

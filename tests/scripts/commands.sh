@@ -47,6 +47,7 @@ ln -s "$run" linked.sh
 expect 3.000000 "$(./linked.sh -e 'print(talux_command("1,2,+"))')"
 expect 3.000000 "$(sh "$run" -e 'print(talux_command("1,2,+"))')"
 expect 3.000000 "$(env -i "$run" -e 'print(talux_command("1,2,+"))')"
+expect 3.000000 "$(LUA_INIT='error "mine"' LUA_PATH_5_2=mine LUA_CPATH_5_2=mine CDPATH=/usr "$run" -e 'print(talux_command("1,2,+"))')"
 expect found "$(cd "$builds" && "$isolated" --module build-release -- lua5.2 -l lib_talux_lua -e 'print "found"' 2>/dev/null)"
 refused 'takes a directory' "$run" --root
 refused "unknown option '--rot'" "$run" --rot device
