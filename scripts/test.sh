@@ -136,7 +136,8 @@ browser() {
   build release talux || return
   printf 'TLX_Name="<b>&amp; ä"\nTLX_Uearth=95\nTLX_Language=2\n' >"$release/report.ini"
   for language in en de; do
-    "$release/tools/talux/talux" --language "$language" report "$release/report.ini" -o "$release/report-$language.html" || return
+    "$release/tools/talux/talux" --language "$language" report "$release/report.ini" --title '<b>Bay 7' \
+      -o "$release/report-$language.html" || return
   done
   cp tests/talux/report.html "$release"
   for page in tests/pages/browser.html "$release/report.html"; do

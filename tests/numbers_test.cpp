@@ -35,9 +35,15 @@ std::uint32_t unsignedOf(const char* word, char** end) { // a sign negates withi
     const unsigned long long magnitude = std::strchr(word, '-') != nullptr ? 0 - bits : bits;
     return errno == ERANGE || magnitude > UINT32_MAX ? UINT32_MAX : static_cast<std::uint32_t>(bits);
 }
+const locale_t kC = newlocale(LC_ALL_MASK, "C", locale_t{});
 double doubleOf(const char* word, char** end) {
-    static const locale_t c = newlocale(LC_ALL_MASK, "C", locale_t{});
-    return strtod_l(word, end, c);
+    return strtod_l(word, end, kC);
+}
+std::string printed(double number, int type) {
+    const locale_t callers = uselocale(kC);
+    std::string text = print(number, type);
+    uselocale(callers);
+    return text;
 }
 
 class Numbers : public testing::Test {
@@ -68,6 +74,36 @@ protected:
             ASSERT_EQ(parsedBy(MakeDouble, text), expectedBy(text, doubleOf)) << text;
         }
     }
+
+    // Doubles of every size, and those around the middle between two texts.
+    void printMany() {
+        char path[] = "", text[kKeplTextSize], line[] = "TLX_MW_start,TLX_rec_start,/";
+        LoadDefParamProperties();
+        KEPL_Interpreter interpreter(path);
+        const auto idOf = [](std::string name) { return GetParamPropertiesByName(name.data())->id; };
+        const int element = idOf("vMWR"), dividend = idOf("MW_start"), divisor = idOf("rec_start");
+        for (int round = 0; round < 120000; ++round) {
+            const std::uint64_t bits = random();
+            const auto whole = static_cast<double>(static_cast<std::int64_t>(bits) >> bits % 61);
+            const double candidates[] = {std::bit_cast<double>(bits),
+                                         std::ldexp(whole, -static_cast<int>(below(90))), (whole + 0.5) / 1e6,
+                                         (2 * whole + 1) / 128};
+            double value = candidates[below(4)];
+            if (below(2) == 0) value = std::nextafter(value, below(2));
+            VarSetGlobalDoubleValue(element, value);
+            int iSP = 0, type = 0;
+            interpreter.ProcessCommand("vMWR 1", text, &value, &type, &iSP, 3);
+            ASSERT_EQ(text, printed(value, kTypeDouble) + "\n");
+            if (round % 8 != 0) continue;
+
+            const auto numerator = static_cast<std::int32_t>(bits), denominator = 1 << round % 11;
+            VarSetGlobalLongValue(dividend, numerator);
+            VarSetGlobalLongValue(divisor, denominator);
+            interpreter.ProcessLine(line, nullptr, text, path, 3);
+            ASSERT_EQ(text, printed(1.0 * numerator / denominator, kTypeLong))
+                << numerator << " " << denominator;
+        }
+    }
 };
 
 // A locale that writes numbers with a comma; made on the spot when the machine has none but its sources.
@@ -86,44 +122,17 @@ bool setCommaLocale() {
 
 } // namespace
 
-TEST_F(Numbers, AreReadAsTold) {
+TEST_F(Numbers, AreReadAndPrintedAsByTheCLibrary) {
     readMany();
+    printMany();
 }
 
 TEST_F(Numbers, KeepThePointInACommaLocale) {
     if (!setCommaLocale()) GTEST_SKIP() << "no locale with a decimal comma can be had";
     ASSERT_EQ(*std::localeconv()->decimal_point, ',');
     readMany();
+    printMany();
     std::setlocale(LC_ALL, "C");
-}
-
-// Doubles of every size, and those around the middle between two texts.
-TEST_F(Numbers, ArePrintedAsByPrintf) {
-    char path[] = "", text[kKeplTextSize], line[] = "TLX_MW_start,TLX_rec_start,/";
-    LoadDefParamProperties();
-    KEPL_Interpreter interpreter(path);
-    const auto idOf = [](std::string name) { return GetParamPropertiesByName(name.data())->id; };
-    const int element = idOf("vMWR"), dividend = idOf("MW_start"), divisor = idOf("rec_start");
-    for (int round = 0; round < 120000; ++round) {
-        const std::uint64_t bits = random();
-        const auto whole = static_cast<double>(static_cast<std::int64_t>(bits) >> bits % 61);
-        const double candidates[] = {std::bit_cast<double>(bits),
-                                     std::ldexp(whole, -static_cast<int>(below(90))), (whole + 0.5) / 1e6,
-                                     (2 * whole + 1) / 128};
-        double value = candidates[below(4)];
-        if (below(2) == 0) value = std::nextafter(value, below(2));
-        VarSetGlobalDoubleValue(element, value);
-        int iSP = 0, type = 0;
-        interpreter.ProcessCommand("vMWR 1", text, &value, &type, &iSP, 3);
-        ASSERT_EQ(text, print(value, kTypeDouble) + "\n");
-        if (round % 8 != 0) continue;
-
-        const auto numerator = static_cast<std::int32_t>(bits), denominator = 1 << round % 11;
-        VarSetGlobalLongValue(dividend, numerator);
-        VarSetGlobalLongValue(divisor, denominator);
-        interpreter.ProcessLine(line, nullptr, text, path, 3);
-        ASSERT_EQ(text, print(1.0 * numerator / denominator, kTypeLong)) << numerator << " " << denominator;
-    }
 }
 
 TEST_F(Numbers, HaveBitsCountedByTheirPlaces) {

@@ -23,17 +23,24 @@ const std::string kSentinel = "TXT_NULL\t0\t0\t0\t0\t\"***\"\n";
 
 class TextLoader : public testing::Test {
 protected:
+    static inline std::string compiledIn; // the whole table
+
+    static std::string table() {
+        LoadDefParamStrings();
+        return {reinterpret_cast<const char*>(ParamText), sizeof ParamText};
+    }
     static void SetUpTestSuite() {
         char path[] = "";
         VarInit(path);
         LoadDefParamProperties();
+        compiledIn = table();
     }
     void SetUp() override {
-        LoadDefParamStrings();
         Data_StringReset();
         VarSetEnumValue(kLanguage, kEnglish);
     }
     void TearDown() override {
+        EXPECT_TRUE(table() == compiledIn) << "a text of the file is left";
         for (const std::string& file : {kFile, kFifo})
             std::filesystem::remove(file);
     }

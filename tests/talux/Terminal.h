@@ -21,7 +21,7 @@ protected:
         InDirectory::TearDown();
     }
 
-    // talux with these arguments.
+    // talux with these arguments, while the clock of the day runs ahead.
     void start(std::initializer_list<const char*> arguments) {
         std::string folder = "--directory=" + directory.string();
         std::vector<char*> all{const_cast<char*>("talux"), folder.data()};
@@ -34,6 +34,7 @@ protected:
         if (child == 0) {
             setenv("TERM", "vt100", 1);
             setenv("LC_ALL", "C.UTF-8", 1);
+            setenv("LD_PRELOAD", TALUX_CLOCK, 1);
             setenv("ASAN_OPTIONS", "detect_leaks=0", 1); // libedit keeps the names of functions added to it
             execv(TALUX_BIN "/talux", all.data());
             _exit(127);
