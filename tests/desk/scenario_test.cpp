@@ -264,6 +264,10 @@ TEST_F(DeskReplay, FindsTheSamePhasorsHoweverChannelsAreDescribed) {
             EXPECT_NEAR(std::abs(sample.voltage[k] - wanted.voltage[k]), 0, 1e-6);
             EXPECT_NEAR(std::abs(sample.current[k] - wanted.current[k]), 0, 1e-6);
         }
+    // An offset shows where a cycle is no whole number of samples.
+    const auto offset = [&](const char* unit) { return with({{"50\n1\n", "60\n1\n"}, {"kV,0.01,0", unit}}); };
+    EXPECT_NEAR(std::abs(offset("kV,0.01,7").voltage[2] - offset("V,10,7000").voltage[2]), 0, 1e-9);
+    EXPECT_GT(std::abs(offset("kV,0.01,7").voltage[2] - offset("kV,0.01,0").voltage[2]), 0.01);
 }
 
 TEST_F(DeskReplay, SaysWhatIsWrongWithARecording) {
