@@ -169,14 +169,19 @@ TEST_F(Save, IsDatedInTheZoneOfTheMoment) {
         setenv("TZ", zone, 1);
         EXPECT_EQ(VarSaveParams(), 1);
     }
-    // A zone's file, changed in place.
+    // A zone's file, changed in place, or a link to another of the same age.
     const std::pair<fs::path, const char*> kZones[] = {
         {"/usr/share/zoneinfo/Asia/Kathmandu", "param_2024_03_05_200733.ini"},
         {"/usr/share/zoneinfo/Asia/Tehran", "param_2024_03_05_175233.ini"}};
-    for (int k = 0; k < 4 && talux_test::isolated() && fs::exists(kZones[k % 2].first); ++k) {
+    for (int k = 0; k < 8 && talux_test::isolated() && fs::exists(kZones[k % 2].first); ++k) {
         unsetenv("TZ");
-        std::ofstream("/etc/localtime") << contents(kZones[k % 2].first);
-        fs::last_write_time("/etc/localtime", fs::file_time_type::clock::now() + std::chrono::seconds(k));
+        if (k < 4) {
+            std::ofstream("/etc/localtime") << contents(kZones[k % 2].first);
+            fs::last_write_time("/etc/localtime", fs::file_time_type::clock::now() + std::chrono::seconds(k));
+        } else {
+            fs::remove("/etc/localtime");
+            fs::create_symlink(kZones[k % 2].first, "/etc/localtime");
+        }
         EXPECT_EQ(VarSaveParams(), 1);
         EXPECT_TRUE(fs::remove(directory / kZones[k % 2].second));
     }
