@@ -65,6 +65,8 @@ TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
             EXPECT_EQ(talux(command + " </dev/null").status, 2);
             EXPECT_EQ(value("Uearth"), "30.000000");
             EXPECT_EQ(talux(command + " --yes --protocol " + directory.string() + "/record").status, 0);
+            EXPECT_EQ(std::filesystem::status(directory / "record").permissions(),
+                      std::filesystem::perms{0600});
             std::string there;
             for (const std::string& row : pieces(file("record"), '\n'))
                 if (const auto columns = pieces(row, '\t'); columns.size() == 4)
