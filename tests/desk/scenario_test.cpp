@@ -329,21 +329,18 @@ TEST_F(DeskReplay, ReplaysWhatWatchHasWritten) {
     EXPECT_NEAR(cycles[60].record.wUI1, 30, 1e-3);
     EXPECT_NEAR(cycles[110].record.U1p, 10, 1e-3);
     EXPECT_NEAR(cycles.back().record.I1p, 0, 3) << "the network again";
-    const std::string first = "2026-11-25 23:59:59.000,11,12,13,100,101,102,30,30,30\n";
+    const std::string row = ",11,12,13,100,101,102,30,30,30\n", first = "2026-11-25 23:59:59.000" + row;
     const std::pair<std::string, const char*> cases[] = {
-        {head + first, "none"},
+        {head + "2026-11-25 10:00:00.000" + row + first + "2026-11-26 02:00:00.000" + row, "none"},
         {"", "feeder.csv: cannot be read"},
         {"time,U1_prim\n", "feeder.csv:1: no column U2_prim"},
         {head, "feeder.csv: no rows of values"},
         {head + "2026-11-25 23:59:59.000,11\n", "feeder.csv:2: 10 cells expected, not 2"},
-        {head + first + "2026-11-25,11,12,13,100,101,102,30,30,30\n",
-         "feeder.csv:3: '2026-11-25' is no date and time"},
-        {head + first + "2026-11-25 x,11,12,13,100,101,102,30,30,30\n",
-         "feeder.csv:3: '2026-11-25 x' is no date and time"},
+        {head + first + "2026-11-25" + row, "feeder.csv:3: '2026-11-25' is no date and time"},
+        {head + first + "2026-11-25 x" + row, "feeder.csv:3: '2026-11-25 x' is no date and time"},
         {head + "2026-11-25 23:59:59.000,11,12,x,100,101,102,30,30,30\n", "feeder.csv:2: 'x' is no number"},
         {head + "2026-11-25 23:59:59.000,11,12,,100,101,102,30,30,30\n", "feeder.csv:2: '' is no number"},
-        {head + first + "2026-11-25 23:59:58.500,11,12,13,100,101,102,30,30,30\n",
-         "feeder.csv:3: the time goes back"},
+        {head + first + "2026-11-25 23:59:58.500" + row, "feeder.csv:3: the time goes back"},
     };
     for (const auto& [contents, fault] : cases)
         EXPECT_EQ(faultOf(write("feeder.csv", contents)), fault);
