@@ -169,6 +169,26 @@ void makeGroups() {
     }
 }
 
+void addRow(const stParamProperties* row) {
+    add(row == nullptr ? "" : row->name, row == nullptr ? 1 : std::strlen(row->name) + 1);
+    if (row != nullptr) add(&row->id, sizeof row->id);
+}
+void lookUp() {
+    LoadDefParamProperties();
+    for (int id = 0; id <= 22000; ++id)
+        addRow(GetParamProperties(id));
+    for (int position = 0; position <= 3000; ++position) {
+        const stParamProperties* const row = GetParamPropertiesByOrder(position);
+        addRow(row);
+        std::string name = row == nullptr ? "nosuch" : row->name;
+        for (char& c : name)
+            if (below(2) == 0) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        addRow(GetParamPropertiesByName(name.data()));
+    }
+    addRow(GetParamPropertiesByName(nullptr));
+    std::printf("rows %08x\n", print);
+}
+
 #ifndef TALUX_ON_FAKE
 #ifdef TALUX_BY_C_NAMES
 constexpr auto idOf = STORE(VarIdOf);
@@ -223,6 +243,7 @@ int main() {
     store.stage_defaults();
     store.commit();
     move(200);
+    lookUp();
     shareGroup();
     makeGroups();
 #ifndef TALUX_ON_FAKE
