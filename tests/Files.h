@@ -5,27 +5,14 @@
 #include "Store.h"
 
 #include <ctime>
-#include <fstream>
-#include <sstream>
 #include <sys/stat.h>
 #include <vector>
 
 namespace talux_test {
 
-namespace fs = std::filesystem;
-
 inline constexpr std::time_t kMoment = 1709648553; // 2024-03-05 14:22:33 in UTC
 inline constinit std::time_t moment = kMoment;
 inline const std::string kDatedCopy = "param_2024_03_05_142233.ini";
-
-inline const std::string kNoFile = "(no such file)";
-
-inline std::string contents(const fs::path& path) {
-    std::ifstream file(path);
-    std::stringstream all;
-    all << file.rdbuf();
-    return file ? all.str() : kNoFile;
-}
 
 inline struct stat statusOf(const fs::path& path) {
     struct stat status {};

@@ -71,10 +71,6 @@ inline int resultType(int left, int right) {
     return rank(left) < 6 && rank(right) < 6 && rank(right) > rank(left) ? right : left;
 }
 
-inline bool isText(int type) {
-    return type == 2011 || (type >= 2013 && type <= 2021);
-}
-
 struct Model {
     std::string iniPath;
     int board = -1, storeResult = 1;
@@ -154,7 +150,7 @@ struct Model {
         if (term.indices == 1) term.index[1] = term.index[0];
 
         if (!areNumbers) return refuse("<< INDEX MUST BE A NUMBER >>");
-        const stParamProperties* const row = GetParamPropertiesByName(term.name.data());
+        const stParamProperties* const row = rowOf(term.name);
         if (term.isWrite) {
             if (uid <= 1 && lower(term.name) != "mw_req") return refuse(kRights);
             if (term.value.empty() || row == nullptr) return refuse(kSyntax);

@@ -4,30 +4,22 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 #include <string>
 #include <unistd.h>
 #include <vector>
 
 #include "Isolation.h"
-#include "ParamSystem/TALUX_Var.h"
+#include "Store.h"
 
 namespace network_test {
 
-namespace fs = std::filesystem;
+using namespace talux_test;
 
 // False for an ordinary user on a container itself. In a root of its own a test may, though an emulator shows
 // it another /etc when it asks.
 inline bool mayWriteSystemFiles() {
     return talux_test::isolated() || (access("/", W_OK) == 0 && access("/etc", W_OK) == 0);
-}
-
-inline std::string contents(const char* path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 inline void writeFile(const std::string& path, const std::string& text) {
@@ -47,21 +39,14 @@ inline void putValue(Writer write, int id, std::string value) {
 inline void put(const std::string& assignments) {
     std::istringstream words(assignments);
     for (std::string word; words >> word;) {
-        std::string name = word.substr(0, word.find('='));
+        const std::string name = word.substr(0, word.find('='));
         const std::string value = word.substr(name.size() + 1);
         const auto bar = value.find('|');
-        const stParamProperties* row = GetParamPropertiesByName(name.data());
+        const stParamProperties* const row = rowOf(name);
         ASSERT_NE(row, nullptr) << name;
         putValue(VarSetValue, row->id, value.substr(0, bar));
         putValue(VarSetGlobalValue, row->id, bar == std::string::npos ? value : value.substr(bar + 1));
     }
-}
-
-// Factory values in both spaces.
-inline void resetStore() {
-    VarClean();
-    VarSetDefault();
-    VarUpdateGlobalSpace();
 }
 
 // What an action writes to the error stream.
@@ -75,8 +60,7 @@ std::string errorsOf(const Action& action) {
 class SettingsTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        char root[] = "";
-        VarInit(root);
+        VarInit(kNoDirectory);
         LoadDefParamProperties();
         writeFile("/tmp/zone", "");
         std::setvbuf(stderr, nullptr, _IOFBF, BUFSIZ); // a line that is not flushed comes too late

@@ -2,6 +2,7 @@
 #ifndef TALUX_TEST_STORE_H
 #define TALUX_TEST_STORE_H
 
+#include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/TALUX_Var.h"
 
 #include <algorithm>
@@ -10,14 +11,18 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <random>
+#include <sstream>
 #include <string>
 #include <sys/shm.h>
 #include <tuple>
 
 namespace talux_test {
+
+namespace fs = std::filesystem;
 
 inline constexpr std::size_t kSpaceSize = 19500, kRecordsSize = 588;
 inline constexpr key_t kRecordsKey = 5675, kGlobalKey = 5678, kTempKey = 5679;
@@ -121,6 +126,36 @@ inline double* asValue(char* text) {
     return reinterpret_cast<double*>(text);
 }
 
+inline const stParamProperties* rowOf(std::string name) {
+    return GetParamPropertiesByName(name.data());
+}
+inline bool isText(int type) {
+    return type == kTypeText || (type >= kTypeDate && type <= kTypeIpGateway);
+}
+
+// Factory values in both spaces.
+inline void resetStore() {
+    VarClean();
+    VarSetDefault();
+    VarUpdateGlobalSpace();
+}
+
+// The answer to a line, or why it is refused.
+inline std::string say(std::string line, int uid = 3) {
+    char answer[kKeplTextSize + 1], end[] = "";
+    KEPL_Interpreter interpreter(kNoDirectory);
+    if (interpreter.ProcessLine(line.data(), nullptr, answer, end, uid) == kLineError)
+        interpreter.GetError(answer, sizeof answer);
+    return answer;
+}
+
+inline const std::string kNoFile = "(no such file)";
+
+inline std::string contents(const fs::path& path) {
+    const std::ifstream file(path);
+    return file ? (std::stringstream() << file.rdbuf()).str() : kNoFile;
+}
+
 // The same numbers in every run.
 class Random {
 public:
@@ -157,8 +192,12 @@ protected:
         VarInit(name);
         LoadDefParamProperties();
     }
-    void TearDown() override { std::filesystem::remove_all(directory); }
-    std::filesystem::path directory;
+    void TearDown() override { fs::remove_all(directory); }
+    std::string write(const std::string& name, const std::string& text) const {
+        std::ofstream(directory / name) << text;
+        return directory / name;
+    }
+    fs::path directory;
 };
 
 inline std::function<void(const std::string& line)> onPrinted;

@@ -1,10 +1,6 @@
 // The examples of the language in the documentation are true, with real files, shells and pipes.
 #include "Machine.h"
-#include "ParamSystem/KEPL_Interpreter.h"
-#include "ParamSystem/TALUX_Var.h"
-
-#include <filesystem>
-#include <fstream>
+#include "Store.h"
 
 using namespace talux_test;
 
@@ -26,12 +22,6 @@ std::string show(KEPL_Interpreter& interpreter, std::string line, int uid) {
     if (interpreter.ProcessLine(line.data(), collect, result, terminator, uid) == kLineError)
         interpreter.GetError(result, kKeplMaxTerm);
     return withoutLineEnds(output + result);
-}
-
-void resetStore() {
-    VarClean();
-    VarSetDefault();
-    VarUpdateGlobalSpace();
 }
 
 const bool kAccepts = std::getenv("TALUX_ACCEPT") != nullptr;
@@ -79,18 +69,17 @@ class KeplDocumentation : public OnMachine {};
 
 TEST_F(KeplDocumentation, ShowsWhatLinesAnswer) {
     char path[] = "/tmp/kepl";
-    std::filesystem::create_directory(path);
+    fs::create_directory(path);
     LoadDefParamProperties();
     KEPL_Interpreter interpreter(path);
     int examples = 0;
-    for (const auto& page : std::filesystem::directory_iterator(TALUX_DOCUMENTATION)) {
+    for (const auto& page : fs::directory_iterator(TALUX_DOCUMENTATION)) {
         if (page.path().extension() != ".md") continue;
-        std::ifstream file(page.path());
-        const std::string before{std::istreambuf_iterator<char>(file), {}};
+        const std::string before = contents(page.path());
         std::string text = before;
         examples += follow(interpreter, text);
         if (text != before && kAccepts) std::ofstream(page.path()) << text;
     }
     EXPECT_GT(examples, 40);
-    std::filesystem::remove_all(path);
+    fs::remove_all(path);
 }

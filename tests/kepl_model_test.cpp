@@ -36,10 +36,6 @@ void noteOutput(char* buffer, int buffered) {
     noted(buffered == 1 ? "out 1 " : buffered == 0 ? "out 0 " : "out of order ", buffer);
 }
 
-const stParamProperties* rowOf(std::string name) {
-    return GetParamPropertiesByName(name.data());
-}
-
 // A constant of the tables, to be changed.
 template <typename Constant>
 Constant& changeable(const Constant& constant) {
@@ -300,12 +296,11 @@ TEST_F(KeplModel, AnswersLines) {
 // One more character at a time, until the answer is full.
 TEST_F(KeplModel, FillsAnswersToTheLastCharacter) {
     KEPL_Interpreter interpreter(path);
-    char name[] = "conman_status";
     std::vector<VarLong> values(110, 1);
     std::set<int> results;
     for (int k = 0; k < 330; ++k) {
         values[static_cast<std::size_t>(k % 110)] *= 10;
-        VarSetGlobalLongValueArray(GetParamPropertiesByName(name)->id, values.data(), 110);
+        VarSetGlobalLongValueArray(rowOf("conman_status")->id, values.data(), 110);
         const auto expected = model.evaluate("TLX_conman_status 1.110", "", uid);
         ASSERT_EQ(evaluate(interpreter, "TLX_conman_status 1.110", ""), expected);
         results.insert(expected.result);

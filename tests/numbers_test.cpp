@@ -80,8 +80,8 @@ protected:
         char path[] = "", text[kKeplTextSize], line[] = "TLX_MW_start,TLX_rec_start,/";
         LoadDefParamProperties();
         KEPL_Interpreter interpreter(path);
-        const auto idOf = [](std::string name) { return GetParamPropertiesByName(name.data())->id; };
-        const int element = idOf("vMWR"), dividend = idOf("MW_start"), divisor = idOf("rec_start");
+        const int element = rowOf("vMWR")->id, dividend = rowOf("MW_start")->id,
+                  divisor = rowOf("rec_start")->id;
         for (int round = 0; round < 120000; ++round) {
             const std::uint64_t bits = random();
             const auto whole = static_cast<double>(static_cast<std::int64_t>(bits) >> bits % 61);
@@ -116,7 +116,7 @@ bool setCommaLocale() {
     const char* set = nullptr;
     for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8"})
         if (set == nullptr) set = std::setlocale(LC_ALL, name);
-    std::filesystem::remove_all(folder);
+    fs::remove_all(folder);
     return set != nullptr;
 }
 

@@ -130,7 +130,7 @@ TEST(Logbook, IsRemovedFromTheCurrentDirectory) {
     EXPECT_EQ(VarResetLCDLogbook(), 1);
     EXPECT_NE(access("TALUX-LCD.log", F_OK), 0);
     EXPECT_EQ(VarResetLCDLogbook(), 1);
-    std::filesystem::remove(directory);
+    fs::remove(directory);
     ASSERT_EQ(chdir("/"), 0);
 }
 

@@ -1,10 +1,7 @@
 // What programs write into the working tables of properties and texts applies to look-ups, language, commit
 // and files.
-#include <fstream>
-#include <iterator>
 #include <strings.h>
 
-#include "ParamSystem/KEPL_Interpreter.h"
 #include "ParamSystem/TALUX_ParamStrings.h"
 #include "tests/Store.h"
 
@@ -31,9 +28,7 @@ protected:
         InDirectory::TearDown();
     }
 
-    stParamProperties& row(const char* name) {
-        return ParamProperties[GetParamPropertiesByName(const_cast<char*>(name)) - ParamProperties];
-    }
+    stParamProperties& row(const char* name) { return ParamProperties[rowOf(name) - ParamProperties]; }
     // A row like that of `channel`.
     stParamProperties& append(int id, const char* name) {
         ParamProperties[spare] = channel;
@@ -41,21 +36,14 @@ protected:
         ParamProperties[spare].name = name;
         return ParamProperties[spare++];
     }
-    std::string say(std::string line, int uid = 3) {
-        char answer[kKeplTextSize + 1], end[] = "";
-        if (interpreter.ProcessLine(line.data(), nullptr, answer, end, uid) == kLineError)
-            interpreter.GetError(answer, sizeof answer);
-        return answer;
-    }
-    std::string saved(int save(char*)) {
+    std::string saved(int save(char*)) const {
         std::string file = directory / "file.ini";
         EXPECT_EQ(save(file.data()), 1);
-        return {std::istreambuf_iterator<char>(std::ifstream(file).rdbuf()), {}};
+        return contents(file);
     }
 
     int firstSpare = 1, spare = 1;
     stParamProperties channel{};
-    KEPL_Interpreter interpreter{kNoDirectory};
 };
 
 // The first row in table order that fits, before the first with id 0.
@@ -101,9 +89,7 @@ TEST_F(WorkingTables, EndAtTheFirstRowWithoutId) {
     EXPECT_EQ(GetParamPropertiesByOrder(firstSpare + 6), nullptr);
     EXPECT_EQ(GetParamProperties(50006), nullptr);
     ParamProperties[1].id = 0;
-    char name[] = "channel";
-    EXPECT_TRUE(!GetParamProperties(6029) && !GetParamPropertiesByName(name) &&
-                !GetParamPropertiesByOrder(0));
+    EXPECT_TRUE(!GetParamProperties(6029) && !rowOf("channel") && !GetParamPropertiesByOrder(0));
 }
 
 TEST_F(WorkingTables, LanguageStoreAndFilesGoByTheirRows) {
@@ -115,8 +101,7 @@ TEST_F(WorkingTables, LanguageStoreAndFilesGoByTheirRows) {
     EXPECT_EQ(say("TLX_myrate=70000,TLX_MyRate,1,+"), "70001.000000");
     VarUpdateGlobalSpace();
     EXPECT_NE(saved(VarSaveParamFile).find("\nTLX_MyRate=70000\n"), std::string::npos);
-    std::ofstream(directory / "my.ini") << "TLX_MyRate=12\nTLX_channel=3\n";
-    EXPECT_EQ(VarLoadFile((directory / "my.ini").string().data(), 0), 1);
+    EXPECT_EQ(VarLoadFile(write("my.ini", "TLX_MyRate=12\nTLX_channel=3\n").data(), 0), 1);
     EXPECT_EQ(say("TLX_MyRate"), "12");
     VarSetDefault();
     EXPECT_EQ(say("TLX_MyRate"), "7");

@@ -4,8 +4,6 @@
 
 #include "../Store.h"
 
-#include <fstream>
-#include <sstream>
 #include <sys/wait.h>
 #include <vector>
 
@@ -49,23 +47,13 @@ class InStartedDevice : public InDirectory {
 protected:
     void SetUp() override {
         InDirectory::SetUp();
-        VarClean();
-        reset();
+        resetStore();
     }
     static void reset() {
         VarSetDefault();
         VarUpdateGlobalSpace();
     }
-    // Files of the directory.
-    std::string write(const char* name, const std::string& contents) const {
-        std::ofstream(directory / name, std::ios::binary) << contents;
-        return directory / name;
-    }
-    std::string file(const char* name) const {
-        std::ostringstream contents;
-        contents << std::ifstream(directory / name).rdbuf();
-        return contents.str();
-    }
+    std::string file(const char* name) const { return contents(directory / name); }
 };
 
 } // namespace talux_test

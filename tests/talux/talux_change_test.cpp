@@ -9,8 +9,6 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include "ParamSystem/KEPL_Interpreter.h"
-
 namespace {
 
 using namespace talux_test;
@@ -21,12 +19,9 @@ protected:
         return run("talux --directory " + directory.string() + " " + arguments + " 2>&1");
     }
     // As the language reads it: a text in quotes or a number.
-    static std::string value(const std::string& label) {
-        char nowhere[] = "", end[] = "", answer[kKeplTextSize] = "";
-        std::string line = "TLX_" + label;
-        if (const auto open = line.find('['); open != line.npos) line[open] = ' ', line.pop_back();
-        KEPL_Interpreter(nowhere).ProcessLine(line.data(), nullptr, answer, end, 3);
-        return answer;
+    static std::string value(std::string label) {
+        if (const auto open = label.find('['); open != label.npos) label[open] = ' ', label.pop_back();
+        return say("TLX_" + label);
     }
 };
 
@@ -37,8 +32,7 @@ TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
         SCOPED_TRACE(line);
         ++cases;
         if (line.find("ETH0") != line.npos && !isolated()) continue;
-        VarClean();
-        reset();
+        resetStore();
         const std::string before = image();
         std::string assignments, plan = "# for: DEF-NAME\n";
         const auto tab = line.find('\t');
@@ -49,9 +43,9 @@ TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
         }
         const std::string wanted = line.substr(tab + 1);
         if (wanted.starts_with('!')) {
-            std::filesystem::remove(directory / "last_change.tsv");
+            fs::remove(directory / "last_change.tsv");
             const Ended refused = talux("set --yes" + assignments);
-            EXPECT_EQ(file("last_change.tsv"), "");
+            EXPECT_EQ(file("last_change.tsv"), kNoFile);
             EXPECT_EQ(refused.status, 2);
             for (const std::string& label : pieces(wanted.substr(1), '|'))
                 EXPECT_NE(refused.output.find("talux: " + label + ": "), std::string::npos) << refused.output;
@@ -84,7 +78,7 @@ TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
         }
     }
     EXPECT_GE(cases, 30);
-    std::filesystem::remove("/tmp/ntp.conf"); // of the addresses that were applied
+    fs::remove("/tmp/ntp.conf"); // of the addresses that were applied
 }
 
 TEST_F(TaluxChange, AsksBeforeItWrites) {
@@ -104,7 +98,7 @@ TEST_F(TaluxChange, APlanOfAllSettingsTakesATenthOfASecond) {
     for (const std::string& line : pieces(file("parameter.ini"), '\n')) {
         char name[128] = "";
         std::sscanf(line.c_str(), "TLX_%127[^=]", name);
-        const stParamProperties& row = *GetParamPropertiesByName(name);
+        const stParamProperties& row = *rowOf(name);
         const bool isNumber = line.find('"') == line.npos;
         plan += isNumber && row.val_access != 1 && row.val_max >= 2
                     ? "TLX_" + std::string(name) + "=" + std::to_string(std::max(2., row.val_min)) + "\n"
@@ -179,12 +173,12 @@ TEST_F(TaluxChange, KilledAtAnyMomentItIsWholeOrKnownAndMended) {
             EXPECT_EQ(state(), before);
         }
         reset();
-        std::filesystem::remove(directory / "last_change.tsv");
+        fs::remove(directory / "last_change.tsv");
     };
     // After each system call, from the first after which the record is there.
     const auto skipTo = [&](const Victim& victim, int call) {
         bool isRunning = true;
-        while (isRunning && (!std::filesystem::exists(directory / "last_change.tsv") || call-- > 0))
+        while (isRunning && (!fs::exists(directory / "last_change.tsv") || call-- > 0))
             isRunning = victim.goOn(PTRACE_SYSCALL);
         return isRunning;
     };
@@ -312,7 +306,7 @@ protected:
         for (int tries = 0; tries < 200 && (network() != address || run(kGuards).status == 0); ++tries)
             usleep(50000);
         EXPECT_EQ(network(), address);
-        EXPECT_FALSE(std::filesystem::exists(directory / "address_change.tsv"));
+        EXPECT_FALSE(fs::exists(directory / "address_change.tsv"));
     }
     void startChange() {
         logged();

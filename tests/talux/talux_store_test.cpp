@@ -2,7 +2,6 @@
 #include "Checked.h"
 #include "Program.h"
 
-#include "ParamSystem/KEPL_Interpreter.h"
 #include "tools/reference/PlausibilityRules.h"
 
 #include <iomanip>
@@ -19,10 +18,6 @@ protected:
         while (count-- > 0)
             all += text;
         return all;
-    }
-
-    static bool isText(const stParamProperties& row) {
-        return row.type == kTypeText || (row.type >= kTypeDate && row.type <= kTypeIpGateway);
     }
 
     const stParamProperties& anyRow() {
@@ -52,7 +47,7 @@ protected:
         if (random.below(12) == 0) return random.one("|# note|[section]|garbage|TLX_|TLX_Nonsense=1|=|\t");
         const stParamProperties& row = anyRow();
         std::string line = (random.below(2) ? "TLX_" : " tlx_") + std::string(row.name) +
-                           random.one("=|=|=| = | |==|") + (isText(row) ? anyText() : anyNumber(row));
+                           random.one("=|=|=| = | |==|") + (isText(row.type) ? anyText() : anyNumber(row));
         if (random.below(30) == 0) line += std::string(static_cast<std::size_t>(random.below(300)), 'x');
         if (random.below(60) == 0) line += std::string("\0TLX_channel=1", 14);
         return line;
@@ -87,9 +82,9 @@ protected:
     // Stores what talux says that a line will do.
     static void carryOut(CheckedLine line) {
         if (!line.changes) return;
-        const stParamProperties* const row = GetParamPropertiesByName(line.name.data());
+        const stParamProperties* const row = rowOf(line.name);
         double number = line.isNumber ? line.number : std::strtod(line.text.c_str(), nullptr);
-        VarSetValue(row->id, isText(*row) ? asValue(line.text.data()) : &number);
+        VarSetValue(row->id, isText(row->type) ? asValue(line.text.data()) : &number);
     }
 
     Random random;
@@ -128,7 +123,7 @@ TEST_F(TaluxStore, StatusKnowsWhatReachesTheNetwork) {
     double number = 7;
     char text[] = "7.7.7.7";
     for (int order = 1; const stParamProperties* row = GetParamPropertiesByOrder(order); ++order)
-        VarSetValue(row->id, isText(*row) ? asValue(text) : &number);
+        VarSetValue(row->id, isText(row->type) ? asValue(text) : &number);
     const Ended status =
         run("talux status | sed -n '/^save /q; s/^  \\([^ ]*\\) .* network$/\\1/p' | sort | tr '\\n' ' '");
     EXPECT_EQ(
@@ -181,7 +176,7 @@ TEST_F(TaluxStore, EachRuleOfPlausibilityHasSettingsThatBreakIt) {
     }
     VarSetDefault();
     char name[] = "Feeder 6";
-    VarSetValue(GetParamPropertiesByName(const_cast<char*>("Name"))->id, asValue(name));
+    VarSetValue(rowOf("Name")->id, asValue(name));
     EXPECT_EQ(run("talux check " +
                   write("other.ini", "TLX_Name=\"Feeder 7\"\nTLX_knuV1=203\nTLX_Abg=\"A\"\n") +
                   " | grep -c 'this device alone'")
@@ -342,14 +337,14 @@ TEST_F(TaluxStore, PatternsAndLongWordsTakeNoTime) {
 
 TEST_F(TaluxStore, RowsAreQuotedAndNotMadeUpForAStandstill) {
     char text[] = "a \"b\", c";
-    VarSetGlobalValue(GetParamPropertiesByName(const_cast<char*>("Name"))->id, asValue(text));
+    VarSetGlobalValue(rowOf("Name")->id, asValue(text));
     const Ended watched =
         run("talux watch --csv --period 0.1 --count 9 Name >/tmp/rows & talux=$!; sleep 0.15; "
             "kill -STOP $talux; sleep 1; kill -CONT $talux; wait $talux; "
             "tail -1 /tmp/rows | cut -d, -f2-; cut -c1-21 /tmp/rows | sort | uniq -c | grep -c '^ *[4-9]'; "
             "rm /tmp/rows");
     EXPECT_EQ(watched.output, "\"a \"\"b\"\", c\"\n0\n"); // tenths of a second with four rows or more
-    VarSetGlobalFloatValue(GetParamPropertiesByName(const_cast<char*>("U1_prim"))->id, NAN);
+    VarSetGlobalFloatValue(rowOf("U1_prim")->id, NAN);
     EXPECT_EQ(run("talux watch U1_prim --csv --min-max --count 1 | sed 1,2d").output, "min,-\nmax,-\n");
 }
 
