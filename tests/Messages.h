@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <unistd.h>
 
 namespace talux_test {
 
@@ -15,6 +16,12 @@ inline auto startingWith(const std::string& text) {
         expression += each;
     }
     return testing::ContainsRegex(expression);
+}
+
+// The call ends the process with status 2 and this text on both streams together.
+template <typename Call>
+void expectEnd(const Call& call, const std::string& text) {
+    EXPECT_EXIT((dup2(STDERR_FILENO, STDOUT_FILENO), call()), testing::ExitedWithCode(2), testing::Eq(text));
 }
 
 } // namespace talux_test

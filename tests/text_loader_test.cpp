@@ -1,4 +1,5 @@
 // Text files: what a good one leaves in the working table, and how a bad one ends the process.
+#include "Messages.h"
 #include "ParamSystem/TALUX_ParamStrings.h"
 
 #include <gtest/gtest.h>
@@ -62,11 +63,7 @@ void load(const std::string& content) {
 
 // Must end the process with this message on standard output and nothing else, and with status 2.
 void expectEndOf(std::string path, const std::string& message) {
-    const auto loadPath = [&path] {
-        dup2(STDERR_FILENO, STDOUT_FILENO);
-        LoadParamStrings(path.data());
-    };
-    EXPECT_EXIT(loadPath(), testing::ExitedWithCode(2), testing::Eq(message));
+    talux_test::expectEnd([&path] { LoadParamStrings(path.data()); }, message);
 }
 void expectEnd(const std::string& content, const std::string& what) {
     SCOPED_TRACE(content.substr(0, 60));
