@@ -30,5 +30,5 @@ fi
   : >/commands.txt
   "$@" "$workload" writes "$script"
   collect writes
-  "$@" "$inspect" /writes check
+  "$@" "$inspect" /writes
 ' sh "$workload" "$inspect" "$here/lines.kepl" "$@"

@@ -47,22 +47,14 @@ std::uint32_t nextRandom() {
 // Whole numbers, fractions, values beyond every range and what is no number.
 double someNumber() {
     const auto whole = static_cast<std::int32_t>(nextRandom());
-    switch (nextRandom() % 7) {
-    case 0:
-        return whole % 1000;
-    case 1:
-        return whole;
-    case 2:
-        return whole / 4096.0;
-    case 3:
-        return whole * 1e6;
-    case 4:
-        return whole / 1e12;
-    case 5:
-        return std::copysign(whole % 8 == 0 ? NAN : INFINITY, whole);
-    default:
-        return whole % 2;
-    }
+    const double numbers[] = {static_cast<double>(whole % 1000),
+                              static_cast<double>(whole),
+                              whole / 4096.0,
+                              whole * 1e6,
+                              whole / 1e12,
+                              std::copysign(whole % 8 == 0 ? NAN : INFINITY, whole),
+                              static_cast<double>(whole % 2)};
+    return numbers[nextRandom() % std::size(numbers)];
 }
 
 // Up to 139 characters, longer than any slot, some of them above 127.
@@ -74,77 +66,23 @@ void someText(char (&text)[140]) {
         text[i] = alphabet[nextRandom() % (sizeof alphabet - 1)];
 }
 
-void fillBlock(int first, int count, bool text, void (*set)(int, double*)) {
-    for (int id = first; id < first + count; id++) {
-        union {
-            double number;
-            char text[140];
-        } value;
-        if (text)
-            someText(value.text);
-        else
-            value.number = someNumber();
-        set(id, &value.number);
-    }
-}
-
+// What has no slot keeps nothing.
 void fillSpaces() {
-    struct Block {
-        int first, count;
-        bool text;
-    };
-    constexpr std::array<Block, 11> blocks = {{{kFirstDouble, kDoubleCount, false},
-                                               {kFirstFloat, kFloatCount, false},
-                                               {kFirstLong, kLongCount, false},
-                                               {kFirstInt, kIntCount, false},
-                                               {kFirstBool, kBoolCount, false},
-                                               {kFirstText, kTextCount, true},
-                                               {kFirstEnum, kEnumCount, false},
-                                               {kFirstSysDate, kSysDateCount, true},
-                                               {kFirstSysTime, kSysTimeCount, true},
-                                               {kFirstId, kIdCount, true},
-                                               {kFirstIp, kIpCount, true}}};
-    for (const Block& block : blocks) {
-        fillBlock(block.first, block.count, block.text, VarSetValue);
-        fillBlock(block.first, block.count, block.text, VarSetGlobalValue);
-    }
+    for (const auto set : {VarSetValue, VarSetGlobalValue})
+        for (int id = kFirstDouble; id < kFirstIp + kIpCount; id++) {
+            union {
+                double number;
+                char text[140];
+            } value{someNumber()};
+            if (VarIsText(id) || VarIsSysDate(id) || VarIsSysTime(id) || VarIsId(id) || VarIsIp(id))
+                someText(value.text);
+            set(id, &value.number);
+        }
     for (int record = 0; record < kRecordCount; record++) {
         std::array<std::uint32_t, kLargestRecord / 4> words;
         for (std::uint32_t& word : words)
             word = nextRandom(); // as long and as float
         VarSetGlobalStructValue(kFirstStruct + record, words.data(), ARR_StructSize[record]);
-    }
-}
-
-// Values at known places, which inspect.c looks for.
-void writeLandmarks() {
-    VarSetFloatValue(2000, -1.5F);
-    VarSetGlobalFloatValue(2311, 0.1F);
-    VarSetDoubleValue(1000, -0.1);
-    VarSetGlobalDoubleValue(1383, 1e300);
-    VarLong longs[] = {-2, 2147483647, -2147483647 - 1};
-    VarSetGlobalLongValueArray(6094, longs, 3);
-    VarSetLongValue(7268, 123456789);
-    double both = 70000.0; // lands in the int and in the long slot
-    VarSetGlobalValue(7000, &both);
-    VarSetGlobalIntValue(7006, -32768);
-    VarSetBoolValue(8190, static_cast<char>(200));
-    char name[] = "Station \xC4\xD6", far[] = "last text slot", day[] = "2031-12-24", now[] = "23:59:58";
-    char id[] = "A:7", gateway[] = "10.1.255.254", last[] = "1.2.3.4";
-    VarSetTextValue(9000, name);
-    VarSetGlobalTextValue(9068, far);
-    VarSetEnumValue(10005, 259);
-    VarSetEnumValue(10130, -1);
-    VarSetSysDateValue(13000, day);
-    VarSetSysTimeValue(14000, now);
-    VarSetIdValue(15000, id);
-    VarSetIpValue(16035, gateway);
-    VarSetIpValue(16037, last);
-    std::array<std::uint32_t, kLargestRecord / 4> record{};
-    for (int i = 0; i < kRecordCount; i++) {
-        record.fill(0);
-        record.front() = 1000U + static_cast<std::uint32_t>(i);
-        VarSetGlobalStructValue(kFirstStruct + i, record.data(), 4);
     }
 }
 
@@ -204,7 +142,6 @@ int main(int argc, char** argv) {
     } else {
         if (argc < 3 || !runScript(argv[2], answers)) return 2;
         fillSpaces();
-        writeLandmarks();
         if (saveAll() != 0) return 1;
     }
     readAll(answers);
