@@ -1,7 +1,6 @@
 // Every command and every line on the error stream, in their order, for every branch of the settings.
 #include "Machine.h"
 #include "NetworkSupport.h"
-#include "src/talux_interpreter.h"
 
 using namespace network_test;
 using talux_test::machine;
@@ -149,12 +148,6 @@ void check(const Row& row) {
     EXPECT_EQ(contents("/ip_config.ini").find("TLX_DNS=\"8.8.8.8\"\n") != std::string::npos, saves);
 }
 
-int line(std::string text) {
-    char answer[TALUX_ANSWER_SIZE], terminator[] = "\n";
-    return talux_interpreter_ProcessLine(
-        text.data(), [](char*, int) {}, answer, terminator);
-}
-
 class SettingsCommands : public SettingsTest {
     const talux_test::Watched watched;
 };
@@ -238,32 +231,20 @@ TEST_F(SettingsCommands, FunctionsAndBranches) {
     EXPECT_EQ(VarINFRASTRUCTUREWLAN0() + VarStaticIPWLAN0_INFRASTRUCTURE(), 2);
 }
 
-// What ends in the same sequence: writes of interface addresses, and the operations of the address file.
-TEST_F(SettingsCommands, Callers) {
+// What ends in the same sequence; so do writes of interface addresses, in the model of the language.
+TEST_F(SettingsCommands, OfTheAddressFile) {
     if (!mayWriteSystemFiles()) GTEST_SKIP() << "the system files are another user's";
-    const auto applied = [](const char* settings, int (*apply)(), const std::vector<Edit>& edits = {}) {
-        check({kAll, settings, edits, 1, kKernel, kUtc, "", apply});
-    };
-    for (int (*load)() : std::vector<int (*)()>{VarLoadIPConfig, [] { return line("load_ip"); }}) {
-        writeFile("/ip_config.ini", "TLX_ETH0_IP=\"192.168.1.10\"\nTLX_NTP1=\"10.0.0.1\"\n");
-        applied("ETH0_IP=1.2.3.4 NTP1=1.2.3.4", load);
-    }
-    applied("ETH0_IP=1.2.3.4", [] { return line("TLX_ETH0_IP=\"192.168.001.010\""); });
-    applied("ETH1_IP=1.2.3.4", [] { return line("TLX_eth1_ip=\"10.1.1.1\""); });
-    applied("WLAN0_IP=1.2.3.4", [] { return line("TLX_WLAN0_IP=10.2.1.1"); });
+    writeFile("/ip_config.ini", "TLX_ETH0_IP=\"192.168.1.10\"\nTLX_NTP1=\"10.0.0.1\"\n");
+    check({kAll, "ETH0_IP=1.2.3.4 NTP1=1.2.3.4", {}, 1, kKernel, kUtc, "", VarLoadIPConfig});
 
     writeFile("/def_ip_config.ini", "TLX_ETH0_IP=\"10.0.0.99\"\nTLX_ETH0_MASK=\"255.0.0.0\"\n"
                                     "TLX_ETH0_GATEWAY=\"10.0.0.98\"\nTLX_NTP1=\"1.1.1.1\"\n"); // NTP1 stays
-    applied("", [] { return VarResetIPConfig(kTypeIpAddress); },
-            {{"192.168.1.10", "10.0.0.99"},
-             {"eth0 netmask 255.255.0.0", "eth0 netmask 255.0.0.0"},
-             {"192.168.1.1", "10.0.0.98"},
-             {"10.2.0.1 wlan0", "10.2.0.1 wlan0\n$ rm -f /var/resolv.conf\n$ touch /var/resolv.conf"}});
-
-    const auto others = [] {
-        line("TLX_ETH0_MASK=1.1.1.1,TLX_ETH0_GATEWAY=1.1.1.1,TLX_DNS=1.1.1.1,TLX_key=x");
-    };
-    EXPECT_EQ(transcriptOf(others), "") << "all other writes wait";
+    const std::vector<Edit> edits = {
+        {"192.168.1.10", "10.0.0.99"},
+        {"eth0 netmask 255.255.0.0", "eth0 netmask 255.0.0.0"},
+        {"192.168.1.1", "10.0.0.98"},
+        {"10.2.0.1 wlan0", "10.2.0.1 wlan0\n$ rm -f /var/resolv.conf\n$ touch /var/resolv.conf"}};
+    check({kAll, "", edits, 1, kKernel, kUtc, "", [] { return VarResetIPConfig(kTypeIpAddress); }});
 }
 
 } // namespace
