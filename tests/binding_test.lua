@@ -62,10 +62,4 @@ case("an answer fits with newline and NUL into 1000 bytes or is refused", functi
   equal(talux_command("1"), "1.000000", "the line after them")
 end)
 
-case("sleeping takes anything and gives nothing back", function()
-  for _, arguments in ipairs {{}, {1}, {"1"}, {0.9}, {-1}, {-1e300}, {0/0}, {-1/0}, {"x"}, {{}}, {false}} do
-    equal(select("#", talux_usleep(arguments[1])), 0, "results of talux_usleep")
-  end
-end)
-
 check.finish()

@@ -4,8 +4,6 @@
 
 #include <memory>
 #include <string>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -32,15 +30,6 @@ std::string ask(const State& state, const std::string& line) {
 
 const char* const kRequire = "require 'lib_talux_lua' return 'loaded'";
 
-TEST(Host, LoadsTheModule) {
-    const State lua = openState();
-    ASSERT_EQ(run(lua, kRequire), "loaded");
-    EXPECT_EQ(ask(lua, "1,2,+"), "3.000000");
-    EXPECT_EQ(run(lua, "local a = talux_longarray.new(3) talux_longarray.setitem(a, 1, 7) "
-                       "return talux_longarray.getitem(a, 1)"),
-              "7");
-}
-
 TEST(Host, StatesShareTheStoreAndOutliveEachOther) {
     State first = openState();
     const State second = openState();
@@ -49,29 +38,17 @@ TEST(Host, StatesShareTheStoreAndOutliveEachOther) {
     ASSERT_EQ(run(second, kRequire), "loaded");
     EXPECT_EQ(ask(first, "TLX_channel=7"), "");
     EXPECT_EQ(ask(second, "TLX_channel"), "7");
+    EXPECT_EQ(run(first,
+                  "local a = talux_longarray.new(3) talux_longarray.setitem(a, 1, 7) "
+                  "talux_longarray.get(nil, 'TLX_U1_prim', 1, 2) return talux_longarray.getitem(a, 1)"),
+              "7");
     first.reset();
     EXPECT_EQ(ask(second, "TLX_channel=8"), "");
     const State third = openState();
     ASSERT_EQ(run(third, kRequire), "loaded");
     EXPECT_EQ(ask(third, "TLX_channel"), "8");
+    EXPECT_EQ(run(third, "return talux_getlasterror()"), "<< NO ARRAY >>") << "it is the process's";
     EXPECT_EQ(ask(second, "update"), "parameter successfully update\n");
-}
-
-TEST(Host, ParentAndForkedChildSeeEachOthersWrites) {
-    const State lua = openState();
-    ASSERT_EQ(run(lua, kRequire), "loaded");
-    EXPECT_EQ(ask(lua, "TLX_channel=3"), "");
-    const pid_t child = fork();
-    if (child == 0) {
-        const bool seen = ask(lua, "TLX_channel") == "3";
-        _exit(seen && ask(lua, "TLX_channel=4").empty() && ask(lua, "no such term") == "<< SYNTAX ERROR >>"
-                  ? 0
-                  : 1);
-    }
-    int status = -1;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(ask(lua, "TLX_channel"), "4");
 }
 
 } // namespace
