@@ -105,21 +105,18 @@ struct Member {
 #define TALUX_BOTH(Space, Name) TALUX_SINGLE(VarSet##Space, Name), TALUX_SINGLE(VarGet##Space, Name)
 #define TALUX_ALL(Space, Name)                                                                               \
     TALUX_BOTH(Space, Name), TALUX_RUN(VarSet##Space, Name), TALUX_RUN(VarGet##Space, Name)
-#define TALUX_TEXTS(Name)                                                                                    \
-    Member{TALUX_BOTH(, Name)}, Member {                                                                     \
-        TALUX_BOTH(Global, Name)                                                                             \
-    }
-#define TALUX_NUMBERS(Name)                                                                                  \
-    Member{TALUX_ALL(, Name)}, Member {                                                                      \
-        TALUX_ALL(Global, Name)                                                                              \
+#define TALUX_KIND(Functions, Name)                                                                          \
+    {Functions(, Name)}, {                                                                                   \
+        Functions(Global, Name)                                                                              \
     }
 
 // In the order of kBlocks, each kind in the temporary space first.
-constexpr Member kMembers[] = {TALUX_NUMBERS(Float), TALUX_NUMBERS(Double), TALUX_NUMBERS(Long),
-                               TALUX_NUMBERS(Int),   TALUX_NUMBERS(Bool),   TALUX_TEXTS(Text),
-                               TALUX_NUMBERS(Enum),  TALUX_TEXTS(Date),     TALUX_TEXTS(Time),
-                               TALUX_TEXTS(SysDate), TALUX_TEXTS(SysTime),  TALUX_TEXTS(Id),
-                               TALUX_TEXTS(Ip)};
+constexpr Member kMembers[] = {
+    TALUX_KIND(TALUX_ALL, Float),    TALUX_KIND(TALUX_ALL, Double),   TALUX_KIND(TALUX_ALL, Long),
+    TALUX_KIND(TALUX_ALL, Int),      TALUX_KIND(TALUX_ALL, Bool),     TALUX_KIND(TALUX_BOTH, Text),
+    TALUX_KIND(TALUX_ALL, Enum),     TALUX_KIND(TALUX_BOTH, Date),    TALUX_KIND(TALUX_BOTH, Time),
+    TALUX_KIND(TALUX_BOTH, SysDate), TALUX_KIND(TALUX_BOTH, SysTime), TALUX_KIND(TALUX_BOTH, Id),
+    TALUX_KIND(TALUX_BOTH, Ip)};
 const Member& memberOf(std::size_t kind, int space) {
     return kMembers[2 * kind + static_cast<std::size_t>(space)];
 }
@@ -221,18 +218,13 @@ public:
         const Block& block = kBlocks[kind];
         if ((write || block.type == 2004) && random.below(8) == 0)
             id = random.below(2) != 0 ? block.first - 1 : block.end();
-        const auto rest = static_cast<unsigned long>(block.end() - id);
-        const unsigned long counts[] = {0,
-                                        1,
-                                        rest,
-                                        rest + 1,
-                                        rest + 2,
-                                        static_cast<unsigned long>(random.below(1400)),
-                                        ULONG_MAX,
-                                        ULONG_MAX - static_cast<unsigned long>(id) + 2,
-                                        ULONG_MAX / block.size + 1,
-                                        1UL << 31};
-        const unsigned long count = counts[random.below(std::size(counts))];
+        const auto number = static_cast<unsigned long>(id),
+                   rest = static_cast<unsigned long>(block.end()) - number;
+        const unsigned long near[] = {0,        1,        rest,
+                                      rest + 1, rest + 2, static_cast<unsigned long>(random.below(1400))};
+        const unsigned long far[] = {1UL << 31, ULONG_MAX / block.size + 1, ULONG_MAX - number + 2,
+                                     ULONG_MAX};
+        const unsigned long count = random.below(5) < 3 ? near[random.below(6)] : far[random.below(4)];
         const bool works = block.holds(id) && count > 0 && count <= rest;
         const std::size_t length = works ? count * block.size : 0, offset = works ? block.slotOf(id) : 0;
         const auto locksTaken = works ? std::vector{lockOf(kind, space)} : std::vector<std::size_t>{};
