@@ -27,9 +27,8 @@ constexpr Setting<std::int32_t> kChannel{"channel"};
 
 // Settings that belong together all say the same number.
 void stage(int number) {
-    ASSERT_TRUE(kThreshold.stage(1 + number % 80));
-    ASSERT_TRUE(kDelay.stage(number));
-    ASSERT_TRUE(kName.stage(std::to_string(number)));
+    ASSERT_TRUE(kThreshold.stage(1 + number % 80) && kDelay.stage(number) &&
+                kName.stage(std::to_string(number)));
 }
 bool hangTogether(const Settings& settings) {
     const auto number = static_cast<int>(settings[kDelay]);
@@ -55,11 +54,8 @@ TEST_F(Followers, SeeWhatChangedAndOnlyThat) {
     Measured<float>{"U0_prim"}.set(12.5f); // no setting
     ASSERT_TRUE(kThreshold.stage(42));
     EXPECT_FALSE(follower.wait(5)) << "pending is not live";
-    ASSERT_TRUE(kLanguage.stage(choice::Language::kEnglish));
-    ASSERT_TRUE(kAddress.stage("10.1.2.3"));
-    ASSERT_TRUE(kActive.stage(false));
-    ASSERT_TRUE(kMark.stage("x"));
-    ASSERT_TRUE(kChannel.stage(7));
+    ASSERT_TRUE(kLanguage.stage(choice::Language::kEnglish) && kAddress.stage("10.1.2.3") &&
+                kActive.stage(false) && kMark.stage("x") && kChannel.stage(7));
     store.commit();
     ASSERT_TRUE(follower.wait(2000));
     std::string changed;
@@ -67,13 +63,10 @@ TEST_F(Followers, SeeWhatChangedAndOnlyThat) {
         changed += std::string(each.name()) + (each == kThreshold ? "! " : " ");
     EXPECT_EQ(changed, "Uearth! channel qu2_active Language Kenn ETH0_IP ");
     const Settings& now = follower.settings();
-    EXPECT_EQ(now[kThreshold], 42);
-    EXPECT_EQ(follower.before()[kThreshold], 1);
-    EXPECT_EQ(now[kLanguage], choice::Language::kEnglish);
-    EXPECT_EQ(now[kAddress], "10.1.2.3");
-    EXPECT_EQ(now[kMark], "x");
-    EXPECT_EQ(now[kActive], false);
-    EXPECT_EQ(now[kChannel], 7);
+    EXPECT_EQ(std::tuple(follower.before()[kThreshold], now[kThreshold], now[kChannel], now[kActive]),
+              std::tuple(1, 42, 7, false));
+    EXPECT_TRUE(now[kLanguage] == choice::Language::kEnglish && now[kMark] == "x" &&
+                now[kAddress] == "10.1.2.3");
     EXPECT_FALSE(follower.wait(5));
 }
 

@@ -94,6 +94,20 @@ protected:
         work();
         _exit(0);
     }
+    // Which signal has ended or stopped a child.
+    static int signalOf(pid_t child) {
+        int status = 0;
+        waitpid(child, &status, WUNTRACED);
+        return WIFSTOPPED(status) ? WSTOPSIG(status) : WTERMSIG(status);
+    }
+    // A writer that gets this signal inside.
+    void startBlow(int signal) {
+        start([this, signal] {
+            blow = signal;
+            std::ignore = write(1);
+        });
+        EXPECT_EQ(signalOf(children.back()), signal);
+    }
 };
 
 // With TALUX_GROUP_READS that many reads while one writer writes without a pause.
@@ -131,13 +145,7 @@ TEST_F(Groups, AreNeverTornWhileOthersWrite) {
 
 TEST_F(Groups, OutliveAWriterThatDiesInside) {
     const Reading last = read();
-    start([this] {
-        blow = SIGKILL;
-        write(1);
-    });
-    int status = 0;
-    waitpid(children[0], &status, 0);
-    ASSERT_EQ(WTERMSIG(status), SIGKILL);
+    startBlow(SIGKILL);
     EXPECT_EQ(read(), Reading::broken);
     EXPECT_FALSE(group.wait(last, 20)) << "nothing whole to read";
     EXPECT_TRUE(write(2));
@@ -146,11 +154,7 @@ TEST_F(Groups, OutliveAWriterThatDiesInside) {
 }
 
 TEST_F(Groups, TellOfAWriterThatStaysInside) {
-    start([this] {
-        blow = SIGSTOP;
-        write(1);
-    });
-    waitpid(children[0], nullptr, WUNTRACED);
+    startBlow(SIGSTOP);
     EXPECT_EQ(read(), Reading::busy);
     EXPECT_FALSE(write(2));
     kill(children[0], SIGCONT);
@@ -172,11 +176,7 @@ TEST_F(Groups, WaitTheirTimeWhateverSignalsArrive) {
     for (int number = 0; number < 60; ++number)
         refused += write(number) ? 0 : 1;
     EXPECT_EQ(refused, 0);
-    start([this] {
-        blow = SIGSTOP;
-        write(1);
-    });
-    waitpid(children.back(), nullptr, WUNTRACED);
+    startBlow(SIGSTOP);
     const std::int64_t before = detail::monotonic();
     EXPECT_FALSE(write(2));
     const auto waited = detail::monotonic() - before;
@@ -211,7 +211,7 @@ TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {
         last = reading;
     }
     kill(children.back(), SIGKILL);
-    waitpid(children.back(), nullptr, 0);
+    EXPECT_EQ(signalOf(children.back()), SIGKILL);
     last = fresh.read(value);
     EXPECT_FALSE(fresh.wait(last, 50));
     EXPECT_GE(fresh.read(value).age(), 0.05);
@@ -232,11 +232,8 @@ TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {
         });
     usleep(200000);
     EXPECT_TRUE(fresh.write(1));
-    for (auto child = children.end() - 3; child != children.end(); ++child) {
-        int status = 0;
-        waitpid(*child, &status, 0);
-        EXPECT_EQ(WTERMSIG(status), SIGKILL);
-    }
+    for (auto child = children.end() - 3; child != children.end(); ++child)
+        EXPECT_EQ(signalOf(*child), SIGKILL);
 }
 
 TEST_F(Groups, HaveOneMeaningPerName) {
@@ -258,7 +255,7 @@ TEST_F(Groups, HaveOneMeaningPerName) {
         early.reset();
         std::raise(SIGSTOP);
     });
-    waitpid(children.back(), nullptr, WUNTRACED);
+    EXPECT_EQ(signalOf(children.back()), SIGSTOP);
     EXPECT_EQ(attachment("early", kFirst.run<2>()), Attachment::otherElements);
     const Group two("runs", kFirst.run<2>());
     EXPECT_EQ(attachment("runs", kFirst.run<3>()), Attachment::otherElements);
@@ -286,9 +283,7 @@ TEST_F(Groups, AreTakenAgainWhenNobodyUsesThem) {
         const bool isFull = all.size() > 60 && all.back()->attachment() == Attachment::noSlot;
         std::raise(isFull ? SIGKILL : SIGABRT);
     });
-    int status = 0;
-    waitpid(children.back(), &status, 0);
-    EXPECT_EQ(WTERMSIG(status), SIGKILL);
+    EXPECT_EQ(signalOf(children.back()), SIGKILL);
     for (int number = 100; number < 200; ++number)
         ASSERT_TRUE(Group(std::to_string(number), kFirst).attached()) << number;
     EXPECT_TRUE(read());
