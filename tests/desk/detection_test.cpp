@@ -128,9 +128,6 @@ TEST(DeskDetection, ComparesTheChargeWithTheThresholdsOfTransientAndRestriking) 
             EXPECT_EQ(bench.begins(forward ? 32 : 33) > 0, factor < 1);
         }
     }
-    Bench once; // one ignition is not enough
-    once.run(faultAt2(kResonant, "forward"));
-    EXPECT_EQ(once.begins(32), -1);
 }
 
 TEST(DeskDetection, KeepsDurationsOfRelaysAndLeds) {
@@ -155,65 +152,45 @@ TEST(DeskDetection, KeepsDurationsOfRelaysAndLeds) {
     EXPECT_LT(relay, 5);
 }
 
-TEST(DeskDetection, SeesTheFaultyPhaseAndItsDelay) {
-    Bench bench;
-    bench.run(faultAt2(kIsolated, "forward"));
-    EXPECT_NEAR(bench.begins(16), 2, 0.05);
-    EXPECT_NEAR(bench.begins(17), 3, 0.05);
-    EXPECT_NEAR(bench.begins(18), 2, 0.08);
-    EXPECT_NEAR(bench.begins(21), 3, 0.08);
-    for (const std::size_t other : {19U, 20U, 22U, 23U})
-        EXPECT_EQ(bench.begins(other), -1) << other;
-    bench.run(std::string(kIsolated) + "at 2 s earth fault L2 3000 ohm forward\nat 5 s end\n");
-    EXPECT_EQ(bench.begins(16), -1) << "too small a U0";
-}
-
-TEST(DeskDetection, BeginsItsDelayAnewWhenTheDirectionChanges) {
-    Bench bench;
-    bench.set(kSinActive, true);
-    bench.run(std::string(kIsolated) + "at 2 s earth fault L1 solid forward\nat 2.06 s fault cleared\n"
-                                       "at 2.06 s earth fault L1 solid backward\nat 5 s end\n");
-    EXPECT_EQ(bench.begins(36), -1);
-    EXPECT_NEAR(bench.begins(37), 2.15, 0.03);
-}
-
-TEST(DeskDetection, FollowsThePriorityList) {
-    Bench bench;
-    bench.set(kCosActive, true);
-    bench.run(faultAt2(kResonant, "forward"));
-    EXPECT_EQ(bench.begins(26), -1) << "the factory list is off in all places";
-    EXPECT_NEAR(bench.begins(24), 2, 0.05) << "the sum needs no list";
-    bench.set(kPrioList3, static_cast<talux::Choice>(8)); // cos
-    bench.run(faultAt2(kResonant, "forward"));
-    EXPECT_NEAR(bench.begins(26), 2.1, 0.05);
-    EXPECT_EQ(bench.begins(27), -1);
-}
-
-TEST(DeskDetection, SeesShortCircuitsByClassPhaseAndDirection) {
-    const std::string scenario =
+TEST(DeskDetection, BeginsWhatTheSettingsSay) {
+    constexpr double kNever = -1;
+    const std::string isolated = kIsolated, fault = "at 2 s earth fault L1 solid ",
+                      resonant = faultAt2(kResonant, "forward");
+    const std::string shortCircuit =
         "network isolated 20 kV capacitive 30 A own 3 A\nload 100 A drift 0 %\n"
         "at 1 s short circuit L2 L3 550 A forward\nat 3 s fault cleared\nat 4 s end\n";
-    Bench bench;
-    bench.run(scenario);
-    EXPECT_EQ(bench.begins(57), -1) << "switched off";
-    bench.set(kScActive, true);
-    bench.set(kScDirActive, true);
-    bench.run(scenario);
-    EXPECT_NEAR(bench.begins(57), 1.5, 0.05);
-    EXPECT_EQ(bench.begins(58), -1) << "L1 is healthy";
-    EXPECT_NEAR(bench.begins(59), 1.5, 0.05);
-    EXPECT_NEAR(bench.begins(60), 1.5, 0.05);
-    EXPECT_NEAR(bench.begins(65), 1.5, 0.05) << "forward";
-    EXPECT_EQ(bench.begins(73), -1) << "not backward";
-    EXPECT_EQ(bench.begins(61), -1) << "class 2 is at 700 A";
-}
-
-TEST(DeskDetection, SeesTheDeviationOfTheFrequency) {
-    Bench bench;
-    bench.set(kFreqActive, true);
-    bench.run("network isolated 20 kV\nat 2 s frequency 49.8 Hz\nat 10 s end\n");
-    EXPECT_NEAR(bench.begins(82), 5.06, 0.05);
-    EXPECT_EQ(bench.begins(83), -1);
+    // clang-format off
+    const struct {
+        const char* what;
+        std::string scenario;
+        std::vector<Setting<bool>> on;
+        short thirdOfList; // 0: as from the factory
+        std::vector<std::pair<std::size_t, double>> begins; // function and second
+    } cases[] = {
+        {"the faulty phase and its delay", faultAt2(kIsolated, "forward"), {}, 0,
+         {{16, 2}, {17, 3}, {18, 2}, {21, 3}, {19, kNever}, {20, kNever}, {22, kNever}, {23, kNever}}},
+        {"too small a U0", isolated + "at 2 s earth fault L2 3000 ohm forward\nat 5 s end\n", {}, 0, {{16, kNever}}},
+        {"a delay begins anew when the direction changes", isolated + fault + "forward\nat 2.06 s fault cleared\n"
+         "at 2.06 s earth fault L1 solid backward\nat 5 s end\n", {kSinActive}, 0, {{36, kNever}, {37, 2.15}}},
+        {"one ignition; the factory list is off, the sum needs none", resonant, {kCosActive}, 0,
+         {{32, kNever}, {26, kNever}, {24, 2}}},
+        {"the list with cos", resonant, {kCosActive}, 8, {{26, 2.1}, {27, kNever}}},
+        {"short circuits are switched off", shortCircuit, {}, 0, {{57, kNever}}},
+        {"class (2 is at 700 A), phase (L1 is healthy) and direction", shortCircuit, {kScActive, kScDirActive}, 0,
+         {{57, 1.5}, {58, kNever}, {59, 1.5}, {60, 1.5}, {65, 1.5}, {73, kNever}, {61, kNever}}},
+        {"the frequency", "network isolated 20 kV\nat 2 s frequency 49.8 Hz\nat 10 s end\n", {kFreqActive}, 0,
+         {{82, 5.06}, {83, kNever}}},
+    };
+    // clang-format on
+    for (const auto& [what, scenario, on, thirdOfList, begins] : cases) {
+        Bench bench;
+        for (const Setting<bool> setting : on)
+            bench.set(setting, true);
+        if (thirdOfList != 0) bench.set(kPrioList3, static_cast<talux::Choice>(thirdOfList));
+        bench.run(scenario);
+        for (const auto& [function, second] : begins)
+            EXPECT_NEAR(bench.begins(function), second, 0.03) << what << ": " << function;
+    }
 }
 
 TEST(DeskOutputs, FollowAssignmentPolarityAndOverrides) {
