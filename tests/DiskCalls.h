@@ -5,11 +5,9 @@
 
 #include "Files.h"
 
-#include <cerrno>
 #include <cstdarg>
 #include <dlfcn.h>
 #include <fcntl.h>
-#include <functional>
 #include <sys/file.h>
 #include <unistd.h>
 

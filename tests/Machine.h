@@ -107,26 +107,19 @@ public:
         std::fclose(stderr);
         stderr = own;
     }
-    ErrorStream(const ErrorStream&) = delete;
-    ErrorStream& operator=(const ErrorStream&) = delete;
 
 private:
     FILE* const own = stderr;
 };
 
 // A new machine; at the end all its pipes must be closed.
-class Watched {
-public:
-    Watched() { machine = {}; }
-    ~Watched() {
+template <class Base = testing::Test>
+struct OnMachine : Base {
+    OnMachine() { machine = {}; }
+    ~OnMachine() override {
         EXPECT_EQ(machine.openPipes, 0);
         machine = {};
     }
-    Watched(const Watched&) = delete;
-    Watched& operator=(const Watched&) = delete;
-};
-class OnMachine : public testing::Test {
-    const Watched watched;
 };
 
 } // namespace talux_test

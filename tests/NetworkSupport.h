@@ -2,10 +2,6 @@
 #ifndef TALUX_TESTS_SETTINGS_SUPPORT_H
 #define TALUX_TESTS_SETTINGS_SUPPORT_H
 
-#include <cstdio>
-#include <cstdlib>
-#include <gtest/gtest.h>
-#include <string>
 #include <unistd.h>
 #include <vector>
 
@@ -57,8 +53,7 @@ std::string errorsOf(const Action& action) {
     return testing::internal::GetCapturedStderr();
 }
 
-class SettingsTest : public testing::Test {
-protected:
+struct SettingsTest : testing::Test {
     static void SetUpTestSuite() {
         VarInit(kNoDirectory);
         LoadDefParamProperties();

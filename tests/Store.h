@@ -183,8 +183,7 @@ private:
 };
 
 // A directory of parameter files, and the dictionary loaded.
-class InDirectory : public testing::Test {
-protected:
+struct InDirectory : testing::Test {
     void SetUp() override {
         char name[] = "/tmp/filesXXXXXX";
         setenv("TZ", "UTC0", 1);

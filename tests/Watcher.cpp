@@ -12,7 +12,6 @@
 #include <clocale>
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <dlfcn.h>
 #include <fcntl.h>

@@ -2,13 +2,10 @@
 #include "MenuSystem/TALUX_Data.h"
 #include "Messages.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <random>
-#include <string>
 #include <vector>
 
 namespace {

@@ -19,8 +19,7 @@ const stParamProperties* byName(std::string name) {
 const bool emptyAtFirst = !GetParamProperties(2000) && !byName("U1_prim") && !GetParamPropertiesByOrder(0) &&
                           !GetParamPropertiesByOrder(1);
 
-class Dictionary : public testing::Test {
-protected:
+struct Dictionary : testing::Test {
     static void SetUpTestSuite() { ASSERT_EQ(LoadDefParamProperties(), 1); }
 
     std::mt19937 random{1};

@@ -2,7 +2,6 @@
 // program reads, and where a file cannot be replaced.
 #include "DiskCalls.h"
 
-#include <algorithm>
 #include <csignal>
 #include <grp.h>
 #include <map>
@@ -42,8 +41,7 @@ bool holds(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
 }
 
-class Disk : public InDirectory {
-protected:
+struct Disk : InDirectory {
     void SetUp() override {
         InDirectory::SetUp();
         for (const auto save : {VarSaveParams, VarSaveSecParams, VarSaveIPConfig})

@@ -27,8 +27,7 @@ namespace {
 using namespace std::literals;
 using namespace talux_test;
 
-class Load : public InDirectory {
-protected:
+struct Load : InDirectory {
     void SetUp() override {
         InDirectory::SetUp();
         begin();

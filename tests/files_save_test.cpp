@@ -86,8 +86,7 @@ std::string expected(const File& file, int space) {
     return all;
 }
 
-class Save : public InDirectory {
-protected:
+struct Save : InDirectory {
     // Every bit of the numbers, texts of any length and bytes, addresses from the list; no flag. Files can
     // hold texts without quotes, "=" and line ends only.
     void spoil(bool canBeHeld) {

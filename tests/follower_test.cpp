@@ -36,8 +36,7 @@ bool hangTogether(const Settings& settings) {
            settings[kName] == std::to_string(number);
 }
 
-class Followers : public testing::Test {
-protected:
+struct Followers : testing::Test {
     Store store;
 
     void SetUp() override {

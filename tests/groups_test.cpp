@@ -66,8 +66,7 @@ struct Values {
     }
 };
 
-class Groups : public testing::Test {
-protected:
+struct Groups : testing::Test {
     Store store;
     Group<talux::Run<float, 92>, Stumble, talux::Run<double, 96>, Record<MessRecord01>> group{
         "group", kFirst.run<92>(), Stumble{}, Measured<double>{"vMWR"}.run<96>(), Record<MessRecord01>{}};

@@ -4,13 +4,9 @@
 #include "talux/talux.hpp"
 
 #include <cmath>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <map>
 #include <numeric>
 #include <set>
-#include <string>
-#include <tuple>
 #include <vector>
 
 using namespace talux;
@@ -19,8 +15,7 @@ using talux_test::say;
 
 namespace {
 
-class Handles : public testing::Test {
-protected:
+struct Handles : testing::Test {
     Store store;
 
     Handles() {

@@ -65,7 +65,7 @@ int follow(KEPL_Interpreter& interpreter, std::string& page) {
 
 } // namespace
 
-class KeplDocumentation : public OnMachine {};
+using KeplDocumentation = OnMachine<>;
 
 TEST_F(KeplDocumentation, ShowsWhatLinesAnswer) {
     char path[] = "/tmp/kepl";

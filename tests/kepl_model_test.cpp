@@ -4,8 +4,6 @@
 #include "ParamSystem/kepl/Command.h"
 #include "ParamSystem/kepl/Refusal.h"
 
-#include <dlfcn.h>
-#include <map>
 #include <set>
 #include <sys/mman.h>
 
@@ -182,8 +180,7 @@ struct Traces {
 };
 
 // The module and the model, one after the other in the same store.
-class KeplModel : public OnMachine {
-protected:
+struct KeplModel : OnMachine<> {
     Model model;
     Speaker speaker;
     Random& random = speaker.random;

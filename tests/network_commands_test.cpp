@@ -148,9 +148,7 @@ void check(const Row& row) {
     EXPECT_EQ(contents("/ip_config.ini").find("TLX_DNS=\"8.8.8.8\"\n") != std::string::npos, saves);
 }
 
-class SettingsCommands : public SettingsTest {
-    const talux_test::Watched watched;
-};
+using SettingsCommands = talux_test::OnMachine<SettingsTest>;
 
 TEST_F(SettingsCommands, FunctionsAndBranches) {
     if (!mayWriteSystemFiles()) GTEST_SKIP() << "the system files are another user's";

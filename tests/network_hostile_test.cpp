@@ -100,8 +100,7 @@ std::string runInShell(const char* written = "") {
     return contents("/tmp/record");
 }
 
-class HostileSettings : public SettingsTest {
-protected:
+struct HostileSettings : SettingsTest {
     void SetUp() override {
         resetStore();
         machine.events.clear();

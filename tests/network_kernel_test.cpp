@@ -19,8 +19,7 @@ std::string network() {
     return contents("/tmp/output");
 }
 
-class KernelSettings : public SettingsTest {
-protected:
+struct KernelSettings : SettingsTest {
     static void SetUpTestSuite() {
         SettingsTest::SetUpTestSuite();
         if (!talux_test::isolated()) return;

@@ -46,8 +46,7 @@ std::string printed(double number, int type) {
     return text;
 }
 
-class Numbers : public testing::Test {
-protected:
+struct Numbers : testing::Test {
     std::mt19937_64 random{23};
 
     unsigned below(unsigned limit) { return static_cast<unsigned>(random() % limit); }

@@ -1,7 +1,6 @@
 // Start-up and clean-up of the store, and every way in which the start-up can fail.
 #include "Store.h"
 
-#include <cerrno>
 #include <climits>
 #include <dlfcn.h>
 #include <pthread.h>

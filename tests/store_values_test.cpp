@@ -151,8 +151,7 @@ double widened(const char* slot) {
     return numberIn<double>(reinterpret_cast<const char*>(&wide));
 }
 
-class Values : public testing::Test {
-public:
+struct Values : testing::Test {
     void SetUp() override {
         VarInit(kNoDirectory);
         for (int area = 0; area < 3; ++area) {

@@ -2,16 +2,12 @@
 #include "Messages.h"
 #include "ParamSystem/TALUX_ParamStrings.h"
 
-#include <gtest/gtest.h>
-
 #include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <string>
 #include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 
 #include "MenuSystem/TALUX_Data.h"
 #include "ParamSystem/TALUX_Var.h"
@@ -22,8 +18,7 @@ constexpr int kLanguage = 10000;
 const std::string kFile = "/tmp/texts.txt", kFifo = "/tmp/texts.fifo";
 const std::string kSentinel = "TXT_NULL\t0\t0\t0\t0\t\"***\"\n";
 
-class TextLoader : public testing::Test {
-protected:
+struct TextLoader : testing::Test {
     static inline std::string compiledIn; // the whole table
 
     static std::string table() {

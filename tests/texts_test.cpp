@@ -1,14 +1,11 @@
 // The compiled-in texts, their look-ups in two languages and the TXT_ names.
 #include "ParamSystem/TALUX_ParamStrings.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <climits>
 #include <random>
 #include <span>
 #include <sstream>
-#include <string>
 #include <string_view>
 
 #include "ParamSystem/TALUX_Var.h"
@@ -22,8 +19,7 @@ constexpr int kLanguage = 10000, kAny = INT_MIN, kNotFound = 0;
 const bool emptyAtFirst = GetParamString(kLanguage, kTextTitle)->id == 0 &&
                           GetFirstParamStringInGroup(18021, 0, kTextItem)->txt == nullptr;
 
-class Texts : public testing::Test {
-protected:
+struct Texts : testing::Test {
     static void SetUpTestSuite() {
         char path[] = "";
         VarInit(path);

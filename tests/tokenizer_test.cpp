@@ -57,8 +57,7 @@ struct Model {
 
 constexpr UINT kSize = 24;
 
-class Tokenizer : public testing::Test {
-protected:
+struct Tokenizer : testing::Test {
     std::mt19937 random{4711};
     // The bytes after the given size show whether anything was written there; a trusted caller has them, too.
     std::string memory = std::string(kSize, '\0') + std::string(400, '!');

@@ -11,8 +11,7 @@ using namespace talux_test;
 
 constexpr int kRateId = 7214, kListId = 1000; // a long that no parameter has; the first of 96 doubles
 
-class WorkingTables : public InDirectory {
-protected:
+struct WorkingTables : InDirectory {
     void SetUp() override {
         InDirectory::SetUp();
         LoadDefParamStrings();

@@ -149,8 +149,7 @@ TEST(DeskScenario, TakesEventsInTheOrderOfTimeAndEndsWhateverComes) {
     }
 }
 
-class DeskReplay : public testing::Test {
-protected:
+struct DeskReplay : testing::Test {
     std::filesystem::path folder =
         std::filesystem::temp_directory_path() / ("desk_replay." + std::to_string(getpid()));
 

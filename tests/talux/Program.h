@@ -43,8 +43,7 @@ inline std::vector<std::string> pieces(const std::string& text, char end) {
 }
 
 // The store as a device has it after its start: factory settings, live.
-class InStartedDevice : public InDirectory {
-protected:
+struct InStartedDevice : InDirectory {
     void SetUp() override {
         InDirectory::SetUp();
         resetStore();

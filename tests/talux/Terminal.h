@@ -10,12 +10,10 @@
 #include <system_error>
 #include <termios.h>
 #include <unistd.h>
-#include <vector>
 
 namespace talux_test {
 
-class OnTerminal : public InStartedDevice {
-protected:
+struct OnTerminal : InStartedDevice {
     void TearDown() override {
         if (child > 0) end();
         InDirectory::TearDown();

@@ -13,8 +13,7 @@ namespace {
 
 using namespace talux_test;
 
-class TaluxChange : public OnTerminal {
-protected:
+struct TaluxChange : OnTerminal {
     Ended talux(const std::string& arguments) const {
         return run("talux --directory " + directory.string() + " " + arguments + " 2>&1");
     }
@@ -224,8 +223,7 @@ TEST_F(TaluxChange, KilledAtAnyMomentItIsWholeOrKnownAndMended) {
 }
 
 // On real interfaces, between the device's network namespace and that of somebody who reaches it.
-class TaluxAddress : public TaluxChange {
-protected:
+struct TaluxAddress : TaluxChange {
     void SetUp() override {
         TaluxChange::SetUp();
         if (isolated())

@@ -7,8 +7,7 @@ using namespace talux_test;
 
 constexpr char kPrompt[] = "kepl> ";
 
-class TaluxShell : public OnTerminal {
-protected:
+struct TaluxShell : OnTerminal {
     void SetUp() override {
         InStartedDevice::SetUp();
         setenv("XDG_STATE_HOME", directory.c_str(), 1);

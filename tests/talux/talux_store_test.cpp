@@ -11,8 +11,7 @@ namespace {
 
 using namespace talux_test;
 
-class TaluxStore : public InStartedDevice {
-protected:
+struct TaluxStore : InStartedDevice {
     static std::string repeated(int count, const std::string& text) {
         std::string all;
         while (count-- > 0)
