@@ -229,7 +229,7 @@ TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
             }
         }
     }
-    EXPECT_GT(faults, 400);
+    EXPECT_GT(faults, 1000);
 }
 
 // Who sees the flag finds the new values.
@@ -505,22 +505,6 @@ TEST_F(Disk, TakesAFileFromNobody) {
         EXPECT_EQ(after.st_mode & 07777,
                   isAddress || (each.user != 0 && each.owner != each.user) ? each.mode : 0775U);
     }
-}
-
-// A program that another thread starts then inherits nothing of a save.
-TEST_F(Disk, LeavesNothingToAProgramThatStartsMeanwhile) {
-    int programs = 0;
-    onStep = [&] {
-        const std::string look = "find /proc/self/fd -lname '" + directory.string() + "*'";
-        FILE* const found = popen(look.c_str(), "r");
-        EXPECT_EQ(std::fgetc(found), EOF) << steps.back().what;
-        EXPECT_EQ(pclose(found), 0);
-        ++programs;
-    };
-    begin();
-    perform(kOperations[0]);
-    onStep = nullptr;
-    EXPECT_GT(programs, 18);
 }
 
 TEST_F(Disk, FollowsLinksAlsoThoseThatDangle) {
