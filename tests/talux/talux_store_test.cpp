@@ -224,39 +224,18 @@ TEST_F(TaluxStore, LookingChangesNothing) {
     };
     const std::string before = image(), listed = files();
     const std::string in = "cd " + directory.string() + " && talux --directory . ";
-    const char kCommands[] = R"(check a.ini --against live
-check a.ini b.ini --json --notes
-diff live staged
-diff a.ini b.ini
-diff b.ini --json --notes
-status
-status --json --plausible
-report live
-report staged --changed --language de
-fingerprint
-fingerprint a.ini --listing
-list --of staged --json
-list U --of a.ini --json
-list --families --methods --json
-explain --live Uearth MessRecord01
-explain --live --json Uearth MessRecord01.U1p 28 'BAassign' Name
-history --json
-history Uearth --json
-set Uearth=41 --dry-run
-set Uearth=41 'Name=a\b' 'vBE[3]=5' ETH0_IP=10.1.2.3 --dry-run --json
-set Uearth=95 BAassign3=nosuch --json
-apply b.ini --dry-run --json
-clone b.ini --dry-run --json
-restore b.ini --dry-run --json
-discard --dry-run --json
-undo --json
-confirm --json
-watch U1_prim MessRecord01 'vBE 3.9' --count 2 --period 0.01
-watch Name vMWR --csv --count 1
-annotations
-lint a.ini
-)";
-    for (const std::string& command : pieces(kCommands, '\n'))
+    const std::string commands =
+        "check a.ini --against live; check a.ini b.ini --json --notes; diff live staged; diff a.ini b.ini; "
+        "diff b.ini --json --notes; status; status --json --plausible; report live; fingerprint; "
+        "report staged --changed --language de; fingerprint a.ini --listing; list --of staged --json; "
+        "list U --of a.ini --json; list --families --methods --json; explain --live Uearth MessRecord01; "
+        "explain --live --json Uearth MessRecord01.U1p 28 'BAassign' Name; history --json; "
+        "history Uearth --json; set Uearth=41 --dry-run; set Uearth=95 BAassign3=nosuch --json; "
+        "set Uearth=41 'Name=a\\b' 'vBE[3]=5' ETH0_IP=10.1.2.3 --dry-run --json; "
+        "apply b.ini --dry-run --json; clone b.ini --dry-run --json; restore b.ini --dry-run --json; "
+        "discard --dry-run --json; undo --json; confirm --json; annotations; lint a.ini; "
+        "watch U1_prim MessRecord01 'vBE 3.9' --count 2 --period 0.01; watch Name vMWR --csv --count 1";
+    for (const std::string& command : pieces(commands, ';'))
         for (const std::string fault : {"", ">/dev/full", ">&-", "2>&-", "<&-"}) {
             const Ended result = run((in + command).append(" ").append(fault) + " 2>/dev/null");
             EXPECT_TRUE(fault == ">/dev/full" ? result.status == 2 : result.status >= 0) << command << fault;
