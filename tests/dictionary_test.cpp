@@ -1,22 +1,16 @@
 // Tables, look-ups and symbols against plain scans of the rows.
-#include "ParamSystem/TALUX_Params.h"
-
-#include <gtest/gtest.h>
-#include <strings.h>
+#include "Store.h"
 
 #include <cctype>
 #include <map>
-#include <random>
-#include <string>
+#include <strings.h>
 
 namespace {
 
-const stParamProperties* byName(std::string name) {
-    return GetParamPropertiesByName(name.data());
-}
+using talux_test::rowOf;
 
 // Before the working table is filled nothing is found: asked before any test runs.
-const bool emptyAtFirst = !GetParamProperties(2000) && !byName("U1_prim") && !GetParamPropertiesByOrder(0) &&
+const bool emptyAtFirst = !GetParamProperties(2000) && !rowOf("U1_prim") && !GetParamPropertiesByOrder(0) &&
                           !GetParamPropertiesByOrder(1);
 
 struct Dictionary : testing::Test {
@@ -93,16 +87,16 @@ TEST_F(Dictionary, FindsNamesLikeAScan) {
         const std::string name = randomCase(DefParamProperties[position].name);
         for (const std::string& asked : {name, mutated(name)}) {
             const auto fits = [&](const auto& row) { return strcasecmp(row.name, asked.c_str()) == 0; };
-            ASSERT_EQ(byName(asked), scan(fits)) << asked;
+            ASSERT_EQ(rowOf(asked), scan(fits)) << asked;
         }
     }
     for (const std::string& asked : {std::string("***"), std::string(5000, 'x')})
-        EXPECT_EQ(byName(asked), nullptr);
-    EXPECT_EQ(byName(""), GetParamPropertiesByOrder(1));
+        EXPECT_EQ(rowOf(asked), nullptr);
+    EXPECT_EQ(rowOf(""), GetParamPropertiesByOrder(1));
     EXPECT_EQ(GetParamPropertiesByName(nullptr), nullptr);
-    EXPECT_EQ(byName("cycle_cnt_low")->id, 7000);
+    EXPECT_EQ(rowOf("cycle_cnt_low")->id, 7000);
     for (const char* name : {"gui_enabled", "key_enabled", "pub_key", "date_info", "TIMEZONE", "Date"})
-        EXPECT_STREQ(byName(name)->val_init_text, "0") << name;
+        EXPECT_STREQ(rowOf(name)->val_init_text, "0") << name;
 }
 
 // What a symbol stands for, -1 where it is unknown.
