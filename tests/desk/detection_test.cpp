@@ -39,7 +39,7 @@ constexpr char kLong[] =
 
 // The settings that tests change. (clang 14 does not compile those made within the tests.)
 constexpr Setting<float> kQu2SigDur{"qu2_SigDur"}, kQu2SigDurLED{"qu2_SigDur_LED"}, kKnu1{"knu1"},
-    kPhiCorrU1{"phi_corr_U1"};
+    kPhiCorrU1{"phi_corr_U1"}, kCosSinAngle1{"CosSin_angle1"}, kCosSinAngle2{"CosSin_angle2"};
 constexpr Setting<talux::choice::BAassign> kLEDassign10{"LEDassign10"}, kBAassign5{"BAassign5"},
     kBAassign6{"BAassign6"};
 constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kScActive{"sc_active"},
@@ -90,6 +90,7 @@ TEST(DeskDetection, SignalsInTheDirectionOfTheFaultAfterItsDelay) {
                               wrong = method.forward + (forward ? 1 : 0);
             Bench bench;
             bench.set(method.active, true);
+            if (!forward) bench.set(kCosSinAngle1, -91.0F), bench.set(kCosSinAngle2, 1.0F); // in either order
             const Cycle during = bench.run(fault)[5 * 50];
             EXPECT_EQ(bench.begins(wrong), -1);
             if (!forward && method.forward == 34) { // a healthy feeder has no active current
