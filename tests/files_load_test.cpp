@@ -121,7 +121,8 @@ TEST_F(Load, DoesWhatTheModelDoes) {
         "|||=x|\"|#c| ;c|//c|\r| x|\0z"s,
         "\n|\n|\n|\r\n|"};
     for (int round = 0; round < 1500; ++round) {
-        std::string content(random.below(16) == 0 ? 4000 + random.below(100) : 0, '\n'); // read in pieces
+        std::string content(random.below(16) == 0 ? 4000U + static_cast<unsigned>(random.below(100)) : 0U,
+                            '\n'); // read in pieces
         for (int lines = random.below(8); lines >= 0; --lines)
             for (const std::string& part : parts)
                 content += random.one(part);

@@ -23,6 +23,12 @@ struct Handles : testing::Test {
         store.stage_defaults();
         store.commit();
     }
+    void TearDown() override {
+        char directory[] = "/tmp";
+        VarInit(directory);
+        const Store another;
+        EXPECT_EQ(std::string(szParameterPath), directory) << "the host says where files are";
+    }
 };
 
 TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {

@@ -132,4 +132,6 @@ TEST_F(Tokenizer, AgreesWithTheModel) {
     tokenizer.SetBuffer(memory.data());
     room = memory.size();
     walk(100000);
+    tokenizer.SetBuffer(memory.data(), 65536);
+    walk(100);
 }
