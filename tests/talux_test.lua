@@ -389,6 +389,10 @@ case("the clock has fractions, a condition is waited for, and the device program
   os.time, io.popen = time, popen
   equal(passed > 1.9 and passed < 3.2, true, "set by " .. passed)
   equal(talux.alive(0.1), false, "nobody counts")
+  local record, counts = talux.record, {7, 7, 3}
+  talux.record = function() return {Cnt = table.remove(counts, 1)} end
+  equal(talux.alive(1), true, "it counts anew")
+  talux.record = record
   equal(talux.parameter("MessRecord01").members[4].unit, "kV", "unit of U1p")
   equal(pcall(talux.wait, 5, 5), false, "no function")
 end)

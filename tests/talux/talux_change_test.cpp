@@ -346,8 +346,12 @@ TEST_F(TaluxAddress, StaysWhenItIsConfirmed) {
     for (const char* other : {"set Uearth=35 --yes", "address ETH0_IP=10.9.9.9 --yes"})
         EXPECT_EQ(talux(other).status, 2) << "one at a time";
     EXPECT_NE(talux("status").output.find("talux confirm"), std::string::npos);
-    EXPECT_EQ(run("cd " + directory.string() + "; flock .talux_lock talux --directory . confirm 2>&1").status,
-              2);
+    const std::string in = "cd " + directory.string() + "; ";
+    EXPECT_EQ(run(in + "flock .talux_lock talux --directory . confirm 2>&1").status, 2);
+    EXPECT_EQ(run(in + "mv ip_config.ini old; mkdir ip_config.ini; talux --directory . confirm 2>&1").status,
+              2)
+        << "not saved";
+    run(in + "rmdir ip_config.ini; mv old ip_config.ini");
     EXPECT_EQ(withoutBlanks(reached("10.1.2.3", "confirm --json")),
               "{\"confirmed\":true," + std::string(kChangeInJson) + "}");
     EXPECT_TRUE(waitFor("confirmed and saved"));
