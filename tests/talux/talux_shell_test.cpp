@@ -99,4 +99,17 @@ TEST_F(TaluxShell, AsksBeforeAnAddressActsAndTakesChangesBack) {
     EXPECT_EQ(ended(), 0);
 }
 
+// As in less, where it ends a search.
+TEST_F(TaluxShell, LeavesAnInterruptToThePager) {
+    const std::string pager =
+        write("pager", "trap 'echo interrupted; exit' INT; cat; while sleep 0.1; do :; done");
+    setenv("PAGER", ("sh " + pager).c_str(), 1);
+    OnTerminal::start({"list", "Uearth"});
+    EXPECT_TRUE(waitFor("LED duration"));
+    type("\x03");
+    EXPECT_TRUE(waitFor("interrupted"));
+    EXPECT_EQ(ended(), 0);
+    unsetenv("PAGER");
+}
+
 } // namespace
