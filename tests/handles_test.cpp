@@ -142,7 +142,10 @@ TEST_F(Handles, MeasuredValuesAreLiveAtOnce) {
     fifth.set(0.5);
     word.at(96).set(9.0);
     inputs.set_run(std::vector<std::int32_t>(96, 3));
-    changed.set(true);
+    for (const int byte : {2, -1, 0, 1}) { // of another program
+        VarSetGlobalBoolValue(changed.id(), static_cast<char>(byte));
+        EXPECT_EQ(changed.get(), byte != 0);
+    }
     for (const std::size_t bytes : {126U, 127U, 128U, 129U}) { // of characters of two bytes and of one
         std::string text(bytes % 2, 'x');
         while (text.size() < bytes)

@@ -2,6 +2,8 @@
 #ifndef TALUX_TEST_DESK_BENCH_H
 #define TALUX_TEST_DESK_BENCH_H
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -38,6 +40,10 @@ public:
         const talux::Settings settings(space[0]);
         for (Cycle cycle; cycles.size() < 100000 && device.step(settings, overrides, cycle);)
             cycles.push_back(cycle);
+        int numbers = 0;
+        for (const Cycle& cycle : cycles)
+            numbers += std::ranges::all_of(cycle.values, [](float value) { return std::isfinite(value); });
+        EXPECT_EQ(numbers, std::ssize(cycles)) << "cycles with nothing but numbers";
         return cycles;
     }
 
