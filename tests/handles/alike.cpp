@@ -169,6 +169,19 @@ void makeGroups() {
     }
 }
 
+#ifdef TALUX_BY_C_NAMES
+constexpr auto idOf = STORE(VarIdOf);
+constexpr auto save = STORE(VarSaveError);
+#else
+int idOf(const char* name) {
+    const stParamProperties* const row = GetParamPropertiesByName(const_cast<char*>(name));
+    return row == nullptr ? 0 : row->id;
+}
+int save(int file) {
+    return VarSaveError(static_cast<SavedFile>(file));
+}
+#endif
+
 void addRow(const stParamProperties* row) {
     add(row == nullptr ? "" : row->name, row == nullptr ? 1 : std::strlen(row->name) + 1);
     if (row != nullptr) add(&row->id, sizeof row->id);
@@ -186,30 +199,16 @@ void lookUp() {
         addRow(GetParamPropertiesByName(name.data()));
     }
     addRow(GetParamPropertiesByName(nullptr));
+    for (const char* name : {"Uearth", "Name", "conman_status", "nosuch", ""})
+        std::printf("%s %d\n", name, idOf(name));
     std::printf("rows %08x\n", print);
 }
 
 #ifndef TALUX_ON_FAKE
-#ifdef TALUX_BY_C_NAMES
-constexpr auto idOf = STORE(VarIdOf);
-constexpr auto save = STORE(VarSaveError);
-#else
-int idOf(const char* name) {
-    const stParamProperties* const row = GetParamPropertiesByName(const_cast<char*>(name));
-    return row == nullptr ? 0 : row->id;
-}
-int save(int file) {
-    return VarSaveError(static_cast<SavedFile>(file));
-}
-#endif
+const std::filesystem::path folder = std::filesystem::temp_directory_path() / "alike";
 
 // Each file is saved, and loaded over other values; but a load of the addresses would apply them.
 void useFiles() {
-    for (const char* name : {"Uearth", "Name", "conman_status", "nosuch", ""})
-        std::printf("%s %d\n", name, idOf(name));
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "alike";
-    std::filesystem::create_directory(folder);
-    std::snprintf(szParameterPath, sizeof szParameterPath, "%s", folder.c_str());
     for (int file : {2, 1, 0}) {
         move(1);
         std::printf("saved %d\n", save(file));
@@ -235,15 +234,19 @@ void useFiles() {
 
 int main() {
 #ifdef TALUX_ON_FAKE
+    Fake().fail_saves(ENOSPC); // of which the next one knows nothing
     const Fake fake;
 #else
     VarClean();
+    std::filesystem::create_directory(folder);
+    std::snprintf(szParameterPath, sizeof szParameterPath, "%s", folder.c_str());
 #endif
     Store store;
     store.stage_defaults();
     store.commit();
     move(200);
     lookUp();
+    std::printf("saved %d\n", save(0));
     shareGroup();
     makeGroups();
 #ifndef TALUX_ON_FAKE
