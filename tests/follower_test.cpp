@@ -66,7 +66,9 @@ TEST_F(Followers, SeeWhatChangedAndOnlyThat) {
               std::tuple(1, 42, 7, false));
     EXPECT_TRUE(now[kLanguage] == choice::Language::kEnglish && now[kMark] == "x" &&
                 now[kAddress] == "10.1.2.3");
-    EXPECT_FALSE(follower.wait(5));
+    const std::int64_t before = detail::monotonic();
+    EXPECT_FALSE(Follower(20000).wait(5)) << "which ends before its next look";
+    EXPECT_LT(detail::monotonic() - before, 10'000'000'000);
 }
 
 TEST_F(Followers, LookTwiceAgainAfterAChangeThatWentBack) {
