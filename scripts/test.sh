@@ -182,8 +182,8 @@ rock() {
   return "$status"
 }
 
-# Somebody else, who works in German, in another time zone, with a terminal, a folder for temporary files and a Lua of
-# their own.
+# Somebody else: German, in another time zone, on a terminal without colours, with a folder for temporary files and Lua
+# settings of their own.
 user() {
   [ "$(id -u)" = 0 ] || skip 'all stages run as an ordinary user here'
   [ "$(isolation)" = full ] || skip 'there are no namespaces to show the project to another user'
