@@ -104,7 +104,7 @@ find_isolation() {
 
 # ---- without ----
 
-keys=(5675 5678 5679 1414289479) # the store, and the groups of C++ programs
+keys=(5675 5678 5679 1414289480) # the store, and the groups of C++ programs
 # Files that a device changes or makes.
 settings=(/etc/localtime /etc/resolv.conf /var/resolv.conf /tmp/ntp.conf /tmp/ntp.drift /tmp/device.log)
 kept=/tmp/isolated-run-$(id -u) # what was there before the run; whoever finds it without a run ends that of a killed one

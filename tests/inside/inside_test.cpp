@@ -4,6 +4,7 @@
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/os/Files.h"
 #include "ParamSystem/store/Values.h"
+#include "talux/group_slot.hpp"
 #include "tests/Store.h"
 
 #include <cmath>
@@ -115,6 +116,15 @@ TEST(Inside, RefusalsAndCommandWordsAreOnTheirPageAndKnownToScripts) {
         EXPECT_TRUE(row.failure == ""sv || isRefusal(row.failure))
             << row.failure << " is no refusal in lua/talux.lua";
     }
+}
+
+// Which are removed where there are no namespaces.
+TEST(Inside, TheScriptKnowsTheSegments) {
+    std::string keys = "keys=(";
+    for (const auto key : {kStructSpaceKey, kGlobalSpaceKey, kTempSpaceKey, detail::kGroupsKey})
+        keys += std::to_string(key) + (key == detail::kGroupsKey ? ")" : " ");
+    EXPECT_NE(talux_test::contents(TALUX_PROJECT "/scripts/isolated.sh").find(keys), std::string::npos)
+        << keys;
 }
 
 } // namespace
