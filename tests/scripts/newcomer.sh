@@ -71,8 +71,10 @@ on_machine -- chown -R new: /home/new
 trial 'an ordinary user is named the packages' 2 'apt-get install .*bubblewrap.* cmake' as_user scripts/run.sh
 trial 'without a network' 2 'is there a network' on_machine --net -- "$home/scripts/run.sh"
 on_machine -- rm -rf /tmp/apt-output.*
-trial 'ctrl-C while packages are fetched or installed' 130 '' on_machine -- bash -c "
-  setsid env --default-signal=INT $home/scripts/run.sh & sleep 25; kill -INT -- -\$!; before=\$SECONDS; wait \$!; ended=\$?
+trial 'ctrl-C while packages are installed' 130 '' on_machine -- bash -c "
+  setsid env --default-signal=INT $home/scripts/run.sh &
+  until ls -l /proc/[0-9]*/exe 2>/dev/null | grep -q '/dpkg\$'; do sleep 0.1; done
+  kill -INT -- -\$!; before=\$SECONDS; wait \$!; ended=\$?
   [ \$((SECONDS - before)) -le 2 ] || echo slow
   while ls -l /proc/[0-9]*/exe 2>/dev/null | grep -q /apt-get; do echo 'apt-get goes on'; sleep 1; done; exit \$ended"
 trial 'root prepares the machine' 0 'talux' on_machine -- "$home/scripts/run.sh"
