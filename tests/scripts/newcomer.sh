@@ -73,7 +73,7 @@ trial 'without a network' 2 'is there a network' on_machine --net -- "$home/scri
 on_machine -- rm -rf /tmp/apt-output.*
 trial 'ctrl-C while packages are installed' 130 '' on_machine -- bash -c "
   setsid env --default-signal=INT $home/scripts/run.sh &
-  until ls -l /proc/[0-9]*/exe 2>/dev/null | grep -q '/dpkg\$'; do sleep 0.1; done
+  until ls -l /proc/[0-9]*/exe 2>/dev/null | grep -q '/dpkg\$' || ! kill -0 \$!; do sleep 0.1; done
   kill -INT -- -\$!; before=\$SECONDS; wait \$!; ended=\$?
   [ \$((SECONDS - before)) -le 2 ] || echo slow
   while ls -l /proc/[0-9]*/exe 2>/dev/null | grep -q /apt-get; do echo 'apt-get goes on'; sleep 1; done; exit \$ended"
