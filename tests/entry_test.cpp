@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <string>
 
 // The longest answer and a terminator of one character.
@@ -24,15 +25,17 @@ TEST(Entry, ServesLinkedPrograms) {
         std::string answer, error;
     } rows[] = {{"1,2,+", "\n", 1, "3.000000\n", ""},
                 {"1,2,+", "", 1, "3.000000", ""},
-                {"", "\n", 0, "?", ""},
-                {"nonsense", "\n", -1, "?", "<< SYNTAX ERROR >>"},
+                {"", "\n", 0, "", ""},
+                {"nonsense", "\n", -1, "nonsense", "<< SYNTAX ERROR >>"},
                 {"TLX_vBE", "<END>", -1, "<< INDEX REQUIRED >><END>", "<< INDEX REQUIRED >>"},
                 {"system echo nowhere", "\n", 1, "", ""},
-                {"TLX_FW_BLOCK=1,TLX_FW_BLOCK", "\n", 1, "1\n", ""}}; // a setting of the highest level
+                {"TLX_Name=as long as the rest of the line below", "\n", 1, "\n", ""},
+                // A text is read first; then a setting of the highest level.
+                {"TLX_Name,TLX_FW_BLOCK=1,TLX_FW_BLOCK", "\n", 1, "1\n", ""}};
     for (auto [line, terminator, result, answer, error] : rows) {
-        char buffer[TALUX_ANSWER_SIZE] = "?", text[128];
-        EXPECT_EQ(talux_interpreter_ProcessLine(line.data(), nullptr, buffer, terminator.data()), result)
-            << line;
+        char buffer[TALUX_ANSWER_SIZE], text[128]; // for the line, too
+        std::strcpy(buffer, line.c_str());
+        EXPECT_EQ(talux_interpreter_ProcessLine(buffer, nullptr, buffer, terminator.data()), result) << line;
         EXPECT_EQ(buffer, answer) << line;
         EXPECT_EQ(talux_interpreter_GetError(text, sizeof text), 1);
         EXPECT_EQ(text, error) << line;
