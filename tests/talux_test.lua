@@ -388,6 +388,17 @@ case("the clock has fractions, a condition is waited for, and the device program
   passed = talux.now() - time()
   os.time, io.popen = time, popen
   equal(passed > 1.9 and passed < 3.2, true, "set by " .. passed)
+  local function uptime()
+    local file = io.open "/proc/uptime"
+    local seconds = numbers.read(file:read "*l":match "^%S+")
+    file:close()
+    return seconds
+  end
+  local before, usleep = uptime(), talux_usleep
+  talux_usleep = function(microseconds) return usleep(microseconds / 10) end -- as signals end it
+  talux.every(20, function(k) return k < 21 end)
+  talux_usleep = usleep
+  equal(uptime() - before > 0.35, true, "20 periods took " .. uptime() - before)
   equal(talux.alive(0.1), false, "nobody counts")
   local record, counts = talux.record, {7, 7, 3}
   talux.record = function() return {Cnt = table.remove(counts, 1)} end

@@ -44,6 +44,7 @@ constexpr Setting<talux::choice::BAassign> kLEDassign10{"LEDassign10"}, kBAassig
     kBAassign6{"BAassign6"};
 constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kScActive{"sc_active"},
     kScDirActive{"sc_dir_active"}, kFreqActive{"freq_active"}, kUenCalc{"Uen_calc"}, k3IoCalc{"3Io_calc"};
+constexpr Setting<std::int32_t> kQuiCount{"qui_n"};
 constexpr Setting<talux::Choice> kPrioList3{"prio_list_3"};
 constexpr Setting<talux::choice::BApol> kBApol6{"BApol6"};
 constexpr Setting<talux::choice::Upol> kIpol2{"Ipol2"};
@@ -117,6 +118,7 @@ TEST(DeskDetection, ComparesTheChargeWithTheThresholdsOfTransientAndRestriking) 
             Bench bench;
             for (const auto& threshold : kThresholds)
                 bench.set(threshold, static_cast<float>(charge * factor));
+            if (forward) bench.set(kQuiCount, 0); // which means one
             bench.run(std::string(kResonant) + "at 1 s restriking earth fault " + fault +
                       " every 0.3 s for 0.06 s\nat 3 s fault cleared\nat 5 s end\n");
             EXPECT_EQ(bench.begins(forward ? 28 : 29) > 0, factor < 1);
