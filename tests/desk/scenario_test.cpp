@@ -350,10 +350,11 @@ TEST_F(DeskReplay, ReplaysWhatWatchHasWritten) {
 
 // With semicolons, decimal commas and quotes as spreadsheets write them, and the residual values measured.
 TEST_F(DeskReplay, TakesResidualValuesAndFrequencyWhereTheyAre) {
-    const std::string path =
-        write("feeder.csv",
-              "time;\"U1_prim\";U2_prim;U3_prim;I1_prim;I2_prim;I3_prim;U0_prim;I0_prim;phiUI0;f_grid\r\n"
-              "2026-11-25 10:00:00;11,5;11,5;11,5;100;100;100;\"2,5\";7;-90;49,9\r\n");
+    const std::string path = write(
+        "feeder.csv",
+        "time;\"U1_prim\";U2_prim;U3_prim;I1_prim;I2_prim;I3_prim;U0_prim;I0_prim;phiUI0;f_grid\r\n"
+        "2026-11-25 09:59:59.990;1;1;1;1;1;1;1;1;1;50\r\n2026-11-25 09:59:59.995;1;1;1;1;1;1;1;1;1;50\r\n"
+        "2026-11-25 10:00:00;11,5;11,5;11,5;100;100;100;\"2,5\";7;-90;49,9\r\n");
     Sample sample;
     const Recording recording = openRecording(path);
     ASSERT_TRUE(recording(0.5, sample));
