@@ -215,7 +215,13 @@ TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {
     EXPECT_FALSE(fresh.wait(last, 50));
     EXPECT_GE(fresh.read(value).age(), 0.05);
 
-    auto* const slots = static_cast<detail::GroupSlot*>(shmat(shmget(detail::kGroupsKey, 0, 0), nullptr, 0));
+    const int segment = shmget(detail::kGroupsKey, 0, 0);
+    shmid_ds memory{};
+    semid_ds semaphores{};
+    shmctl(segment, IPC_STAT, &memory);
+    semctl(semget(detail::kGroupsKey, 0, 0), 0, IPC_STAT, &semaphores);
+    EXPECT_EQ(memory.shm_perm.mode & semaphores.sem_perm.mode & 0777, 0666) << "every user may write";
+    auto* const slots = static_cast<detail::GroupSlot*>(shmat(segment, nullptr, 0));
     for (auto* each = slots; each != slots + detail::kGroupSlots; ++each)
         if (std::strcmp(each->name, "fresh") == 0) each->sequence = 0xFFFFFFFE;
     shmdt(slots);
