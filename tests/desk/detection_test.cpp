@@ -48,7 +48,8 @@ constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kQu2
     kScActive{"sc_active"}, kScDirActive{"sc_dir_active"}, kScEActive{"sc_class_E_active"},
     kFreqActive{"freq_active"}, kUenCalc{"Uen_calc"}, k3IoCalc{"3Io_calc"};
 constexpr Setting<talux::Choice> kPrioList3{"prio_list_3"};
-constexpr Setting<talux::choice::BApol> kBApol6{"BApol6"};
+constexpr Setting<talux::choice::BApol> kBApol6{"BApol6"}, kBApol7{"BApol7"}, kLEDpol10{"LEDpol10"};
+constexpr Setting<talux::choice::BEpol> kBEpol2{"BEpol2"};
 constexpr Setting<talux::choice::Upol> kIpol2{"Ipol2"};
 
 struct Method {
@@ -120,10 +121,11 @@ TEST(DeskDetection, ComparesTheChargeWithTheThresholdsOfTransientAndRestriking) 
             Bench bench;
             for (const auto& threshold : kThresholds)
                 bench.set(threshold, static_cast<float>(charge * factor));
-            bench.run(std::string(kResonant) + "at 1 s restriking earth fault " + fault +
-                      " every 0.3 s for 0.06 s\nat 3 s fault cleared\nat 5 s end\n");
+            const auto& cycles = bench.run(std::string(kResonant) + "at 1 s restriking earth fault " + fault +
+                                           " every 0.3 s for 0.06 s\nat 3 s fault cleared\nat 5 s end\n");
             EXPECT_EQ(bench.begins(forward ? 28 : 29) > 0, factor < 1);
             EXPECT_EQ(bench.begins(forward ? 32 : 33) > 0, factor < 1);
+            EXPECT_EQ(cycles[50].harmonics[0].degrees, forward ? 90 : -90);
         }
     }
 }
@@ -231,16 +233,32 @@ TEST(DeskOutputs, FollowAssignmentPolarityAndOverrides) {
         ASSERT_EQ(cycle.outputs.words.of("y_BA") >> 4 & 1, signal);
     }
     Overrides overrides;
-    overrides.functions.emplace()[27] = 1; // function 28
+    overrides.functions.emplace();
+    for (std::size_t k = 0; k < kFunctions; k += 3) // function 28 too
+        (*overrides.functions)[k] = 1;
     overrides.values.emplace()[0] = 7;
     overrides.inputs.emplace()[2] = 1;
     const std::string input = std::string(kResonant) + "at 1 s input BE1 on\nat 2 s end\n";
+    bench.set(kBApol7, static_cast<BApol>(2)); // without a function
+    bench.set(kLEDassign10, static_cast<BAassign>(28)), bench.set(kLEDpol10, static_cast<BApol>(2));
+    bench.set(kBEpol2, static_cast<talux::choice::BEpol>(2));
     const Cycle cycle = bench.run(input, overrides).back();
     EXPECT_EQ(cycle.outputs.states[4], 1);
+    EXPECT_EQ(cycle.outputs.states[6], 0);
+    EXPECT_FALSE(cycle.outputs.leds[9]);
+    EXPECT_EQ(cycle.outputs.words.of("y_LED"), cycle.outputs.leds.to_ulong());
+    EXPECT_EQ(cycle.outputs.words.of("y_BE"), 1 << 2);
+    for (std::size_t k = 0; k < kFunctions; ++k) {
+        const unsigned bit = k % 3 == 0 ? 1 : 0;
+        const std::size_t word = k / 32;
+        EXPECT_EQ(static_cast<unsigned>(cycle.outputs.words.of("y_BAF1", word)) >> k % 32 & 1, bit) << k;
+        EXPECT_EQ(static_cast<unsigned>((&cycle.second_record.y_BAF_01)[word]) >> k % 32 & 1, bit) << k;
+    }
     EXPECT_EQ(cycle.values[0], 7);
     EXPECT_EQ(cycle.outputs.states[kRelays + 2], 1);
     EXPECT_EQ(cycle.outputs.states[kRelays + 0], 0) << "the override replaces the input";
     EXPECT_EQ(bench.run(input).back().outputs.states[kRelays], 1);
+    EXPECT_EQ(bench.run(input).back().outputs.states[kRelays + 1], 1) << "inverted";
 }
 
 TEST(DeskStatistics, HoldMaximumMinimumAndMeanOfAnInterval) {
@@ -261,6 +279,10 @@ TEST(DeskStatistics, HoldMaximumMinimumAndMeanOfAnInterval) {
     EXPECT_NEAR(record.I1_av, 200, 3);
     EXPECT_NEAR(record.U1_min, 11.547, 1e-3);
     EXPECT_EQ(record.dT, 60);
+    EXPECT_EQ(record.M3TimeStamp, record.SysTime);
+    for (const float* max : {&record.U0_max, &record.P0_max, &record.Q0_max})
+        for (int k = 0; k < 4; ++k) // then come the smallest, then the mean values
+            EXPECT_TRUE(max[k] > max[k + 8] && max[k + 8] > max[k + 4]) << max - &record.U0_max << " " << k;
     EXPECT_EQ(record.EvCnt_qu2, 1);
 }
 
@@ -277,6 +299,16 @@ TEST(DeskStore, AnswersARequestBeforeItClearsIt) {
     atRelease = nullptr;
     EXPECT_EQ(request, 0);
     EXPECT_FALSE(isEarly);
+    const auto& [u, i, us, is, hertz] = cycle.phasors;
+    const float* next = &answer - 1; // of U0
+    for (const Four& four : {u, us, i, is})
+        for (const Phasor& each : four)
+            EXPECT_NEAR(*next++, std::abs(each), 1e-3);
+    for (const Four& four : {u, i})
+        for (const Phasor& each : four)
+            EXPECT_NEAR(*next++, degrees(each), 1e-3);
+    EXPECT_EQ(next[1], cycle.record.wUI1);
+    EXPECT_EQ(live.IntData[talux::Measured<short>("EvCnt_qu2").id() - kFirstInt], cycle.transients);
 }
 
 // What a technician looks for: a reversed transformer shows in the power of its phase, and Ipol2 puts it

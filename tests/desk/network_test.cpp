@@ -58,6 +58,9 @@ TEST(DeskNetwork, FollowsTheCurveOfFaultResistance) {
         const double ratio = ohm / (kE * 1000 / 80); // of the fault to the reactance of the network to earth
         const Sample sample = settled(kIsolated, {.ohm = ohm});
         EXPECT_NEAR(std::abs(sample.voltage[0]) / kE, 1 / std::sqrt(1 + ratio * ratio), kExact) << ohm;
+        Network network(kIsolated, kNoLoad);
+        network.strike(EarthFault{.ohm = ohm});
+        EXPECT_NEAR(network.takeOnsets()[0].ampere, 74 / std::sqrt(1 + ratio * ratio), kExact) << ohm;
     }
     const Grid resistor{.neutral = Neutral::lowResistance, .capacitive = 40, .own = 4, .neutralAmpere = 500};
     const Sample sample = settled(resistor, {.forward = true});
