@@ -238,16 +238,14 @@ TEST(DeskOutputs, FollowAssignmentPolarityAndOverrides) {
     EXPECT_EQ(cycle.outputs.states[4], 1);
     EXPECT_EQ(cycle.outputs.words.of("y_LED"),
               static_cast<std::int32_t>(cycle.outputs.leds.to_ulong() & 0x1FF));
-    EXPECT_EQ(cycle.outputs.words.of("y_BE"), 1 << 2);
+    EXPECT_EQ(cycle.outputs.words.of("y_BE"), 1 << 2) << "the override replaces the inputs";
     constexpr unsigned kThirds[] = {0x49249249, 0x92492492, 0x24924924, 0x49249249};
     for (std::size_t k = 0; k < 4; ++k)
         EXPECT_TRUE(static_cast<unsigned>(cycle.outputs.words.of("y_BAF1", k)) == kThirds[k] &&
                     static_cast<unsigned>((&cycle.second_record.y_BAF_01)[k]) == kThirds[k]);
     EXPECT_EQ(cycle.values[0], 7);
     EXPECT_EQ(cycle.outputs.states[kRelays + 2], 1);
-    EXPECT_EQ(cycle.outputs.states[kRelays + 0], 0) << "the override replaces the input";
-    EXPECT_EQ(bench.run(input).back().outputs.states[kRelays], 1);
-    EXPECT_EQ(bench.run(input).back().outputs.states[kRelays + 1], 1) << "inverted";
+    EXPECT_EQ(bench.run(input).back().outputs.words.of("y_BE"), 3) << "BE1, and BE2 inverted";
 }
 
 TEST(DeskStatistics, HoldMaximumMinimumAndMeanOfAnInterval) {
@@ -302,7 +300,6 @@ TEST(DeskMeter, ShowsWrongWiringAndItsCorrection) {
     const Cycle before = bench.run("network isolated 20 kV\nload 100 A drift 0 %\nat 1 s end\n").back();
     const Cycle reversed = bench.run(wrong).back();
     EXPECT_NEAR(reversed.record.P2, -before.record.P2, 1e-2);
-    EXPECT_NEAR(reversed.record.P1, before.record.P1, 1e-2);
     EXPECT_GT(reversed.record.I0p, 190);
     bench.set(kIpol2, static_cast<talux::choice::Upol>(2));
     EXPECT_NEAR(bench.run(wrong).back().record.P2, before.record.P2, 1e-2);
