@@ -2,7 +2,6 @@
 #include "Files.h"
 #include "Messages.h"
 
-#include <pthread.h>
 #include <strings.h>
 
 #include "ParamSystem/TALUX_Funcs.h"

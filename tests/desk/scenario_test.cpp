@@ -96,7 +96,7 @@ TEST(DeskScenario, ChangesWhatItsStatementsSay) {
         {"load 250 A", "load 100 A", &R::I1p, 250},
         {"load 0 A", "load 100 A", &R::I1p, 0},
         {"short circuit L1 L2 500 A forward", "fault cleared", &R::wUI1, 11.23},
-        {"short circuit L3 L1 500 A forward", "fault cleared", &R::I1p, 509.9},
+        {"short circuit L2 L1 500 A forward", "fault cleared", &R::I1p, 588.71},
         {"short circuit L1 L2 500 A backward", "fault cleared", &R::U12p_a, 12},
         {"earth fault L1 solid backward", "fault cleared", &R::U1p, 0},
         {"restriking earth fault L1 solid forward every 20 s for 19 s", "fault cleared", &R::U1p, 0},
