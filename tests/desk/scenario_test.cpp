@@ -138,8 +138,7 @@ TEST(DeskScenario, RestartsTheProgramWithoutItsSignals) {
 TEST(DeskScenario, TakesEventsInTheOrderOfTimeAndEndsWhateverComes) {
     std::istringstream text("at 3 s end\nat 1 s input BE2 on\n");
     const Scenario read = readScenario(text);
-    ASSERT_EQ(read.events.size(), 2U);
-    EXPECT_EQ(read.events[0].second, 1);
+    EXPECT_EQ(read.events.at(0).second, 1);
     std::string atOnce = "network isolated 20 kV own 0 A\nload 0 A angle 0 deg drift 0 %\n";
     for (int ampere = 10; ampere <= 400; ampere += 10)
         atOnce += "at 1 s load " + std::to_string(ampere) + " A\n";
