@@ -344,11 +344,12 @@ TEST_F(Disk, IsReadWholeWhileOthersSaveAndAreKilled) {
     }
     for (const char* name : {".talux-save-0.tmp", ".talux-save-3.tmp"}) // with a gap between them
         write(name, "TLX_channel=9\n");
+    ASSERT_EQ(mkfifo((directory / ".talux-save-1.tmp").c_str(), 0600), 0); // no save has left that
     EXPECT_EQ(save(0), 1);
     EXPECT_EQ(contents(path), whole[0]);
     for (const auto& [name, content] : old)
         fs::remove(directory / name);
-    EXPECT_EQ(namesIn(directory), std::vector<std::string>{"file"});
+    EXPECT_EQ(namesIn(directory), (std::vector<std::string>{".talux-save-1.tmp", "file"}));
 }
 
 TEST_F(Disk, WaitsForTheSavesOfOthersButNotForEver) {
@@ -417,13 +418,14 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
 
     // Whatever fails then is reported, or the file is whole.
     const Operation inPlace{VarSaveParams, 8000, {"parameter.ini"}, ""};
-    int faults = 0;
+    int faults = 0, closes = 0;
     for (const int error : {EINTR, kShort, ENOSPC})
         for (int after = 0;; ++after, ++faults) {
             write("parameter.ini", "old");
             const auto [result, output, errors] = perform(inPlace, error, after);
             if (*failedCall == '\0') break;
             EXPECT_EQ(fs::hard_link_count(file), 2);
+            closes += failedCall == std::string("close") && holds(errors, "write: ");
             EXPECT_TRUE(holds(output + errors, "Error (TALUX_Var): ") || contents(file) == whole)
                 << failedCall << after << output << errors;
             EXPECT_TRUE(
@@ -431,6 +433,7 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
                 (contents(file).substr(3) == whole.substr(3) && std::string_view(failedCall) == "write"));
         }
     EXPECT_GT(faults, 30);
+    EXPECT_EQ(closes, 1) << "the disk may be full when it closes";
 
     // No inode is left for a second file.
     fs::remove(other);
@@ -456,6 +459,7 @@ TEST_F(Disk, WritesInPlaceWhatCannotBeReplaced) {
     std::string through(whole.size() + 1, '#');
     EXPECT_EQ(read(reader, through.data(), through.size()), static_cast<ssize_t>(whole.size()));
     EXPECT_EQ(through, whole + '#');
+    EXPECT_EQ(statusOf(path).st_mode & 07777, 0600U) << "it is given away";
     close(reader);
 }
 

@@ -13,8 +13,17 @@ std::vector<std::string>& commands() {
     return all;
 }
 constinit double rateAtFirstCommand = 0; // in the global space
+constinit std::string* atFlag = nullptr; // becomes the store when a lock is taken after a flag was raised
 
 } // namespace
+
+extern "C" int pthread_mutex_lock(pthread_mutex_t* lock) noexcept {
+    using namespace talux_test;
+    if (atFlag != nullptr && atFlag->empty() &&
+        std::memchr(raw(kGlobal) + kBlocks[4].offset, 1, 3) != nullptr)
+        *atFlag = image();
+    return pthread_mutex_trylock(lock); // no other thread has it
+}
 
 extern "C" int system(const char* command) {
     if (commands().empty()) VarGetGlobalValue(10012, &rateAtFirstCommand);
@@ -194,7 +203,11 @@ TEST_F(Load, RaisesItsFlag) {
         for (const auto& test : cases) {
             begin();
             if (present) write(test.file, "TLX_channel=3\nTLX_sec_mode=0\n");
+            std::string then;
+            atFlag = &then;
             const auto [result, output, errors] = outcomeOf(test.load);
+            atFlag = nullptr;
+            EXPECT_EQ(then.empty() ? then : differences(image(), then), "") << "changed after the flag";
             const bool applies = test.flag == 8001;
             EXPECT_EQ(result, present ? 1 : 0) << test.file;
             EXPECT_EQ(output, present ? "" : missing(test.file));

@@ -130,6 +130,7 @@ TEST(NothingLoaded, SavesNothing) {
             << errors;
         EXPECT_EQ(contents(path), "old");
     }
+    EXPECT_EQ(std::get<0>(outcomeOf([] { return VarSaveError(SavedFile::security); })), EINVAL);
     fs::remove(path);
 }
 

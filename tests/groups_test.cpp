@@ -153,11 +153,15 @@ TEST_F(Groups, OutliveAWriterThatDiesInside) {
 }
 
 TEST_F(Groups, TellOfAWriterThatStaysInside) {
+    start([this] { std::raise(write(0) ? SIGSTOP : SIGABRT); });
+    EXPECT_EQ(signalOf(children[0]), SIGSTOP);
     startBlow(SIGSTOP);
+    kill(children[0], SIGKILL); // who has written before
+    EXPECT_EQ(signalOf(children[0]), SIGKILL);
     EXPECT_EQ(read(), Reading::busy);
     EXPECT_FALSE(write(2));
-    kill(children[0], SIGCONT);
-    waitpid(children[0], nullptr, 0);
+    kill(children[1], SIGCONT);
+    waitpid(children[1], nullptr, 0);
     EXPECT_EQ(read(), Reading::whole);
     EXPECT_EQ(values.record.Cnt, 1);
 }
@@ -275,6 +279,7 @@ TEST_F(Groups, AreTakenAgainWhenNobodyUsesThem) {
         EXPECT_EQ(Group("release", kFirst.run<2>()).attachment(), Attachment::otherElements);
         EXPECT_EQ(before.read(value), Reading::whole);
     }
+    EXPECT_TRUE(Group("between", kFirst).attached()) << "which takes a fresh slot";
     EXPECT_EQ(Group("release", kFirst).read(value), Reading::whole)
         << "the same elements find their slot again";
     const Group after("release", kFirst.run<2>());

@@ -41,9 +41,10 @@ TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
     constexpr Setting<Identifier> mark{"Kenn"};
     constexpr Setting<Address> address{"ETH0_IP"}, mask{"FW_ETH0_MASK"};
 
-    EXPECT_TRUE(threshold.stage(35) && ratio.stage(0.1f) && quotient.stage(0.999f) && channel.stage(7) &&
-                active.stage(true) && language.stage(choice::Language::kGerman) && skew.stage(Choice{2}) &&
-                name.stage("Süd 1") && mark.stage("B:") && address.stage("10.0.0.7"));
+    EXPECT_TRUE(threshold.stage(35) && ratio.stage(0.1f) && quotient.stage(0.9f) && quotient.stage(0.999f) &&
+                channel.stage(7) && active.stage(true) && language.stage(choice::Language::kGerman) &&
+                skew.stage(Choice{2}) && name.stage("Süd 1") && mark.stage("B:") &&
+                address.stage("10.0.0.7"));
     const auto read = [] {
         return say("TLX_Uearth") + say("TLX_channel") + say("TLX_qui_active") + say("TLX_Language") +
                say("TLX_skew_type") + say("TLX_Name") + say("TLX_Kenn") + say("TLX_ETH0_IP");
@@ -228,8 +229,16 @@ TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
     }
     EXPECT_GT(found.size(), 200U);
     for (const table::Row& row : table::kRows)
-        EXPECT_TRUE(row.kind != table::Kind::f32 || About(row.id).min().value_or(kNoMin) == row.min)
-            << row.name;
+        if (row.kind == table::Kind::f32) {
+            const About known(row.id);
+            EXPECT_TRUE(known.min().value_or(7) == (row.min == kNoMin ? 7 : row.min) &&
+                        known.max().value_or(7) == (row.max == kNoMax ? 7 : row.max) &&
+                        known.elements() == row.elements && known.longest() == 0 &&
+                        known.is_setting() == (row.use != table::Use::measured))
+                << row.name;
+        }
+    EXPECT_TRUE(About("TIMEZONE").default_text() == "/usr/share/zoneinfo/UTC" &&
+                About("Name").longest() == 40);
     EXPECT_EQ(About("uearth").title(kGerman), "Schwelle Erdschluss U0");
     EXPECT_FALSE(About("Uearht") || About(0) || About(-1));
 }

@@ -347,8 +347,12 @@ TEST_F(KeplModel, HasItsOtherFunctions) {
             EXPECT_EQ(interpreter.GetNewValType(left, right), resultType(left, right))
                 << left << " " << right;
 
-    char line[] = "1,0,/", empty[] = "", shell[] = "system x", result[kKeplTextSize] = "?",
+    char line[] = "1,0,/", empty[] = "", shell[] = "system x", good[] = "1", result[kKeplTextSize] = "?",
          buffer[] = "??????????????????";
+    for (char* text : {line, good})
+        interpreter.ProcessLine(text, nullptr, result, empty, 3);
+    EXPECT_EQ(interpreter.GetError(buffer, 1), 1);
+    EXPECT_EQ(std::exchange(buffer[0], '?'), '\0') << "the error of another line";
     EXPECT_EQ(interpreter.ProcessLine(line, nullptr, result, empty, 3), kLineError);
     EXPECT_EQ(interpreter.ProcessLine(empty, nullptr, result, empty, 3), kLineEmpty); // and touches nothing
     EXPECT_EQ(interpreter.GetError(buffer, 5), 1);

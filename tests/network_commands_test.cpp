@@ -1,6 +1,7 @@
 // Every command and every line on the error stream, in their order, for every branch of the settings.
 #include "Machine.h"
 #include "NetworkSupport.h"
+#include "src/talux_store.h"
 
 using namespace network_test;
 using talux_test::machine;
@@ -233,7 +234,7 @@ TEST_F(SettingsCommands, FunctionsAndBranches) {
 TEST_F(SettingsCommands, OfTheAddressFile) {
     if (!mayWriteSystemFiles()) GTEST_SKIP() << "the system files are another user's";
     writeFile("/ip_config.ini", "TLX_ETH0_IP=\"192.168.1.10\"\nTLX_NTP1=\"10.0.0.1\"\n");
-    check({kAll, "ETH0_IP=1.2.3.4 NTP1=1.2.3.4", {}, 1, kKernel, kUtc, "", VarLoadIPConfig});
+    check({kAll, "ETH0_IP=1.2.3.4 NTP1=1.2.3.4", {}, 1, kKernel, kUtc, "", talux::c::VarLoadIPConfig});
 
     writeFile("/def_ip_config.ini", "TLX_ETH0_IP=\"10.0.0.99\"\nTLX_ETH0_MASK=\"255.0.0.0\"\n"
                                     "TLX_ETH0_GATEWAY=\"10.0.0.98\"\nTLX_NTP1=\"1.1.1.1\"\n"); // NTP1 stays

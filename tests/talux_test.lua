@@ -15,7 +15,7 @@ if not os.setlocale "ps_AF.UTF-8" then print "skipped: decimal point of two byte
 local function refused(wanted, call, ...)
   local good, reason = pcall(call, ...)
   equal(good, false, wanted)
-  equal(tostring(reason):gsub("^[^ ]*%.lua:%d+: ", ""), wanted, wanted)
+  equal(tostring(reason), wanted, wanted) -- without a place: pcall has none, and it is the caller
 end
 
 -- What a script may write, except clock and network.
@@ -161,7 +161,7 @@ case("factory defaults can be applied, and then nothing is changed but addresses
   local defaults, names = {}, {}
   for _, row in ipairs(writable) do defaults[row.name] = row.default end
   talux.apply(defaults)
-  for k, change in ipairs(talux.changed()) do names[k] = change.name end
+  for k, change in ipairs(talux.changed() and talux.changed()) do names[k] = change.name end -- the same again
   equal(table.concat(names, " "), "ETH0_IP ETH1_IP WLAN0_IP sec_mode", "changed")
 end)
 
@@ -232,6 +232,7 @@ case("what cannot be read or written says why", function()
     {"MessRecord01", 1, "A RECORD KEEPS NO VALUE"}, {"vBE", 1, "INDEX REQUIRED (1 to 96)"},
     {"ETH0_MASK", "255.0.255.0", "NO NETMASK (ones before zeros as in 255.255.255.0)"},
     {"ETH0_IP", "192.168.1", "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)"},
+    {"ETH0_MASK", "255.0.0", "NO ADDRESS (four numbers from 0 to 255 as in 192.168.1.10)"},
     {"Date", "2024-02-30", "NO DATE (as 2024-05-17)"}, {"Time", "24:00:00", "NO TIME (as 10:20:30)"},
     {"Time", "10:20:60", "NO TIME (as 10:20:30)"},
     {"BAassign3", "NC", "STANDS FOR SEVERAL CHOICES (give the number)"}, {"DataBits1", 8, "VALUE TOO HIGH (1 to 2)"},
@@ -329,11 +330,12 @@ end)
 case("what a file holds is what a load keeps of it", function()
   local first, restored = talux.read "staged", {}
   local pieces = {"=", "==", " = ", " ", '"', "a", "#", ";", "//", "\t", "ä", "7", "12.75", "-3", "1e2", "0x1F", "7,5", "5 6", "", "1e40", "\r"}
-  for _ = 1, isolated and 20 or 0 do
+  for round = 1, isolated and 20 or 0 do
     local lines = {}
-    for k = 1, 300 do
-      local row, line = rows[random(#rows)], {}
-      if row.default then
+    for k = 1, round == 1 and #rows or 300 do
+      local row, line = rows[round == 1 and k or random(#rows)], {}
+      if round == 1 and row.length then lines[k] = ("TLX_%s=%s"):format(row.name, ("long"):rep(40))
+      elseif row.default then
         for piece = 1, random(4) do line[piece] = pieces[random(#pieces)] end
         if random() < 0.02 then line[#line + 1] = ("x"):rep(random(300)) end
         lines[k] = (random() < 0.1 and " tlx_" or "TLX_") .. row.name .. (random() < 0.8 and "=" or "") .. table.concat(line)
@@ -351,7 +353,7 @@ case("what a file holds is what a load keeps of it", function()
     for name, value in pairs(held) do
       local row = talux.parameter(name)
       local isClock, found = row.kind:find "clock", row.kind == "double" and value or after[name]
-      if not isClock and math.abs(tonumber(value) or 0) < 1e9 then
+      if not isClock and (row.kind == "long" or math.abs(tonumber(value) or 0) < 1e9) then
         equal(row.kind == "float" and math.abs(found - value) < 1e-5 * math.max(1, math.abs(value)) or found == value, true,
           ("%s = %s, file %s"):format(name, tostring(found), tostring(value)))
       end

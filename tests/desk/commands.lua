@@ -58,8 +58,8 @@ case("cycles that a standstill took are left out", inFolder(function()
   local pipe = io.popen("echo $$; exec " .. desk)
   local pid = pipe:read()
   repeat until pipe:read() == "ready"
-  os.execute(("kill -STOP %s; sleep 2; kill -CONT %s; sleep 0.2; kill %s"):format(pid, pid, pid))
-  pipe:close()
+  os.execute(("kill -STOP %s; sleep 2; kill -CONT %s; sleep 0.2; kill -INT %s"):format(pid, pid, pid))
+  equal(pipe:close(), true, "ctrl-C ends it well")
   equal(talux.record "MessRecord01".Cnt < 75, true, "cycles")
 end))
 

@@ -267,26 +267,29 @@ void Detection::shortCircuits(const View& view) {
                     {"sc_class_2_active", "sc_I_min_2", "sc_T_min_2", 61, 8, 1, 3},
                     {"sc_class_E_active", "sc_I_min_E", "sc_T_min_E", 87, 1, 0, 0}};
     const auto& s = view.settings;
-    const Durations durations{view["sc_SigDur"], view["sc_SigDur"]};
+    const Durations durations{view["sc_SigDur"], view["sc_SigDur_LED"]};
     for (const auto& each : kClasses) {
-        std::array<bool, 3> any{};
+        for (std::size_t way = 0; way < 3; ++way)
+            set(each.function + way * each.step, false);
         for (std::size_t k = each.firstPhase; k <= each.lastPhase; ++k) {
             const Phasor& current = view.phasors.primaryCurrent[k];
             const bool decided =
                 view.isSet("sc_active") && s[each.active] && std::abs(current) >= s[each.min];
-            const bool on = signal(each.function + k, decided, s[each.time], durations);
-            const bool directed = on && decided && view.isSet("sc_dir_active") && current != Phasor{};
+            signal(each.function + k, decided, s[each.time], durations);
+            const bool directed = decided && view.isSet("sc_dir_active") && current != Phasor{};
             const double angle = angleBetween(view.phasors.primaryVoltage[k], current);
-            const std::array<bool, 3> now{
-                on, directed && isBetween(angle, view["sc_Phi_min_fwd"], view["sc_Phi_max_fwd"]),
+            const std::array<bool, 3> ways{
+                true, directed && isBetween(angle, view["sc_Phi_min_fwd"], view["sc_Phi_max_fwd"]),
                 directed && isBetween(angle, view["sc_Phi_min_bwd"], view["sc_Phi_max_bwd"])};
-            for (std::size_t way = 0; way < now.size(); ++way) {
-                set(each.function + way * each.step + k, now[way]);
-                any[way] = any[way] || now[way];
+            for (Side& side : sides) {
+                const bool on = side.functions[each.function + k];
+                for (std::size_t way = 0; way < ways.size(); ++way) {
+                    const std::size_t any = each.function + way * each.step;
+                    side.functions[any + k] = on && ways[way];
+                    if (on && ways[way]) side.functions[any] = true; // of the phases
+                }
             }
         }
-        for (std::size_t way = 0; way < any.size(); ++way)
-            set(each.function + way * each.step, any[way]);
     }
 }
 
@@ -295,7 +298,7 @@ void Detection::frequencies(const View& view) {
     const bool isActive = view.isSet("freq_active");
     const double deviation = view.phasors.frequency - view["freq_f_grid"];
     const double delay = view["freq_T_delay"] + kCycle * view.settings[Setting<std::int32_t>("freq_N_cycle")];
-    const Durations hold{view["freq_T_hold"], view["freq_T_hold"]};
+    const Durations hold{view["freq_T_hold"], view["freq_T_hold_LED"]};
     const bool low = isActive && deviation <= -view["freq_df_min"],
                high = isActive && deviation >= view["freq_df_max"];
     signal(82, low, delay, hold);
