@@ -81,7 +81,9 @@ TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
 }
 
 TEST_F(TaluxChange, AsksBeforeItWrites) {
-    for (const auto& [keys, status] : {std::pair{"n\r", 1}, {"\r", 1}, {"\x04", 1}, {"yes\r", 0}}) {
+    for (const auto& [keys, status] :
+         {std::pair{"n\r", 1}, {"\r", 1}, {"\x04", 1}, {"yes\r", 0}, {"j\r", 0}}) {
+        reset();
         start({"set", "Uearth=35"});
         EXPECT_TRUE(waitFor("Write 1 setting? [y/N] "));
         EXPECT_EQ(value("Uearth"), "30.000000");
@@ -89,6 +91,13 @@ TEST_F(TaluxChange, AsksBeforeItWrites) {
         EXPECT_EQ(ended(), status) << keys;
         EXPECT_EQ(value("Uearth"), status == 0 ? "35.000000" : "30.000000") << keys;
     }
+    start({"set", "Uearth=36"});
+    EXPECT_TRUE(waitFor("[y/N] "));
+    say("TLX_Uearth=40");
+    type("y\r");
+    EXPECT_TRUE(waitFor("has changed meanwhile"));
+    EXPECT_EQ(ended(), 2);
+    EXPECT_EQ(value("Uearth"), "40.000000");
 }
 
 TEST_F(TaluxChange, APlanOfAllSettingsTakesATenthOfASecond) {
@@ -359,11 +368,14 @@ TEST_F(TaluxAddress, StaysWhenItIsConfirmed) {
     waitForTheEnd("10.1.2.3/24");
     EXPECT_NE(file("ip_config.ini").find("TLX_ETH0_IP=\"10.1.2.3\""), std::string::npos);
     EXPECT_EQ(talux("confirm").status, 2) << "nothing waits";
+    EXPECT_EQ(talux("set --yes FW_BLOCK=60").status, 0);
     EXPECT_EQ(logged(), "14 talux address: " + kChange +
                             ": applied, waits 60 s for `talux confirm`\n"
                             "14 talux address ETH0_IP ETH0_MASK: 2 settings by 0\n"
                             "14 talux confirm: " +
-                            kChange + " by 0 from 10.1.2.9\n");
+                            kChange +
+                            " by 0 from 10.1.2.9\n14 sec param: FW_BLOCK\n"
+                            "14 talux set FW_BLOCK: 1 setting by 0\n");
 }
 
 TEST_F(TaluxAddress, IsTakenBackWhenNobodyConfirms) {
@@ -374,6 +386,8 @@ TEST_F(TaluxAddress, IsTakenBackWhenNobodyConfirms) {
               "{\"written\":true," + std::string(kChangeInJson) + ",\"implausible\":[],\"confirmed\":false}");
     isBack();
     EXPECT_EQ(reached("10.1.2.3"), "");
+    EXPECT_NE(talux("address ETH1_IP=10.7.7.7 --yes --confirm 1").output.find("talux: eth1 has not got"),
+              std::string::npos);
     EXPECT_NE(talux("undo --yes").output.find("no change to take back"), std::string::npos);
     startChange(); // the command is killed with its group, the record damaged, the guard asked to end
     kill(-child, SIGKILL);

@@ -30,7 +30,9 @@ TEST_F(TaluxShell, CompletesNamesValuesOptionsAndWords) {
     EXPECT_TRUE(answers("uearth_sigdur_\t", "0.000000"));    // without the prefix
     type("TLX_Language=\t");
     EXPECT_TRUE(waitFor("1 = German") && waitFor("2 = English") && waitFor("TLX_Language="));
-    EXPECT_TRUE(answers("2,TLX_Language", "2.000000"));
+    EXPECT_TRUE(answers("2,TLX_Langua\t", "2.000000"));
+    type("TLX_qu2_active=\t");
+    EXPECT_TRUE(waitFor("0  1") && answers("1", ""));
     EXPECT_TRUE(answers("upd\t", "parameter successfully update"));
     type("TLX_MessRecord02 -\t");
     EXPECT_TRUE(waitFor("-c") && waitFor("TLX_MessRecord02 -"));
@@ -49,7 +51,7 @@ TEST_F(TaluxShell, SaysWhyALineIsRefused) {
     EXPECT_TRUE(answers("TLX_Uerth", "the nearest name is Uearth"));
     EXPECT_TRUE(answers("Uearth", "TLX_Uearth"));
     EXPECT_TRUE(answers("system ls", "talux shell --level 3"));
-    EXPECT_TRUE(answers("help Uearth", "threshold"));
+    EXPECT_TRUE(answers("help uearth_sigdel\t", ">Uearth delay"));
     EXPECT_TRUE(answers("?", "Tab completes"));
     EXPECT_EQ(end(), 0);
     start("--level=3");
@@ -67,6 +69,10 @@ TEST_F(TaluxShell, KeepsItsHistoryAndGivesALineUp) {
     EXPECT_TRUE(answers("\x10\x10", "3.000000")); // two lines up
     EXPECT_EQ(end(), 0);
     EXPECT_EQ(fs::status(directory / "talux/history").permissions(), fs::perms(0600));
+    unsetenv("XDG_STATE_HOME"), setenv("HOME", directory.c_str(), 1);
+    start();
+    EXPECT_EQ(end(), 0);
+    EXPECT_TRUE(fs::exists(directory / ".local/state/talux"));
 }
 
 TEST_F(TaluxShell, WatchShowsWhatFitsAndScrolls) {
@@ -76,6 +82,19 @@ TEST_F(TaluxShell, WatchShowsWhatFitsAndScrolls) {
     EXPECT_TRUE(waitFor("3 to 40 of 59") && waitFor("MessRecord01.U0p"));
     type(" ");
     EXPECT_TRUE(waitFor("22 to 59 of 59"));
+    type("k");
+    EXPECT_TRUE(waitFor("21 to 58 of 59"));
+    type("b");
+    EXPECT_TRUE(waitFor("1 to 38 of 59"));
+    type("q");
+    EXPECT_EQ(ended(), 0);
+    OnTerminal::start({"watch", "Name", "U0_prim", "--period", "0.1"});
+    EXPECT_TRUE(waitFor("U0_prim"));
+    std::string text(110, 'n');
+    VarSetGlobalFloatValue(rowOf("U0_prim")->id, 3),
+        VarSetGlobalValue(rowOf("Name")->id, asValue(text.data()));
+    EXPECT_TRUE(waitFor("*  Name     \033[33m\"") && waitFor("n\033[0m\033[K") && waitFor("  U0_prim  3 kV"));
+    EXPECT_EQ(shown.find('*'), shown.npos) << "measured";
     type("q");
     EXPECT_EQ(ended(), 0);
 }

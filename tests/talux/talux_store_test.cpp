@@ -145,7 +145,7 @@ TEST_F(TaluxStore, EachRuleOfPlausibilityHasSettingsThatBreakIt) {
                          .output;
     };
     const std::string factory = broken("");
-    // Each rule with settings that break it.
+    // Each rule with settings that break it; with "!", with some that do not.
     const char kBreaking[] =
         "range:Uearth=95 choice:BAassign3=0 time:sc_T_min_1=-5 current:qu2_Ice=700000 "
         "magnitude:harm1_Umin=-1 angle:cos_w_min=400 count:cos_cycle=-1 ratio:I1_sek_ref=-1 "
@@ -156,15 +156,19 @@ TEST_F(TaluxStore, EachRuleOfPlausibilityHasSettingsThatBreakIt) {
         "time-zone:TIMEZONE=/usr/share/zoneinfo/Mars mask:FW_ETH0_MASK=255.0.255.0 "
         "gateway:ETH0_GATEWAY=10.1.1.1 one-network:eth1_active=1,ETH1_IP=192.168.1.1 "
         "serial-port:VELMO_activ=1,DCF77_activ=1,VELMO_port=3 "
-        "tcp-twice:modbus_active=1,T104_active=1,Modbus_Port=2404";
+        "tcp-twice:modbus_active=1,T104_active=1,Modbus_Port=2404 time-zone:TIMEZONE=usr/share/zoneinfo/UTC "
+        "!method-off:adm_active=0,BAassign3=44 !no-output:BAassign1=24 !no-output:BAassign1=25 "
+        "!one-network:ETH1_IP=192.168.1.1 "
+        "one-network:eth1_active=1,ETH1_IP=192.169.1.1,ETH1_MASK=255.0.0.0";
     std::set<std::string> tried;
     for (const std::string& each : pieces(kBreaking, ' ')) {
-        const std::string code = pieces(each, ':')[0];
+        const bool breaks = !each.starts_with('!');
+        const std::string code = pieces(each.substr(breaks ? 0 : 1), ':')[0];
         std::string settings;
-        for (const std::string& setting : pieces(each.substr(code.size() + 1), ','))
+        for (const std::string& setting : pieces(each.substr(each.find(':') + 1), ','))
             settings += "TLX_" + setting + "\n";
-        EXPECT_EQ(factory.find(" " + code + " "), factory.npos) << code;
-        EXPECT_NE(broken(settings).find(" " + code + " "), factory.npos) << code;
+        EXPECT_TRUE(!breaks || factory.find(" " + code + " ") == factory.npos) << code;
+        EXPECT_EQ(broken(settings).find(" " + code + " ") != factory.npos, breaks) << each;
         tried.insert(code);
     }
     for (const talux::reference::PlausibilityRule& rule : talux::reference::kPlausibilityRules) {
@@ -314,16 +318,26 @@ TEST_F(TaluxStore, PatternsAndLongWordsTakeNoTime) {
 }
 
 TEST_F(TaluxStore, RowsAreQuotedAndNotMadeUpForAStandstill) {
-    char text[] = "a \"b\", c";
+    char text[] = "a. \"b\"; c";
     VarSetGlobalValue(rowOf("Name")->id, asValue(text));
-    const Ended watched =
-        run("talux watch --csv --period 0.1 --count 9 Name >/tmp/rows & talux=$!; sleep 0.15; "
-            "kill -STOP $talux; sleep 1; kill -CONT $talux; wait $talux; "
-            "tail -1 /tmp/rows | cut -d, -f2-; cut -c1-21 /tmp/rows | sort | uniq -c | grep -c '^ *[4-9]'; "
-            "rm /tmp/rows");
-    EXPECT_EQ(watched.output, "\"a \"\"b\"\", c\"\n0\n"); // tenths of a second with four rows or more
+    const Ended watched = run(
+        "talux watch --csv --decimal-comma --period 0.1 --count 9 Name >/tmp/rows & talux=$!; sleep 0.15; "
+        "kill -STOP $talux; sleep 1; kill -CONT $talux; wait $talux; "
+        "tail -1 /tmp/rows | cut -d';' -f2-; cut -c1-21 /tmp/rows | sort | uniq -c | grep -c '^ *[4-9]'; "
+        "rm /tmp/rows");
+    EXPECT_EQ(watched.output, "\"a. \"\"b\"\"; c\"\n0\n"); // tenths of a second with four rows or more
     VarSetGlobalFloatValue(rowOf("U1_prim")->id, NAN);
     EXPECT_EQ(run("talux watch U1_prim --csv --min-max --count 1 | sed 1,2d").output, "min,-\nmax,-\n");
+    char record[236] = {};
+    const float voltage = 2.5F;
+    double seven = 7;
+    std::memcpy(record + 12, &voltage, sizeof voltage);
+    VarSetGlobalStructValue(rowOf("MessRecord01")->id, record, sizeof record);
+    VarSetGlobalValue(rowOf("vBE")->id + 2, &seven);
+    EXPECT_EQ(run("talux watch MessRecord01.U1p 'vBE 3.4' --csv --count 1 | cut -d, -f2-; "
+                  "talux list --of live 'v?E' --json | tr -d ' \\n' | cut -c1-32")
+                  .output,
+              "MessRecord01.U1p,vBE 3,vBE 4\n2.5,7,0\n[{\"name\":\"vBE\",\"value\":[0,0,7,0,\n");
 }
 
 TEST_F(TaluxStore, HostileFilesEndInFindingsOrAnError) {
