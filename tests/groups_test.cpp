@@ -296,6 +296,8 @@ TEST_F(Groups, AreTakenAgainWhenNobodyUsesThem) {
     EXPECT_EQ(signalOf(children.back()), SIGKILL);
     for (int number = 100; number < 200; ++number)
         ASSERT_TRUE(Group(std::to_string(number), kFirst).attached()) << number;
+    const Group one("x", kFirst), same("x", kFirst); // shorter than the names before
+    EXPECT_TRUE(one.write(5) && same.read(values_after[0]));
     EXPECT_TRUE(read());
 }
 
