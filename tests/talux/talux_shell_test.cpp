@@ -30,7 +30,7 @@ TEST_F(TaluxShell, CompletesNamesValuesOptionsAndWords) {
     EXPECT_TRUE(answers("uearth_sigdur_\t", "0.000000"));    // without the prefix
     type("TLX_Language=\t");
     EXPECT_TRUE(waitFor("1 = German") && waitFor("2 = English") && waitFor("TLX_Language="));
-    EXPECT_TRUE(answers("2,TLX_Langua\t", "2.000000"));
+    EXPECT_TRUE(answers("2,3,TLX_Langua\t", "2.000000"));
     type("TLX_qu2_active=\t");
     EXPECT_TRUE(waitFor("0  1") && answers("1", ""));
     EXPECT_TRUE(answers("upd\t", "parameter successfully update"));
@@ -55,7 +55,10 @@ TEST_F(TaluxShell, SaysWhyALineIsRefused) {
     EXPECT_TRUE(answers("?", "Tab completes"));
     EXPECT_EQ(end(), 0);
     start("--level=3");
-    EXPECT_TRUE(answers("system echo hi", "> hi"));
+    type("system echo hi; exec sleep 60\r");
+    EXPECT_TRUE(waitFor("> hi"));
+    type("\x03"); // ends the command of the line alone
+    EXPECT_TRUE(waitFor(kPrompt));
 }
 
 TEST_F(TaluxShell, KeepsItsHistoryAndGivesALineUp) {
