@@ -329,9 +329,8 @@ TEST_F(TaluxStore, RowsAreQuotedAndNotMadeUpForAStandstill) {
     VarSetGlobalFloatValue(rowOf("U1_prim")->id, NAN);
     EXPECT_EQ(run("talux watch U1_prim --csv --min-max --count 1 | sed 1,2d").output, "min,-\nmax,-\n");
     char record[236] = {};
-    const float voltage = 2.5F;
     double seven = 7;
-    std::memcpy(record + 12, &voltage, sizeof voltage);
+    record[14] = 0x20, record[15] = 0x40; // of a float 2.5
     VarSetGlobalStructValue(rowOf("MessRecord01")->id, record, sizeof record);
     VarSetGlobalValue(rowOf("vBE")->id + 2, &seven);
     EXPECT_EQ(run("talux watch MessRecord01.U1p 'vBE 3.4' --csv --count 1 | cut -d, -f2-; "
