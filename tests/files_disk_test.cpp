@@ -344,7 +344,9 @@ TEST_F(Disk, IsReadWholeWhileOthersSaveAndAreKilled) {
     }
     for (const char* name : {".talux-save-0.tmp", ".talux-save-3.tmp"}) // with a gap between them
         write(name, "TLX_channel=9\n");
-    ASSERT_EQ(mkfifo((directory / ".talux-save-1.tmp").c_str(), 0600), 0); // no save has left that
+    const fs::path foreign = directory / ".talux-save-1.tmp"; // which no save has left
+    fs::remove(foreign);                                      // but perhaps one of the killed, under its name
+    ASSERT_EQ(mkfifo(foreign.c_str(), 0600), 0);
     EXPECT_EQ(save(0), 1);
     EXPECT_EQ(contents(path), whole[0]);
     for (const auto& [name, content] : old)
