@@ -235,11 +235,13 @@ TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
 
 // Who sees the flag finds the new values.
 TEST_F(Disk, ALoadRaisesItsFlagAfterwards) {
-    for (const auto load : {VarLoadParams, VarLoadSecParams, VarLoadIPConfig}) {
+    for (const auto& [load, file] : {std::pair<int (*)(), const char*>{VarLoadParams, "parameter.ini"},
+                                     {VarLoadSecParams, "sec_parameter.ini"},
+                                     {VarLoadIPConfig, "ip_config.ini"}}) {
         begin();
         perform({load, 0, {}, ""});
         const auto all = done();
-        EXPECT_TRUE(all.front().starts_with("open ")) << all.front();
+        EXPECT_EQ(all.front(), std::string("open ") + file);
         EXPECT_EQ(std::ranges::count_if(all, [](const auto& step) { return step.starts_with("raise"); }), 1);
     }
 }

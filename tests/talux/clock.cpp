@@ -1,5 +1,5 @@
-// Loaded before the C library: at each look the clock of the day is another hour ahead. Who waits by it does
-// not wait.
+// Loaded before the C library: each look finds the clock of the day another hour ahead. A program that waits
+// by it does not wait.
 #include <atomic>
 #include <ctime>
 #include <sys/syscall.h>
