@@ -35,11 +35,16 @@ case("refusals", inFolder(function()
     {"--scenario good none/log", 2, "talux-desk: none/log: No such file or directory\n"},
     {"--scenario good --check", 0, ""},
     {"--check", 0, ""},
+    {"--check --speed 0.01 && " .. desk .. " --check --speed 1000", 0, ""},
+    {"--speed 0.0099", 2, "talux-desk: --speed 0.0099: must be 0.01 to 1000\n" .. hint},
+    {"--speed 1000.1", 2, "talux-desk: --speed 1000.1: must be 0.01 to 1000\n" .. hint},
     {"--speed 0", 2, "talux-desk: --speed 0: must be 0.01 to 1000\n" .. hint},
     {"--speed 1x", 2, "talux-desk: --speed 1x: must be 0.01 to 1000\n" .. hint},
     {"one two", 2, "talux-desk: two is not expected here\n" .. hint},
     {"-h | head -n 1", 0, "Usage: talux-desk [OPTION...] [LOGFILE]\n"},
-    {"--scenario good --plot x.svg && grep -c '</svg>' x.svg", 0, "1\n"},
+    {"--scenario good --plot x.svg && grep -o '>[0-9]* s<' x.svg", 0, ">0 s<\n>1 s<\n"},
+    {"--check; for s in 10 30 31; do echo \"at $s s end\" >good; " .. desk .. " --scenario good --plot x.svg; grep -c ' s</text>' x.svg; done",
+      0, "11\n16\n4\n"},
   } do
     equal(shell(desk .. " " .. row[1]), row[3] .. row[2] .. "\n", row[1])
   end

@@ -86,7 +86,7 @@ std::string Plot::svg(const std::string& title) const {
         top += kRowHeight;
     }
     const double step = end() > 30 ? 10 : end() > 10 ? 2 : 1;
-    for (double second = 0; second <= end(); second += step)
+    for (double second = 0; second <= end() + kCycle / 2; second += step)
         svg += talux::formatted("<text x=\"%.1f\" y=\"%.1f\">%g s</text>\n", x(second), top + 18, second);
     return svg + "</svg>\n";
 }

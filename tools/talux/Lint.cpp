@@ -289,7 +289,7 @@ struct LuaLint {
             if (token.is("elseif") || token.is("end") || token.is("until"))
                 --depth; // of elseif "then" follows
             if (depth > 0) continue;
-            if (isWhile || at(word + 1).is("false"))
+            if (isWhile || (at(word + 1).is("false") && !at(word + 2).is("or")))
                 say(k, "never ends and never pauses: talux.every and talux_usleep do",
                     "endet nie und macht keine Pause: talux.every und talux_usleep tun es");
             return;
@@ -304,13 +304,13 @@ struct LuaLint {
             say(k, "the module has no function {}", "das Modul hat keine Funktion {}", name);
     }
 
-    // Moves to what follows the next comma of the argument list; false when the list ends before.
+    // Moves to what follows the next separator of the arguments or of the table; false when they end before.
     bool skipArgument(std::size_t& k) const {
         for (int depth = 0; k + 1 < tokens.size(); ++k) {
             if (at(k).is("(") || at(k).is("{") || at(k).is("[")) ++depth;
             if (at(k).is(")") || at(k).is("}") || at(k).is("]")) --depth;
             if (depth < 0) return false;
-            if (depth == 0 && at(k).is(",")) return ++k, true;
+            if (depth == 0 && (at(k).is(",") || at(k).is(";"))) return ++k, true;
         }
         return false;
     }
@@ -331,7 +331,8 @@ std::string luaBlocksOf(const std::string& page) {
     bool isFenced = false, isLua = false;
     for (const std::string_view line : linesOf(page)) {
         const std::string_view text = kepl::withoutLeading(line, ' ');
-        const bool isFence = text.starts_with("```");
+        const bool isFence =
+            text.starts_with("```") && (!isFenced || text.find_first_not_of("` \r") == text.npos);
         if (isFence) {
             isLua = !isFenced && text.substr(3, 3) == "lua";
             isFenced = !isFenced;
