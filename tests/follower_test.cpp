@@ -81,6 +81,24 @@ TEST_F(Followers, LookTwiceAgainAfterAChangeThatWentBack) {
     EXPECT_TRUE(follower.poll());
 }
 
+// Each byte of a value space belongs to one setting, whose change is seen, or to none.
+TEST(FollowerSettings, DifferInEachOfTheirBytes) {
+    static stVarSpace one{}, other{};
+    auto* const bytes = reinterpret_cast<char*>(&other);
+    std::vector<int> owners(sizeof other);
+    for (const detail::SettingBytes& each : detail::kSettings)
+        std::fill_n(owners.begin() + each.offset, each.size, each.id);
+    for (std::size_t k = 0; k < owners.size(); ++k) {
+        bytes[k] = 1;
+        std::vector<int> found;
+        for (const Difference difference : Differences(one, other))
+            found.push_back(difference.id());
+        ASSERT_EQ(found, owners[k] == 0 ? std::vector<int>() : std::vector{owners[k]}) << k;
+        ASSERT_EQ(detail::agree(one, other), owners[k] == 0) << k;
+        bytes[k] = 0;
+    }
+}
+
 // With something else pending, the snapshot is settled after a while without changes.
 TEST_F(Followers, DoNotWaitForWhatStaysPending) {
     Follower follower;

@@ -57,6 +57,8 @@ TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
     const std::pair<Result, const char*> refusals[] = {
         {threshold.stage(95), "Uearth = 95: VALUE TOO HIGH (1 to 90 %)"},
         {ratio.stage(0.09), "knu1 = 0.09: VALUE TOO LOW (0.1 to 90000)"},
+        {ratio.stage(0.0626), "knu1 = 0.062: VALUE TOO LOW (0.1 to 90000)"},
+        {ratio.stage(0.0628), "knu1 = 0.063: VALUE TOO LOW (0.1 to 90000)"},
         {limit.stage(-2LL), "BAF_cnt_val_dT1 = -2: VALUE TOO LOW (-1 to 100000)"},
         {limit.stage(1ULL << 63), "BAF_cnt_val_dT1 = ..: VALUE TOO HIGH (-1 to 100000)"},
         {threshold.stage(std::nan("")), "Uearth: NOT A NUMBER"},
@@ -194,7 +196,7 @@ void tryEdges() {
             if (!exists) element.set(7);
             EXPECT_EQ(element.get(), exists ? static_cast<Value>(index) : 0) << row.name << index;
             const auto left = static_cast<std::size_t>(exists ? row.run - index + 1 : 0);
-            EXPECT_TRUE(static_cast<bool>(element) == exists &&
+            EXPECT_TRUE(static_cast<bool>(element) == exists && !element.at(1) &&
                         element.get_run(std::span(read).first(left)) &&
                         !element.set_run(std::span(tooMany).first(left + 1)))
                 << row.name << index;
@@ -223,6 +225,7 @@ TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
         for (const About parameter : parameters()) {
             const std::string_view known = GetParamString(parameter.id(), kTextTitle)->txt;
             const std::string_view title = parameter.title(language);
+            EXPECT_FALSE(parameter.name().empty()) << parameter.id();
             EXPECT_EQ(title, known == "***" ? "" : known) << parameter.name();
             if (!title.empty() && !parameter.unit(language).empty()) found.emplace(parameter.name());
         }

@@ -62,12 +62,19 @@ struct Method {
     double delay;                                     // of the factory settings, cycles included
     double (*measured)(const Cycle& cycle) = nullptr; // what is compared with the threshold
 };
+// Degrees between the residual current and the line of the residual voltage.
+double fromReal(const Cycle& cycle) {
+    return std::fabs(std::remainder(value(cycle, "phiUI0"), 180));
+}
 // clang-format off
 constexpr Method kMethods[] = {
     {"transient", kResonant, "qu2_active", "qu2_Ice", 28, 0},
     {"sustained", kResonant, "qu2_DE_active", "qu2_Ice", 30, 1},
     {"cos(phi)", kResonant, "cos_active", "cos_Iw_min", 34, 0.1,
      [](const Cycle& cycle) { return -value(cycle, "P0_prim") / value(cycle, "U0_prim"); }},
+    {"cos(phi), angle", kResonant, "cos_active", "cos_w_min", 34, 0.1,
+     [](const Cycle& cycle) { return 90 - fromReal(cycle); }},
+    {"sin(phi), angle", kIsolated, "sin_active", "sin_w_min", 36, 0.1, fromReal},
     {"sin(phi)", kIsolated, "sin_active", "sin_I_min", 36, 0.1,
      [](const Cycle& cycle) { return std::fabs(value(cycle, "Q0_prim")) / value(cycle, "U0_prim"); }},
     {"cos and sin", kIsolated, "cos_sin_active", "CosSin_I_min", 38, 0.06,
@@ -182,7 +189,8 @@ TEST(DeskDetection, BeginsWhatTheSettingsSay) {
         {"the faulty phase and its delay", faultAt2(kIsolated, "forward"), {}, 0, with({})},
         {"two phases are low", isolated + fault + "forward\nat 2 s fuse U3 missing\nat 4 s end\n", {}, 0,
          {{16, 2}, {17, 3}, {24, 2}, {28, 2}, {30, 3}}},
-        {"too small a U0", isolated + "at 2 s earth fault L2 3000 ohm forward\nat 5 s end\n", {}, 0, {}},
+        {"too small a U0, whatever flows", isolated + reversed + "at 2 s load 100 A\n"
+         "at 2 s earth fault L2 3000 ohm forward\nat 5 s end\n", {kCosActive, kSinActive, "cos_sin_active"}, 0, {}},
         {"a delay begins anew when the direction changes", isolated + fault + "forward\nat 2.06 s fault cleared\n"
          "at 2.06 s earth fault L1 solid backward\nat 5 s end\n", {kSinActive}, 0,
          with({{25, 2.06}, {33, 2.06}, {37, 2.15}})},

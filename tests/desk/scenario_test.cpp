@@ -86,6 +86,7 @@ TEST(DeskScenario, ChangesWhatItsStatementsSay) {
         {"transformer U2 reversed", "transformer U2 normal", &R::wU2, 60},
         {"transformer I2 reversed", "transformer I2 normal", &R::wUI2, 180},
         {"transformers I1 I2 swapped", "transformers I1 I2 normal", &R::wUI1, 120},
+        {"transformers I1 I2 swapped", "transformers I1 I2 normal", &R::wUI2, -120},
         {"fuse U2 missing", "fuse U2 restored", &R::U2p, 0},
         {"conductor L2 open", "conductor L2 closed", &R::I2p, 0},
         {"rotation reversed", "rotation normal", &R::wU2, 120},
@@ -98,6 +99,7 @@ TEST(DeskScenario, ChangesWhatItsStatementsSay) {
         {"short circuit L1 L2 500 A forward", "fault cleared", &R::wUI1, 11.23},
         {"short circuit L2 L1 500 A forward", "fault cleared", &R::I1p, 588.71},
         {"short circuit L1 L2 500 A backward", "fault cleared", &R::U12p_a, 12},
+        {"short circuit L1 L2 500 A backward", "fault cleared", &R::I1p, 100},
         {"earth fault L1 solid backward", "fault cleared", &R::U1p, 0},
         {"restriking earth fault L1 solid forward every 20 s for 19 s", "fault cleared", &R::U1p, 0},
     };
@@ -177,12 +179,15 @@ struct DeskReplay : testing::Test {
 constexpr double kRate = 4000;
 
 // Sines of these amplitudes and angles, as a relay would record them.
-std::string configuration(const char* format) {
-    std::string text = "Station,Relay,1999\n6,6A,0D\n";
+std::string configuration(const char* format, int digital = 0) {
+    std::string text =
+        "Station,Relay,1999\n" + std::to_string(6 + digital) + ",6A," + std::to_string(digital) + "D\n";
     const char* phases[] = {"A", "B", "C"};
     for (int k = 0; k < 6; ++k)
         text += std::to_string(k + 1) + ",ch," + phases[k % 3] + ",," + (k < 3 ? "kV" : "A") +
                 ",0.01,0,0,-32767,32767,1,1,P\n";
+    for (int k = 0; k < digital; ++k)
+        text += "1,d,,,0\n";
     return text + "50\n1\n4000,800\n01/02/2024,10:00:00.000000\n01/02/2024,10:00:00.100000\n" + format +
            "\n1\n";
 }
@@ -192,8 +197,9 @@ double raw(int channel, int n) {
     return amplitude * std::cos(2 * std::numbers::pi * 50 * n / kRate + angle * std::numbers::pi / 180) /
            0.01;
 }
+// 16 digital channels have a word.
 template <class Number>
-std::string binary() {
+std::string binary(int words = 0) {
     std::string data;
     const auto append = [&data](auto value) {
         data.append(reinterpret_cast<const char*>(&value), sizeof value);
@@ -204,6 +210,8 @@ std::string binary() {
         for (int channel = 0; channel < 6; ++channel)
             append(static_cast<Number>(std::is_integral_v<Number> ? std::round(raw(channel, n))
                                                                   : raw(channel, n)));
+        for (int word = 0; word < words; ++word)
+            append(std::int16_t{-1});
     }
     return data;
 }
@@ -222,13 +230,17 @@ TEST_F(DeskReplay, FindsThePhasorsOfComtrade) {
     const struct {
         const char* format;
         std::string data;
+        int digital = 0;
     } cases[] = {{"ASCII", ascii()},
                  {"BINARY", binary<std::int16_t>()},
+                 {"BINARY", binary<std::int16_t>(1), 1},
+                 {"BINARY", binary<std::int16_t>(1), 16},
+                 {"BINARY", binary<std::int16_t>(2), 17},
                  {"BINARY32", binary<std::int32_t>()},
                  {"float32", binary<float>()}};
-    for (const auto& [format, data] : cases) {
+    for (const auto& [format, data, digital] : cases) {
         SCOPED_TRACE(format);
-        const std::string path = write("record.cfg", configuration(format));
+        const std::string path = write("record.cfg", configuration(format, digital));
         write("record.dat", data);
         const auto recording = openRecording(path);
         Sample sample;
@@ -332,6 +344,8 @@ TEST_F(DeskReplay, ReplaysWhatWatchHasWritten) {
         bench.run("network isolated 20 kV\nload 0 A drift 0 %\nat 1 s replay " + path + "\nat 5 s end\n");
     EXPECT_NEAR(cycles[60].record.U1p, 11, 1e-3);
     EXPECT_NEAR(cycles[60].record.wUI1, 30, 1e-3);
+    EXPECT_NEAR(cycles[60].record.U0p, 0.57735, 1e-3) << "a third of the sum";
+    EXPECT_NEAR(cycles[60].record.I0p, 1.73205, 1e-3) << "the sum";
     EXPECT_NEAR(cycles[110].record.U1p, 10, 1e-3);
     EXPECT_EQ(cycles[110].record.f_grid, 50);
     EXPECT_NEAR(cycles.back().record.I1p, 0, 3) << "the network again";

@@ -14,7 +14,7 @@ struct TaluxShell : OnTerminal {
     }
     void start(const char* option = "--level=2") {
         OnTerminal::start({"shell", option});
-        waitFor(kPrompt);
+        EXPECT_TRUE(waitFor("quit ends.\r\n") && waitFor(kPrompt));
     }
 
     // Types a line and gives what stands between it and the next prompt.
@@ -65,7 +65,7 @@ TEST_F(TaluxShell, KeepsItsHistoryAndGivesALineUp) {
     start();
     EXPECT_TRUE(answers("1,2,+", "3.000000"));
     type("TLX_Uearth=77\x03");
-    EXPECT_TRUE(waitFor(kPrompt));
+    EXPECT_TRUE(waitFor("^C\r\n") && waitFor(kPrompt));
     EXPECT_TRUE(answers("TLX_Uearth", std::to_string(rowOf("Uearth")->val_def)));
     EXPECT_EQ(end(), 0);
     start();
@@ -76,6 +76,10 @@ TEST_F(TaluxShell, KeepsItsHistoryAndGivesALineUp) {
     start();
     EXPECT_EQ(end(), 0);
     EXPECT_TRUE(fs::exists(directory / ".local/state/talux"));
+    setenv("HOME", "/dev/null", 1); // where no history can be
+    start();
+    EXPECT_TRUE(answers("1,2,+", "3.000000"));
+    EXPECT_EQ(end(), 0);
 }
 
 TEST_F(TaluxShell, WatchShowsWhatFitsAndScrolls) {
