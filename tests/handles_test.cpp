@@ -159,6 +159,7 @@ TEST_F(Handles, MeasuredValuesAreLiveAtOnce) {
         EXPECT_EQ(result.text(),
                   result ? "" : "SampleFile: TEXT TOO LONG (" + count + " bytes, at most 127)");
         EXPECT_EQ(file.set(std::string(bytes, 'x')).reason(), bytes > 127 ? Reason::tooLong : Reason::none);
+        EXPECT_EQ(file.get(), std::string(std::min<std::size_t>(bytes, 127), 'x')) << "not of a refused one";
     }
     EXPECT_EQ(Text(std::string(128, 'x')), std::string(127, 'x'));
     EXPECT_EQ(Address("12345678901234567890"), "1234567890123456789");
@@ -253,6 +254,27 @@ std::string field(const std::string& text) {
     for (const char c : text)
         quoted.append(c == '"' ? 2 : 1, c);
     return quoted + '"';
+}
+
+TEST_F(Handles, FilesAreSavedAndLoadedOrSayWhyNot) {
+    char directory[] = "/tmp/handles", missing[] = "/tmp/nothing";
+    const struct {
+        const char* name;
+        Result (Store::*save)();
+        Result (Store::*load)();
+    } files[] = {{"parameter.ini", &Store::save, &Store::load},
+                 {"sec_parameter.ini", &Store::save_sec, &Store::load_sec},
+                 {"ip_config.ini", &Store::save_ip, nullptr}}; // whose load acts on the network
+    std::filesystem::create_directory(directory);
+    for (const auto& [name, save, load] : files) {
+        VarInit(directory);
+        EXPECT_TRUE(load == nullptr || (store.*load)().reason() == Reason::notLoaded) << name;
+        EXPECT_TRUE((store.*save)() && std::filesystem::exists(std::string(directory) + "/" + name)) << name;
+        EXPECT_TRUE(load == nullptr || (store.*load)()) << name;
+        VarInit(missing);
+        EXPECT_EQ((store.*save)().text(), "NOT SAVED: No such file or directory") << name;
+    }
+    std::filesystem::remove_all(directory);
 }
 
 TEST_F(Handles, NotesAreThoseOfTheListOfParameters) {

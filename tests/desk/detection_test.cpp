@@ -120,6 +120,14 @@ TEST(DeskDetection, SignalsInTheDirectionOfTheFaultAfterItsDelay) {
         }
 }
 
+TEST(DeskDetection, HasNoDirectionBetweenTheAngles) {
+    Bench bench;
+    bench.set(Setting<bool>{"cos_sin_active"}, true);
+    bench.set(kCosSinAngle1, 40.0F), bench.set(kCosSinAngle2, 50.0F); // the current is at 90
+    bench.run(faultAt2(kIsolated, "forward"));
+    EXPECT_EQ(bench.begins(38) + bench.begins(39), -2);
+}
+
 TEST(DeskDetection, ComparesTheChargeWithTheThresholdsOfTransientAndRestriking) {
     constexpr Setting<float> kThresholds[] = {"qu2_Ice", "qui_Ice"};
     for (const bool forward : {true, false}) {

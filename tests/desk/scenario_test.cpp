@@ -84,6 +84,8 @@ TEST(DeskScenario, ChangesWhatItsStatementsSay) {
         double changed;
     } cases[] = {
         {"transformer U2 reversed", "transformer U2 normal", &R::wU2, 60},
+        {"transformer I1 reversed", "transformer I1 normal", &R::wUI1, 180},
+        {"transformer U3 reversed", "transformer U3 normal", &R::wU3, -60},
         {"transformer I2 reversed", "transformer I2 normal", &R::wUI2, 180},
         {"transformers I1 I2 swapped", "transformers I1 I2 normal", &R::wUI1, 120},
         {"transformers I1 I2 swapped", "transformers I1 I2 normal", &R::wUI2, -120},
@@ -274,7 +276,7 @@ TEST_F(DeskReplay, FindsTheSamePhasorsHoweverChannelsAreDescribed) {
          {with({{"kV,0.01", "V,10"}}), with({{"A,0.01", "kA,0.00001"}}),
           with({{",A,,", ",L1,,"}, {",C,,", ",3,,"}}),
           with({{"kV,0.01", "kV,0.0001"}, {"A,0.01", "A,0.0001"}, {"1,1,P", "100,1,S"}}),
-          with({{"1,1,P", "9,0,s"}}), with({{",1,1,P", ""}}),
+          with({{"1,1,P", "9,0,s"}}), with({{",1,1,P", ""}}), with({{"Station,Relay,1999", "Station,Relay"}}),
           with({{"6,6A,0D", "8 , 6a, 2d "}, {"50\n1\n", "1,d\n2,d\n50\n1\n"}})})
         for (std::size_t k = 0; k < 4; ++k) {
             EXPECT_NEAR(std::abs(sample.voltage[k] - wanted.voltage[k]), 0, 1e-6);
@@ -301,6 +303,8 @@ TEST_F(DeskReplay, SaysWhatIsWrongWithARecording) {
         {"4000,800", "4000,900", "record.dat: sample 801: the file ends here"},
         {"4000,800", "100,800", "record.cfg:11: at least four samples a cycle are needed"},
         {"4000,800", "4000,1e30", "record.cfg:11: from 1 to 20 million samples"},
+        {"4000,800", "4000,1", "none"},
+        {"4000,800", "4000,0.9", "record.cfg:11: from 1 to 20 million samples"},
         {"4000,800", "4000,0", "record.cfg:11: from 1 to 20 million samples"},
         {"4000,800", "4000", "record.cfg:11: at least 2 fields expected"},
         {"4000,800", "inf,800", "record.cfg:11: the sampling rate is a number, not 'inf'"},

@@ -31,7 +31,9 @@ TEST_F(TaluxShell, CompletesNamesValuesOptionsAndWords) {
     type("TLX_Language=\t");
     EXPECT_TRUE(waitFor("1 = German") && waitFor("2 = English") && waitFor("TLX_Language="));
     EXPECT_TRUE(answers("2,3,TLX_Langua\t", "2.000000"));
-    type("TLX_qu2_active=\t");
+    type("TLX_Uearth=\t5");
+    EXPECT_TRUE(answers("", "")); // a number has nothing to offer
+    type("TLX_nosuch=\t\x03TLX_qu2_active=\t");
     EXPECT_TRUE(waitFor("0  1") && answers("1", ""));
     EXPECT_TRUE(answers("upd\t", "parameter successfully update"));
     type("TLX_MessRecord02 -\t");
@@ -51,7 +53,7 @@ TEST_F(TaluxShell, SaysWhyALineIsRefused) {
     EXPECT_TRUE(answers("TLX_Uerth", "the nearest name is Uearth"));
     EXPECT_TRUE(answers("Uearth", "TLX_Uearth"));
     EXPECT_TRUE(answers("system ls", "talux shell --level 3"));
-    EXPECT_TRUE(answers("help uearth_sigdel\t", ">Uearth delay"));
+    EXPECT_TRUE(answers("help uearth_sigde\t", ">Uearth delay"));
     EXPECT_TRUE(answers("?", "Tab completes"));
     EXPECT_EQ(end(), 0);
     start("--level=3");
