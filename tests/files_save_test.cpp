@@ -104,13 +104,13 @@ struct Save : InDirectory {
     void check(const File& file, const std::string& whole) {
         std::string path = directory / "file";
         std::ofstream(path) << std::string(99999, '#');
-        chmod(path.c_str(), 0640);
+        chmod(path.c_str(), 02640);
         const struct stat before = statusOf(path);
         EXPECT_EQ(outcomeOf([&] { return file.save(path.data()); }), Outcome(1, "", ""));
         EXPECT_EQ(contents(path), whole);
         const struct stat after = statusOf(path);
         const bool keeps = &file == &kIps;
-        EXPECT_EQ(after.st_mode & 07777, keeps ? 0640 : 0775);
+        EXPECT_EQ(after.st_mode & 07777, keeps ? 02640 : 0775);
         if (keeps) ownerGiven = before.st_uid, groupGiven = before.st_gid, isGiven = true;
         EXPECT_TRUE(keeps || (ownerGiven == 0 && groupGiven == file.group));
         EXPECT_TRUE(!isGiven || std::tuple(after.st_uid, after.st_gid) == std::tuple(ownerGiven, groupGiven));

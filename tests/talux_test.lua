@@ -255,6 +255,23 @@ case("a write that does not arrive takes the others back", function()
   equal(talux.protocol(talux.apply(before), "en"):match '%S+ %-> %S+$', '"after" -> "before"', "the only change")
 end)
 
+case("a value that becomes another one is taken back", function()
+  local loaded, real, locale = {}, talux_command, os.setlocale()
+  for name, module in pairs(package.loaded) do
+    if name:find "^talux" then loaded[name], package.loaded[name] = module, nil end
+  end
+  talux_command = function(line) return real((line:gsub("^TLX_Uearth=41", "TLX_Uearth=42"))) end
+  os.setlocale "C" -- in which source text is read
+  local other = require "talux"
+  local before = other.get "Uearth"
+  other.set("Uearth", before)
+  os.setlocale(locale)
+  refused("Uearth = 41: NOT STORED (reads 42)", other.set, "Uearth", 41)
+  talux_command = real
+  for name, module in pairs(loaded) do package.loaded[name] = module end
+  equal(talux.get "Uearth", before, "as before")
+end)
+
 case("elements, series and records come as tables", function()
   local written = {vMWR = {}, vBE = {}, OVR_MW_val = {}}
   for k = 1, 32 do

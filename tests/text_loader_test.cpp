@@ -87,6 +87,14 @@ TEST_F(TextLoader, FillsRowsFromTheFirstOn) {
     load(title("VAR_Name", "nothing") + title("VAR_Name", "second"));
     EXPECT_EQ(titleOf(9000), "second");
     EXPECT_EQ(titleOf(9001), "nothing");
+    int compiledRow = 1; // of the first text with this id
+    while (DefParamText[compiledRow].id != 9000)
+        ++compiledRow;
+    std::string rows = kSentinel + title("VAR_Name", "first");
+    for (int row = 2; row < compiledRow; ++row)
+        rows += title("VAR_Abg", "");
+    load(rows + title("VAR_Name", "second"));
+    EXPECT_EQ(titleOf(9000), "first");
     load("\n");
     EXPECT_EQ(titleOf(9000), "***") << "an empty file leaves no text";
     LoadDefParamStrings();

@@ -32,6 +32,7 @@ case("refusals", inFolder(function()
     {"--scenario ./replay --plot x.svg", 2, "talux-desk: ./none.csv: cannot be read\n"},
     {"--scenario /tmp/desk/replay --plot x.svg", 2, "talux-desk: /tmp/desk/none.csv: cannot be read\n"},
     {"--scenario good --plot none/x.svg", 2, "talux-desk: none/x.svg: No such file or directory\n"},
+    {"--scenario good log; " .. desk .. " --scenario good log; grep -c Uearth log", 0, "ready\nready\n1\n"},
     {"--scenario good none/log", 2, "talux-desk: none/log: No such file or directory\n"},
     {"--scenario good --check", 0, ""},
     {"--check", 0, ""},

@@ -48,7 +48,7 @@ constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kQu2
     kScActive{"sc_active"}, kScDirActive{"sc_dir_active"}, kScEActive{"sc_class_E_active"},
     kFreqActive{"freq_active"}, kUenCalc{"Uen_calc"}, k3IoCalc{"3Io_calc"};
 constexpr Setting<std::int32_t> kQuiCount{"qui_n"};
-constexpr Setting<talux::Choice> kPrioList3{"prio_list_3"};
+constexpr Setting<talux::Choice> kPrioList10{"prio_list_10"};
 constexpr Setting<talux::choice::BApol> kBApol6{"BApol6"}, kLEDpol10{"LEDpol10"};
 constexpr Setting<talux::choice::BEpol> kBEpol2{"BEpol2"};
 constexpr Setting<talux::choice::Upol> kIpol2{"Ipol2"};
@@ -191,7 +191,7 @@ TEST(DeskDetection, BeginsWhatTheSettingsSay) {
         const char* what;
         std::string scenario;
         std::vector<Setting<bool>> on;
-        short thirdOfList; // 0: as from the factory
+        short lastOfList; // 0: as from the factory
         Begins begins; // of all functions that begin: the second
     } cases[] = {
         {"the faulty phase and its delay", faultAt2(kIsolated, "forward"), {}, 0, with({})},
@@ -216,11 +216,11 @@ TEST(DeskDetection, BeginsWhatTheSettingsSay) {
         {"high frequency", "network isolated 20 kV\nat 2 s frequency 50.2 Hz\nat 9 s end\n", {kFreqActive}, 0, {{83, 5.05}, {84, 5.05}}},
     };
     // clang-format on
-    for (auto [what, scenario, on, thirdOfList, begins] : cases) {
+    for (auto [what, scenario, on, lastOfList, begins] : cases) {
         Bench bench;
         for (const Setting<bool> setting : on)
             bench.set(setting, true);
-        if (thirdOfList != 0) bench.set(kPrioList3, static_cast<talux::Choice>(thirdOfList));
+        if (lastOfList != 0) bench.set(kPrioList10, static_cast<talux::Choice>(lastOfList));
         EXPECT_EQ(bench.run(scenario).back().outputs.words.of("y_ShortCircuitState"),
                   begins.contains(57) || begins.contains(87))
             << what;

@@ -275,7 +275,10 @@ TEST_F(DeskReplay, FindsTheSamePhasorsHoweverChannelsAreDescribed) {
     for (const Sample& sample :
          {with({{"kV,0.01", "V,10"}}), with({{"A,0.01", "kA,0.00001"}}),
           with({{",A,,", ",L1,,"}, {",C,,", ",3,,"}}),
-          with({{"kV,0.01", "kV,0.0001"}, {"A,0.01", "A,0.0001"}, {"1,1,P", "100,1,S"}}),
+          with({{"kV,0.01", "kV,0.0001"},
+                {"A,0.01", "A,0.0001"},
+                {"1,1,P", "100,1,S"},
+                {"A,0.0001,0,0,-32767,32767,100,1,S", "A,0.0002,0,0,-32767,32767,50,1,s"}}),
           with({{"1,1,P", "9,0,s"}}), with({{",1,1,P", ""}}), with({{"Station,Relay,1999", "Station,Relay"}}),
           with({{"6,6A,0D", "8 , 6a, 2d "}, {"50\n1\n", "1,d\n2,d\n50\n1\n"}})})
         for (std::size_t k = 0; k < 4; ++k) {
@@ -356,6 +359,7 @@ TEST_F(DeskReplay, ReplaysWhatWatchHasWritten) {
     const std::string row = ",11,12,13,100,101,102,30,30,30\n", first = "2026-11-25 23:59:59.000" + row;
     const std::pair<std::string, const char*> cases[] = {
         {head + "2026-11-25 10:00:00.000" + row + first + "2026-11-26 02:00:00.000" + row, "none"},
+        {head + "2026-11-25 10:00:00.000,\"11,5\",12,13,100,101,102,30,30,\"30\"\n", "none"},
         {"", "feeder.csv: cannot be read"},
         {"time,U1_prim\n", "feeder.csv:1: no column U2_prim"},
         {head, "feeder.csv: no rows of values"},

@@ -234,8 +234,16 @@ void useFiles() {
 
 int main() {
 #ifdef TALUX_ON_FAKE
-    Fake().fail_saves(ENOSPC); // of which the next one knows nothing
+    constexpr Record<StatRecord_c0> statistics; // the last record
+    {
+        Fake before; // of which the next one knows nothing
+        before.fail_saves(ENOSPC);
+        StatRecord_c0 values{};
+        values.dT = 60;
+        statistics.set(values);
+    }
     const Fake fake;
+    if (statistics.get().dT != 0) std::puts("a record is left");
 #else
     VarClean();
     std::filesystem::create_directory(folder);
