@@ -261,7 +261,7 @@ case("a value that becomes another one is taken back", function()
     if name:find "^talux" then loaded[name], package.loaded[name] = module, nil end
   end
   talux_command = function(line) return real((line:gsub("^TLX_Uearth=41", "TLX_Uearth=42"))) end
-  os.setlocale "C" -- in which source text is read
+  os.setlocale "C" -- Lua cannot read 0.5 in a source where the decimal point has two bytes
   local other = require "talux"
   local before = other.get "Uearth"
   other.set("Uearth", before)
