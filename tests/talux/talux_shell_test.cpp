@@ -53,7 +53,9 @@ TEST_F(TaluxShell, SaysWhyALineIsRefused) {
     EXPECT_TRUE(answers("TLX_Uerth", "the nearest name is Uearth"));
     EXPECT_TRUE(answers("Uearth", "TLX_Uearth"));
     EXPECT_TRUE(answers("system ls", "talux shell --level 3"));
-    EXPECT_TRUE(answers("help uearth_sigde\t", ">Uearth delay"));
+    type("help uearth_sigd\t");
+    EXPECT_TRUE(waitFor("Uearth_SigDel") && waitFor("Uearth_SigDur_LED") && waitFor("uearth_sigd"));
+    EXPECT_TRUE(answers("el", ">Uearth delay"));
     EXPECT_TRUE(answers("?", "Tab completes"));
     EXPECT_EQ(end(), 0);
     start("--level=3");
