@@ -102,8 +102,12 @@ std::string nearestName(std::string_view name, const Context& context, std::stri
 }
 
 std::string unknownName(std::string_view name, const Context& context, std::string_view prefix) {
-    return context.say("no parameter is named {}", "kein Parameter heißt {}", printable(name)) +
-           nearestName(name, context, prefix);
+    const std::string unknown =
+        context.say("no parameter is named {}", "kein Parameter heißt {}", printable(name));
+    const bool isPattern = name.find_first_of("{*?") != name.npos;
+    const Parameters series = isPattern ? Parameters() : reference::named(name);
+    if (series.size() < 2) return unknown + nearestName(name, context, prefix);
+    return unknown + context.say("; there are {}{}", "; es gibt {}{}", prefix, reference::inShort(series));
 }
 
 const char* commaHint(std::string_view text, const Context& context) {
