@@ -102,6 +102,7 @@ std::string nearestName(std::string_view name, const Context& context, std::stri
 }
 
 std::string unknownName(std::string_view name, const Context& context, std::string_view prefix) {
+    if (name.empty()) return context.say("the name is empty", "der Name ist leer");
     const std::string unknown =
         context.say("no parameter is named {}", "kein Parameter heißt {}", printable(name));
     const bool isPattern = name.find_first_of("{*?") != name.npos;
