@@ -155,6 +155,17 @@ TEST_F(Load, ReadsALastLineThatIsNotEndedAndLongerThanTheOthers) {
     EXPECT_EQ(text(rowOf("Name")->id, kGlobal), "last");
 }
 
+// Also where the file is read in two pieces.
+TEST_F(Load, EndsALineAtItsFirstNul) {
+    for (unsigned before = 4030; before < 4100; ++before) {
+        const std::string line = "TLX_channel=5\0"s + std::string(40, 'z') + '\n';
+        EXPECT_EQ(
+            outcomeOf([&] { return VarLoadFile(write("file", std::string(before, '\n') + line).data(), 0); }),
+            Outcome(1, "", ""))
+            << before;
+    }
+}
+
 // Each row of the page has a line, the stored value and the message, all in `code`.
 TEST_F(Load, FollowsItsPage) {
     std::istringstream page(contents(TALUX_PAGE));
