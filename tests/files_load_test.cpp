@@ -163,6 +163,10 @@ TEST_F(Load, EndsALineAtItsFirstNul) {
             outcomeOf([&] { return VarLoadFile(write("file", std::string(before, '\n') + line).data(), 0); }),
             Outcome(1, "", ""))
             << before;
+        VarLong channel = 0;
+        VarGetGlobalLongValue(6029, &channel);
+        EXPECT_EQ(channel, 5) << before;
+        begin();
     }
 }
 

@@ -247,15 +247,6 @@ TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
     EXPECT_FALSE(About("Uearht") || About(0) || About(-1));
 }
 
-// As a field of the list of parameters.
-std::string field(const std::string& text) {
-    if (text.find_first_of(",\"") == text.npos) return text;
-    std::string quoted = "\"";
-    for (const char c : text)
-        quoted.append(c == '"' ? 2 : 1, c);
-    return quoted + '"';
-}
-
 TEST_F(Handles, FilesAreSavedAndLoadedOrSayWhyNot) {
     char directory[] = "/tmp/handles", missing[] = "/tmp/nothing";
     const struct {
@@ -275,6 +266,15 @@ TEST_F(Handles, FilesAreSavedAndLoadedOrSayWhyNot) {
         EXPECT_EQ((store.*save)().text(), "NOT SAVED: No such file or directory") << name;
     }
     std::filesystem::remove_all(directory);
+}
+
+// As a field of the list of parameters.
+std::string field(const std::string& text) {
+    if (text.find_first_of(",\"") == text.npos) return text;
+    std::string quoted = "\"";
+    for (const char c : text)
+        quoted.append(c == '"' ? 2 : 1, c);
+    return quoted + '"';
 }
 
 TEST_F(Handles, NotesAreThoseOfTheListOfParameters) {

@@ -62,8 +62,8 @@ struct Method {
     double delay;                                     // of the factory settings, cycles included
     double (*measured)(const Cycle& cycle) = nullptr; // what is compared with the threshold
 };
-// Degrees between the residual current and the line of the residual voltage.
-double fromReal(const Cycle& cycle) {
+// The angle between residual current and residual voltage in either direction: 0 to 90 degrees.
+double angleToVoltage(const Cycle& cycle) {
     return std::fabs(std::remainder(value(cycle, "phiUI0"), 180));
 }
 // clang-format off
@@ -73,8 +73,8 @@ constexpr Method kMethods[] = {
     {"cos(phi)", kResonant, "cos_active", "cos_Iw_min", 34, 0.1,
      [](const Cycle& cycle) { return -value(cycle, "P0_prim") / value(cycle, "U0_prim"); }},
     {"cos(phi), angle", kResonant, "cos_active", "cos_w_min", 34, 0.1,
-     [](const Cycle& cycle) { return 90 - fromReal(cycle); }},
-    {"sin(phi), angle", kIsolated, "sin_active", "sin_w_min", 36, 0.1, fromReal},
+     [](const Cycle& cycle) { return 90 - angleToVoltage(cycle); }},
+    {"sin(phi), angle", kIsolated, "sin_active", "sin_w_min", 36, 0.1, angleToVoltage},
     {"sin(phi)", kIsolated, "sin_active", "sin_I_min", 36, 0.1,
      [](const Cycle& cycle) { return std::fabs(value(cycle, "Q0_prim")) / value(cycle, "U0_prim"); }},
     {"cos and sin", kIsolated, "cos_sin_active", "CosSin_I_min", 38, 0.06,
