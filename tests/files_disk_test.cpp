@@ -529,8 +529,8 @@ TEST_F(Disk, FollowsLinksAlsoThoseThatDangle) {
         EXPECT_EQ(contents(directory / "sub/file"), fresh["parameter.ini"]);
         EXPECT_EQ(namesIn(directory / "sub"), (std::vector<std::string>{"file", "link"}));
     }
-    std::string
-        around; // only the kernel follows a link that is too long for a path together with the directory
+    // Only the kernel follows a link that is too long for a path together with the directory.
+    std::string around;
     while (around.size() < 4085)
         around += "./";
     fs::create_symlink(around + "sub/file", directory / "long");
