@@ -1,4 +1,4 @@
-// Tables, look-ups and symbols against plain scans of the rows.
+// Tables, look-ups and symbols against plain scans of the rows, also of those that a program has written.
 #include "Store.h"
 
 #include <cctype>
@@ -13,26 +13,6 @@ using talux_test::rowOf;
 const bool emptyAtFirst = !GetParamProperties(2000) && !rowOf("U1_prim") && !GetParamPropertiesByOrder(0) &&
                           !GetParamPropertiesByOrder(1);
 
-struct Dictionary : testing::Test {
-    static void SetUpTestSuite() { ASSERT_EQ(LoadDefParamProperties(), 1); }
-
-    std::mt19937 random{1};
-
-    std::string randomCase(std::string text) {
-        for (char& c : text)
-            c = static_cast<char>(random() % 2 != 0 ? std::toupper(c) : std::tolower(c));
-        return text;
-    }
-
-    // A name with its end dropped, a character added or changed.
-    std::string mutated(std::string text) {
-        const std::size_t place = text.empty() ? 0 : random() % text.size();
-        const char c = static_cast<char>(random() % 255 + 1);
-        const auto kind = random() % 3;
-        return kind == 0 ? text.substr(0, place) : text.replace(place, kind - 1, 1, c);
-    }
-};
-
 // Rows between the sentinels.
 int countRows() {
     int rows = 0;
@@ -45,10 +25,47 @@ const int kRows = countRows();
 // The first working row in table order that fits.
 template <class Fits>
 const stParamProperties* scan(Fits fits) {
-    for (int position = 1; position <= kRows; ++position)
-        if (fits(DefParamProperties[position])) return GetParamPropertiesByOrder(position);
-    return nullptr;
+    const stParamProperties* row = ParamProperties + 1;
+    while (row->id != 0 && !fits(*row))
+        ++row;
+    return row->id != 0 ? row : nullptr;
 }
+
+struct Dictionary : testing::Test {
+    void SetUp() override { ASSERT_EQ(LoadDefParamProperties(), 1); }
+    void TearDown() override {
+        std::fill_n(ParamProperties + kRows + 1, kSpareParamRows, stParamProperties{});
+    }
+
+    unsigned below(std::size_t limit) { return static_cast<unsigned>(random() % limit); }
+    std::string randomCase(std::string text) {
+        for (char& c : text)
+            c = static_cast<char>(below(2) != 0 ? std::toupper(c) : std::tolower(c));
+        return text;
+    }
+    // A name with its end dropped, a character added or changed.
+    std::string mutated(std::string text) {
+        const std::size_t place = text.empty() ? 0 : below(text.size());
+        const char c = static_cast<char>(below(255) + 1);
+        const auto kind = below(3);
+        return kind == 0 ? text.substr(0, place) : text.replace(place, kind - 1, 1, c);
+    }
+
+    void expectLikeAScan() {
+        for (int id = 0; id < 60000; ++id)
+            ASSERT_EQ(GetParamProperties(id), scan([id](const auto& row) { return row.id == id; })) << id;
+        for (int position = 1; position <= kRows + kSpareParamRows; ++position) {
+            const std::string now = ParamProperties[position].id != 0 ? ParamProperties[position].name : "",
+                              first = DefParamProperties[std::min(position, kRows)].name;
+            for (const std::string& asked : {randomCase(now), randomCase(first), mutated(now)}) {
+                const auto fits = [&](const auto& row) { return strcasecmp(row.name, asked.c_str()) == 0; };
+                ASSERT_EQ(rowOf(asked), scan(fits)) << asked;
+            }
+        }
+    }
+
+    std::mt19937 random{1};
+};
 
 TEST_F(Dictionary, TableHasSentinelsAndFamilies) {
     EXPECT_TRUE(emptyAtFirst);
@@ -65,31 +82,38 @@ TEST_F(Dictionary, TableHasSentinelsAndFamilies) {
     EXPECT_EQ(LoadParamProperties(nullptr), 1);
 }
 
-TEST_F(Dictionary, FindsPositionsAndIdsLikeAScan) {
+TEST_F(Dictionary, IsFoundLikeByAScanAlsoWhereAProgramHasChangedIt) {
     for (int position = 0; position <= kRows; ++position) {
         const stParamProperties* const row = GetParamPropertiesByOrder(position);
         ASSERT_TRUE(row != nullptr && row->id == DefParamProperties[position].id &&
                     row->name == DefParamProperties[position].name)
             << position;
     }
+    expectLikeAScan();
+    std::vector<std::string> names;
+    for (int round = 0; round < 1000; ++round)
+        names.push_back("new_" + std::to_string(round));
+    for (int round = 0; round < 1000; ++round) {
+        const bool isNew = round < kSpareParamRows - 2;
+        const int position = isNew ? kRows + 1 + round : 1 + static_cast<int>(below(kRows));
+        stParamProperties& some = ParamProperties[position];
+        if (isNew) some = DefParamProperties[kRows];
+        if (isNew || below(2) != 0) some.id = 40000 + round;
+        if (isNew || below(2) != 0) some.name = names[static_cast<std::size_t>(round)].c_str();
+    }
+    expectLikeAScan();
+    LoadDefParamProperties();
+    expectLikeAScan();
+    EXPECT_EQ(GetParamProperties(40000), GetParamPropertiesByOrder(kRows + 1)) << "spare rows stay";
+}
+
+TEST_F(Dictionary, FindsNothingThatIsNotThere) {
     for (const int position : {kRows + 1, kRows + 100, 1 << 30})
         EXPECT_EQ(GetParamPropertiesByOrder(position), nullptr) << position;
-    for (int id = 0; id < 32000; ++id)
-        ASSERT_EQ(GetParamProperties(id), scan([id](const auto& row) { return row.id == id; })) << id;
     EXPECT_EQ(GetParamProperties(0x7fffffff), nullptr);
     EXPECT_STREQ(GetParamProperties(7000)->name, "EvCnt_qu2_c0");
     EXPECT_DEATH(GetParamProperties(-1), "ParamSystem/TALUX_Params.*GetParamProperties.*id>=0");
     EXPECT_DEATH(GetParamPropertiesByOrder(-7), "ParamSystem/TALUX_Params.*GetParamPropertiesByOrder.*id>=0");
-}
-
-TEST_F(Dictionary, FindsNamesLikeAScan) {
-    for (int position = 1; position <= kRows; ++position) {
-        const std::string name = randomCase(DefParamProperties[position].name);
-        for (const std::string& asked : {name, mutated(name)}) {
-            const auto fits = [&](const auto& row) { return strcasecmp(row.name, asked.c_str()) == 0; };
-            ASSERT_EQ(rowOf(asked), scan(fits)) << asked;
-        }
-    }
     for (const std::string& asked : {std::string("***"), std::string(5000, 'x')})
         EXPECT_EQ(rowOf(asked), nullptr);
     EXPECT_EQ(rowOf(""), GetParamPropertiesByOrder(1));
@@ -97,6 +121,23 @@ TEST_F(Dictionary, FindsNamesLikeAScan) {
     EXPECT_EQ(rowOf("cycle_cnt_low")->id, 7000);
     for (const char* name : {"gui_enabled", "key_enabled", "pub_key", "date_info", "TIMEZONE", "Date"})
         EXPECT_STREQ(rowOf(name)->val_init_text, "0") << name;
+}
+
+TEST_F(Dictionary, EndsAtTheFirstRowWithoutId) {
+    std::fill_n(ParamProperties + kRows + 1, kSpareParamRows, DefParamProperties[1]);
+    const int end = kRows + kSpareParamRows + 1;
+    ParamProperties[end - 1].id = 50000;
+    for (const auto* last : {GetParamProperties(50000), GetParamPropertiesByOrder(end - 1)})
+        EXPECT_EQ(last, ParamProperties + end - 1);
+    for (const int position : {end, end + 1, 1 << 30})
+        EXPECT_EQ(GetParamPropertiesByOrder(position), nullptr);
+    ParamProperties[kRows + 5].id = 0;
+    EXPECT_EQ(GetParamPropertiesByOrder(kRows + 4), ParamProperties + kRows + 4);
+    for (const int position : {kRows + 5, kRows + 6})
+        EXPECT_EQ(GetParamPropertiesByOrder(position), nullptr);
+    EXPECT_EQ(GetParamProperties(50000), nullptr);
+    ParamProperties[1].id = 0;
+    EXPECT_TRUE(!GetParamProperties(6029) && !rowOf("channel") && !GetParamPropertiesByOrder(0));
 }
 
 // What a symbol stands for, -1 where it is unknown.

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstring>
 #include <random>
-#include <span>
 #include <sstream>
 #include <string_view>
 
@@ -20,25 +20,20 @@ const bool emptyAtFirst = GetParamString(kLanguage, kTextTitle)->id == 0 &&
                           GetFirstParamStringInGroup(18021, 0, kTextItem)->txt == nullptr;
 
 struct Texts : testing::Test {
-    static void SetUpTestSuite() {
+    void SetUp() override {
         char path[] = "";
         VarInit(path);
         LoadDefParamProperties();
         ASSERT_EQ(LoadDefParamStrings(), 1);
     }
+    void TearDown() override { std::fill(ParamText + 1, std::end(ParamText), stParamText{}); }
 };
 using TextsDeathTest = Texts;
 
-std::span<const stParamText> texts() {
-    const auto isSentinel = [](const stParamText& text) { return text.id == 0; };
-    static const stParamText* const end = std::find_if(DefParamText + 1, std::end(DefParamText), isSentinel);
-    return {DefParamText + 1, end};
-}
-
-// The row of a text in the compiled-in table, found the plain way; kNotFound is the sentinel.
+// The row of a text in the working table, found the plain way; kNotFound is the sentinel.
 int find(int from, int language, int id, int type, int group = kAny, int item = kAny) {
-    for (int row = from; DefParamText[row].id != 0; ++row) {
-        const stParamText& text = DefParamText[row];
+    for (int row = from; row < kParamTextRows && ParamText[row].id != 0; ++row) {
+        const stParamText& text = ParamText[row];
         if (text.id == id && text.language == language && text.type == type &&
             (group == kAny || text.id_group == group) && (item == kAny || text.id_item == item))
             return row;
@@ -121,15 +116,6 @@ TEST_F(Texts, ReadAsPrinted) {
 1 2000 3004 0 0:kV
 1 18023 3008 0 1:keine|ungerade|gerade
 2 18023 3008 0 1:none|odd|even
-2 18030 3008 0 1:OFF|PROG|Status|Error|U1_ok|U2_ok|U3_ok|user_BOF1|user_BOF2|user_BOF3|user_BOF4|user_BOF5|
-user_BOF6|user_BOF7|user_BOF8|>Uearth|>Uearth_delay|Uerd_L1|Uerd_L2|Uerd_L3|Uerd_L1_d|Uerd_L2_d|Uerd_L3_d|
-Sum_Uearth ->f|Sum_Uearth ->b|Prio_Uearth ->f|Prio_Uearth ->b|qu2 ->F|qu2 ->BB|qu2_CE ->F|qu2_CE ->BB|qui ->F|
-qui ->BB|cos -> F|cos -> BB|sin -> F|sin -> BB|c_s -> F|c_s -> BB|H_250 ->F|H_250 ->BB|H_fx1 ->F|H_fx1 ->BB|
-H_fx2+ ->F|H_fx2+ ->BB|H_fx2- ->F|H_fx2- ->BB|Pulse_50|Pulse_50c|Pulse_50c ->F|Pulse_50c ->BB|Pulse50_LED|
-Puls_HPCI_50|Puls_HPCI_50 ->F|Puls_HPCI_50 ->BB|Puls_HPCI_fx|>I|>I1|>I2|>I3|>>I|>>I1|>>I2|>>I3|>I ->F|>I1 ->F|
->I2 ->F|>I3 ->F|>>I ->F|>>I1 ->F|>>I2 ->F|>>I3 ->F|>I BB|>I1 BB|>I2 BB|>I3 BB|>>I BB|>>I1 BB|>>I2 BB|>>I3 BB|
->Ferro-res|50Hz -df|50Hz +df|50Hz n.n.|DynAdm ->FD|DynAdm ->BB|I_ScE>|I_ScE> ->FD|I_ScE> ->BB|NC|NC|NC|NC|NC|
-NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC|NC
 2 18005 3002 0 0:Confirmation
 2 18005 3007 0 0:Parameter|Messages
 1 18005 3008 0 1:ja|nein
@@ -155,20 +141,34 @@ Timeout|No write permission~on USB
     EXPECT_EQ(list(18028, 0, kTextItem), inputs);
 }
 
-// All six look-ups against plain searches of the compiled-in table, and the cursor, which anybody may set.
+// All six look-ups against plain searches of the working table, into which a program writes, and the cursor,
+// which anybody may set.
 TEST_F(Texts, LookUpsAgreeWithPlainSearches) {
     std::mt19937 random(1);
     const auto upTo = [&random](int most) {
         return static_cast<int>(random() % static_cast<unsigned>(most + 1));
     };
     const int cursors[] = {INT_MIN, -1, 0, DefParamTextCount, kParamTextRows - 1, kParamTextRows, INT_MAX};
-    int cursor = iLastEntry;
+    int cursor = iLastEntry, rows = 0;
+    while (ParamText[rows + 1].id != 0)
+        ++rows;
+    const int compiledIn = rows;
+    stParamText some = ParamText[1];
     for (int round = 0; round < 3000; ++round) {
         if (upTo(19) == 0) cursor = iLastEntry = cursors[upTo(6)];
         const int language = upTo(4) - 1, current = language == kGerman ? kGerman : kEnglish;
         VarSetEnumValue(kLanguage, static_cast<short>(language));
         VarSetGlobalEnumValue(kLanguage, static_cast<short>(3 - language)); // the temporary space counts
-        const stParamText& some = texts()[random() % texts().size()];
+        if (upTo(1) == 0) some = ParamText[1 + upTo(rows - 1)];
+        stParamText& written = ParamText[1 + upTo(rows - 1)];
+        if (round % 3 == 0) written.txt = "written";
+        // Between others of its id it would hide those after it.
+        const bool isAtEdge = written.id != (&written)[-1].id || written.id != (&written)[1].id;
+        if (round % 10 == 0 && isAtEdge) written.id = 50000 + upTo(9);
+        if (round % 20 == 1 && rows < kParamTextRows - 1) {
+            ParamText[++rows] = some;
+            ParamText[rows].txt = "added";
+        }
         const int id = upTo(9) == 0 ? 99999 : some.id, item = some.id_item + upTo(1);
         const int type = upTo(4) == 0 ? kTextTitle + upTo(6) : some.type;
         const int group = upTo(4) == 0 ? upTo(4) - 1 : some.id_group;
@@ -177,14 +177,20 @@ TEST_F(Texts, LookUpsAgreeWithPlainSearches) {
         const stParamText* const found = lookUp(which, id, type, group, item);
         const bool isNext = which % 3 == 2, moves = which % 3 != 0;
         const int g = which < 3 ? kAny : group, i = which == 3 ? item : kAny;
-        const int from = !isNext ? 1 : cursor < 0 || cursor >= DefParamTextCount ? kNotFound : cursor + 1;
-        int expected = from == kNotFound ? kNotFound : find(from, current, id, type, g, i);
+        const int from = !isNext ? 1 : cursor < 0 || cursor >= kParamTextRows ? kParamTextRows : cursor + 1;
+        int expected = find(from, current, id, type, g, i);
         if (expected == kNotFound && !isNext) expected = find(1, kEnglish, id, type, g, i);
         if (moves && expected != kNotFound) cursor = expected;
         ASSERT_EQ(iLastEntry, cursor) << round;
-        ASSERT_EQ(found->id, DefParamText[expected].id) << round;
-        ASSERT_STREQ(found->txt, DefParamText[expected].txt) << round;
+        ASSERT_EQ(found, ParamText + expected) << round;
     }
+    LoadDefParamStrings();
+    EXPECT_EQ(
+        std::memcmp(ParamText, DefParamText, sizeof *ParamText * static_cast<std::size_t>(compiledIn + 1)),
+        0);
+    EXPECT_STREQ(ParamText[rows].txt, "added") << "rows of the program stay";
+    ParamText[1].id = 0;
+    EXPECT_EQ(GetParamString(kLanguage, kTextTitle), ParamText) << "no row is in use";
 }
 
 TEST_F(TextsDeathTest, AnIdBelowOneAborts) {
