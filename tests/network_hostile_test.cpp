@@ -1,6 +1,6 @@
 // Whatever a stored text contains, the shell runs only the intended command and passes the text unchanged.
 #include <initializer_list>
-#include <regex.h>
+#include <regex>
 #include <spawn.h>
 #include <sys/wait.h>
 
@@ -47,16 +47,9 @@ std::vector<std::string> hostileValues() {
 const std::vector<std::string> kValues = hostileValues();
 
 // Addresses of this test, which begin with 7, replaced by one word.
-std::string withoutAddresses(std::string command) {
-    static const regex_t address = [] {
-        regex_t compiled;
-        if (regcomp(&compiled, "7(\\.-?[0-9]+){3}", REG_EXTENDED) != 0) std::abort();
-        return compiled;
-    }();
-    for (regmatch_t found; regexec(&address, command.c_str(), 1, &found, 0) == 0;)
-        command.replace(static_cast<std::size_t>(found.rm_so),
-                        static_cast<std::size_t>(found.rm_eo - found.rm_so), "ADDRESS");
-    return command;
+std::string withoutAddresses(const std::string& command) {
+    static const std::regex address("7(\\.-?[0-9]+){3}", std::regex::extended);
+    return std::regex_replace(command, address, "ADDRESS");
 }
 
 // The one of 127 quotes, written with four characters each, makes a command too long.
@@ -88,18 +81,6 @@ for command; do
   : >"$written"
 done 3>/tmp/record 2>/dev/null </dev/null)";
 
-std::string runInShell(const char* written = "") {
-    std::vector<const char*> arguments = {"sh", "-c", kShellScript, "sh", written};
-    const std::vector<std::string> all = commands();
-    for (const std::string& command : all)
-        arguments.push_back(command.c_str());
-    arguments.push_back(nullptr);
-    pid_t shell = 0;
-    posix_spawn(&shell, "/bin/sh", nullptr, nullptr, const_cast<char**>(arguments.data()), environ);
-    EXPECT_EQ(waitpid(shell, nullptr, 0), shell);
-    return contents("/tmp/record");
-}
-
 struct HostileSettings : SettingsTest {
     void SetUp() override {
         resetStore();
@@ -116,22 +97,18 @@ struct HostileSettings : SettingsTest {
     // What the shell made of the commands: exactly this, and no file but those that were there.
     static void expect(const std::string& expected, const char* written = "") {
         const auto before = std::distance(fs::directory_iterator("."), {});
-        EXPECT_EQ(runInShell(written), expected);
+        std::vector<const char*> arguments = {"sh", "-c", kShellScript, "sh", written};
+        const std::vector<std::string> all = commands();
+        for (const std::string& command : all)
+            arguments.push_back(command.c_str());
+        arguments.push_back(nullptr);
+        pid_t shell = 0;
+        posix_spawn(&shell, "/bin/sh", nullptr, nullptr, const_cast<char**>(arguments.data()), environ);
+        EXPECT_EQ(waitpid(shell, nullptr, 0), shell);
+        EXPECT_EQ(contents("/tmp/record"), expected);
         EXPECT_EQ(std::distance(fs::directory_iterator("."), {}), before);
     }
 };
-
-// The values are what they claim to be: without quotes many of them leave their file.
-TEST_F(HostileSettings, ValuesWouldDoHarm) {
-    for (const std::string& value : kValues)
-        talux_test::note("$ iwconfig wlan0 essid " + value);
-    const std::string record = runInShell();
-    int harmed = 0; // lines that begin so, see the script
-    for (std::size_t at = 0; (at = record.find("\nc", at)) != std::string::npos; ++at)
-        ++harmed;
-    EXPECT_GE(harmed, 20);
-    EXPECT_GE(kValues.size(), 50U);
-}
 
 TEST_F(HostileSettings, NetworkNameAndKey) {
     std::string expected;
