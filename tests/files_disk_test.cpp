@@ -233,19 +233,6 @@ TEST_F(Disk, KeepsTheOldFileOrTheNewOneWhateverFails) {
     EXPECT_GT(faults, 1000);
 }
 
-// Who sees the flag finds the new values.
-TEST_F(Disk, ALoadRaisesItsFlagAfterwards) {
-    for (const auto& [load, file] : {std::pair<int (*)(), const char*>{VarLoadParams, "parameter.ini"},
-                                     {VarLoadSecParams, "sec_parameter.ini"},
-                                     {VarLoadIPConfig, "ip_config.ini"}}) {
-        begin();
-        perform({load, 0, {}, ""});
-        const auto all = done();
-        EXPECT_EQ(all.front(), std::string("open ") + file);
-        EXPECT_EQ(std::ranges::count_if(all, [](const auto& step) { return step.starts_with("raise"); }), 1);
-    }
-}
-
 // ---- The power fails ----
 
 // The disk after some steps. Changes of names reach it in their order, at the latest with a sync of the
