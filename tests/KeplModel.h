@@ -16,7 +16,7 @@ using talux::formatted;
 using Words = std::vector<std::string>;
 constexpr int kProcessEnds = -99; // stands for the result of a line
 inline const std::string kSyntax = "<< SYNTAX ERROR >>", kRights = "<< RIGHTS TOO LOW >>",
-                         kFull = "<< OUTPUT BUFFER EXCEEDED >>";
+                         kFull = "<< OUTPUT BUFFER EXCEEDED >>", kUntouched = "(untouched)";
 
 inline std::string lower(std::string text) {
     for (char& c : text)
@@ -359,7 +359,7 @@ struct Model {
     }
 
     Outcome evaluate(const std::string& line, const std::string& terminator, int uid) const {
-        std::string answer = "(untouched)", text;
+        std::string answer = kUntouched, text;
         if (line.empty()) return {0, answer, ""};
         if (line.size() > 254) return {-1, answer, kSyntax};
         std::vector<Value> stack;
