@@ -1,4 +1,5 @@
-// Tables, look-ups and symbols against plain scans of the rows, also of those that a program has written.
+// Tables, look-ups and symbols against plain scans of the rows, also of rows that a program writes, which
+// apply to language, commit and files.
 #include "Store.h"
 
 #include <cctype>
@@ -7,7 +8,7 @@
 
 namespace {
 
-using talux_test::rowOf;
+using namespace talux_test;
 
 // Before the working table is filled nothing is found: asked before any test runs.
 const bool emptyAtFirst = !GetParamProperties(2000) && !rowOf("U1_prim") && !GetParamPropertiesByOrder(0) &&
@@ -31,10 +32,24 @@ const stParamProperties* scan(Fits fits) {
     return row->id != 0 ? row : nullptr;
 }
 
-struct Dictionary : testing::Test {
-    void SetUp() override { ASSERT_EQ(LoadDefParamProperties(), 1); }
+struct Dictionary : InDirectory {
     void TearDown() override {
         std::fill_n(ParamProperties + kRows + 1, kSpareParamRows, stParamProperties{});
+        InDirectory::TearDown();
+    }
+
+    static stParamProperties& row(const char* name) { return ParamProperties[rowOf(name) - ParamProperties]; }
+    // A row like that of `channel`, after all others.
+    static stParamProperties& append(int id, const char* name) {
+        stParamProperties& added = ParamProperties[kRows + 1] = row("channel");
+        added.id = id;
+        added.name = name;
+        return added;
+    }
+    std::string saved(int save(char*)) const {
+        std::string file = directory / "file.ini";
+        EXPECT_EQ(save(file.data()), 1);
+        return contents(file);
     }
 
     unsigned below(std::size_t limit) { return static_cast<unsigned>(random() % limit); }
@@ -138,6 +153,70 @@ TEST_F(Dictionary, EndsAtTheFirstRowWithoutId) {
     EXPECT_EQ(GetParamProperties(50000), nullptr);
     ParamProperties[1].id = 0;
     EXPECT_TRUE(!GetParamProperties(6029) && !rowOf("channel") && !GetParamPropertiesByOrder(0));
+}
+
+TEST_F(Dictionary, LanguageStoreAndFilesGoByTheirRows) {
+    VarSetDefault();
+    stParamProperties& added = append(7214, "MyRate"); // a long that no parameter has
+    added.val_max = 70000;
+    added.val_def = 7;
+    EXPECT_EQ(say("TLX_myrate=70001"), "<< VALUE TOO HIGH >>");
+    EXPECT_EQ(say("TLX_myrate=70000,TLX_MyRate,1,+"), "70001.000000");
+    VarUpdateGlobalSpace();
+    EXPECT_NE(saved(VarSaveParamFile).find("\nTLX_MyRate=70000\n"), std::string::npos);
+    EXPECT_EQ(VarLoadFile(write("my.ini", "TLX_MyRate=12\nTLX_channel=3\n").data(), 0), 1);
+    EXPECT_EQ(say("TLX_MyRate"), "12");
+    VarSetDefault();
+    EXPECT_EQ(say("TLX_MyRate"), "7");
+
+    row("channel").val_access = kWriteOnly;
+    EXPECT_EQ(say("TLX_channel"), "<< VARIABLE IS WRITE ONLY >>");
+    EXPECT_EQ(say("TLX_channel=5"), "");
+    row("channel").userlevel = 3;
+    EXPECT_EQ(say("TLX_channel=6", 2), "<< RIGHTS TOO LOW >>");
+    VarUpdateGlobalSpace();
+    EXPECT_EQ(saved(VarSaveParamFile).find("TLX_channel="), std::string::npos);
+    EXPECT_NE(saved(VarSaveSecParamFile).find("TLX_channel=5\n"), std::string::npos);
+    row("channel").is_volatile = 1;
+    VarSetLongValue(rowOf("channel")->id, 8);
+    VarUpdateGlobalSpace();
+    EXPECT_EQ(saved(VarSaveSecParamFile).find("TLX_channel="), std::string::npos);
+    VarLong live = 0;
+    VarGetGlobalLongValue(rowOf("channel")->id, &live);
+    EXPECT_EQ(live, 5);
+}
+
+// The type codes that no parameter of the catalogue has.
+TEST_F(Dictionary, DumpsElementsByTheirType) {
+    struct {
+        int type;
+        const char *number, *hex;
+    } const cases[] = {{2005, "-2", "FEFFFFFF"},
+                       {2006, "-2", "FEFFFFFFFFFFFFFF"},
+                       {2007, "-2", "FEFFFFFFFFFFFFFF"},
+                       {2008, "-2", "FEFF"},
+                       {2009, "-2", "FE"},
+                       {2012, "-2.000000", "type unknown"}};
+    double value = -2;
+    VarSetGlobalDoubleValue(rowOf("vMWR")->id, value);
+    for (const auto& [type, number, hex] : cases) {
+        row("vMWR").type = type;
+        EXPECT_EQ(say("TLX_vMWR 1"), number + std::string("\n")) << type;
+        EXPECT_EQ(say("TLX_vMWR 1 -h"), hex) << type;
+    }
+}
+
+// A type that does not go with the id reads nothing that is not there.
+TEST_F(Dictionary, ForeignTypesGiveNothing) {
+    row("channel").type = kTypeText;
+    EXPECT_EQ(say("TLX_channel"), "\"\"");
+    row("Name").type = kTypeLong;
+    EXPECT_EQ(say("TLX_Name,1,+"), "1.000000");
+    row("Uearth").type = kTypeStruct;
+    EXPECT_EQ(say("TLX_Uearth"), say("TLX_Uearth=30,TLX_Uearth"));
+    const std::string longName(5000, 'x');
+    append(7214, longName.c_str());
+    EXPECT_EQ(saved(VarSaveParamFile).find("xxx"), std::string::npos);
 }
 
 // What a symbol stands for, -1 where it is unknown.
