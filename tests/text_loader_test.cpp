@@ -1,10 +1,13 @@
-// Text files: what a good one leaves in the working table, and how a bad one ends the process.
+// Text files and the fields of their lines: what a good one leaves in the working table, and how a bad one
+// ends the process.
 #include "Messages.h"
 #include "ParamSystem/TALUX_ParamStrings.h"
 
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <sys/stat.h>
 #include <thread>
@@ -13,6 +16,9 @@
 #include "ParamSystem/TALUX_Var.h"
 
 namespace {
+
+// Called before the first test, so that nothing has reset the space yet.
+const char* const savedBeforeReset = Data_StringSave("");
 
 constexpr int kLanguage = 10000;
 const std::string kFile = "/tmp/texts.txt", kFifo = "/tmp/texts.fifo";
@@ -64,6 +70,44 @@ void expectEnd(const std::string& content, const std::string& what) {
     SCOPED_TRACE(content.substr(0, 60));
     std::ofstream(kFile, std::ios::binary) << content;
     expectEndOf(kFile, "\nError (TALUX_ParamStrings): " + what + "\n");
+}
+
+template <typename Field>
+using SetField = void (*)(const char*, Field*, const char*, StringTokenizer*, FILE*);
+
+// A record line with its tokenizer, set up as a loader does it.
+struct Record {
+    char buffer[1000];
+    StringTokenizer tokenizer;
+    FILE* file = std::tmpfile();
+
+    explicit Record(std::string line, const char* delimiters = "\t\n") {
+        tokenizer.SetBuffer(buffer, sizeof buffer);
+        tokenizer.SetString(line.data(), delimiters, false);
+    }
+    ~Record() { std::fclose(file); }
+
+    template <typename Field>
+    Field take(SetField<Field> set) {
+        Field field{};
+        set("M", &field, "f", &tokenizer, file);
+        return field;
+    }
+};
+
+// Must end the process with this message and status 2, the file closed by then.
+int fileToWatch = -1;
+template <typename Field>
+void expectEnd(const std::string& line, SetField<Field> set, const char* what,
+               const char* delimiters = "\t\n") {
+    SCOPED_TRACE('"' + line.substr(0, 40) + '"');
+    Record record(line, delimiters);
+    const auto take = [&] {
+        fileToWatch = fileno(record.file);
+        std::atexit([] { std::printf(fcntl(fileToWatch, F_GETFD) == -1 ? "closed" : "left open"); });
+        record.take(set);
+    };
+    talux_test::expectEnd(take, std::string("\nError (M): no ") + what + " for field 'f'\nclosed");
 }
 
 } // namespace
@@ -125,7 +169,6 @@ TEST_F(TextLoader, TakesLinesUpToTheLongestAndAFullTable) {
 
 // Slowly through a FIFO, while a timer interrupts.
 TEST_F(TextLoader, GoesOnAfterSignals) {
-    const std::string content = kSentinel + title("VAR_Name", "slow");
     ASSERT_EQ(mkfifo(kFifo.c_str(), 0600), 0);
     struct sigaction action {};
     action.sa_handler = [](int) {};
@@ -133,7 +176,7 @@ TEST_F(TextLoader, GoesOnAfterSignals) {
     std::thread writer([&] {
         usleep(20000);
         std::ofstream fifo(kFifo);
-        for (const char c : content)
+        for (const char c : kSentinel + title("VAR_Name", "slow"))
             fifo << c << std::flush, usleep(2000);
     });
     ualarm(1000, 1000);
@@ -156,7 +199,65 @@ TEST_F(TextLoaderDeathTest, BadFilesEndTheProcess) {
     for (std::string name, value; fields >> name >> value; before += value + "\t")
         expectEnd(before + "\t\n", "no value for field '" + name + "'");
     expectEnd(kSentinel + "  ", "no value for field 'id'"); // a blank line is no empty line
-    expectEnd(kSentinel + "10000\t1\t3002\t0\t0\t\"x\"\n", "no valid value for field 'id'");
+}
+
+TEST(DataFieldsDeathTest, BrokenFieldsEndTheProcess) {
+    const std::string tooLong = '"' + std::string(255, 'x') + '"';
+    Data_StringReset();
+    expectEnd("", Data_SetInt, "value");
+    expectEnd("\t\t\n", Data_SetDouble, "value");
+    // Something is left under the old set, nothing under tab and newline.
+    expectEnd("\t\n", Data_SetInt, "valid value", ",");
+    for (const char* line : {"VAR_no_such", "16000", "TXT_no_such", " VAR_Language", "***"})
+        expectEnd(line, Data_SetSymbol, "valid value");
+    for (const char* line : {"x", "1.5", " ", "0x10", "\"1\""})
+        expectEnd(line, Data_SetInt, "valid value");
+    for (const char* line : {"x", "1,5", " "})
+        expectEnd(line, Data_SetDouble, "valid value");
+    for (const char* line : {"hello", "a\"b", tooLong.c_str()})
+        expectEnd(line, Data_SetText, "valid value");
+
     ASSERT_NE(Data_StringSave(std::string(kDataStringSpaceSize - 3, 'x').c_str()), nullptr);
-    expectEnd(title("VAR_Name", "ab"), "no string space for field 'txt'");
+    expectEnd("\"ab\"", Data_SetText, "string space");
+    EXPECT_STREQ(Record("\"a\"").take(Data_SetText), "a");
+    expectEnd("\"\"", Data_SetText, "string space");
+}
+
+TEST(DataFields, ComeOneAfterTheOther) {
+    Data_StringReset();
+    Record record("VAR_Language\t12  and more\t\t1.5e3\ttxt_tpl_baudrate\tx \"two words\" y\t-7\n");
+    EXPECT_EQ(record.take(Data_SetSymbol), 10000);
+    EXPECT_EQ(record.take(Data_SetInt), 12);
+    EXPECT_EQ(record.take(Data_SetDouble), 1500);
+    EXPECT_EQ(record.take(Data_SetSymbol), 18021);
+    EXPECT_STREQ(record.take(Data_SetText), "two words");
+    EXPECT_EQ(record.take(Data_SetInt), -7);
+    EXPECT_FALSE(record.tokenizer.hasMoreTokens());
+
+    Record commas(",,3 4\t5\n", ","); // the head is split as the reader says, the fields at tab and newline
+    EXPECT_EQ(commas.take(Data_SetInt), 3);
+    EXPECT_EQ(commas.take(Data_SetInt), 5);
+
+    for (const std::string& text : std::vector<std::string>{"ab\"c", "", "\"", std::string(254, 'x')})
+        EXPECT_EQ(Record('"' + text + '"').take(Data_SetText), text);
+}
+
+TEST(StringSpace, IsFilledToTheLastByteAndKeepsItsTexts) {
+    EXPECT_EQ(savedBeforeReset, nullptr);
+    std::mt19937 random{40000};
+    for (int round = 0; round < 20; ++round) {
+        Data_StringReset();
+        std::vector<std::pair<const char*, std::string>> saved;
+        for (std::size_t room = kDataStringSpaceSize; room > 0;) {
+            const std::string text(random() % 700, static_cast<char>('a' + random() % 26));
+            const char* copy = Data_StringSave(text.c_str());
+            ASSERT_EQ(copy != nullptr, text.size() < room) << room;
+            if (copy == nullptr) continue;
+            saved.emplace_back(copy, text);
+            room -= text.size() + 1;
+        }
+        EXPECT_EQ(Data_StringSave(""), nullptr);
+        for (const auto& [copy, text] : saved)
+            ASSERT_EQ(copy, text);
+    }
 }
