@@ -65,11 +65,6 @@ struct Load : InDirectory {
     }
 };
 
-std::string wrong(int line, int id) {
-    return "\nError (TALUX_Var): Wrong parameter on line " + std::to_string(line) +
-           " ID:" + std::to_string(id) + "\n";
-}
-
 // What a load does, one literal step after the other.
 class Model {
 public:
@@ -113,7 +108,8 @@ private:
         } else if (MakeDouble(value.c_str(), &number) == 1) {
             VarSetValue(row->id, &number);
         } else {
-            output += wrong(line, row->id);
+            output += "\nError (TALUX_Var): Wrong parameter on line " + std::to_string(line) +
+                      " ID:" + std::to_string(row->id) + "\n";
         }
     }
 };

@@ -136,13 +136,11 @@ TEST_F(Numbers, KeepThePointInACommaLocale) {
 
 TEST_F(Numbers, HaveBitsCountedByTheirPlaces) {
     for (int i = 0; i < 10000; ++i) {
-        const int value = i == 0 ? -1 : static_cast<int>(random() >> below(64));
-        int counts[2] = {};
-        for (int bit = 0; bit < 32; ++bit)
-            counts[bit % 2] += static_cast<int>(static_cast<unsigned>(value) >> bit & 1u);
-        ASSERT_EQ(bits(value), counts[0] + counts[1]) << value;
-        ASSERT_EQ(oddbits(value), counts[0]) << value;
-        ASSERT_EQ(evenbits(value), counts[1]) << value;
+        const auto value = i == 0 ? ~0U : static_cast<unsigned>(random() >> below(64));
+        const auto number = static_cast<int>(value);
+        ASSERT_EQ(bits(number), std::popcount(value)) << value;
+        ASSERT_EQ(oddbits(number), std::popcount(value & 0x55555555)) << value;
+        ASSERT_EQ(evenbits(number), std::popcount(value & 0xAAAAAAAA)) << value;
     }
 }
 

@@ -359,13 +359,16 @@ TEST_F(Values, OfNoRecordAreReportedByTheCommit) {
     expectModel();
 }
 
-TEST_F(Values, AreSetToTheirDefaultsInTheTemporarySpaceOnly) {
+TEST_F(Values, AreSetToTheirDefaultsInTheTemporarySpaceOnlyAndCleanedExceptForTheRecords) {
     LoadDefParamProperties();
     for (int k = 1; DefParamProperties[k].id != 0; ++k)
         for (const Block& block : kBlocks)
             if (const stParamProperties& row = DefParamProperties[k]; block.holds(row.id))
                 put(block, model[kTemp].data() + block.slotOf(row.id), row.val_def, row.val_def_text);
     VarSetDefault();
+    expectModel();
+    VarClean();
+    model[kTemp] = model[kGlobal] = std::string(kSpaceSize, '\0');
     expectModel();
 }
 
