@@ -112,11 +112,9 @@ bool setCommaLocale() {
     setenv("LOCPATH", folder.c_str(), 1);
     const std::string make = "localedef -c -i de_DE -f UTF-8 " + folder + "/de_DE.UTF-8 > /dev/null 2>&1";
     if (pclose(popen(make.c_str(), "re")) != 0) unsetenv("LOCPATH"); // NOLINT(cert-env33-c)
-    const char* set = nullptr;
-    for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8"})
-        if (set == nullptr) set = std::setlocale(LC_ALL, name);
+    const bool isSet = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
     fs::remove_all(folder);
-    return set != nullptr;
+    return isSet;
 }
 
 } // namespace
