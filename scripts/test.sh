@@ -57,7 +57,7 @@ clang() { build clang && run_tests clang; }
 armv7() { on_device armv7 --tests; }
 # What is the same for both devices is tried on the first.
 armv5te() {
-  local programs='^(talux_|console|session|desk|rules_test|generator_test|interface_test|dictionary$|installed$)'
+  local programs='^(talux_|console|session|desk|rules_test|generator_test|dictionary$|installed$)'
   note 'without the tests of the programs and packages'
   on_device armv5te --module-tests -E "$programs"
 }
