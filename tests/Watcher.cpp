@@ -69,11 +69,8 @@ void addSemaphores(Things& things) {
 constinit pthread_mutex_t* locks[2 * talux::kKindCount] = {};
 
 std::string nameOf(std::size_t lock) {
-    const auto isOfLock = [=](const talux::Type& type) {
-        return type.kind == static_cast<talux::Kind>(lock % talux::kKindCount);
-    };
-    return std::string(lock < talux::kKindCount ? "global" : "temporary") + " lock of kind " +
-           std::find_if(std::begin(talux::kTypes), std::end(talux::kTypes), isOfLock)->name;
+    return "lock " + std::to_string(lock % talux::kKindCount) +
+           (lock < talux::kKindCount ? " of the global space" : " of the temporary space");
 }
 
 void addHeldLocks(Things& things) {

@@ -214,11 +214,10 @@ void useFiles() {
         std::printf("saved %d\n", save(file));
         for (const char* name : {"parameter.ini", "sec_parameter.ini", "ip_config.ini"}) {
             std::ifstream text(folder / name);
-            int lines = 0;
-            for (std::string line; std::getline(text, line); ++lines)
+            for (std::string line; std::getline(text, line);)
                 if (!line.starts_with("TLX_Date=") && !line.starts_with("TLX_Time="))
                     add(line.data(), line.size());
-            std::printf("%s: %d lines, %08x\n", name, lines, print);
+            std::printf("%s: %08x\n", name, print);
         }
         move(1);
         std::printf("security %d, ", STORE(VarLoadSecParams)());

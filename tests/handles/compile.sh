@@ -53,7 +53,7 @@ instructions() { # SYMBOL
     awk -v name="<$1>:" '$2 == name { on = 1; next } /^$/ { on = 0 } on' |
     sed -E '/\bnop|xchg +%ax,%ax|lea +0x0\(%esi,%eiz,1\)/d; s/^\s*[0-9a-f]+:\s*//; s/[0-9a-f]+ <[^>]*>//; s/\s+#.*//'
 }
-for pair in get set run staged stage record; do
+for pair in get set run stage record; do
   difference=$(diff <(instructions "${pair}_handle") <(instructions "${pair}_plain")) ||
     fail "$pair:" "$difference"
   [ -n "$(instructions "${pair}_plain")" ] || fail "$pair: no instructions"

@@ -15,7 +15,7 @@ constexpr talux::Record<talux::MessRecord01> record;
 [[maybe_unused]] const talux::Group group("group", u0, fifth.run<2>(), record);
 [[maybe_unused]] const talux::Text given("text");
 
-constexpr int kU0 = 2003, kFifth = 1004, kThreshold = 2148, kLanguage = 10000;
+constexpr int kU0 = 2003, kFifth = 1004, kLanguage = 10000;
 
 } // namespace
 
@@ -42,15 +42,6 @@ void run_handle(const float* values) {
 }
 void run_plain(float* values) {
     VarSetGlobalFloatValueArray(kU0, values, 3);
-}
-
-float staged_handle() {
-    return threshold.staged();
-}
-float staged_plain() {
-    float value;
-    VarGetFloatValue(kThreshold, &value);
-    return value;
 }
 
 bool stage_handle() {
