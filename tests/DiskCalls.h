@@ -68,8 +68,7 @@ inline bool fails(const char* call, const std::string& what = {}, std::size_t* m
     return fault != kShort;
 }
 
-// The C library's own. Where a processor has 32 bits, our names are those of its calls with wide sizes and
-// times.
+// The C library's own. On a processor of 32 bits our names are those of its calls with wide sizes and times.
 template <typename Function>
 Function* next(Function* /*own*/, const char* name) {
     const std::string_view call = name;

@@ -87,8 +87,7 @@ struct Model {
         double number;
         int type;
     };
-    // Of a variable term: its text, what it leaves on the stack, its error.
-    struct Reply {
+    struct Reply { // of a variable term
         int result;
         std::string text;
         std::optional<Value> slot = {};

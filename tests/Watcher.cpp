@@ -64,8 +64,7 @@ void addSemaphores(Things& things) {
 }
 
 // The locks of the store, the only ones with priority inheritance, in the order in which the module makes
-// them: of the global space for all kinds, of the temporary space for all but records. It does so before
-// main.
+// them before main: of the global space for all kinds, of the temporary space for all but records.
 constinit pthread_mutex_t* locks[2 * talux::kKindCount] = {};
 
 std::string nameOf(std::size_t lock) {

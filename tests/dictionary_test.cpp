@@ -14,14 +14,12 @@ using namespace talux_test;
 const bool emptyAtFirst = !GetParamProperties(2000) && !rowOf("U1_prim") && !GetParamPropertiesByOrder(0) &&
                           !GetParamPropertiesByOrder(1);
 
-// Rows between the sentinels.
-int countRows() {
+const int kRows = [] { // between the sentinels
     int rows = 0;
     while (DefParamProperties[rows + 1].id != 0)
         ++rows;
     return rows;
-}
-const int kRows = countRows();
+}();
 
 // The first working row in table order that fits.
 template <class Fits>

@@ -21,8 +21,7 @@ namespace {
 
 constexpr Measured<float> kFirst{"U1_prim"};
 
-// What happens to writers and readers between the elements of their group: others get their turn, or a
-// signal.
+// Between the elements of their group others get their turn, or writers a signal.
 bool restless = true;
 int blow = 0;
 struct Stumble {
@@ -143,8 +142,7 @@ TEST_F(Groups, OutliveAWriterThatDiesInside) {
     EXPECT_TRUE(values.hangTogether());
 }
 
-// Writers under a timer of 1 ms wait for each other all the same, and nobody longer than a tenth of a second
-// for one who stays inside.
+// Writers under a timer of 1 ms wait for each other, but only a tenth of a second for one who stays inside.
 TEST_F(Groups, WaitTheirTimeWhateverSignalsArrive) {
     std::signal(SIGALRM, [](int) {});
     const itimerval everyMillisecond{{0, 1000}, {0, 1000}}, never{};

@@ -26,7 +26,6 @@ std::string show(KEPL_Interpreter& interpreter, std::string line, int uid) {
 
 const bool kAccepts = std::getenv("TALUX_ACCEPT") != nullptr;
 
-// What the page shows as the answer.
 std::string answerOf(KEPL_Interpreter& interpreter, const std::string& line, int uid,
                      const std::string& expected) {
     const std::string answer = show(interpreter, line, uid);

@@ -91,7 +91,6 @@ struct Speaker {
     std::string any(const Words& words) {
         return words[static_cast<std::size_t>(random.below(static_cast<int>(words.size())))];
     }
-    // One of the pieces between bars.
     std::string of(const std::string& pieces) { return any(tokens(pieces, "|")); }
     std::string times(int longest, char c) {
         return std::string(static_cast<std::size_t>(random.below(longest)), c);
@@ -135,8 +134,7 @@ struct Speaker {
         return oneIn(2) ? number()
                         : formatted("%.17g", oneIn(2) ? limit : limit + (random.below(3) - 1) * 0.5);
     }
-    // Without prefix.
-    std::string variable() {
+    std::string variable() { // without prefix
         const std::string name = any(oneIn(2) ? special : names);
         const stParamProperties* const row = rowOf(name);
         const bool isIndexed = row != nullptr && row->val_max_id > 0;
@@ -179,7 +177,6 @@ struct Speaker {
     }
 };
 
-// What happened to the machine and to both spaces.
 struct Traces {
     Words events;
     std::string errors, image;
@@ -203,8 +200,7 @@ struct KeplModel : OnMachine<> {
         machine.stamp = [] { return formatted(" @%zx", std::hash<std::string>()(image())); };
     }
 
-    // Garbage in the store.
-    void shake() {
+    void shake() { // the store
         random.fill(raw(kTemp), kSpaceSize);
         random.fill(raw(kGlobal), kSpaceSize);
         random.fill(rawRecords(), kRecordsSize);

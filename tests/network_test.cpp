@@ -15,8 +15,7 @@ using namespace talux_test;
 
 namespace {
 
-// False for an ordinary user on a container itself. In a root of its own a test may, though an emulator shows
-// it another /etc when it asks.
+// Not an ordinary user on a container itself. In a root of its own an emulator shows another /etc.
 bool mayWriteSystemFiles() {
     return isolated() || (access("/", W_OK) == 0 && access("/etc", W_OK) == 0);
 }
@@ -48,7 +47,6 @@ void put(const std::string& assignments) {
     }
 }
 
-// What an action runs and writes to the error stream.
 template <typename Action>
 std::string transcriptOf(const Action& action) {
     machine.errors.clear();
@@ -306,7 +304,6 @@ TEST_F(Network, IsSetByTheAddressFile) {
 
 // ---- Whatever a text contains ----
 
-// What the module wanted to run.
 std::vector<std::string> commands() {
     std::vector<std::string> all;
     for (const std::string& event : machine.events)
@@ -360,8 +357,7 @@ std::string noted(std::initializer_list<std::string> words) {
 }
 
 // Runs each command in a process of the shell, where functions that note their arguments take the place of
-// programs. After each, the file c, a side effect, is recorded and removed; the file $1 is recorded and
-// emptied.
+// programs. Then the file c, a side effect, is recorded and removed, the file $1 recorded and emptied.
 constexpr char kShellScript[] = R"(
 note() { printf '%s\0' "$@" >&3; echo >&3; }
 for program in ifconfig iwconfig ln rm; do eval "$program() { note $program \"\$@\"; }"; done

@@ -73,8 +73,7 @@ TEST(Spaces, ArePublicSegmentsOfFixedSizeAndBeginEmpty) {
     }
 }
 
-// Once attached, they stay where they are, however often; a segment that was removed meanwhile is created
-// again.
+// They stay where they are, however often; a segment that was removed meanwhile is created again.
 TEST(Spaces, StayAttachedThroughLaterInits) {
     std::string directory(300, 'd');
     directory[254] = '!';

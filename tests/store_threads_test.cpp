@@ -28,8 +28,7 @@ int useStoreInChild() {
 }
 
 // Writers fill values, runs, texts and records with one letter each, in both spaces; no reader ever sees two.
-// Meanwhile other interpreters are made and processes forked. The thread sanitizer sees a copy without its
-// lock at once, whatever its values are.
+// The thread sanitizer sees a copy without its lock at once, whatever its values are.
 TEST(SeveralAtOnce, ThreadsNeverTearWhatOneLockHolds) {
     std::atomic<bool> stop{true};
     const auto write = [&stop](char letter) {

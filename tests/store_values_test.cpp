@@ -12,8 +12,7 @@
 
 namespace {
 
-// The locks with priority inheritance in the order of their creation. The library makes its own before
-// main, hence constant-initialised.
+// The locks with priority inheritance in the order of their creation, which is before main.
 constinit pthread_mutex_t* locks[100]{};
 constinit std::size_t lockTotal = 0;
 
@@ -92,8 +91,7 @@ struct Any {
     }
 };
 
-// The members of one kind and space.
-struct Member {
+struct Member { // of one kind and space
     void (*set)(int id, Any value);
     void (*get)(int id, Any value);
     void (*setRun)(int id, Any values, unsigned long count) = nullptr;
@@ -159,8 +157,7 @@ struct Values : testing::Test {
             model[area] = bytes(memory(area), sizeOf(area));
         }
     }
-    // 14 kinds in the global space, then all but the records in the temporary one; however often VarInit
-    // runs.
+    // 14 kinds in the global space, all but the records in the temporary one, however often VarInit runs.
     void TearDown() override { EXPECT_EQ(lockTotal, 27u); }
 
     static constexpr int kRecordArea = 2;
@@ -169,8 +166,7 @@ struct Values : testing::Test {
     static std::size_t lockOf(std::size_t kind, int space) { return kind + (space == kGlobal ? 0 : 14); }
     void expectModel() const { EXPECT_EQ(differences(image(), model[0] + model[1] + model[2]), ""); }
 
-    // The call takes these locks one after the other, changes what begins at `first` only then, takes no
-    // memory.
+    // The call takes these locks one by one, changes what begins at `first` only then, takes no memory.
     template <typename Call>
     static void watch(const std::vector<std::size_t>& wanted, const char* first, Call call) {
         takenCount = 0;
@@ -211,8 +207,8 @@ struct Values : testing::Test {
         watch(locksTaken, raw(space) + block.slotOf(id), [&] { member.set(id, {buffer}); });
     }
 
-    // Foreign ids where they are ignored; counts around the end of the block, and such whose last id or size
-    // in bytes would wrap around.
+    // Foreign ids where they are ignored; counts around the block's end, or whose last id or size wraps
+    // around.
     void run(std::size_t kind, int space, int id, bool write) {
         const Block& block = kBlocks[kind];
         if ((write || block.type == 2004) && random.below(8) == 0)
@@ -249,8 +245,7 @@ struct Values : testing::Test {
               [&] { VarSetGlobalStructValue(record.id, buffer, size); });
     }
 
-    // Of the ids that are int and long both slots are written and read, and the long one counts; others may
-    // have no slot.
+    // Of the ids that are int and long both slots are written and read; the long one counts.
     void anyKind(int space, int id, bool write) {
         double number = kNumbers[random.below(std::size(kNumbers))];
         std::string text = random.text(200), read;
@@ -324,8 +319,7 @@ auto failed(const std::string& function, const std::string& text) {
                                     "' failed.\n");
 }
 
-// Single values, records and the readers of runs except long require their kind, each with its own name and
-// text.
+// Single values, records and the readers of runs except long require their kind, with their names and texts.
 TEST_F(Values, OfForeignIdsAbort) {
     std::memset(buffer, 0, sizeof buffer);
     for (std::size_t kind = 0; kind < std::size(kBlocks); ++kind) {
@@ -372,8 +366,8 @@ TEST_F(Values, AreSetToTheirDefaultsInTheTemporarySpaceOnlyAndCleanedExceptForTh
     expectModel();
 }
 
-// The commit copies the settings, numbers bit for bit, texts up to their end, and ends with the flags that it
-// found, whatever another program did meanwhile.
+// Numbers bit for bit, texts up to their end; the flags are in the end as they were, whoever changed them
+// meanwhile.
 TEST_F(Values, OfSettingsAreCommittedAndNoOthers) {
     LoadDefParamProperties();
     unsigned settings = 0;

@@ -239,8 +239,7 @@ Timeout|No write permission~on USB
     EXPECT_EQ(list(18028, 0, kTextItem), inputs);
 }
 
-// All six look-ups against plain searches of the working table, into which a program writes, and the cursor,
-// which anybody may set.
+// Into the working table a program writes, and anybody may set the cursor.
 TEST_F(Texts, LookUpsAgreeWithPlainSearches) {
     std::mt19937 random(1);
     const auto upTo = [&random](int most) {
@@ -304,8 +303,6 @@ TEST_F(TextsDeathTest, AnIdBelowOneAborts) {
                          talux_test::startingWith("ParamSystem/TALUX_ParamStrings: const stParamText* " +
                                                   names[which] + ": Assertion `id>0' failed."));
 }
-
-// ---- Files ----
 
 TEST_F(TextLoader, ReplacesTheWholeTable) {
     load(kSentinel + "\n" + title("var_language", "Tongue") + "\n\n" + " \t " +
