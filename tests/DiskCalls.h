@@ -4,6 +4,7 @@
 #define TALUX_TEST_DISKCALLS_H
 
 #include "Files.h"
+#include "tools/Strings.h"
 
 #include <cstdarg>
 #include <dlfcn.h>
@@ -82,12 +83,6 @@ inline std::string lastOf(const char* path) {
     return fs::path(path).filename();
 }
 
-inline std::string octal(mode_t mode) {
-    char text[8];
-    std::snprintf(text, sizeof text, "%o", mode);
-    return text;
-}
-
 } // namespace talux_test
 
 // NOLINTBEGIN(misc-definitions-in-headers): included once
@@ -103,7 +98,7 @@ inline std::string octal(mode_t mode) {
 
 extern "C" {
 
-TALUX_CALL(fchmod, "allow " + octal(mode), (int file, mode_t mode), (file, mode))
+TALUX_CALL(fchmod, talux::formatted("allow %o", mode), (int file, mode_t mode), (file, mode))
 TALUX_CALL(flock, "", (int file, int operation), (file, operation))
 TALUX_CALL(ftruncate, "cut", (int file, off_t size), (file, size))
 TALUX_CALL(renameat, "rename " + std::string(newName),

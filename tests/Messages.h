@@ -2,6 +2,8 @@
 #ifndef TALUX_TEST_MESSAGES_H
 #define TALUX_TEST_MESSAGES_H
 
+#include "tools/Strings.h"
+
 #include <gtest/gtest.h>
 #include <string>
 #include <unistd.h>
@@ -10,12 +12,7 @@ namespace talux_test {
 
 // A message that begins with the text.
 inline auto startingWith(const std::string& text) {
-    std::string expression = "^";
-    for (const char each : text) {
-        if (std::string("\\^$.|?*+()[{").find(each) != std::string::npos) expression += '\\';
-        expression += each;
-    }
-    return testing::ContainsRegex(expression);
+    return testing::ContainsRegex("^" + talux::escaped(text, "\\^$.|?*+()[{"));
 }
 
 // The call ends the process with status 2 and this text on both streams together.

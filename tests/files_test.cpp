@@ -439,22 +439,19 @@ TEST_F(Load, RaisesItsFlag) {
 
 TEST_F(Load, ResetsTheAddressesOfOneKind) {
     const int kIds[] = {16000, 16029, 16032, 16035};
-    const struct {
-        int type;
-        const char* addresses; // afterwards, one digit each
-    } cases[] = {{2018, "1934"}, {2019, "9234"}, {0, "1234"}, {2020, "9934"}};
     write("def_ip_config.ini",
           "TLX_DNS=\"1\"\nTLX_ETH0_IP=\"2\"\nTLX_ETH0_MASK=\"3\"\nTLX_ETH0_GATEWAY=\"4\"\n");
-    for (const auto& test : cases) {
+    for (const auto& [type, expected] : // one digit of each address
+         {std::pair(2018, "1934"), {2019, "9234"}, {0, "1234"}, {2020, "9934"}}) {
         begin();
         for (const int id : kIds)
             VarSetIpValue(id, const_cast<char*>("9"));
-        const auto [result, output, errors] = outcomeOf([&] { return VarResetIPConfig(test.type); });
+        const auto [result, output, errors] = outcomeOf([type = type] { return VarResetIPConfig(type); });
         EXPECT_TRUE(result == 1 && output.empty()) << output;
         std::string addresses;
         for (const int id : kIds)
             addresses += text(id, kGlobal);
-        EXPECT_EQ(addresses, test.addresses) << test.type;
+        EXPECT_EQ(addresses, expected) << type;
         EXPECT_EQ(number(8001, kGlobal), 1);
     }
     fs::remove(directory / "def_ip_config.ini");

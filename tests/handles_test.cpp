@@ -4,6 +4,7 @@
 #include "talux/follower.hpp"
 #include "talux/notes.hpp"
 #include "talux/talux.hpp"
+#include "tools/Strings.h"
 
 #include <cmath>
 #include <map>
@@ -112,11 +113,8 @@ TEST_F(Handles, AChangeIsAllOrNone) {
     const Result result = change.commit();
     EXPECT_FALSE(result);
     EXPECT_EQ(result.id(), delay.id());
-    std::string texts;
-    for (const Result& each : change.refusals())
-        texts += std::string(each.text()) + "; ";
-    EXPECT_EQ(texts,
-              "Uearth_SigDel = -1: VALUE TOO LOW (0 to 86400 s); Name: A LINE CANNOT CARRY AN EQUALS SIGN; ");
+    EXPECT_EQ(talux::list(change.refusals(), "; ", [](const Result& each) { return each.text(); }),
+              "Uearth_SigDel = -1: VALUE TOO LOW (0 to 86400 s); Name: A LINE CANNOT CARRY AN EQUALS SIGN");
     EXPECT_EQ(threshold.staged(), before);
 
     Change second;

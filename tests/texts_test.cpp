@@ -206,18 +206,11 @@ TEST_F(Texts, HaveNames) {
 TEST_F(Texts, ReadAsPrinted) {
     std::istringstream printed(R"(1 10000 3002 0 0:Sprache
 2 10000 3002 0 0:Language
-0 10000 3002 0 0:Language
-7 10000 3002 0 0:Language
 1 10000 3008 0 1:Deutsch|Englisch
 2 10000 3008 0 1:German|English
 2 2000 3003 0 0:Voltage U1_primary
 1 2000 3004 0 0:kV
-1 18023 3008 0 1:keine|ungerade|gerade
-2 18023 3008 0 1:none|odd|even
-2 18005 3002 0 0:Confirmation
 2 18005 3007 0 0:Parameter|Messages
-1 18005 3008 0 1:ja|nein
-2 18005 3008 0 1:yes|no
 2 19001 3007 0 0:Args|Messages|Errors
 1 19001 3008 0 1:VarSaveParams
 2 19001 3008 1 1:Please wait...
