@@ -79,10 +79,6 @@ Function* next(Function* /*own*/, const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-inline std::string lastOf(const char* path) {
-    return fs::path(path).filename();
-}
-
 } // namespace talux_test
 
 // NOLINTBEGIN(misc-definitions-in-headers): included once
@@ -127,9 +123,10 @@ int close(int file) { // closes even if it fails
 }
 int open(const char* path, int flags, ...) {
     using namespace talux_test;
+    const std::string name = fs::path(path).filename();
     const std::string what = (flags & O_DIRECTORY) != 0 ? "open directory"
-                             : (flags & O_CREAT) != 0   ? "open or make " + lastOf(path)
-                                                        : "open " + lastOf(path);
+                             : (flags & O_CREAT) != 0   ? "open or make " + name
+                                                        : "open " + name;
     EXPECT_TRUE(!watching || (flags & (O_CLOEXEC | O_TRUNC)) == O_CLOEXEC);
     if (fails("open", what)) return -1;
     const int file = next(&open, "open")(path, flags, 0666);

@@ -20,10 +20,6 @@ bool mayWriteSystemFiles() {
     return isolated() || (access("/", W_OK) == 0 && access("/etc", W_OK) == 0);
 }
 
-void writeFile(const std::string& path, const std::string& text) {
-    std::ofstream(path, std::ios::binary) << text;
-}
-
 using Writer = void (*)(int, double*);
 
 void putValue(Writer write, int id, std::string value) {
@@ -64,7 +60,7 @@ struct Network : OnMachine<> {
         LoadDefParamProperties();
         fs::current_path("/tmp");
         for (const char* zone : kZones)
-            writeFile(zone, "");
+            std::ofstream{zone};
     }
     static void TearDownTestSuite() {
         for (const char* zone : kZones)
@@ -191,12 +187,12 @@ void check(const Row& row) {
     put(kSettings + std::string(row.step == kAll ? "" : kLive) + row.settings);
     machine.addresses = row.kernel;
     fs::remove("/etc/localtime");
-    if (row.link == "FILE") writeFile("/etc/localtime", "");
+    if (row.link == "FILE") std::ofstream("/etc/localtime");
     if (row.link.starts_with('/')) fs::create_symlink(row.link, "/etc/localtime");
     if (row.step != kAll) fs::remove("/ip_config.ini");
     if (isolated()) fs::remove("/etc/resolv.conf");
     if (row.resolver == "DIRECTORY") fs::create_directory("/etc/resolv.conf");
-    if (row.resolver.find(' ') != std::string::npos) writeFile("/etc/resolv.conf", row.resolver);
+    if (row.resolver.find(' ') != std::string::npos) std::ofstream("/etc/resolv.conf") << row.resolver;
 
     const auto apply = row.step == kAll ? row.apply : kFunctions[row.step].apply;
     EXPECT_EQ(transcriptOf([&] { EXPECT_EQ(apply(), row.result); }), expected(row));
@@ -289,11 +285,12 @@ TEST_F(Network, RunsTheCommandsOfEveryBranch) {
 // What ends in the same sequence; so do writes of interface addresses, in the model of the language.
 TEST_F(Network, IsSetByTheAddressFile) {
     if (!mayWriteSystemFiles()) GTEST_SKIP() << "the system files are another user's";
-    writeFile("/ip_config.ini", "TLX_ETH0_IP=\"192.168.1.10\"\nTLX_NTP1=\"10.0.0.1\"\n");
+    std::ofstream("/ip_config.ini") << "TLX_ETH0_IP=\"192.168.1.10\"\nTLX_NTP1=\"10.0.0.1\"\n";
     check({kAll, "ETH0_IP=1.2.3.4 NTP1=1.2.3.4", {}, 1, kKernel, kUtc, "", talux::c::VarLoadIPConfig});
 
-    writeFile("/def_ip_config.ini", "TLX_ETH0_IP=\"10.0.0.99\"\nTLX_ETH0_MASK=\"255.0.0.0\"\n"
-                                    "TLX_ETH0_GATEWAY=\"10.0.0.98\"\nTLX_NTP1=\"1.1.1.1\"\n"); // NTP1 stays
+    std::ofstream("/def_ip_config.ini")
+        << "TLX_ETH0_IP=\"10.0.0.99\"\nTLX_ETH0_MASK=\"255.0.0.0\"\n"
+           "TLX_ETH0_GATEWAY=\"10.0.0.98\"\nTLX_NTP1=\"1.1.1.1\"\n"; // NTP1 stays
     const std::vector<Edit> edits = {
         {"192.168.1.10", "10.0.0.99"},
         {"eth0 netmask 255.255.0.0", "eth0 netmask 255.0.0.0"},
@@ -376,7 +373,7 @@ struct HostileSettings : Network {
         resetStore();
         fs::create_directories("/tmp/playground");
         fs::current_path("/tmp/playground");
-        writeFile("bait", ""); // what patterns would match
+        std::ofstream("bait"); // what patterns would match
     }
     void TearDown() override {
         fs::current_path("/tmp");

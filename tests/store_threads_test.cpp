@@ -51,7 +51,7 @@ TEST(SeveralAtOnce, ThreadsNeverTearWhatOneLockHolds) {
     LoadDefParamProperties();
     write('a');
     stop = false;
-    std::thread a(write, 'a'), b(write, 'B');
+    std::jthread a(write, 'a'), b(write, 'B');
     int torn = 0;
     double run[384], number;
     char text[128], record[236];
@@ -65,8 +65,6 @@ TEST(SeveralAtOnce, ThreadsNeverTearWhatOneLockHolds) {
                 !uniform(record, sizeof record) || !uniform(text, text[0]) || text[+text[0]] != 0;
     }
     stop = true;
-    a.join();
-    b.join();
     EXPECT_EQ(torn, 0);
     VarGetGlobalTextValue(9067, text);
     EXPECT_STREQ(text, "from the child");
