@@ -5,6 +5,7 @@
 #include <cctype>
 #include <map>
 #include <strings.h>
+#include <vector>
 
 namespace {
 
@@ -108,7 +109,8 @@ TEST_F(Dictionary, IsFoundLikeByAScanAlsoWhereAProgramHasChangedIt) {
         names.push_back("new_" + std::to_string(round));
     for (int round = 0; round < 1000; ++round) {
         const bool isNew = round < kSpareParamRows - 2;
-        const int position = isNew ? kRows + 1 + round : 1 + static_cast<int>(below(kRows));
+        const int position =
+            isNew ? kRows + 1 + round : 1 + static_cast<int>(below(static_cast<std::size_t>(kRows)));
         stParamProperties& some = ParamProperties[position];
         if (isNew) some = DefParamProperties[kRows];
         if (isNew || below(2) != 0) some.id = 40000 + round;

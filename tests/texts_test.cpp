@@ -17,6 +17,7 @@
 #include <string_view>
 #include <sys/stat.h>
 #include <thread>
+#include <vector>
 
 namespace {
 
