@@ -104,9 +104,7 @@ TEST_F(Dictionary, IsFoundLikeByAScanAlsoWhereAProgramHasChangedIt) {
             << position;
     }
     expectLikeAScan();
-    std::vector<std::string> names;
-    for (int round = 0; round < 1000; ++round)
-        names.push_back("new_" + std::to_string(round));
+    std::vector<std::string> names(1000);
     for (int round = 0; round < 1000; ++round) {
         const bool isNew = round < kSpareParamRows - 2;
         const int position =
@@ -114,7 +112,8 @@ TEST_F(Dictionary, IsFoundLikeByAScanAlsoWhereAProgramHasChangedIt) {
         stParamProperties& some = ParamProperties[position];
         if (isNew) some = DefParamProperties[kRows];
         if (isNew || below(2) != 0) some.id = 40000 + round;
-        if (isNew || below(2) != 0) some.name = names[static_cast<std::size_t>(round)].c_str();
+        std::string& name = names[static_cast<std::size_t>(round)] = "new_" + std::to_string(round);
+        if (isNew || below(2) != 0) some.name = name.c_str();
     }
     expectLikeAScan();
     LoadDefParamProperties();
