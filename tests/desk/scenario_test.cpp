@@ -21,40 +21,6 @@ std::string faultsOf(const std::string& text) {
     return all;
 }
 
-TEST(DeskScenario, SaysWhatIsWrongAndWhatWouldBeRight) {
-    EXPECT_EQ(faultsOf("# a comment\n\nnetwork isolated 20 kV\r\nat 1 s end # a comment\r\n"), "");
-    const struct {
-        const char *line, *fault;
-    } cases[] = {
-        {"netwrk isolated 20 kV", "a line begins with network, load or at, not 'netwrk'"},
-        {"network grounded 20 kV",
-         "the neutral is one of isolated, resonant-earthed, low-resistance, not 'grounded'"},
-        {"network isolated 20 V", "'kV' expected, not 'V'"},
-        {"network isolated 20,5 kV", "'kV' expected, not '5'"},
-        {"network isolated 20 kV detuning 5 %", "only a resonant-earthed network has a detuning"},
-        {"network isolated 20 kV capacitive 5 A own 6 A",
-         "the feeder's own current is part of the capacitive current"},
-        {"network low-resistance 20 kV",
-         "a low-resistance network, and no other, has a neutral current: neutral 500 A"},
-        {"at 2 s earth fault L4 solid forward", "the phase is one of L1, L2, L3, not 'L4'"},
-        {"at 2 s earth fault L1 200 Ohm forward", "'ohm' expected, not 'Ohm'"},
-        {"at 2 s earth fault L1 solid", "the direction is missing"},
-        {"at -1 s end", "the time is from 0 to 86400 s"},
-        {"at 2 s end now", "'now' is too much"},
-        {"at nan s end", "the time is from 0 to 86400 s"},
-        {"at 2 s short circuit L1 L1 500 A forward", "a short circuit is between two phases"},
-        {"at 2 s transformers I1 I1 swapped", "two transformers are swapped"},
-        {"network isolated 20 kV earth 5 %",
-         "capacitive, own, detuning, damping or neutral expected, not 'earth'"},
-        {"load 5 A lag 3 deg", "angle, drift or noise expected, not 'lag'"},
-        {"load x A", "the load is a number with a decimal point, not 'x'"},
-    };
-    for (const auto& [line, fault] : cases)
-        EXPECT_EQ(faultsOf(line), "1: " + std::string(fault) + "\n");
-    EXPECT_NE(faultsOf("at 1 s fault").find("nothing begins with 'fault'; there are earth fault, "),
-              std::string::npos);
-}
-
 TEST(DeskScenario, NeedsEveryWordOfAStatement) {
     for (const std::string statement :
          {"network low-resistance 20 kV neutral 500 A", "load 5 A angle 3 deg noise 2 %",
@@ -167,14 +133,6 @@ struct DeskReplay : testing::Test {
     std::string write(const char* name, const std::string& contents) {
         std::ofstream(folder / name, std::ios::binary) << contents;
         return folder / name;
-    }
-    static std::string faultOf(const std::string& path) {
-        try {
-            openRecording(path);
-        } catch (const ReplayFault& fault) {
-            return std::string(fault.what()).substr(path.rfind('/') + 1);
-        }
-        return "none";
     }
 };
 
@@ -292,55 +250,6 @@ TEST_F(DeskReplay, FindsTheSamePhasorsHoweverChannelsAreDescribed) {
     EXPECT_GT(std::abs(offset("kV,0.01,7").voltage[2] - offset("kV,0.01,0").voltage[2]), 0.01);
 }
 
-TEST_F(DeskReplay, SaysWhatIsWrongWithARecording) {
-    const std::string good = configuration("ASCII"), data = ascii();
-    const struct {
-        const char *from, *to, *fault;
-    } cases[] = {
-        {"ASCII", "ASCII", "none"},
-        {"6A", "6X", "record.cfg:2: a number of channels with A expected, not '6X'"},
-        {"6A", "", "record.cfg:2: a number of channels with A expected, not ''"},
-        {"6A", "99999A", "record.cfg:2: from 0 to 9999 channels"},
-        {"0D", "-1D", "record.cfg:2: from 0 to 9999 channels"},
-        {"0D", "xD", "record.cfg:2: the number of channels is a number, not 'x'"},
-        {"4000,800", "4000,900", "record.dat: sample 801: the file ends here"},
-        {"4000,800", "100,800", "record.cfg:11: at least four samples a cycle are needed"},
-        {"4000,800", "4000,1e30", "record.cfg:11: from 1 to 20 million samples"},
-        {"4000,800", "4000,1", "none"},
-        {"4000,800", "4000,0.9", "record.cfg:11: from 1 to 20 million samples"},
-        {"4000,800", "4000,0", "record.cfg:11: from 1 to 20 million samples"},
-        {"4000,800", "4000", "record.cfg:11: at least 2 fields expected"},
-        {"4000,800", "inf,800", "record.cfg:11: the sampling rate is a number, not 'inf'"},
-        {"50\n1\n", "-50\n1\n", "record.cfg:11: at least four samples a cycle are needed"},
-        {"50\n1\n", "\n1\n", "record.cfg:9: the line frequency is a number, not ''"},
-        {"50\n1\n", "50\n2\n", "record.cfg:10: one sampling rate expected, not 2.000000"},
-        {",C,,A", ",N,,A", "record.cfg:8: no current of phase 3"},
-        {",A,,kV", ",A,,mV", "record.cfg:8: no voltage of phase 1"},
-        {"1,1,P", "1,x,S", "record.cfg:3: the secondary rating is a number, not 'x'"},
-        {"ASCII", "PKZIP", "record.cfg:14: the format 'PKZIP' is none of ASCII, BINARY, BINARY32, FLOAT32"},
-        {"6,6A,0D", "7,7A,0D", "record.cfg:9: at least 10 fields expected"},
-    };
-    const auto faultWith = [&](std::string configured, const std::string& recorded) {
-        write("record.dat", recorded);
-        return faultOf(write("record.cfg", configured));
-    };
-    for (const auto& [from, to, fault] : cases) {
-        std::string text = good;
-        text.replace(text.find(from), std::strlen(from), to);
-        EXPECT_EQ(faultWith(text, data), fault) << to;
-    }
-    std::string binaryFormat = good;
-    binaryFormat.replace(good.find("ASCII"), 5, "BINARY");
-    EXPECT_EQ(faultWith(binaryFormat, data.substr(0, 50)), "record.dat: sample 3: the file ends here");
-    EXPECT_EQ(faultWith(good, "1,0,1,2,3\n"), "record.dat: sample 1: too few values");
-    EXPECT_EQ(faultWith(good, "1,0,1,2,x,4,5,6\n"), "record.dat: sample 1: a value is no number");
-    for (std::size_t length = 0; length + 1 < good.size(); length += 7)
-        EXPECT_NE(faultWith(good.substr(0, length), data), "") << length;
-    EXPECT_EQ(faultOf(folder / "missing.cfg"), "missing.cfg: cannot be read");
-    EXPECT_EQ(faultOf(write("alone.cfg", good)), "alone.dat: cannot be read");
-    EXPECT_EQ(faultOf(write("record.txt", "")), "record.txt: neither a .csv nor a .cfg file");
-}
-
 TEST_F(DeskReplay, ReplaysWhatWatchHasWritten) {
     const std::string head = "time,U1_prim,U2_prim,U3_prim,I1_prim,I2_prim,I3_prim,phiUI1,phiUI2,phiUI3\n";
     const std::string path =
@@ -356,22 +265,6 @@ TEST_F(DeskReplay, ReplaysWhatWatchHasWritten) {
     EXPECT_NEAR(cycles[110].record.U1p, 10, 1e-3);
     EXPECT_EQ(cycles[110].record.f_grid, 50);
     EXPECT_NEAR(cycles.back().record.I1p, 0, 3) << "the network again";
-    const std::string row = ",11,12,13,100,101,102,30,30,30\n", first = "2026-11-25 23:59:59.000" + row;
-    const std::pair<std::string, const char*> cases[] = {
-        {head + "2026-11-25 10:00:00.000" + row + first + "2026-11-26 02:00:00.000" + row, "none"},
-        {head + "2026-11-25 10:00:00.000,\"11,5\",12,13,100,101,102,30,30,\"30\"\n", "none"},
-        {"", "feeder.csv: cannot be read"},
-        {"time,U1_prim\n", "feeder.csv:1: no column U2_prim"},
-        {head, "feeder.csv: no rows of values"},
-        {head + "2026-11-25 23:59:59.000,11\n", "feeder.csv:2: 10 cells expected, not 2"},
-        {head + first + "2026-11-25" + row, "feeder.csv:3: '2026-11-25' is no date and time"},
-        {head + first + "2026-11-25 x" + row, "feeder.csv:3: '2026-11-25 x' is no date and time"},
-        {head + "2026-11-25 23:59:59.000,11,12,x,100,101,102,30,30,30\n", "feeder.csv:2: 'x' is no number"},
-        {head + "2026-11-25 23:59:59.000,11,12,,100,101,102,30,30,30\n", "feeder.csv:2: '' is no number"},
-        {head + first + "2026-11-25 23:59:58.500" + row, "feeder.csv:3: the time goes back"},
-    };
-    for (const auto& [contents, fault] : cases)
-        EXPECT_EQ(faultOf(write("feeder.csv", contents)), fault);
 }
 
 // With semicolons, decimal commas and quotes as spreadsheets write them, and the residual values measured.
