@@ -2,7 +2,7 @@
 // them is killed, and the disk fills and empties. Whoever reads a parameter file finds it whole, nobody
 // hangs for ten seconds, groups and locks recover, and at the end files and store agree.
 //
-//   crowd SECONDS DEVICE TALUX LUA SCRIPT     alone in an isolated root on a small disk
+//   crowd SECONDS DEVICE TALUX SCRIPT     alone in an isolated root on a small disk
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -10,13 +10,12 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <map>
 #include <mutex>
 #include <random>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <sys/prctl.h>
@@ -29,14 +28,11 @@
 #include <fcntl.h>
 #include <talux/talux.hpp>
 
-#include "tools/Strings.h"
-
 namespace {
 
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
-using Command = std::vector<std::string>;
 
 constexpr auto kLongest = 10s; // without a sign of life
 constexpr auto kPatience = 3s; // after which a program is no longer killed
@@ -65,8 +61,7 @@ void fault(const std::string& text) {
 // ---- The actors ----
 
 struct Actor {
-    std::string name;
-    Command command;
+    std::string name, command;
     int pid = 0, output = -1, rounds = 0, kills = 0, longest = 0;
     Clock::time_point since = Clock::now();
     std::string line = {}, last = {};
@@ -79,25 +74,16 @@ struct Actor {
     }
 };
 
-std::vector<char*> asArguments(Command& command) {
-    std::vector<char*> arguments;
-    for (std::string& word : command)
-        arguments.push_back(word.data());
-    arguments.push_back(nullptr);
-    return arguments;
-}
-
 void start(Actor& actor) {
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0) std::abort();
-    const auto arguments = asArguments(actor.command);
     actor.pid = fork();
     if (actor.pid == 0) {
         setpgid(0, 0);
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         dup2(ends[1], 1);
         dup2(ends[1], 2);
-        execvp(arguments[0], arguments.data());
+        execl("/bin/sh", "sh", "-c", actor.command.c_str(), nullptr);
         _exit(127);
     }
     setpgid(actor.pid, actor.pid);
@@ -106,32 +92,18 @@ void start(Actor& actor) {
     actor.output = ends[0];
 }
 
-std::string withoutNumbers(const std::string& text) {
-    std::string plain;
-    for (const char c : text)
-        if (c < '0' || c > '9')
-            plain += c;
-        else if (!plain.ends_with('#'))
-            plain += '#';
-    return plain;
-}
-
-bool isSign(const std::string& line) {
-    return std::any_of(std::begin(kSigns), std::end(kSigns),
-                       [&](const char* sign) { return line.starts_with(sign); });
-}
-
 void answered(Actor& actor, const std::string& text) {
     actor.alive();
-    const std::string plain = actor.name + ": " + withoutNumbers(text);
-    const bool isExpected = std::any_of(std::begin(kRefusals), std::end(kRefusals),
-                                        [&](const char* refusal) { return text.find(refusal) != text.npos; });
+    const std::string plain = actor.name + ": " + std::regex_replace(text, std::regex("[0-9]+"), "#");
+    const bool isExpected =
+        std::ranges::any_of(kRefusals, [&](const char* refusal) { return text.find(refusal) != text.npos; });
     if (text.starts_with("refused: ") && !isExpected) fault(plain);
     const std::lock_guard lock(mutex);
     ++answers[plain];
 }
 
 void heard(Actor& actor) {
+    const auto begins = [&](const char* sign) { return actor.line.starts_with(sign); };
     char block[4096];
     for (ssize_t size = 0; (size = read(actor.output, block, sizeof block)) > 0;)
         for (const char c : std::string_view(block, static_cast<std::size_t>(size))) {
@@ -139,7 +111,7 @@ void heard(Actor& actor) {
                 actor.line += c;
                 continue;
             }
-            if (isSign(actor.line)) answered(actor, actor.line);
+            if (std::ranges::any_of(kSigns, begins)) answered(actor, actor.line);
             actor.last = std::move(actor.line);
             actor.line.clear();
         }
@@ -175,12 +147,10 @@ std::string contents(const fs::path& path) {
 }
 
 // The names of its lines; of a torn file other ones.
-std::string namesOf(const std::string& text) {
-    std::stringstream lines(text);
-    std::string names;
-    for (std::string line; std::getline(lines, line);)
-        names += line.substr(0, line.find('=')) + (line.find('=') == line.npos ? "?\n" : "\n");
-    return text.ends_with('\n') ? names : names + "torn";
+std::string namesOf(std::string text) {
+    for (auto equals = text.find('='); equals != text.npos; equals = text.find('=', equals + 1))
+        text.erase(equals + 1, text.find('\n', equals) - equals - 1);
+    return text;
 }
 
 struct Whole {
@@ -302,35 +272,29 @@ void play(std::vector<Actor>& actors, std::chrono::seconds length) {
 }
 
 // The first word that a command prints.
-std::string answer(Command command) {
-    Actor actor{"the end", std::move(command)};
-    start(actor);
-    fcntl(actor.output, F_SETFL, 0);
-    alarm(10);
-    char block[4096];
-    std::string text;
-    for (ssize_t size = 0; (size = read(actor.output, block, sizeof block)) > 0;)
-        text.append(block, static_cast<std::size_t>(size));
-    waitpid(actor.pid, nullptr, 0);
-    close(actor.output);
-    alarm(0);
-    return text.substr(0, text.find_first_of(" \n"));
+std::string answer(const std::string& command) {
+    FILE* const pipe = popen(("timeout 10 " + command + " 2>&1").c_str(), "r");
+    char word[80] = "";
+    if (std::fscanf(pipe, "%79s", word) == EOF) word[0] = '\0';
+    while (std::fgetc(pipe) != EOF) {
+    }
+    pclose(pipe);
+    return word;
 }
 
 void compareAtTheEnd(const std::string& talux) {
     removeCopies();
     std::ofstream("/last") << "Uearth=42\nName=\"last\"\n";
-    answer({talux, "undo", "--yes"}); // what was interrupted
-    answer({talux, "apply", "--save", "--yes", "/last"});
+    answer(talux + " undo --yes"); // what was interrupted
+    answer(talux + " apply --save --yes /last");
     const std::string file = contents("/parameter.ini");
     if (file.find("TLX_Name=\"last\"\n") == file.npos) fault("the last change is not in the file");
     if (VarSaveAll() != 1) fault("the last save failed");
-    const std::string live = answer({talux, "fingerprint", "live"});
+    const std::string live = answer(talux + " fingerprint live");
     std::printf("crowd: at the end %s\n", live.c_str());
-    if (live.size() < 16 || answer({talux, "fingerprint", "/"}) != live)
-        fault("the files are not what is live");
-    answer({talux, "boot"});
-    if (answer({talux, "fingerprint", "live"}) != live) fault("a boot brings back something else");
+    if (live.size() < 16 || answer(talux + " fingerprint /") != live) fault("the files are not what is live");
+    answer(talux + " boot");
+    if (answer(talux + " fingerprint live") != live) fault("a boot brings back something else");
     for (const auto& entry : fs::directory_iterator("/"))
         if (entry.path().extension() == ".tmp") fault("left: " + entry.path().string());
 }
@@ -359,41 +323,29 @@ std::vector<Whole> wholeFiles() {
             {"ip_config", namesOf(contents("/ip_config.ini"))}};
 }
 
-std::vector<Actor> actorsWith(const std::string& device, const std::string& talux, const Command& script) {
-    const auto does = [&](const char* work) {
-        Command command = script;
-        command.emplace_back(work);
-        return command;
-    };
-    const auto shell = [&](std::initializer_list<std::string_view> pieces) {
-        return Command{"sh", "-c", talux::joined(pieces)};
-    };
-    std::vector<Actor> actors;
-    for (const auto& [name, command] : {
-             std::pair<std::string, Command>{"device", {device}},
-             {"publisher", {"/proc/self/exe", "publish"}},
-             {"set", does("set")},
-             {"change", does("change")},
-             {"save", does("save")},
-             {"save all", does("save_all")},
-             {"load", does("load")},
-             {"shell", shell({"printf 'TLX_Uearth=40\\nupdate\\nTLX_Uearth\\nsave\\n' | ", talux, " shell"})},
-             {"apply", shell({talux, " apply --save --yes /plan || ", talux, " undo --yes"})},
-         })
-        actors.push_back({name, command});
-    return actors;
+std::vector<Actor> actorsWith(const std::string& self, const std::string& device, const std::string& talux,
+                              const std::string& script) {
+    return {{"device", "exec " + device},
+            {"publisher", "exec " + self + " publish"},
+            {"set", script + " set"},
+            {"change", script + " change"},
+            {"save", script + " save"},
+            {"save all", script + " save_all"},
+            {"load", script + " load"},
+            {"shell", "printf 'TLX_Uearth=40\nupdate\nTLX_Uearth\nsave\n' | " + talux + " shell"},
+            {"apply", talux + " apply --save --yes /plan || " + talux + " undo --yes"}};
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     if (argc == 2 && argv[1] == std::string_view("publish")) return publish();
-    const long length = argc > 5 ? std::strtol(argv[1], nullptr, 10) : 0;
-    if (length <= 0) return std::fputs("crowd SECONDS DEVICE TALUX LUA SCRIPT\n", stderr), 2;
+    const long length = argc > 4 ? std::strtol(argv[1], nullptr, 10) : 0;
+    if (length <= 0) return std::fputs("crowd SECONDS DEVICE TALUX SCRIPT\n", stderr), 2;
     std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
     const std::vector<Whole> files = wholeFiles();
     std::ofstream("/plan") << "Uearth=35\nqu2_Ice=7\n";
-    std::vector<Actor> actors = actorsWith(argv[2], argv[3], {argv[4], argv[5]});
+    std::vector<Actor> actors = actorsWith(argv[0], argv[2], argv[3], "exec " + std::string(argv[4]));
 
     std::atomic<bool> goesOn = true;
     int filesSeen = 0, groupsSeen = 0, fills = 0;

@@ -6,5 +6,5 @@
 build=$builds/build-release disk=$scratch/disk
 mkdir "$disk"
 bwrap --dev-bind / / --size 800000 --tmpfs "$disk" -- "$project/scripts/isolated.sh" --root "$disk" --module "$build" -- \
-  "$build/tests/crowd/crowd" "${1:-20}" "$build/examples/device" "$build/tools/talux/talux" lua5.2 \
-  "$project/tests/crowd/actor.lua"
+  "$build/tests/crowd/crowd" "${1:-20}" "$build/examples/device" "$build/tools/talux/talux" \
+  "lua5.2 $project/tests/crowd/actor.lua"
