@@ -3,7 +3,6 @@
 #include "Terminal.h"
 
 #include <arpa/inet.h>
-#include <chrono>
 #include <csignal>
 #include <sys/ptrace.h>
 #include <sys/socket.h>
@@ -92,29 +91,6 @@ TEST_F(TaluxChange, AsksBeforeItWrites) {
         EXPECT_EQ(ended(), status) << keys;
         EXPECT_EQ(value("Uearth"), status != 1 ? "35.000000" : "30.000000") << keys;
     }
-}
-
-TEST_F(TaluxChange, APlanOfAllSettingsTakesATenthOfASecond) {
-    std::string plan, path = directory / "parameter.ini";
-    VarSaveParamFile(path.data());
-    for (const std::string& line : pieces(file("parameter.ini"), '\n')) {
-        char name[128] = "";
-        std::sscanf(line.c_str(), "TLX_%127[^=]", name);
-        const stParamProperties& row = *rowOf(name);
-        const bool isNumber = line.find('"') == line.npos;
-        plan += isNumber && row.val_access != 1 && row.val_max >= 2
-                    ? "TLX_" + std::string(name) + "=" + std::to_string(std::max(2., row.val_min)) + "\n"
-                    : line + "\n";
-    }
-    const std::string command =
-        "talux --directory " + directory.string() + " apply --yes " + write("plan", plan);
-    const auto start = std::chrono::steady_clock::now();
-    const Ended applied = run(command);
-    const double took = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    EXPECT_EQ(applied.status, 0);
-    EXPECT_GT(pieces(applied.output, '\n').size(), 250U);
-    EXPECT_LT(took, kTimesSlower) << "0.1 s where nothing else runs";
-    RecordProperty("seconds", std::to_string(took));
 }
 
 // A process that is stopped at each of its system calls, then after each instruction, then killed.
