@@ -24,22 +24,16 @@ double leads(const Sample& sample) {
     return std::arg(sample.current[0] / -sample.voltage[0]) * 180 / std::numbers::pi;
 }
 
-TEST(DeskNetwork, HasTheVoltagesOfASolidFaultInAnIsolatedNetwork) {
-    for (std::size_t phase = 0; phase < kPhases; ++phase) {
-        const Sample sample = settled(kIsolated, {.phase = phase, .ohm = 0, .forward = true});
-        EXPECT_NEAR(std::abs(sample.voltage[0]), kE, kExact);
-        for (std::size_t k = 0; k < kPhases; ++k)
-            EXPECT_NEAR(std::abs(sample.voltage[k + 1]), k == phase ? 0 : 20, kExact);
-    }
-}
-
-TEST(DeskNetwork, HasTheResidualCurrentOfAnIsolatedNetwork) {
-    const Sample forward = settled(kIsolated, {.forward = true}),
-                 backward = settled(kIsolated, {.forward = false});
-    EXPECT_NEAR(std::abs(forward.current[0]), 80 - 6, kExact);
-    EXPECT_NEAR(leads(forward), 90, kExact);
-    EXPECT_NEAR(std::abs(backward.current[0]), 6, kExact);
-    EXPECT_NEAR(leads(backward), -90, kExact);
+TEST(DeskNetwork, HasVoltagesAndResidualCurrentOfASolidFaultInAnIsolatedNetwork) {
+    for (std::size_t phase = 0; phase < kPhases; ++phase)
+        for (const bool forward : {true, false}) {
+            const Sample sample = settled(kIsolated, {.phase = phase, .ohm = 0, .forward = forward});
+            EXPECT_NEAR(std::abs(sample.voltage[0]), kE, kExact);
+            for (std::size_t k = 0; k < kPhases; ++k)
+                EXPECT_NEAR(std::abs(sample.voltage[k + 1]), k == phase ? 0 : 20, kExact);
+            EXPECT_NEAR(std::abs(sample.current[0]), forward ? 80 - 6 : 6, kExact);
+            EXPECT_NEAR(leads(sample), forward ? 90 : -90, kExact);
+        }
 }
 
 TEST(DeskNetwork, HasActivePartFromDampingAndReactivePartFromDetuning) {

@@ -1,49 +1,17 @@
-// A value as its slot keeps it, the bytes of every type, links, and what the pages say of refusals.
+// The bytes of every type, links, and what the pages say of refusals.
 #include "ParamSystem/kepl/Command.h"
 #include "ParamSystem/kepl/Refusal.h"
 #include "ParamSystem/kepl/ValueType.h"
 #include "ParamSystem/os/Files.h"
-#include "ParamSystem/store/Values.h"
 #include "talux/group_slot.hpp"
 #include "tests/Store.h"
 
-#include <cmath>
 #include <unistd.h>
 
 namespace {
 
 using namespace talux;
-using talux_test::Random;
 using namespace std::literals;
-
-// "-" for nothing, "=..." for a text, the bits of a number.
-std::string shown(const std::optional<Value>& value) {
-    if (!value) return "-";
-    return value->isText() ? std::string("=") + value->text()
-                           : std::to_string(std::bit_cast<std::uint64_t>(value->number()));
-}
-
-// The slot that answers for an id: of two the one of the longs.
-const talux_test::Block* slotOf(int id) {
-    for (const talux_test::Block& block : talux_test::kBlocks)
-        if (block.holds(id) && block.type != kTypeInt) return &block;
-    return nullptr;
-}
-
-Value anyValue(Random& random) {
-    static constexpr double kNumbers[] = {0,          -0.0,       1,           -1,         0.1,   -3.7,
-                                          255,        256,        32767,       32768,      65535, -32769,
-                                          2147483647, 2147483648, -2147483649, 4294967295, 1e10,  1e38,
-                                          -1e38,      5e-324,     HUGE_VAL,    -HUGE_VAL};
-    if (random.below(2) == 0) return Value(random.text(140));
-    return Value(kNumbers[random.below(std::size(kNumbers))]);
-}
-
-// Ids of every block and around them, and of no block.
-int anyId(Random& random) {
-    const auto& block = talux_test::kBlocks[random.below(std::size(talux_test::kBlocks))];
-    return random.below(8) == 0 ? random.below(25000) : block.first - 1 + random.below(block.count + 2);
-}
 
 TEST(Inside, ALinkFitsItsRoomOrIsCut) {
     for (const int length : {31, 32, 33, 34}) {
@@ -56,28 +24,6 @@ TEST(Inside, ALinkFitsItsRoomOrIsCut) {
         EXPECT_EQ(room, target.substr(0, 32));
         EXPECT_EQ(room[33], '#');
         unlink(link.c_str());
-    }
-}
-
-TEST(Inside, AValueReadsAsItsSlotKeepsIt) {
-    VarInit(talux_test::kNoDirectory);
-    Random random;
-    for (int round = 0; round < 20000; ++round) {
-        const int id = anyId(random);
-        const Value value = anyValue(random);
-        const Space space = random.below(2) == 0 ? Space::temp : Space::global;
-        const Space other = space == Space::temp ? Space::global : Space::temp;
-        const std::string before = shown(readValue(space, id)), otherBefore = shown(readValue(other, id));
-        writeValue(space, id, value);
-
-        const talux_test::Block* const slot = slotOf(id);
-        const bool fits = slot != nullptr && value.isText() == (slot->number == nullptr);
-        SCOPED_TRACE(testing::Message() << id << ": " << shown(value));
-        const auto stored = storedAs(id, value);
-        ASSERT_EQ(stored.has_value(), fits);
-        ASSERT_EQ(shown(readValue(space, id)), fits ? shown(stored) : before);
-        ASSERT_EQ(shown(readValue(other, id)), otherBefore);
-        ASSERT_EQ(before == "-", slot == nullptr);
     }
 }
 
