@@ -250,38 +250,4 @@ TEST_F(DeskReplay, FindsTheSamePhasorsHoweverChannelsAreDescribed) {
     EXPECT_GT(std::abs(offset("kV,0.01,7").voltage[2] - offset("kV,0.01,0").voltage[2]), 0.01);
 }
 
-TEST_F(DeskReplay, ReplaysWhatWatchHasWritten) {
-    const std::string head = "time,U1_prim,U2_prim,U3_prim,I1_prim,I2_prim,I3_prim,phiUI1,phiUI2,phiUI3\n";
-    const std::string path =
-        write("feeder.csv", head + "2026-11-25 23:59:59.000,11,12,13,100,101,102,30,30,30\n"
-                                   "2026-11-26 00:00:00.000,10,12,13,100,101,102,30,30,30\n");
-    Bench bench;
-    const auto& cycles =
-        bench.run("network isolated 20 kV\nload 0 A drift 0 %\nat 1 s replay " + path + "\nat 5 s end\n");
-    EXPECT_NEAR(cycles[60].record.U1p, 11, 1e-3);
-    EXPECT_NEAR(cycles[60].record.wUI1, 30, 1e-3);
-    EXPECT_NEAR(cycles[60].record.U0p, 0.57735, 1e-3) << "a third of the sum";
-    EXPECT_NEAR(cycles[60].record.I0p, 1.73205, 1e-3) << "the sum";
-    EXPECT_NEAR(cycles[110].record.U1p, 10, 1e-3);
-    EXPECT_EQ(cycles[110].record.f_grid, 50);
-    EXPECT_NEAR(cycles.back().record.I1p, 0, 3) << "the network again";
-}
-
-// With semicolons, decimal commas and quotes as spreadsheets write them, and the residual values measured.
-TEST_F(DeskReplay, TakesResidualValuesAndFrequencyWhereTheyAre) {
-    const std::string path = write(
-        "feeder.csv",
-        "time;\"U1_prim\";U2_prim;U3_prim;I1_prim;I2_prim;I3_prim;U0_prim;I0_prim;phiUI0;f_grid\r\n"
-        "2026-11-25 09:59:59.990;1;1;1;1;1;1;1;1;1;50\r\n2026-11-25 09:59:59.995;1;1;1;1;1;1;1;1;1;50\r\n"
-        "2026-11-25 10:00:00;11,5;11,5;11,5;100;100;100;\"2,5\";7;-90;49,9\r\n");
-    Sample sample;
-    const Recording recording = openRecording(path);
-    ASSERT_TRUE(recording(0.5, sample));
-    EXPECT_NEAR(std::abs(sample.voltage[1] - 11.5), 0, 1e-9);
-    EXPECT_NEAR(std::abs(sample.voltage[0] - 2.5), 0, 1e-9);
-    EXPECT_NEAR(std::abs(sample.current[0] - Phasor(0, 7)), 0, 1e-9);
-    EXPECT_EQ(sample.frequency, 49.9);
-    EXPECT_FALSE(recording(1.5, sample));
-}
-
 } // namespace
