@@ -65,7 +65,6 @@ struct OnTerminal : InStartedDevice {
     bool waitFor(const std::string& text) {
         for (;;) {
             if (const auto at = screen.find(text); at != screen.npos) {
-                shown = screen.substr(0, at + text.size());
                 screen.erase(0, at + text.size());
                 return true;
             }
@@ -81,7 +80,7 @@ struct OnTerminal : InStartedDevice {
     static constexpr tcflag_t kUsual = ICANON | ECHO | ISIG | IEXTEN;
     int terminal = -1;
     pid_t child = 0;
-    std::string screen, shown;
+    std::string screen;
 };
 
 } // namespace talux_test

@@ -89,15 +89,6 @@ TEST_F(TaluxShell, WatchShowsWhatFitsAndScrolls) {
     EXPECT_TRUE(waitFor("1 to 38 of 59"));
     type("q");
     EXPECT_EQ(ended(), 0);
-    OnTerminal::start({"watch", "Name", "U0_prim", "--period", "0.1"});
-    EXPECT_TRUE(waitFor("U0_prim"));
-    std::string text(110, 'n');
-    VarSetGlobalFloatValue(rowOf("U0_prim")->id, 3),
-        VarSetGlobalValue(rowOf("Name")->id, asValue(text.data()));
-    EXPECT_TRUE(waitFor("*  Name     \033[33m\"") && waitFor("n\033[0m\033[K") && waitFor("  U0_prim  3 kV"));
-    EXPECT_EQ(shown.find('*'), shown.npos) << "measured";
-    type("q");
-    EXPECT_EQ(ended(), 0);
 }
 
 TEST_F(TaluxShell, AsksBeforeAnAddressActsAndTakesChangesBack) {
