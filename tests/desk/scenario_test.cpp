@@ -158,50 +158,38 @@ double raw(int channel, int n) {
            0.01;
 }
 // 16 digital channels have a word.
-template <class Number>
-std::string binary(int words = 0) {
-    std::string data;
-    const auto append = [&data](auto value) {
-        data.append(reinterpret_cast<const char*>(&value), sizeof value);
-    };
+std::string dataIn(const std::string& format, int words = 0) {
+    std::ostringstream data;
+    const auto put = [&data](auto value) { data.write(reinterpret_cast<const char*>(&value), sizeof value); };
     for (int n = 0; n < 800; ++n) {
-        append(n + 1);
-        append(n * 250);
-        for (int channel = 0; channel < 6; ++channel)
-            append(static_cast<Number>(std::is_integral_v<Number> ? std::round(raw(channel, n))
-                                                                  : raw(channel, n)));
+        if (format == "ASCII")
+            data << n + 1 << ',' << n * 250;
+        else
+            put(std::array{n + 1, n * 250});
+        for (int channel = 0; channel < 6; ++channel) {
+            const double value = raw(channel, n);
+            if (format == "ASCII") data << ',' << std::lround(value);
+            if (format == "BINARY") put(static_cast<std::int16_t>(std::lround(value)));
+            if (format == "BINARY32") put(static_cast<std::int32_t>(std::lround(value)));
+            if (format == "float32") put(static_cast<float>(value));
+        }
         for (int word = 0; word < words; ++word)
-            append(std::int16_t{-1});
+            put(std::int16_t{-1});
+        if (format == "ASCII") data << "\r\n";
     }
-    return data;
-}
-std::string ascii() {
-    std::string data;
-    for (int n = 0; n < 800; ++n) {
-        data += std::to_string(n + 1) + "," + std::to_string(n * 250);
-        for (int channel = 0; channel < 6; ++channel)
-            data += "," + std::to_string(std::lround(raw(channel, n)));
-        data += "\r\n";
-    }
-    return data;
+    return data.str();
 }
 
 TEST_F(DeskReplay, FindsThePhasorsOfComtrade) {
     const struct {
         const char* format;
-        std::string data;
-        int digital = 0;
-    } cases[] = {{"ASCII", ascii()},
-                 {"BINARY", binary<std::int16_t>()},
-                 {"BINARY", binary<std::int16_t>(1), 1},
-                 {"BINARY", binary<std::int16_t>(1), 16},
-                 {"BINARY", binary<std::int16_t>(2), 17},
-                 {"BINARY32", binary<std::int32_t>()},
-                 {"float32", binary<float>()}};
-    for (const auto& [format, data, digital] : cases) {
+        int digital = 0, words = 0;
+    } cases[] = {{"ASCII"},         {"BINARY"},   {"BINARY", 1, 1}, {"BINARY", 16, 1},
+                 {"BINARY", 17, 2}, {"BINARY32"}, {"float32"}};
+    for (const auto& [format, digital, words] : cases) {
         SCOPED_TRACE(format);
         const std::string path = write("record.cfg", configuration(format, digital));
-        write("record.dat", data);
+        write("record.dat", dataIn(format, words));
         const auto recording = openRecording(path);
         Sample sample;
         for (const double second : {0.0, 0.06, 0.1}) {
@@ -223,7 +211,7 @@ TEST_F(DeskReplay, FindsTheSamePhasorsHoweverChannelsAreDescribed) {
         for (const auto& [from, to] : replacements)
             for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + strlen(to)))
                 text.replace(at, strlen(from), to);
-        write("RECORD.DAT", ascii());
+        write("RECORD.DAT", dataIn("ASCII"));
         Sample sample;
         EXPECT_TRUE(openRecording(write("RECORD.CFG", text))(0.02, sample));
         return sample;
