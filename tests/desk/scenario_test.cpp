@@ -86,25 +86,6 @@ TEST(DeskScenario, ChangesWhatItsStatementsSay) {
     }
 }
 
-TEST(DeskScenario, RestartsTheProgramWithoutItsSignals) {
-    Bench bench;
-    const auto& cycles =
-        bench.run(std::string(kIsolated) + "at 1 s earth fault L1 solid forward\n"
-                                           "at 2 s fault cleared\nat 3 s restart\nat 5 s end\n");
-    EXPECT_EQ(cycles[149].record.Cnt, 150);
-    EXPECT_EQ(cycles[149].transients, 1);
-    EXPECT_EQ(cycles[150].record.Cnt, 1);
-    EXPECT_EQ(cycles[150].transients, 0);
-    std::istringstream text("at 0.1 s restart\nat 5 s end\n");
-    const Scenario scenario = readScenario(text);
-    Desk device(scenario);
-    Cycle cycle;
-    double down = 0;
-    while (device.step(bench.settings(), {}, cycle))
-        down += device.isDown() ? kCycle : 0;
-    EXPECT_NEAR(down, 1, kCycle);
-}
-
 TEST(DeskScenario, TakesEventsInTheOrderOfTimeAndEndsWhateverComes) {
     std::istringstream text("at 3 s end\nat 1 s input BE2 on\n");
     const Scenario read = readScenario(text);

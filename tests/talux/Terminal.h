@@ -63,11 +63,8 @@ struct OnTerminal : InStartedDevice {
 
     // True once the text has appeared since the last call.
     bool waitFor(const std::string& text) {
-        for (;;) {
-            if (const auto at = screen.find(text); at != screen.npos) {
-                screen.erase(0, at + text.size());
-                return true;
-            }
+        std::size_t at = 0;
+        while ((at = screen.find(text)) == screen.npos) {
             pollfd ready{terminal, POLLIN, 0};
             char block[4096];
             const ssize_t size = poll(&ready, 1, 20000) == 1 ? read(terminal, block, sizeof block) : 0;
@@ -75,6 +72,8 @@ struct OnTerminal : InStartedDevice {
                 return ADD_FAILURE() << "waited for '" << text << "', there is '" << screen << "'", false;
             screen.append(block, static_cast<std::size_t>(size));
         }
+        screen.erase(0, at + text.size());
+        return true;
     }
 
     static constexpr tcflag_t kUsual = ICANON | ECHO | ISIG | IEXTEN;

@@ -342,24 +342,21 @@ bool takes(Form form, const std::string& text) {
 }
 
 TEST(Rules, OfTheClockKnowTheCalendar) {
-    char text[32];
     for (const int year : {0, 1900, 2000, 2023, 2024, 9999})
         for (unsigned month = 0; month <= 13; ++month)
             for (unsigned day = 0; day <= 32; ++day) {
+                using namespace std::chrono;
+                char text[32];
                 std::snprintf(text, sizeof text, "%04d-%02u-%02u", year, month, day);
-                const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(month),
-                                                       std::chrono::day(day)};
-                EXPECT_EQ(takes(Form::date, text), date.ok()) << text;
+                const bool isDate = (std::chrono::year(year) / month / day).ok();
+                EXPECT_EQ(takes(Form::date, text), isDate) << text;
             }
-    for (const int hour : {0, 9, 23, 24})
-        for (const int minute : {0, 59, 60})
-            for (const int second : {0, 59, 60}) {
-                std::snprintf(text, sizeof text, "%02d:%02d:%02d", hour, minute, second);
-                EXPECT_EQ(takes(Form::time, text), hour < 24 && minute < 60 && second < 60) << text;
-            }
-    for (const char* const wrong : {"", "2024-05-1", "2024-5-01", "24-05-01", "2024/05-01", "2024-05/01",
-                                    "2024-05-011", "-2024-05-01", "2024-05-01 ", "1:00:00", "01:0:00",
-                                    "01:00:0", "01:00", "01:00:00:", "01.00:00", "01:00.00", "a1:00:00"})
+    for (const char* const right : {"00:00:00", "09:59:00", "23:59:59"})
+        EXPECT_TRUE(takes(Form::time, right)) << right;
+    for (const char* const wrong : {"",           "2024-05-1",   "2024-5-01",   "24-05-01",    "2024/05-01",
+                                    "2024-05/01", "2024-05-011", "-2024-05-01", "2024-05-01 ", "1:00:00",
+                                    "01:0:00",    "01:00:0",     "01:00",       "01:00:00:",   "01.00:00",
+                                    "01:00.00",   "a1:00:00",    "24:00:00",    "23:60:00",    "23:59:60"})
         EXPECT_FALSE(takes(Form::date, wrong) || takes(Form::time, wrong)) << wrong;
 }
 
