@@ -1,7 +1,8 @@
-// Scenarios: what is understood, what is reported of the rest; recordings that are replayed, good and broken
-// ones.
+// Scenarios: what is understood and what it does; recordings that are replayed. What is reported of the rest
+// is typed in desk.md.
 #include "Bench.h"
 
+#include <array>
 #include <cmath>
 #include <filesystem>
 #include <fstream>

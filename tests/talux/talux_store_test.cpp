@@ -2,6 +2,8 @@
 #include "Checked.h"
 #include "Program.h"
 
+#include <cmath>
+
 namespace {
 
 using namespace talux_test;
