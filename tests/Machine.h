@@ -216,9 +216,19 @@ void exit(int status) noexcept {
 
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 void* __libc_malloc(std::size_t);
+void* __libc_calloc(std::size_t, std::size_t);
+void* __libc_realloc(void*, std::size_t);
 void* malloc(std::size_t size) {
     talux_test::machine.allocations += talux_test::machine.working == 0;
     return __libc_malloc(size);
+}
+void* calloc(std::size_t count, std::size_t size) {
+    talux_test::machine.allocations += talux_test::machine.working == 0;
+    return __libc_calloc(count, size);
+}
+void* realloc(void* memory, std::size_t size) {
+    talux_test::machine.allocations += talux_test::machine.working == 0;
+    return __libc_realloc(memory, size);
 }
 #endif
 }
