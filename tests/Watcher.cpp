@@ -104,7 +104,8 @@ void addSignals(Things& things) {
 
 Things thingsOfTheProcess() {
     Things things{"folder " + fs::current_path().string(),
-                  std::string("locale ") + std::setlocale(LC_ALL, nullptr)};
+                  std::string("locale ") + std::setlocale(LC_ALL, nullptr) +
+                      (uselocale(nullptr) == LC_GLOBAL_LOCALE ? "" : ", the thread has its own")};
     addOpenFiles(things);
     addSemaphores(things);
     addAttachments(things);
