@@ -48,7 +48,6 @@ void Desk::clear() {
 
 void Desk::restart() {
     detection = Detection();
-    count = 0;
     downUntil = time + 1;
 }
 
@@ -93,6 +92,7 @@ bool Desk::step(const talux::Settings& settings, const Overrides& overrides, Cyc
     cycle.record.Cnt = ++count;
     cycle.second_record = recordOf(cycle);
     time += kCycle;
+    if (isDown()) count = 0;
     return true;
 }
 
