@@ -409,11 +409,11 @@ end)
 
 case("changes are told with title, unit and choice in either language", function()
   talux.apply {Uearth = 30, BAassign3 = 26, Name = "Süd", vBE = {[7] = 1}, Language = 1, knu1 = 200}
-  local changes = talux.apply {Uearth = 0x1p5 + 0.1, BAassign3 = "qu2 ->F", Name = "Nord", vBE = {[7] = 2}, knu1 = 210}
+  local changes = talux.apply {Uearth = 0x1p5 + 0.1, BAassign3 = "qu2 ->F", Name = "Nord", vBE = {[7] = 1234567}, knu1 = 210}
   for language, told in pairs {de = talux.protocol(changes), en = talux.protocol(changes, "en")} do
     local function title(name) return talux.parameter(name, language)[language].title end
     local choices, column = talux.parameter("baassign3")[language].choices, nil
-    for name, values in pairs {Name = '"Süd" -> "Nord"', ["vBE[7]"] = "1 -> 2", Uearth = "30 -> 32.1 %", knu1 = "200 -> 210",
+    for name, values in pairs {Name = '"Süd" -> "Nord"', ["vBE[7]"] = "1 -> 1234567", Uearth = "30 -> 32.1 %", knu1 = "200 -> 210",
                                BAassign3 = ("26 (%s) -> 28 (%s)"):format(choices[26], choices[28])} do
       local line = ("%-9s  %s"):format(name, title(name:match "%w+"))
       local place = told:find(line, 1, true)
