@@ -103,7 +103,7 @@ TEST(DeskDetection, SignalsInTheDirectionOfTheFaultAfterItsDelay) {
             Bench bench;
             bench.set(method.active, true);
             if (!forward) bench.set(kCosSinAngle1, -91.0F), bench.set(kCosSinAngle2, 1.0F); // in either order
-            const Cycle during = bench.run(fault)[5 * 50];
+            const Cycle during = bench.run(fault)[250];
             EXPECT_EQ(bench.begins(wrong), -1);
             if (!forward && method.forward == 34) { // a healthy feeder has no active current
                 EXPECT_EQ(bench.begins(right), -1);
