@@ -361,7 +361,9 @@ TEST_F(TextLoader, GoesOnAfterSignals) {
     sigaction(SIGALRM, &action, nullptr);
     std::thread writer([&] {
         usleep(20000);
-        std::ofstream fifo(kFifo);
+        std::ofstream fifo;
+        while (!fifo.is_open()) // a signal may come to this thread while it waits for the reader
+            fifo.open(kFifo);
         for (const char c : kSentinel + title("VAR_Name", "slow"))
             fifo << c << std::flush, usleep(2000);
     });
