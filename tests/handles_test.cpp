@@ -130,7 +130,7 @@ TEST_F(Handles, AChangeIsAllOrNone) {
     ChangeOf<2> small;
     small.stage(threshold, 42).stage(delay, 1);
     for (int more = 0; more < 3; ++more)
-        EXPECT_EQ(small.stage(active, true).commit().reason(), Reason::tooMany);
+        EXPECT_EQ(small.stage(active, true).commit().text(), Result(Reason::tooMany).of(active.id()).text());
     EXPECT_EQ(small.refusals().size(), 2U);
     EXPECT_EQ(threshold.staged(), 43);
 }
