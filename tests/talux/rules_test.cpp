@@ -345,7 +345,6 @@ TEST(Rules, OfTheClockKnowTheCalendar) {
     for (const int year : {0, 1900, 2000, 2023, 2024, 9999})
         for (int month = 0; month <= 13; ++month)
             for (int day = 0; day <= 32; ++day) {
-                using namespace std::chrono;
                 char text[32];
                 std::snprintf(text, sizeof text, "%04d-%02d-%02d", year, month, day);
                 const bool isDate = (std::chrono::year(year) / month / day).ok();

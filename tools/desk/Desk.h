@@ -28,7 +28,7 @@ public:
     // The next cycle; false when the scenario has ended.
     bool step(const talux::Settings& settings, const Overrides& overrides, Cycle& cycle);
 
-    // While the program restarts, nothing is published. Of the last cycle, which began before `time`.
+    // Whether the last cycle is part of a restart, during which nothing is published.
     [[nodiscard]] bool isDown() const { return downUntil > time - kCycle / 2; }
 
     void acknowledge() { detection.acknowledge(); }
