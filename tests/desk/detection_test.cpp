@@ -39,14 +39,13 @@ constexpr char kLong[] =
     "network resonant-earthed 20 kV capacitive 80 A own 20 A damping 3 %\nload 0 A drift 0 %\n";
 
 // The settings that tests change. (clang 14 does not compile those made within the tests.)
-constexpr Setting<float> kQu2SigDur{"qu2_SigDur"}, kQu2SigDurLED{"qu2_SigDur_LED"}, kScSigDur{"sc_SigDur"},
-    kScSigDurLED{"sc_SigDur_LED"}, kFreqHold{"freq_T_hold"}, kFreqHoldLED{"freq_T_hold_LED"}, kKnu1{"knu1"},
-    kPhiCorrU1{"phi_corr_U1"}, kCosSinAngle1{"CosSin_angle1"}, kCosSinAngle2{"CosSin_angle2"};
+constexpr Setting<float> kQu2SigDur{"qu2_SigDur"}, kKnu1{"knu1"}, kPhiCorrU1{"phi_corr_U1"},
+    kCosSinAngle1{"CosSin_angle1"}, kCosSinAngle2{"CosSin_angle2"};
 constexpr Setting<talux::choice::BAassign> kLEDassign10{"LEDassign10"}, kBAassign5{"BAassign5"},
     kBAassign6{"BAassign6"};
-constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kQu2Active{"qu2_active"},
-    kScActive{"sc_active"}, kScDirActive{"sc_dir_active"}, kScEActive{"sc_class_E_active"},
-    kFreqActive{"freq_active"}, kUenCalc{"Uen_calc"}, k3IoCalc{"3Io_calc"};
+constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kScActive{"sc_active"},
+    kScDirActive{"sc_dir_active"}, kScEActive{"sc_class_E_active"}, kFreqActive{"freq_active"},
+    kUenCalc{"Uen_calc"}, k3IoCalc{"3Io_calc"};
 constexpr Setting<std::int32_t> kQuiCount{"qui_n"};
 constexpr Setting<talux::Choice> kPrioList10{"prio_list_10"};
 constexpr Setting<talux::choice::BApol> kBApol6{"BApol6"}, kLEDpol10{"LEDpol10"};
@@ -85,6 +84,32 @@ constexpr Method kMethods[] = {
      [](const Cycle& cycle) { return value(cycle, "I0_f1_abs"); }},
     {"admittance", kLong, "adm_active", "adm_I_min_1", 85, 0.06,
      [](const Cycle& cycle) { return value(cycle, "I0_f3_abs"); }},
+};
+
+constexpr char kShortCircuit[] = "at 1 s short circuit L2 L3 950 A forward\nat 4 s fault cleared\n",
+               kLowFrequency[] = "at 0 s frequency 49.8 Hz\nat 4 s frequency 50 Hz\n",
+               kRestriking[] = "at 1 s restriking earth fault L1 solid forward every 0.3 s for 0.06 s\n"
+                               "at 2.01 s fault cleared\n";
+constexpr struct {
+    std::size_t function;
+    Setting<bool> active;
+    Setting<float> relay, led;
+    const char* network;
+} kDurations[] = {
+    {17, "qu2_active", "Uearth_SigDur", "Uearth_SigDur_LED", kResonant},
+    {21, "qu2_active", "Uearth_SigDur", "Uearth_SigDur_LED", kIsolated},
+    {28, "qu2_active", "qu2_SigDur", "qu2_SigDur_LED", kResonant},
+    {30, "qu2_DE_active", "qu2_SigDur", "qu2_SigDur_LED", kResonant},
+    {32, "qui_active", "qui_SigDur", "qui_SigDur_LED", kRestriking},
+    {34, "cos_active", "cos_SigDur", "cos_SigDur_LED", kResonant},
+    {36, "sin_active", "sin_SigDur", "sin_SigDur_LED", kIsolated},
+    {38, "cos_sin_active", "cos_sin_SigDur", "cos_sin_SigDur_LED", kIsolated},
+    {40, "harm1_active", "harm1_SigDur", "harm1_SigDur_LED", kLong},
+    {42, "harm2_active", "harm2_SigDur", "harm2_SigDur_LED", kLong},
+    {85, "adm_active", "adm_T_hold", "adm_T_hold_LED", kLong},
+    {57, "sc_active", "sc_SigDur", "sc_SigDur_LED", kShortCircuit},
+    {82, "freq_active", "freq_T_hold", "freq_T_hold_LED", kLowFrequency},
+    {84, "freq_active", "freq_T_hold", "freq_T_hold_LED", kLowFrequency},
 };
 // clang-format on
 
@@ -156,21 +181,15 @@ TEST(DeskDetection, KeepsDurationsOfRelaysAndLeds) {
     bench.run(faultAt2(kResonant, "forward"));
     EXPECT_NEAR(bench.lasts(28), 4.25, 0.15) << "at least as long as the fault";
 
-    // An LED has a duration of its own.
-    const auto expectLed = [&](std::size_t function, Setting<bool> active, Setting<float> relay,
-                               Setting<float> led, const std::string& scenario) {
+    for (const auto& [function, active, relay, led, network] : kDurations) { // an LED has one of its own
         bench.set(active, true), bench.set(relay, 0.0F), bench.set(led, 8.0F);
         bench.set(kLEDassign10, static_cast<talux::choice::BAassign>(function));
         double shown = 0;
-        for (const Cycle& cycle : bench.run(scenario))
+        for (const Cycle& cycle : bench.run(faultAt2(network, "forward")))
             shown += cycle.outputs.leds[9] ? kCycle : 0;
         EXPECT_NEAR(shown, 8, 0.05) << function;
         EXPECT_LT(bench.lasts(function), 5) << function;
-    };
-    const std::string end = "\nat 4 s frequency 50 Hz\nat 4 s fault cleared\nat 12 s end\n";
-    expectLed(28, kQu2Active, kQu2SigDur, kQu2SigDurLED, faultAt2(kResonant, "forward"));
-    expectLed(57, kScActive, kScSigDur, kScSigDurLED, "at 1 s short circuit L2 L3 950 A forward" + end);
-    expectLed(82, kFreqActive, kFreqHold, kFreqHoldLED, "at 0 s frequency 49.8 Hz" + end);
+    }
 }
 
 TEST(DeskDetection, BeginsWhatTheSettingsSay) {
