@@ -33,8 +33,8 @@ Status run(const Options& options, const Context& context) {
     const Source source = Source::open(options.source, context);
     const auto lines = linesOf(source, fileCalled(options.file, context), options.shared);
     print(options.listing ? list(lines, "")
-                          : context.say("{}  {}, {} settings\n", "{}  {}, {} Einstellungen\n",
-                                        fingerprintOf(lines), printable(source.name()), lines.size()));
+                          : fill("{}  {}, {}\n", {fingerprintOf(lines), printable(source.name()),
+                                                  context.counted(lines.size(), kSetting, kSettings)}));
     return kNothing;
 }
 
