@@ -32,9 +32,9 @@ TEST_F(TaluxShell, CompletesNamesValuesOptionsAndWords) {
     EXPECT_TRUE(waitFor("1 = German") && waitFor("2 = English") && waitFor("TLX_Language="));
     EXPECT_TRUE(answers("2,3,TLX_Langua\t", "2.000000"));
     type("TLX_Uearth=\t5");
-    EXPECT_TRUE(answers("", "")); // a number has nothing to offer
-    type("TLX_nosuch=\t\x03TLX_qu2_active=\t");
-    EXPECT_TRUE(waitFor("0  1") && answers("1", ""));
+    EXPECT_TRUE(answers("", ""));                          // a number has nothing to offer
+    type("1,hel\t\x03TLX_nosuch=\t\x03TLX_qu2_active=\t"); // help is a word of its own line
+    EXPECT_TRUE(waitFor("\a^C") && waitFor("\a^C") && waitFor("0  1") && answers("1", ""));
     EXPECT_TRUE(answers("upd\t", "parameter successfully update"));
     type("TLX_MessRecord02 -\t");
     EXPECT_TRUE(waitFor("-c") && waitFor("TLX_MessRecord02 -"));
