@@ -211,12 +211,17 @@ local function seconds(time)
   return hour * 3600 + minute * 60 + second
 end
 
+-- Whether what was found is a value, or the time of the clock soon after it.
+local function is(entry, found, value)
+  if found == value or not found or entry.row.kind ~= "time of the clock" then return found == value end
+  return (seconds(found) - seconds(value)) % 86400 < 5
+end
+
 -- Writes an entry; returns the reason if the store does not have it afterwards.
 local function write(entry)
   local new, found, answer = entry.new, stored(entry, entry.line .. "=" .. entry.text)
-  if found == new then return end
+  if is(entry, found, new) then return end
   if found == nil then return bare(answer) end
-  if entry.row.kind == "time of the clock" and (seconds(found) - seconds(new)) % 86400 < 5 then return end
   return ("NOT STORED (reads %s)"):format(tostring(found))
 end
 
@@ -228,7 +233,7 @@ local function takeBack(entries, last)
     local row, old = entry.row, entry.old
     local text = type(old) == "number" and numbers.write(old) or row.length and checks.carried(row, old)
     if text and not rank[row.kind] then command(entry.line .. "=" .. text) end
-    if stored(entry) ~= old then lost[#lost + 1] = labelOf(row, entry.index) end
+    if not is(entry, stored(entry), old) then lost[#lost + 1] = labelOf(row, entry.index) end
   end
   return #lost > 0 and "; not taken back: " .. table.concat(lost, ", ") or ""
 end
