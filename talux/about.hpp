@@ -8,6 +8,7 @@
 #ifndef TALUX_ABOUT_HPP
 #define TALUX_ABOUT_HPP
 
+#include <algorithm>
 #include <concepts>
 #include <cstddef>
 #include <optional>
@@ -38,8 +39,10 @@ public:
     [[nodiscard]] ParamType type() const { return static_cast<ParamType>(row->type); }
     [[nodiscard]] bool is_setting() const { return row->is_volatile == 0; }
     [[nodiscard]] bool is_writable() const { return !rules::isReadOnly(*row); }
-    [[nodiscard]] int level() const { return row->userlevel; }     // rights that a write takes, 1 to 3
     [[nodiscard]] int elements() const { return row->val_max_id; } // of an indexed parameter, else 0
+
+    // Rights that a write takes: 2 or 3; 1 of the one parameter that whoever may read may write.
+    [[nodiscard]] int level() const { return std::max(name() == "mw_req" ? 1 : 2, row->userlevel); }
 
     // What a write may set; nothing where there is no limit. Of texts the longest in characters.
     [[nodiscard]] std::optional<double> min() const {
@@ -54,7 +57,8 @@ public:
     [[nodiscard]] double default_number() const { return row->val_def; }
     [[nodiscard]] std::string_view default_text() const { return row->val_def_text; }
 
-    // Texts, empty where there is none. The description is the long label.
+    // Texts; the English one where the language has none, as units, else empty. The description is the long
+    // label.
     [[nodiscard]] std::string_view title(ParamLanguage language = kEnglish) const {
         return text(kTextTitle, language);
     }
@@ -67,14 +71,15 @@ public:
 
     // A choice, counted from 1.
     [[nodiscard]] std::string_view choice(int number, ParamLanguage language = kEnglish) const {
-        return detail::textOf(*row, kTextItem, language, number);
+        return text(kTextItem, language, number);
     }
 
 private:
     const stParamProperties* row;
 
-    [[nodiscard]] std::string_view text(int kind, int language) const {
-        return detail::textOf(*row, kind, language);
+    [[nodiscard]] std::string_view text(int kind, int language, int item = -1) const {
+        const std::string_view own = detail::textOf(*row, kind, language, item);
+        return own.data() != nullptr ? own : detail::textOf(*row, kind, kEnglish, item);
     }
 };
 
