@@ -218,6 +218,20 @@ TEST_F(Dictionary, ForeignTypesGiveNothing) {
     EXPECT_EQ(saved(VarSaveParamFile).find("xxx"), std::string::npos);
 }
 
+TEST_F(Dictionary, AFileThatWouldBeTooLongStaysAsItIs) {
+    std::string file = write("parameter.ini", "old"), name(127, 'n'), text(127, 't');
+    const int id = row("Name").id;
+    for (int k = 1; k < kSpareParamRows; ++k)
+        (ParamProperties[kRows + k] = row("Name")).name = name.c_str();
+    VarSetTextValue(id, text.data());
+    VarUpdateGlobalSpace();
+    const std::string unwritten = "Error (TALUX_Var): Can't write to file '" + file + "' \n",
+                      stays = "Error (TALUX_Var): '" + file + "' stays as it is \nwrite: File too large\n";
+    EXPECT_EQ(outcomeOf([&] { return VarSaveParamFile(file.data()); }), Outcome(1, unwritten, stays));
+    EXPECT_EQ(std::get<0>(outcomeOf([] { return VarSaveError(SavedFile::parameters); })), EFBIG);
+    EXPECT_TRUE(contents(file) == "old");
+}
+
 // What a symbol stands for, -1 where it is unknown.
 VarLong resolved(std::string symbol) {
     VarLong value = -1;

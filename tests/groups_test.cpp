@@ -251,6 +251,7 @@ TEST_F(Groups, HaveOneMeaningPerName) {
     EXPECT_EQ(attachment("early", kFirst.run<2>()), Attachment::otherElements);
     const Group two("runs", kFirst.run<2>());
     EXPECT_EQ(attachment("runs", kFirst.run<3>()), Attachment::otherElements);
+    EXPECT_EQ(attachment("runs", Measured<float>{"U2_prim"}.run<2>()), Attachment::otherElements);
 }
 
 // A name may be used for other elements, and a slot for another group, once no program uses it.

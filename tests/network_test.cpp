@@ -5,6 +5,7 @@
 #include "Machine.h"
 #include "Store.h"
 #include "src/talux_store.h"
+#include "talux/talux.hpp"
 
 #include <initializer_list>
 #include <regex>
@@ -267,7 +268,7 @@ TEST_F(Network, RunsTheCommandsOfEveryBranch) {
         {kRadio, "essid=~root", {{"essid Net_1", "essid '~root'"}}},
         {kRadio, "essid=#1", {{"essid Net_1", "essid '#1'"}}},
         {kRadio, "essid=a=~b", {{"essid Net_1", "essid 'a=~b'"}}},
-        {kAll, ""},
+        {kAll, ""}, {kAll, "eth1_active=2|0 wlan0_active=2|0"},
         {kAll, "eth1_active=0|1", {{"ifconfig eth1 10.1.1.1*", "$ ifconfig eth1 down" QUIET}}},
         {kAll, "wlan0_active=0|1", {{"ifconfig wlan0 down*", "$ ifconfig wlan0 down" QUIET}, noWlan0Address}},
         {kAll, "VarSetWLAN0TypeDev=2|1", {{"ifconfig wlan0 down*", "VarINFRASTRUCTUREWLAN0: *** NOT IMPLEMENTED ***\n"
@@ -285,8 +286,11 @@ TEST_F(Network, RunsTheCommandsOfEveryBranch) {
 // What ends in the same sequence; so do writes of interface addresses, in the model of the language.
 TEST_F(Network, IsSetByTheAddressFile) {
     if (!mayWriteSystemFiles()) GTEST_SKIP() << "the system files are another user's";
-    std::ofstream("/ip_config.ini") << "TLX_ETH0_IP=\"192.168.1.10\"\nTLX_NTP1=\"10.0.0.1\"\n";
-    check({kAll, "ETH0_IP=1.2.3.4 NTP1=1.2.3.4", {}, 1, kKernel, kUtc, "", talux::c::VarLoadIPConfig});
+    for (int (*const load)() :
+         {talux::c::VarLoadIPConfig, +[] { return talux::Store().load_ip() ? 1 : 0; }}) {
+        std::ofstream("/ip_config.ini") << "TLX_ETH0_IP=\"192.168.1.10\"\nTLX_NTP1=\"10.0.0.1\"\n";
+        check({kAll, "ETH0_IP=1.2.3.4 NTP1=1.2.3.4", {}, 1, kKernel, kUtc, "", load});
+    }
 
     std::ofstream("/def_ip_config.ini")
         << "TLX_ETH0_IP=\"10.0.0.99\"\nTLX_ETH0_MASK=\"255.0.0.0\"\n"

@@ -110,7 +110,13 @@ void moveRecord() {
     STORE(VarSetGlobalStructValue)(kRecordId<Layout>, &record, sizeof record);
 }
 
-// Of the settings every byte counts: followers compare them.
+// Every byte counts: followers compare them.
+void addSettings() {
+    for (const stVarSpace* space : {pVarTemp, pVarGlobal})
+        for (const auto& [id, offset, size] : detail::kSettings)
+            add(reinterpret_cast<const char*>(space) + offset, size);
+}
+
 void move(int turns) {
     for (int turn = 0; turn < turns; ++turn) {
         for (int k = 0; k < 500; ++k)
@@ -118,9 +124,7 @@ void move(int turns) {
         moveRecord<MessRecord01>(), moveRecord<MessRecord02>(), moveRecord<StatRecord_c0>();
         if (below(4) == 0) STORE(VarSetDefault)();
         if (below(2) == 0) STORE(VarUpdateGlobalSpace)();
-        for (const stVarSpace* space : {pVarTemp, pVarGlobal})
-            for (const auto& [id, offset, size] : detail::kSettings)
-                add(reinterpret_cast<const char*>(space) + offset, size);
+        addSettings();
         std::printf("%d: %08x\n", turn, print);
     }
 }
@@ -234,15 +238,21 @@ void useFiles() {
 int main() {
 #ifdef TALUX_ON_FAKE
     constexpr Record<StatRecord_c0> statistics; // the last record
+    constexpr Measured<float> voltage{"U0_prim"};
+    float volts = 5;
     {
         Fake before; // of which the next one knows nothing
+        voltage.set(volts);
+        std::ignore = Group("group", voltage).write(volts);
         before.fail_saves(ENOSPC);
         StatRecord_c0 values{};
         values.dT = 60;
         statistics.set(values);
     }
     const Fake fake;
-    if (statistics.get().dT != 0) std::puts("a record is left");
+    if (statistics.get().dT != 0 || voltage.get() != 0 ||
+        Group("group", voltage).read(volts) != Reading::unwritten)
+        std::puts("something is left");
 #else
     VarClean();
     std::filesystem::create_directory(folder);
@@ -253,7 +263,10 @@ int main() {
     store.commit();
     move(200);
     lookUp();
+    STORE(VarSetLongValue)(idOf("channel"), 3);
     std::printf("saved %d\n", save(0));
+    addSettings(); // which the save has committed
+    std::printf("settings %08x\n", print);
     shareGroup();
     makeGroups();
 #ifndef TALUX_ON_FAKE
