@@ -11,6 +11,7 @@
 #include <numeric>
 #include <set>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -399,6 +400,16 @@ TEST_F(Followers, DoNotWaitForWhatStaysPending) {
     ASSERT_TRUE(follower.wait(2000));
     EXPECT_GT(talux::detail::monotonic() - start, 200000000) << "a commit may go on";
     EXPECT_TRUE(hangTogether(follower.settings()));
+}
+
+TEST_F(Followers, DoNotBeginWithAHalfCommit) {
+    stage(7);
+    VarSetGlobalTextValue(kName.id(), std::string("7").data());
+    std::jthread other([this] {
+        usleep(30000);
+        store.commit();
+    });
+    EXPECT_TRUE(hangTogether(Follower().settings()));
 }
 
 TEST_F(Followers, EndWithTheSameAndNeverHandOutAHalfCommit) {
