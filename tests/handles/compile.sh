@@ -14,10 +14,11 @@ fail() { printf '%s\n' "$@"; status=1; }
 # Every wrong line is refused by an error in that line of the program, which shows it, and gives the reason: g++ in the
 # error itself, clang after it.
 compilers=(g++)
-"${compile[@]}" -fsyntax-only -x c++ "$here/wrong.hpp" >"$work/g++" 2>&1 && fail 'wrong handles compile'
+sed -n '/^```cpp/,/^```/{/^```/!p}' "$here/wrong.md" >"$work/wrong.hpp"
+"${compile[@]}" -fsyntax-only -x c++ "$work/wrong.hpp" >"$work/g++" 2>&1 && fail 'wrong handles compile'
 if command -v clang++ >/dev/null && [ "$("$@" -dumpmachine)" = "$(gcc -dumpmachine)" ]; then
   compilers+=(clang++)
-  clang++ -ferror-limit=0 -std=c++20 -I"$here/../.." -I"$generated" -fsyntax-only -x c++ "$here/wrong.hpp" >"$work/clang++" 2>&1 &&
+  clang++ -ferror-limit=0 -std=c++20 -I"$here/../.." -I"$generated" -fsyntax-only -x c++ "$work/wrong.hpp" >"$work/clang++" 2>&1 &&
     fail 'wrong handles compile'
 fi
 while IFS=: read -r line text; do
@@ -31,7 +32,7 @@ while IFS=: read -r line text; do
       fail "$compiler, line $line: $reason is not said:" "$message"
     fi
   done
-done < <(grep -n '// [a-z]' "$here/wrong.hpp" | grep -v ':// ')
+done < <(grep -n '// [a-z]' "$work/wrong.hpp" | grep -v ':// ')
 
 # Without the generated headers one line says what to build, and there are no other errors.
 printf '#include <talux/talux.hpp>\nconstexpr talux::Setting<float> threshold{"Uearth"};\n' >"$work/alone.cpp"
