@@ -158,8 +158,11 @@ TEST_F(Handles, MeasuredValuesAreLiveAtOnce) {
             text += "ä";
         const std::string count = "SampleFile: TEXT TOO LONG (" + std::to_string(bytes);
         for (const auto& [each, unit] : {std::pair(text, " bytes, at most 127)"),
-                                         {std::string(bytes, 'x'), " characters, at most 127)"}})
-            EXPECT_EQ(file.set(each).text(), bytes > 127 ? count + unit : "");
+                                         {std::string(bytes, 'x'), " characters, at most 127)"}}) {
+            const Result result = file.set(each);
+            EXPECT_EQ(result.text(), bytes > 127 ? count + unit : "");
+            EXPECT_EQ(result.reason(), bytes > 127 ? Reason::tooLong : Reason::none);
+        }
         EXPECT_EQ(file.get(), std::string(std::min<std::size_t>(bytes, 127), 'x')) << "not of a refused one";
     }
     EXPECT_EQ(Text(std::string(128, 'x')), std::string(127, 'x'));
