@@ -278,6 +278,11 @@ TEST_F(Network, RunsTheCommandsOfEveryBranch) {
     // clang-format on
     for (const Row& row : rows)
         if (row.step != kDns || isolated()) check(row);
+    for (const char* gateway : {"ETH0_GATEWAY", "ETH1_GATEWAY"}) // a program may change a type
+        ParamProperties[rowOf(gateway) - ParamProperties].type = kTypeIp;
+    check({kEth0, "", {{"route*", ""}}});
+    check({kEth1, ""});
+    LoadDefParamProperties();
     machine.socketsFail = true;
     check({kAliases, "", {{TEAR_DOWN, ""}}});
     EXPECT_EQ(VarINFRASTRUCTUREWLAN0() + VarStaticIPWLAN0_INFRASTRUCTURE(), 2);
