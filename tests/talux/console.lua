@@ -114,11 +114,11 @@ local function follow(block)
 end
 
 local accepted = text:gsub("(\n```console\n)(.-)(```)", function(open, block, close) return open .. follow(block) .. close end)
-os.remove(scratch)
-os.remove(complaints)
 for name in pairs(files()) do
   if not before[name] then os.remove(name) end
 end
+os.remove(scratch)
+os.remove(complaints)
 assert(count > 0, "nothing is typed in " .. arg[1])
 if accepts and accepted ~= text then assert(io.open(arg[1], "w")):write(accepted) end
 if wrong == 0 then print(("ok: %d commands of %s"):format(count, arg[1])) end
