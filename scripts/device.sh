@@ -5,7 +5,7 @@
 #   device.sh armv7|armv5te [--tests | --module-tests] [CMAKE-OPTION..]
 #
 # --tests          also builds examples and tests
-# --module-tests   module, layers and their tests, without the programs
+# --module-tests   module, layers and those of their tests that depend on the processor, without the programs
 . "$(dirname "$(readlink -f "$0")")/common.sh"
 cd "$project"
 
