@@ -230,6 +230,7 @@ void useFiles() {
     }
     move(1);
     std::filesystem::remove_all(folder);
+    std::printf("without a folder %d\n", save(0));
 }
 #endif
 
