@@ -30,9 +30,7 @@ if(TALUX_SANITIZE)
 endif()
 
 # For tests and tools, which need no speed: this compiles faster.
-if(NOT CMAKE_BUILD_TYPE STREQUAL Coverage)
-  set(talux_quick -O1)
-endif()
+set(talux_quick -O1)
 # For tests and sources with large headers, which would take more than 250 MB: the compiler collects its garbage as soon
 # as that is near, which takes longer. And g++ 12 sees overlaps and overflows in "literal" + std::string that are not
 # there (GCC bug 105651); the sanitizers would see those that are.

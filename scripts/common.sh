@@ -109,7 +109,7 @@ declare -A packages=(
   [browser]=chromium:chromium
   [make]=make:make
   [rock]=luarocks:luarocks
-  [coverage]=gcovr:gcovr
+  [coverage]='llvm-cov:llvm python3:python3'
   [time]=/usr/bin/time:time
   [debootstrap]=debootstrap:debootstrap
 )

@@ -71,7 +71,7 @@ for path in "$project" "${reads[@]}"; do
 done
 
 # Counters of a program that is compiled with them; what the documents show is renewed inside.
-[ -z "${GCOV_PREFIX-}" ] || arguments+=(--bind "$GCOV_PREFIX" "$GCOV_PREFIX")
+[ -z "${LLVM_PROFILE_FILE-}" ] || arguments+=(--bind "${LLVM_PROFILE_FILE%/*}" "${LLVM_PROFILE_FILE%/*}")
 [ -z "${TALUX_ACCEPT-}" ] || arguments+=(--bind "$project" "$project")
 
 lay_root() {
