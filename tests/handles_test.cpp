@@ -399,6 +399,13 @@ TEST_F(Followers, DoNotWaitForWhatStaysPending) {
     stage(5);
     store.commit();
     ASSERT_TRUE(kChannel.stage(3)); // pending for ever
+    for (const float number : {6.0F, 7.0F, 5.0F}) {
+        usleep(130000);
+        const auto changed = talux::detail::monotonic();
+        VarSetGlobalFloatValue(kDelay.id(), number);
+        EXPECT_FALSE((follower.poll() || follower.poll()) &&
+                     talux::detail::monotonic() - changed < 250000000);
+    }
     const auto start = talux::detail::monotonic();
     ASSERT_TRUE(follower.wait(2000));
     EXPECT_GT(talux::detail::monotonic() - start, 200000000) << "a commit may go on";
