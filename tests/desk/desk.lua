@@ -10,7 +10,7 @@ local function await(what, condition)
   assert(done, what)
 end
 
-talux.apply {BAassign = {[3] = "qu2 ->F"}, qu2_SigDur = 3600}
+talux.apply {BAassign = {[3] = "qu2 ->F"}, LEDassign = {[1] = "qu2 ->F"}, qu2_SigDur = 3600, qu2_SigDur_LED = 3600}
 talux.update()
 
 talux.set("mw_req", 1)
@@ -19,9 +19,9 @@ await("the snapshot was not taken", function() return talux.get "mw_req" == 0 en
 await("the relay does not follow", function() return talux.get "REL3" == 1 end)
 assert(talux.get "y_EarthFaultState" == 1 and talux.get "U0_prim" > 11)
 await("the fault was not cleared", function() return talux.get "y_EarthFaultState" == 0 end)
-assert(talux.get "REL3" == 1, "qu2_SigDur keeps the signal")
+assert(talux.get "REL3" == 1 and talux.get "y_LED" % 2 == 1, "qu2_SigDur and qu2_SigDur_LED keep the signal")
 talux.set("BE_Reset_Button", 1)
-await("the button does nothing", function() return talux.get "REL3" == 0 end)
+await("the button does nothing", function() return talux.get "REL3" == 0 and talux.get "y_LED" % 2 == 0 end)
 assert(talux.get "BE_Reset_Button" == 0)
 
 for shown, kind in pairs {REL5 = "BA", BE5 = "BE", U1_prim = "MW"} do
