@@ -8,7 +8,6 @@
 #ifndef TALUX_ABOUT_HPP
 #define TALUX_ABOUT_HPP
 
-#include <algorithm>
 #include <concepts>
 #include <cstddef>
 #include <optional>
@@ -42,7 +41,7 @@ public:
     [[nodiscard]] int elements() const { return row->val_max_id; } // of an indexed parameter, else 0
 
     // Rights that a write takes: 2 or 3; 1 of the one parameter that whoever may read may write.
-    [[nodiscard]] int level() const { return std::max(name() == "mw_req" ? 1 : 2, row->userlevel); }
+    [[nodiscard]] int level() const { return rules::levelToWrite(*row); }
 
     // What a write may set; nothing where there is no limit. Of texts the longest in characters.
     [[nodiscard]] std::optional<double> min() const {

@@ -16,6 +16,7 @@
 #include "ParamSystem/kepl/Operation.h"
 #include "ParamSystem/kepl/Refusal.h"
 #include "ParamSystem/kepl/Words.h"
+#include "ParamSystem/rules/Rules.h"
 
 namespace talux::kepl {
 
@@ -162,11 +163,8 @@ inline Decision decide(std::string_view term, int uid, int board = kOtherBoard) 
 
 // ---- For completion and help ---------------------------------------------------------------------------
 
-// The only parameter that everybody who may read it may write: it requests a snapshot of the measured values.
-inline constexpr std::string_view kOpenToReaders = "mw_req";
-
-// Rights needed to read a parameter, to write one (or more, see userlevel), to run any shell command.
-inline constexpr int kReadLevel = 1, kWriteLevel = 2, kShellLevel = 3;
+using rules::kOpenToReaders, rules::kReadLevel, rules::kWriteLevel;
+inline constexpr int kShellLevel = 3; // to run any shell command
 
 } // namespace talux::kepl
 

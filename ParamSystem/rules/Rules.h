@@ -5,6 +5,7 @@
 #ifndef TALUX_RULES_RULES_H
 #define TALUX_RULES_RULES_H
 
+#include <algorithm>
 #include <climits>
 #include <concepts>
 #include <optional>
@@ -58,6 +59,16 @@ inline constexpr int kAnyLength = INT_MAX;
 
 constexpr bool isReadOnly(const stParamProperties& row) {
     return row.val_access == kReadOnly;
+}
+
+// Rights needed to read a parameter, and to write one or more (see userlevel).
+inline constexpr int kReadLevel = 1, kWriteLevel = 2;
+
+// The only parameter that everybody who may read it may write: it requests a snapshot of the measured values.
+inline constexpr std::string_view kOpenToReaders = "mw_req";
+
+constexpr int levelToWrite(const stParamProperties& row) {
+    return std::max(row.name == kOpenToReaders ? kReadLevel : kWriteLevel, row.userlevel);
 }
 
 // What the rules need to know of a parameter.

@@ -39,8 +39,7 @@ rules::Facts Parameter::facts() const {
 int Parameter::writeLevel() const {
     if (!holds(type().kind, row().id) || facts().isReadOnly) return 0;
     if (type().nature == Nature::record) return 0;
-    if (name() == kepl::kOpenToReaders) return row().userlevel;
-    return std::max(kepl::kWriteLevel, row().userlevel);
+    return rules::levelToWrite(row());
 }
 
 int Parameter::textRoom() const {
