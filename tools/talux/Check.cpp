@@ -26,7 +26,7 @@ struct FileReport {
     int findings = 0;
     int omitted = 0;
 
-    bool found() const { return changes > 0 || findings > 0 || omitted > 0; }
+    bool found() const { return changes > 0 || findings > 0; }
 };
 
 // The rules on what a load leaves, where the file has a part in it. What is odd about one value alone is a

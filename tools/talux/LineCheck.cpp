@@ -39,7 +39,7 @@ std::string nameReason(std::string_view name, const Context& context) {
 // Of what is neither a variable nor a word nor a number.
 std::string termReason(std::string_view term, const Context& context) {
     const std::string_view name = term.substr(0, term.find_first_of(" ="));
-    if (const Parameter* parameter = reference::find(name); parameter != nullptr && !name.empty())
+    if (const Parameter* parameter = reference::find(name); parameter != nullptr)
         return context.say("parameters are written with a prefix: TLX_{}{}",
                            "Parameter stehen mit Vorsatz: TLX_{}{}", parameter->name(),
                            printable(term.substr(name.size())));

@@ -97,7 +97,7 @@ private:
         if (parameter == nullptr) return;
         for (const auto& [number, text] : parameter->choices(context.language))
             offer(start, std::to_string(number), fill("{} = {}", {std::to_string(number), text}));
-        if (parameter->type().kind == Kind::Bool && candidates.empty())
+        if (parameter->type().kind == Kind::Bool)
             for (const char* flag : {"0", "1"})
                 offer(start, flag);
     }
@@ -176,7 +176,7 @@ private:
         const std::string text(completion.common());
         if (text.size() > completion.typed.size() || (isOne && text != completion.typed)) {
             el_deletestr(editor, static_cast<int>(completion.typed.size()));
-            if (!text.empty()) el_insertstr(editor, text.c_str());
+            el_insertstr(editor, text.c_str());
             return CC_REFRESH;
         }
         if (!isOne) showList(completion.candidates);

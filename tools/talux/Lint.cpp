@@ -39,7 +39,7 @@ public:
         ++count;
         at = std::min(at, script.size());
         const auto line = std::ranges::upper_bound(lineStarts, at) - lineStarts.begin();
-        const std::size_t start = line == 0 ? 0 : lineStarts[static_cast<std::size_t>(line - 1)];
+        const std::size_t start = lineStarts[static_cast<std::size_t>(line - 1)];
         print(fill("{}:{}:{}: {}\n", {name, std::to_string(line), std::to_string(at - start + 1), text}));
     }
 

@@ -16,8 +16,9 @@ bool isLetter(char c) {
     return (small >= 'a' && small <= 'z') || (static_cast<unsigned char>(c) & 0x80) != 0;
 }
 
+// Of a letter.
 bool isSmall(char c) {
-    return isLetter(c) && lowerAscii(c) == c;
+    return lowerAscii(c) == c;
 }
 
 // "SigDel" begins in "Uearth_SigDel" and in "EvSigDel".

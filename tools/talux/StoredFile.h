@@ -15,7 +15,7 @@ struct StoredFile {
     bool isTorn = false; // lines that no save writes, or the last setting of a save is missing
 
     bool isUsable() const { return unreadable.empty() && settings > 0; }
-    bool isComplete() const { return isUsable() && settings == expected && findings == 0; }
+    bool isComplete() const { return settings == expected && findings == 0; }
 };
 
 StoredFile lookAt(const std::string& path, File file, const Context& context);

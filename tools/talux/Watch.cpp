@@ -36,12 +36,11 @@ std::string timeOfDay() {
     return localTimeText(now.tv_sec) + formatted(".%03ld", now.tv_nsec / 1000000);
 }
 
-// Texts come in quotes and keep them; a quote inside is doubled.
-std::string csvCell(const std::string& text, char separator) {
-    const bool isText = text.size() > 1 && text.starts_with('"');
-    if (!isText && text.find(separator) == text.npos && text.find('"') == text.npos) return text;
+// Texts come in quotes and keep them; a quote inside is doubled. Nothing else holds a separator.
+std::string csvCell(const std::string& text) {
+    if (text.size() < 2 || !text.starts_with('"')) return text;
     std::string cell = "\"";
-    for (const char c : isText ? text.substr(1, text.size() - 2) : text)
+    for (const char c : text.substr(1, text.size() - 2))
         cell.append(c == '"' ? 2 : 1, c);
     return cell + '"';
 }
@@ -220,7 +219,7 @@ struct Watch {
         const char separator = options.decimalComma ? ';' : ',';
         std::string line = first;
         for (const std::string& cell : cells)
-            line += separator + csvCell(cell, separator);
+            line += separator + csvCell(cell);
         print(line + "\n");
     }
 };
@@ -275,7 +274,7 @@ void addWatch(CommandLine& line) {
         {"seconds between two readings; 1 if not given", "Sekunden zwischen zwei Ablesungen; sonst 1"}, 0.01,
         86400.0);
     command.option("--count", options.count,
-                   {"end after this many readings", "nach so vielen Ablesungen enden"});
+                   {"end after this many readings", "nach so vielen Ablesungen enden"}, 1, 1000000000);
     command.flag("--csv", options.csv,
                  {"one row per reading, for spreadsheets", "eine Zeile je Ablesung, für Tabellenprogramme"});
     command.flag("--decimal-comma", options.decimalComma,

@@ -33,7 +33,8 @@ std::vector<Watched> elementsBy(const std::string& text, const Parameter& parame
     takeUpTo(end, ' ');
     const std::string_view begin = takeUpTo(end, '.');
     const auto first = wholeNumber(begin), last = end.empty() ? first : wholeNumber(end);
-    if (!parameter.isIndexed() || !first || !last || *first < least || *last > most || *first > *last)
+    if (!parameter.isIndexed()) context.fail("{} has no elements", "{} hat keine Elemente", parameter.name());
+    if (!first || !last || *first < least || *last > most || *first > *last)
         context.fail("'{}': no such element; elements are {} to {}",
                      "'{}': kein solches Element; Elemente sind {} bis {}", printable(text), least, most);
     return {all.begin() + (*first - least), all.begin() + (*last - least + 1)};
@@ -97,7 +98,10 @@ std::vector<Watched> watchedBy(const std::string& text, const Context& context) 
     if (parameters.empty())
         for (const reference::Member& member : reference::membersNamed(text))
             found.push_back(watchedMember(member, context.language));
-    if (found.empty()) throw CouldNot(unknownName(text, context));
+    if (found.empty() && !parameters.empty())
+        context.fail("{} holds no value", "{} hat keinen Wert", printable(text));
+    const bool isOfSeveral = name.size() < text.size() && parameters.size() > 1;
+    if (found.empty() || isOfSeveral) throw CouldNot(unknownName(text, context));
     return found;
 }
 

@@ -27,7 +27,7 @@ struct Write {
     bool isChanged() const { return !setsClock() && !sameValue(present(), from); }
     bool isThere() const { return setsClock() || sameValue(present(), to); }
     // Whether writing it is applied to the system and saved at once, with everything else that is pending.
-    bool actsAtOnce() const { return parameter->row().type == kTypeIpAddress && index == 0; }
+    bool actsAtOnce() const { return parameter->row().type == kTypeIpAddress; }
 };
 using Writes = std::vector<Write>;
 
