@@ -40,13 +40,13 @@ constexpr char kLong[] =
 
 // The settings that tests change. (clang 14 does not compile those made within the tests.)
 constexpr Setting<float> kQu2SigDur{"qu2_SigDur"}, kCosSinAngle1{"CosSin_angle1"},
-    kCosSinAngle2{"CosSin_angle2"};
+    kCosSinAngle2{"CosSin_angle2"}, kAdmForward{"adm_Phi_FW_min"}, kAdmForwardEnd{"adm_Phi_FW_max"};
 constexpr Setting<talux::choice::BAassign> kLEDassign10{"LEDassign10"}, kBAassign5{"BAassign5"},
     kBAassign6{"BAassign6"};
 constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kScActive{"sc_active"},
     kScDirActive{"sc_dir_active"}, kScEActive{"sc_class_E_active"}, kFreqActive{"freq_active"};
 
-constexpr Setting<std::int32_t> kQuiCount{"qui_n"};
+constexpr Setting<std::int32_t> kQuiCount{"qui_n"}, kCosCycle{"cos_cycle"};
 constexpr Setting<talux::Choice> kPrioList10{"prio_list_10"};
 constexpr Setting<talux::choice::BApol> kBApol2{"BApol2"}, kBApol6{"BApol6"}, kLEDpol10{"LEDpol10"};
 constexpr Setting<talux::choice::BEpol> kBEpol2{"BEpol2"};
@@ -79,6 +79,8 @@ constexpr Method kMethods[] = {
      [](const Cycle& cycle) { return value(cycle, "I0_prim"); }},
     {"fifth harmonic", kLong, "harm1_active", "harm1_Ice", 40, 0.1,
      [](const Cycle& cycle) { return value(cycle, "I0_250_abs"); }},
+    {"fifth harmonic, voltage", kLong, "harm1_active", "harm1_Umin", 40, 0.1,
+     [](const Cycle& cycle) { return value(cycle, "U0_250_abs") * std::sqrt(3.0) * 5; }},
     {"settable harmonic", kLong, "harm2_active", "harm2_Ice", 42, 0.1,
      [](const Cycle& cycle) { return value(cycle, "I0_f1_abs"); }},
     {"admittance", kLong, "adm_active", "adm_I_min_1", 85, 0.06,
@@ -148,8 +150,10 @@ TEST(DeskDetection, HasNoDirectionBetweenTheAngles) {
     Bench bench;
     bench.set(Setting<bool>{"cos_sin_active"}, true);
     bench.set(kCosSinAngle1, 40.0F), bench.set(kCosSinAngle2, 50.0F); // the current is at 90
+    bench.set(Setting<bool>{"adm_active"}, true);
+    bench.set(kAdmForward, 0.0F), bench.set(kAdmForwardEnd, 1.0F); // the admittance, too
     bench.run(faultAt2(kIsolated, "forward"));
-    EXPECT_EQ(bench.begins(38) + bench.begins(39), -2);
+    EXPECT_EQ(bench.begins(38) + bench.begins(39) + bench.begins(85) + bench.begins(86), -4);
 }
 
 TEST(DeskDetection, ComparesTheChargeWithTheThresholdsOfTransientAndRestriking) {
@@ -173,6 +177,11 @@ TEST(DeskDetection, ComparesTheChargeWithTheThresholdsOfTransientAndRestriking) 
 
 TEST(DeskDetection, KeepsDurationsOfRelaysAndLeds) {
     Bench bench;
+    for (const int cycles : {0, 1, 5}) { // as numbers that a delay reaches exactly
+        bench.set(kCosActive, true), bench.set(kCosCycle, cycles);
+        bench.run(faultAt2(kResonant, "forward"));
+        EXPECT_NEAR(bench.begins(34), cycles < 2 ? 2 : 2.08, 0.001) << cycles;
+    }
     bench.set(kQu2SigDur, 7.0F);
     bench.run(faultAt2(kResonant, "forward"));
     EXPECT_NEAR(bench.lasts(28), 7, 0.05) << "longer than the fault";

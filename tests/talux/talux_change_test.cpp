@@ -348,8 +348,9 @@ TEST_F(TaluxAddress, IsTakenBackWhenNobodyConfirms) {
     EXPECT_TRUE(waitFor("the guard is gone"));
     EXPECT_EQ(ended(), 2);
     VarClean();
+    write("parameter.ini", "");
     EXPECT_EQ(talux("boot --apply >/dev/null").status, 1);
-    EXPECT_NE(isBack().find("11 talux boot: an address was not confirmed"), std::string::npos);
+    EXPECT_NE(isBack().find("defaults stay; an address was not confirmed"), std::string::npos);
 }
 
 // No gateway before, no default route afterwards; the undo of what was confirmed is applied, too.

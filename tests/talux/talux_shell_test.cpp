@@ -36,6 +36,16 @@ TEST_F(TaluxShell, CompletesNamesValuesOptionsAndWords) {
     type("1,hel\t\x03TLX_nosuch=\t\x03TLX_qu2_active=\t"); // help is a word of its own line
     EXPECT_TRUE(waitFor("\a^C") && waitFor("\a^C") && waitFor("0  1") && answers("1", ""));
     EXPECT_TRUE(answers("upd\t", "parameter successfully update"));
+    type("TLX_nosuch -\t\x03TLX_Uearth -\t\x03TLX_vBE -\t"); // options are for elements and records
+    EXPECT_TRUE(waitFor("\a^C") && waitFor("\a^C") && waitFor("-p") && answers("p", "INDEX REQUIRED"));
+    EXPECT_TRUE(answers("TLX_eth1\tact\t", "0\r\n")); // from names that differ in letter case
+    EXPECT_TRUE(answers("help TLX_uearth_sigde\t", ">Uearth delay"));
+    type("\r\t"); // an empty line
+    EXPECT_TRUE(waitFor(kPrompt) && waitFor("help") && waitFor("update") && waitFor(kPrompt));
+    type("TLX_\t");
+    EXPECT_TRUE(waitFor("f_grid") && waitFor("..\r\n") && waitFor("TLX_"));
+    type("\x03");
+    EXPECT_TRUE(waitFor(kPrompt));
     type("TLX_MessRecord02 -\t");
     EXPECT_TRUE(waitFor("-c") && waitFor("TLX_MessRecord02 -"));
     EXPECT_TRUE(answers("c", "STRUCT:"));
