@@ -44,7 +44,8 @@ constexpr Setting<float> kQu2SigDur{"qu2_SigDur"}, kCosSinAngle1{"CosSin_angle1"
 constexpr Setting<talux::choice::BAassign> kLEDassign10{"LEDassign10"}, kBAassign5{"BAassign5"},
     kBAassign6{"BAassign6"};
 constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kScActive{"sc_active"},
-    kScDirActive{"sc_dir_active"}, kScEActive{"sc_class_E_active"}, kFreqActive{"freq_active"};
+    kScDirActive{"sc_dir_active"}, kScEActive{"sc_class_E_active"}, kFreqActive{"freq_active"},
+    kAdmActive{"adm_active"};
 
 constexpr Setting<std::int32_t> kQuiCount{"qui_n"}, kCosCycle{"cos_cycle"};
 constexpr Setting<talux::Choice> kPrioList10{"prio_list_10"};
@@ -150,7 +151,7 @@ TEST(DeskDetection, HasNoDirectionBetweenTheAngles) {
     Bench bench;
     bench.set(Setting<bool>{"cos_sin_active"}, true);
     bench.set(kCosSinAngle1, 40.0F), bench.set(kCosSinAngle2, 50.0F); // the current is at 90
-    bench.set(Setting<bool>{"adm_active"}, true);
+    bench.set(kAdmActive, true);
     bench.set(kAdmForward, 0.0F), bench.set(kAdmForwardEnd, 1.0F); // the admittance, too
     bench.run(faultAt2(kIsolated, "forward"));
     EXPECT_EQ(bench.begins(38) + bench.begins(39) + bench.begins(85) + bench.begins(86), -4);
