@@ -42,10 +42,8 @@ TEST_F(TaluxShell, CompletesNamesValuesOptionsAndWords) {
     EXPECT_TRUE(answers("help TLX_uearth_sigde\t", ">Uearth delay"));
     type("\r\t"); // an empty line
     EXPECT_TRUE(waitFor(kPrompt) && waitFor("help") && waitFor("update") && waitFor(kPrompt));
-    type("TLX_\t");
-    EXPECT_TRUE(waitFor("f_grid") && waitFor("..\r\n") && waitFor("TLX_"));
-    type("\x03");
-    EXPECT_TRUE(waitFor(kPrompt));
+    type("TLX_\t\x03");
+    EXPECT_TRUE(waitFor("f_grid") && waitFor("..\r\n") && waitFor("^C") && waitFor(kPrompt));
     type("TLX_MessRecord02 -\t");
     EXPECT_TRUE(waitFor("-c") && waitFor("TLX_MessRecord02 -"));
     EXPECT_TRUE(answers("c", "STRUCT:"));
