@@ -17,6 +17,7 @@
 #include <string_view>
 #include <sys/stat.h>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -329,6 +330,10 @@ TEST_F(TextLoader, FillsRowsFromTheFirstOn) {
     EXPECT_EQ(titleOf(9000), "***") << "an empty file leaves no text";
     LoadDefParamStrings();
     EXPECT_EQ(titleOf(kLanguage), "Language");
+    stParamText& added = ParamText[kParamTextRows - 1];
+    added = ParamText[1];
+    LoadDefParamStrings();
+    EXPECT_EQ(std::exchange(added, {}).id, ParamText[1].id) << "rows of the program stay";
 }
 
 TEST_F(TextLoader, TakesLinesUpToTheLongestAndAFullTable) {
