@@ -54,7 +54,7 @@ release() { build release && run_tests release; }
 debug() { build debug && run_tests debug; }
 models() { tests/models/run.sh; }
 clang() { build clang && run_tests clang; }
-# The longest pages are typed on this machine alone; what they show of numbers, the programs' own tests look at.
+# The longest pages are typed on this machine only; on the device other tests look at the numbers.
 armv7() {
   note 'without the pages desk, rules and plausibility'
   on_device armv7 --tests -E '^console\.(desk|rules|plausibility)$'
