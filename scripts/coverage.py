@@ -13,8 +13,8 @@ PARTS = ("module", "support/ MenuSystem/ ParamSystem/ src/"), ("layers", "talux/
 
 
 def inside(path):
-    """The path of a source below the project; precompiled headers bring others."""
-    return posixpath.normpath(path.removeprefix("./").removeprefix("build-coverage/"))
+    """The path of a source below the project, which a compiler cache spells in another way."""
+    return posixpath.normpath(path).removeprefix("build-coverage/")
 
 
 def branches_in(path):
