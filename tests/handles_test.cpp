@@ -107,7 +107,8 @@ TEST_F(Handles, AChangeIsAllOrNone) {
     constexpr Setting<float> threshold{"Uearth"}, delay{"Uearth_SigDel"};
     constexpr Setting<Text> name{"Name"};
     constexpr Setting<bool> active{"qui_active"};
-    const float before = threshold.staged();
+    ASSERT_TRUE(threshold.stage(39)); // pending
+    const float before = threshold.staged(), live = threshold.live();
     Change change;
     change.stage(threshold, 41).stage(delay, -1).stage(name, "a=b").stage(active, false);
     const Result result = change.commit();
@@ -116,6 +117,7 @@ TEST_F(Handles, AChangeIsAllOrNone) {
     EXPECT_EQ(talux::list(change.refusals(), "; ", [](const Result& each) { return each.text(); }),
               "Uearth_SigDel = -1: VALUE TOO LOW (0 to 86400 s); Name: A LINE CANNOT CARRY AN EQUALS SIGN");
     EXPECT_EQ(threshold.staged(), before);
+    EXPECT_TRUE(threshold.live() == live && live != before);
 
     Change second;
     EXPECT_TRUE(
@@ -359,6 +361,8 @@ TEST_F(Followers, SeeWhatChangedAndOnlyThat) {
               std::tuple(1, 42, 7, false));
     EXPECT_TRUE(now[kLanguage] == choice::Language::kEnglish && now[kMark] == "x" &&
                 now[kAddress] == "10.1.2.3");
+    ASSERT_TRUE(Change().stage(kChannel, 8).commit() && follower.wait(2000));
+    EXPECT_TRUE(follower.before()[kChannel] == 7 && (*follower.changes().begin()).id() == kChannel.id());
     const std::int64_t before = detail::monotonic();
     EXPECT_FALSE(Follower(20000).wait(5)) << "which ends before its next look";
     EXPECT_LT(detail::monotonic() - before, 10'000'000'000);
