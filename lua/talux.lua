@@ -213,8 +213,8 @@ end
 
 -- Whether what was found is a value, or the time of the clock soon after it.
 local function is(entry, found, value)
-  if found == value or not found or entry.row.kind ~= "time of the clock" then return found == value end
-  return (seconds(found) - seconds(value)) % 86400 < 5
+  local isClock = found and entry.row.kind == "time of the clock"
+  return found == value or isClock and (seconds(found) - seconds(value)) % 86400 < 5
 end
 
 -- Writes an entry; returns the reason if the store does not have it afterwards.

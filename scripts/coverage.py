@@ -1,7 +1,7 @@
 """Prints how many lines and branches were run, and where a condition was never true (T) or never false (F).
 
-coverage.py BRANCHES.json LINES.info: two exports of llvm-cov. A template counts once, whatever it is made for; a condition
-that the compiler decides (`if constexpr`) is no branch.
+coverage.py BRANCHES.json LINES.info: two exports of llvm-cov. A template counts once, whatever its arguments. A
+condition that the compiler decides (`if constexpr`) was never evaluated although its line was run: it is no branch.
 """
 import collections
 import json
@@ -13,7 +13,7 @@ PARTS = ("module", "support/ MenuSystem/ ParamSystem/ src/"), ("layers", "talux/
 
 
 def inside(path):
-    """The path of a source below the project, which a compiler cache spells in another way."""
+    """The path of a source below the project, whether or not a compiler cache shortened it."""
     return posixpath.normpath(path).removeprefix("build-coverage/")
 
 
@@ -46,21 +46,26 @@ def percent(part, whole):
     return f"{part} of {whole}, {100 * part / max(whole, 1):.1f} %"
 
 
+def gaps(lines, branches):
+    """The conditions and lines of a file that were never run, as words; its counts of branches."""
+    words, hit, missed = [], 0, 0
+    for (line, column, *_), (true, false) in sorted(branches.items()):
+        if true or false or not lines.get(line):
+            hit, missed = hit + (true > 0) + (false > 0), missed + (not true) + (not false)
+            if not true or not false:
+                words.append(f"{line}:{column}{'' if true else 'T'}{'' if false else 'F'}")
+    never = ",".join(str(line) for line, count in sorted(lines.items()) if not count)
+    return words + (["lines", never] if never else []), hit, hit + missed
+
+
 branches, lines = branches_in(sys.argv[1]), lines_in(sys.argv[2])
 for name, folders in PARTS:
-    hit = missed = run = unrun = 0
-    for file in sorted(lines):
-        if not file.startswith(tuple(folders.split())):
-            continue
-        ran = [count > 0 for count in lines[file].values()]
-        run, unrun = run + sum(ran), unrun + len(ran) - sum(ran)
-        never = []
-        for (line, column, *_), (true, false) in sorted(branches[file].items()):
-            if true or false or not lines[file].get(line):
-                hit, missed = hit + (true > 0) + (false > 0), missed + (not true) + (not false)
-                if not true or not false:
-                    never.append(f"{line}:{column}{'' if true else 'T'}{'' if false else 'F'}")
-        unrun_lines = [str(line) for line, count in sorted(lines[file].items()) if not count]
-        if never or unrun_lines:
-            print(f"  {file}", *never, *(["lines", ",".join(unrun_lines)] if unrun_lines else []))
-    print(f"{name}: lines {percent(run, run + unrun)}; branches {percent(hit, hit + missed)}")
+    files = [file for file in sorted(lines) if file.startswith(tuple(folders.split()))]
+    taken = ways = 0
+    for file in files:
+        words, hit, all_ways = gaps(lines[file], branches[file])
+        taken, ways = taken + hit, ways + all_ways
+        if words:
+            print(f"  {file}", *words)
+    counts = [count for file in files for count in lines[file].values()]
+    print(f"{name}: lines {percent(sum(count > 0 for count in counts), len(counts))}; branches {percent(taken, ways)}")

@@ -229,8 +229,8 @@ container() {
 # shellcheck disable=SC2016 # expanded inside
 isolation() { "${as[@]}" "$project/scripts/isolated.sh" -- sh -c 'echo "$TALUX_ISOLATION"' 2>/dev/null; }
 
-# release_tests_again [COMMAND]: the release tests under other rights, each run by the command; ctest writes into a folder
-# outside the builds.
+# release_tests_again [COMMAND]: the release tests under other rights, each run by the command; ctest writes into a
+# folder outside the builds.
 release_tests_again() {
   local folder
   build release || return

@@ -56,8 +56,8 @@ public:
     [[nodiscard]] double default_number() const { return row->val_def; }
     [[nodiscard]] std::string_view default_text() const { return row->val_def_text; }
 
-    // Texts; the English one where the language has none, as units, else empty. The description is the long
-    // label.
+    // Texts. Where the language has none, as of units, the English one; empty where there is none either. The
+    // description is the long label.
     [[nodiscard]] std::string_view title(ParamLanguage language = kEnglish) const {
         return text(kTextTitle, language);
     }

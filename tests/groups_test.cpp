@@ -219,7 +219,7 @@ TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {
     for (int sleeper = 0; sleeper < 3; ++sleeper) // one write wakes them all
         start([&] {
             const std::int64_t before = detail::monotonic();
-            const bool isWoken = fresh.wait(last, 9000) && detail::monotonic() - before < 5000000000;
+            const bool isWoken = fresh.wait(last, 4000) && detail::monotonic() - before < 3000000000;
             std::raise(isWoken ? SIGKILL : SIGABRT);
         });
     usleep(200000);

@@ -149,17 +149,16 @@ bool edit(std::string& text, const Edit& edit) {
     return true;
 }
 
-// What differs from the base case. Nothing in it is constructed, since a compiler needs long for a table that
-// is.
+// What differs from the base case; the table has views and pointers, since compilers are slow with strings.
 struct Row {
     Step step;
     std::string_view settings;
     std::initializer_list<Edit> edits = {};
     int result = 1;
-    const Kernel* kernel = &kKernel;
-    std::string_view link = kUtc; // of the time zone; "" nothing there, "FILE" a file that is no link
-    std::string_view resolver =
-        {}; // the name server file; "" none, "DIRECTORY" one that opens and cannot be read
+    const Kernel* kernel = &kKernel; // null: without addresses
+    std::string_view link = kUtc;    // of the time zone; "" nothing there, "FILE" a file that is no link
+    // The name server file; "" none, "DIRECTORY" one that opens and cannot be read.
+    std::string_view resolver = {};
     int (*apply)() = VarSetSystemIPs;
 };
 

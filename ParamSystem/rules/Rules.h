@@ -61,12 +61,13 @@ constexpr bool isReadOnly(const stParamProperties& row) {
     return row.val_access == kReadOnly;
 }
 
-// Rights needed to read a parameter, and to write one or more (see userlevel).
+// Rights needed to read a parameter, and the least that a write takes; userlevel may ask for more.
 inline constexpr int kReadLevel = 1, kWriteLevel = 2;
 
 // The only parameter that everybody who may read it may write: it requests a snapshot of the measured values.
 inline constexpr std::string_view kOpenToReaders = "mw_req";
 
+// Rights needed to write this one.
 constexpr int levelToWrite(const stParamProperties& row) {
     return std::max(row.name == kOpenToReaders ? kReadLevel : kWriteLevel, row.userlevel);
 }

@@ -332,8 +332,9 @@ std::string reasonOf(Refusal refusal, const VariableDecision& decision, const Co
     case Refusal::writeOnly:
         return context.say("{} can only be written", "{} kann nur geschrieben werden", row->name);
     case Refusal::rightsTooLow:
-        return levelReason(decision.term.value ? std::max(kepl::kWriteLevel, row ? row->userlevel : 0)
-                                               : kepl::kReadLevel,
+        return levelReason(!decision.term.value ? kepl::kReadLevel
+                           : row                ? rules::levelToWrite(*row)
+                                                : kepl::kWriteLevel,
                            context);
     case Refusal::none:
     case Refusal::bufferOverflow: // this and the following show only when a line is carried out
