@@ -31,7 +31,7 @@ for folder in "${!folders[@]}"; do
   later=$(IFS='|'; echo "${folders[*]:folder+1}")
   [ -z "$later" ] || ! grep -nE -d skip "#include \"($later)/" "${folders[folder]}"/* || status=1
 done
-build release talux_objects
+(build release talux_objects)
 (cd "$builds/build-release/CMakeFiles/talux_objects.dir" && find . -name '*.o' -print0 | xargs -0 nm -AC) |
   awk -v folders="${folders[*]}" -f scripts/dependencies.awk || status=1
 # Every source alone and without the headers that g++ compiles beforehand: it has to name what it uses.

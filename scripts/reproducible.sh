@@ -9,12 +9,12 @@ cd "$project"
 need build git
 has_history || fail "no git checkout, which says what belongs to the project"
 
-build release lib_talux_lua
+(build release lib_talux_lua && cp "$builds/build-release/lib_talux_lua.so.1" "$scratch")
 copy="$scratch/another folder/with-a-longer-name" elsewhere=$scratch/build
 mkdir -p "$copy"
 git ls-files -z | xargs -0 cp --parents -t "$copy"
 export CCACHE_DISABLE=1 # it would hand this build what the first one made
 quiet cmake -S "$copy" --preset release -B "$elsewhere"
 quiet cmake --build "$elsewhere" --target lib_talux_lua
-cmp "$builds/build-release/lib_talux_lua.so.1" "$elsewhere/lib_talux_lua.so.1"
+cmp "$scratch/lib_talux_lua.so.1" "$elsewhere/lib_talux_lua.so.1"
 echo "the same bytes from two folders: $(sha256sum <"$elsewhere/lib_talux_lua.so.1" | cut -c1-64)"

@@ -13,28 +13,29 @@
 cd "$project"
 set -o pipefail
 
-# Minutes are those of a machine with two cores and nothing built yet. Needs are groups of packages, and `history`: a
-# checkout, whose files git can name.
+# Minutes are those of a machine with two cores and nothing built yet. With --all, stages that run `beside` begin after
+# the first and take the time that the tests of the others leave. Needs are groups of packages, and `history`: a checkout,
+# whose files git can name.
 table='
 stage         run     minutes  needs
 release       usual   5        build run tests
 sanitize      all     6        build run tests clang
-armv7         all     7        build run tests armv7
-armv5te       all     4        build run tests armv5te
-packages      all     2        build armv7 armv5te lintian
-threads       all     2        build run tests
-models        all     1        build spin
+armv7         all     6        build run tests armv7
+armv5te       all     3        build run tests armv5te
+threads       all     1        build run tests
 crowd         all     1        build run
 commands      all     1        build run
-places        all     2        build run
 browser       all     1        build browser
 bench         all     1        build run bench
-lint          all     4        build bench lint history
 plain         all     1        build make
-rock          all     1        build run rock
-reproducible  all     1        build history
-user          all     1        build run tests
+user          all     2        build run tests
 container     all     1        build run tests
+models        beside  1        build spin
+reproducible  beside  1        build history
+lint          beside  4        build bench lint history
+rock          beside  1        build run rock
+places        beside  2        build run
+packages      beside  2        build armv7 armv5te lintian
 clang         asked   5        build run tests clang
 debug         asked   2        build run tests
 costs         asked   6        build time
@@ -77,11 +78,10 @@ sanitize() {
   build sanitize && run_tests sanitize
 }
 
-# The release comes first in every stage that needs several builds: two runs never wait for each other.
+# Who has claimed an ARM build may wait for the release, never the other way round: two runs never wait for each other.
 on_device() { # ARCH TESTS CTEST-OPTION..
   local arch=$1 tests=$2
   shift 2
-  build release || return
   claim "$builds/build-$arch"
   doing="building build-$arch" quiet scripts/device.sh "$arch" "$tests" && run_tests "$arch" "$@" && same_image "$arch"
 }
@@ -89,7 +89,7 @@ on_device() { # ARCH TESTS CTEST-OPTION..
 # Debian has no complaint about any package, and those of the PC and the devices go together.
 packages() {
   local folder=$scratch/packages build complaints status=0
-  build release || return
+  (build release) || return
   claim "$builds/build-armv7"
   claim "$builds/build-armv5te"
   quiet scripts/device.sh armv7 && quiet scripts/device.sh armv5te || return
@@ -107,10 +107,10 @@ packages() {
 }
 
 # The device writes the same bytes as this machine.
-same_image() {
-  quiet ctest --test-dir "$builds/build-release" -R '^device_image$' &&
+same_image() (
+  build release && quiet ctest --test-dir "$builds/build-release" -R '^device_image$' &&
     scripts/compare-images.sh "$builds/build-release" "$builds/build-$1" | tee -a "$results/notes"
-}
+)
 
 # The tests that start threads, under the thread sanitizer.
 threads() {
@@ -127,7 +127,7 @@ commands() {
 
 places() {
   [ "$(isolation)" != none ] || skip 'there are no namespaces to put a copy in the place of the project'
-  build release && tests/scripts/places.sh
+  (build release) && tests/scripts/places.sh
 }
 
 newcomer() {
@@ -215,7 +215,9 @@ open_the_way() {
     done
     [[ " ${view[*]} " = *" --tmpfs $closed "* ]] || view+=(--perms 0755 --tmpfs "$closed")
     view+=("${below[@]}")
-    for entry in "$place"/*; do view+=(--ro-bind "$entry" "$entry"); done
+    for entry in "$place"/*; do
+      [ "${entry##*/}" = build-rock ] || view+=(--ro-bind "$entry" "$entry") # comes and goes beside
+    done
   done
   as=(env bwrap "${view[@]}" -- "${as[@]}")
 }
@@ -234,7 +236,7 @@ isolation() { "${as[@]}" "$project/scripts/isolated.sh" -- sh -c 'echo "$TALUX_I
 release_tests_again() {
   local folder
   build release || return
-  note 'without the tests that only compile'
+  note 'without the tests that compile'
   folder=$(mktemp -d -p "$scratch")
   chmod 755 "$scratch"
   chmod 777 "$folder"
@@ -249,7 +251,7 @@ release_tests_again() {
 	endfunction()
 	subdirs("$builds/build-release")
 	END
-  run_tests "$folder" -E '^(handles_compile|headers)$'
+  run_tests "$folder" -E '^(handles_compile|headers|linking_doc)$'
 }
 
 # run_tests BUILD [CTEST-OPTION..]: runs the tests of a build, or of a folder, with the rights that `as` gives. Many wait
@@ -306,10 +308,10 @@ why_not() {
 
 # run_stage STAGE: runs it, with its output in a file too, and notes how it ended.
 run_stage() {
-  local status=0 start=$SECONDS reason tests
-  tests=$(wc -l <"$results/counts")
+  local results=$results/$1 status=0 start=$SECONDS reason
+  mkdir "$results"
+  touch "$results/notes" "$results/counts"
   reason=$(why_not "$1")
-  : >"$results/notes"
   if [ -n "$reason" ]; then
     note "$reason"
     status=2
@@ -317,22 +319,30 @@ run_stage() {
     note 'skipped: no git checkout, which says what belongs to the project'
     status=77
   else
-    (trap 'exit 130' INT && "$1") 2>&1 | tee "$results/$1.log" || status=${PIPESTATUS[0]}
+    (trap 'exit 130' INT && "$1") 2>&1 | tee "$results/log" || status=${PIPESTATUS[0]}
   fi
-  [ "$tests" != "$(wc -l <"$results/counts")" ] || # a stage without tests of its own is one
-    echo "$((status == 0)) $((status != 0 && status != 77)) $((status == 77))" >>"$results/counts"
-  case $status in
-    0) passed=$((passed + 1)) ;;
-    77) skipped+=("$1") ;;
-    *) failed+=("$1") ;;
-  esac
+  [ -s "$results/counts" ] || # a stage without tests of its own is one
+    echo "$((status == 0)) $((status != 0 && status != 77)) $((status == 77))" >"$results/counts"
+  echo "$status" >"$results/status"
   { echo "$1: $((SECONDS - start)) s$([ "$status" = 0 ] || [ "$status" = 77 ] || echo ', failed')"
-    sed 's/^/  /' "$results/notes"; } >>"$results/summary"
+    sed 's/^/  /' "$results/notes"; } >"$results/summary"
 }
 
+# run_beside STAGE..: runs them one after the other, with the time that others leave.
+run_beside() {
+  local stage
+  renice -n 19 "$BASHPID" >/dev/null
+  exec {terminal}>/dev/null
+  for stage in "$@"; do run_stage "$stage"; done
+}
+
+beside=()
 case ${1-} in
   --list) echo "$table" | sed '/^$/d'; exit ;;
-  --all) mapfile -t stages < <(stages_run 'usual|all') ;;
+  --all)
+    mapfile -t stages < <(stages_run 'usual|all')
+    mapfile -t beside < <(stages_run beside)
+    ;;
   '') mapfile -t stages < <(stages_run usual) ;;
   *) stages=("$@") ;;
 esac
@@ -342,30 +352,48 @@ done
 
 results=$scratch/results
 mkdir "$results"
-: >"$results/counts"
 exec {terminal}>&2
-mapfile -t groups < <(for stage in "${stages[@]}"; do needs_of "$stage"; done | grep -vx history | sort -u)
+mapfile -t groups < <(for stage in "${stages[@]}" "${beside[@]}"; do needs_of "$stage"; done | grep -vx history | sort -u)
 mapfile -t names < <(missing "${groups[@]}")
 [ "${#names[@]}" = 0 ] || install "${names[@]}" || echo 'stages that need them fail' >&2
 
-failed=() skipped=() passed=0 as=() number=0 started=$SECONDS
+failed=() skipped=() passed=0 as=() number=0 side='' started=$SECONDS
+trap '[ -z "$side" ] || kill -- "-$side" 2>/dev/null || true; rm -rf "$scratch"' EXIT
 for stage in "${stages[@]}"; do
   number=$((number + 1))
   echo "==== $stage ($number of ${#stages[@]}, about $(minutes_of "$stage") min)"
   run_stage "$stage"
+  if [ "$number" = 1 ] && [ "${#beside[@]}" != 0 ]; then
+    set -m # a process group of its own, which is ended as a whole
+    run_beside "${beside[@]}" </dev/null >"$results/beside" 2>&1 &
+    side=$!
+    set +m
+  fi
 done
+if [ -n "$side" ]; then
+  echo "==== ${beside[*]}, begun after the first"
+  doing='still at these:' tick "$side" "$results/beside"
+  cat "$results/beside"
+fi
 
 echo '==== summary'
-cat "$results/summary"
+for stage in "${stages[@]}" "${beside[@]}"; do
+  cat "$results/$stage/summary"
+  case $(cat "$results/$stage/status") in
+    0) passed=$((passed + 1)) ;;
+    77) skipped+=("$stage") ;;
+    *) failed+=("$stage") ;;
+  esac
+done
 verdict="$passed stages"
 [ "$passed" != 1 ] || verdict='1 stage'
 verdict="passed $verdict in $(((SECONDS - started) / 60)) min $(((SECONDS - started) % 60)) s"
 [ "${#skipped[@]}" = 0 ] || verdict+=", skipped ${skipped[*]}"
 if [ "${#failed[@]}" != 0 ]; then
   logs=$(mktemp -d)
-  mv "$results"/*.log "$logs" 2>/dev/null || true
+  for stage in "${failed[@]}"; do cp "$results/$stage/log" "$logs/$stage.log" 2>/dev/null || true; done
   verdict+=", failed ${failed[*]} (output in $logs)"
 fi
-awk -v verdict="$verdict" '{ passed += $1; failed += $2; skipped += $3 }
-  END { printf "%s: %d passed, %d failed, %d skipped\n", verdict, passed, failed, skipped }' "$results/counts"
+cat "$results"/*/counts | awk -v verdict="$verdict" '{ passed += $1; failed += $2; skipped += $3 }
+  END { printf "%s: %d passed, %d failed, %d skipped\n", verdict, passed, failed, skipped }'
 [ "${#failed[@]}" = 0 ]

