@@ -31,7 +31,7 @@ local function thingsOfTheProcess()
   linesWith(": (.* " .. stat:read "*n" .. " .*)", io.open "/proc/locks", things)
   stat:close()
   linesWith("%-> .*", io.popen "ls -l /proc/$PPID/fd | grep -vF $(readlink /proc/$$/fd/1)", things)
-  linesWith(".+", io.popen "pwd; cat /proc/$PPID/task/$PPID/children | wc -w; ls -d /tmp/*", things)
+  linesWith(".+", io.popen "pwd; cat /proc/$PPID/task/$PPID/children | wc -w; ls -A /tmp", things)
   return things
 end
 
