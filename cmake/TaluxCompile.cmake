@@ -31,12 +31,22 @@ endif()
 
 # For tests and tools, which need no speed: this compiles faster.
 set(talux_quick -O1)
-# For tests and sources with large headers, which would take more than 250 MB: the compiler collects its garbage as soon
-# as that is near, which takes longer. And g++ 12 sees overlaps and overflows in "literal" + std::string that are not
-# there (GCC bug 105651); the sanitizers would see those that are.
+# For tests and sources with large headers, of which several at once are too much for a small machine: there the compiler
+# collects its garbage as soon as 250 MB are near, which takes half as long again. And g++ 12 sees overlaps and overflows
+# in "literal" + std::string that are not there (GCC bug 105651); the sanitizers would see those that are.
+cmake_host_system_information(RESULT megabytes QUERY TOTAL_PHYSICAL_MEMORY)
+cmake_host_system_information(RESULT processors QUERY NUMBER_OF_LOGICAL_CORES)
+math(EXPR for_each_compiler "${megabytes} / (${processors} + 2)")
+set(is_small FALSE)
+if(for_each_compiler LESS 700)
+  set(is_small TRUE)
+endif()
+option(TALUX_THRIFTY "No compiler takes more than 250 MB" ${is_small})
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-  set(talux_thrifty --param=ggc-min-expand=10 --param=ggc-min-heapsize=145000)
-  set(talux_thriftier --param=ggc-min-expand=5) # for the header of the option library
+  if(TALUX_THRIFTY)
+    set(talux_thrifty --param=ggc-min-expand=10 --param=ggc-min-heapsize=145000)
+    set(talux_thriftier --param=ggc-min-expand=5) # for the header of the option library
+  endif()
   set(talux_false_alarms -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
 

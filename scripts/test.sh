@@ -309,7 +309,7 @@ why_not() {
 # run_stage STAGE: runs it, with its output in a file too, and notes how it ended.
 run_stage() {
   local results=$results/$1 status=0 start=$SECONDS reason
-  mkdir "$results"
+  mkdir -p "$results"
   touch "$results/notes" "$results/counts"
   reason=$(why_not "$1")
   if [ -n "$reason" ]; then
