@@ -324,13 +324,13 @@ run_stage() {
   [ -s "$results/counts" ] || # a stage without tests of its own is one
     echo "$((status == 0)) $((status != 0 && status != 77)) $((status == 77))" >"$results/counts"
   echo "$status" >"$results/status"
-  { echo "$1: $((SECONDS - start)) s$([ "$status" = 0 ] || [ "$status" = 77 ] || echo ', failed')"
+  { echo "$1: $((SECONDS - start)) s${priority-}$([ "$status" = 0 ] || [ "$status" = 77 ] || echo ', failed')"
     sed 's/^/  /' "$results/notes"; } >"$results/summary"
 }
 
 # run_beside STAGE..: runs them one after the other, with the time that others leave.
 run_beside() {
-  local stage
+  local stage priority=' at low priority'
   renice -n 19 "$BASHPID" >/dev/null
   exec {terminal}>/dev/null
   for stage in "$@"; do run_stage "$stage"; done
