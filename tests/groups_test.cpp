@@ -216,13 +216,17 @@ TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {
     last = fresh.read(value);
     EXPECT_EQ(last.number(), 2U) << "0 means that nobody has written";
 
-    for (int sleeper = 0; sleeper < 3; ++sleeper) // one write wakes them all
+    std::signal(SIGALRM, [](int) {});
+    for (int sleeper = 0; sleeper < 3; ++sleeper) // one write wakes them all, a signal none
         start([&] {
             const std::int64_t before = detail::monotonic();
             const bool isWoken = fresh.wait(last, 4000) && detail::monotonic() - before < 3000000000;
             std::raise(isWoken ? SIGKILL : SIGABRT);
         });
     usleep(200000);
+    std::for_each(children.end() - 3, children.end(), [](pid_t child) { kill(child, SIGALRM); });
+    usleep(50000);
+    std::signal(SIGALRM, SIG_DFL);
     EXPECT_TRUE(fresh.write(1));
     for (auto child = children.end() - 3; child != children.end(); ++child)
         EXPECT_EQ(signalOf(*child), SIGKILL);
