@@ -192,6 +192,7 @@ private:
             return true;
         }
         const int segment = shmget(kGroupsKey, kGroupSlots * sizeof(GroupSlot), IPC_CREAT | 0666);
+        if (segment == -1) return false;
         void* const memory = shmat(segment, nullptr, 0);
         if (reinterpret_cast<std::intptr_t>(memory) == -1) return false;
         slots = static_cast<GroupSlot*>(memory);

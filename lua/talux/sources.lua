@@ -80,7 +80,8 @@ function sources.differences(a, b)
   for _, row in ipairs(dictionary.settings()) do
     local old, new = a[row.name], b[row.name]
     if old ~= nil and new ~= nil and old ~= new then
-      local isSame = row.kind == "float" and numbers.single(old) == numbers.single(new)
+      local areNan = old ~= old and new ~= new
+      local isSame = areNan or row.kind == "float" and numbers.single(old) == numbers.single(new)
       if not isSame then changes[#changes + 1] = {name = row.name, old = old, new = new} end
     end
   end

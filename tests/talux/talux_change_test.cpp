@@ -59,6 +59,7 @@ TEST_F(TaluxChange, WritesAllOrNothingAsTheLuaLayerDoes) {
             EXPECT_EQ(talux(command + " --yes --protocol " + directory.string() + "/record").status, 0);
             EXPECT_EQ(std::filesystem::status(directory / "record").permissions(),
                       std::filesystem::perms{0600});
+            EXPECT_TRUE(file("record").starts_with("# talux change: done\n"));
             std::string there;
             for (const std::string& row : pieces(file("record"), '\n'))
                 if (const auto columns = pieces(row, '\t'); columns.size() == 4)

@@ -127,7 +127,8 @@ Condition::Condition(std::string_view text, const Context& context) {
         context.fail("'{}': {} is neither a number with a decimal point nor a choice of {}",
                      "'{}': {} ist keine Zahl mit Dezimalpunkt und keine Auswahl von {}", printable(text),
                      printable(right), what.label);
-    limit = *number;
+    const bool isSingle = what.parameter->row().type == kTypeFloat; // 0.2 is the nearest float, not a double
+    limit = isSingle ? static_cast<float>(*number) : *number;
 }
 
 bool Condition::holds() const {
