@@ -31,9 +31,9 @@ endif()
 
 # For tests and tools, which need no speed: this compiles faster.
 set(talux_quick -O1)
-# For tests and sources with large headers, of which several at once are too much for a small machine: there the compiler
-# collects its garbage as soon as 250 MB are near, which takes half as long again. And g++ 12 sees overlaps and overflows
-# in "literal" + std::string that are not there (GCC bug 105651); the sanitizers would see those that are.
+# For tests and sources with large headers, which take up to 400 MB. On a small machine several at once are too much: there
+# the compiler collects its garbage as soon as 250 MB are near, which takes half as long again. And g++ 12 sees overlaps
+# and overflows in "literal" + std::string that are not there (GCC bug 105651); the sanitizers would see those that are.
 cmake_host_system_information(RESULT megabytes QUERY TOTAL_PHYSICAL_MEMORY)
 cmake_host_system_information(RESULT processors QUERY NUMBER_OF_LOGICAL_CORES)
 math(EXPR for_each_compiler "${megabytes} / (${processors} + 2)")

@@ -1,8 +1,8 @@
 """Prints how many lines and branches were run, and where a condition was never true (T) or never false (F).
 
 coverage.py BRANCHES.json LINES.info: two exports of llvm-cov. A template counts once, whatever its arguments. A
-condition that the compiler decides (`if constexpr`) was never evaluated although its line was run: it is no branch. The lines of
-`constexpr` functions that no program calls, only the compiler, are counted apart.
+condition that the compiler decides (`if constexpr`) was never evaluated although its line was run: it is no branch.
+The lines of `constexpr` functions that no program calls, only the compiler, are counted apart.
 """
 import collections
 import json

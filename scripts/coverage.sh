@@ -6,6 +6,7 @@
 #
 #   coverage.sh [CTEST-OPTION..]    -R NAME: only these tests
 . "$(dirname "$(readlink -f "$0")")/common.sh"
+cd "$project"
 need build run tests clang coverage
 folder=$builds/build-coverage
 build coverage

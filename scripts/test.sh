@@ -78,7 +78,8 @@ sanitize() {
   build sanitize && run_tests sanitize
 }
 
-# Who has claimed an ARM build may wait for the release, never the other way round: two runs never wait for each other.
+# A stage that has claimed an ARM build may wait for the release build, but not the reverse: two runs cannot block each
+# other.
 on_device() { # ARCH TESTS CTEST-OPTION..
   local arch=$1 tests=$2
   shift 2
@@ -216,7 +217,7 @@ open_the_way() {
     [[ " ${view[*]} " = *" --tmpfs $closed "* ]] || view+=(--perms 0755 --tmpfs "$closed")
     view+=("${below[@]}")
     for entry in "$place"/*; do
-      [ "${entry##*/}" = build-rock ] || view+=(--ro-bind "$entry" "$entry") # comes and goes beside
+      [ "${entry##*/}" = build-rock ] || view+=(--ro-bind "$entry" "$entry") # which may be removed meanwhile
     done
   done
   as=(env bwrap "${view[@]}" -- "${as[@]}")
@@ -373,6 +374,7 @@ done
 if [ -n "$side" ]; then
   echo "==== ${beside[*]}, begun after the first"
   doing='still at these:' tick "$side" "$results/beside"
+  side=''
   cat "$results/beside"
 fi
 

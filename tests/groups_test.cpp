@@ -300,14 +300,20 @@ TEST_F(Groups, SayThatTheSystemGivesNoSlot) {
     semctl(semaphores(0), detail::kClaims, SETVAL, 1);
     EXPECT_EQ(attachment(), Attachment::system) << "somebody stays inside";
     semctl(semaphores(0), detail::kClaims, SETVAL, 0);
-    shmid_ds owned{};
-    owned.shm_perm.mode = 0600;
-    shmctl(shmget(detail::kGroupsKey, 0, 0), IPC_SET, &owned);
+    const int segment = shmget(detail::kGroupsKey, 0, 0);
+    shmid_ds memory{};
+    shmctl(segment, IPC_STAT, &memory);
+    const auto allow = [&](unsigned short mode) {
+        memory.shm_perm.mode = mode;
+        return shmctl(segment, IPC_SET, &memory);
+    };
+    EXPECT_EQ(allow(0600), 0);
     start([&] { // another user, where there is one
         const bool isOther = setuid(65534) == 0;
         std::raise(!isOther || (attachment() == Attachment::system && errno == EACCES) ? SIGKILL : SIGABRT);
     });
     EXPECT_EQ(signalOf(children.back()), SIGKILL);
+    EXPECT_EQ(allow(0666), 0);
 }
 
 } // namespace

@@ -127,7 +127,7 @@ Condition::Condition(std::string_view text, const Context& context) {
         context.fail("'{}': {} is neither a number with a decimal point nor a choice of {}",
                      "'{}': {} ist keine Zahl mit Dezimalpunkt und keine Auswahl von {}", printable(text),
                      printable(right), what.label);
-    const bool isSingle = what.parameter->row().type == kTypeFloat; // 0.2 is the nearest float, not a double
+    const bool isSingle = what.parameter->row().type == kTypeFloat; // whose 0.2 is not that of a double
     limit = isSingle ? static_cast<float>(*number) : *number;
 }
 
