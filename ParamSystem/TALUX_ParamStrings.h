@@ -36,8 +36,8 @@ extern TALUX_API const int DefParamTextCount; // kDefParamTextRows
 
 /*
  * The working table, which every look-up reads. Row 0 stands for "not found"; after it the first row with id
- * 0 ends the table. A program may change rows and add some at the end, before it starts a second thread.
- * For an id with compiled-in texts, those and the rows from kDefParamTextRows - 1 on are searched.
+ * 0 ends the table. A program may change rows and add some from that one on, before it starts a second
+ * thread. For an id with compiled-in texts, those and the added ones are searched.
  */
 extern TALUX_API stParamText ParamText[kParamTextRows];
 

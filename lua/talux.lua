@@ -119,9 +119,10 @@ end
 ---@param name "MessRecord01"|"MessRecord02"|"StatRecord_c0"
 ---@return table<string, number>
 function talux.record(name)
-  local members = (require "talux.records")[name]
+  local row = dictionary.row(name)
+  local members = row and (require "talux.records")[row.name]
   if not members then error(("%s: NO SUCH RECORD"):format(tostring(name)), 2) end
-  return numbers.fromBytes(command("TLX_" .. name .. " -h"), members)
+  return numbers.fromBytes(command("TLX_" .. row.name .. " -h"), members)
 end
 
 -- ---- Writing ----

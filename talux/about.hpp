@@ -2,7 +2,7 @@
 // name that is known at run time. Programs that do not include this contain none of it.
 //
 //   for (const talux::About parameter : talux::parameters()) list(parameter.name(), parameter.title());
-//   std::printf("%g to %g", talux::About(threshold).min(), talux::About(threshold).max());
+//   std::printf("%g to %g", *talux::About(threshold).min(), *talux::About(threshold).max());
 //
 // The dictionary has to be loaded (talux::Store does it). Any number of threads.
 #ifndef TALUX_ABOUT_HPP

@@ -254,6 +254,7 @@ TEST_F(Groups, HaveOneMeaningPerName) {
     EXPECT_EQ(signalOf(children.back()), SIGSTOP);
     EXPECT_EQ(attachment("early", kFirst.run<2>()), Attachment::otherElements);
     const Group two("runs", kFirst.run<2>());
+    EXPECT_EQ(attachment("run", kFirst), Attachment::attached);
     EXPECT_EQ(attachment("runs", kFirst.run<3>()), Attachment::otherElements);
     EXPECT_EQ(attachment("runs", Measured<float>{"U2_prim"}.run<2>()), Attachment::otherElements);
 }

@@ -245,7 +245,7 @@ case("elements, series and records come as tables", function()
   for _, tie in ipairs {1 + 2 ^ -24, 1 + 3 * 2 ^ -24} do talux.set("knu1", tie) end -- between two floats
   talux.set("prio_list", {[1] = 4, [10] = 5})
   equal(talux.get("prio_list", 1, 10)[10] + talux.get("prio_list", 1), 9, "series")
-  local record, members = talux.record "MessRecord02", 0
+  local record, members = talux.record "MESSrecord02", 0
   for _, value in pairs(record) do members = members + 1 equal(value, 0, "member") end
   equal(members, 29, "members")
   local bytes = "0000803F000020C10100000001000080FFFF7F7F000080FF0000C07F"

@@ -208,7 +208,25 @@ void lookUp() {
     std::printf("rows %08x\n", print);
 }
 
-#ifndef TALUX_ON_FAKE
+#ifdef TALUX_ON_FAKE
+// Settings of these types can be added: their defaults have a place. Clocks, which are no part of a store,
+// have none.
+bool stagesEveryType() {
+    const auto stage = [](ParamType type, int id) {
+        stParamProperties row{};
+        row.type = type, row.id = id, row.val_def = 7;
+        detail::fake::stageDefault(row);
+    };
+    stage(kTypeDouble, kFirstDouble + 1);
+    stage(kTypeInt, kFirstInt + 1);
+    const stVarSpace before = *pVarTemp;
+    for (const ParamType type : {kTypeNone, kTypeDate, kTypeTime})
+        stage(type, 0);
+    return pVarTemp->DoubleData[1] == 7 && pVarTemp->IntData[1] == 7 &&
+           std::memcmp(&before, pVarTemp, sizeof before) == 0 &&
+           detail::bytesOf(table::Kind::clock, 0).size == 0;
+}
+#else
 const std::filesystem::path folder = std::filesystem::temp_directory_path() / "alike";
 
 // Each file is saved, and loaded over other values; but a load of the addresses would apply them.
@@ -243,6 +261,8 @@ int main() {
     float volts = 5;
     {
         Fake before; // of which the next one knows nothing
+        if (!stagesEveryType()) std::puts("a default is not where it belongs");
+        VarInit(nullptr); // as a program does that runs on the real store, too
         voltage.set(volts);
         std::ignore = Group("group", voltage).write(volts);
         before.fail_saves(ENOSPC);

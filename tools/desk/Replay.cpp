@@ -40,8 +40,11 @@ public:
             columns[names[k]] = k;
         for (const char* needed : {"U1_prim", "U2_prim", "U3_prim", "I1_prim", "I2_prim", "I3_prim"})
             if (!columns.contains(needed)) fail(std::string("no column ") + needed);
-        while (next(line))
-            addRow(fieldsOf(line, delimiter, true), names.size());
+        while (next(line)) {
+            const auto cells = fieldsOf(line, delimiter, true);
+            const bool isExtreme = cells[0] == "min" || cells[0] == "max"; // of the rows above
+            if (!isExtreme) addRow(cells, names.size());
+        }
         if (rows.empty()) throw ReplayFault(path + ": no rows of values");
     }
 
@@ -120,7 +123,7 @@ std::vector<std::string> fieldsOf(std::string_view line, char delimiter, bool ha
 
 Recording openRecording(const std::string& path) {
     if (path.ends_with(".cfg") || path.ends_with(".CFG")) return openComtrade(path);
-    if (path.ends_with(".csv")) return openCsv(path);
+    if (path.ends_with(".csv") || path.ends_with(".CSV")) return openCsv(path);
     throw ReplayFault(path + ": neither a .csv nor a .cfg file");
 }
 

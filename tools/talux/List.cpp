@@ -36,9 +36,10 @@ Json jsonValue(const Parameter& parameter, const Source& source) {
 std::vector<reference::Meaning> usesOf(const std::string& text, const Context& context) {
     auto meanings = reference::meaningsOf(text, context.language);
     if (text.find_first_not_of("0123456789") == text.npos)
-        std::erase_if(meanings, [](const auto& meaning) {
-            return meaning.bearers[0]->templateName() != "BA_FUNCTION";
-        });
+        for (auto& meaning : meanings)
+            std::erase_if(meaning.bearers,
+                          [](const Parameter* bearer) { return bearer->templateName() != "BA_FUNCTION"; });
+    std::erase_if(meanings, [](const auto& meaning) { return meaning.bearers.empty(); });
     if (meanings.empty() && !text.empty())
         context.fail("no output function has this number, no choice this text: {}",
                      "keine Ausgangsfunktion hat diese Nummer, keine Auswahl diesen Text: {}",

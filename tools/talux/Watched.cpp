@@ -57,8 +57,13 @@ std::optional<Value> Watched::value() const {
     return member != nullptr ? Value(memberNumber(*this)) : readValue(Space::global, id);
 }
 
+bool Watched::isFloat() const {
+    const auto type = member == nullptr ? parameter->row().type : memberType(member->szMemberType);
+    return type == kTypeFloat;
+}
+
 bool Watched::isMeasured() const {
-    if (member != nullptr) return memberType(member->szMemberType) == kTypeFloat;
+    if (member != nullptr) return isFloat();
     return parameter->row().is_volatile == 1 && parameter->hasNumber() && parameter->type().fileDecimals > 0;
 }
 
@@ -127,8 +132,7 @@ Condition::Condition(std::string_view text, const Context& context) {
         context.fail("'{}': {} is neither a number with a decimal point nor a choice of {}",
                      "'{}': {} ist keine Zahl mit Dezimalpunkt und keine Auswahl von {}", printable(text),
                      printable(right), what.label);
-    const bool isSingle = what.parameter->row().type == kTypeFloat; // whose 0.2 is not that of a double
-    limit = isSingle ? static_cast<float>(*number) : *number;
+    limit = what.isFloat() ? static_cast<float>(*number) : *number;
 }
 
 bool Condition::holds() const {

@@ -15,6 +15,7 @@ struct Watched {
 
     // Needs the device. Nothing where it has no value.
     std::optional<Value> value() const;
+    bool isFloat() const;    // whose 0.2 is not that of a double
     bool isMeasured() const; // a number with a fraction: it differs at every look
     // With all digits, as a program takes it; with five and what it means, as a person does.
     std::string plainText(const std::optional<Value>& value) const;
