@@ -12,7 +12,8 @@ supported_platforms = {"linux"}
 dependencies = {"lua ~> 5.2"}
 build = {
   type = "command",
-  build_command = "cmake -S . -B build-rock -DCMAKE_BUILD_TYPE=Release && cmake --build build-rock --parallel 4 --target lib_talux_lua",
+  build_command = "cmake -S . -B build-rock -DCMAKE_BUILD_TYPE=Release -DCMAKE_UNITY_BUILD=ON "
+    .. "&& cmake --build build-rock --parallel 4 --target lib_talux_lua",
   install = {
     lib = {lib_talux_lua = "build-rock/lib_talux_lua.so"},
     lua = {

@@ -31,9 +31,8 @@ plain         all     1        build make
 user          all     2        build run tests
 container     all     1        build run tests
 models        beside  1        build spin
-reproducible  beside  1        build history
 lint          beside  4        build bench lint history
-rock          beside  1        build run rock
+rock          beside  1        build run rock history
 places        beside  2        build run
 packages      beside  2        build armv7 armv5te lintian
 clang         asked   5        build run tests clang
@@ -70,7 +69,6 @@ armv5te() {
 lint() { scripts/lint.sh --shipped; } # tools and tests take four times as long
 bench() { scripts/bench.sh --check; }
 costs() { scripts/costs.sh | tee -a "$results/notes"; }
-reproducible() { scripts/reproducible.sh | tee -a "$results/notes"; }
 
 sanitize() {
   note 'with clang; without the tests of what is shipped (shared object, installed tree, programs of the pages)'
@@ -174,17 +172,21 @@ plain() {
   grep -q 'lib_talux_lua' <<<"$targets" && ! grep -q '_test' <<<"$targets"
 }
 
-# luarocks builds and installs module and layer, without a network of its own.
+# luarocks builds and installs module and layer, without a network of its own. It does so in another folder than release,
+# and the module has the same bytes if the same tools make it; a compiler cache would hand it those of release.
 rock() {
-  local tree=$scratch/tree status=0
-  claim "$project/build-rock"
-  HOME=$tree quiet luarocks --lua-version 5.2 --tree "$tree" make || status=$?
-  cp -r lua build-rock/generated/lua "$tree"
+  local tree=$scratch/tree copy="$scratch/another folder/with-a-longer-name" status=0
+  local module=$builds/build-release/lib_talux_lua.so.1 other=$copy/build-rock/lib_talux_lua.so.1
+  (build release lib_talux_lua) || return
+  mkdir -p "$copy"
+  git ls-files -z | xargs -0 cp --parents -t "$copy"
+  (cd "$copy" && HOME=$tree CCACHE_DISABLE=1 CMAKE_GENERATOR=Ninja quiet luarocks --lua-version 5.2 --tree "$tree" make) || return
+  cmp "$module" "$other" && note "the same bytes from two folders: $(sha256sum <"$other" | cut -c1-64)" || status=1
+  cp -r lua "$copy/build-rock/generated/lua" "$tree"
   diff -r "$tree/lua" "$tree/share/lua/5.2" || status=1
   [ 35 = "$(scripts/isolated.sh --read "$tree" -- env LUA_PATH="$tree/share/lua/5.2/?.lua" \
     LUA_CPATH="$tree/lib/lua/5.2/?.so" lua5.2 -e 'local talux = require "talux" talux.set("Uearth", 35)
       print(talux.get "Uearth")')" ] || status=1
-  rm -rf "$project/build-rock"
   return "$status"
 }
 
@@ -217,7 +219,7 @@ open_the_way() {
     [[ " ${view[*]} " = *" --tmpfs $closed "* ]] || view+=(--perms 0755 --tmpfs "$closed")
     view+=("${below[@]}")
     for entry in "$place"/*; do
-      [ "${entry##*/}" = build-rock ] || view+=(--ro-bind "$entry" "$entry") # which may be removed meanwhile
+      view+=(--ro-bind "$entry" "$entry")
     done
   done
   as=(env bwrap "${view[@]}" -- "${as[@]}")
@@ -313,12 +315,12 @@ run_stage() {
   mkdir -p "$results"
   touch "$results/notes" "$results/counts"
   reason=$(why_not "$1")
-  if [ -n "$reason" ]; then
-    note "$reason"
-    status=2
-  elif [[ $(needs_of "$1") = *history* ]] && ! has_history; then
+  if [[ $(needs_of "$1") = *history* ]] && ! has_history; then
     note 'skipped: no git checkout, which says what belongs to the project'
     status=77
+  elif [ -n "$reason" ]; then
+    note "$reason"
+    status=2
   else
     (trap 'exit 130' INT && "$1") 2>&1 | tee "$results/log" || status=${PIPESTATUS[0]}
   fi
