@@ -172,15 +172,16 @@ plain() {
   grep -q 'lib_talux_lua' <<<"$targets" && ! grep -q '_test' <<<"$targets"
 }
 
-# luarocks builds and installs module and layer, without a network of its own. It does so in another folder than release,
-# and the module has the same bytes if the same tools make it; a compiler cache would hand it those of release.
+# luarocks builds and installs module and layer, without a network of its own. It does so in another folder, and the module
+# has the same bytes as that of the release: from the same generator, and not from a compiler cache.
 rock() {
   local tree=$scratch/tree copy="$scratch/another folder/with-a-longer-name" status=0
   local module=$builds/build-release/lib_talux_lua.so.1 other=$copy/build-rock/lib_talux_lua.so.1
   (build release lib_talux_lua) || return
   mkdir -p "$copy"
   git ls-files -z | xargs -0 cp --parents -t "$copy"
-  (cd "$copy" && HOME=$tree CCACHE_DISABLE=1 CMAKE_GENERATOR=Ninja quiet luarocks --lua-version 5.2 --tree "$tree" make) || return
+  (cd "$copy" && HOME=$tree CCACHE_DISABLE=1 CMAKE_GENERATOR=Ninja \
+    quiet luarocks --lua-version 5.2 --tree "$tree" make) || return
   cmp "$module" "$other" && note "the same bytes from two folders: $(sha256sum <"$other" | cut -c1-64)" || status=1
   cp -r lua "$copy/build-rock/generated/lua" "$tree"
   diff -r "$tree/lua" "$tree/share/lua/5.2" || status=1

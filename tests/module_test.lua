@@ -94,14 +94,16 @@ local function anything()
 end
 local function mostly(low, high) return random() < 0.8 and random(low, high) or any(hugeNumbers) end
 
--- Their number, then mostly what the function wants. An index beyond 32 bits is outside, where Lua does not cut it itself.
+-- Where integers have 32 bits, Lua itself cuts an index beyond them.
 local isCut = ("x"):byte(2^32 + 1)
+-- Their number, then mostly what the function wants.
 local function argumentsOf(name)
   if random() < 0.3 then return random(0, 4), anything(), anything(), anything(), anything() end
   if name == "new" then return 1, random() < 0.5 and mostly(0, 260) or anything() end
   if name == "get" then return 4, any(arrays), any(names), mostly(0, 98) + any {0, 0.9}, mostly(0, random(2) * 120) end
-  return name == "setitem" and 3 or name == "getitem" and 2 or 1, any(arrays),
-         not isCut and random() < 0.02 and 2^32 + random(0, 9) or random(-1, 100), random() < 0.5 and mostly(-5e9, 5e9) or anything()
+  local index = not isCut and random() < 0.02 and 2^32 + random(0, 9) or random(-1, 100)
+  return name == "setitem" and 3 or name == "getitem" and 2 or 1, any(arrays), index,
+         random() < 0.5 and mostly(-5e9, 5e9) or anything()
 end
 local function outcome(good, ...)
   -- Lua names the function as it finds it, or by a question mark.
