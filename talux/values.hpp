@@ -114,7 +114,7 @@ public:
     void put(double number) {
         if (number < 0.0) put("-");
         if (!(number > -1e12 && number < 1e12)) return put("..");
-        const auto thousandths = static_cast<long long>((number < 0.0 ? -number : number) * 1000.0 + 0.25);
+        const auto thousandths = static_cast<long long>((number < 0.0 ? -number : number) * 1000.0 + 0.5);
         putDigits(thousandths / 1000);
         if (thousandths % 1000 == 0) return;
         put(".");

@@ -269,7 +269,7 @@ end)
 
 case("what a file holds is what a load keeps of it", function()
   local first, restored = talux.read "staged", {}
-  local pieces = {"=", "==", " = ", " ", '"', "a", "#", ";", "//", "\t", "ä", "7", "12.75", "-3", "1e2", "0x1F", "7,5", "5 6", "", "1e40", "\r"}
+  local pieces = {"=", "==", " = ", " ", '"', "a", "#", ";", "//", "\t", "ä", "7", "12.75", "-3", "1e2", "0x1F", "7,5", "5 6", "", "1e40", "\r", "\0"}
   for round = 1, isolated and 20 or 0 do
     local lines = {}
     for k = 1, round == 1 and #rows or 300 do

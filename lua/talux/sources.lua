@@ -25,6 +25,7 @@ end
 
 -- What a load would store of a line: the name in the dictionary and the value; nothing if it skips the line.
 local function storedOf(line)
+  line = line:match "^[^\0]*"
   local name, rest = line:match "^[ \t]*[Tt][Ll][Xx]_([^ =]*)(.*)$"
   local row = dictionary.row(name)
   if not row or not row.default then return end

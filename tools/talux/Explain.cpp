@@ -29,7 +29,7 @@ std::vector<Source> sourcesOf(const std::vector<Parameters>& all, const Options&
             const std::string path = pathOf(parameter->file(), context);
             const bool isKnown = std::ranges::find(sources, path, &Source::name) != sources.end();
             if (parameter->file() != File::none && !isKnown && os::exists(path.c_str()))
-                sources.push_back(Source::open(path, context));
+                sources.push_back(Source::file(path, context));
         }
     return sources;
 }

@@ -42,6 +42,12 @@ Source Source::open(const std::string& name, const Context& context) {
     return source;
 }
 
+Source Source::file(const std::string& path, const Context& context) {
+    Source source = nothing(path);
+    source.readFile(path, context);
+    return source;
+}
+
 std::vector<std::string> filesIn(const std::string& folder, const Context& context) {
     std::vector<std::string> found;
     for (const File file : kFiles)

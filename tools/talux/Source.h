@@ -30,6 +30,9 @@ public:
 
     static Source defaults() { return Source(Origin::defaults, "default"); }
 
+    // A single file; throws CouldNot also when it is a folder.
+    static Source file(const std::string& path, const Context& context);
+
     // A file that is not there.
     static Source nothing(const std::string& path) { return Source(Origin::file, path); }
 

@@ -41,7 +41,7 @@ Change saveChange(const char* command, File file, const Source& staged, const Co
         return parameter->file() == file && wanted &&
                (!old || fileForm(*parameter, *old) != fileForm(*parameter, *wanted));
     };
-    const Source before = isThere ? Source::open(path, context) : Source::nothing(path);
+    const Source before = isThere ? Source::file(path, context) : Source::nothing(path);
     return {command, path, isThere, differences(before, staged, differs)};
 }
 

@@ -38,7 +38,7 @@ std::vector<Version> historyOf(const Context& context) {
         };
         Source before = Source::nothing("");
         for (const DatedCopy& copy : versionsOf(file, context)) {
-            const Source source = Source::open(copy.path, context);
+            const Source source = Source::file(copy.path, context);
             all.push_back({copy, source, differences(before, source, isChange)});
             before = source;
         }
