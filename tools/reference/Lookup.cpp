@@ -118,8 +118,8 @@ std::vector<Meaning> meaningsOf(std::string_view text, ParamLanguage language) {
     for (const Parameter& parameter : parameters())
         if (!parameter.isTemplate())
             for (const model::Item& item : parameter.choiceItems())
-                if (number ? item.number == *number
-                           : equalIgnoringCase(item.text.de, text) || equalIgnoringCase(item.text.en, text))
+                if (item.number == number || equalIgnoringCase(item.text.de, text) ||
+                    equalIgnoringCase(item.text.en, text))
                     add(parameter, item);
     return found;
 }

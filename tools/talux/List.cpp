@@ -35,8 +35,8 @@ Json jsonValue(const Parameter& parameter, const Source& source) {
 // Of which the value is to be one: an output function by its number, any choice by its text.
 std::vector<reference::Meaning> usesOf(const std::string& text, const Context& context) {
     auto meanings = reference::meaningsOf(text, context.language);
-    if (text.find_first_not_of("0123456789") == text.npos)
-        for (auto& meaning : meanings)
+    for (auto& meaning : meanings)
+        if (meaning.choice.number == wholeNumber(text))
             std::erase_if(meaning.bearers,
                           [](const Parameter* bearer) { return bearer->templateName() != "BA_FUNCTION"; });
     std::erase_if(meanings, [](const auto& meaning) { return meaning.bearers.empty(); });
