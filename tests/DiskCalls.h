@@ -14,7 +14,8 @@
 
 namespace talux_test {
 
-constexpr int kShort = -1; // no error: half of the bytes only
+constexpr int kShort = -1;          // no error: half of the bytes only
+constexpr int kDiskError = EUCLEAN; // of reads, too, which end the process
 inline constinit bool watching = false, mayGive = true;
 inline constinit int fault = 0, callsBeforeFault = -1;
 inline constinit const char* failedCall = "";
@@ -145,12 +146,12 @@ int openat(int directory, const char* name, int flags, ...) {
 }
 ssize_t read(int file, void* block, size_t size) {
     using namespace talux_test;
-    const bool endsProcess = fault != EINTR && fault != kShort;
+    const bool endsProcess = fault != EINTR && fault != kShort && fault != kDiskError;
     return !endsProcess && fails("read", {}, &size) ? -1 : next(&read, "read")(file, block, size);
 }
 ssize_t write(int file, const void* block, size_t size) {
     using namespace talux_test;
-    if (fails("write", "write", &size)) return -1;
+    if (fails("write", "write", &size)) return fault != EIO ? -1 : errno = 0; // or nothing is taken
     note("write", file, {}, {}, {static_cast<const char*>(block), size});
     return next(&write, "write")(file, block, size);
 }
