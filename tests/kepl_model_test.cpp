@@ -158,10 +158,11 @@ struct Speaker {
         if (kind < 18)
             return of("load|loading|load_ip|Load_Sec x") +
                    any({"", " ", " x.ini", "  a/b.ini c", " " + std::string(115, 'n') + times(9, 'n')});
-        return of("system|SYSTEM |systemx") + of(" |  echo a  b | cat /etc/.version| ls| CAT .version| "
-                                                 "cat.versio| talux-pondo| : fw_printenv|"
-                                                 " xfw_setenv y| backup.tgz| bck_appfs| talux-bcard31| echo "
-                                                 "/sys/class/gpio/gpio105/value| FW_SETENV");
+        return of("system|SYSTEM |systemx|systemfw_setenv") +
+               of(" |  echo a  b | cat /etc/.version| cat .version x| ls| CAT .version| "
+                  "cat.versio| talux-pondo| : fw_printenv|"
+                  " xfw_setenv y| backup.tgz| bck_appfs| talux-bcard31| echo "
+                  "/sys/class/gpio/gpio105/value| FW_SETENV");
     }
     std::string line() {
         std::string text = term();
@@ -274,6 +275,7 @@ TEST_F(KeplModel, AnswersLines) {
             const int board = round / 500 % 4;
             machine.board = Words{"armv5tejl", "armv7l", "armv7L", ""}[static_cast<std::size_t>(board)];
             interpreter.emplace(path);
+            VarInit(kNoDirectory); // its own path counts
             model.board = board < 2 ? board : -1;
             shake();
         }
