@@ -53,7 +53,8 @@ std::string transcriptOf(const Action& action) {
     return machine.errors;
 }
 
-constexpr const char* kZones[] = {"zone", "zone'", "-zone"};
+constexpr const char* kZones[] = {"zone", "zone'", "-zone",
+                                  "''''''''''''''''''''''''''''''''''''''''''''''''''''''''"};
 
 struct Network : OnMachine<> {
     static void SetUpTestSuite() {
@@ -210,7 +211,7 @@ TEST_F(Network, RunsTheCommandsOfEveryBranch) {
     for (std::size_t i = 0; i < quotes.size(); ++i)
         quoted += "'\\''";
     const std::string longest = "essid=" + quotes + "123456", tooLong = longest + "7";
-    const std::string longestQuoted = quoted + "123456'";
+    const std::string longestQuoted = quoted + "123456'", quotedZone = "TIMEZONE=" + quotes;
     const std::string longName = "/tmp/" + std::string(122, 'z'), longZone = "TIMEZONE=" + longName;
     const std::string usedLongName = ": used " + longName, longLink = "/tmp/zone" + std::string(160, '/');
     const std::string longestLink = "/" + std::string(1023, 'z');
@@ -256,6 +257,7 @@ TEST_F(Network, RunsTheCommandsOfEveryBranch) {
         {kZone, "TIMEZONE=/tmp/zone'|/tmp/zone'", {{"-s /tmp/zone", "-s '/tmp/zone'\\'''"}, {": /tmp/zone", ": /tmp/zone'"}}},
         {kZone, "TIMEZONE=-zone|-zone", {{"-s /tmp/zone", "-s -- -zone"}, {": /tmp/zone", ": -zone"}}}, // no option
         {kZone, "TIMEZONE=", {toUtc}, 1, {}, longestLink},
+        {kZone, quotedZone, {{"*", ": not run, 268 characters where 253 are allowed: rm -f /etc/localtime;ln -s %s%s /etc/localtime"}}},
         {kTime, "DCF77_activ=1|0", {{"echo*", ": DCF77 is enabled, not start NTP!"}}, 0},
         {kTime, "NTP2=000.000.000.000|10.0.0.2 NTP_RTC=0|1", {noServer2, noRtc}},
         {kTime, "NTP1=|10.0.0.1 DCF77_activ=2", {noServer1, {"-b 10.0.0.1", "-b 10.0.0.2"}}},
