@@ -534,6 +534,11 @@ TEST_F(Disk, FollowsLinksAlsoThoseThatDangle) {
         EXPECT_EQ(contents(directory / "sub/file"), fresh["parameter.ini"]);
         EXPECT_EQ(namesIn(directory / "sub"), (std::vector<std::string>{"file", "link"}));
     }
+    fs::create_symlink("plain", directory / "bare");
+    fs::current_path(directory);
+    EXPECT_EQ(VarSaveParamFile(std::string("bare").data()), 1);
+    fs::current_path("/");
+    EXPECT_EQ(contents(directory / "plain"), fresh["parameter.ini"]);
     // Only the kernel follows a link that is too long for a path together with the directory.
     std::string around;
     while (around.size() < 4085)
