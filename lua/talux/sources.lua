@@ -29,8 +29,7 @@ local function storedOf(line)
   local name, rest = line:match "^[ \t]*[Tt][Ll][Xx]_([^ =]*)(.*)$"
   local row = dictionary.row(name)
   if not row or not row.default then return end
-  local text = rest:match "^ *=+(.*)$" or rest:match "^ (.*)$"
-  if not text then return end
+  local text = rest:match "^ *=+(.*)$" or rest:sub(2) -- a name alone is that of an empty text
   if text:sub(1, 1) == '"' then text = text:match '^"([^"=]*)'
   else text = ("%s#"):format(text:match "^[^=\r]*"):gsub("//", "#"):match "^[^#;]*" end
   if row.length then return row.name, text:sub(1, sizes[row.kind] or 127) end
