@@ -212,7 +212,8 @@ case("a value that becomes another one is taken back", function()
     if name:find "^talux" then loaded[name], package.loaded[name] = module, nil end
   end
   local clock = {} -- at one look after the other
-  local bent = {["TLX_Uearth=41"] = "TLX_Uearth=42", ["TLX_Uearth=43"] = "TLX_Uearth=95", ["TLX_vBE 3=5"] = "TLX_vBE 97=5"}
+  local bent = {["TLX_Uearth=41"] = "TLX_Uearth=42", ["TLX_Uearth=43"] = "TLX_Uearth=95", ["TLX_vBE 3=5"] = "TLX_vBE 97=5",
+                save = ""}
   talux_command = function(line)
     return line:find "TLX_Time" and table.remove(clock, 1) or real((line:gsub("^[^,]*", bent)))
   end
@@ -227,6 +228,12 @@ case("a value that becomes another one is taken back", function()
   clock = {'"23:59:58"', '"00:00:03"', '"00:00:04"', '"00:00:05"', '"00:00:06"'}
   other.set("Time", "23:59:59")
   refused("Time = 12:00:00: NOT STORED (reads 00:00:05)", other.set, "Time", "12:00:00")
+  if isolated then
+    talux.save()
+    other.set("Uearth", 44)
+    refused("save: parameter.ini does not hold Uearth", other.save)
+    other.set("Uearth", before)
+  end
   talux_command = real
   for name, module in pairs(loaded) do package.loaded[name] = module end
   equal(talux.get "Uearth", before, "as before")
@@ -268,7 +275,7 @@ case("files: an error when they fail, silently too", function()
 end)
 
 case("what a file holds is what a load keeps of it", function()
-  local first, restored = talux.read "staged", {}
+  local first, restored = talux.read "staged", {["parameter.ini"] = "", ["sec_parameter.ini"] = "", ["ip_config.ini"] = ""}
   local pieces = {"=", "==", " = ", " ", '"', "a", "#", ";", "//", "\t", "ä", "7", "12.75", "-3", "1e2", "0x1F", "7,5", "5 6", "", "1e40", "\r", "\0"}
   for round = 1, isolated and 20 or 0 do
     local lines = {}
@@ -299,13 +306,26 @@ case("what a file holds is what a load keeps of it", function()
       end
     end
   end
-  for name, value in pairs(first) do restored[#restored + 1] = ("TLX_%s=%s\n"):format(name, type(value) == "string" and '"' .. value .. '"' or numbers.write(value)) end
+  for name, value in pairs(first) do
+    local file = talux.parameter(name).file
+    restored[file] = restored[file] .. ("TLX_%s=%s\n"):format(name, type(value) == "string" and '"' .. value .. '"' or numbers.write(value))
+  end
   if isolated then
-    assert(io.open("/random.ini", "w")):write(table.concat(restored)):close()
-    talux.load "random.ini"
+    os.execute "mkdir /some"
+    for file, text in pairs(restored) do
+      assert(io.open("/some/" .. file, "w")):write(text):close()
+      talux.load("some/" .. file)
+    end
     equal(#talux.differences(first, "staged"), 0, "restored")
-    os.execute "mkdir /one; mv /random.ini /one/parameter.ini"
-    equal(#talux.differences(first, "/one"), 0, "a folder with one of the files")
+    for _, rest in ipairs {"parameter.ini", "ip_config.ini", "sec_parameter.ini"} do -- one after the other goes
+      local held = talux.read "/some"
+      for name, value in pairs(first) do
+        local isThere = io.open("/some/" .. talux.parameter(name).file)
+        equal(held[name], isThere and value or nil, name)
+        if isThere then isThere:close() end
+      end
+      os.remove("/some/" .. rest)
+    end
   end
 end)
 
@@ -363,7 +383,7 @@ case("calls come on time, and those that are late are left out", function()
   talux.every(50, function(k)
     calls[#calls + 1] = k
     if k == 1 then talux_usleep(120000) end
-    return k < 8
+    if k >= 8 then return false end
   end)
   equal(uptime() - start >= 0.33, true, "seven periods")
   equal(calls[2] >= 4 and calls[#calls] >= 8, true, "the calls " .. table.concat(calls, " "))
