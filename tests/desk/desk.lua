@@ -24,8 +24,8 @@ talux.set("BE_Reset_Button", 1)
 await("the button does nothing", function() return talux.get "REL3" == 0 and talux.get "y_LED" % 2 == 0 end)
 assert(talux.get "BE_Reset_Button" == 0)
 
-for shown, kind in pairs {REL5 = "BA", BE5 = "BE", U1_prim = "MW"} do
-  local number = shown == "U1_prim" and 1 or 5
+for shown, kind in pairs {REL5 = "BA", BE5 = "BE", U1_prim = "MW", REL3 = "BAF"} do
+  local number = ({U1_prim = 1, REL3 = 28})[shown] or 5
   talux.set("OVR_" .. kind .. "_val", {[number] = 1})
   talux.set("OVR_" .. kind .. "_enable", 1)
   await("no override of " .. shown, function() return talux.get(shown) == 1 end)

@@ -48,7 +48,7 @@ constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kScA
     kAdmActive{"adm_active"};
 
 constexpr Setting<std::int32_t> kQuiCount{"qui_n"}, kCosCycle{"cos_cycle"};
-constexpr Setting<talux::Choice> kPrioList10{"prio_list_10"};
+constexpr Setting<talux::Choice> kPrioList1{"prio_list_1"}, kPrioList10{"prio_list_10"};
 constexpr Setting<talux::choice::BApol> kBApol2{"BApol2"}, kBApol6{"BApol6"}, kLEDpol10{"LEDpol10"};
 constexpr Setting<talux::choice::BEpol> kBEpol2{"BEpol2"};
 
@@ -84,8 +84,14 @@ constexpr Method kMethods[] = {
      [](const Cycle& cycle) { return value(cycle, "U0_250_abs") * std::sqrt(3.0) * 5; }},
     {"settable harmonic", kLong, "harm2_active", "harm2_Ice", 42, 0.1,
      [](const Cycle& cycle) { return value(cycle, "I0_f1_abs"); }},
+    {"settable harmonic, voltage", kLong, "harm2_active", "harm2_Umin", 42, 0.1,
+     [](const Cycle& cycle) { return value(cycle, "U0_f1_abs") * std::sqrt(3.0) * 5; }},
     {"admittance", kLong, "adm_active", "adm_I_min_1", 85, 0.06,
      [](const Cycle& cycle) { return value(cycle, "I0_f3_abs"); }},
+    {"admittance, voltage", kLong, "adm_active", "adm_U_min", 85, 0.06,
+     [](const Cycle& cycle) { return value(cycle, "U0_f3_abs") * std::sqrt(3.0) * 5; }},
+    {"any, threshold", kResonant, "qu2_active", "Uearth", 28, 0,
+     [](const Cycle& cycle) { return value(cycle, "U0_prim") * std::sqrt(3.0) * 5; }},
 };
 
 constexpr char kShortCircuit[] = "at 1 s short circuit L2 L3 950 A forward\nat 4 s fault cleared\n",
@@ -110,9 +116,20 @@ constexpr struct {
     {42, "harm2_active", "harm2_SigDur", "harm2_SigDur_LED", kLong},
     {85, "adm_active", "adm_T_hold", "adm_T_hold_LED", kLong},
     {57, "sc_active", "sc_SigDur", "sc_SigDur_LED", kShortCircuit},
+    {61, "sc_active", "sc_SigDur", "sc_SigDur_LED", kShortCircuit},
     {82, "freq_active", "freq_T_hold", "freq_T_hold_LED", kLowFrequency},
     {84, "freq_active", "freq_T_hold", "freq_T_hold_LED", kLowFrequency},
 };
+template <class Value>
+struct Later {
+    std::size_t function;
+    Setting<Value> setting;
+};
+constexpr Later<float> kDelays[] = {
+    {17, "Uearth_SigDel"}, {21, "Uearth_SigDel"}, {30, "DE_t"}, {34, "cos_SigDel"}, {36, "sin_SigDel"}, {38, "cos_sin_SigDel"},
+    {40, "harm1_SigDel"}, {42, "harm2_SigDel"}, {57, "sc_T_min_1"}, {61, "sc_T_min_2"}, {82, "freq_T_delay"}, {85, "adm_T_delay"}};
+constexpr Later<std::int32_t> kCycles[] = {{34, "cos_cycle"}, {36, "sin_cycle"}, {38, "cos_sin_cycle"}, {40, "harm1_cycle"},
+                                           {42, "harm2_cycle"}, {82, "freq_N_cycle"}, {85, "adm_N_cycles"}};
 // clang-format on
 
 std::string faultAt2(const char* network, const char* direction) {
@@ -198,6 +215,29 @@ TEST(DeskDetection, KeepsDurationsOfRelaysAndLeds) {
             shown += cycle.outputs.leds[9] ? kCycle : 0;
         EXPECT_NEAR(shown, 8, 0.05) << function;
         EXPECT_LT(bench.lasts(function), 5) << function;
+        const auto delay = [&, of = function, &in = network](const auto& settings, auto by) { // its own, too
+            for (const auto& each : settings)
+                if (each.function == of) {
+                    const double before = bench.begins(of);
+                    bench.set(each.setting, bench.settings()[each.setting] + by);
+                    bench.run(faultAt2(in, "forward"));
+                    EXPECT_NEAR(bench.begins(of) - before, 0.4, 0.03) << of;
+                }
+        };
+        delay(kDelays, 0.4F), delay(kCycles, 20);
+    }
+}
+
+TEST(DeskDetection, PrefersTheFirstPlaceOfThePriorityList) {
+    for (const bool isTransientFirst : {true, false}) { // sin finds the other direction, later
+        Bench bench;
+        bench.set(kSinActive, true);
+        bench.set(isTransientFirst ? kPrioList1 : kPrioList10, talux::Choice{2});
+        bench.set(isTransientFirst ? kPrioList10 : kPrioList1, talux::Choice{9});
+        bench.run("at 0 s transformer I1 reversed\n" + faultAt2(kIsolated, "forward"));
+        EXPECT_NEAR(bench.begins(26), 2, 0.001);
+        EXPECT_EQ(bench.begins(27), isTransientFirst ? -1 : bench.begins(37));
+        EXPECT_EQ(bench.lasts(26) > 1, isTransientFirst);
     }
 }
 

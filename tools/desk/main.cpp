@@ -102,7 +102,7 @@ int carryOut(const Options& options) {
     desk::Scenario scenario;
     if (!options.scenario.empty()) {
         std::ifstream file(options.scenario);
-        if (!file) return fail(options.scenario, errno);
+        if (!file || (file.peek(), file.bad())) return fail(options.scenario, errno); // bad: a folder
         scenario = desk::readScenario(file);
     }
     for (const std::string& fault : scenario.faults)
