@@ -250,6 +250,7 @@ case("elements, series and records come as tables", function()
     for k = 1, 32 do equal(read[k], 1 < k and k < 32 and values[k] or nil, name .. k) end
   end
   for _, tie in ipairs {1 + 2 ^ -24, 1 + 3 * 2 ^ -24} do talux.set("knu1", tie) end -- between two floats
+  talux.set("preBuff_dUo", 1.1e-40) -- of few digits
   talux.set("prio_list", {[1] = 4, [10] = 5})
   equal(talux.get("prio_list", 1, 10)[10] + talux.get("prio_list", 1), 9, "series")
   local record, members = talux.record "MESSrecord02", 0
