@@ -62,8 +62,8 @@ TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
     const std::pair<Result, const char*> refusals[] = {
         {threshold.stage(95), "Uearth = 95: VALUE TOO HIGH (1 to 90 %)"},
         {ratio.stage(0.09), "knu1 = 0.09: VALUE TOO LOW (0.1 to 90000)"},
-        {ratio.stage(0.0626), "knu1 = 0.062: VALUE TOO LOW (0.1 to 90000)"},
-        {ratio.stage(0.0628), "knu1 = 0.063: VALUE TOO LOW (0.1 to 90000)"},
+        {ratio.stage(0.0624), "knu1 = 0.062: VALUE TOO LOW (0.1 to 90000)"},
+        {ratio.stage(0.0626), "knu1 = 0.063: VALUE TOO LOW (0.1 to 90000)"},
         {limit.stage(-2LL), "BAF_cnt_val_dT1 = -2: VALUE TOO LOW (-1 to 100000)"},
         {limit.stage(1ULL << 63), "BAF_cnt_val_dT1 = ..: VALUE TOO HIGH (-1 to 100000)"},
         {threshold.stage(std::nan("")), "Uearth: NOT A NUMBER"},
