@@ -4,6 +4,7 @@
 #include <sha2.h>
 #include <sys/types.h> // for the next one
 
+#include "tools/talux/Search.h"
 #include "tools/talux/Show.h"
 
 namespace talux::tool {
@@ -14,14 +15,6 @@ struct Options {
     std::string source = "live", file;
     bool listing = false, shared = false;
 };
-
-File fileCalled(const std::string& name, const Context& context) {
-    if (name.empty()) return File::none;
-    for (const File file : kFiles)
-        if (fileName(file).starts_with(name)) return file;
-    context.fail("--file {}: is none of parameter.ini, sec_parameter.ini, ip_config.ini",
-                 "--file {}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini", printable(name));
-}
 
 // -0 is the same setting as 0.
 std::string withoutMinusZero(std::string form) {

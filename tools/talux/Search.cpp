@@ -61,6 +61,14 @@ Parameters search(const std::vector<std::string>& words) {
     return reference::chosen([&](const Parameter& parameter) { return holdsWords(parameter, words); });
 }
 
+File fileCalled(const std::string& name, const Context& context) {
+    if (name.empty()) return File::none;
+    for (const File file : kFiles)
+        if (fileName(file).starts_with(name)) return file;
+    context.fail("--file {}: is none of parameter.ini, sec_parameter.ini, ip_config.ini",
+                 "--file {}: weder parameter.ini noch sec_parameter.ini noch ip_config.ini", printable(name));
+}
+
 void Filter::addTo(Command& command) {
     command.option("--family", family,
                    {"only families whose name contains this, in English or German",
@@ -94,6 +102,7 @@ Parameters Filter::chosen(const Context& context) const {
     if (std::ranges::none_of(reference::parameters(),
                              [this](const Parameter& row) { return isOfFamily(row, family); }))
         context.fail("no family is named {}", "keine Familie heißt {}", printable(family));
+    const File only = fileCalled(file, context);
     const int methodNumber = reference::methodNamed(method);
     if (methodNumber < 0)
         context.fail("no method is named {}; there are {}", "kein Verfahren heißt {}; es gibt {}",
@@ -107,7 +116,7 @@ Parameters Filter::chosen(const Context& context) const {
         if (!method.empty() && !isOfMethod(row, methodNumber)) return false;
         if (individual && !isIndividual(row)) return false;
         if (noLimits && !hasNoLimits(row)) return false;
-        if (!file.empty() && !reference::fileName(row.file()).starts_with(file)) return false;
+        if (only != File::none && row.file() != only) return false;
         if (level != 0 && row.writeLevel() != level) return false;
         return words.empty() || holdsWords(row, words);
     });

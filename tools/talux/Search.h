@@ -10,6 +10,9 @@ namespace talux::tool {
 // one of theirs, a long one also at the end, as German compounds have it.
 Parameters search(const std::vector<std::string>& words);
 
+// The file whose name begins with this; none for an empty name. Throws CouldNot when there is no such file.
+File fileCalled(const std::string& name, const Context& context);
+
 // Which parameters a command is about.
 struct Filter {
     std::vector<std::string> names; // parts of names or patterns; any of them
@@ -22,7 +25,7 @@ struct Filter {
     bool noLimits = false;          // only settings whose numbers are not limited
 
     void addTo(Command& command);
-    // Throws CouldNot for a name, family or method that there is not.
+    // Throws CouldNot for a name, family, file or method that there is not.
     Parameters chosen(const Context& context) const;
     bool isEmpty() const { // chooses everything
         return names.empty() && words.empty() && family.empty() && method.empty() && file.empty() &&
