@@ -359,8 +359,8 @@ TEST_F(TaluxAddress, AGatewayGoesBackAlone) {
     const auto routes = [] { return network() + run("ip route show default").output; };
     for (const bool isConfirmed : {false, true}) {
         fs::remove(directory / "ip_config.ini"); // a device that has its factory addresses
-        start({"address", "ETH0_GATEWAY=192.168.55.9", "--yes", "--confirm", "60"});
-        EXPECT_TRUE(waitFor("applied; `talux confirm`"));
+        start({"address", "ETH0_GATEWAY=192.168.55.9", "--yes"});
+        EXPECT_TRUE(waitFor("applied; `talux confirm` within 120 s"));
         EXPECT_FALSE(fs::exists(directory / "ip_config.ini"));
         EXPECT_EQ(routes(), "192.168.55.127/16default via 192.168.55.9 dev eth0 \n");
         isConfirmed ? talux("confirm") : endGuard("TERM");
