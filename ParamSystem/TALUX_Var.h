@@ -330,8 +330,8 @@ TALUX_API int VarStaticIPWLAN0_INFRASTRUCTURE(void);
 // text with a line end, which is reported on the error stream).
 TALUX_API int VarDNS(void);
 
-// Links /etc/localtime to the zone file `TIMEZONE`, or to UTC when there is no such file; an empty `TIMEZONE` leaves
-// a /etc/localtime that is no link as it is. Returns 1.
+// Links /etc/localtime to the zone file `TIMEZONE`, or to UTC when there is no such file. An empty `TIMEZONE`
+// leaves a /etc/localtime that is no link as it is. Returns 1.
 TALUX_API int VarTIMEZONE(void);
 
 // Writes /tmp/ntp.conf, sets the clock once from a configured server and restarts the time service.
