@@ -15,7 +15,7 @@
 namespace talux_test {
 
 constexpr int kShort = -1;          // no error: half of the bytes only
-constexpr int kDiskError = EUCLEAN; // of reads, too, which end the process
+constexpr int kDiskError = EUCLEAN; // also of a read, after which the process goes on
 inline constinit bool watching = false, mayGive = true;
 inline constinit int fault = 0, callsBeforeFault = -1;
 inline constinit const char* failedCall = "";
@@ -151,7 +151,7 @@ ssize_t read(int file, void* block, size_t size) {
 }
 ssize_t write(int file, const void* block, size_t size) {
     using namespace talux_test;
-    if (fails("write", "write", &size)) return fault != EIO ? -1 : errno = 0; // or nothing is taken
+    if (fails("write", "write", &size)) return fault == EIO ? errno = 0 : -1; // a device that takes nothing
     note("write", file, {}, {}, {static_cast<const char*>(block), size});
     return next(&write, "write")(file, block, size);
 }

@@ -102,7 +102,8 @@ int carryOut(const Options& options) {
     desk::Scenario scenario;
     if (!options.scenario.empty()) {
         std::ifstream file(options.scenario);
-        if (!file || (file.peek(), file.bad())) return fail(options.scenario, errno); // bad: a folder
+        file.peek(); // a folder can be opened, but not read
+        if (file.fail()) return fail(options.scenario, errno);
         scenario = desk::readScenario(file);
     }
     for (const std::string& fault : scenario.faults)

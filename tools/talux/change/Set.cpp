@@ -42,15 +42,14 @@ Writes backwards(const Journal& journal) {
 } // namespace
 
 Status undo(Order& order, const Context& context) {
-    const bool isOpen = order.operand.empty() && os::exists(openAddress(context).c_str());
-    if (isOpen && !order.dryRun) {
+    const bool isWaiting = order.operand.empty() && os::exists(openAddress(context).c_str());
+    if (isWaiting && !order.dryRun) {
         const char* const question = context.say("Take the address back?", "Adresse zurücknehmen?");
         const bool isWanted = order.yes || isAgreed(question, context);
         return isWanted && takeAddressBack(true, context) ? kNothing : kFound;
     }
-    const std::string path = isOpen                  ? openAddress(context)
-                             : order.operand.empty() ? lastChange(context)
-                                                     : order.operand;
+    const std::string usual = isWaiting ? openAddress(context) : lastChange(context);
+    const std::string path = order.operand.empty() ? usual : order.operand;
     const auto journal = Journal::read(path, context);
     if (!journal)
         context.fail("{}: is not there: no change to take back",
