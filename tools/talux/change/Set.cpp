@@ -55,7 +55,7 @@ Status undo(Order& order, const Context& context) {
         context.fail("{}: is not there: no change to take back",
                      "{}: nicht da: keine Änderung zurückzunehmen", path);
     order.what = "undo " + journal->what;
-    order.mends = !journal->isDone;
+    order.mends = !journal->isDone && !os::exists(openAddress(context).c_str());
     if (journal->isDone) {
         demandUnchanged(*journal, context);
         order.appliesAll = journal->reach == Reach::applied;
