@@ -323,8 +323,19 @@ function talux.load_sec() loadFile("load_sec") end
 
 -- ---- Without loading ----
 
+-- A misspelled name would be passed over without a word.
+local function inDictionary(settings)
+  local found = {}
+  for name, value in pairs(settings) do
+    local row = dictionary.row(name)
+    if not row then error(("%s: %s"):format(tostring(name), dictionary.unknown(name)), 3) end
+    found[row.name] = value
+  end
+  return found
+end
+
 local function settingsOf(source)
-  if type(source) == "table" then return source end
+  if type(source) == "table" then return inDictionary(source) end
   local settings, reason = sources.read(tostring(source), read)
   return settings or error(reason, 3)
 end
@@ -335,7 +346,7 @@ end
 ---@return table<string, any>
 function talux.read(source) return (settingsOf(source)) end
 
----In which settings that both hold b differs from a: sources as read takes them, or tables of settings.
+---In which settings that both hold b differs from a: sources as read takes them, or tables of settings by name.
 ---@param a string|table<string, any>
 ---@param b string|table<string, any>
 ---@return talux.Change[]

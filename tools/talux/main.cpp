@@ -75,6 +75,7 @@ Status run(int argc, char** argv, Context& context) {
     std::shared_ptr<void> pages;
     try {
         const Command* const command = line.parse(argc, argv);
+        context.directory.erase(context.directory.find_last_not_of('/') + 1);
         if (command != nullptr && command->isPaged) pages = pager();
         const Status status = command == nullptr ? kNothing : command->run(context);
         if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
