@@ -57,6 +57,25 @@ std::string asText(std::integral auto number) {
     return std::to_string(number);
 }
 
+// A text for people with a gap "{}" for each of its pieces; another number of gaps does not compile.
+template <class... Pieces>
+class Pattern {
+public:
+    consteval Pattern(const char* given) : text(given) {
+        std::size_t gaps = 0;
+        for (std::string_view rest = given; rest.find("{}") != rest.npos; ++gaps)
+            rest.remove_prefix(rest.find("{}") + 2);
+        if (gaps != sizeof...(Pieces)) throw "a gap for each piece";
+    }
+    operator const char*() const { return text; }
+
+private:
+    const char* text;
+};
+// The pieces alone say how many there are.
+template <class... Pieces>
+using PatternFor = std::type_identity_t<Pattern<Pieces...>>;
+
 // What the person asked for besides the command.
 struct Context {
     ParamLanguage language = kEnglish;
@@ -69,12 +88,13 @@ struct Context {
     // The same with texts and numbers in its gaps "{}".
     template <class... Pieces>
     requires(sizeof...(Pieces) > 0) std::string
-        say(const char* english, const char* german, const Pieces&... pieces)
+        say(PatternFor<Pieces...> english, PatternFor<Pieces...> german, const Pieces&... pieces)
     const { return fill(say(english, german), {asText(pieces)...}); }
     // Ends the command with such a text.
     template <class... Pieces>
-    [[noreturn]] void fail(const char* english, const char* german, const Pieces&... pieces) const {
-        throw CouldNot(say(english, german, pieces...));
+    [[noreturn]] void fail(PatternFor<Pieces...> english, PatternFor<Pieces...> german,
+                           const Pieces&... pieces) const {
+        throw CouldNot(fill(say(english, german), {asText(pieces)...}));
     }
     // "1 setting", "3 settings": the words begin with a blank.
     std::string counted(std::integral auto count, Wording one, Wording several) const {

@@ -44,7 +44,8 @@ private:
     Judgement judgement;                       // of the present line
 
     template <class... Pieces>
-    void say(const char* code, const char* english, const char* german, const Pieces&... pieces) {
+    void say(const char* code, PatternFor<Pieces...> english, PatternFor<Pieces...> german,
+             const Pieces&... pieces) {
         judgement.findings.push_back({code, context.say(english, german, pieces...)});
     }
     void judgeLine(const Entry& entry);

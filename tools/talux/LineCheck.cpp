@@ -124,7 +124,7 @@ struct LineChecker {
         findings.push_back({position(), std::move(finding), isRefused});
     }
     template <class... Pieces>
-    void say(const char* english, const char* german, const Pieces&... pieces) {
+    void say(PatternFor<Pieces...> english, PatternFor<Pieces...> german, const Pieces&... pieces) {
         add(context.say(english, german, pieces...));
     }
     void refuse(std::string reason) {

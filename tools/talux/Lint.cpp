@@ -129,7 +129,8 @@ struct LuaLint {
     }
 
     template <class... Pieces>
-    void say(std::size_t k, const char* english, const char* german, const Pieces&... pieces) {
+    void say(std::size_t k, PatternFor<Pieces...> english, PatternFor<Pieces...> german,
+             const Pieces&... pieces) {
         findings.add(at(k).at, context.say(english, german, pieces...));
     }
 
