@@ -9,7 +9,7 @@ namespace talux::tool {
 namespace {
 
 struct Options {
-    std::string source = "default";
+    std::string source; // live to see what is changed, otherwise default
     Filter filter;
     std::string uses;
     bool families = false, methods = false;
@@ -86,6 +86,7 @@ Status run(Options& options, const Context& context) {
     if (options.families || options.methods) return printNames(options, context);
     const Parameters chosen = options.filter.chosen(context);
     const auto uses = usesOf(options.uses, context);
+    if (options.source.empty()) options.source = options.changed ? "live" : "default";
     const Source source = Source::open(options.source, context);
     Table table;
     Json all = Json::array();
@@ -114,8 +115,10 @@ void addList(CommandLine& line) {
                      {"parts of names, or patterns with * and ?", "Teile von Namen oder Muster mit * und ?"},
                      Need::optional);
     command.option("--of", options.source,
-                   {"whose values: default, live, staged, a file or a folder",
-                    "wessen Werte: default, live, staged, eine Datei oder ein Ordner"});
+                   {"whose values: default, live, staged, a file or a folder; if not given, live with --changed, "
+                    "else default",
+                    "wessen Werte: default, live, staged, eine Datei oder ein Ordner; sonst live mit --changed, "
+                    "default ohne"});
     command.flag("--families", options.families, {"the names of the families", "die Namen der Familien"});
     command.flag("--methods", options.methods,
                  {"the names of the detection methods", "die Namen der Erfassungsverfahren"});

@@ -133,7 +133,7 @@ struct Shell {
         return true;
     }
 
-    // False when the line was refused. Lines that begin with a hash mark are comments of scripts.
+    // False when the line was refused or failed. Lines that begin with a hash mark are comments of scripts.
     bool take(const std::string& line) try {
         const bool isHelpOnName = line.starts_with(kHelpWord) && line[kHelpWord.size()] == ' ';
         Order order;
@@ -171,7 +171,14 @@ struct Shell {
         if (result == kLineError) return refuse(error, findings);
         if (answer == std::string(tooLow) + terminator) return refuse(tooLow, findings);
         if (answer != std::string_view(terminator)) print(answer);
-        return true;
+        return !isFailure(answer);
+    }
+
+    // Of a load or a save.
+    static bool isFailure(std::string_view answer) {
+        return std::ranges::any_of(kepl::kCommands, [answer](const kepl::CommandRow& row) {
+            return *row.failure != '\0' && answer.starts_with(row.failure);
+        });
     }
 
     static void tell(const std::vector<LineFinding>& findings) {
@@ -207,7 +214,8 @@ void addShell(CommandLine& line) {
                    {"rights level, 0 to 3; 2 if not given", "Rechtestufe, 0 bis 3; sonst 2"}, 0, 3);
     command.flag(
         "--keep-going", options.keepGoing,
-        {"go on after a refused line of a pipe", "nach einer abgelehnten Zeile aus einer Pipe weitermachen"});
+        {"go on after a line of a pipe that is refused or fails",
+         "nach einer Zeile aus einer Pipe weitermachen, die abgelehnt wird oder scheitert"});
 }
 
 } // namespace talux::tool
