@@ -174,7 +174,12 @@ TEST_F(DeskReplay, FindsTheSamePhasorsHoweverChannelsAreDescribed) {
     const auto offset = [&](const char* unit) { return with({{"50\n1\n", "60\n1\n"}, {"kV,0.01,0", unit}}); };
     EXPECT_EQ(offset("kV,0.01,7").frequency, 60);
     EXPECT_NEAR(std::abs(offset("kV,0.01,7").voltage[2] - offset("V,10,7000").voltage[2]), 0, 1e-9);
+    const Sample secondary =
+        with({{"50\n1\n", "60\n1\n"}, {"kV,0.01,0", "kV,0.0001,0.07"}, {"1,1,P", "100,1,S"}});
+    EXPECT_NEAR(std::abs(offset("kV,0.01,7").voltage[2] - secondary.voltage[2]), 0, 1e-9);
     EXPECT_GT(std::abs(offset("kV,0.01,7").voltage[2] - offset("kV,0.01,0").voltage[2]), 0.01);
+    Sample none;
+    EXPECT_FALSE(openRecording(folder / "RECORD.CFG")(0.1835, none)) << "a cycle of 66.7 samples needs 67";
 }
 
 } // namespace
