@@ -2,9 +2,9 @@
 -- process, and many parameters are 32-bit floats.
 local numbers = {}
 
-local byte, find, floor, frexp, max = string.byte, string.find, math.floor, math.frexp, math.max
+local abs, byte, find, floor, frexp, max = math.abs, string.byte, string.find, math.floor, math.frexp, math.max
 
-local notFinite = {inf = 1 / 0, ["-inf"] = -1 / 0, nan = 0 / 0}
+local notFinite = {inf = 1 / 0, infinity = 1 / 0, nan = 0 / 0}
 
 ---The number that an answer of the language begins with.
 ---@param text string
@@ -13,7 +13,11 @@ function numbers.read(text)
   local value = tonumber(text)
   if value then return value end
   local point = ("%.1f"):format(0.5):match "0(.*)5"
-  return tonumber((text:gsub("%.", point))) or notFinite[text:match "^%S*"]
+  value = tonumber((text:gsub("%.", point)))
+  if value then return value end
+  local sign, name = text:lower():match "^%s*([-+]?)(%a+)%s*$"
+  value = notFinite[name]
+  return value and sign == "-" and -value or value
 end
 
 ---The text of a number with all its digits, or in another format.
@@ -36,7 +40,8 @@ function numbers.single(value)
   local low = floor(scaled)
   local rest = scaled - low
   if rest > 0.5 or rest == 0.5 and low % 2 == 1 then low = low + 1 end
-  return low * step
+  local nearest = low * step
+  return abs(nearest) < 2 ^ 128 and nearest or nearest / 0
 end
 
 ---The shortest number that is stored as this 32-bit float: 0.2 for 0.20000000298.
