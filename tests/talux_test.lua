@@ -19,8 +19,9 @@ local function refused(wanted, call, ...)
 end
 
 -- What a script may write, except clock and network.
-local writable, defaults = {}, {}
-for _, row in ipairs(rows) do
+local writable, defaults, places = {}, {}, {}
+for position, row in ipairs(rows) do
+  places[row.name] = position * 1000
   local kind = row.kind
   local twice = 7000 <= row.id and row.id <= 7006 -- ids with two names
   if row.level and kind ~= "interface address" and not kind:find "clock" and kind ~= "command" and not twice then
@@ -127,6 +128,12 @@ case("1,000 random tables are applied as a whole or refused as a whole", functio
     local good, found = pcall(talux.apply, settings)
     equal(good, not reason, reason or found)
     if reason then equal(found, reason, "reason") end
+    local last = 0
+    for _, change in ipairs(good and found or {}) do
+      local place = places[change.name] + (change.index or 0)
+      equal(place > last, true, "order of the menus: " .. change.name)
+      last = place
+    end
     for key, entry in pairs(wanted) do
       if not reason then model[key] = entry end
       if model[key] then equal(agrees(model[key]), true, "value of " .. key) end
@@ -280,7 +287,10 @@ case("files: an error when they fail, silently too", function()
   local good, reason = pcall(talux.set, "Time", late)
   equal(not good and reason:match "NOT STORED", "NOT STORED", "a clock that cannot be set")
   refused(("Date = 2024-02-29: NOT STORED (reads %s)"):format(talux.get "Date"), talux.set, "Date", "2024-02-29")
+  local zone = talux.get "TIMEZONE"
+  talux.set("TIMEZONE", ("long"):rep(20))
   for _, word in ipairs {"save", "save_sec", "save_ip", "load", "load_sec"} do talux[word]() end
+  talux.set("TIMEZONE", zone)
   os.execute "rm /parameter.ini /sec_parameter.ini; mkdir /parameter.ini; ln -s /dev/null /sec_parameter.ini"
   refused("save: error: can't save parameter", talux.save)
   refused("save_sec: sec_parameter.ini does not hold Firewall_dis", talux.save_sec)
@@ -288,7 +298,7 @@ end)
 
 case("what a file holds is what a load keeps of it", function()
   local first, restored = talux.read "staged", {["parameter.ini"] = "", ["sec_parameter.ini"] = "", ["ip_config.ini"] = ""}
-  local pieces = {"=", "==", " = ", " ", '"', "a", "#", ";", "//", "\t", "ä", "7", "12.75", "-3", "1e2", "0x1F", "7,5", "5 6", "inf", "-INF", "+Infinity", "NaN", "", "1e40", "\r", "\0"}
+  local pieces = {"=", "==", " = ", " ", '"', "a", "#", ";", "//", "\t", "ä", "7", "12.75", "-3", "1e2", "0x1F", "7,5", "5 6", "inf", "-INF", "+Infinity", "NaN", ("0"):rep(48), "", "1e40", "\r", "\0"}
   for round = 1, isolated and 20 or 0 do
     local lines = {}
     for k = 1, round == 1 and #rows or 300 do
