@@ -262,6 +262,14 @@ case("elements, series and records come as tables", function()
     written.vMWR[k], written.vBE[k], written.OVR_MW_val[k] = random() * 10 ^ random(-9, 8), random(-9, 9), 2 ^ random(-140, 29)
   end
   talux.apply(written)
+  for k, row in ipairs(writable) do -- its last element still comes before the first one of the next
+    local after = writable[k + 1]
+    if row.first and after and after.first then
+      local changes = talux.apply {[row.name] = {[row.last] = 7}, [after.name] = {[after.first] = 7}}
+      equal(changes[1].name .. changes[2].name, row.name .. after.name, "order")
+      talux.apply {[row.name] = {[row.last] = 0}, [after.name] = {[after.first] = 0}}
+    end
+  end
   for name, values in pairs(written) do
     local read = talux.get(name, 2, 31)
     for k = 1, 32 do equal(read[k], 1 < k and k < 32 and values[k] or nil, name .. k) end
