@@ -303,6 +303,12 @@ local function loadFile(word, file)
   if file and (type(file) ~= "string" or file == "" or file:find "[,%s%c]" or #word + #file > 126) then
     error(word .. ": no file name that a line can carry", 3)
   end
+  local found = file and io.open("/" .. file)
+  if found then -- a folder, too, which would end the process
+    local _, reason = found:read(0)
+    found:close()
+    if reason then error(("%s %s: %s"):format(word, file, reason), 3) end
+  end
   run(file and word .. " " .. file or word, 3)
 end
 
