@@ -279,8 +279,8 @@ TALUX_API int VarSaveParams(void);
 TALUX_API int VarSaveSecParams(void);
 // Commit, write ip_config.ini, raise IpParamChanged. 1 done, 0 failed.
 TALUX_API int VarSaveIPConfig(void);
-// Like the three, but a write that fails is no success: 0 when the file and its dated copy are certain to be
-// on the disk, else the errno of what failed.
+// Does what one of the three does, but also reports a write that fails: 0 when the file and its dated copy
+// are certain to be on the disk, else the errno of what failed.
 enum class SavedFile : int { parameters, security, addresses };
 TALUX_API int VarSaveError(SavedFile file);
 // Both parameter files with their dated copies as they are in the global space, then the address file.

@@ -19,7 +19,7 @@ namespace talux {
 
 class About {
 public:
-    // False when there is no such parameter; then only the bool may be asked for. Of names letter case is
+    // False when there is no such parameter; then call no other function of it. Letter case of names is
     // ignored.
     explicit About(int id) : row(id > 0 ? GetParamProperties(id) : nullptr) {}
     explicit About(const char* parameterName)
@@ -40,7 +40,7 @@ public:
     [[nodiscard]] bool is_writable() const { return !rules::isReadOnly(*row); }
     [[nodiscard]] int elements() const { return row->val_max_id; } // of an indexed parameter, else 0
 
-    // Rights that a write takes: 2 or 3; 1 of the one parameter that whoever may read may write.
+    // Rights level that a write needs: 2 or 3, and 1 for mw_req, which whoever may read may also write.
     [[nodiscard]] int level() const { return rules::levelToWrite(*row); }
 
     // What a write may set; nothing where there is no limit. Of texts the longest in characters.

@@ -36,7 +36,7 @@ public:
     }
 
     // Stages everything and makes it live, with whatever else is pending in the working copy. With a refusal
-    // nothing is staged, and the first one is the result.
+    // nothing is staged, and the first one is the result, also of a later call: make a new change.
     [[nodiscard]] Result commit() {
         if (refusalCount > 0) return refused[0];
         for (std::size_t k = 0; k < count; ++k)

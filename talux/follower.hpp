@@ -218,7 +218,7 @@ private:
 // longer while something else is pending can still be seen half.
 class Follower {
 public:
-    // A look every so many milliseconds while `wait` waits; at least 1. Waits up to half a second for
+    // `wait` compares every so many milliseconds, at least 1. The constructor waits up to half a second for
     // settled settings.
     explicit Follower(int periodMilliseconds = 10)
         : period(std::max(periodMilliseconds, 1) * std::int64_t{1000000}) {
@@ -234,8 +234,8 @@ public:
     [[nodiscard]] const Settings& before() const { return previous; }
     [[nodiscard]] Differences changes() const { return current.changes(previous); }
 
-    // One look, without waiting. True when other settings than the last ones are settled; `settings` then
-    // returns them.
+    // Compares once, without waiting. True when other settings than the last ones are settled; `settings`
+    // then returns them.
     [[nodiscard]] bool poll() {
         if (current.isLive()) {
             isWatching = false;
@@ -247,7 +247,7 @@ public:
         return true;
     }
 
-    // Looks again and again until other settings are settled, for at most `milliseconds`, also if signals
+    // Compares again and again until other settings are settled, for at most `milliseconds`, also if signals
     // arrive.
     [[nodiscard]] bool wait(int milliseconds) {
         const std::int64_t end = detail::monotonic() + std::int64_t{milliseconds} * 1000000;

@@ -15,7 +15,7 @@
 
 #if __cplusplus <= 201703L
 #error "talux/talux.hpp needs C++20: compile with -std=c++20, or use ParamSystem/TALUX_Var.h"
-#else // nothing but that is complained of
+#else // so that this is the only error
 
 #include "talux/change.hpp"
 #include "talux/group.hpp"
