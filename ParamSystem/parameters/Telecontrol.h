@@ -183,11 +183,14 @@ inline constexpr Note kTelecontrolNotes[] = {
             "dokumentiert. Mit der Leitstelle abstimmen und prüfen.",
             "1 or 2, passed on to the IEC 101 program; the meaning of the numbers is not documented. Agree "
             "it with the control centre and test."),
-    warning("T104_T{0..3}",
-            "Ganze Sekunden; ein Bruchteil fällt weg. Die Norm verlangt T2 < T1; geprüft wird das nicht.",
-            "Whole seconds; a fraction is cut off. The standard requires T2 < T1; nothing checks it."),
-    advice("T104_K T104_W", "Die Norm empfiehlt w höchstens zwei Drittel von k; geprüft wird das nicht.",
-           "The standard recommends a w of at most two thirds of k; nothing checks it."),
+    warning(
+        "T104_T{0..3}",
+        "Ganze Sekunden; ein Bruchteil fällt weg. Die Norm verlangt T2 < T1; beim Schreiben wird das nicht "
+        "geprüft.",
+        "Whole seconds; a fraction is cut off. The standard requires T2 < T1; a write does not check it."),
+    advice("T104_K T104_W",
+           "Die Norm empfiehlt w höchstens zwei Drittel von k; beim Schreiben wird das nicht geprüft.",
+           "The standard recommends a w of at most two thirds of k; a write does not check it."),
     unknown("T104_all_ip T104_all_ip_{1..4}", "Wen 0.0.0.0 (Werkswert) zulässt, ist nicht dokumentiert.",
             "Who is admitted with 0.0.0.0 (factory value) is not documented."),
     warning("T104_ethernet",

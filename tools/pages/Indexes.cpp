@@ -42,7 +42,7 @@ with its own id: `TLX_vBE 5`.
 | default | the factory setting; one value if all of a series have the same, otherwise each |
 | 1 to 90 | a write outside the range is refused. "no limits specified": anything from -999999999 to 999999999 is accepted. Run-time values are checked only if a range is shown |
 | choice 1 to 5 | choices **count from 1**. More is refused. "0 and below are **not refused**": such a number is stored all the same. A fraction is cut off in every choice |
-| bytes in a line | what a line of the language can write: of its 127 characters, prefix, name, `=` and quotes take some. An umlaut has two bytes. A longer text is **cut silently** (the store itself has room for 127 bytes of a text, 19 of an address and an identifier). "meant for" is the length that the device expects; nothing checks it |
+| bytes in a line | what a line of the language can write: of its 127 characters, prefix, name, `=` and quotes take some. An umlaut has two bytes. A longer text is **cut silently** (the store itself has room for 127 bytes of a text, 19 of an address and an identifier). "meant for" is the length that the device expects; neither the language nor a load checks it |
 | `parameter.ini`, `sec_parameter.ini`, `ip_config.ini` | the [file](../files.md) in which the setting is saved |
 | run-time value | measured value, state, process image: live at once, in no file, zero after power-up |
 | write: level 2 | the rights level that a write needs. Scripts and the entry functions have level 3 |
