@@ -5,7 +5,7 @@
 #include "MenuSystem/TALUX_StringTokenizer.h"
 #include "ParamSystem/TALUX_Types.h"
 
-// Longest line and longest term, in characters.
+// Longest line and longest term, in bytes.
 inline constexpr int kKeplMaxLine = 254;
 inline constexpr int kKeplMaxTerm = 127;
 // Bytes of the message buffer passed to ProcessCommand.
