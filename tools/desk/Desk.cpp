@@ -51,8 +51,8 @@ void Desk::restart() {
     downUntil = time + 1;
 }
 
-void Desk::replay(const std::string& path) {
-    recording = openRecording(script.folder / path);
+void Desk::replay(const std::shared_ptr<Recording>& given) {
+    recording = given;
     recordingSince = time;
 }
 
@@ -76,7 +76,7 @@ bool Desk::step(const talux::Settings& settings, const Overrides& overrides, Cyc
     network.advance(kCycle);
     cycle.second = time;
     Sample sample;
-    if (!recording || !recording(time - recordingSince, sample)) {
+    if (!recording || !(*recording)(time - recordingSince, sample)) {
         recording = nullptr;
         sample = network.look();
     }

@@ -40,7 +40,7 @@ public:
     void restrike(const EarthFault& fault, double every, double during); // until it is cleared
     void clear();
     void restart();
-    void replay(const std::string& path);
+    void replay(const std::shared_ptr<Recording>& given);
     void rotate(bool isReversed) { network.wiring.rotationReversed = isReversed; }
     void setFrequency(double hertz) { network.grid.frequency = hertz; }
     void setLoad(double ampere) { network.load.ampere = ampere; }
@@ -60,7 +60,7 @@ private:
     std::int32_t count = 0;
     bool ended = false, isForward = true;
     std::optional<Restriking> restriking;
-    Recording recording; // while it is replayed
+    std::shared_ptr<Recording> recording; // while it is replayed
     double recordingSince = 0;
 
     void strikeAgain();

@@ -1,5 +1,7 @@
 #include "tools/desk/Replay.h"
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <optional>
 
@@ -97,10 +99,8 @@ private:
 };
 
 Recording openCsv(const std::string& path) {
-    return [rows = CsvFile(path).rows, current = std::size_t{0}](double second, Sample& sample) mutable {
-        while (current + 1 < rows.size() && rows[current + 1].second <= second)
-            ++current;
-        sample = rows[current].sample;
+    return [rows = CsvFile(path).rows](double second, Sample& sample) {
+        sample = std::prev(std::ranges::upper_bound(rows, second, {}, &Row::second))->sample;
         return second <= rows.back().second + 1;
     };
 }

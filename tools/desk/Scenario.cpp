@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <memory>
 #include <span>
 #include <string_view>
 
@@ -36,7 +37,8 @@ struct Range {
 // The words of a line, taken from left to right.
 class Words {
 public:
-    explicit Words(std::string_view text) : words(wordsOf(text)) {}
+    Words(std::string_view text, const std::filesystem::path& folderOfFiles)
+        : words(wordsOf(text)), folder(folderOfFiles) {}
 
     [[nodiscard]] bool empty() const { return next == words.size(); }
     [[nodiscard]] std::string peek() const { return empty() ? "the end of the line" : words[next]; }
@@ -78,9 +80,13 @@ public:
     bool isSecond(const std::string& what, std::string_view first, std::string_view second) {
         return oneOf(what, {first, second}) == 1;
     }
+    std::shared_ptr<Recording> recording() {
+        return std::make_shared<Recording>(openRecording(folder / take("the file")));
+    }
 
 private:
     std::vector<std::string> words;
+    const std::filesystem::path& folder;
     std::size_t next = 0;
 
     static std::string shortest(double number) {
@@ -240,7 +246,7 @@ constexpr struct {
     {"frequency", [](Words& words) { return with(&Desk::setFrequency, words.number(kFrequency)); }},
     {"load", [](Words& words) { return with(&Desk::setLoad, words.number(kLoad)); }},
     {"restart", [](Words&) -> Event { return &Desk::restart; }},
-    {"replay", [](Words& words) { return with(&Desk::replay, words.take("the file")); }},
+    {"replay", [](Words& words) { return with(&Desk::replay, words.recording()); }},
     {"end", [](Words&) -> Event { return &Desk::end; }},
 };
 
@@ -252,8 +258,8 @@ TimedEvent readEvent(Words& words) {
                 talux::list(kStatements, ", ", [](const auto& each) { return each.begins; })};
 }
 
-void readLine(std::string_view text, Scenario& scenario) {
-    Words words(text);
+void readLine(std::string_view text, Scenario& scenario, const std::filesystem::path& folder) {
+    Words words(text, folder);
     if (words.empty()) return;
     if (words.takeIf("network"))
         readNetwork(words, scenario.grid);
@@ -268,14 +274,16 @@ void readLine(std::string_view text, Scenario& scenario) {
 
 } // namespace
 
-Scenario readScenario(std::istream& from) {
+Scenario readScenario(std::istream& from, const std::filesystem::path& folder) {
     Scenario result;
     std::string text;
     for (int line = 1; std::getline(from, text); ++line) {
         try {
-            readLine(text, result);
+            readLine(text, result, folder);
         } catch (const Wrong& wrong) {
             result.faults.push_back(std::to_string(line) + ": " + wrong.text);
+        } catch (const ReplayFault& fault) {
+            result.faults.push_back(std::to_string(line) + ": " + fault.what());
         }
     }
     std::ranges::stable_sort(result.events, {}, &TimedEvent::second);

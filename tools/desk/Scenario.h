@@ -25,10 +25,10 @@ struct Scenario {
     Load load;
     std::vector<TimedEvent> events;  // in the order of time
     std::vector<std::string> faults; // lines that cannot be understood, and what is expected: "3: .."
-    std::filesystem::path folder;    // that recordings are relative to
 };
 
-Scenario readScenario(std::istream& from);
+// Opens the recordings, too, whose names are relative to the folder.
+Scenario readScenario(std::istream& from, const std::filesystem::path& folder = {});
 
 } // namespace desk
 

@@ -26,12 +26,9 @@ struct Options {
 
 volatile std::sig_atomic_t stopRequested = 0;
 
-int fail(const std::string& text) {
-    std::cerr << "talux-desk: " << text << '\n';
-    return 2;
-}
 int fail(const std::string& path, int error) {
-    return fail(path + ": " + std::strerror(error));
+    std::cerr << "talux-desk: " << path << ": " << std::strerror(error) << '\n';
+    return 2;
 }
 
 // Without a store, with the factory settings, as fast as it can.
@@ -104,13 +101,12 @@ int carryOut(const Options& options) {
         std::ifstream file(options.scenario);
         file.peek(); // a folder can be opened, but not read
         if (file.fail()) return fail(options.scenario, errno);
-        scenario = desk::readScenario(file);
+        scenario = desk::readScenario(file, std::filesystem::path(options.scenario).parent_path());
     }
     for (const std::string& fault : scenario.faults)
         std::cerr << options.scenario << ':' << fault << '\n';
     if (!scenario.faults.empty()) return 1;
     if (options.check) return 0;
-    scenario.folder = std::filesystem::path(options.scenario).parent_path();
     return options.plot.empty() ? run(scenario, options) : plot(scenario, options);
 }
 
@@ -180,9 +176,5 @@ int main(int argc, char** argv) {
     argp_parse(&kParser, argc, argv, 0, nullptr, &options);
     std::signal(SIGTERM, [](int) { stopRequested = 1; });
     std::signal(SIGINT, [](int) { stopRequested = 1; });
-    try {
-        return carryOut(options);
-    } catch (const desk::ReplayFault& fault) {
-        return fail(fault.what());
-    }
+    return carryOut(options);
 }
