@@ -60,12 +60,12 @@ local function elements(row, first, last)
   return values
 end
 
--- The same of a series; nil and the reason where a member is missing.
+-- The same of a series; nil, the reason and the name where a member is missing.
 local function series(name, first, last)
   local values = {}
   for k = first, last do
     local row = dictionary.rowInSeries(name, k)
-    if not row then return nil, dictionary.unknown(name .. tostring(k)) end
+    if not row then return nil, dictionary.unknown(name .. tostring(k)), name .. tostring(k) end
     values[k] = read("TLX_" .. row.name)
   end
   return values
@@ -103,15 +103,15 @@ function talux.get(name, first, last)
     local answer = command(line)
     return tonumber(answer) or valueOf(answer)
   end
-  local value, reason
+  local value, reason, missing
   if first then
-    value, reason = range(name, first, last or first)
+    value, reason, missing = range(name, first, last or first)
     if value and not last then value = value[first] end
   else
     value = type(name) == "string" and find(name, "^[%w_]+$") and read("TLX_" .. name) or nil
     if value then queries[name] = "TLX_" .. name else reason = whyNot(name) end
   end
-  if value == nil then error(("%s: %s"):format(tostring(name), reason), 2) end
+  if value == nil then error(("%s: %s"):format(missing or tostring(name), reason), 2) end
   return value
 end
 
