@@ -91,7 +91,7 @@ private:
 
     static std::string shortest(double number) {
         char text[32];
-        return {text, std::to_chars(text, text + sizeof text, number).ptr};
+        return {text, std::to_chars(text, text + sizeof text, number, std::chars_format::fixed).ptr};
     }
 };
 
