@@ -114,11 +114,12 @@ void addList(CommandLine& line) {
     command.argument({"FILTER", "FILTER"}, options.filter.names,
                      {"parts of names, or patterns with * and ?", "Teile von Namen oder Muster mit * und ?"},
                      Need::optional);
-    command.option("--of", options.source,
-                   {"whose values: default, live, staged, a file or a folder; if not given, live with --changed, "
-                    "else default",
-                    "wessen Werte: default, live, staged, eine Datei oder ein Ordner; sonst live mit --changed, "
-                    "default ohne"});
+    command.option(
+        "--of", options.source,
+        {"whose values: default, live, staged, a file or a folder; if not given, live with --changed, "
+         "else default",
+         "wessen Werte: default, live, staged, eine Datei oder ein Ordner; sonst live mit --changed, "
+         "default ohne"});
     command.flag("--families", options.families, {"the names of the families", "die Namen der Familien"});
     command.flag("--methods", options.methods,
                  {"the names of the detection methods", "die Namen der Erfassungsverfahren"});

@@ -212,10 +212,9 @@ void addShell(CommandLine& line) {
                                               "Befehlssprache mit Ergänzung, Verlauf und Hilfe"});
     command.option("--level", options.level,
                    {"rights level, 0 to 3; 2 if not given", "Rechtestufe, 0 bis 3; sonst 2"}, 0, 3);
-    command.flag(
-        "--keep-going", options.keepGoing,
-        {"go on after a line of a pipe that is refused or fails",
-         "nach einer Zeile aus einer Pipe weitermachen, die abgelehnt wird oder scheitert"});
+    command.flag("--keep-going", options.keepGoing,
+                 {"go on after a line of a pipe that is refused or fails",
+                  "nach einer Zeile aus einer Pipe weitermachen, die abgelehnt wird oder scheitert"});
 }
 
 } // namespace talux::tool
