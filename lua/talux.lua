@@ -292,9 +292,13 @@ local function run(line, level)
   if not answer then error(("%s: %s"):format(line, refusal), level + 1) end
 end
 
+-- By what follows "save" and "load" in the word.
+local usualFiles = {[""] = "parameter.ini", _sec = "sec_parameter.ini", _ip = "ip_config.ini"}
+
 -- A write that fails is answered as done, so this checks whether the file holds the settings as they are now.
-local function save(word, name)
+local function save(word)
   run(word, 3)
+  local name = usualFiles[word:sub(5)]
   local lost = files.lost(name)
   if lost then error(("%s: %s does not hold %s"):format(word, name, lost), 3) end
 end
@@ -303,22 +307,23 @@ local function loadFile(word, file)
   if file and (type(file) ~= "string" or file == "" or file:find "[,%s%c]" or #word + #file > 126) then
     error(word .. ": no file name that a line can carry", 3)
   end
-  local found = file and io.open("/" .. file)
+  local line = file and word .. " " .. file or word
+  local found = io.open("/" .. (file or usualFiles[word:sub(5)]))
   if found then -- a folder, too, which would end the process
     local _, reason = found:read(0)
     found:close()
-    if reason then error(("%s %s: %s"):format(word, file, reason), 3) end
+    if reason then error(("%s: %s"):format(line, reason), 3) end
   end
-  run(file and word .. " " .. file or word, 3)
+  run(line, 3)
 end
 
 ---Makes pending settings live: everybody's, not only this script's.
 function talux.update() run("update", 2) end
 
 ---Makes pending settings live and saves them to parameter.ini, sec_parameter.ini or ip_config.ini.
-function talux.save() save("save", "parameter.ini") end
-function talux.save_sec() save("save_sec", "sec_parameter.ini") end
-function talux.save_ip() save("save_ip", "ip_config.ini") end
+function talux.save() save "save" end
+function talux.save_sec() save "save_sec" end
+function talux.save_ip() save "save_ip" end
 
 ---Loads a file of the parameter directory and makes it live; without a name the usual one.
 ---@param file? string

@@ -302,6 +302,7 @@ case("files: an error when they fail, silently too", function()
   os.execute "rm /parameter.ini /sec_parameter.ini; mkdir /parameter.ini; ln -s /dev/null /sec_parameter.ini"
   refused("save: error: can't save parameter", talux.save)
   refused("load parameter.ini: Is a directory", talux.load, "parameter.ini")
+  refused("load: Is a directory", talux.load)
   refused("save_sec: sec_parameter.ini does not hold Firewall_dis", talux.save_sec)
 end)
 
