@@ -68,9 +68,9 @@ public:
         return text(kTextUnit, language);
     }
 
-    // A choice, counted from 1.
+    // A choice, counted from 1; empty where there is none of this number.
     [[nodiscard]] std::string_view choice(int number, ParamLanguage language = kEnglish) const {
-        return text(kTextItem, language, number);
+        return number < 1 ? std::string_view() : text(kTextItem, language, number);
     }
 
 private:

@@ -251,6 +251,8 @@ TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
                         known.is_setting() == (row.use != table::Use::measured))
                 << row.name;
         }
+    for (const int number : {-1, 0, 1, 128, 129})
+        EXPECT_EQ(About(relays[2]).choice(number).empty(), number < 1 || number > 128) << number;
     EXPECT_TRUE(About("TIMEZONE").default_text() == "/usr/share/zoneinfo/UTC" &&
                 About("Name").longest() == 40 && About("Uearth").default_number() == 30);
     EXPECT_TRUE(About("mw_req").is_writable() && About("mw_req").level() == 1);
