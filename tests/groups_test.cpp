@@ -212,7 +212,7 @@ TEST_F(Groups, SayWhichWriteTheyReadAndHowOldItIs) {
     for (auto* each = slots; each != slots + detail::kGroupSlots; ++each)
         if (std::strcmp(each->name, "fresh") == 0) each->sequence = 0xFFFFFFFE;
     shmdt(slots);
-    EXPECT_TRUE(fresh.write(1)) << "the counter turns";
+    EXPECT_TRUE(fresh.write(1) && fresh.wait(last, -1)) << "the counter turns";
     last = fresh.read(value);
     EXPECT_EQ(last.number(), 2U) << "0 means that nobody has written";
 
@@ -238,13 +238,19 @@ TEST_F(Groups, HaveOneMeaningPerName) {
         return Group(name, parts...).attachment();
     };
     EXPECT_EQ(attachment("other", kFirst), Attachment::attached);
-    EXPECT_EQ(attachment("group", kFirst), Attachment::otherElements);
+    const auto doubles = Measured<double>{"vMWR"}.run<96>();
+    EXPECT_EQ(attachment("group", doubles, Stumble{}, kFirst.run<92>(), Record<MessRecord01>{}),
+              Attachment::otherElements);
     EXPECT_EQ(Group("group", kFirst).read(value), Reading::detached);
     EXPECT_FALSE(Group("group", kFirst).write(1) || Group("group", kFirst).wait(Reading::detached, 1));
     for (const std::size_t bytes : {0U, 1U, 54U, 55U, 56U, 57U})
         EXPECT_EQ(attachment(std::string(bytes, 'x'), kFirst),
                   bytes < 1 || bytes > 55 ? Attachment::wrongName : Attachment::attached)
             << bytes;
+    EXPECT_EQ(Group("", kFirst).read(value), Reading::detached);
+    const Group longest(std::string(55, 'x'), kFirst);
+    EXPECT_EQ(attachment(std::string(55, 'x'), kFirst.run<2>()), Attachment::otherElements);
+    EXPECT_EQ(attachment(std::string(54, 'x') + 'y', kFirst.run<2>()), Attachment::attached);
     EXPECT_EQ(attachment(std::string(3, '\0'), kFirst), Attachment::wrongName);
     auto early = std::make_unique<Group<Measured<float>>>("early", kFirst);
     start([&] { // a child has not counted it; what it gave back would be taken back at its end
@@ -264,7 +270,7 @@ TEST_F(Groups, AreTakenAgainWhenNobodyUsesThem) {
     float value = 0;
     {
         const Group before("release", kFirst);
-        std::ignore = before.write(1);
+        EXPECT_TRUE(Group("release", kFirst).write(1)) << "whose end leaves it to the other";
         EXPECT_EQ(Group("release", kFirst.run<2>()).attachment(), Attachment::otherElements);
         EXPECT_EQ(before.read(value), Reading::whole);
     }

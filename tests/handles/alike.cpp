@@ -158,7 +158,11 @@ void shareGroup() {
     std::array<float, 3> values;
     int none;
     const Reading::State state = group.read(values, none);
-    std::printf("torn %d, busy %d, second writer %d\n", torn, state == Reading::busy, group.write({}, 0));
+    const std::int64_t start = detail::monotonic();
+    const bool hasWaited = !group.write({}, 0) && detail::monotonic() - start >= 100000000;
+    const bool isWoken = group.wait(Reading::busy, 9000) && detail::monotonic() - start < 5000000000;
+    std::printf("torn %d, busy %d, second writer %d, woken %d, fresh %d\n", torn, state == Reading::busy,
+                hasWaited, isWoken, group.read(values, none).age() < 9);
 }
 
 void makeGroups() {
@@ -192,7 +196,7 @@ void addRow(const stParamProperties* row) {
 }
 void lookUp() {
     LoadDefParamProperties();
-    for (int id = 0; id <= 22000; ++id)
+    for (int id = 0; id <= 90000; ++id)
         addRow(GetParamProperties(id));
     for (int position = 0; position <= 3000; ++position) {
         const stParamProperties* const row = GetParamPropertiesByOrder(position);
