@@ -49,19 +49,19 @@ TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
 
     EXPECT_TRUE(threshold.stage(35) && ratio.stage(0.1f) && quotient.stage(0.9f) && quotient.stage(0.999f) &&
                 channel.stage(7) && active.stage(true) && language.stage(choice::Language::kGerman) &&
-                skew.stage(Choice{2}) && name.stage(Text("Süd 1")) && mark.stage("B:") &&
+                skew.stage(Choice{2}) && name.stage(Text("Süd 1")) && mark.stage("Ä:ß") &&
                 address.stage("10.0.0.7"));
     const auto read = [] {
         return say("TLX_Uearth") + say("TLX_channel") + say("TLX_qui_active") + say("TLX_Language") +
                say("TLX_skew_type") + say("TLX_Name") + say("TLX_Kenn") + say("TLX_ETH0_IP");
     };
-    const std::string staged = "35.000000711.0000002.000000\"Süd 1\"\"B:\"\"10.0.0.7\"";
+    const std::string staged = "35.000000711.0000002.000000\"Süd 1\"\"Ä:ß\"\"10.0.0.7\"";
     EXPECT_EQ(read(), staged);
     const auto isPending = [](auto each, auto value) {
         return each.staged() == value && !(each.live() == value);
     };
     EXPECT_TRUE(isPending(channel, 7) && isPending(skew, Choice{2}) && isPending(name, "Süd 1") &&
-                isPending(mark, "B:") && isPending(address, "10.0.0.7"));
+                isPending(mark, "Ä:ß") && isPending(address, "10.0.0.7"));
 
     const std::pair<Result, const char*> refusals[] = {
         {threshold.stage(95), "Uearth = 95: VALUE TOO HIGH (1 to 90 %)"},
@@ -91,8 +91,7 @@ TEST_F(Handles, StageSettingsAndNothingThatIsRefused) {
         EXPECT_FALSE(Result(reason).text().empty()) << static_cast<int>(reason);
 
     store.commit();
-    EXPECT_EQ(threshold.live(), 35.0f);
-    EXPECT_EQ(name.live(), "Süd 1");
+    EXPECT_TRUE(threshold.live() == 35 && name.live() == "Süd 1" && name.stage("") && name.staged().empty());
     EXPECT_EQ(language.live(), choice::Language::kGerman);
 }
 
@@ -230,7 +229,6 @@ TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
     EXPECT_TRUE(relays[2].stage(choice::BAassign{1}) && !relays[2].stage(choice::BAassign{129}));
 
     LoadDefParamStrings();
-    std::set<std::string> found;
     std::multiset<int> seen, expected;
     for (const ParamLanguage language : {kGerman, kEnglish}) {
         VarSetEnumValue(10000, static_cast<short>(language));
@@ -242,11 +240,9 @@ TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
                 const std::string_view known = GetParamString(parameter.id(), type)->txt;
                 EXPECT_EQ(text, known == "***" ? "" : known) << parameter.name() << ' ' << type;
             }
-            if (!parameter.unit(language).empty()) found.emplace(parameter.name());
         }
         EXPECT_EQ(About("Language").choice(1, language), language == kGerman ? "Deutsch" : "German");
     }
-    EXPECT_GT(found.size(), 200U);
     for (const table::Row& row : table::kRows) {
         for (int k = 0; k < std::max<int>(row.elements, 1); ++k)
             expected.insert({row.id + k, row.id + k}); // in both languages
@@ -258,7 +254,7 @@ TEST_F(Handles, TheDictionarySaysWhatIsKnownOfEachParameter) {
         EXPECT_TRUE(about.elements() == row.elements && about.is_setting() == isSetting &&
                     (isText ? about.default_text() == reinterpret_cast<const char*>(value)
                             : about.longest() == 0 && std::abs(about.default_number() - value[0]) < 1e-4) &&
-                    (row.kind >= table::Kind::flag || !isSetting ||
+                    (row.kind >= table::Kind::flag || (row.kind >= table::Kind::i32 && !isSetting) ||
                      (about.min().value_or(kNoMin) == row.min && about.max().value_or(kNoMax) == row.max)))
             << row.name;
     }
@@ -378,6 +374,9 @@ TEST_F(Followers, SeeWhatChangedAndOnlyThat) {
                 now[kAddress] == "10.1.2.3");
     ASSERT_TRUE(Change().stage(kChannel, 8).commit() && !follower.wait(-1) && follower.wait(-1)) << "twice";
     EXPECT_TRUE(follower.before()[kChannel] == 7 && (*follower.changes().begin()).id() == kChannel.id());
+    const std::clock_t busy = std::clock();
+    EXPECT_FALSE(Follower(0).wait(100));
+    EXPECT_LT(std::clock() - busy, CLOCKS_PER_SEC / 40) << "which rests between its looks";
     std::signal(SIGALRM, [](int) {});
     ualarm(5000, 0);
     const std::int64_t before = detail::monotonic();

@@ -123,7 +123,7 @@ void move(int turns) {
             moveValue(table::kRows[below(std::size(table::kRows))]);
         moveRecord<MessRecord01>(), moveRecord<MessRecord02>(), moveRecord<StatRecord_c0>();
         if (below(4) == 0) STORE(VarSetDefault)();
-        if (below(2) == 0) STORE(VarUpdateGlobalSpace)();
+        if (below(2) == 0) std::printf("committed %d\n", STORE(VarUpdateGlobalSpace)());
         addSettings();
         std::printf("%d: %08x\n", turn, print);
     }
@@ -195,7 +195,7 @@ void addRow(const stParamProperties* row) {
     if (row != nullptr) add(&row->id, sizeof row->id);
 }
 void lookUp() {
-    LoadDefParamProperties();
+    std::printf("loaded %d\n", STORE(LoadDefParamProperties)());
     for (int id = 0; id <= 90000; ++id)
         addRow(GetParamProperties(id));
     for (int position = 0; position <= 3000; ++position) {
@@ -207,7 +207,7 @@ void lookUp() {
         addRow(GetParamPropertiesByName(name.data()));
     }
     addRow(GetParamPropertiesByName(nullptr));
-    for (const char* name : {"Uearth", "Name", "conman_status", "nosuch", ""})
+    for (const char* name : {"Uearth", "Name", "vMWR", "conman_status", "nosuch", ""})
         std::printf("%s %d\n", name, idOf(name));
     std::printf("rows %08x\n", print);
 }
