@@ -70,13 +70,13 @@ public:
 
     // A choice, counted from 1; empty where there is none of this number.
     [[nodiscard]] std::string_view choice(int number, ParamLanguage language = kEnglish) const {
-        return number < 1 ? std::string_view() : text(kTextItem, language, number);
+        return text(kTextItem, language, number);
     }
 
 private:
     const stParamProperties* row;
 
-    [[nodiscard]] std::string_view text(int kind, int language, int item = -1) const {
+    [[nodiscard]] std::string_view text(int kind, int language, std::optional<int> item = {}) const {
         const std::string_view own = detail::textOf(*row, kind, language, item);
         return own.data() != nullptr ? own : detail::textOf(*row, kind, kEnglish, item);
     }

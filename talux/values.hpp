@@ -3,6 +3,7 @@
 #define TALUX_VALUES_HPP
 
 #include <cstring>
+#include <optional>
 #include <string_view>
 
 #include "ParamSystem/TALUX_ParamStrings.h"
@@ -180,11 +181,12 @@ constexpr std::string_view nameOf(char uncarried) {
 }
 
 // A text of a parameter, or of the template whose texts it shares; empty when it has none.
-inline std::string_view textOf(const stParamProperties& row, int type, int language, int item = -1) {
+inline std::string_view textOf(const stParamProperties& row, int type, int language,
+                               std::optional<int> item = {}) {
     for (const int id : {row.id, row.id_template})
         for (const stParamText* text = DefParamText + 1; id != 0 && text->id != 0; ++text)
             if (text->id == id && text->type == type && text->language == language &&
-                (item == -1 || (text->id_group == 0 && text->id_item == item)))
+                (!item || (text->id_group == 0 && text->id_item == *item)))
                 return text->txt;
     return {};
 }

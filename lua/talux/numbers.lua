@@ -6,7 +6,7 @@ local abs, byte, find, floor, frexp, max = math.abs, string.byte, string.find, m
 
 local notFinite = {inf = 1 / 0, infinity = 1 / 0, nan = 0 / 0}
 
----The number that an answer of the language begins with.
+---The number that an answer of the language or a value in a file is.
 ---@param text string
 ---@return number?
 function numbers.read(text)
@@ -41,7 +41,7 @@ function numbers.single(value)
   local rest = scaled - low
   if rest > 0.5 or rest == 0.5 and low % 2 == 1 then low = low + 1 end
   local nearest = low * step
-  return abs(nearest) < 2 ^ 128 and nearest or nearest / 0
+  return abs(nearest) < 2 ^ 128 and nearest or nearest / 0 -- infinite beyond the range
 end
 
 ---The shortest number that is stored as this 32-bit float: 0.2 for 0.20000000298.

@@ -19,7 +19,7 @@ local function storedNumber(row, text)
   local value = #text <= 49 and not word:find "," and not word:find "%s$" and numbers.read(word)
   if not value or row.kind == "double" then return value or nil end
   if not slot then return numbers.shortest(numbers.single(value)) end
-  if value ~= value then return 0 end
+  if value ~= value then return 0 end -- not a number
   value = math.min(math.max(value, slot[1]), slot[2])
   return (value - math.fmod(value, 1) + slot[4]) % slot[3] - slot[4]
 end

@@ -49,7 +49,7 @@ constexpr Setting<talux::choice::BAassign> kLEDassign10{"LEDassign10"}, kBAassig
 constexpr Setting<bool> kCosActive{"cos_active"}, kSinActive{"sin_active"}, kScActive{"sc_active"},
     kScDirActive{"sc_dir_active"}, kScEActive{"sc_class_E_active"}, kFreqActive{"freq_active"};
 
-constexpr Setting<std::int32_t> kQuiCount{"qui_n"}, kCosCycle{"cos_cycle"}, kNone{"channel"};
+constexpr Setting<std::int32_t> kQuiCount{"qui_n"}, kCosCycle{"cos_cycle"}, kNoCycles{"channel"};
 constexpr Setting<talux::Choice> kPrioList1{"prio_list_1"}, kPrioList10{"prio_list_10"};
 constexpr Setting<talux::choice::BApol> kBApol2{"BApol2"}, kBApol6{"BApol6"}, kLEDpol10{"LEDpol10"};
 constexpr Setting<talux::choice::BEpol> kBEpol2{"BEpol2"};
@@ -125,7 +125,7 @@ constexpr struct {
 constexpr struct { std::size_t function; Setting<float> delay; Setting<std::int32_t> cycles; double later = 0.7; } kDelays[] = {
     {34, "cos_SigDel", "cos_cycle"}, {36, "sin_SigDel", "sin_cycle"}, {38, "cos_sin_SigDel", "cos_sin_cycle"}, {82, "freq_T_delay", "freq_N_cycle"},
     {40, "harm1_SigDel", "harm1_cycle"}, {42, "harm2_SigDel", "harm2_cycle"}, {85, "adm_T_delay", "adm_N_cycles"},
-    {17, "Uearth_SigDel", kNone, 0.3}, {21, "Uearth_SigDel", kNone, 0.3}, {30, "DE_t", kNone, 0.3}, {57, "sc_T_min_1", kNone, 0.3}, {61, "sc_T_min_2", kNone, 0.3}};
+    {17, "Uearth_SigDel", kNoCycles, 0.3}, {21, "Uearth_SigDel", kNoCycles, 0.3}, {30, "DE_t", kNoCycles, 0.3}, {57, "sc_T_min_1", kNoCycles, 0.3}, {61, "sc_T_min_2", kNoCycles, 0.3}};
 // The ranges of angles: for which function, what turns the angle, and by how much.
 constexpr struct { Setting<bool> active; Setting<float> from, to; std::size_t function; const char* direction; talux::Measured<float> angle; double turned; } kRanges[] = {
     {"cos_sin_active", "CosSin_angle1", "CosSin_angle2", 38, "forward", "phiUI0", 180},

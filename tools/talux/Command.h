@@ -72,7 +72,7 @@ public:
 private:
     const char* text;
 };
-// The pieces alone say how many there are.
+// As a parameter: the pieces are deduced from the other arguments, not from the text.
 template <class... Pieces>
 using PatternFor = std::type_identity_t<Pattern<Pieces...>>;
 

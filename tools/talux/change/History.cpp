@@ -81,16 +81,19 @@ Status history(const Options& options, const Context& context) {
     return kNothing;
 }
 
+// By the calendar: a day may have 23 or 25 hours.
+std::string yesterday() {
+    std::tm time{};
+    os::localTime(time);
+    --time.tm_mday, time.tm_hour = 12, time.tm_isdst = -1;
+    std::mktime(&time);
+    return timeText(time, "%Y-%m-%d");
+}
+
 // Up to which moment copies count: "yesterday", "2026-11-20", "2026-11-20 14:30", "-3" for the third last.
 std::string momentFor(const std::string& when, const Context& context) {
     constexpr char kAfterAll[] = "~";
-    std::tm time{};
-    if (when == "yesterday" || when == "gestern") { // a day may have 23 or 25 hours
-        os::localTime(time);
-        --time.tm_mday, time.tm_hour = 12, time.tm_isdst = -1;
-        std::mktime(&time);
-        return timeText(time, "%Y-%m-%d") + kAfterAll;
-    }
+    if (when == "yesterday" || when == "gestern") return yesterday() + kAfterAll;
     if (when.starts_with('-')) {
         const auto copies = copiesOf(File::normal, context);
         const std::size_t back = std::strtoul(when.c_str() + 1, nullptr, 10);
@@ -101,6 +104,7 @@ std::string momentFor(const std::string& when, const Context& context) {
     }
     // As far as it goes; %Y is two characters shorter than a year.
     const std::string format = std::string("%Y-%m-%d %H:%M:%S").substr(0, when.size() - 2);
+    std::tm time{};
     time.tm_isdst = -1;
     if (strptime(when.c_str(), format.c_str(), &time) == nullptr ||
         localTimeText(std::mktime(&time), format.c_str()) != when)

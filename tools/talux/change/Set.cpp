@@ -42,7 +42,8 @@ Writes backwards(const Journal& journal) {
 } // namespace
 
 Status undo(Order& order, const Context& context) {
-    const bool isWaiting = order.operand.empty() && os::exists(openAddress(context).c_str());
+    const bool hasOpenAddress = os::exists(openAddress(context).c_str());
+    const bool isWaiting = order.operand.empty() && hasOpenAddress;
     if (isWaiting && !order.dryRun) {
         const char* const question = context.say("Take the address back?", "Adresse zurücknehmen?");
         const bool isWanted = order.yes || isAgreed(question, context);
@@ -55,7 +56,7 @@ Status undo(Order& order, const Context& context) {
         context.fail("{}: is not there: no change to take back",
                      "{}: nicht da: keine Änderung zurückzunehmen", path);
     order.what = "undo " + journal->what;
-    order.mends = !journal->isDone && !os::exists(openAddress(context).c_str());
+    order.mends = !journal->isDone && !hasOpenAddress;
     if (journal->isDone) {
         demandUnchanged(*journal, context);
         order.appliesAll = journal->reach == Reach::applied;
